@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CutPlan.h"
+
+#include <numeric>
+
+namespace host {
+
+namespace {
+
+/// What follows the label at the position, counted from 0, of so many.
+LabelEnd labelEnd(const CutSettings &settings, std::size_t position, std::size_t count)
+{
+    LabelEnd end;
+    if (settings.specialTape)
+        return end;
+    const bool last = position + 1 == count;
+    const bool turn = (position + 1) % static_cast<std::size_t>(settings.labelsPerCut) == 0;
+    if (last)
+        end.fullCut = (settings.automaticCut || settings.cutAtEnd) && !settings.chainPrint;
+    else
+        end.fullCut = settings.automaticCut && turn;
+    end.halfCut = settings.halfCut && !end.fullCut && !last;
+    end.cutMark = settings.cutMark && !end.fullCut;
+    end.held = settings.chainPrint && last;
+    return end;
+}
+
+PlannedLabel plannedLabel(const CutSettings &settings, int page, const LabelExtent &extent)
+{
+    PlannedLabel label{page, extent.length, 0.0, {}};
+    if (settings.removeBlank && !extent.whollyBlank) {
+        label.trimmedBefore = extent.leadingBlank;
+        label.length -= extent.leadingBlank + extent.trailingBlank;
+    }
+    return label;
+}
+
+std::vector<Piece> piecesOf(const std::vector<PlannedLabel> &labels)
+{
+    std::vector<Piece> pieces;
+    bool begin = true;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        if (begin)
+            pieces.push_back({i, 0, 0.0, false});
+        Piece &piece = pieces.back();
+        ++piece.labelCount;
+        piece.length += labels[i].length;
+        piece.held = labels[i].end.held;
+        begin = labels[i].end.fullCut;
+    }
+    return pieces;
+}
+
+} // namespace
+
+CutPlan CutPlan::make(const CutSettings &settings, std::span<const int> pagesInOrder,
+                      std::span<const LabelExtent> extents, std::optional<double> leadingMargin)
+{
+    CutPlan plan;
+    plan.m_settings = settings;
+    plan.m_leadingMargin = leadingMargin;
+    plan.m_labels.reserve(pagesInOrder.size());
+    for (std::size_t i = 0; i < pagesInOrder.size(); ++i) {
+        const int page = pagesInOrder[i];
+        PlannedLabel label = plannedLabel(settings, page, extents[static_cast<std::size_t>(page)]);
+        label.end = labelEnd(settings, i, pagesInOrder.size());
+        plan.m_labels.push_back(label);
+    }
+    plan.m_pieces = piecesOf(plan.m_labels);
+    return plan;
+}
+
+double CutPlan::stripLength() const
+{
+    return std::accumulate(m_labels.begin(), m_labels.end(), 0.0,
+                           [](double sum, const PlannedLabel &label) { return sum + label.length; });
+}
+
+} // namespace host

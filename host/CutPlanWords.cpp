@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CutPlanWords.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::CutPlan)
+};
+
+bool any(const CutPlan &plan, bool LabelEnd::*what)
+{
+    return std::ranges::any_of(plan.labels(), [what](const PlannedLabel &label) { return label.end.*what; });
+}
+
+QString fullCutSentence(const CutPlan &plan)
+{
+    const CutSettings &settings = plan.settings();
+    if (!any(plan, &LabelEnd::fullCut))
+        return Text::tr("No full cut: the labels come out as one strip.");
+    if (!settings.automaticCut)
+        return Text::tr("Full cut after the last label.");
+    if (settings.labelsPerCut == 1)
+        return Text::tr("Full cut after every label.");
+    return Text::tr("Full cut after every %1 labels.").arg(QLocale().toString(settings.labelsPerCut));
+}
+
+/// Lengths are exact to the hundredth of a millimetre, more would be noise of the conversion from points.
+double rounded(double millimetres)
+{
+    return std::round(millimetres * 100.0) / 100.0;
+}
+
+QJsonObject labelJson(const PlannedLabel &label)
+{
+    QJsonArray after;
+    const std::pair<bool, const char *> ends[] = {{label.end.fullCut, "full cut"},
+                                                  {label.end.halfCut, "half cut"},
+                                                  {label.end.cutMark, "cut mark"},
+                                                  {label.end.held, "held"}};
+    for (const auto &[happens, name] : ends) {
+        if (happens)
+            after.append(QLatin1String(name));
+    }
+    return {{"page", label.page + 1}, {"length", rounded(label.length)}, {"after", after}};
+}
+
+} // namespace
+
+QString lengthInWords(double millimetres)
+{
+    const QLocale locale;
+    QString number = locale.toString(millimetres, 'f', 1);
+    const QString wholeTail = locale.decimalPoint() + locale.zeroDigit();
+    if (number.endsWith(wholeTail))
+        number.chop(wholeTail.size());
+    return Text::tr("%1 mm", "a length").arg(number);
+}
+
+QString cutPlanFigures(const CutPlan &plan)
+{
+    const QLocale locale;
+    return Text::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
+        .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
+             locale.toString(static_cast<qulonglong>(plan.pieces().size())), lengthInWords(plan.tapeUsed()));
+}
+
+QStringList cutPlanSentences(const CutPlan &plan)
+{
+    if (plan.labels().empty())
+        return {Text::tr("Nothing is printed.")};
+    QStringList sentences;
+    if (plan.settings().specialTape)
+        sentences.append(Text::tr("Special tape: the printer cuts nothing."));
+    else
+        sentences.append(fullCutSentence(plan));
+    if (any(plan, &LabelEnd::halfCut))
+        sentences.append(Text::tr("Half cut between the labels of a piece."));
+    if (any(plan, &LabelEnd::cutMark))
+        sentences.append(Text::tr("Printed marks where nothing is cut through."));
+    if (plan.isEndHeld())
+        sentences.append(
+            Text::tr("The end stays in the printer; the next job goes on from it without a margin."));
+    if (plan.settings().removeBlank)
+        sentences.append(Text::tr("Blank tape before and after each label is left out."));
+    if (plan.settings().mirror)
+        sentences.append(Text::tr("The labels are mirrored."));
+    return sentences;
+}
+
+QJsonObject cutPlanJson(const CutPlan &plan)
+{
+    QJsonArray labels;
+    for (const PlannedLabel &label : plan.labels())
+        labels.append(labelJson(label));
+    QJsonArray pieces;
+    for (const Piece &piece : plan.pieces()) {
+        pieces.append(QJsonObject{{"firstLabel", static_cast<qint64>(piece.firstLabel) + 1},
+                                  {"labels", static_cast<qint64>(piece.labelCount)},
+                                  {"length", rounded(piece.length)},
+                                  {"held", piece.held}});
+    }
+    const std::optional<double> &margin = plan.leadingMargin();
+    return {{"labels", labels},
+            {"pieces", pieces},
+            {"leadingMargin", margin ? QJsonValue(rounded(*margin)) : QJsonValue()},
+            {"tapeUsed", rounded(plan.tapeUsed())}};
+}
+
+} // namespace host

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CutSettings.h"
+
+#include <utility>
+
+namespace host {
+
+namespace {
+
+std::optional<QString> effectiveChoice(const PpdFile &ppd, const RecordedChoices &recorded,
+                                       const QString &keyword)
+{
+    if (std::optional<QString> choice = recorded.choice(keyword))
+        return choice;
+    if (std::optional<QString> choice = ppd.markedChoice(keyword))
+        return choice;
+    return ppd.defaultChoice(keyword);
+}
+
+/// The choices of a switch stand in the order off, on, whatever they are called.
+bool isOn(const PpdFile &ppd, const RecordedChoices &recorded, const char *keyword)
+{
+    const QString name = QLatin1String(keyword);
+    const std::optional<QString> choice = effectiveChoice(ppd, recorded, name);
+    if (!choice)
+        return false;
+    const std::optional<int> index = ppd.choiceIndex(name, *choice);
+    return index ? *index == 1 : *choice == QStringLiteral("ON");
+}
+
+constexpr std::pair<const char *, bool CutSettings::*> switches[] = {
+    {"KvAutoTapeCut", &CutSettings::automaticCut},
+    {"KvCutAtEnd", &CutSettings::cutAtEnd},
+    {"KvHalfCut", &CutSettings::halfCut},
+    {"KvChainPrint", &CutSettings::chainPrint},
+    {"KvSpecialTape", &CutSettings::specialTape},
+    {"KvMirror", &CutSettings::mirror},
+    {"KvRemoveBlkSpace", &CutSettings::removeBlank},
+    {"KvCutMark", &CutSettings::cutMark},
+};
+
+} // namespace
+
+CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &recorded)
+{
+    CutSettings settings;
+    for (const auto &[keyword, field] : switches)
+        settings.*field = isOn(ppd, recorded, keyword);
+    const std::optional<QString> count = effectiveChoice(ppd, recorded, QStringLiteral("KvCutLabel"));
+    settings.labelsPerCut = qMax(1, count.value_or(QString()).toInt());
+    return settings;
+}
+
+} // namespace host

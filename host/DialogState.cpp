@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DialogState.h"
+
+#include "PanelHost.h"
+
+#include <platform/NotificationCenter.h>
+
+namespace host {
+
+const QString DialogState::ticketKey = QStringLiteral("com.tarvick.print.PrintSettingsTicket.LxE5");
+const QString DialogState::paperDidChange = QStringLiteral("PMPrintDestinationPaperDidChangeNotification");
+
+DialogState::DialogState(PpdFile ppd)
+    : m_ppd(std::move(ppd))
+{
+}
+
+DialogState::~DialogState() = default;
+
+void DialogState::setTicket(const std::optional<QString> &text)
+{
+    if (text)
+        m_settings.setValue(ticketKey, text->toUtf8());
+    else
+        m_settings.remove(ticketKey);
+}
+
+void DialogState::postPaperDidChange() const
+{
+    platform::NotificationCenter::defaultCenter().post(paperDidChange);
+}
+
+void DialogState::changeOption(const std::optional<QString> &keyword, const std::optional<QString> &choice,
+                               const PanelHost *origin)
+{
+    if (keyword && choice) {
+        m_ppd.mark(*keyword, *choice);
+        if (m_hasSettings)
+            m_recorded.record(*keyword, *choice);
+    }
+    // A panel may answer with a change of its own, so the list is walked as it was.
+    const std::vector<PanelHost *> hosts = m_panelHosts;
+    for (PanelHost *const host : hosts) {
+        if (host != origin)
+            host->tellPanels(keyword, choice);
+    }
+}
+
+} // namespace host

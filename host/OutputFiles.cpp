@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OutputFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <filesystem>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::VirtualPrinter)
+};
+
+} // namespace
+
+OutputFiles::OutputFiles(QString folder)
+    : m_folder(std::move(folder))
+{
+    makeFolder();
+}
+
+OutputFiles::~OutputFiles()
+{
+    if (m_done || m_madeFolder.isEmpty())
+        return;
+    m_files.clear();
+    // Upwards from the innermost; a folder that somebody else has put something in stays.
+    QString folder = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
+    while (QDir().rmdir(folder) && folder != m_madeFolder)
+        folder = QFileInfo(folder).path();
+}
+
+void OutputFiles::makeFolder()
+{
+    QString missing = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
+    if (QFileInfo::exists(missing)) {
+        if (!QFileInfo(missing).isDir())
+            fail(OutputFailure::NoFolder, m_folder, Text::tr("it is not a folder"));
+        return;
+    }
+    while (!QFileInfo::exists(QFileInfo(missing).path()))
+        missing = QFileInfo(missing).path();
+    m_madeFolder = missing;
+    std::error_code reason;
+    std::filesystem::create_directories(QFile::encodeName(m_folder).toStdString(), reason);
+    if (reason)
+        fail(OutputFailure::NoFolder, m_folder,
+             Text::tr("the folder cannot be made: %1").arg(qt_error_string(reason.value())));
+}
+
+void OutputFiles::fail(OutputFailure kind, const QString &path, const QString &reason)
+{
+    if (!m_error)
+        m_error = OutputError{kind, Text::tr("Cannot write \"%1\": %2").arg(path, reason)};
+}
+
+void OutputFiles::write(const QString &name, const std::function<bool(QIODevice *)> &writer)
+{
+    if (m_error)
+        return;
+    auto file = std::make_unique<QSaveFile>(m_folder + u'/' + name);
+    if (!file->open(QIODevice::WriteOnly) || !writer(file.get()) || file->error() != QFileDevice::NoError ||
+        !file->flush())
+        fail(OutputFailure::NotWritten, file->fileName(), file->errorString());
+    m_files.push_back(std::move(file));
+}
+
+std::optional<OutputError> OutputFiles::commit()
+{
+    QStringList placed;
+    for (const std::unique_ptr<QSaveFile> &file : m_files) {
+        if (m_error)
+            break;
+        if (QFileInfo(file->fileName()).isDir())
+            fail(OutputFailure::NotWritten, file->fileName(), Text::tr("it is a folder"));
+        else if (!file->commit())
+            fail(OutputFailure::NotWritten, file->fileName(), file->errorString());
+        else
+            placed.append(file->fileName());
+    }
+    m_done = !m_error;
+    if (m_error) {
+        for (const QString &path : placed)
+            QFile::remove(path);
+    }
+    m_files.clear();
+    return m_error;
+}
+
+} // namespace host

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PanelHost.h"
+
+namespace host {
+
+PanelHost::PanelHost(std::shared_ptr<DialogState> state)
+    : m_state(std::move(state))
+{
+    m_state->m_panelHosts.push_back(this);
+}
+
+PanelHost::~PanelHost()
+{
+    std::erase(m_state->m_panelHosts, this);
+}
+
+void PanelHost::setPanels(const PDEPanelList &panels)
+{
+    m_panels.assign(panels.begin(), panels.end());
+}
+
+void PanelHost::tellPanels(const std::optional<QString> &keyword, const std::optional<QString> &choice)
+{
+    for (const std::weak_ptr<PDEPanel> &panel : m_panels) {
+        if (const std::shared_ptr<PDEPanel> alive = panel.lock())
+            alive->PPDOptionKeyValueDidChange(keyword, choice);
+    }
+}
+
+void PanelHost::setWillChangeHook(std::function<void(const QString &, const std::optional<QString> &)> hook)
+{
+    m_willChange = std::move(hook);
+}
+
+void PanelHost::willChangePPDOptionKeyValue(const QString &key, const std::optional<QString> &choice)
+{
+    if (m_willChange)
+        m_willChange(key, choice);
+    if (!choice)
+        return;
+    m_state->changeOption(key, choice, this);
+    if (m_didChange)
+        m_didChange();
+}
+
+void PanelHost::panelViewDidResize()
+{
+    if (m_didResize)
+        m_didResize();
+}
+
+} // namespace host

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PpdSource.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::PpdFile)
+};
+
+PpdError failure(PpdFailure kind, const QString &path, const QString &reason)
+{
+    return {kind, Text::tr("Cannot open the PPD file \"%1\": %2").arg(path, reason)};
+}
+
+PpdError failureAtLine(PpdFailure kind, const QString &path, int line, const QString &reason)
+{
+    return failure(kind, path, Text::tr("line %1: %2").arg(line).arg(reason));
+}
+
+PpdError systemFailure(const QString &path, int error)
+{
+    const PpdFailure kind =
+        error == ENOENT || error == ENOTDIR ? PpdFailure::Missing : PpdFailure::Unreadable;
+    return failure(kind, path, qt_error_string(error));
+}
+
+QString tooLarge(qint64 limit)
+{
+    return Text::tr("it is larger than %1 MB, more than any printer's description")
+        .arg(limit / (qint64{1024} * 1024));
+}
+
+PpdError damaged(const QString &path)
+{
+    return failure(PpdFailure::Truncated, path,
+                   Text::tr("it is damaged or incomplete: it cannot be unpacked to its end"));
+}
+
+/// The length of the text that a gzip file says it holds, in its last four bytes; nothing for a plain file.
+std::optional<quint32> gzipLength(int descriptor, off_t size)
+{
+    std::array<unsigned char, 4> bytes = {};
+    if (size < 18 || pread(descriptor, bytes.data(), 2, 0) != 2 || bytes[0] != 0x1f || bytes[1] != 0x8b)
+        return std::nullopt;
+    if (pread(descriptor, bytes.data(), bytes.size(), size - 4) != 4)
+        return std::nullopt;
+    return quint32{bytes[0]} | quint32{bytes[1]} << 8 | quint32{bytes[2]} << 16 | quint32{bytes[3]} << 24;
+}
+
+} // namespace
+
+PpdSource::PpdSource(QString path, cups_file_t *file)
+    : m_path(std::move(path))
+    , m_file(file)
+{
+}
+
+Result<PpdSource, PpdError> PpdSource::open(const QString &path, qint64 largestText)
+{
+    // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
+    if (descriptor < 0)
+        return systemFailure(path, errno);
+    PpdSource source(path, cupsFileOpenFd(descriptor, "r"));
+    if (!source.m_file) {
+        ::close(descriptor);
+        return failure(PpdFailure::Unreadable, path, qt_error_string(errno));
+    }
+    if (const std::optional<PpdError> error = source.check(largestText, descriptor))
+        return *error;
+    return source;
+}
+
+std::optional<PpdError> PpdSource::check(qint64 largestText, int descriptor)
+{
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0)
+        return systemFailure(m_path, errno);
+    if (!S_ISREG(status.st_mode))
+        return failure(PpdFailure::NotAFile, m_path, Text::tr("it is not a file"));
+    if (status.st_size > largestText)
+        return failure(PpdFailure::TooLarge, m_path, tooLarge(largestText));
+    if (status.st_size == 0)
+        return failure(PpdFailure::NotAPpd, m_path, Text::tr("it is empty"));
+
+    const Result<qint64, PpdError> length = readThrough(largestText);
+    if (!length)
+        return length.error();
+    const std::optional<quint32> announced = gzipLength(descriptor, status.st_size);
+    if (announced && *announced != static_cast<quint32>(length.value()))
+        return damaged(m_path);
+    if (cupsFileRewind(m_file.get()) != 0)
+        return systemFailure(m_path, errno);
+    return std::nullopt;
+}
+
+Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)
+{
+    std::vector<char> piece(65536);
+    qint64 length = 0;
+    ssize_t read = 0;
+    // libcups answers -1 both for the end of a file and for a stream that cannot be unpacked.
+    errno = 0;
+    while ((read = cupsFileRead(m_file.get(), piece.data(), piece.size())) > 0) {
+        m_text.add({piece.data(), static_cast<std::size_t>(read)});
+        length += read;
+        if (length > largestText)
+            return failure(PpdFailure::TooLarge, m_path, tooLarge(largestText));
+    }
+    if (read < 0 && errno != 0)
+        return damaged(m_path);
+    m_text.finish();
+    return length;
+}
+
+Result<PpdHandle, PpdError> PpdSource::parse()
+{
+    PpdHandle ppd(ppdOpen2(m_file.get()));
+    if (!ppd) {
+        int line = 0;
+        const ppd_status_t status = ppdLastError(&line);
+        return failureAtLine(PpdFailure::NotAPpd, m_path, line, QString::fromUtf8(ppdErrorString(status)));
+    }
+    // After libcups, whose reason says more when the file is no PPD at all.
+    if (m_text.isInsideValue())
+        return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
+                             Text::tr("it ends in the middle of a value; the file is incomplete"));
+    if (m_text.isInsideOption())
+        return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
+                             Text::tr("it ends in the middle of an option; the file is incomplete"));
+    return ppd;
+}
+
+} // namespace host

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PpdText.h"
+
+namespace host {
+
+namespace {
+
+/// libcups refuses lines that are longer than this before their value.
+constexpr std::size_t longestHead = 255;
+
+} // namespace
+
+void PpdText::add(std::string_view piece)
+{
+    for (const char character : piece)
+        addCharacter(character);
+}
+
+void PpdText::finish()
+{
+    if (!m_quoted)
+        endLine();
+}
+
+void PpdText::addCharacter(char character)
+{
+    // Lines end in LF, CR or both, as the computer had it that wrote the file.
+    const bool secondHalf = character == '\n' && m_previous == '\r';
+    m_previous = character;
+    if (secondHalf)
+        return;
+    if (character == '\n' || character == '\r') {
+        ++m_line;
+        // A quoted value may run over many lines.
+        if (!m_quoted)
+            endLine();
+        return;
+    }
+    if (m_colon)
+        m_quoted = m_quoted != (character == '"');
+    else if (character == ':' && !m_head.starts_with("*%"))
+        m_colon = true;
+    else if (m_head.size() < longestHead)
+        m_head += character;
+}
+
+void PpdText::endLine()
+{
+    if (m_head.starts_with("*OpenUI") || m_head.starts_with("*JCLOpenUI"))
+        m_insideOption = true;
+    else if (m_head.starts_with("*CloseUI") || m_head.starts_with("*JCLCloseUI"))
+        m_insideOption = false;
+    else if (m_colon)
+        m_translations.addStatement(m_head);
+    m_head.clear();
+    m_colon = false;
+}
+
+} // namespace host

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "PpdTranslations.h"
+
+#include <string>
+#include <string_view>
+
+namespace host {
+
+/// Follows the text of a PPD, piece by piece, for what libcups does not tell.
+///
+/// It tells whether the text could end where it does: libcups takes a file that ends inside a value or an
+/// option for a whole one, so a half-downloaded PPD would open with options missing. And it collects
+/// the translations: libcups keeps those of one language only, the one of the process's locale,
+/// which need not be the one that the dialog is shown in.
+class PpdText {
+public:
+    /// The next piece; pieces may break anywhere.
+    void add(std::string_view piece);
+    /// There is nothing more.
+    void finish();
+
+    /// The line reached, counted from 1.
+    int line() const { return m_line; }
+    /// Inside a quoted value.
+    bool isInsideValue() const { return m_quoted; }
+    /// Between the beginning of an option and its end.
+    bool isInsideOption() const { return m_insideOption; }
+    /// The translations met so far.
+    const PpdTranslations &translations() const { return m_translations; }
+
+private:
+    void addCharacter(char character);
+    void endLine();
+
+    int m_line = 1;
+    char m_previous = 0;
+    bool m_colon = false;
+    bool m_quoted = false;
+    bool m_insideOption = false;
+    /// The line up to its colon, as far as libcups would read it.
+    std::string m_head;
+    PpdTranslations m_translations;
+};
+
+} // namespace host

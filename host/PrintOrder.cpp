@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrintOrder.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::PrintOrder)
+};
+
+struct Range {
+    int first;
+    int last;
+};
+
+std::optional<Range> parseRange(const QString &text, int pageCount)
+{
+    static const QRegularExpression form(QStringLiteral("^\\s*(\\d{1,9})\\s*(?:(-)\\s*(\\d{1,9})?\\s*)?$"));
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const int first = match.captured(1).toInt();
+    if (match.capturedLength(2) == 0)
+        return Range{first, first};
+    return Range{first, match.capturedLength(3) == 0 ? qMax(first, pageCount) : match.captured(3).toInt()};
+}
+
+} // namespace
+
+Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text, int pageCount)
+{
+    std::vector<bool> chosen(static_cast<std::size_t>(pageCount), text.trimmed().isEmpty());
+    const QStringList parts = text.trimmed().isEmpty() ? QStringList() : text.split(u',');
+    for (const QString &part : parts) {
+        const std::optional<Range> range = parseRange(part, pageCount);
+        if (!range || range->first > range->last)
+            return PageRangeError{PageRangeFailure::NotUnderstood,
+                                  Text::tr("Cannot understand the pages \"%1\": write numbers and ranges "
+                                           "such as 1-3, 5")
+                                      .arg(text)};
+        if (range->first < 1 || range->last > pageCount)
+            return PageRangeError{PageRangeFailure::OutOfDocument,
+                                  Text::tr("Cannot print the pages \"%1\": the document's last page is %2")
+                                      .arg(text)
+                                      .arg(pageCount)};
+        std::fill(chosen.begin() + (range->first - 1), chosen.begin() + range->last, true);
+    }
+    std::vector<int> pages;
+    for (int page = 0; page < pageCount; ++page) {
+        if (chosen[static_cast<std::size_t>(page)])
+            pages.push_back(page);
+    }
+    return pages;
+}
+
+std::vector<int> printOrder(const std::vector<int> &pages, int copies, Collate collate)
+{
+    std::vector<int> order;
+    order.reserve(pages.size() * static_cast<std::size_t>(copies));
+    if (collate == Collate::Yes) {
+        for (int copy = 0; copy < copies; ++copy)
+            order.insert(order.end(), pages.begin(), pages.end());
+    } else {
+        for (const int page : pages)
+            order.insert(order.end(), static_cast<std::size_t>(copies), page);
+    }
+    return order;
+}
+
+} // namespace host

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "StripPdf.h"
+
+#include "CutPlanWords.h"
+#include "StripPainter.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::StripPdf)
+};
+
+/// Millimetres; a page of a PDF is at most 5080 mm long.
+constexpr double longestPage = 5000.0;
+constexpr double shortestPage = 150.0;
+constexpr double margin = 8.0;
+constexpr double lineHeight = 5.0;
+constexpr double unit = 1.0;
+/// Dots an inch for coordinates; and 300 dots an inch for the labels, in pixels a millimetre.
+constexpr int coordinateResolution = 1200;
+constexpr double labelResolution = 11.8;
+
+/// A part of the strip that one page shows, from left to right.
+struct Segment {
+    double left;
+    double right;
+};
+
+/// Breaks the strip before labels.
+std::vector<Segment> segmentsOf(const StripLayout &layout)
+{
+    const QRectF bounds = layout.bounds();
+    std::vector<Segment> segments{{bounds.left(), bounds.right()}};
+    for (std::size_t i = 1; i < layout.plan().labels().size(); ++i) {
+        const bool last = i + 1 == layout.plan().labels().size();
+        const double end = last ? bounds.right() : layout.boundaryAfter(i) + layout.unit();
+        if (end - segments.back().left > longestPage - 2.0 * margin) {
+            segments.back().right = layout.label(i).left();
+            segments.push_back({layout.label(i).left(), bounds.right()});
+        }
+    }
+    return segments;
+}
+
+QStringList headLines(const PrintJob &job)
+{
+    QStringList lines{Text::tr("%1 on %2, %3")
+                          .arg(QFileInfo(job.document().path()).fileName(), job.state().ppd().printerName(),
+                               job.paper().text),
+                      cutPlanFigures(job.plan())};
+    return lines + cutPlanSentences(job.plan());
+}
+
+class PdfStrip {
+public:
+    PdfStrip(const PrintJob &job, QIODevice *device)
+        : m_job(job)
+        , m_layout(job.plan(), job.renderer().labelSize().height(), unit)
+        , m_writer(device)
+        , m_lines(headLines(job))
+        , m_segments(segmentsOf(m_layout))
+    {
+        m_writer.setResolution(coordinateResolution);
+        m_writer.setTitle(m_lines.front());
+        m_writer.setCreator(QCoreApplication::applicationName());
+        m_writer.setPageMargins(QMarginsF());
+    }
+
+    bool write()
+    {
+        setPageSize(m_segments.front());
+        QPainter painter;
+        if (!painter.begin(&m_writer))
+            return false;
+        painter.setRenderHint(QPainter::LosslessImageRendering);
+        for (std::size_t i = 0; i < m_segments.size(); ++i) {
+            if (i > 0) {
+                setPageSize(m_segments[i]);
+                if (!m_writer.newPage())
+                    return false;
+            }
+            paintPage(painter, m_segments[i]);
+        }
+        return painter.end();
+    }
+
+private:
+    double headHeight() const { return static_cast<double>(m_lines.size()) * lineHeight; }
+
+    void setPageSize(const Segment &segment)
+    {
+        const QSizeF size(qMax(shortestPage, segment.right - segment.left + 2.0 * margin),
+                          headHeight() + m_layout.bounds().height() + 3.0 * margin);
+        m_writer.setPageSize(QPageSize(size, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+    }
+
+    void paintPage(QPainter &painter, const Segment &segment) const
+    {
+        painter.save();
+        const double dotsPerMillimetre = coordinateResolution / 25.4;
+        painter.scale(dotsPerMillimetre, dotsPerMillimetre);
+        painter.translate(margin, margin);
+        paintHead(painter);
+        painter.translate(-segment.left, headHeight() + margin - m_layout.bounds().top());
+        const StripPainter strip(m_layout, m_job.renderer(), StripColors::forPaper(), labelResolution);
+        painter.setClipRect(QRectF(segment.left, m_layout.bounds().top(), segment.right - segment.left,
+                                   m_layout.bounds().height()));
+        strip.paint(painter, segment.left, segment.right);
+        painter.restore();
+    }
+
+    void paintHead(QPainter &painter) const
+    {
+        painter.save();
+        const QTransform toDevice = painter.transform();
+        painter.resetTransform();
+        for (qsizetype i = 0; i < m_lines.size(); ++i) {
+            QFont font;
+            font.setPixelSize(qRound(toDevice.m11() * (i == 0 ? 3.8 : 3.2)));
+            font.setBold(i == 0);
+            painter.setFont(font);
+            painter.drawText(toDevice.map(QPointF(0.0, lineHeight * (static_cast<double>(i) + 0.7))),
+                             m_lines[i]);
+        }
+        painter.restore();
+    }
+
+    const PrintJob &m_job;
+    StripLayout m_layout;
+    QPdfWriter m_writer;
+    QStringList m_lines;
+    std::vector<Segment> m_segments;
+};
+
+} // namespace
+
+bool writeStripPdf(const PrintJob &job, QIODevice *device)
+{
+    return PdfStrip(job, device).write();
+}
+
+} // namespace host

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Background.h"
+
+#include <atomic>
+#include <thread>
+
+namespace host {
+
+bool BackgroundTask::isCancelled() const
+{
+    return std::atomic_ref(const_cast<int &>(m_cancelled)).load(std::memory_order_relaxed) != 0;
+}
+
+void BackgroundTask::cancel()
+{
+    std::atomic_ref(m_cancelled).store(1, std::memory_order_relaxed);
+}
+
+void BackgroundTask::deliver(std::function<void()> call) const
+{
+    // The receiver cannot end while the lock is held; a call that is still queued ends with it.
+    const std::scoped_lock lock(m_mailbox->mutex);
+    if (m_mailbox->receiver)
+        QMetaObject::invokeMethod(m_mailbox->receiver, std::move(call), Qt::QueuedConnection);
+}
+
+void BackgroundTask::pause(std::chrono::milliseconds time) const
+{
+    constexpr std::chrono::milliseconds step{50};
+    for (; time.count() > 0 && !isCancelled(); time -= step)
+        std::this_thread::sleep_for(std::min(step, time));
+}
+
+Background::Background()
+    : m_mailbox(std::make_shared<BackgroundTask::Mailbox>())
+{
+    m_mailbox->receiver = &m_receiver;
+}
+
+Background::~Background()
+{
+    for (const std::weak_ptr<BackgroundTask> &weak : m_tasks) {
+        if (const std::shared_ptr<BackgroundTask> task = weak.lock())
+            task->cancel();
+    }
+    const std::scoped_lock lock(m_mailbox->mutex);
+    m_mailbox->receiver = nullptr;
+}
+
+std::shared_ptr<BackgroundTask> Background::start(std::function<void(BackgroundTask &)> work)
+{
+    std::erase_if(m_tasks, [](const std::weak_ptr<BackgroundTask> &task) { return task.expired(); });
+    std::shared_ptr<BackgroundTask> task(new BackgroundTask(m_mailbox));
+    m_tasks.push_back(task);
+    std::thread([task, run = std::move(work)] { run(*task); }).detach();
+    return task;
+}
+
+} // namespace host

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/PpdFile.h>
+
+#include <set>
+
+namespace host {
+
+/// One of the choices that exclude each other, with its texts for people.
+struct ConflictSide {
+    QString keyword;
+    QString optionText;
+    QString choiceText;
+
+    bool operator==(const ConflictSide &) const = default;
+};
+
+/// Choices that are marked and that the printer cannot do together; mostly two.
+struct Conflict {
+    std::vector<ConflictSide> sides;
+
+    /// "Mirror: On" and "Paper: 24 mm" exclude each other; in the user's language, naming all sides.
+    QString sentence() const;
+    bool involves(const QString &keyword) const;
+};
+
+/// Changes that end all conflicts and leave the paper as it is.
+struct Remedy {
+    struct Change {
+        QString keyword;
+        QString choice;
+        QString optionText;
+        QString choiceText;
+    };
+    std::vector<Change> changes;
+
+    /// What the remedy does, to be written on its button: Set "Mirror" to "Off".
+    QString sentence() const;
+};
+
+/// What a PPD says about choices that exclude each other: its UIConstraints, NonUIConstraints and
+/// cupsUIConstraints, read as ppdConflicts() reads them. libcups tells which options are in conflict, but
+/// not with which others; and cupsResolveConflicts() changes the paper when that is the quickest way.
+class Constraints {
+public:
+    /// Reads the PPD's constraints. The PPD is borrowed.
+    explicit Constraints(const PpdFile &ppd);
+
+    /// The conflicts among what is marked now, each once.
+    std::vector<Conflict> conflicts() const;
+
+    /// The fewest changes that end all conflicts among what is marked now. PageSize stays as it is, and so
+    /// does what the printer has installed; options in keep (those just chosen) are changed only when nothing
+    /// else helps. Defaults are tried before other choices. Nothing when there is no conflict, or no remedy
+    /// of up to six changes.
+    std::optional<Remedy> remedy(const std::set<QString> &keep = {}) const;
+
+private:
+    /// An option with one of its choices; with null, any choice but "off".
+    struct Term {
+        const ppd_option_t *option = nullptr;
+        const ppd_choice_t *choice = nullptr;
+
+        bool operator==(const Term &) const = default;
+    };
+    using Constraint = std::vector<Term>;
+    /// A choice by position, for each option that is to be changed.
+    using Changes = std::vector<std::pair<const ppd_option_t *, int>>;
+    class Search;
+
+    void add(Constraint constraint);
+    void readPairs();
+    void readLists();
+    std::optional<Term> term(const QByteArray &keyword, const QByteArray &choice) const;
+    bool holds(const Term &term, const Changes &changes) const;
+    const Constraint *firstConflict(const Changes &changes) const;
+    bool isInstallable(const ppd_option_t *option) const;
+    ConflictSide side(const Term &term) const;
+
+    const PpdFile &m_ppd;
+    std::vector<Constraint> m_constraints;
+};
+
+} // namespace host

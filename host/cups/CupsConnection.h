@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Background.h"
+#include "CupsServer.h"
+
+#include <cups/cups.h>
+
+#include <QElapsedTimer>
+
+#include <memory>
+
+namespace host {
+
+struct IppDelete {
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+/// Owns an IPP request or answer.
+using IppPointer = std::unique_ptr<ipp_t, IppDelete>;
+
+/// A connection to a CUPS server for one task in the background. It gives up as soon as the task is
+/// cancelled, or when the server has been silent for longer than the server's patience; libcups alone
+/// would wait for a minute and more.
+class CupsConnection {
+public:
+    /// Connects; must be called on the task's thread, whose libcups settings it sets. The task must outlive
+    /// the connection.
+    static Result<CupsConnection, CupsError> open(const CupsServer &server, BackgroundTask &task);
+
+    /// For libcups; owned by the connection.
+    http_t *http() const { return m_http.get(); }
+    const CupsServer &server() const { return m_state->server; }
+
+    /// A request of this operation with the fields that every request has, for a queue's or the server's
+    /// own address.
+    IppPointer newRequest(ipp_op_t operation, const QString &queue = {}) const;
+    /// Sends the request and waits for the answer. An answer that refuses is an error, which says what the
+    /// server said.
+    Result<IppPointer, CupsError> exchange(IppPointer request, const QByteArray &resource);
+
+    /// Fetches a file of the server into memory. Not more than that many bytes; what is longer is refused.
+    /// Nothing when it has not changed since the date and length, as they stand in a "If-Modified-Since"
+    /// field.
+    struct File {
+        QByteArray content;
+        /// Seconds since 1970; 0 when the server does not tell.
+        qint64 modified = 0;
+    };
+    Result<std::optional<File>, CupsError> fetch(const QByteArray &resource,
+                                                 const QByteArray &unlessModifiedSince, qint64 mostBytes);
+
+    /// Starts counting the server's silence anew.
+    void beginWaiting() const { m_state->silence.start(); }
+    /// Why the last call of libcups failed without an answer: given up, silent, broken, or refused by the
+    /// server before it looked at the request.
+    CupsError lastError() const;
+    /// What is wrong with the answer (null when there is none); nothing when it is good.
+    std::optional<CupsError> checkAnswer(ipp_t *answer) const;
+
+private:
+    struct Close {
+        void operator()(http_t *http) const { httpClose(http); }
+    };
+    /// What callbacks of libcups get to see; stays where it is when the connection is moved.
+    struct State {
+        CupsServer server;
+        BackgroundTask *task = nullptr;
+        QElapsedTimer silence;
+        bool wasSilent = false;
+        bool triedMemory = false;
+        bool wasRefused = false;
+        PasswordRequest::Credentials credentials;
+    };
+
+    explicit CupsConnection(std::unique_ptr<State> state)
+        : m_state(std::move(state))
+    {
+    }
+
+    CupsError answerError() const;
+    bool connect();
+    http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);
+    static int mayWaitOn(http_t *http, void *state);
+    static const char *password(const char *prompt, http_t *http, const char *method, const char *resource,
+                                void *state);
+
+    std::unique_ptr<State> m_state;
+    std::unique_ptr<http_t, Close> m_http;
+};
+
+/// The address of a queue or class on whatever server it is sent to.
+QByteArray queueUri(const QString &queue);
+/// Where requests about a queue are sent.
+QByteArray queueResource(const QString &queue);
+
+} // namespace host

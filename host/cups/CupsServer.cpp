@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CupsServer.h"
+
+#include <cups/cups.h>
+
+namespace host {
+
+void CupsServer::applyToThread() const
+{
+    if (address)
+        cupsSetServer(address->toUtf8().constData());
+    if (encryption == Encryption::Required)
+        cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
+    if (user)
+        cupsSetUser(user->toUtf8().constData());
+}
+
+QString CupsServer::displayName() const
+{
+    if (address && !address->startsWith(u'/')) {
+        // "/version=1.1" may follow the address, for servers of old.
+        const QString host = address->section(u'/', 0, 0);
+        const bool hasPort = host.endsWith(u']') ? false : host.contains(u':');
+        return hasPort ? host : QStringLiteral("%1:%2").arg(host).arg(ippPort());
+    }
+    if (address)
+        return *address;
+    const QString name = QString::fromUtf8(cupsServer());
+    return name.startsWith(u'/') ? name : QStringLiteral("%1:%2").arg(name).arg(ippPort());
+}
+
+} // namespace host

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Passwords.h"
+
+#include <host/Result.h>
+
+#include <QByteArray>
+#include <QString>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+namespace host {
+
+enum class CupsFailure {
+    Unreachable,   ///< no connection: no such host, nobody listening, no encryption
+    Silent,        ///< it took the connection or the request and does not answer
+    NotAuthorized, ///< it wants a password, or another one
+    NotFound,      ///< it has no such queue or job
+    Refused,       ///< it answered with another error
+    BadDocument,   ///< a document cannot be read
+    Cancelled,     ///< given up on request
+};
+using CupsError = Failure<CupsFailure>;
+
+enum class Encryption {
+    IfRequested, ///< when the server, CUPS_ENCRYPTION or client.conf says so
+    Required,
+};
+
+/// Which CUPS server is asked, and how. A value: every thread that talks to the server has its own copy.
+struct CupsServer {
+    /// "host", "host:port" or the path of a local socket, as the programs of CUPS take it after -h;
+    /// nothing for the one of CUPS_SERVER, client.conf or the local machine.
+    std::optional<QString> address;
+    Encryption encryption = Encryption::IfRequested;
+    /// The user for whom jobs are printed; nothing for CUPS_USER or who is logged in.
+    std::optional<QString> user;
+    /// How long a server may be silent before it is given up.
+    std::chrono::milliseconds patience{10000};
+    /// Asks the user for a password, on the main thread; without one, whatever needs a password fails.
+    PasswordHandler askPassword;
+    /// What the user has answered; shared by all copies, so that nobody is asked twice.
+    std::shared_ptr<PasswordMemory> passwords = std::make_shared<PasswordMemory>();
+
+    /// Tells the libcups of the calling thread, which keeps its settings by thread.
+    void applyToThread() const;
+    /// "host:port" or the path of the socket, for messages and as a name for what is kept of it. Asks no
+    /// network.
+    QString displayName() const;
+};
+
+} // namespace host

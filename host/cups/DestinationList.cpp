@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DestinationList.h"
+
+#include "DestinationQuery.h"
+#include "QueueCache.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+/// Printers announce themselves within this time, or not at all.
+constexpr std::chrono::seconds discoveryTime{5};
+
+} // namespace
+
+DestinationList::DestinationList(CupsServer server, QObject *parent)
+    : QObject(parent)
+    , m_server(std::move(server))
+    , m_destinations(QueueCache(m_server).destinations())
+{
+}
+
+void DestinationList::refresh(Discovery discovery)
+{
+    if (m_task)
+        m_task->cancel();
+    m_task = m_background.start([this, server = m_server, discovery](BackgroundTask &task) {
+        // "this" is only used in what is delivered, on the main thread and while it is there.
+        const auto ask = [&]() -> Result<std::vector<Destination>, CupsError> {
+            Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+            return connection ? queryDestinations(connection.value()) : connection.error();
+        };
+        const Result<std::vector<Destination>, CupsError> answer = ask();
+        if (task.isCancelled())
+            return;
+        if (answer)
+            QueueCache(server).storeDestinations(answer.value());
+        task.deliver([this, answer] {
+            if (answer)
+                take(answer.value());
+            else
+                Q_EMIT failed(answer.error());
+        });
+        if (discovery == Discovery::Yes)
+            discoverDestinations(server, task, discoveryTime, [&](const Destination &found) {
+                task.deliver([this, found] { addDiscovered(found); });
+            });
+    });
+}
+
+void DestinationList::take(std::vector<Destination> destinations)
+{
+    m_isStale = false;
+    if (m_destinations != destinations) {
+        m_destinations = std::move(destinations);
+        Q_EMIT changed();
+    }
+    Q_EMIT refreshed();
+}
+
+void DestinationList::addDiscovered(const Destination &destination)
+{
+    // The server has a queue for the printer already.
+    const bool known =
+        std::any_of(m_destinations.begin(), m_destinations.end(), [&](const Destination &each) {
+            return each.queue == destination.queue ||
+                   (!each.deviceUri.isEmpty() && each.deviceUri == destination.deviceUri);
+        });
+    if (known)
+        return;
+    m_destinations.push_back(destination);
+    Q_EMIT changed();
+}
+
+const Destination *DestinationList::find(const QString &name) const
+{
+    const auto named = [&](const QString &wanted) -> const Destination * {
+        const auto found = std::find_if(m_destinations.begin(), m_destinations.end(),
+                                        [&](const Destination &each) { return each.name() == wanted; });
+        return found == m_destinations.end() ? nullptr : &*found;
+    };
+    const Destination *const found = named(name);
+    return found ? found : named(splitDestinationName(name).first);
+}
+
+const Destination *DestinationList::defaultDestination() const
+{
+    const auto found = std::find_if(m_destinations.begin(), m_destinations.end(),
+                                    [](const Destination &each) { return each.isDefault; });
+    return found == m_destinations.end() ? nullptr : &*found;
+}
+
+} // namespace host

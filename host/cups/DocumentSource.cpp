@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DocumentSource.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::DocumentSource)
+};
+
+constexpr qint64 pieceSize = 65536;
+
+CupsError failureFor(const QString &path, const QString &reason)
+{
+    return {CupsFailure::BadDocument, Text::tr("Cannot read the document \"%1\": %2").arg(path, reason)};
+}
+
+} // namespace
+
+DocumentSource::DocumentSource(QString path, int descriptor, qint64 size)
+    : m_path(std::move(path))
+    , m_descriptor(descriptor)
+    , m_size(size)
+{
+}
+
+DocumentSource::DocumentSource(DocumentSource &&other) noexcept
+    : m_path(std::move(other.m_path))
+    , m_descriptor(std::exchange(other.m_descriptor, -1))
+    , m_size(other.m_size)
+    , m_taken(other.m_taken)
+{
+}
+
+DocumentSource::~DocumentSource()
+{
+    if (m_descriptor > STDIN_FILENO)
+        ::close(m_descriptor);
+}
+
+Result<DocumentSource, CupsError> DocumentSource::open(const QString &path)
+{
+    if (path == QStringLiteral("-"))
+        return DocumentSource(path, STDIN_FILENO, -1);
+    // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
+    if (descriptor < 0)
+        return failureFor(path, qt_error_string(errno));
+    DocumentSource source(path, descriptor, 0);
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0)
+        return source.failure(qt_error_string(errno));
+    if (!S_ISREG(status.st_mode))
+        return source.failure(Text::tr("it is not a file"));
+    if (status.st_size == 0)
+        return source.failure(Text::tr("it is empty"));
+    source.m_size = status.st_size;
+    return source;
+}
+
+CupsError DocumentSource::failure(const QString &reason) const
+{
+    return failureFor(m_path, reason);
+}
+
+Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
+{
+    const bool isInput = m_size < 0;
+    const qint64 wanted = isInput ? pieceSize : qMin(pieceSize, m_size - m_taken);
+    if (wanted == 0)
+        return QByteArray();
+    pollfd input = {m_descriptor, POLLIN, 0};
+    while (isInput && ::poll(&input, 1, 100) == 0) {
+        if (task.isCancelled())
+            return QByteArray();
+    }
+    QByteArray piece(wanted, Qt::Uninitialized);
+    ssize_t length = 0;
+    do {
+        length = ::read(m_descriptor, piece.data(), static_cast<std::size_t>(wanted));
+    } while (length < 0 && errno == EINTR);
+    if (length < 0)
+        return failure(qt_error_string(errno));
+    if (length == 0 && !isInput)
+        return failure(Text::tr("it has become shorter while it was read"));
+    m_taken += length;
+    piece.truncate(length);
+    return piece;
+}
+
+} // namespace host

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Background.h"
+#include "CupsServer.h"
+
+namespace host {
+
+/// A document's bytes, read piece by piece: of a file, or of standard input. Move-only.
+class DocumentSource {
+public:
+    /// Opens the file, or "-" for standard input. Folders, pipes and devices by name are refused: nobody
+    /// knows when they end.
+    static Result<DocumentSource, CupsError> open(const QString &path);
+    ~DocumentSource();
+    DocumentSource(DocumentSource &&other) noexcept;
+    DocumentSource &operator=(DocumentSource &&) = delete;
+
+    /// In bytes; -1 for standard input.
+    qint64 size() const { return m_size; }
+    /// The next piece; empty at the end. Of a file that grows meanwhile, no more than its size is read, and
+    /// one that shrinks is an error. Gives up waiting for input when the task is cancelled.
+    Result<QByteArray, CupsError> read(const BackgroundTask &task);
+
+private:
+    DocumentSource(QString path, int descriptor, qint64 size);
+
+    CupsError failure(const QString &reason) const;
+
+    QString m_path;
+    int m_descriptor;
+    qint64 m_size;
+    qint64 m_taken = 0;
+};
+
+} // namespace host

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobOptions.h"
+
+#include <QCoreApplication>
+
+#include <cups/cups.h>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::JobOptions)
+};
+
+constexpr const char *paperKeyword = "PageSize";
+
+/// Other ways of naming a paper, which could only contradict the exact one.
+bool namesPaperLoosely(const QByteArray &name)
+{
+    return name == "media" || name == "PageRegion";
+}
+
+/// The options of a job while its layers are put over each other.
+class Layers {
+public:
+    /// A layer that the server applies by itself.
+    void setByServer(const QByteArray &name, const QByteArray &value, Origin origin)
+    {
+        JobOption &option = at(name);
+        option.value = value;
+        option.origin = origin;
+        option.isSent = false;
+    }
+    /// A layer that the server does not know; a sent option stays one, lest what lies below show through.
+    void set(const QByteArray &name, const QByteArray &value, Origin origin)
+    {
+        JobOption &option = at(name);
+        const bool isRemembered = origin == Origin::UserDefault || origin == Origin::Panel;
+        option.isSent = option.isSent || isRemembered || option.value != value || name == paperKeyword;
+        option.value = value;
+        option.origin = origin;
+    }
+    std::vector<JobOption> take() && { return std::move(m_options); }
+    bool has(const QByteArray &name) const { return find(name) != m_options.end(); }
+    void send(const QByteArray &name) { at(name).isSent = true; }
+
+private:
+    std::vector<JobOption>::const_iterator find(const QByteArray &name) const
+    {
+        return std::find_if(m_options.begin(), m_options.end(),
+                            [&](const JobOption &each) { return each.name == name; });
+    }
+    JobOption &at(const QByteArray &name)
+    {
+        const auto found = find(name);
+        if (found != m_options.end())
+            return m_options[static_cast<std::size_t>(found - m_options.begin())];
+        return m_options.emplace_back(JobOption{name, {}, Origin::Ppd, false});
+    }
+
+    std::vector<JobOption> m_options;
+};
+
+void addPpdDefaults(Layers &layers, const PpdFile &ppd)
+{
+    for (int i = 0; i < ppd.handle()->num_groups; ++i) {
+        const ppd_group_t &group = ppd.handle()->groups[i];
+        for (int j = 0; j < group.num_options; ++j) {
+            const ppd_option_t &option = group.options[j];
+            if (!namesPaperLoosely(option.keyword))
+                layers.setByServer(option.keyword, option.defchoice, Origin::Ppd);
+        }
+    }
+}
+
+/// The settings under their IPP names, with the values that lp gives them.
+std::vector<NamedValue> settingValues(const JobSettings &settings)
+{
+    std::vector<NamedValue> values;
+    const auto add = [&](const char *name, const QByteArray &value) { values.push_back({name, value}); };
+    if (settings.copies)
+        add("copies", QByteArray::number(*settings.copies));
+    if (settings.collate && settings.copies.value_or(1) > 1)
+        add("collate", *settings.collate == Collate::Yes ? "true" : "false");
+    if (QString ranges = settings.pageRanges; !ranges.trimmed().isEmpty())
+        add("page-ranges", ranges.remove(u' ').toUtf8());
+    if (settings.orientation)
+        add("orientation-requested", QByteArray::number(static_cast<int>(*settings.orientation)));
+    const bool isImmediate = settings.hold == QStringLiteral("immediate");
+    if (settings.hold == QStringLiteral("hold"))
+        add("job-hold-until", "indefinite");
+    else if (isImmediate || settings.hold == QStringLiteral("resume") ||
+             settings.hold == QStringLiteral("release"))
+        add("job-hold-until", "no-hold");
+    else if (settings.hold)
+        add("job-hold-until", settings.hold->toUtf8());
+    if (isImmediate)
+        add("job-priority", "100");
+    else if (settings.priority)
+        add("job-priority", QByteArray::number(*settings.priority));
+    return values;
+}
+
+} // namespace
+
+QString originText(Origin origin)
+{
+    switch (origin) {
+    case Origin::Ppd:
+        return Text::tr("printer default");
+    case Origin::Queue:
+        return Text::tr("queue default");
+    case Origin::UserDefault:
+        return Text::tr("your default (lpoptions)");
+    case Origin::Preset:
+        return Text::tr("preset");
+    case Origin::Panel:
+        return Text::tr("cut options");
+    case Origin::You:
+        return Text::tr("set by you");
+    }
+    return {};
+}
+
+std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
+                                      const std::vector<JobChoice> &choices, const JobSettings &settings)
+{
+    Layers layers;
+    if (ppd)
+        addPpdDefaults(layers, *ppd);
+    for (const NamedValue &option : destination.queueOptions) {
+        if (!namesPaperLoosely(option.name))
+            layers.setByServer(option.name, option.value, Origin::Queue);
+    }
+    const bool hasPaper = layers.has(paperKeyword);
+    for (const NamedValue &option : destination.userOptions) {
+        if (!hasPaper || !namesPaperLoosely(option.name))
+            layers.set(option.name, option.value, Origin::UserDefault);
+    }
+    for (const JobChoice &choice : choices)
+        layers.set(choice.name, choice.value, choice.origin);
+    for (const NamedValue &setting : settingValues(settings))
+        layers.set(setting.name, setting.value, Origin::You);
+    if (hasPaper)
+        layers.send(paperKeyword);
+    return std::move(layers).take();
+}
+
+void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
+{
+    ppd.markDefaults();
+    const auto markNamed = [&](const std::vector<NamedValue> &options) {
+        for (const NamedValue &option : options) {
+            const QString name = QString::fromUtf8(option.name);
+            if (ppd.hasOption(name))
+                ppd.mark(name, QString::fromUtf8(option.value));
+        }
+    };
+    markNamed(destination.queueOptions);
+    // Users may say "media" and "sides"; libcups finds the PPD's options for them. For the queue's own
+    // "media" it must not: the server has it from the PPD, and of two papers of one size it may be the other.
+    cups_option_t *options = nullptr;
+    int count = 0;
+    for (const NamedValue &option : destination.userOptions)
+        count = cupsAddOption(option.name.constData(), option.value.constData(), count, &options);
+    cupsMarkOptions(ppd.handle(), count, options);
+    cupsFreeOptions(count, options);
+    markNamed(destination.userOptions);
+}
+
+} // namespace host

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Destination.h"
+
+#include <host/PpdFile.h>
+#include <host/PrintOrder.h>
+
+namespace host {
+
+/// Who set an option of a job. A later one stands over an earlier one.
+enum class Origin { Ppd, Queue, UserDefault, Preset, Panel, You };
+
+/// The origin in words, "printer default", "set by you".
+QString originText(Origin origin);
+
+/// A choice made for the job: an option by its PPD or IPP name, byte for byte.
+struct JobChoice {
+    QByteArray name;
+    QByteArray value;
+    /// Preset, Panel or You.
+    Origin origin = Origin::You;
+};
+
+/// IPP's numbers.
+enum class Orientation { Portrait = 3, Landscape = 4, ReverseLandscape = 5, ReversePortrait = 6 };
+
+/// What the job says beside the printer's options; nothing stands for the queue's own setting.
+struct JobSettings {
+    std::optional<int> copies = {};
+    std::optional<Collate> collate = {};
+    /// "1-3, 5, 8-"; empty for all pages.
+    QString pageRanges = {};
+    std::optional<Orientation> orientation = {};
+    /// As lp takes it after -H: "hold", "resume", "immediate", "HH:MM" in UTC, "night" and so on.
+    std::optional<QString> hold = {};
+    /// 1 to 100.
+    std::optional<int> priority = {};
+};
+
+/// An option of a job, with where it comes from.
+struct JobOption {
+    QByteArray name;
+    QByteArray value;
+    Origin origin = Origin::Ppd;
+    /// Whether the job carries it. The server sets the others to the same value by itself.
+    bool isSent = false;
+
+    bool operator==(const JobOption &) const = default;
+};
+
+/// Every option of the job: those of the PPD in the PPD's order, then all others.
+///
+/// Sent are the paper, always and under the PPD's exact name; what a panel has recorded; what the user's
+/// lpoptions say, of which the server knows nothing; and whatever else differs from what the server does by
+/// itself. Without a PPD, the choices are sent as they are.
+std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
+                                      const std::vector<JobChoice> &choices, const JobSettings &settings);
+
+/// Marks in the PPD what a job to the destination would have without any choice: the PPD's defaults and over
+/// them what the queue and the user's lpoptions say.
+void markEffectiveDefaults(PpdFile &ppd, const Destination &destination);
+
+} // namespace host

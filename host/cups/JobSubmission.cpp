@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobSubmission.h"
+
+namespace host {
+
+JobSubmission::JobSubmission(CupsServer server, QObject *parent)
+    : QObject(parent)
+    , m_server(std::move(server))
+{
+}
+
+void JobSubmission::submit(const JobTicket &ticket)
+{
+    Q_ASSERT(!m_isBusy);
+    m_isBusy = true;
+    m_task = m_background.start([this, server = m_server, ticket](BackgroundTask &task) {
+        // "this" is only used in what is delivered, on the main thread and while it is there.
+        const Result<int, CupsError> job =
+            uploadJob(server, ticket, task, [&](const UploadProgress &progress) {
+                task.deliver([this, progress] { Q_EMIT progressed(progress); });
+            });
+        task.deliver([this, job] {
+            m_isBusy = false;
+            if (job)
+                Q_EMIT submitted(job.value());
+            else
+                Q_EMIT failed(job.error());
+        });
+    });
+}
+
+void JobSubmission::cancel()
+{
+    if (m_task)
+        m_task->cancel();
+}
+
+} // namespace host

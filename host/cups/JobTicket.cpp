@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobTicket.h"
+
+#include <cups/cups.h>
+
+namespace host {
+
+bool isSentAsName(const JobOption &option)
+{
+    const QByteArray value = option.value.toLower();
+    const bool isSwitch = value == "true" || value == "false";
+    return value.startsWith('{') ||
+           (isSwitch && (option.name == "PageSize" || option.name.toLower().startsWith("no")));
+}
+
+const JobOption *findUnsendable(const std::vector<JobOption> &options)
+{
+    for (const JobOption &option : options) {
+        int depth = 0;
+        // Closed once, a brace has no meaning any more.
+        for (qsizetype i = 0; i < option.value.size() && (i == 0 || depth > 0); ++i)
+            depth += option.value[i] == '{' ? 1 : option.value[i] == '}' && depth > 0 ? -1 : 0;
+        if (option.isSent && depth > 0)
+            return &option;
+    }
+    return nullptr;
+}
+
+void encodeJobOptions(ipp_t *request, const std::vector<JobOption> &options)
+{
+    cups_option_t *usual = nullptr;
+    int count = 0;
+    for (const JobOption &option : options) {
+        if (option.isSent && !isSentAsName(option))
+            count = cupsAddOption(option.name.constData(), option.value.constData(), count, &usual);
+    }
+    for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
+        cupsEncodeOptions2(request, count, usual, group);
+    cupsFreeOptions(count, usual);
+    for (const JobOption &option : options) {
+        if (option.isSent && isSentAsName(option))
+            ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, option.name.constData(), nullptr,
+                         option.value.constData());
+    }
+}
+
+} // namespace host

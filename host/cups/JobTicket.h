@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "JobOptions.h"
+
+struct _ipp_s;
+
+namespace host {
+
+/// One document of a job.
+struct JobDocument {
+    /// A file, or "-" for standard input.
+    QString path;
+    /// Its MIME type; empty lets the server look at the content.
+    QByteArray format = {};
+};
+
+/// A job, ready to be sent.
+struct JobTicket {
+    Destination destination;
+    /// The job's name, as it is shown in the queue.
+    QString title;
+    /// As makeJobOptions() made them; only those marked as sent are.
+    std::vector<JobOption> options;
+    /// Printed in this order.
+    std::vector<JobDocument> documents;
+};
+
+/// Puts the options that are sent into a Create-Job request, with the syntax that lp gives them; except where
+/// that would not arrive at the printer's filters: see isSentAsName().
+void encodeJobOptions(_ipp_s *request, const std::vector<JobOption> &options);
+
+/// Whether the option is sent as a plain name where lp would do otherwise. lp takes a value that begins with
+/// a brace for a collection, which the server does not hand to filters. And it takes "true" and "false"
+/// for switches, which filters get as "NAME" and "noNAME": that loses the case of a paper's name, and for an
+/// option called "notch" it reads as one called "tch".
+bool isSentAsName(const JobOption &option);
+
+/// The first option that is sent and cannot arrive, null when there is none. To the server's filters a brace
+/// that is not closed takes in all options behind it.
+const JobOption *findUnsendable(const std::vector<JobOption> &options);
+
+} // namespace host

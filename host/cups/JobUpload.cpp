@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobUpload.h"
+
+#include "DiscoveredQueue.h"
+#include "DocumentSource.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::JobUpload)
+};
+
+/// One job on its way, over one connection.
+class Upload {
+public:
+    Upload(CupsConnection &connection, const JobTicket &ticket, BackgroundTask &task)
+        : m_connection(connection)
+        , m_ticket(ticket)
+        , m_task(task)
+    {
+    }
+
+    Result<int, CupsError> createJob()
+    {
+        IppPointer request = m_connection.newRequest(IPP_OP_CREATE_JOB, m_ticket.destination.queue);
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                     m_ticket.title.toUtf8().constData());
+        encodeJobOptions(request.get(), m_ticket.options);
+        const Result<IppPointer, CupsError> answer =
+            m_connection.exchange(std::move(request), queueResource(m_ticket.destination.queue));
+        if (!answer)
+            return answer.error();
+        m_jobId = ippGetInteger(ippFindAttribute(answer.value().get(), "job-id", IPP_TAG_INTEGER), 0);
+        return m_jobId;
+    }
+
+    /// Nothing, or why the documents could not be sent.
+    std::optional<CupsError> sendDocuments(std::vector<DocumentSource> &sources,
+                                           const std::function<void(const UploadProgress &)> &progress)
+    {
+        UploadProgress now;
+        for (const DocumentSource &source : sources)
+            now.total = source.size() < 0 || now.total < 0 ? -1 : now.total + source.size();
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            now.document = static_cast<int>(i);
+            progress(now);
+            if (std::optional<CupsError> error = send(sources[i], i + 1 == sources.size(), now, progress))
+                return error;
+        }
+        return std::nullopt;
+    }
+
+private:
+    std::optional<CupsError> send(DocumentSource &source, bool isLast, UploadProgress &now,
+                                  const std::function<void(const UploadProgress &)> &progress)
+    {
+        const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
+        const QByteArray queue = m_ticket.destination.queue.toUtf8();
+        const QByteArray resource = queueResource(m_ticket.destination.queue);
+        const QByteArray name = QFileInfo(document.path).fileName().toUtf8();
+        const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
+        m_connection.beginWaiting();
+        http_status_t status = cupsStartDocument(m_connection.http(), queue.constData(), m_jobId,
+                                                 name.constData(), format.constData(), isLast ? 1 : 0);
+        while (status == HTTP_STATUS_CONTINUE && !m_task.isCancelled()) {
+            const Result<QByteArray, CupsError> piece = source.read(m_task);
+            if (!piece)
+                return piece.error();
+            if (piece.value().isEmpty())
+                break;
+            m_connection.beginWaiting();
+            status = cupsWriteRequestData(m_connection.http(), piece.value().constData(),
+                                          static_cast<std::size_t>(piece.value().size()));
+            now.sent += piece.value().size();
+            progress(now);
+        }
+        m_connection.beginWaiting();
+        if (m_task.isCancelled() || status != HTTP_STATUS_CONTINUE)
+            return m_connection.lastError();
+        // Not cupsFinishDocument(): when the connection breaks here, it answers the outcome of the request
+        // before, which was good.
+        const IppPointer answer(cupsGetResponse(m_connection.http(), resource.constData()));
+        return m_connection.checkAnswer(answer.get());
+    }
+
+    CupsConnection &m_connection;
+    const JobTicket &m_ticket;
+    BackgroundTask &m_task;
+    int m_jobId = 0;
+};
+
+/// The reason with what has become of the job.
+CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, CupsError reason)
+{
+    // The task may be cancelled, and the connection is in the middle of a document: both anew.
+    BackgroundTask task;
+    if (const std::optional<CupsError> error = cancelJob(server, queue, jobId, task))
+        reason.message =
+            Text::tr("%1 Job %2-%3 could not be taken back; look into the queue before you print "
+                     "again: %4")
+                .arg(reason.message, queue)
+                .arg(jobId)
+                .arg(error->message);
+    return reason;
+}
+
+} // namespace
+
+std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
+                                   BackgroundTask &task)
+{
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return connection.error();
+    IppPointer request = connection.value().newRequest(IPP_OP_CANCEL_JOB, queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    const Result<IppPointer, CupsError> answer = connection.value().exchange(std::move(request), "/jobs");
+    return answer ? std::nullopt : std::optional(answer.error());
+}
+
+Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
+                                 const std::function<void(const UploadProgress &)> &progress)
+{
+    std::vector<DocumentSource> sources;
+    for (const JobDocument &document : ticket.documents) {
+        Result<DocumentSource, CupsError> source = DocumentSource::open(document.path);
+        if (!source)
+            return source.error();
+        sources.push_back(std::move(source).value());
+    }
+    if (sources.empty())
+        return CupsError{CupsFailure::BadDocument, Text::tr("There is no document to print.")};
+
+    if (const JobOption *const option = findUnsendable(ticket.options))
+        return CupsError{CupsFailure::Refused,
+                         Text::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
+                             .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))};
+
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return connection.error();
+    if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination))
+        return *error;
+    Upload upload(connection.value(), ticket, task);
+    Result<int, CupsError> job = upload.createJob();
+    if (!job)
+        return job.error();
+    if (const std::optional<CupsError> error = upload.sendDocuments(sources, progress))
+        return takenBack(server, ticket.destination.queue, job.value(), *error);
+    return job;
+}
+
+} // namespace host

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CupsConnection.h"
+#include "JobTicket.h"
+
+namespace host {
+
+/// How far the sending of a job is.
+struct UploadProgress {
+    /// Counts from 0.
+    int document = 0;
+    /// Of all documents together, in bytes; the total is unknown (-1) when one comes from standard input.
+    qint64 sent = 0;
+    qint64 total = 0;
+};
+
+/// Sends a job with all its documents and answers its number. For tasks in the background.
+///
+/// All documents are opened before the job is made: a missing one leaves no trace on the server. When
+/// anything fails later, or the task is cancelled, the job is taken back, so that nothing of it is
+/// printed and sending it again prints it once. The progress is told on the task's thread.
+Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
+                                 const std::function<void(const UploadProgress &)> &progress);
+
+/// Takes a job back. Nothing, or why it cannot be.
+std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
+                                   BackgroundTask &task);
+
+} // namespace host

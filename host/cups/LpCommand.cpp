@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LpCommand.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+/// Options that have a letter of their own.
+constexpr std::pair<const char *, const char *> letters[] = {
+    {"copies", "-n"},
+    {"job-priority", "-q"},
+    {"job-hold-until", "-H"},
+    {"page-ranges", "-P"},
+};
+
+/// "NAME=VALUE" as lp reads it back after -o. A backslash keeps any character from its meaning.
+QByteArray optionWord(const JobOption &option)
+{
+    QByteArray word = option.name + '=';
+    for (const char character : option.value) {
+        if (QByteArrayView(" \t\n\v\f\r\\'\",{").contains(character))
+            word += '\\';
+        word += character;
+    }
+    return word;
+}
+
+QStringList optionWords(const JobOption &option)
+{
+    for (const auto &[name, letter] : letters) {
+        if (option.name == name)
+            return {QString::fromLatin1(letter), QString::fromUtf8(option.value)};
+    }
+    return {QStringLiteral("-o"), QString::fromUtf8(optionWord(option))};
+}
+
+/// A file whose name lp would take for standard input.
+QString fileWord(const QString &path)
+{
+    return path == QStringLiteral("-") ? path : path.startsWith(u'-') ? QStringLiteral("./") + path : path;
+}
+
+} // namespace
+
+QString shellWord(const QString &word)
+{
+    const auto isPlain = [](QChar character) {
+        return character.unicode() < 128 &&
+               (character.isLetterOrNumber() || QStringView(u"-_./:=@%+,").contains(character));
+    };
+    if (!word.isEmpty() && std::all_of(word.begin(), word.end(), isPlain))
+        return word;
+    return u'\'' + QString(word).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
+{
+    LpCommand command;
+    QStringList words{QStringLiteral("lp")};
+    if (server.address)
+        words += {QStringLiteral("-h"), *server.address};
+    if (server.encryption == Encryption::Required)
+        words += QStringLiteral("-E");
+    if (server.user)
+        words += {QStringLiteral("-U"), *server.user};
+    words += {QStringLiteral("-d"), ticket.destination.name(), QStringLiteral("-t"), ticket.title};
+    for (const JobOption &option : ticket.options) {
+        if (!option.isSent)
+            continue;
+        words += optionWords(option);
+        if (isSentAsName(option))
+            command.differences += QString::fromUtf8(option.name);
+    }
+    const auto loose = [](const NamedValue &each) {
+        return each.name == "media" || each.name == "PageRegion";
+    };
+    for (const NamedValue &option : ticket.destination.userOptions) {
+        const bool sent =
+            std::any_of(ticket.options.begin(), ticket.options.end(),
+                        [&](const JobOption &each) { return each.name == option.name && each.isSent; });
+        if (loose(option) && !sent)
+            command.differences += QString::fromUtf8(option.name);
+    }
+    words += QStringLiteral("--");
+    for (const JobDocument &document : ticket.documents)
+        words += fileWord(document.path);
+    for (QString &word : words)
+        word = shellWord(word);
+    command.line = words.join(u' ');
+    return command;
+}
+
+} // namespace host

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Background.h"
+#include "CupsServer.h"
+#include "Destination.h"
+
+#include <host/PpdFile.h>
+
+namespace host {
+
+/// Gets the PPDs of queues: at once what is kept from last time, and then what the server has now.
+///
+/// The PPD comes over the connection that all other requests take. cupsGetPPD3() is not used: for a server
+/// named "localhost" it takes the local machine's file for the queue's, wrong when the port leads
+/// elsewhere; it opens a second connection to whatever the server calls itself; and neither can be
+/// interrupted.
+class PpdLoader : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PpdLoader(CupsServer server, QObject *parent = nullptr);
+
+    /// The queue's PPD as it was last time; nothing when none was kept or it cannot be read. Does not ask
+    /// the server.
+    std::optional<PpdFile> cached(const QString &queue) const;
+
+    /// Asks the server for the queue's PPD, or whether it has changed; one of the signals tells the outcome.
+    /// An earlier request that has not been answered yet is given up.
+    void load(const Destination &destination);
+
+Q_SIGNALS:
+    /// The PPD is another than the cached one, or none was cached. Defaults are not marked yet. The receiver
+    /// may take the PPD out.
+    void loaded(const QString &queue, const std::shared_ptr<host::PpdFile> &ppd);
+    /// The cached PPD is the queue's.
+    void unchanged(const QString &queue);
+    /// The queue has no PPD. It prints all the same.
+    void absent(const QString &queue);
+    /// The server cannot be asked, or its PPD is unusable; the message says why.
+    void failed(const QString &queue, const host::CupsError &error);
+
+private:
+    struct Outcome;
+    static Outcome ask(const CupsServer &server, const Destination &destination, BackgroundTask &task);
+    void report(const QString &queue, const Outcome &outcome);
+
+    CupsServer m_server;
+    Background m_background;
+    std::shared_ptr<BackgroundTask> m_task;
+};
+
+} // namespace host

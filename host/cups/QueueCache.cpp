@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "QueueCache.h"
+
+#include <QCborArray>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <cups/http.h>
+
+namespace host {
+
+namespace {
+
+/// Raised whenever the file's form changes; other forms are not read.
+constexpr int formVersion = 1;
+
+/// A name that stands for any text within one folder.
+QString fileName(const QString &text)
+{
+    return QString::fromLatin1(text.toUtf8().toPercentEncoding({}, ".~")).replace(u'%', u'+');
+}
+
+void write(const QString &path, const QByteArray &content, const QDateTime &modified)
+{
+    // Who prints where is nobody else's business.
+    constexpr QFileDevice::Permissions ownersOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+    if (!QDir().mkpath(QFileInfo(path).path()))
+        return;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
+        return;
+    file.setPermissions(ownersOnly);
+    if (modified.isValid())
+        file.setFileTime(modified, QFileDevice::FileModificationTime);
+    file.commit();
+}
+
+} // namespace
+
+QueueCache::QueueCache(const CupsServer &server)
+    : m_folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+               QStringLiteral("/kvprint/cups/") + fileName(server.displayName()))
+{
+}
+
+std::vector<Destination> QueueCache::destinations() const
+{
+    QFile file(m_folder + QStringLiteral("/queues.cbor"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QCborParserError error;
+    const QCborArray entries = QCborValue::fromCbor(file.readAll(), &error).toArray();
+    if (error.error != QCborError::NoError || entries.isEmpty() || entries.first().toInteger() != formVersion)
+        return {};
+    std::vector<Destination> destinations;
+    for (qsizetype i = 1; i < entries.size(); ++i) {
+        if (std::optional<Destination> destination = Destination::fromCbor(entries.at(i).toMap()))
+            destinations.push_back(*std::move(destination));
+    }
+    return destinations;
+}
+
+void QueueCache::storeDestinations(const std::vector<Destination> &destinations) const
+{
+    QCborArray entries{formVersion};
+    for (const Destination &destination : destinations)
+        entries.append(destination.toCbor());
+    write(m_folder + QStringLiteral("/queues.cbor"), entries.toCborValue().toCbor(), {});
+}
+
+QString QueueCache::ppdFileName(const QString &queue) const
+{
+    return m_folder + QStringLiteral("/ppd/") + fileName(queue) + QStringLiteral(".ppd");
+}
+
+std::optional<QString> QueueCache::ppdPath(const QString &queue) const
+{
+    const QString path = ppdFileName(queue);
+    return QFileInfo::exists(path) ? std::optional(path) : std::nullopt;
+}
+
+QByteArray QueueCache::ppdStamp(const QString &queue) const
+{
+    const QFileInfo file(ppdFileName(queue));
+    if (!file.exists())
+        return {};
+    const time_t modified = static_cast<time_t>(file.lastModified().toSecsSinceEpoch());
+    std::array<char, 64> date = {};
+    httpGetDateString2(modified, date.data(), static_cast<int>(date.size()));
+    return QByteArray(date.data()) + "; length=" + QByteArray::number(file.size());
+}
+
+void QueueCache::storePpd(const QString &queue, const QByteArray &content, qint64 modified) const
+{
+    write(ppdFileName(queue), content, QDateTime::fromSecsSinceEpoch(modified));
+}
+
+void QueueCache::removePpd(const QString &queue) const
+{
+    QFile::remove(ppdFileName(queue));
+}
+
+} // namespace host

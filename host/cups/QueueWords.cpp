@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "QueueWords.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::QueueWords)
+};
+
+struct Reason {
+    const char *keyword;
+    const char *sentence;
+};
+
+// The keywords of RFC 8011, section 5.4.12, and those that CUPS adds.
+constexpr Reason reasons[] = {
+    {"media-needed", QT_TRANSLATE_NOOP("host::QueueWords", "The printer waits for labels or tape.")},
+    {"media-jam", QT_TRANSLATE_NOOP("host::QueueWords", "Labels or tape are jammed.")},
+    {"media-low", QT_TRANSLATE_NOOP("host::QueueWords", "The label roll or tape is nearly empty.")},
+    {"media-empty", QT_TRANSLATE_NOOP("host::QueueWords", "The label roll or tape is empty.")},
+    {"moving-to-paused", QT_TRANSLATE_NOOP("host::QueueWords", "The printer is about to pause.")},
+    {"paused", QT_TRANSLATE_NOOP("host::QueueWords", "The queue is paused; jobs wait.")},
+    {"shutdown", QT_TRANSLATE_NOOP("host::QueueWords", "The printer is switched off.")},
+    {"connecting-to-device", QT_TRANSLATE_NOOP("host::QueueWords", "Connecting to the printer.")},
+    {"timed-out", QT_TRANSLATE_NOOP("host::QueueWords", "The printer does not respond.")},
+    {"stopping", QT_TRANSLATE_NOOP("host::QueueWords", "The printer is stopping.")},
+    {"stopped-partly", QT_TRANSLATE_NOOP("host::QueueWords", "Some printers of the class are stopped.")},
+    {"toner-low", QT_TRANSLATE_NOOP("host::QueueWords", "The toner is nearly used up.")},
+    {"toner-empty", QT_TRANSLATE_NOOP("host::QueueWords", "The toner is used up.")},
+    {"spool-area-full", QT_TRANSLATE_NOOP("host::QueueWords", "The print server has no space left.")},
+    {"cover-open", QT_TRANSLATE_NOOP("host::QueueWords", "The printer's cover is open.")},
+    {"interlock-open", QT_TRANSLATE_NOOP("host::QueueWords", "A lock of the printer is open.")},
+    {"door-open", QT_TRANSLATE_NOOP("host::QueueWords", "The printer's door is open.")},
+    {"input-tray-missing", QT_TRANSLATE_NOOP("host::QueueWords", "The cassette or roll holder is missing.")},
+    {"output-tray-missing", QT_TRANSLATE_NOOP("host::QueueWords", "The output tray is missing.")},
+    {"output-area-almost-full", QT_TRANSLATE_NOOP("host::QueueWords", "The output tray is nearly full.")},
+    {"output-area-full", QT_TRANSLATE_NOOP("host::QueueWords", "The output tray is full.")},
+    {"marker-supply-low", QT_TRANSLATE_NOOP("host::QueueWords", "Ink or ribbon is nearly used up.")},
+    {"marker-supply-empty", QT_TRANSLATE_NOOP("host::QueueWords", "Ink or ribbon is used up.")},
+    {"marker-waste-almost-full", QT_TRANSLATE_NOOP("host::QueueWords", "The waste box is nearly full.")},
+    {"marker-waste-full", QT_TRANSLATE_NOOP("host::QueueWords", "The waste box is full.")},
+    {"fuser-over-temp", QT_TRANSLATE_NOOP("host::QueueWords", "The printer is too hot.")},
+    {"fuser-under-temp", QT_TRANSLATE_NOOP("host::QueueWords", "The printer is warming up.")},
+    {"offline", QT_TRANSLATE_NOOP("host::QueueWords", "The printer is offline.")},
+    {"hold-new-jobs", QT_TRANSLATE_NOOP("host::QueueWords", "New jobs are held.")},
+    {"deactivated",
+     QT_TRANSLATE_NOOP("host::QueueWords", "The printer is switched off by its administrator.")},
+    {"cups-missing-filter",
+     QT_TRANSLATE_NOOP("host::QueueWords", "A part of the printer's driver is missing.")},
+    {"cups-insecure-filter",
+     QT_TRANSLATE_NOOP("host::QueueWords", "A part of the printer's driver is not installed safely.")},
+    {"cups-waiting-for-job-completed",
+     QT_TRANSLATE_NOOP("host::QueueWords", "Waiting for the printer to finish the job.")},
+    {"cups-ipp-conformance-failure",
+     QT_TRANSLATE_NOOP("host::QueueWords", "The printer does not follow its protocol.")},
+};
+
+constexpr std::pair<const char *, StateSeverity> severities[] = {
+    {"-report", StateSeverity::Good},
+    {"-warning", StateSeverity::Warning},
+    {"-error", StateSeverity::Error},
+};
+
+/// The keyword without its severity.
+QString plainKeyword(QString reason)
+{
+    for (const auto &[suffix, severity] : severities) {
+        if (reason.endsWith(QLatin1String(suffix)))
+            reason.chop(static_cast<qsizetype>(qstrlen(suffix)));
+    }
+    return reason;
+}
+
+QString stateSentence(const Destination &destination)
+{
+    switch (destination.state) {
+    case QueueState::Ready:
+        return Text::tr("Ready.");
+    case QueueState::Printing:
+        return Text::tr("Printing.");
+    case QueueState::Paused:
+        return Text::tr("The queue is paused; jobs wait.");
+    case QueueState::Unknown:
+        break;
+    }
+    return destination.isDiscovered ? Text::tr("Found on the network.") : Text::tr("State unknown.");
+}
+
+} // namespace
+
+QString stateReasonSentence(const QString &reason)
+{
+    const QString keyword = plainKeyword(reason);
+    for (const Reason &known : reasons) {
+        if (keyword == QLatin1String(known.keyword))
+            return QCoreApplication::translate("host::QueueWords", known.sentence);
+    }
+    return QString(keyword).replace(u'-', u' ') + u'.';
+}
+
+StateSeverity stateReasonSeverity(const QString &reason)
+{
+    for (const auto &[suffix, severity] : severities) {
+        if (reason.endsWith(QLatin1String(suffix)))
+            return severity;
+    }
+    // Without a suffix a reason is an error, says RFC 8011, but this one only tells what goes on.
+    return reason == QStringLiteral("connecting-to-device") ? StateSeverity::Good : StateSeverity::Error;
+}
+
+QStringList queueSentences(const Destination &destination)
+{
+    QStringList sentences;
+    const bool stopped = destination.state == QueueState::Paused;
+    // "Ready" beside an empty roll would contradict itself.
+    if (destination.state != QueueState::Ready || queueSeverity(destination) == StateSeverity::Good)
+        sentences.append(stateSentence(destination));
+    for (const QString &reason : destination.stateReasons) {
+        const QString sentence = stateReasonSentence(reason);
+        if (!sentences.contains(sentence))
+            sentences.append(sentence);
+    }
+    if (!destination.acceptsJobs)
+        sentences.append(Text::tr("The queue accepts no jobs."));
+    const QString message = destination.stateMessage.trimmed();
+    // "Paused" after "The queue is paused" says nothing new, nor does "Idle".
+    const bool tellsMore = !message.isEmpty() && !(stopped && message == QStringLiteral("Paused")) &&
+                           message != QStringLiteral("Idle");
+    if (tellsMore)
+        sentences.append(Text::tr("The server says: %1").arg(message));
+    return sentences;
+}
+
+StateSeverity queueSeverity(const Destination &destination)
+{
+    const bool stopped = destination.state == QueueState::Paused || !destination.acceptsJobs;
+    StateSeverity worst = stopped ? StateSeverity::Error : StateSeverity::Good;
+    for (const QString &reason : destination.stateReasons)
+        worst = std::max(worst, stateReasonSeverity(reason));
+    return worst;
+}
+
+} // namespace host

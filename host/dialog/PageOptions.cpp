@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PageOptions.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QSpinBox>
+
+namespace dialog {
+
+PageOptions::PageOptions(int pageCount, QWidget *parent)
+    : QWidget(parent)
+    , m_pageCount(pageCount)
+    , m_copies(new QSpinBox(this))
+    , m_collate(new QCheckBox(tr("Set &by set"), this))
+    , m_pages(new QLineEdit(this))
+{
+    m_copies->setRange(1, host::mostCopies);
+    m_copies->setAccelerated(true);
+    m_collate->setChecked(true);
+    m_collate->setEnabled(false);
+    m_collate->setToolTip(
+        tr("All pages once, then all pages again; otherwise all copies of a page together"));
+    m_pages->setPlaceholderText(tr("all, or for example 1-3, 5"));
+    m_pages->setClearButtonEnabled(true);
+
+    auto *const layout = new QFormLayout(this);
+    layout->setContentsMargins({});
+    layout->addRow(tr("&Copies"), m_copies);
+    layout->addRow(QString(), m_collate);
+    layout->addRow(tr("Pa&ges"), m_pages);
+    connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
+        m_collate->setEnabled(copies > 1);
+        Q_EMIT changed();
+    });
+    connect(m_collate, &QCheckBox::toggled, this, &PageOptions::changed);
+    connect(m_pages, &QLineEdit::textChanged, this, &PageOptions::changed);
+}
+
+host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
+{
+    auto pages = host::parsePageRanges(m_pages->text(), m_pageCount);
+    if (!pages)
+        return pages.error();
+    if (pages.value().size() * static_cast<std::size_t>(m_copies->value()) > host::mostLabels)
+        return host::PageRangeError{
+            host::PageRangeFailure::TooMany,
+            tr("Cannot print so many labels at once: a job has at most %1").arg(host::mostLabels)};
+    return host::PageChoices{std::move(pages).value(), m_copies->value(),
+                             m_collate->isChecked() ? host::Collate::Yes : host::Collate::No};
+}
+
+QString PageOptions::pagesInWords() const
+{
+    const QString text = m_pages->text().simplified();
+    return text.isEmpty() ? tr("all") : text;
+}
+
+} // namespace dialog

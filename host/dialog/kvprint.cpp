@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrintRun.h"
+#include "Translations.h"
+
+#include <QApplication>
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+namespace {
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+/// Whether somebody sees the windows. Decided before there is an application, which could not start
+/// without a display.
+bool chooseScreen(int argc, char **argv)
+{
+    constexpr std::string_view unattended[] = {"--no-dialog", "--help", "-h", "--version", "-v"};
+    const bool quiet = std::any_of(argv + 1, argv + argc, [&](const char *argument) {
+        return std::ranges::find(unattended, std::string_view(argument)) != std::end(unattended);
+    });
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && (quiet || !hasDisplay()))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    return !platform.startsWith("offscreen") && !platform.startsWith("minimal");
+}
+
+QtMessageHandler usualHandler = nullptr;
+
+/// Without a screen Qt tells at every start what its screenless platform lacks, which is no news to
+/// anybody who reads the program's messages.
+void passOnMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const bool knownLack = message.startsWith(QStringLiteral("This plugin does not support ")) ||
+                           message.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR not set"));
+    if (!knownLack)
+        usualHandler(type, context, message);
+}
+
+void write(std::FILE *stream, const QString &text)
+{
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+int status(dialog::ExitStatus status)
+{
+    return static_cast<int>(status);
+}
+
+int refuse(const dialog::UsageError &error)
+{
+    if (error.kind != dialog::UsageProblem::Wrong) {
+        write(stdout, error.message);
+        return status(dialog::ExitStatus::Printed);
+    }
+    write(stderr, QStringLiteral("kvprint: %1\n%2\n")
+                      .arg(error.message,
+                           QCoreApplication::translate("dialog::CommandLine", "Try \"kvprint --help\".")));
+    return status(dialog::ExitStatus::WrongUsage);
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program either way
+int main(int argc, char **argv)
+{
+    const bool attended = chooseScreen(argc, argv);
+    if (!attended)
+        usualHandler = qInstallMessageHandler(passOnMessage);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kvprint"));
+    QApplication::setApplicationVersion(QStringLiteral(KV_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.kvprint.kvprint"));
+    dialog::installTranslations(QLocale());
+
+    auto command = dialog::CommandLine::parse(QApplication::arguments());
+    if (!command)
+        return refuse(command.error());
+    command.value().noDialog = command.value().noDialog || !attended;
+    const dialog::Console console{[](const QString &text) { write(stdout, text); },
+                                  [](const QString &text) { write(stderr, text); }};
+    return status(dialog::PrintRun(std::move(command).value(), console).run());
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrintSession.h"
+
+namespace platform {
+
+std::optional<std::int32_t> PrintSession::data(const QString &key) const
+{
+    const auto found = m_data.constFind(key);
+    if (found == m_data.constEnd())
+        return std::nullopt;
+    return *found;
+}
+
+} // namespace platform

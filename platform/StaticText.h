@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QLabel>
+
+namespace platform {
+
+/// The two colours of a control's text.
+enum class ControlTextColor { Enabled, Disabled };
+
+/// A control whose text colour can be set apart from its enabled flag.
+class TextColoring {
+public:
+    virtual ~TextColoring() = default;
+    virtual void setTextColor(ControlTextColor color) = 0;
+};
+
+/// A text on a panel that can be greyed without being disabled, as a word that belongs to a disabled
+/// field is. The colours are the theme's and follow it.
+class StaticText : public QLabel, public TextColoring {
+    Q_OBJECT
+
+public:
+    explicit StaticText(QWidget *parent = nullptr);
+
+    ControlTextColor textColor() const { return m_color; }
+    void setTextColor(ControlTextColor color) override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    ControlTextColor m_color = ControlTextColor::Enabled;
+};
+
+} // namespace platform

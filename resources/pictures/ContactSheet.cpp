@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ContactSheet.h"
+
+#include "Drawing.h"
+
+#include <QPainter>
+
+namespace pictures {
+
+namespace {
+
+// A row for one theme, in pixels: the name on top, below it at the left the picture at its natural
+// size over its two reductions, at the right the picture with twice the pixels.
+constexpr int gap = 8;
+constexpr int nameBase = 16; // baseline of the name
+constexpr int pictureTop = 24;
+constexpr QSize popUpList(138, 60);
+constexpr QSize popUpButton(66, 29);
+constexpr int reductionTop = pictureTop + naturalSize.height() + gap;
+constexpr int twiceLeft = gap + popUpList.width() + gap + popUpButton.width() + gap;
+constexpr QSize row(twiceLeft + 2 * naturalSize.width() + gap, pictureTop + 2 * naturalSize.height() + gap);
+
+void drawReduced(QPainter &painter, QPoint where, const QImage &twice, QSize size)
+{
+    painter.drawImage(where, twice.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+Problems drawRow(QPainter &painter, const PictureSpec &spec, Theme theme)
+{
+    const std::variant<QImage, Problems> single = rendered(spec, theme, 1);
+    const std::variant<QImage, Problems> twice = rendered(spec, theme, 2);
+    for (const auto *image : {&single, &twice}) {
+        if (const Problems *problems = std::get_if<Problems>(image))
+            return *problems;
+    }
+    const QImage &dense = std::get<QImage>(twice);
+    painter.fillRect(QRect(QPoint(0, 0), row), windowColour(theme));
+    painter.setPen(theme == Theme::Light ? Qt::black : Qt::white);
+    painter.drawText(gap, nameBase, spec.name);
+    painter.drawImage(gap, pictureTop, std::get<QImage>(single));
+    drawReduced(painter, {gap, reductionTop}, dense, popUpList);
+    drawReduced(painter, {gap + popUpList.width() + gap, reductionTop}, dense, popUpButton);
+    painter.drawImage(twiceLeft, pictureTop, dense);
+    return {};
+}
+
+} // namespace
+
+std::variant<QImage, Problems> contactSheet()
+{
+    const std::vector<PictureSpec> &all = allPictures();
+    QImage sheet(2 * row.width(), row.height() * static_cast<int>(all.size()),
+                 QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&sheet);
+    Problems problems;
+    for (const PictureSpec &spec : all) {
+        problems += drawRow(painter, spec, Theme::Light);
+        painter.translate(row.width(), 0);
+        problems += drawRow(painter, spec, Theme::Dark);
+        painter.translate(-row.width(), row.height());
+    }
+    painter.end();
+    if (!problems.isEmpty())
+        return problems;
+    return sheet;
+}
+
+} // namespace pictures

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+// kv_picturegen: draws the pictures that the cut-options panel shows.
+#include "ContactSheet.h"
+#include "Renderer.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QGuiApplication>
+
+#include <cstdio>
+
+namespace {
+
+using pictures::Problems;
+
+using Writer = Problems (*)(const pictures::PictureSpec &, const QString &);
+
+Problems writeEach(Writer write, const QString &folder)
+{
+    if (!QDir().mkpath(folder))
+        return {QStringLiteral("The folder %1 cannot be made.").arg(folder)};
+    Problems problems;
+    for (const pictures::PictureSpec &spec : pictures::allPictures())
+        problems += write(spec, folder);
+    return problems;
+}
+
+Problems writeContactSheet(const QString &path)
+{
+    const std::variant<QImage, Problems> sheet = pictures::contactSheet();
+    if (const Problems *problems = std::get_if<Problems>(&sheet))
+        return *problems;
+    return pictures::writePng(std::get<QImage>(sheet), path);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // It only draws into files, on machines without a screen too.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Draws the pictures of the cut-options panel."));
+    parser.addHelpOption();
+    const QCommandLineOption output(QStringLiteral("output"),
+                                    QStringLiteral("Write all pictures into the folder."),
+                                    QStringLiteral("folder"));
+    const QCommandLineOption sources(QStringLiteral("svg"),
+                                     QStringLiteral("Write the SVG of all pictures into the folder."),
+                                     QStringLiteral("folder"));
+    const QCommandLineOption sheet(QStringLiteral("contact-sheet"),
+                                   QStringLiteral("Write one image with all pictures side by side."),
+                                   QStringLiteral("file"));
+    parser.addOptions({output, sources, sheet});
+    parser.process(application);
+
+    Problems problems;
+    if (parser.isSet(output))
+        problems += writeEach(pictures::writeVariants, parser.value(output));
+    if (parser.isSet(sources))
+        problems += writeEach(pictures::writeSvgs, parser.value(sources));
+    if (parser.isSet(sheet))
+        problems += writeContactSheet(parser.value(sheet));
+    if (!parser.isSet(output) && !parser.isSet(sources) && !parser.isSet(sheet))
+        problems.append(QStringLiteral("Nothing to do: give --output, --svg or --contact-sheet."));
+    problems.removeDuplicates();
+    for (const QString &problem : problems)
+        std::fprintf(stderr, "kv_picturegen: %s\n", qPrintable(problem));
+    return problems.isEmpty() ? 0 : 1;
+}

@@ -1,0 +1,308 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>OP_PANEL_NAME</source>
+        <extracomment>Name of the panel's page in the print dialog.</extracomment>
+        <translation>Cut Options</translation>
+    </message>
+    <message>
+        <source>RS_CutAtEvery</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The count and RS_Labels follow below it: Cut Every / 3 label(s).</extracomment>
+        <translation>Cut Every</translation>
+    </message>
+    <message>
+        <source>RS_Labels</source>
+        <extracomment>Follows the count, on the panel and in the summary: 3 label(s).</extracomment>
+        <translation>label(s)</translation>
+    </message>
+    <message>
+        <source>RS_AutoTapeCut</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Auto Cut</translation>
+    </message>
+    <message>
+        <source>RS_CutAtEnd</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cut at End</translation>
+    </message>
+    <message>
+        <source>RS_HalfCut</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The label is cut, its backing is not.</extracomment>
+        <translation>Half Cut</translation>
+    </message>
+    <message>
+        <source>RS_SpecialTape</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Tape that must not be cut by the printer, such as woven tape.</extracomment>
+        <translation>Special Tape</translation>
+    </message>
+    <message>
+        <source>RS_ChainPrinting</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The end of the strip stays in the printer for the next job, which saves tape.</extracomment>
+        <translation>Chain Printing</translation>
+    </message>
+    <message>
+        <source>RS_MirrorPrinting</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. For labels that are read from behind, through glass for instance.</extracomment>
+        <translation>Mirror Printing</translation>
+    </message>
+    <message>
+        <source>RS_RemoveBlkSpace</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Takes off what is blank before and after the print of each label.</extracomment>
+        <translation>Remove Blank Space</translation>
+    </message>
+    <message>
+        <source>RS_CutMark</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Marks are printed where the labels are to be cut by hand.</extracomment>
+        <translation>Cut Mark</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutLabels</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Cut Every</translation>
+    </message>
+    <message>
+        <source>RS_STitle_AutoTapeCut</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Auto Cut</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutAtEnd</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Cut at End</translation>
+    </message>
+    <message>
+        <source>RS_STitle_HalfCut</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Half Cut</translation>
+    </message>
+    <message>
+        <source>RS_STitle_SpecialTape</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Special Tape</translation>
+    </message>
+    <message>
+        <source>RS_STitle_ChainPrint</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Chain Printing</translation>
+    </message>
+    <message>
+        <source>RS_STitle_MirrorPrinting</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Mirror Printing</translation>
+    </message>
+    <message>
+        <source>RS_STitle_RemoveBlkSpace</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Remove Blank Space</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutMark</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Cut Mark</translation>
+    </message>
+    <message>
+        <source>RS_STitle_Yes</source>
+        <extracomment>Value of a line of the dialog's summary: the option is on.</extracomment>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>RS_STitle_No</source>
+        <extracomment>Value of a line of the dialog's summary: the option is off.</extracomment>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>RS_Alrt_AutoCutWithHS</source>
+        <extracomment>Warning when automatic cutting is switched on with heat-shrink tube paper.</extracomment>
+        <translation>The paper chosen is heat-shrink tube. If the printer cuts it automatically, the tube may be crushed, tear or jam the cutter. Turn automatic cutting off and cut the tube by hand after printing.</translation>
+    </message>
+    <message>
+        <source>Cut Every</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cut Every</translation>
+    </message>
+    <message>
+        <source>Auto Cut</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Auto Cut</translation>
+    </message>
+    <message>
+        <source>Cut at End</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cut at End</translation>
+    </message>
+    <message>
+        <source>Half Cut</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Half Cut</translation>
+    </message>
+    <message>
+        <source>Special Tape</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Special Tape</translation>
+    </message>
+    <message>
+        <source>Chain Printing</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Chain Printing</translation>
+    </message>
+    <message>
+        <source>Mirror Printing</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Mirror Printing</translation>
+    </message>
+    <message>
+        <source>Remove Blank Space</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Remove Blank Space</translation>
+    </message>
+    <message>
+        <source>Cut Mark</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cut Mark</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cuts</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cuts, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cuts, end held for the next job</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cuts, end held for the next job, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Half cut after every label</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Half cut after every label, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Half cut after every label, end held for the next job</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Half cut after every label, end held for the next job, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every label</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every label, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every label, end held for the next job</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every label, end held for the next job, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every set of labels, half cuts in between</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every set of labels, half cuts in between, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every set of labels, half cuts in between, end held for the next job</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every set of labels, half cuts in between, end held for the next job, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_SPMROnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Special tape: no cuts</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_SPMROnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Special tape: no cuts, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut marks printed between the labels</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut marks printed between the labels, end held for the next job</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cut marks</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cut marks, end held for the next job</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cuts</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut at the end</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every label</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>No cuts, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut at the end, mirrored</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cut after every label, mirrored</translation>
+    </message>
+</context>
+</TS>

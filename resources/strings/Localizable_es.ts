@@ -1,0 +1,308 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>OP_PANEL_NAME</source>
+        <extracomment>Name of the panel's page in the print dialog.</extracomment>
+        <translation>Opciones de corte</translation>
+    </message>
+    <message>
+        <source>RS_CutAtEvery</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The count and RS_Labels follow below it: Cut Every / 3 label(s).</extracomment>
+        <translation>Cortar cada</translation>
+    </message>
+    <message>
+        <source>RS_Labels</source>
+        <extracomment>Follows the count, on the panel and in the summary: 3 label(s).</extracomment>
+        <translation>etiqueta(s)</translation>
+    </message>
+    <message>
+        <source>RS_AutoTapeCut</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Corte automático</translation>
+    </message>
+    <message>
+        <source>RS_CutAtEnd</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cortar al final</translation>
+    </message>
+    <message>
+        <source>RS_HalfCut</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The label is cut, its backing is not.</extracomment>
+        <translation>Medio corte</translation>
+    </message>
+    <message>
+        <source>RS_SpecialTape</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Tape that must not be cut by the printer, such as woven tape.</extracomment>
+        <translation>Cinta especial</translation>
+    </message>
+    <message>
+        <source>RS_ChainPrinting</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The end of the strip stays in the printer for the next job, which saves tape.</extracomment>
+        <translation>Impresión en cadena</translation>
+    </message>
+    <message>
+        <source>RS_MirrorPrinting</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. For labels that are read from behind, through glass for instance.</extracomment>
+        <translation>Impresión en espejo</translation>
+    </message>
+    <message>
+        <source>RS_RemoveBlkSpace</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Takes off what is blank before and after the print of each label.</extracomment>
+        <translation>Quitar espacios en blanco</translation>
+    </message>
+    <message>
+        <source>RS_CutMark</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Marks are printed where the labels are to be cut by hand.</extracomment>
+        <translation>Marcas de corte</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutLabels</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Cortar cada</translation>
+    </message>
+    <message>
+        <source>RS_STitle_AutoTapeCut</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Corte automático</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutAtEnd</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Cortar al final</translation>
+    </message>
+    <message>
+        <source>RS_STitle_HalfCut</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Medio corte</translation>
+    </message>
+    <message>
+        <source>RS_STitle_SpecialTape</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Cinta especial</translation>
+    </message>
+    <message>
+        <source>RS_STitle_ChainPrint</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Impresión en cadena</translation>
+    </message>
+    <message>
+        <source>RS_STitle_MirrorPrinting</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Impresión en espejo</translation>
+    </message>
+    <message>
+        <source>RS_STitle_RemoveBlkSpace</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Quitar espacios en blanco</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutMark</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Marcas de corte</translation>
+    </message>
+    <message>
+        <source>RS_STitle_Yes</source>
+        <extracomment>Value of a line of the dialog's summary: the option is on.</extracomment>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>RS_STitle_No</source>
+        <extracomment>Value of a line of the dialog's summary: the option is off.</extracomment>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>RS_Alrt_AutoCutWithHS</source>
+        <extracomment>Warning when automatic cutting is switched on with heat-shrink tube paper.</extracomment>
+        <translation>El papel elegido es tubo termorretráctil. Si la impresora lo corta automáticamente, el tubo puede aplastarse, rasgarse o atascar la cuchilla. Desactive el corte automático y corte el tubo a mano después de imprimir.</translation>
+    </message>
+    <message>
+        <source>Cut Every</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cortar cada</translation>
+    </message>
+    <message>
+        <source>Auto Cut</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Corte automático</translation>
+    </message>
+    <message>
+        <source>Cut at End</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cortar al final</translation>
+    </message>
+    <message>
+        <source>Half Cut</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Medio corte</translation>
+    </message>
+    <message>
+        <source>Special Tape</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Cinta especial</translation>
+    </message>
+    <message>
+        <source>Chain Printing</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Impresión en cadena</translation>
+    </message>
+    <message>
+        <source>Mirror Printing</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Impresión en espejo</translation>
+    </message>
+    <message>
+        <source>Remove Blank Space</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Quitar espacios en blanco</translation>
+    </message>
+    <message>
+        <source>Cut Mark</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Marcas de corte</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin cortes</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin cortes, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin cortes, el final queda retenido para el trabajo siguiente</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin cortes, el final queda retenido para el trabajo siguiente, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Medio corte tras cada etiqueta</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Medio corte tras cada etiqueta, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Medio corte tras cada etiqueta, el final queda retenido para el trabajo siguiente</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Medio corte tras cada etiqueta, el final queda retenido para el trabajo siguiente, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada etiqueta</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada etiqueta, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada etiqueta, el final queda retenido para el trabajo siguiente</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada etiqueta, el final queda retenido para el trabajo siguiente, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada grupo de etiquetas, medios cortes entre ellas</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada grupo de etiquetas, medios cortes entre ellas, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada grupo de etiquetas, medios cortes entre ellas, el final queda retenido para el trabajo siguiente</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada grupo de etiquetas, medios cortes entre ellas, el final queda retenido para el trabajo siguiente, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_SPMROnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cinta especial: sin cortes</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_SPMROnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Cinta especial: sin cortes, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Marcas de corte impresas entre las etiquetas</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Marcas de corte impresas entre las etiquetas, el final queda retenido para el trabajo siguiente</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin marcas de corte</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin marcas de corte, el final queda retenido para el trabajo siguiente</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin cortes</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte al final</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada etiqueta</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Sin cortes, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte al final, en espejo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Corte tras cada etiqueta, en espejo</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,308 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="it">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>OP_PANEL_NAME</source>
+        <extracomment>Name of the panel's page in the print dialog.</extracomment>
+        <translation>Opzioni di taglio</translation>
+    </message>
+    <message>
+        <source>RS_CutAtEvery</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The count and RS_Labels follow below it: Cut Every / 3 label(s).</extracomment>
+        <translation>Taglia ogni</translation>
+    </message>
+    <message>
+        <source>RS_Labels</source>
+        <extracomment>Follows the count, on the panel and in the summary: 3 label(s).</extracomment>
+        <translation>etichetta/e</translation>
+    </message>
+    <message>
+        <source>RS_AutoTapeCut</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Taglio automatico</translation>
+    </message>
+    <message>
+        <source>RS_CutAtEnd</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Taglia alla fine</translation>
+    </message>
+    <message>
+        <source>RS_HalfCut</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The label is cut, its backing is not.</extracomment>
+        <translation>Mezzo taglio</translation>
+    </message>
+    <message>
+        <source>RS_SpecialTape</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Tape that must not be cut by the printer, such as woven tape.</extracomment>
+        <translation>Nastro speciale</translation>
+    </message>
+    <message>
+        <source>RS_ChainPrinting</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. The end of the strip stays in the printer for the next job, which saves tape.</extracomment>
+        <translation>Stampa a catena</translation>
+    </message>
+    <message>
+        <source>RS_MirrorPrinting</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. For labels that are read from behind, through glass for instance.</extracomment>
+        <translation>Stampa speculare</translation>
+    </message>
+    <message>
+        <source>RS_RemoveBlkSpace</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Takes off what is blank before and after the print of each label.</extracomment>
+        <translation>Elimina spazi vuoti</translation>
+    </message>
+    <message>
+        <source>RS_CutMark</source>
+        <extracomment>Title of a check box of the panel; 230 points wide at most. Marks are printed where the labels are to be cut by hand.</extracomment>
+        <translation>Segni di taglio</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutLabels</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Taglia ogni</translation>
+    </message>
+    <message>
+        <source>RS_STitle_AutoTapeCut</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Taglio automatico</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutAtEnd</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Taglia alla fine</translation>
+    </message>
+    <message>
+        <source>RS_STitle_HalfCut</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Mezzo taglio</translation>
+    </message>
+    <message>
+        <source>RS_STitle_SpecialTape</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Nastro speciale</translation>
+    </message>
+    <message>
+        <source>RS_STitle_ChainPrint</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Stampa a catena</translation>
+    </message>
+    <message>
+        <source>RS_STitle_MirrorPrinting</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Stampa speculare</translation>
+    </message>
+    <message>
+        <source>RS_STitle_RemoveBlkSpace</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Elimina spazi vuoti</translation>
+    </message>
+    <message>
+        <source>RS_STitle_CutMark</source>
+        <extracomment>Title of a line of the dialog's summary.</extracomment>
+        <translation>Segni di taglio</translation>
+    </message>
+    <message>
+        <source>RS_STitle_Yes</source>
+        <extracomment>Value of a line of the dialog's summary: the option is on.</extracomment>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>RS_STitle_No</source>
+        <extracomment>Value of a line of the dialog's summary: the option is off.</extracomment>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>RS_Alrt_AutoCutWithHS</source>
+        <extracomment>Warning when automatic cutting is switched on with heat-shrink tube paper.</extracomment>
+        <translation>La carta scelta è un tubo termorestringente. Se la stampante lo taglia automaticamente, il tubo può schiacciarsi, strapparsi o bloccare la taglierina. Disattivare il taglio automatico e tagliare il tubo a mano dopo la stampa.</translation>
+    </message>
+    <message>
+        <source>Cut Every</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Taglia ogni</translation>
+    </message>
+    <message>
+        <source>Auto Cut</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Taglio automatico</translation>
+    </message>
+    <message>
+        <source>Cut at End</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Taglia alla fine</translation>
+    </message>
+    <message>
+        <source>Half Cut</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Mezzo taglio</translation>
+    </message>
+    <message>
+        <source>Special Tape</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Nastro speciale</translation>
+    </message>
+    <message>
+        <source>Chain Printing</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Stampa a catena</translation>
+    </message>
+    <message>
+        <source>Mirror Printing</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Stampa speculare</translation>
+    </message>
+    <message>
+        <source>Remove Blank Space</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Elimina spazi vuoti</translation>
+    </message>
+    <message>
+        <source>Cut Mark</source>
+        <extracomment>Text of an option in a printer's description. Title of a check box of the panel; 230 points wide at most.</extracomment>
+        <translation>Segni di taglio</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun taglio</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun taglio, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun taglio, fine trattenuta per il lavoro successivo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun taglio, fine trattenuta per il lavoro successivo, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Mezzo taglio dopo ogni etichetta</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Mezzo taglio dopo ogni etichetta, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Mezzo taglio dopo ogni etichetta, fine trattenuta per il lavoro successivo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOffOnOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Mezzo taglio dopo ogni etichetta, fine trattenuta per il lavoro successivo, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni etichetta</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni etichetta, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni etichetta, fine trattenuta per il lavoro successivo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni etichetta, fine trattenuta per il lavoro successivo, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni gruppo di etichette, mezzi tagli nel mezzo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni gruppo di etichette, mezzi tagli nel mezzo, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni gruppo di etichette, mezzi tagli nel mezzo, fine trattenuta per il lavoro successivo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_AHCMOnOnOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni gruppo di etichette, mezzi tagli nel mezzo, fine trattenuta per il lavoro successivo, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_SPMROnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nastro speciale: nessun taglio</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_SPMROnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nastro speciale: nessun taglio, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Segni di taglio stampati tra le etichette</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROnOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Segni di taglio stampati tra le etichette, fine trattenuta per il lavoro successivo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun segno di taglio</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_CTMROffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun segno di taglio, fine trattenuta per il lavoro successivo</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun taglio</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOnOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio alla fine</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOnOffOff</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni etichetta</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Nessun taglio, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOffOnOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio alla fine, speculare</translation>
+    </message>
+    <message>
+        <source>OP_PICTURE_EveryEndMirrorOnOffOn</source>
+        <extracomment>Spoken description of a preset's picture, as tool tip and for screen readers.</extracomment>
+        <translation>Taglio dopo ogni etichetta, speculare</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FaultyServer.h"
+#include "Waiting.h"
+
+#include <host/cups/PpdLoader.h>
+#include <host/cups/QueueCache.h>
+#include <tests/support/PpdBuilder.h>
+#include <tests/support/PrivateCupsd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+using host::CupsFailure;
+using host::CupsServer;
+using host::Destination;
+using host::PpdFile;
+using host::PpdLoader;
+using test_support::PpdBuilder;
+using test_support::PrivateCupsd;
+
+namespace {
+
+const QString tape = QStringLiteral("tape");
+
+/// What a loader told about one question.
+struct Outcome {
+    std::shared_ptr<PpdFile> ppd;
+    bool unchanged = false;
+    bool absent = false;
+    std::optional<host::CupsError> error;
+
+    bool isThere() const { return ppd || unchanged || absent || error; }
+};
+
+class PpdLoaderTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() { cupsd = std::make_unique<PrivateCupsd>(); }
+    static void TearDownTestSuite() { cupsd.reset(); }
+
+    void SetUp() override
+    {
+        server.address = cupsd->address();
+        QDir(host::QueueCache(server).folder()).removeRecursively();
+        cupsd->addQueue(tape, PpdBuilder().allOptions().ppd());
+    }
+
+    Outcome load(const QString &queue) const { return load(queue, server); }
+    static Outcome load(const QString &queue, const CupsServer &from)
+    {
+        PpdLoader loader(from);
+        Outcome outcome;
+        QObject::connect(&loader, &PpdLoader::loaded, [&](const QString &name, const auto &ppd) {
+            EXPECT_EQ(name, queue);
+            outcome.ppd = ppd;
+        });
+        QObject::connect(&loader, &PpdLoader::unchanged, [&] { outcome.unchanged = true; });
+        QObject::connect(&loader, &PpdLoader::absent, [&] { outcome.absent = true; });
+        QObject::connect(&loader, &PpdLoader::failed,
+                         [&](const QString &, const host::CupsError &error) { outcome.error = error; });
+        Destination destination;
+        destination.queue = queue;
+        loader.load(destination);
+        EXPECT_TRUE(waitFor([&] { return outcome.isThere(); }));
+        return outcome;
+    }
+
+    inline static std::unique_ptr<PrivateCupsd> cupsd;
+    CupsServer server;
+};
+
+} // namespace
+
+TEST_F(PpdLoaderTest, BringsThePpdOnceAndThenKnowsIt)
+{
+    EXPECT_FALSE(PpdLoader(server).cached(tape));
+    const Outcome first = load(tape);
+    ASSERT_TRUE(first.ppd);
+    EXPECT_TRUE(first.ppd->hasOption(QStringLiteral("KvHalfCut")));
+    const std::optional<PpdFile> cached = PpdLoader(server).cached(tape);
+    ASSERT_TRUE(cached);
+    EXPECT_TRUE(cached->hasOption(QStringLiteral("KvHalfCut")));
+    EXPECT_TRUE(load(tape).unchanged);
+}
+
+TEST_F(PpdLoaderTest, APpdThatWasReplacedBetweenTwoOpeningsIsSeenEvenWithinTheSameSecond)
+{
+    ASSERT_TRUE(load(tape).ppd);
+    cupsd->addQueue(tape, PpdBuilder().option("KvMirror").ppd());
+    const Outcome second = load(tape);
+    ASSERT_TRUE(second.ppd);
+    EXPECT_TRUE(second.ppd->hasOption(QStringLiteral("KvMirror")));
+    EXPECT_FALSE(second.ppd->hasOption(QStringLiteral("KvHalfCut")));
+}
+
+TEST_F(PpdLoaderTest, AClassHasThePpdOfItsFirstQueue)
+{
+    cupsd->addClass(QStringLiteral("all"), {tape});
+    const Outcome outcome = load(QStringLiteral("all"));
+    ASSERT_TRUE(outcome.ppd);
+    EXPECT_TRUE(outcome.ppd->hasOption(QStringLiteral("KvHalfCut")));
+}
+
+TEST_F(PpdLoaderTest, QueuesWithoutPpdAndQueuesThatAreGoneHaveNone)
+{
+    cupsd->addRawQueue(QStringLiteral("plain"));
+    EXPECT_TRUE(load(QStringLiteral("plain")).absent);
+
+    ASSERT_TRUE(load(tape).ppd);
+    cupsd->removeQueue(tape);
+    EXPECT_TRUE(load(tape).absent);
+    EXPECT_FALSE(PpdLoader(server).cached(tape));
+}
+
+TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
+{
+    ASSERT_TRUE(load(tape).ppd);
+    CupsServer impatient = server;
+    impatient.patience = std::chrono::milliseconds(200);
+    // The cache is kept under the server's name, whatever has become of the server.
+    cupsd->kill();
+    const Outcome outcome = load(tape, impatient);
+    ASSERT_TRUE(outcome.error);
+    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << qPrintable(outcome.error->message);
+    EXPECT_TRUE(PpdLoader(server).cached(tape));
+    cupsd->restart();
+}
+
+TEST_F(PpdLoaderTest, ADamagedPpdIsToldAndNotKept)
+{
+    // Put in place behind the server's back: it would not take such a PPD.
+    const QString file = cupsd->path(QStringLiteral("etc/ppd/tape.ppd"));
+    QFile ppd(file);
+    ASSERT_TRUE(ppd.open(QIODevice::ReadWrite));
+    const QByteArray whole = ppd.readAll();
+    ASSERT_TRUE(ppd.resize(whole.indexOf("*OpenUI *KvHalfCut") + 60));
+    const Outcome outcome = load(tape);
+    ASSERT_TRUE(outcome.error);
+    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("incomplete")))
+        << qPrintable(outcome.error->message);
+    EXPECT_FALSE(PpdLoader(server).cached(tape));
+}
+
+TEST_F(PpdLoaderTest, APpdLargerThanAnyPrintersIsRefusedWithoutFillingTheDisk)
+{
+    const QString file = cupsd->path(QStringLiteral("etc/ppd/tape.ppd"));
+    QFile ppd(file);
+    ASSERT_TRUE(ppd.open(QIODevice::Append));
+    ASSERT_TRUE(ppd.resize(50 * 1024 * 1024));
+    const Outcome outcome = load(tape);
+    ASSERT_TRUE(outcome.error);
+    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("larger than 16 MB")))
+        << qPrintable(outcome.error->message);
+    EXPECT_FALSE(PpdLoader(server).cached(tape));
+}
+
+TEST_F(PpdLoaderTest, APpdBehindAPasswordIsFetched)
+{
+    const FaultyServer guarded(cupsd->port(), {.credentials = "anna:secret"});
+    CupsServer other;
+    other.address = guarded.address();
+    other.askPassword = [](const host::PasswordRequest &request) {
+        request.answer(QStringLiteral("anna"), QStringLiteral("secret"));
+    };
+    EXPECT_TRUE(load(tape, other).ppd);
+}
+
+TEST_F(PpdLoaderTest, AQueueNameMayHoldWhatAFileNameMayNot)
+{
+    const QString name = QStringLiteral("tape%41.é+");
+    cupsd->addQueue(name, PpdBuilder().allOptions().ppd());
+    ASSERT_TRUE(load(name).ppd);
+    EXPECT_TRUE(load(name).unchanged);
+    const QString kept = *host::QueueCache(server).ppdPath(name);
+    EXPECT_TRUE(QFileInfo(kept).fileName().endsWith(QStringLiteral(".ppd")));
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Sandbox.h"
+
+#include <host/PpdFile.h>
+
+#include <QByteArray>
+
+/// The text of a small tape printer's PPD: papers with and without a printable area, two of equal size,
+/// free lengths, German texts, all nine cut options.
+QByteArray tapePpd();
+
+/// The same, open with its defaults marked. Ends the test program when it cannot be opened.
+host::PpdFile openTapePpd(const Sandbox &sandbox);

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <host/PrintOrder.h>
+
+#include <gtest/gtest.h>
+
+using host::Collate;
+using host::PageRangeFailure;
+
+TEST(PageRanges, NamePagesOnceAndInOrder)
+{
+    struct Row {
+        const char *text;
+        std::vector<int> pages;
+    };
+    const Row rows[] = {
+        {"", {0, 1, 2, 3, 4}},
+        {"  ", {0, 1, 2, 3, 4}},
+        {"1", {0}},
+        {"5", {4}},
+        {"2-4", {1, 2, 3}},
+        {"4-", {3, 4}},
+        {"5,1", {0, 4}},
+        {"1-3, 2-4 ,2", {0, 1, 2, 3}},
+        {" 2 - 3 ", {1, 2}},
+        {"3-3", {2}},
+        {"1-5", {0, 1, 2, 3, 4}},
+    };
+    for (const Row &row : rows) {
+        const auto pages = host::parsePageRanges(QLatin1String(row.text), 5);
+        ASSERT_TRUE(pages) << row.text << ": " << pages.error().message.toStdString();
+        EXPECT_EQ(pages.value(), row.pages) << row.text;
+    }
+}
+
+TEST(PageRanges, RefuseWithAReason)
+{
+    const std::pair<const char *, PageRangeFailure> rows[] = {
+        {"0", PageRangeFailure::OutOfDocument},     {"6", PageRangeFailure::OutOfDocument},
+        {"4-6", PageRangeFailure::OutOfDocument},   {"6-", PageRangeFailure::OutOfDocument},
+        {"3-2", PageRangeFailure::NotUnderstood},   {"one", PageRangeFailure::NotUnderstood},
+        {"1,,2", PageRangeFailure::NotUnderstood},  {"-3", PageRangeFailure::NotUnderstood},
+        {"1-2-3", PageRangeFailure::NotUnderstood}, {"99999999999", PageRangeFailure::NotUnderstood},
+        {",", PageRangeFailure::NotUnderstood},
+    };
+    for (const auto &[text, kind] : rows) {
+        const auto pages = host::parsePageRanges(QLatin1String(text), 5);
+        ASSERT_FALSE(pages) << text;
+        EXPECT_EQ(pages.error().kind, kind) << text;
+        EXPECT_TRUE(pages.error().message.contains(QLatin1String(text)));
+    }
+}
+
+TEST(PrintOrder, GoesSetBySetOrLabelByLabel)
+{
+    EXPECT_EQ(host::printOrder({0, 2, 3}, 1, Collate::Yes), (std::vector<int>{0, 2, 3}));
+    EXPECT_EQ(host::printOrder({0, 2}, 3, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 0, 2}));
+    EXPECT_EQ(host::printOrder({0, 2}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
+    EXPECT_TRUE(host::printOrder({}, 3, Collate::Yes).empty());
+}

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <vector>
+
+namespace test_support {
+
+/// What the filter of a queue was given for one document of a job.
+struct RecordedDocument {
+    /// The arguments of every CUPS filter.
+    int job = 0;
+    QByteArray user;
+    QByteArray title;
+    QByteArray copies;
+    /// As the filter got them, in one text.
+    QByteArray optionText;
+    /// The document's bytes.
+    QByteArray content;
+
+    /// The option's value as filters read it, "true" or "false" for a switch; a null array when the option
+    /// was not given.
+    QByteArray option(const char *name) const;
+};
+
+/// A CUPS server of the test's own: a real cupsd on a free port of the loopback interface, with its own
+/// configuration and spool in a temporary folder. Its queues print to nowhere through a filter that keeps
+/// what it was given. Runs as root and as an ordinary user; ends with the object, and with the test
+/// program if that dies.
+class PrivateCupsd {
+public:
+    /// Starts the server and waits until it answers. Fails the test when it cannot; check isRunning().
+    PrivateCupsd();
+    ~PrivateCupsd();
+    PrivateCupsd(const PrivateCupsd &) = delete;
+    PrivateCupsd &operator=(const PrivateCupsd &) = delete;
+
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+    quint16 port() const { return m_port; }
+    /// "127.0.0.1:PORT", as programs take it after -h.
+    QString address() const;
+    /// A file or folder within the server's temporary folder.
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    /// Adds a queue with the PPD, or replaces the PPD of one; its filters are replaced by the recording one.
+    /// Further arguments are lpadmin's.
+    void addQueue(const QString &name, const QByteArray &ppd, const QStringList &arguments = {});
+    /// Adds a queue without a PPD.
+    void addRawQueue(const QString &name);
+    void addClass(const QString &name, const QStringList &members);
+    void removeQueue(const QString &name);
+    /// Stops the queue from printing, or lets it print again; it takes jobs all the while.
+    void pause(const QString &name, const QString &reason = QStringLiteral("Paused by the test"));
+    void resume(const QString &name);
+    /// Makes the queue refuse jobs.
+    void reject(const QString &name, const QString &reason);
+
+    /// While it is on, filters report an empty roll and wait.
+    void setMediaEmpty(bool empty);
+
+    /// What filters were given so far, in the order in which they finished.
+    std::vector<RecordedDocument> documents() const;
+    /// Waits until so many documents have passed the filters. Fails the test when they do not.
+    std::vector<RecordedDocument> waitForDocuments(std::size_t count);
+
+    /// Ends the server at once, as a crash would.
+    void kill();
+    /// Starts it again on the same port, with all its queues and jobs.
+    void restart();
+
+    /// Runs a program of CUPS ("lp", "lpstat") for this server and answers its standard output. Fails the
+    /// test when it fails.
+    QByteArray run(const QString &program, const QStringList &arguments) const;
+    /// The end of the server's log, to be shown when a test fails.
+    QByteArray log() const;
+
+private:
+    void writeConfiguration();
+    void start();
+    bool waitUntilReady();
+
+    QTemporaryDir m_folder;
+    QProcess m_process;
+    quint16 m_port = 0;
+};
+
+} // namespace test_support

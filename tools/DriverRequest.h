@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+
+/// A request that cannot be carried out, with the sentence that says why.
+class RequestError : public std::runtime_error {
+public:
+    explicit RequestError(const QString &reason)
+        : std::runtime_error(reason.toStdString())
+    {
+    }
+    QString reason() const { return QString::fromUtf8(what()); }
+};
+
+/// One request's members, read by type. Whatever is missing or of another type than asked for is a
+/// RequestError that names the member.
+class DriverRequest {
+public:
+    explicit DriverRequest(QJsonObject members, QString context = QString());
+
+    bool has(const char *name) const;
+
+    QString text(const char *name) const;
+    QString text(const char *name, const QString &whenMissing) const;
+    /// A text or null.
+    std::optional<QString> textOrNull(const char *name) const;
+    bool flag(const char *name, bool whenMissing) const;
+    double number(const char *name) const;
+    std::optional<double> numberOrNull(const char *name) const;
+    /// A whole number of 32 bits.
+    std::int32_t integer(const char *name) const;
+    std::int32_t integer(const char *name, std::int32_t whenMissing) const;
+    QJsonArray list(const char *name) const;
+    /// The object member's own members, or nothing for null.
+    std::optional<DriverRequest> objectOrNull(const char *name) const;
+
+    const QJsonObject &members() const { return m_members; }
+
+    /// The value as a whole number of 32 bits; nothing when it is anything else.
+    static std::optional<std::int32_t> toInteger(const QJsonValue &value);
+
+    /// The error for a member that is not what it should be.
+    RequestError illTyped(const char *name, const char *expected) const;
+
+private:
+    QJsonValue required(const char *name) const;
+
+    QJsonObject m_members;
+    QString m_context;
+};

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QByteArray>
+
+#include <cstddef>
+
+/// Reads lines from a file descriptor, however long they are, in bounded memory.
+class LineReader {
+public:
+    /// The longest line that is handed over, in bytes without the line end.
+    static constexpr qsizetype longestLine = qsizetype(16) << 20;
+
+    enum class Result {
+        Line,
+        /// The line was longer than longestLine; it is passed over as a whole.
+        TooLong,
+        End,
+    };
+
+    explicit LineReader(int descriptor)
+        : m_descriptor(descriptor)
+    {
+    }
+
+    /// The next line, without its line end. A last line without one counts.
+    Result next(QByteArray *line);
+
+private:
+    bool fill();
+
+    int m_descriptor;
+    QByteArray m_buffer;
+    qsizetype m_position = 0;
+};
