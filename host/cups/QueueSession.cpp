@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "QueueSession.h"
+
+#include "LpOptions.h"
+
+#include <QCoreApplication>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::QueueSession)
+};
+
+} // namespace
+
+QueueSession::QueueSession(CupsServer server, std::optional<QString> wanted, QObject *parent)
+    : QObject(parent)
+    , m_server(std::move(server))
+    , m_destinations(m_server)
+    , m_loader(m_server)
+    , m_wanted(std::move(wanted))
+{
+    if (!m_wanted)
+        m_wanted = LpOptions::read().defaultName();
+    connect(&m_destinations, &DestinationList::changed, this, [this] {
+        chooseWanted();
+        Q_EMIT destinationsChanged();
+    });
+    connect(&m_destinations, &DestinationList::refreshed, this, &QueueSession::settle);
+    connect(&m_destinations, &DestinationList::failed, this, [this](const CupsError &error) {
+        m_isSettled = true;
+        Q_EMIT failed(error);
+        Q_EMIT settled();
+    });
+    connect(&m_loader, &PpdLoader::loaded, this,
+            [this](const QString &, const std::shared_ptr<PpdFile> &ppd) {
+                m_ppd.emplace(std::move(*ppd));
+                setKnowledge(PpdKnowledge::Current);
+            });
+    connect(&m_loader, &PpdLoader::unchanged, this, [this] { setKnowledge(PpdKnowledge::Current); });
+    connect(&m_loader, &PpdLoader::absent, this, [this] {
+        m_ppd.reset();
+        setKnowledge(PpdKnowledge::Absent);
+    });
+    connect(&m_loader, &PpdLoader::failed, this, [this](const QString &, const CupsError &error) {
+        setKnowledge(PpdKnowledge::Failed, error);
+        Q_EMIT failed(error);
+    });
+    chooseWanted();
+}
+
+void QueueSession::start(Discovery discovery)
+{
+    m_hasStarted = true;
+    m_isSettled = false;
+    m_destinations.refresh(discovery);
+    if (m_chosen)
+        setChosen(*m_chosen);
+}
+
+QString QueueSession::chosenName() const
+{
+    return m_chosen ? m_chosen->name() : m_wanted.value_or(QString());
+}
+
+void QueueSession::choose(const QString &name)
+{
+    const Destination *const found = m_destinations.find(name);
+    if (!found)
+        return;
+    m_userHasChosen = true;
+    if (!m_chosen || m_chosen->name() != found->name())
+        setChosen(*found);
+}
+
+void QueueSession::chooseWanted()
+{
+    if (m_chosen) {
+        // The list is newer than what was chosen from.
+        const Destination *const same = m_destinations.find(m_chosen->name());
+        if (same && same->name() == m_chosen->name())
+            takeState(*same);
+    }
+    if (m_userHasChosen)
+        return;
+    const Destination *const found =
+        m_wanted ? m_destinations.find(*m_wanted) : m_destinations.defaultDestination();
+    if (found && (!m_chosen || m_chosen->name() != found->name()))
+        setChosen(*found);
+}
+
+void QueueSession::settle()
+{
+    m_isSettled = true;
+    const bool isGone = m_chosen && !m_destinations.find(m_chosen->name());
+    if (isGone || (!m_chosen && m_wanted)) {
+        Q_EMIT failed(noSuchDestination());
+    } else if (!m_chosen && !m_destinations.destinations().empty()) {
+        // No default anywhere: the first one is as good a beginning as any.
+        setChosen(m_destinations.destinations().front());
+    }
+    Q_EMIT settled();
+}
+
+CupsError QueueSession::noSuchDestination() const
+{
+    return {CupsFailure::NotFound, Text::tr("The print server \"%1\" has no queue or class \"%2\".")
+                                       .arg(m_server.displayName(), chosenName())};
+}
+
+void QueueSession::takeState(const Destination &destination)
+{
+    if (*m_chosen == destination)
+        return;
+    const bool hasOtherDefaults = m_chosen->queueOptions != destination.queueOptions ||
+                                  m_chosen->userOptions != destination.userOptions;
+    m_chosen = destination;
+    Q_EMIT stateChanged();
+    if (!hasOtherDefaults)
+        return;
+    // What a job has without any choice is marked in the PPD, so the marks begin anew.
+    m_ppd = m_loader.cached(destination.queue);
+    if (m_ppd)
+        Q_EMIT ppdChanged();
+}
+
+void QueueSession::takeNews(Destination news)
+{
+    // One queue's answer does not tell where jobs go by default, nor how the queue was found.
+    news.isDefault = m_chosen->isDefault;
+    news.isDiscovered = m_chosen->isDiscovered;
+    takeState(news);
+}
+
+void QueueSession::setChosen(const Destination &destination)
+{
+    const bool isAnother = !m_chosen || m_chosen->name() != destination.name();
+    m_chosen = destination;
+    if (isAnother) {
+        m_ppd = m_loader.cached(destination.queue);
+        m_knowledge = m_ppd ? PpdKnowledge::Cached : PpdKnowledge::Asked;
+        m_ppdError.reset();
+    }
+    if (m_hasStarted) {
+        m_loader.load(destination);
+        m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
+        connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
+        connect(m_monitor.get(), &QueueMonitor::failed, this, &QueueSession::failed);
+    }
+    if (isAnother)
+        Q_EMIT chosenChanged();
+}
+
+void QueueSession::setKnowledge(PpdKnowledge knowledge, const std::optional<CupsError> &error)
+{
+    m_knowledge = knowledge;
+    m_ppdError = error;
+    Q_EMIT ppdChanged();
+}
+
+std::optional<PpdFile> QueueSession::takePpd()
+{
+    return std::exchange(m_ppd, std::nullopt);
+}
+
+} // namespace host

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PanelSource.h"
+
+#include <QCoreApplication>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::PanelSource)
+};
+
+PanelError bundleError(const BundleError &error)
+{
+    const bool isBroken = error.kind == BundleFailure::ResourceMissing;
+    return {isBroken ? PanelFailure::BrokenBundle : PanelFailure::NoPanel, error.message};
+}
+
+} // namespace
+
+Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<DialogState> &state) const
+{
+    const Result<QString, BundleError> found = PanelBundle::find(folder);
+    if (!found)
+        return bundleError(found.error());
+    Result<PanelBundle, BundleError> bundle = PanelBundle::load(found.value(), languages);
+    if (!bundle)
+        return bundleError(bundle.error());
+
+    ClaimedPanels panels;
+    panels.session =
+        std::make_unique<PanelSession>(std::move(bundle).value(), std::make_shared<PanelHost>(state));
+    panels.keywords = panels.session->claimKeywords();
+    PDEPanel *const panel = panels.session->firstPanel();
+    if (!panel)
+        return PanelError{PanelFailure::NoPanel,
+                          Text::tr("The panel bundle \"%1\" could not make its panel").arg(found.value())};
+    if (panels.keywords.isEmpty())
+        return ClaimedPanels();
+    if (!panel->panelView())
+        return PanelError{
+            PanelFailure::BrokenBundle,
+            Text::tr("The panel of the bundle \"%1\" cannot be shown: its layout file cannot be used")
+                .arg(found.value())};
+    QString error;
+    if (!panel->restoreValuesAndReturnError(&error))
+        return PanelError{PanelFailure::NoPanel, error};
+    return panels;
+}
+
+} // namespace host

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrinterSetup.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::PrinterSetup)
+};
+
+constexpr const char *paperKeyword = "PageSize";
+
+platform::Paper panelPaper(const PpdPaper &paper)
+{
+    platform::Paper result;
+    result.name = QString::fromUtf8(paper.name);
+    result.height = paper.size.height();
+    return result;
+}
+
+} // namespace
+
+PrinterSetup::PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupWishes &wishes,
+                           const PanelSource &panelSource)
+    : m_destination(std::move(destination))
+{
+    if (!ppd) {
+        // Nobody knows what such a queue can do, so everything is passed on.
+        m_choices = wishes.choices;
+        if (wishes.paper)
+            record(paperKeyword, *wishes.paper, Origin::You);
+        return;
+    }
+    markEffectiveDefaults(*ppd, m_destination);
+    if (!wishes.language.isEmpty())
+        ppd->localize(wishes.language);
+    m_state = std::make_shared<DialogState>(std::move(*ppd));
+    if (!m_destination.deviceUri.isEmpty())
+        m_state->setDeviceURI(m_destination.deviceUri);
+    m_constraints.emplace(m_state->ppd());
+    markWishes(wishes);
+    takePaper(wishes);
+    if (wishes.force)
+        keepRefused(wishes);
+    loadPanels(panelSource);
+}
+
+PrinterSetup::~PrinterSetup()
+{
+    setDidChangeHook({});
+    if (PanelHost *const host = panelHost())
+        host->setWillChangeHook({});
+}
+
+void PrinterSetup::markWishes(const SetupWishes &wishes)
+{
+    std::vector<JobChoice> choices = wishes.choices;
+    std::erase_if(choices, [](const JobChoice &wish) { return wish.name == paperKeyword; });
+    CarriedChoices carried = carryOverChoices(choices, m_state->ppd());
+    m_choices = std::move(carried.kept);
+    m_refusals = std::move(carried.lost);
+}
+
+std::optional<QByteArray> PrinterSetup::wishedPaper(const SetupWishes &wishes)
+{
+    const auto chosen = std::ranges::find(wishes.choices, QByteArray(paperKeyword), &JobChoice::name);
+    const bool isAmongChoices = !wishes.paper && chosen != wishes.choices.end();
+    return isAmongChoices ? chosen->value : wishes.paper;
+}
+
+std::optional<PpdPaper> PrinterSetup::defaultPaper() const
+{
+    // A free size is marked as such, without its measures, so the options are asked first.
+    for (const std::vector<NamedValue> *const options :
+         {&m_destination.userOptions, &m_destination.queueOptions}) {
+        const QByteArray *const name = findValue(*options, paperKeyword);
+        if (std::optional<PpdPaper> paper = name ? m_state->ppd().paper(*name) : std::nullopt)
+            return paper;
+    }
+    if (std::optional<PpdPaper> marked = m_state->ppd().markedPaper())
+        return marked;
+    const std::vector<PpdPaper> papers = m_state->ppd().papers();
+    return papers.empty() ? std::nullopt : std::optional(papers.front());
+}
+
+void PrinterSetup::takePaper(const SetupWishes &wishes)
+{
+    if (const std::optional<QByteArray> wished = wishedPaper(wishes)) {
+        m_paper = m_state->ppd().paper(*wished);
+        if (m_paper)
+            record(paperKeyword, m_paper->name, Origin::You);
+        else
+            m_refusals.push_back(*checkChoice(m_state->ppd(), {paperKeyword, *wished, Origin::You}));
+    }
+    if (!m_paper)
+        m_paper = defaultPaper();
+    if (!m_paper)
+        return;
+    // Marked and recorded before there is a panel, since a panel looks at the paper from the beginning.
+    m_state->setPaper(panelPaper(*m_paper));
+    m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(m_paper->name), nullptr);
+}
+
+void PrinterSetup::keepRefused(const SetupWishes &wishes)
+{
+    for (const JobChoice &wish : wishes.choices) {
+        if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
+            m_choices.push_back(wish);
+    }
+    if (const std::optional<QByteArray> wished = wishedPaper(wishes))
+        record(paperKeyword, *wished, Origin::You);
+}
+
+void PrinterSetup::loadPanels(const PanelSource &source)
+{
+    Result<ClaimedPanels, PanelError> panels = source.panelsFor(m_state);
+    if (!panels) {
+        m_panelProblem = panels.error();
+        return;
+    }
+    m_panels = std::move(panels).value();
+    PanelHost *const host = panelHost();
+    if (!host)
+        return;
+    host->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
+        if (!choice)
+            return;
+        m_lastChosen = keyword;
+        record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
+    });
+}
+
+QString PrinterSetup::printerText() const
+{
+    if (m_destination.queue.isEmpty())
+        return m_state ? m_state->ppd().printerName() : QString();
+    if (m_destination.instance || m_destination.description.isEmpty())
+        return m_destination.name();
+    return m_destination.description;
+}
+
+void PrinterSetup::record(const QByteArray &name, const QByteArray &value, Origin origin)
+{
+    const auto known = std::ranges::find(m_choices, name, &JobChoice::name);
+    if (known == m_choices.end()) {
+        m_choices.push_back({name, value, origin});
+        return;
+    }
+    // A panel that hands over what the user has asked for has not chosen anything.
+    if (known->value == value)
+        return;
+    known->value = value;
+    known->origin = origin;
+}
+
+void PrinterSetup::choosePaper(const PpdPaper &paper)
+{
+    m_paper = paper;
+    record(paperKeyword, paper.name, Origin::You);
+    m_state->setPaper(panelPaper(paper));
+    m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(paper.name), nullptr);
+    m_state->postPaperDidChange();
+}
+
+void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
+{
+    m_lastChosen = QString::fromUtf8(keyword);
+    record(keyword, value, Origin::You);
+    m_state->changeOption(m_lastChosen, QString::fromUtf8(value), nullptr);
+}
+
+std::vector<Conflict> PrinterSetup::conflicts() const
+{
+    return m_constraints ? m_constraints->conflicts() : std::vector<Conflict>();
+}
+
+std::optional<Remedy> PrinterSetup::remedy() const
+{
+    if (!m_constraints)
+        return std::nullopt;
+    return m_constraints->remedy(m_lastChosen.isEmpty() ? std::set<QString>()
+                                                        : std::set<QString>{m_lastChosen});
+}
+
+void PrinterSetup::apply(const Remedy &remedy)
+{
+    const QString chosen = m_lastChosen;
+    for (const Remedy::Change &change : remedy.changes)
+        choose(change.keyword.toUtf8(), change.choice.toUtf8());
+    m_lastChosen = chosen;
+}
+
+std::optional<QString> PrinterSetup::savePanel()
+{
+    PDEPanel *const shown = panel();
+    if (!shown)
+        return std::nullopt;
+    QString error;
+    if (!shown->saveValuesAndReturnError(&error))
+        return Text::tr("\"%1\" cannot save its settings: %2").arg(shown->panelName(), error);
+    if (!shown->shouldPrint())
+        return Text::tr("\"%1\" does not let the job be printed with these settings.")
+            .arg(shown->panelName());
+    return std::nullopt;
+}
+
+void PrinterSetup::setDidChangeHook(std::function<void()> hook)
+{
+    if (PanelHost *const host = panelHost())
+        host->setDidChangeHook(std::move(hook));
+}
+
+} // namespace host

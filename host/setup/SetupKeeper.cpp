@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SetupKeeper.h"
+
+namespace host {
+
+SetupKeeper::SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent)
+    : QObject(parent)
+    , m_setup(std::move(setup))
+{
+}
+
+SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWishes wishes, QObject *parent)
+    : QObject(parent)
+    , m_session(&session)
+    , m_panelSource(std::move(panelSource))
+    , m_wishes(std::move(wishes))
+{
+    connect(&session, &QueueSession::chosenChanged, this, &SetupKeeper::changeQueue);
+    connect(&session, &QueueSession::ppdChanged, this, &SetupKeeper::changePpd);
+    connect(&session, &QueueSession::stateChanged, this, [this] {
+        if (m_setup)
+            m_setup->setDestination(*m_session->chosen());
+    });
+    if (session.chosen())
+        changeQueue();
+}
+
+SetupKeeper::~SetupKeeper() = default;
+
+void SetupKeeper::changeQueue()
+{
+    end();
+    if (std::optional<PpdFile> ppd = m_session->takePpd())
+        replace(std::move(ppd));
+    else if (isUsableWithoutPpd())
+        replace(std::nullopt);
+    else
+        Q_EMIT setupChanged();
+}
+
+void SetupKeeper::changePpd()
+{
+    std::optional<PpdFile> ppd = m_session->takePpd();
+    // "The same as before" brings no PPD, and a failure leaves the one that is there.
+    const bool lostIts = m_session->ppdKnowledge() == PpdKnowledge::Absent && m_setup && m_setup->hasPpd();
+    if (!ppd && !lostIts && (m_setup || !isUsableWithoutPpd()))
+        return;
+    const bool isReplacement = m_setup != nullptr;
+    end();
+    replace(std::move(ppd));
+    QStringList lost;
+    for (const ChoiceError &refusal : m_setup->refusals())
+        lost.append(refusal.message);
+    if (isReplacement && !lost.isEmpty())
+        Q_EMIT choicesLost(lost);
+}
+
+bool SetupKeeper::isUsableWithoutPpd() const
+{
+    // A PPD that cannot be read must not keep its queue from printing.
+    const PpdKnowledge knowledge = m_session->ppdKnowledge();
+    const bool isUnusable = knowledge == PpdKnowledge::Failed && m_session->ppdError() &&
+                            m_session->ppdError()->kind == CupsFailure::Refused;
+    return knowledge == PpdKnowledge::Absent || isUnusable;
+}
+
+void SetupKeeper::end()
+{
+    if (!m_setup)
+        return;
+    Q_EMIT setupAboutToEnd();
+    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choices();
+    m_setup.reset();
+}
+
+void SetupKeeper::replace(std::optional<PpdFile> ppd)
+{
+    SetupWishes wishes = m_wishes;
+    const auto before = m_choicesOfQueues.find(m_session->chosen()->name());
+    if (before != m_choicesOfQueues.end()) {
+        wishes.choices = before->second;
+        wishes.paper.reset();
+    }
+    m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
+    Q_EMIT setupChanged();
+}
+
+} // namespace host

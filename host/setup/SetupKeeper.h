@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "PrinterSetup.h"
+
+#include <host/cups/QueueSession.h>
+
+#include <map>
+
+namespace host {
+
+/// Keeps the setup of the printer that is chosen now. As a server's answers come in, or the user chooses
+/// another queue, one setup takes the place of another, and what was chosen moves along as far as the new PPD
+/// has it. Each queue's choices are kept while the program runs, so that going back to it finds them.
+class SetupKeeper : public QObject {
+    Q_OBJECT
+
+public:
+    /// For one printer that stays, without a print server.
+    explicit SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent = nullptr);
+    /// For the queues of a server. The session is borrowed; the wishes are those for any queue.
+    SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWishes wishes,
+                QObject *parent = nullptr);
+    ~SetupKeeper() override;
+
+    /// Null without a server.
+    QueueSession *session() const { return m_session; }
+    /// The setup of the chosen printer; null while its PPD is not known.
+    PrinterSetup *setup() const { return m_setup.get(); }
+
+Q_SIGNALS:
+    /// The setup is about to end, and with it its panels; whoever shows them takes them off now.
+    void setupAboutToEnd();
+    /// setup() is another, or null now.
+    void setupChanged();
+    /// The queue has another PPD, which lacks these choices; one sentence each.
+    void choicesLost(const QStringList &sentences);
+
+private:
+    void changeQueue();
+    void changePpd();
+    void replace(std::optional<PpdFile> ppd);
+    void end();
+    bool isUsableWithoutPpd() const;
+
+    QueueSession *m_session = nullptr;
+    PanelSource m_panelSource;
+    SetupWishes m_wishes;
+    std::unique_ptr<PrinterSetup> m_setup;
+    std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
+};
+
+} // namespace host
