@@ -64,7 +64,7 @@ std::optional<host::PpdPaper> PrintRun::choosePaper(const host::PpdFile &ppd)
 
 std::optional<PrintRequest> PrintRun::openRequest()
 {
-    auto ppd = host::PpdFile::open(m_command.ppd);
+    auto ppd = host::PpdFile::open(*m_command.ppd);
     if (!ppd) {
         complain(ppd.error().message);
         return std::nullopt;
@@ -74,7 +74,7 @@ std::optional<PrintRequest> PrintRun::openRequest()
     const std::optional<host::PpdPaper> paper = choosePaper(ppd.value());
     if (!paper)
         return std::nullopt;
-    auto document = host::LabelDocument::open(m_command.document);
+    auto document = host::LabelDocument::open(m_command.documents.constFirst());
     if (!document) {
         complain(document.error().message);
         return std::nullopt;
@@ -188,8 +188,26 @@ void PrintRun::tell(const std::vector<SummarySection> &summary)
     m_console.out(QDir(m_folder).absolutePath() + u'\n');
 }
 
+bool PrintRun::canDo()
+{
+    if (!m_command.ppd)
+        complain(Text::tr("No printer was named: --ppd FILE is missing"));
+    else if (m_command.task != Task::Print)
+        complain(Text::tr("The virtual printer of --ppd can only print"));
+    else if (m_command.documents.isEmpty())
+        complain(Text::tr("No document was named"));
+    else if (m_command.documents.size() > 1)
+        complain(Text::tr("Only one document can be printed at a time, and %1 were named")
+                     .arg(m_command.documents.size()));
+    else
+        return true;
+    return false;
+}
+
 ExitStatus PrintRun::run()
 {
+    if (!canDo())
+        return ExitStatus::WrongUsage;
     const std::unique_ptr<PrintDialog> dialog = openDialog();
     if (!dialog)
         return ExitStatus::Failed;

@@ -24,6 +24,8 @@ public:
     ExitStatus run();
 
 private:
+    /// False, with the reason told, when the command asks for what this program cannot do.
+    bool canDo();
     /// Answers nothing, and says why, when the dialog cannot be opened for what was asked.
     std::unique_ptr<PrintDialog> openDialog();
     std::optional<PrintRequest> openRequest();
