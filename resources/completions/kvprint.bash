@@ -27,16 +27,28 @@ _kvprint_ppd_words() {
         -E) queue+=(-E) ;;
         esac
     done
-    local line keyword choices
+    local line keyword word
+    local -a choices
     timeout 3 lpoptions "${queue[@]}" -l 2>/dev/null </dev/null | while IFS= read -r line; do
         keyword=${line%%/*}
-        choices=${line#*: }
         if [[ $1 == options ]]; then
             printf '%s=\n' "$keyword"
         elif [[ $1 == "$keyword" ]]; then
-            # The default is marked with a star.
-            printf '%s\n' ${choices//\*/}
+            IFS=' ' read -ra choices <<<"${line#*: }"
+            for word in "${choices[@]}"; do
+                # The default is marked with a star.
+                printf '%s\n' "${word#\*}"
+            done
         fi
+    done
+}
+
+# Offers those of the lines that begin as the current word does. Not by compgen -W, which would run commands
+# that stand in a paper's name.
+_kvprint_offer() {
+    local word
+    while IFS= read -r word; do
+        [[ $word == "$current"* ]] && COMPREPLY+=("$(printf '%q' "$word")")
     done
 }
 
@@ -48,10 +60,10 @@ _kvprint() {
     local IFS=$' \t\n'
     COMPREPLY=()
     case $previous in
-    -d) COMPREPLY=($(compgen -W "$(_kvprint_queues "$command")" -- "$current")) ;;
-    --paper) COMPREPLY=($(compgen -W "$(_kvprint_ppd_words PageSize)" -- "$current")) ;;
+    -d) _kvprint_offer < <(_kvprint_queues "$command") ;;
+    --paper) _kvprint_offer < <(_kvprint_ppd_words PageSize) ;;
     -o)
-        COMPREPLY=($(compgen -W "$(_kvprint_ppd_words options)" -- "$current"))
+        _kvprint_offer < <(_kvprint_ppd_words options)
         compopt -o nospace 2>/dev/null
         ;;
     -H)
@@ -63,15 +75,14 @@ _kvprint() {
     -n | -P | -q | -t | -i) ;;
     --bundle | --output)
         compopt -o filenames 2>/dev/null
-        COMPREPLY=($(compgen -d -- "$current"))
+        mapfile -t COMPREPLY < <(compgen -d -- "$current")
         ;;
     *)
         if [[ $current == -* ]]; then
             COMPREPLY=($(compgen -W "$letters $names" -- "$current"))
         else
-            local IFS=$'\n'
             compopt -o filenames 2>/dev/null
-            COMPREPLY=($(compgen -f -- "$current"))
+            mapfile -t COMPREPLY < <(compgen -f -- "$current")
         fi
         ;;
     esac

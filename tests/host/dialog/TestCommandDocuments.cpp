@@ -118,6 +118,21 @@ TEST(CommandDocuments, BashAcceptsItsCompletion)
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
 }
 
+TEST(CommandDocuments, BashRunsNothingThatStandsInAPapersName)
+{
+    const QTemporaryDir folder;
+    const QString trace = folder.filePath(QStringLiteral("trace"));
+    writeProgram(folder.filePath(QStringLiteral("lpoptions")), "echo 'PageSize/Paper: *12mm $(>" +
+                                                                   trace.toUtf8() + ") [a-z]* `>" +
+                                                                   trace.toUtf8() + "`'\n");
+    const QStringList papers =
+        offered({QStringLiteral("kvprint"), QStringLiteral("--paper"), QString()}, folder.path());
+    EXPECT_EQ(papers.size(), 4);
+    EXPECT_TRUE(papers.contains(QStringLiteral("12mm")));
+    EXPECT_TRUE(papers.contains(QStringLiteral("\\[a-z\\]\\*"))) << papers.join(u' ').toStdString();
+    EXPECT_FALSE(QFile::exists(trace));
+}
+
 TEST(CommandDocuments, BashCompletesQueuesPapersAndOptions)
 {
     const QTemporaryDir folder;
