@@ -67,7 +67,7 @@ struct CommandLine {
     std::optional<int> jobToChange;
     /// Without the message that a job was sent.
     bool quiet = false;
-    /// The user wants to be told by mail when the job is over.
+    /// The user wants to be told by mail when the job is over; quiet then, as lp is.
     bool mail = false;
 
     std::optional<QString> bundle;

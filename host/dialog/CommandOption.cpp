@@ -58,6 +58,14 @@ Complaint takeTitle(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
+/// The mail tells the job's number; lp is silent then, and so are we.
+Complaint takeMail(CommandLine &command, const QString &)
+{
+    command.mail = true;
+    command.quiet = true;
+    return std::nullopt;
+}
+
 Complaint takePaper(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
@@ -102,8 +110,8 @@ constexpr CommandOption options[] = {
      HELP("When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent "
           "before also resume and restart."),
      jobs, Any, takeHold},
-    {'m', nullptr, nullptr, HELP("Sends a mail when the job is over."), sending | bit(Task::ChangeJob), Queue,
-     takeFlag<&CommandLine::mail>},
+    {'m', nullptr, nullptr, HELP("Sends a mail when the job is over; -s is part of it."), sending | bit(Task::ChangeJob), Queue,
+     takeMail},
     {'s', nullptr, nullptr, HELP("Does not tell the job's number."), all, Any, takeFlag<&CommandLine::quiet>},
     {'c', nullptr, nullptr, HELP("Accepted for lp's sake: documents are always copied."), all, Any,
      takeCopyFlag},

@@ -12,7 +12,7 @@ namespace {
 
 bool hasDisplay()
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 /// Whether the arguments ask for the dialog; not when they only make the program tell something.
@@ -26,7 +26,7 @@ bool asksForDialog(const QStringList &arguments)
 /// without a display.
 bool chooseScreen(const QStringList &arguments)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && (!asksForDialog(arguments) || !hasDisplay()))
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && (!asksForDialog(arguments) || !hasDisplay()))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     return !platform.startsWith("offscreen") && !platform.startsWith("minimal");

@@ -53,6 +53,8 @@ TEST(CommandLine, ReadsLpsLetters)
     EXPECT_EQ(command.server, QStringLiteral("server:8631"));
     EXPECT_EQ(command.user, QStringLiteral("ann"));
     EXPECT_TRUE(command.encrypt && command.mail && command.quiet);
+    EXPECT_TRUE(read("-m").quiet);
+    EXPECT_FALSE(read("-n 3").quiet);
     EXPECT_EQ(command.settings.copies, 3);
     EXPECT_EQ(command.settings.priority, 70);
     EXPECT_EQ(command.title, QStringLiteral("Jars"));
