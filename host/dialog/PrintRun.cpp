@@ -46,7 +46,7 @@ PrintRun::PrintRun(CommandLine command, Console console)
 
 std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
 {
-    auto document = host::LabelDocument::open(m_command.documents);
+    auto document = host::LabelDocument::open(m_command.documents.value(0));
     if (document)
         return std::move(document).value();
     m_console.complain(document.error().message);
