@@ -92,7 +92,7 @@ QWidget *PrintDialog::buildChoices()
     printer->setTextFormat(Qt::PlainText);
     printer->setAccessibleName(tr("Printer: %1").arg(printer->text()));
     m_papers = new PaperChooser(m_request.state->ppd().papers(), m_request.paper, choices);
-    m_pageOptions = new PageOptions(m_request.document->pageCount(), choices);
+    m_pageOptions = new PageOptions(m_request.document->pageCounts(), choices);
     auto *const layout = new QVBoxLayout(choices);
     layout->setContentsMargins({});
     layout->addWidget(printer);
