@@ -8,9 +8,9 @@
 
 namespace dialog {
 
-PageOptions::PageOptions(int pageCount, QWidget *parent)
+PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     : QWidget(parent)
-    , m_pageCount(pageCount)
+    , m_pageCounts(std::move(pageCounts))
     , m_copies(new QSpinBox(this))
     , m_collate(new QCheckBox(tr("Set &by set"), this))
     , m_pages(new QLineEdit(this))
@@ -40,7 +40,7 @@ PageOptions::PageOptions(int pageCount, QWidget *parent)
 
 host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
 {
-    auto pages = host::parsePageRanges(m_pages->text(), m_pageCount);
+    auto pages = host::parsePageRanges(m_pages->text(), m_pageCounts);
     if (!pages)
         return pages.error();
     if (pages.value().size() * static_cast<std::size_t>(m_copies->value()) > host::mostLabels)

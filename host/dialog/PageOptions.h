@@ -12,12 +12,13 @@ class QSpinBox;
 
 namespace dialog {
 
-/// Which pages of the document are printed, how often and in which order.
+/// Which pages of the documents are printed, how often and in which order.
 class PageOptions : public QWidget {
     Q_OBJECT
 
 public:
-    PageOptions(int pageCount, QWidget *parent);
+    /// The documents' page counts, in the order in which they are printed.
+    PageOptions(std::vector<int> pageCounts, QWidget *parent);
 
     /// The choices as they stand, or why they cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
@@ -32,7 +33,7 @@ Q_SIGNALS:
 
 private:
     bool m_setsCopies = false;
-    int m_pageCount;
+    std::vector<int> m_pageCounts;
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QLineEdit *m_pages;

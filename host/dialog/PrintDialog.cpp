@@ -31,7 +31,7 @@ PrintDialog::PrintDialog(std::unique_ptr<host::LabelDocument> document, host::Se
 {
     m_draft.settings = wishes.settings;
     m_draft.title = wishes.title.value_or(host::defaultTitle(*m_document));
-    setWindowTitle(tr("Print %1").arg(host::defaultTitle(*m_document)));
+    setWindowTitle(tr("Print %1").arg(m_document->title()));
     build(wishes);
     connectAll();
     takeSetup();
@@ -84,7 +84,7 @@ void PrintDialog::build(const DialogWishes &wishes)
 QWidget *PrintDialog::buildChoices(const DialogWishes &wishes)
 {
     auto *const choices = new QWidget(m_content);
-    m_pageOptions = new PageOptions(m_document->pageCount(), choices);
+    m_pageOptions = new PageOptions(m_document->pageCounts(), choices);
     m_pageOptions->setSettings(wishes.settings);
     m_paperPlace = new QVBoxLayout;
     auto *const layout = new QVBoxLayout(choices);
@@ -292,6 +292,10 @@ void PrintDialog::print()
     host::PrinterSetup *const setup = m_keeper.setup();
     if (!setup) {
         showProblem(waitingText());
+        return;
+    }
+    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting()) {
+        showProblem(error->message);
         return;
     }
     if (const std::optional<QString> refusal = setup->savePanel()) {
