@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdFile.h"
 
+#include "PpdNumber.h"
 #include "PpdSource.h"
 
 #include <QFileInfo>
@@ -256,8 +257,7 @@ std::optional<PpdPaper> PpdFile::markedPaper() const
     const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
     if (!size)
         return std::nullopt;
-    return paper("Custom." + QByteArray::number(double{size->width}) + 'x' +
-                 QByteArray::number(double{size->length}));
+    return paper(customPaperName(QSizeF(double{size->width}, double{size->length})));
 }
 
 std::optional<PpdCustomLimits> PpdFile::customLimits() const

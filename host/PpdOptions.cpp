@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdOptions.h"
 
+#include "PpdNumber.h"
 #include "Units.h"
 
 #include <QCoreApplication>
@@ -104,22 +105,11 @@ bool readValue(PpdParameter &parameter, const ppd_cparam_t &source)
     return false;
 }
 
-/// A number as PPDs have it, whatever the user's language: "12.5".
-QByteArray plainNumber(double number)
-{
-    QByteArray text = QByteArray::number(number, 'f', 4);
-    while (text.endsWith('0'))
-        text.chop(1);
-    if (text.endsWith('.'))
-        text.chop(1);
-    return text == "-0" ? QByteArray("0") : text;
-}
-
 QByteArray plainValue(const PpdParameter &parameter)
 {
     if (parameter.kind == PpdParameterKind::Points)
-        return plainNumber(parameter.number * millimetresPerPoint) + "mm";
-    return parameter.isNumber() ? plainNumber(parameter.number) : parameter.characters.toUtf8();
+        return ppdNumber(parameter.number * millimetresPerPoint) + "mm";
+    return parameter.isNumber() ? ppdNumber(parameter.number) : parameter.characters.toUtf8();
 }
 
 bool needsQuotes(const QByteArray &value)

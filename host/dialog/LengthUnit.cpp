@@ -14,15 +14,25 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(dialog::LengthUnit)
 };
 
-QString exactNumber(double points, LengthUnit unit)
+QString numberText(double points, LengthUnit unit, int decimals)
 {
     const QLocale locale;
-    QString number = locale.toString(points / pointsPer(unit), 'f', exactDecimals(unit));
+    QString number = locale.toString(points / pointsPer(unit), 'f', decimals);
     while (number.endsWith(locale.zeroDigit()))
         number.chop(1);
     if (number.endsWith(locale.decimalPoint()))
         number.chop(locale.decimalPoint().size());
     return number;
+}
+
+QString exactNumber(double points, LengthUnit unit)
+{
+    return numberText(points, unit, exactDecimals(unit));
+}
+
+QString withUnit(const QString &number, LengthUnit unit)
+{
+    return Text::tr("%1 %2", "a number and its unit").arg(number, unitText(unit));
 }
 
 } // namespace
@@ -52,7 +62,13 @@ int exactDecimals(LengthUnit unit)
 QString exactLength(double points)
 {
     const LengthUnit unit = userLengthUnit();
-    return Text::tr("%1 %2", "a number and its unit").arg(exactNumber(points, unit), unitText(unit));
+    return withUnit(exactNumber(points, unit), unit);
+}
+
+QString roundLength(double points)
+{
+    const LengthUnit unit = userLengthUnit();
+    return withUnit(numberText(points, unit, unit == LengthUnit::Inch ? 2 : 1), unit);
 }
 
 QString exactSize(const QSizeF &points)

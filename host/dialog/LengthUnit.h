@@ -20,6 +20,8 @@ int exactDecimals(LengthUnit unit);
 
 /// A length in points, to 0.01 mm, in the user's unit and number format: "36.05 mm".
 QString exactLength(double points);
+/// A length in points, to what tells papers apart at a glance: "36 mm", "101.6 mm", "0.47 in".
+QString roundLength(double points);
 /// A size in points, width first: "36 × 50 mm".
 QString exactSize(const QSizeF &points);
 

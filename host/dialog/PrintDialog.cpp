@@ -91,7 +91,7 @@ QWidget *PrintDialog::buildChoices()
     printer->setWordWrap(true);
     printer->setTextFormat(Qt::PlainText);
     printer->setAccessibleName(tr("Printer: %1").arg(printer->text()));
-    m_papers = new PaperChooser(m_request.state->ppd().papers(), m_request.paper, choices);
+    m_papers = new PaperChooser(m_request.state->ppd(), m_request.paper, choices);
     m_pageOptions = new PageOptions(m_request.document->pageCount(), choices);
     auto *const layout = new QVBoxLayout(choices);
     layout->setContentsMargins({});
