@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 namespace dialog {
@@ -54,6 +55,24 @@ QString PageOptions::pagesInWords() const
 {
     const QString text = m_pages->text().simplified();
     return text.isEmpty() ? tr("all") : text;
+}
+
+QString PageOptions::rangesText() const
+{
+    return m_pages->text();
+}
+
+bool PageOptions::collateIsOffered() const
+{
+    return m_copies->value() > 1;
+}
+
+void PageOptions::setChoices(int copies, host::Collate collate, const QString &ranges)
+{
+    const QSignalBlocker quiet(this);
+    m_copies->setValue(copies);
+    m_collate->setChecked(collate == host::Collate::Yes);
+    m_pages->setText(ranges);
 }
 
 } // namespace dialog
