@@ -94,6 +94,8 @@ void FreeChoiceFields::changed()
     const auto missing =
         std::ranges::find_if(m_parameters, [](const host::PpdParameter &each) { return !each.isComplete(); });
     m_missing->setVisible(missing != m_parameters.end());
+    for (QWidget *const field : m_fields)
+        field->setAccessibleDescription({});
     if (missing == m_parameters.end()) {
         Q_EMIT edited();
         return;
@@ -102,6 +104,8 @@ void FreeChoiceFields::changed()
         tr("\"%1\" needs %n character(s) at least. Until then the setting is as it was before.", nullptr,
            static_cast<int>(missing->minimum))
             .arg(missing->text));
+    m_fields[static_cast<std::size_t>(missing - m_parameters.begin())]->setAccessibleDescription(
+        m_missing->text());
 }
 
 void FreeChoiceFields::showValues(const std::vector<host::PpdParameter> &parameters)
@@ -111,14 +115,18 @@ void FreeChoiceFields::showValues(const std::vector<host::PpdParameter> &paramet
         return;
     m_parameters = parameters;
     for (std::size_t i = 0; i < m_fields.size() && i < m_parameters.size(); ++i) {
-        const host::PpdParameter &parameter = m_parameters[i];
-        if (auto *const length = qobject_cast<LengthField *>(m_fields[i]))
+        host::PpdParameter &parameter = m_parameters[i];
+        // What is sent is what is shown, limits rounded to what can be entered included.
+        if (auto *const length = qobject_cast<LengthField *>(m_fields[i])) {
             length->showPoints(parameter.number);
-        else if (auto *const number = qobject_cast<NumberField *>(m_fields[i]))
+            parameter.number = length->points();
+        } else if (auto *const number = qobject_cast<NumberField *>(m_fields[i])) {
             number->showNumber(parameter.number);
-        else if (auto *const text = qobject_cast<QLineEdit *>(m_fields[i]);
-                 text && text->text() != parameter.characters)
+            parameter.number = number->value();
+        } else if (auto *const text = qobject_cast<QLineEdit *>(m_fields[i]);
+                   text && text->text() != parameter.characters) {
             text->setText(parameter.characters);
+        }
     }
     const QSignalBlocker quiet(this);
     changed();

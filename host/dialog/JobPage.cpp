@@ -69,6 +69,8 @@ void JobPage::build()
     fillHolds();
     m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
     m_time->setAccessibleName(tr("Time to print at"));
+    // Qt turns a time around in a right-to-left window, where people do not.
+    m_time->setLayoutDirection(Qt::LeftToRight);
     m_time->hide();
     // 0 stands for the queue's own setting.
     m_priority->setRange(0, highestPriority);
@@ -187,6 +189,8 @@ QString JobPage::title() const
 void JobPage::setTitle(const QString &title)
 {
     m_title->setText(title);
+    // Names differ at their beginning.
+    m_title->setCursorPosition(0);
 }
 
 } // namespace dialog

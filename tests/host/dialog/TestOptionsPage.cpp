@@ -221,6 +221,7 @@ TEST_F(OptionsPageTest, ATextCountsFromWhenItIsLongEnough)
     for (const QLabel *const label : control("Stamp")->findChildren<QLabel *>())
         told = told || (label->isVisible() && label->text().contains(QStringLiteral("\"Words\" needs 2")));
     EXPECT_TRUE(told);
+    EXPECT_TRUE(words->accessibleDescription().contains(QStringLiteral("needs 2")));
     // Another option may be chosen meanwhile.
     tick(boxOf("Marks", "Fold marks"));
     EXPECT_TRUE(words->isVisible());
@@ -229,6 +230,7 @@ TEST_F(OptionsPageTest, ATextCountsFromWhenItIsLongEnough)
     QTest::keyClicks(words, QStringLiteral(" {b}, \"c\" and more"));
     EXPECT_EQ(heard.last(), QByteArray("Stamp={Words=\"A b, \\\"c\\\" and\"}"));
     EXPECT_EQ(words->text(), QStringLiteral("A b, \"c\" and"));
+    EXPECT_EQ(words->accessibleDescription(), QString());
     pick(in<QComboBox>("Stamp"), 0);
     EXPECT_EQ(heard.last(), QByteArray("Stamp=Off"));
 }
