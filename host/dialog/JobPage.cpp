@@ -67,10 +67,10 @@ void JobPage::build()
     m_title->setMaxLength(longestTitle);
     fillOrientations();
     fillHolds();
-    m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
     m_time->setAccessibleName(tr("Time to print at"));
     // Qt turns a time around in a right-to-left window, where people do not.
     m_time->setLayoutDirection(Qt::LeftToRight);
+    m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
     m_time->hide();
     // 0 stands for the queue's own setting.
     m_priority->setRange(0, highestPriority);

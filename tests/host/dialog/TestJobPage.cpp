@@ -137,6 +137,16 @@ TEST_F(JobPageTest, ATimeIsTheUsersAndBecomesTheServers)
     EXPECT_FALSE(time->isVisible());
 }
 
+TEST_F(JobPageTest, ATimeIsNotTurnedAround)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const JobPage turned(nullptr);
+    auto *const time = turned.findChild<QTimeEdit *>();
+    time->setTime({13, 30});
+    EXPECT_EQ(time->text(), QLocale().toString(QTime(13, 30), QLocale::ShortFormat));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
 TEST_F(JobPageTest, ShowsQuietlyWhatIsSet)
 {
     const QSignalSpy spy(&page, &JobPage::changed);
