@@ -28,6 +28,15 @@ public:
     /// queue.
     void writeTo(host::JobSettings &settings) const;
 
+    /// The pages as the user wrote them; empty for all.
+    QString rangesText() const;
+    /// Whether there are copies whose order can be chosen. Otherwise collating makes no difference.
+    bool collateIsOffered() const;
+
+    /// Shows these as if the user had chosen them, quietly. Copies are brought within 1 to host::mostCopies;
+    /// the text of the pages is taken as it is, and checked by choices().
+    void setChoices(int copies, host::Collate collate, const QString &ranges);
+
 Q_SIGNALS:
     void changed();
 

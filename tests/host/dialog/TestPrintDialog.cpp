@@ -189,7 +189,8 @@ TEST_F(PrintDialogTest, ASearchFindsPapersAndChangesNothing)
         if (!papers->item(row)->isHidden())
             shown.append(papers->item(row)->text());
     }
-    EXPECT_EQ(shown, QStringList{QStringLiteral("Removable 52 mm x 75 mm")});
+    EXPECT_EQ(shown, (QStringList{QStringLiteral("Custom size\u2026"), QStringLiteral("52 mm wide"),
+                                  QStringLiteral("Removable 52 mm x 75 mm")}));
     EXPECT_EQ(state->recorded().choice(QStringLiteral("PageSize")), QStringLiteral("W24H60"));
 }
 
