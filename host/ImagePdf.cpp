@@ -19,6 +19,8 @@ struct Text {
 };
 
 constexpr double pointsPerMetre = 72.0 / 0.0254;
+/// What image readers allot to one image: 32 million pixels of four bytes.
+constexpr qint64 mostDecodedBytes = 128LL * 1024 * 1024;
 
 /// An image in one of the forms that a PDF can hold.
 struct PdfImage {
@@ -66,7 +68,8 @@ PdfImage compressed(QImage image)
     }
     image = QImage();
     // In front of the compressed data stands their length, which is not part of them.
-    result.data = qCompress(rows).mid(4);
+    // Quickly rather than well: somebody waits for the page to be shown.
+    result.data = qCompress(rows, 1).mid(4);
     return result;
 }
 
@@ -152,8 +155,6 @@ public:
 
     std::optional<DocumentProblem> check()
     {
-        // Some formats take two bytes a colour.
-        constexpr qint64 mostBytes = 4 * mostImagePixels;
         if (!m_facts.complete)
             return DocumentProblem{DocumentFailure::Damaged, Text::tr("it is an image whose end is missing")};
         m_size = m_reader.size();
@@ -161,7 +162,7 @@ public:
             return damaged();
         const qint64 pixels = static_cast<qint64>(m_size.width()) * m_size.height();
         const int bits = QImage::toPixelFormat(m_reader.imageFormat()).bitsPerPixel();
-        if (pixels > mostImagePixels || pixels * bits / 8 > mostBytes)
+        if (pixels > mostImagePixels || (!fitsAsItIs() && pixels * bits / 8 > mostDecodedBytes))
             return tooManyPixels(m_size);
         return PdfPages::checkSize(pageSize(), 0);
     }
@@ -178,7 +179,7 @@ public:
 
     std::optional<PdfImage> read()
     {
-        if (m_facts.pdfColors > 0 && m_reader.transformation() == QImageIOHandler::TransformationNone)
+        if (fitsAsItIs())
             return asItIs();
         const QImage image = m_reader.read();
         if (image.isNull())
@@ -187,6 +188,11 @@ public:
     }
 
 private:
+    bool fitsAsItIs() const
+    {
+        return m_facts.pdfColors > 0 && m_reader.transformation() == QImageIOHandler::TransformationNone;
+    }
+
     bool isTurned() const
     {
         return m_reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);

@@ -12,8 +12,9 @@ class QIODevice;
 
 namespace host {
 
-/// The most pixels an image may have, 64 million: ten times what a label printer puts on a metre of its
-/// widest tape. More would take a gigabyte while it is turned into a page.
+/// The most pixels an image may have, 64 million, and half as many where they have to be decoded first, as
+/// those of a PNG have: several times what a label printer puts on a metre of tape. More would take a
+/// gigabyte while it is turned into a page.
 inline constexpr qint64 mostImagePixels = 64LL * 1024 * 1024;
 /// The resolution of images that tell none, in dots an inch.
 inline constexpr double usualImageResolution = 96.0;

@@ -22,7 +22,8 @@ Result<QByteArray, DocumentProblem> readWhole(QFile &file, qint64 most)
     if (file.size() > most)
         return DocumentProblem{DocumentFailure::TooLarge,
                                Text::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
-    QByteArray content = file.read(most);
+    // No more than there is: reading makes room for all that is asked for.
+    QByteArray content = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
         return DocumentProblem{DocumentFailure::Unreadable, file.errorString()};
     return content;

@@ -18,8 +18,9 @@ struct SvgSource {
     /// write, and few enough to be drawn.
     static constexpr int mostLevels = 256;
     static constexpr int mostElements = 500'000;
-    /// Pixels of the pictures that stand inside the SVG, all together.
-    static constexpr qint64 mostPicturePixels = 64LL * 1024 * 1024;
+    /// Pixels of the pictures that stand inside the SVG, all together; a larger one would be left out
+    /// without a word when it is drawn.
+    static constexpr qint64 mostPicturePixels = 16LL * 1024 * 1024;
 
     QByteArray content;
     /// In px: what width and height say, completed from the view box; nothing when neither tells.

@@ -132,6 +132,7 @@ TEST(HostileDocuments, Images)
         {"60000 x 60000", claimingPng(60000, 60000), DocumentFailure::TooLarge},
         {"a million wide", claimingPng(1'000'000, 1'000), DocumentFailure::TooLarge},
         {"2 billion wide", claimingPng(0x7FFFFFFF, 1), DocumentFailure::Damaged},
+        {"more than can be decoded", claimingPng(7'000, 6'000), DocumentFailure::TooLarge},
         {"no width", claimingPng(0, 10), DocumentFailure::Damaged},
         {"no pixels", claimingPng(100, 100), DocumentFailure::Damaged},
         {"a dot a metre", encoded(corners(100, 100, 1, 1), "png"), DocumentFailure::BadPage},
