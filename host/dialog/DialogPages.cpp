@@ -7,6 +7,8 @@
 #include "PanelPage.h"
 #include "SentPage.h"
 
+#include <QTabBar>
+
 namespace dialog {
 
 DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent)
@@ -40,12 +42,18 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
     const QSignalBlocker quiet(this);
     if (setup.hasPpd())
         addOptions();
-    PDEPanel *const panel = setup.panel();
-    if (!panel)
-        return;
-    m_panelPage = new PanelPage(*panel, this);
-    setup.panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
-    QString title = panel->panelName();
+    if (PDEPanel *const panel = setup.panel())
+        addPanel(*panel);
+    // All titles are in sight, as long as no language makes novels of them.
+    const int widest = 100 * fontMetrics().averageCharWidth();
+    setMinimumWidth(qMin(tabBar()->sizeHint().width() + tabBar()->fontMetrics().height(), widest));
+}
+
+void DialogPages::addPanel(PDEPanel &panel)
+{
+    m_panelPage = new PanelPage(panel, this);
+    m_setup->panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
+    QString title = panel.panelName();
     insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
     setCurrentIndex(0);
 }
@@ -58,7 +66,7 @@ void DialogPages::addOptions()
         m_optionsPage = nullptr;
         return;
     }
-    insertTab(0, m_optionsPage, tr("Printer &options"));
+    insertTab(0, m_optionsPage, tr("&Options"));
     m_optionsPage->refresh();
     connect(m_optionsPage, &OptionsPage::chosen, this,
             [this](const QByteArray &keyword, const QByteArray &value) {

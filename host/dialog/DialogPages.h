@@ -56,6 +56,7 @@ Q_SIGNALS:
     void chosen();
 
 private:
+    void addPanel(PDEPanel &panel);
     void addOptions();
 
     const host::CupsServer *m_server;
