@@ -5,16 +5,16 @@
     <name>dialog::ChoiceControl</name>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht eingestellt</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1…</source>
         <comment>a choice whose value is still to be given</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
 </context>
 <context>
@@ -55,79 +55,79 @@
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ gibt es nicht</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ nimmt keinen Wert</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ braucht einen Wert: %2</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ betrifft den virtuellen Drucker und braucht „--ppd“</translation>
     </message>
     <message>
         <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>-H: „%1“ betrifft einen früher gesendeten Auftrag und braucht „-i“</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nimmt keine Dokumente, angegeben ist „%2“</translation>
     </message>
     <message>
         <source>Standard input (&quot;-&quot;) can be printed only once</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe („-“) lässt sich nur einmal drucken</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ verträgt sich nicht mit „%2“</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; goes only together with one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ geht nur zusammen mit einer von: %2</translation>
     </message>
     <message>
         <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dokument angegeben; nennen Sie eine Datei oder „-“, um eines einzutippen</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wert ist leer</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Zeitpunkt zum Drucken; schreiben Sie HH:MM oder HH:MM:SS (UTC) oder eines von: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht möglich; es muss eines sein von: %2</translation>
     </message>
     <message>
         <source>it names no paper</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Papier angegeben</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl von Kopien; sie muss von 1 bis %2 sein</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Priorität; sie muss von 1 (zuletzt) bis 100 (zuerst) sein</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nennt keine Warteschlange; schreiben Sie QUEUE oder QUEUE/INSTANCE</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Auftrag; schreiben Sie seine Nummer oder QUEUE-NUMBER, wie beim Senden gemeldet</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nennt keine Option; schreiben Sie NAME=VALUE</translation>
     </message>
 </context>
 <context>
@@ -135,101 +135,101 @@
     <message>
         <source>%1 to %2</source>
         <comment>the smallest and the largest length</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>Paper width</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierbreite</translation>
     </message>
     <message>
         <source>Paper length</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierlänge</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <source>Wi&amp;dth</source>
+        <translation>Bre&amp;ite</translation>
     </message>
     <message>
         <source>&amp;Length</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Länge</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckerklasse: %1</translation>
     </message>
     <message>
         <source>P&amp;rinter</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucke&amp;r</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Drucker</translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>There is no such printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Drucker gibt es nicht.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf die Antwort des Druckservers…</translation>
     </message>
     <message>
         <source>Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt: %1</translation>
     </message>
     <message>
         <source>The print server does not answer. Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver antwortet nicht. Zuletzt: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
     <message>
         <source>(default)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Standard)</translation>
     </message>
     <message>
         <source>Class of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Klasse aus: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DialogPages</name>
     <message>
         <source>Options, preview and summary</source>
-        <translation type="unfinished">Optionen, Vorschau und Übersicht</translation>
+        <translation>Optionen, Vorschau und Übersicht</translation>
     </message>
     <message>
         <source>Page pre&amp;view</source>
-        <translation type="unfinished">Seiten&amp;vorschau</translation>
+        <translation>Seiten&amp;vorschau</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
-        <translation type="unfinished">Ü&amp;bersicht</translation>
+        <translation>Ü&amp;bersicht</translation>
     </message>
     <message>
         <source>&amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Au&amp;ftrag</translation>
     </message>
     <message>
         <source>&amp;What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Was gesendet &amp;wird</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Optionen</translation>
     </message>
 </context>
 <context>
     <name>dialog::FreeChoiceFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
+            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
         </translation>
     </message>
 </context>
@@ -237,121 +237,121 @@
     <name>dialog::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver „%1“ hat kein Ziel, auf dem gedruckt werden kann</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann zusammen mit den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt</translation>
     </message>
     <message>
         <source>This would help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhilfe: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobPage</name>
     <message>
         <source>Time to print at</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhrzeit für den Druck</translation>
     </message>
     <message>
         <source>As the queue is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe der Warteschlange</translation>
     </message>
     <message>
         <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation type="unfinished"></translation>
+        <translation>Von 1 bis 100; Aufträge mit höherer Priorität werden vor anderen gedruckt</translation>
     </message>
     <message>
         <source>Job &amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrags&amp;name</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <source>Orienta&amp;tion</source>
+        <translation>Ausrich&amp;tung</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
-        <translation type="unfinished"></translation>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Zeitpunkt</translation>
     </message>
     <message>
         <source>Priorit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Priorität</translation>
     </message>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe des Druckers</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgekehrtes Querformat</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgekehrtes Hochformat</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort</translation>
     </message>
     <message>
         <source>When I release it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Freigabe</translation>
     </message>
     <message>
         <source>At a time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Uhrzeit</translation>
     </message>
     <message>
         <source>During the day</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagsüber</translation>
     </message>
     <message>
         <source>In the evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Abends</translation>
     </message>
     <message>
         <source>At night</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachts</translation>
     </message>
     <message>
         <source>In the second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>In der zweiten Schicht</translation>
     </message>
     <message>
         <source>In the third shift</source>
-        <translation type="unfinished"></translation>
+        <translation>In der dritten Schicht</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Wochenende</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobWindow</name>
     <message>
         <source>The job is sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Auftrag ist gesendet.</translation>
     </message>
     <message>
         <source>%1 on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf %2</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag %1: %2</translation>
     </message>
     <message>
         <source>Cancel the &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auftrag abbrechen</translation>
     </message>
 </context>
 <context>
@@ -359,33 +359,33 @@
     <message>
         <source>%1 %2</source>
         <comment>a number and its unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>in</source>
         <comment>inches</comment>
-        <translation type="unfinished"></translation>
+        <translation>Zoll</translation>
     </message>
     <message>
         <source>mm</source>
         <comment>millimetres</comment>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>%1 × %2 %3</source>
         <comment>width, length and their unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 %3</translation>
     </message>
 </context>
 <context>
     <name>dialog::OptionsPage</name>
     <message>
         <source>Groups of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen von Optionen</translation>
     </message>
     <message>
         <source>This printer has no other options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker hat keine weiteren Optionen.</translation>
     </message>
 </context>
 <context>
@@ -451,15 +451,15 @@
     <message>
         <source>Custom, %1</source>
         <comment>a size</comment>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Größe, %1</translation>
     </message>
     <message>
         <source>Use the document&apos;s size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Dokuments nehmen: %1</translation>
     </message>
     <message>
         <source>A custom size</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine eigene Größe</translation>
     </message>
 </context>
 <context>
@@ -467,38 +467,38 @@
     <message>
         <source>%1 wide</source>
         <comment>papers of that width</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 breit</translation>
     </message>
 </context>
 <context>
     <name>dialog::PaperList</name>
     <message>
         <source>%1 wide, %2 long</source>
-        <translation type="unfinished">%1 breit, %2 lang</translation>
+        <translation>%1 breit, %2 lang</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a paper&apos;s text and its name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Custom size…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Größe…</translation>
     </message>
 </context>
 <context>
     <name>dialog::PasswordDialog</name>
     <message>
         <source>Password for the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennwort für den Druckserver</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzername</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kennwort</translation>
     </message>
 </context>
 <context>
@@ -521,31 +521,31 @@
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
-        <translation type="unfinished">Die Schneideoptionen können nicht gezeigt werden. %1</translation>
+        <translation>Die Schneideoptionen können nicht gezeigt werden. %1</translation>
     </message>
     <message>
         <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker hat keine Beschreibung; seine Papiere und Schnitte sind hier deshalb nicht bekannt.</translation>
     </message>
     <message>
         <source>Waiting for the printer&apos;s description…</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf die Beschreibung des Druckers…</translation>
     </message>
     <message>
         <source>No printer is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Drucker gewählt.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf die Antwort des Druckservers…</translation>
     </message>
     <message>
         <source>The printer cannot do all of these together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker kann dies nicht alles zusammen.</translation>
     </message>
     <message>
         <source>Print anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem drucken</translation>
     </message>
 </context>
 <context>
@@ -567,58 +567,58 @@
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Senden abbrechen</translation>
     </message>
     <message>
         <source>Sending &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird gesendet</translation>
     </message>
 </context>
 <context>
     <name>dialog::SentPage</name>
     <message>
         <source>Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Option</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wert</translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Herkunft</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesendet</translation>
     </message>
     <message>
         <source>Options of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen des Auftrags</translation>
     </message>
     <message>
         <source>&amp;The same job on the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Derselbe Auftra&amp;g auf der Befehlszeile</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
-        <translation type="unfinished"></translation>
+        <source>Cop&amp;y</source>
+        <translation>Ko&amp;pieren</translation>
     </message>
     <message>
         <source>Copy the command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl kopieren</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
     </message>
 </context>
 <context>
@@ -647,76 +647,76 @@
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>Die PPD-Datei nennt kein Papier, auf das gedruckt werden kann</translation>
     </message>
 </context>
 <context>
     <name>host::ChoiceCheck</name>
     <message>
         <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker „%1“ hat keine Option „%2“.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker „%1“ hat kein Papier „%2“.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Option „%1“ des Druckers „%2“ hat keine Auswahl „%3“; sie hat: %4</translation>
     </message>
 </context>
 <context>
     <name>host::Constraints</name>
     <message>
         <source>&quot;%1: %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1: %2“</translation>
     </message>
     <message>
         <source>This printer cannot do %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker beherrscht %1 nicht.</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 schließen einander aus.</translation>
     </message>
     <message>
         <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ auf „%2“ setzen</translation>
     </message>
 </context>
 <context>
     <name>host::CupsConnection</name>
     <message>
         <source>Given up on request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Wunsch abgebrochen.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver „%1“ antwortet nicht.</translation>
     </message>
     <message>
         <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Verbindung zum Druckserver „%1“: %2</translation>
     </message>
     <message>
         <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zum Druckserver „%1“ ist abgebrochen.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; says: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver „%1“ meldet: %2</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver „%1“ liefert „%2“ nicht: %3</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist größer als %1 MB</translation>
     </message>
     <message>
         <source>the connection broke in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>die Verbindung brach mittendrin ab</translation>
     </message>
 </context>
 <context>
@@ -779,61 +779,61 @@
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument „%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished">es ist keine Datei</translation>
+        <translation>es ist keine Datei</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished">die Datei ist leer</translation>
+        <translation>die Datei ist leer</translation>
     </message>
     <message>
         <source>it has become shorter while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei wurde kürzer, während sie gelesen wurde</translation>
     </message>
 </context>
 <context>
     <name>host::JobChange</name>
     <message>
         <source>It is to be printed anew, but held. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Er soll neu gedruckt werden, wird aber zurückgehalten. %1</translation>
     </message>
     <message>
         <source>Job %1 was not changed. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag %1 wurde nicht geändert. %2</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
     </message>
 </context>
 <context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe des Druckers</translation>
     </message>
     <message>
         <source>queue default</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe der Warteschlange</translation>
     </message>
     <message>
         <source>your default (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Vorgabe (lpoptions)</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung</translation>
     </message>
     <message>
         <source>cut options</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneideoptionen</translation>
     </message>
     <message>
         <source>set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>von Ihnen gewählt</translation>
     </message>
 </context>
 <context>
@@ -841,117 +841,119 @@
     <message>
         <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag „%1“ für „%2“ auf %3
+</translation>
     </message>
     <message>
         <source>Options that are sent:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gesendete Optionen:
+</translation>
     </message>
 </context>
 <context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgehalten bis zur Freigabe.</translation>
     </message>
     <message>
         <source>Held until %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgehalten bis %1.</translation>
     </message>
     <message>
         <source>Waiting for its turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet, bis er an der Reihe ist.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gedruckt.</translation>
     </message>
     <message>
         <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten; es geht weiter, wenn der Drucker wieder bereit ist.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen.</translation>
     </message>
     <message>
         <source>Given up by the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Druckserver aufgegeben.</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedruckt.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server meldet: %1</translation>
     </message>
 </context>
 <context>
     <name>host::JobSummary</name>
     <message>
         <source>Printing</source>
-        <translation type="unfinished">Druck</translation>
+        <translation>Druck</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished">Dokument</translation>
+        <translation>Dokument</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Drucker</translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished">Papier</translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished">Seiten</translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished">alle</translation>
+        <translation>alle</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished">Kopien</translation>
+        <translation>Kopien</translation>
     </message>
     <message>
         <source>Label strip</source>
-        <translation type="unfinished">Etikettenstreifen</translation>
+        <translation>Etikettenstreifen</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished">Etiketten</translation>
+        <translation>Etiketten</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished">Stücke</translation>
+        <translation>Stücke</translation>
     </message>
     <message>
         <source>Tape</source>
-        <translation type="unfinished">Band</translation>
+        <translation>Band</translation>
     </message>
     <message>
         <source>Cuts</source>
-        <translation type="unfinished">Schnitte</translation>
+        <translation>Schnitte</translation>
     </message>
 </context>
 <context>
     <name>host::JobUpload</name>
     <message>
         <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken: %4</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Dokument zu drucken.</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
     </message>
 </context>
 <context>
@@ -994,86 +996,86 @@
     </message>
     <message>
         <source>Cannot open the document on standard input: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument von der Standardeingabe lässt sich nicht öffnen: %1</translation>
     </message>
     <message>
         <source>it is a damaged image</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein beschädigtes Bild</translation>
     </message>
     <message>
         <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>es hat %1 × %2 Pixel, mehr als sich drucken lassen</translation>
     </message>
     <message>
         <source>it is an image whose end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein Bild, dessen Ende fehlt</translation>
     </message>
     <message>
         <source>No document is named</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dokument angegeben</translation>
     </message>
     <message>
         <source>it can be read only once</source>
-        <translation type="unfinished"></translation>
+        <translation>sie lässt sich nur einmal lesen</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeingabe</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>it is longer than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist größer als %1</translation>
     </message>
     <message>
         <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein PDF, PNG, JPEG oder SVG</translation>
     </message>
     <message>
         <source>the file has changed since it was opened; open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
     </message>
     <message>
         <source>it is a damaged PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein beschädigtes PDF</translation>
     </message>
     <message>
         <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es lässt sich nicht in „%1“ ablegen: %2</translation>
     </message>
     <message>
         <source>it is a damaged SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein beschädigtes SVG</translation>
     </message>
     <message>
         <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>es verweist auf „%1“, und gedruckt wird nur, was im SVG selbst steht</translation>
     </message>
     <message>
         <source>line %1 of the SVG: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 des SVG: %2</translation>
     </message>
     <message>
         <source>it is an SVG of more parts than can be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein SVG aus mehr Teilen, als sich zeichnen lassen</translation>
     </message>
     <message>
         <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>es enthält ein Bild, das weder PNG noch JPEG ist</translation>
     </message>
     <message>
         <source>it has a damaged picture in it</source>
-        <translation type="unfinished"></translation>
+        <translation>es enthält ein beschädigtes Bild</translation>
     </message>
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
     </message>
 </context>
 <context>
@@ -1119,11 +1121,11 @@
     <name>host::PanelSource</name>
     <message>
         <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation type="unfinished">Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
+        <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
     </message>
     <message>
         <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation type="unfinished">Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
+        <translation>Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1167,11 @@
     <name>host::PpdOptions</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Printer control</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckersteuerung</translation>
     </message>
 </context>
 <context>
@@ -1187,181 +1189,181 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation type="unfinished">„%1“ kann die Einstellungen nicht speichern: %2</translation>
+        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation type="unfinished">„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
+        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueSession</name>
     <message>
         <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver „%1“ hat keine Warteschlange oder Klasse „%2“.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueWords</name>
     <message>
         <source>The printer waits for labels or tape.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker wartet auf Etiketten oder Band.</translation>
     </message>
     <message>
         <source>Labels or tape are jammed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiketten oder Band haben sich gestaut.</translation>
     </message>
     <message>
         <source>The label roll or tape is nearly empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Etikettenrolle oder das Band ist fast aufgebraucht.</translation>
     </message>
     <message>
         <source>The label roll or tape is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Etikettenrolle oder das Band ist aufgebraucht.</translation>
     </message>
     <message>
         <source>The printer is about to pause.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker wird gleich angehalten.</translation>
     </message>
     <message>
         <source>The queue is paused; jobs wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Warteschlange ist angehalten; Aufträge warten.</translation>
     </message>
     <message>
         <source>The printer is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker ist ausgeschaltet.</translation>
     </message>
     <message>
         <source>Connecting to the printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung zum Drucker wird hergestellt.</translation>
     </message>
     <message>
         <source>The printer does not respond.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker antwortet nicht.</translation>
     </message>
     <message>
         <source>The printer is stopping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker hält an.</translation>
     </message>
     <message>
         <source>Some printers of the class are stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Drucker der Klasse sind angehalten.</translation>
     </message>
     <message>
         <source>The toner is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Toner ist fast aufgebraucht.</translation>
     </message>
     <message>
         <source>The toner is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Toner ist aufgebraucht.</translation>
     </message>
     <message>
         <source>The print server has no space left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver hat keinen Platz mehr.</translation>
     </message>
     <message>
         <source>The printer&apos;s cover is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abdeckung des Druckers ist offen.</translation>
     </message>
     <message>
         <source>A lock of the printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Verriegelung des Druckers ist offen.</translation>
     </message>
     <message>
         <source>The printer&apos;s door is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Klappe des Druckers ist offen.</translation>
     </message>
     <message>
         <source>The cassette or roll holder is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kassette oder der Rollenhalter fehlt.</translation>
     </message>
     <message>
         <source>The output tray is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ausgabefach fehlt.</translation>
     </message>
     <message>
         <source>The output tray is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ausgabefach ist fast voll.</translation>
     </message>
     <message>
         <source>The output tray is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ausgabefach ist voll.</translation>
     </message>
     <message>
         <source>Ink or ribbon is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinte oder Farbband ist fast aufgebraucht.</translation>
     </message>
     <message>
         <source>Ink or ribbon is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinte oder Farbband ist aufgebraucht.</translation>
     </message>
     <message>
         <source>The waste box is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Abfallbehälter ist fast voll.</translation>
     </message>
     <message>
         <source>The waste box is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Abfallbehälter ist voll.</translation>
     </message>
     <message>
         <source>The printer is too hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker ist zu heiß.</translation>
     </message>
     <message>
         <source>The printer is warming up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker wärmt sich auf.</translation>
     </message>
     <message>
         <source>The printer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker ist offline.</translation>
     </message>
     <message>
         <source>New jobs are held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Aufträge werden zurückgehalten.</translation>
     </message>
     <message>
         <source>The printer is switched off by its administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker ist vom Verwalter abgeschaltet.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil des Druckertreibers fehlt.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil des Druckertreibers ist nicht sicher installiert.</translation>
     </message>
     <message>
         <source>Waiting for the printer to finish the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten, bis der Drucker den Auftrag beendet hat.</translation>
     </message>
     <message>
         <source>The printer does not follow its protocol.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker hält sich nicht an sein Protokoll.</translation>
     </message>
     <message>
         <source>Ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt.</translation>
     </message>
     <message>
         <source>Found on the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Netzwerk gefunden.</translation>
     </message>
     <message>
         <source>State unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand unbekannt.</translation>
     </message>
     <message>
         <source>The queue accepts no jobs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Warteschlange nimmt keine Aufträge an.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server meldet: %1</translation>
     </message>
 </context>
 <context>

@@ -5,16 +5,16 @@
     <name>dialog::ChoiceControl</name>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>non défini</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1…</source>
         <comment>a choice whose value is still to be given</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
 </context>
 <context>
@@ -55,79 +55,79 @@
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » n’existe pas</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » ne prend pas de valeur</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » demande une valeur : %2</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » concerne l’imprimante virtuelle et demande « --ppd »</translation>
     </message>
     <message>
         <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>-H : « %1 » concerne une tâche déjà envoyée et demande « -i »</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne prend pas de document, et « %2 » est indiqué</translation>
     </message>
     <message>
         <source>Standard input (&quot;-&quot;) can be printed only once</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entrée standard (« - ») ne peut être imprimée qu’une fois</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » ne va pas avec « %2 »</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; goes only together with one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » ne va qu’avec l’une de : %2</translation>
     </message>
     <message>
         <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document indiqué ; indiquez un fichier, ou « - » pour en saisir un</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur est vide</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un moment d’impression ; écrivez HH:MM ou HH:MM:SS (UTC), ou l’un de : %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas possible ; ce doit être l’un de : %2</translation>
     </message>
     <message>
         <source>it names no paper</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun papier n’est indiqué</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un nombre de copies ; il doit aller de 1 à %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une priorité ; elle doit aller de 1 (dernière) à 100 (première)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’indique aucune file d’attente ; écrivez QUEUE ou QUEUE/INSTANCE</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une tâche ; écrivez son numéro, ou QUEUE-NUMBER comme annoncé à l’envoi</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’indique aucune option ; écrivez NAME=VALUE</translation>
     </message>
 </context>
 <context>
@@ -135,101 +135,101 @@
     <message>
         <source>%1 to %2</source>
         <comment>the smallest and the largest length</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>Paper width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du papier</translation>
     </message>
     <message>
         <source>Paper length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur du papier</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Largeur</translation>
     </message>
     <message>
         <source>&amp;Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longue&amp;ur</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe d’imprimantes : %1</translation>
     </message>
     <message>
         <source>P&amp;rinter</source>
-        <translation type="unfinished"></translation>
+        <translation>Imp&amp;rimante</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Imprimante</translation>
+        <translation>Imprimante</translation>
     </message>
     <message>
         <source>There is no such printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante n’existe pas.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Attente de la réponse du serveur d’impression…</translation>
     </message>
     <message>
         <source>Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La dernière fois : %1</translation>
     </message>
     <message>
         <source>The print server does not answer. Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression ne répond pas. La dernière fois : %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
     <message>
         <source>(default)</source>
-        <translation type="unfinished"></translation>
+        <translation>(par défaut)</translation>
     </message>
     <message>
         <source>Class of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe de : %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DialogPages</name>
     <message>
         <source>Options, preview and summary</source>
-        <translation type="unfinished">Options, aperçu et résumé</translation>
+        <translation>Options, aperçu et résumé</translation>
     </message>
     <message>
         <source>Page pre&amp;view</source>
-        <translation type="unfinished">Ap&amp;erçu de la page</translation>
+        <translation>Ap&amp;erçu de la page</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
-        <translation type="unfinished">Ré&amp;sumé</translation>
+        <translation>Ré&amp;sumé</translation>
     </message>
     <message>
         <source>&amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tâche</translation>
     </message>
     <message>
         <source>&amp;What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>À en&amp;voyer</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Options</translation>
     </message>
 </context>
 <context>
     <name>dialog::FreeChoiceFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>« %1 » demande au moins %n caractère. D’ici là, le réglage reste tel qu’il était.</numerusform>
+            <numerusform>« %1 » demande au moins %n caractères. D’ici là, le réglage reste tel qu’il était.</numerusform>
         </translation>
     </message>
 </context>
@@ -237,121 +237,121 @@
     <name>dialog::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » n’a aucune destination où imprimer</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être « %2 » avec les autres options de coupe et sera imprimé comme « %3 »</translation>
     </message>
     <message>
         <source>This would help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Solution possible : %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobPage</name>
     <message>
         <source>Time to print at</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure d’impression</translation>
     </message>
     <message>
         <source>As the queue is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage de la file d’attente</translation>
     </message>
     <message>
         <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation type="unfinished"></translation>
+        <translation>De 1 à 100 ; les tâches de priorité plus élevée sont imprimées avant les autres</translation>
     </message>
     <message>
         <source>Job &amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom &amp;de la tâche</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <source>Orienta&amp;tion</source>
+        <translation>Orie&amp;ntation</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
-        <translation type="unfinished"></translation>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Quand imprimer</translation>
     </message>
     <message>
         <source>Priorit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Priorité</translation>
     </message>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage de l’imprimante</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage inversé</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait inversé</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenant</translation>
     </message>
     <message>
         <source>When I release it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand je libère la tâche</translation>
     </message>
     <message>
         <source>At a time</source>
-        <translation type="unfinished"></translation>
+        <translation>À une heure donnée</translation>
     </message>
     <message>
         <source>During the day</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant la journée</translation>
     </message>
     <message>
         <source>In the evening</source>
-        <translation type="unfinished"></translation>
+        <translation>En soirée</translation>
     </message>
     <message>
         <source>At night</source>
-        <translation type="unfinished"></translation>
+        <translation>La nuit</translation>
     </message>
     <message>
         <source>In the second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant la deuxième équipe</translation>
     </message>
     <message>
         <source>In the third shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant la troisième équipe</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>Le week-end</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobWindow</name>
     <message>
         <source>The job is sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche est envoyée.</translation>
     </message>
     <message>
         <source>%1 on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche %1 : %2</translation>
     </message>
     <message>
         <source>Cancel the &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la &amp;tâche</translation>
     </message>
 </context>
 <context>
@@ -359,33 +359,33 @@
     <message>
         <source>%1 %2</source>
         <comment>a number and its unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>in</source>
         <comment>inches</comment>
-        <translation type="unfinished"></translation>
+        <translation>po</translation>
     </message>
     <message>
         <source>mm</source>
         <comment>millimetres</comment>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>%1 × %2 %3</source>
         <comment>width, length and their unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 %3</translation>
     </message>
 </context>
 <context>
     <name>dialog::OptionsPage</name>
     <message>
         <source>Groups of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes d’options</translation>
     </message>
     <message>
         <source>This printer has no other options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante n’a pas d’autres options.</translation>
     </message>
 </context>
 <context>
@@ -451,15 +451,15 @@
     <message>
         <source>Custom, %1</source>
         <comment>a size</comment>
-        <translation type="unfinished"></translation>
+        <translation>Personnalisé, %1</translation>
     </message>
     <message>
         <source>Use the document&apos;s size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre la taille du document : %1</translation>
     </message>
     <message>
         <source>A custom size</source>
-        <translation type="unfinished"></translation>
+        <translation>Une taille personnalisée</translation>
     </message>
 </context>
 <context>
@@ -467,38 +467,38 @@
     <message>
         <source>%1 wide</source>
         <comment>papers of that width</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 de large</translation>
     </message>
 </context>
 <context>
     <name>dialog::PaperList</name>
     <message>
         <source>%1 wide, %2 long</source>
-        <translation type="unfinished">%1 de large, %2 de long</translation>
+        <translation>%1 de large, %2 de long</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a paper&apos;s text and its name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Custom size…</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille personnalisée…</translation>
     </message>
 </context>
 <context>
     <name>dialog::PasswordDialog</name>
     <message>
         <source>Password for the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe du serveur d’impression</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’&amp;utilisateur</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mot de passe</translation>
     </message>
 </context>
 <context>
@@ -521,31 +521,31 @@
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
-        <translation type="unfinished">Les options de coupe ne peuvent pas être affichées. %1</translation>
+        <translation>Les options de coupe ne peuvent pas être affichées. %1</translation>
     </message>
     <message>
         <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante n’a pas de description ; ses papiers et ses coupes ne sont donc pas connus ici.</translation>
     </message>
     <message>
         <source>Waiting for the printer&apos;s description…</source>
-        <translation type="unfinished"></translation>
+        <translation>Attente de la description de l’imprimante…</translation>
     </message>
     <message>
         <source>No printer is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune imprimante n’est choisie.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Attente de la réponse du serveur d’impression…</translation>
     </message>
     <message>
         <source>The printer cannot do all of these together.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante ne peut pas faire tout cela à la fois.</translation>
     </message>
     <message>
         <source>Print anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer quand même</translation>
     </message>
 </context>
 <context>
@@ -567,58 +567,58 @@
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l’envoi</translation>
     </message>
     <message>
         <source>Sending &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi de « %1 »</translation>
     </message>
 </context>
 <context>
     <name>dialog::SentPage</name>
     <message>
         <source>Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Option</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valeur</translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyée</translation>
     </message>
     <message>
         <source>Options of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de la tâche</translation>
     </message>
     <message>
         <source>&amp;The same job on the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>La même tâche en ligne de comman&amp;de</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
-        <translation type="unfinished"></translation>
+        <source>Cop&amp;y</source>
+        <translation>Co&amp;pier</translation>
     </message>
     <message>
         <source>Copy the command</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la commande</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>oui</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>non</translation>
     </message>
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
     </message>
 </context>
 <context>
@@ -647,76 +647,76 @@
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier PPD n’indique aucun papier</translation>
     </message>
 </context>
 <context>
     <name>host::ChoiceCheck</name>
     <message>
         <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante « %1 » n’a pas d’option « %2 ».</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante « %1 » n’a pas de papier « %2 ».</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option « %1 » de l’imprimante « %2 » n’a pas de choix « %3 » ; elle a : %4</translation>
     </message>
 </context>
 <context>
     <name>host::Constraints</name>
     <message>
         <source>&quot;%1: %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 : %2 »</translation>
     </message>
     <message>
         <source>This printer cannot do %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante ne permet pas %1.</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 s’excluent mutuellement.</translation>
     </message>
     <message>
         <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>régler « %1 » sur « %2 »</translation>
     </message>
 </context>
 <context>
     <name>host::CupsConnection</name>
     <message>
         <source>Given up on request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonné à votre demande.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » ne répond pas.</translation>
     </message>
     <message>
         <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter au serveur d’impression « %1 » : %2</translation>
     </message>
     <message>
         <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion au serveur d’impression « %1 » a été interrompue.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; says: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » indique : %2</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » ne fournit pas « %2 » : %3</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier dépasse %1 Mo</translation>
     </message>
     <message>
         <source>the connection broke in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>la connexion a été interrompue en cours de route</translation>
     </message>
 </context>
 <context>
@@ -779,61 +779,61 @@
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le document « %1 » : %2</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished">ce n’est pas un fichier</translation>
+        <translation>ce n’est pas un fichier</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished">il est vide</translation>
+        <translation>il est vide</translation>
     </message>
     <message>
         <source>it has become shorter while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>il a raccourci pendant la lecture</translation>
     </message>
 </context>
 <context>
     <name>host::JobChange</name>
     <message>
         <source>It is to be printed anew, but held. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle doit être réimprimée, mais est retenue. %1</translation>
     </message>
     <message>
         <source>Job %1 was not changed. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche %1 n’a pas été modifiée. %2</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
     </message>
 </context>
 <context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
-        <translation type="unfinished"></translation>
+        <translation>défaut de l’imprimante</translation>
     </message>
     <message>
         <source>queue default</source>
-        <translation type="unfinished"></translation>
+        <translation>défaut de la file d’attente</translation>
     </message>
     <message>
         <source>your default (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>votre défaut (lpoptions)</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>préréglage</translation>
     </message>
     <message>
         <source>cut options</source>
-        <translation type="unfinished"></translation>
+        <translation>options de coupe</translation>
     </message>
     <message>
         <source>set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>réglé par vous</translation>
     </message>
 </context>
 <context>
@@ -841,117 +841,119 @@
     <message>
         <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche « %1 » pour « %2 » sur %3
+</translation>
     </message>
     <message>
         <source>Options that are sent:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Options envoyées :
+</translation>
     </message>
 </context>
 <context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retenue jusqu’à sa libération.</translation>
     </message>
     <message>
         <source>Held until %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retenue jusqu’à %1.</translation>
     </message>
     <message>
         <source>Waiting for its turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de son tour.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression en cours.</translation>
     </message>
     <message>
         <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêtée ; elle reprend quand l’imprimante est de nouveau prête.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulée.</translation>
     </message>
     <message>
         <source>Given up by the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonnée par le serveur d’impression.</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimée.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur indique : %1</translation>
     </message>
 </context>
 <context>
     <name>host::JobSummary</name>
     <message>
         <source>Printing</source>
-        <translation type="unfinished">Impression</translation>
+        <translation>Impression</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished">Document</translation>
+        <translation>Document</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Imprimante</translation>
+        <translation>Imprimante</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished">Papier</translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished">Pages</translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished">toutes</translation>
+        <translation>toutes</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished">Copies</translation>
+        <translation>Copies</translation>
     </message>
     <message>
         <source>Label strip</source>
-        <translation type="unfinished">Bande d’étiquettes</translation>
+        <translation>Bande d’étiquettes</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished">Étiquettes</translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished">Morceaux</translation>
+        <translation>Morceaux</translation>
     </message>
     <message>
         <source>Tape</source>
-        <translation type="unfinished">Ruban</translation>
+        <translation>Ruban</translation>
     </message>
     <message>
         <source>Cuts</source>
-        <translation type="unfinished">Coupes</translation>
+        <translation>Coupes</translation>
     </message>
 </context>
 <context>
     <name>host::JobUpload</name>
     <message>
         <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau : %4</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun document à imprimer.</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -994,86 +996,86 @@
     </message>
     <message>
         <source>Cannot open the document on standard input: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le document de l’entrée standard : %1</translation>
     </message>
     <message>
         <source>it is a damaged image</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est une image endommagée</translation>
     </message>
     <message>
         <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>il a %1 × %2 pixels, plus qu’il n’est possible d’imprimer</translation>
     </message>
     <message>
         <source>it is an image whose end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est une image dont la fin manque</translation>
     </message>
     <message>
         <source>No document is named</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document n’est indiqué</translation>
     </message>
     <message>
         <source>it can be read only once</source>
-        <translation type="unfinished"></translation>
+        <translation>elle ne peut être lue qu’une fois</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée standard</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source>it is longer than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il dépasse %1</translation>
     </message>
     <message>
         <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est ni un PDF, ni un PNG, ni un JPEG, ni un SVG</translation>
     </message>
     <message>
         <source>the file has changed since it was opened; open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
     </message>
     <message>
         <source>it is a damaged PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un PDF endommagé</translation>
     </message>
     <message>
         <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne peut pas être conservé dans « %1 » : %2</translation>
     </message>
     <message>
         <source>it is a damaged SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un SVG endommagé</translation>
     </message>
     <message>
         <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>il renvoie à « %1 », et seul le contenu du SVG même est imprimé</translation>
     </message>
     <message>
         <source>line %1 of the SVG: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1 du SVG : %2</translation>
     </message>
     <message>
         <source>it is an SVG of more parts than can be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un SVG de plus d’éléments qu’il n’est possible d’en dessiner</translation>
     </message>
     <message>
         <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient une image qui n’est ni PNG ni JPEG</translation>
     </message>
     <message>
         <source>it has a damaged picture in it</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient une image endommagée</translation>
     </message>
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
     </message>
 </context>
 <context>
@@ -1119,11 +1121,11 @@
     <name>host::PanelSource</name>
     <message>
         <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation type="unfinished">Le paquet « %1 » n’a pas pu créer son panneau</translation>
+        <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
     </message>
     <message>
         <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation type="unfinished">Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
+        <translation>Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1167,11 @@
     <name>host::PpdOptions</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Printer control</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande de l’imprimante</translation>
     </message>
 </context>
 <context>
@@ -1187,181 +1189,181 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation type="unfinished">« %1 » ne peut pas enregistrer ses réglages : %2</translation>
+        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation type="unfinished">« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
+        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueSession</name>
     <message>
         <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » n’a pas de file d’attente ou de classe « %2 ».</translation>
     </message>
 </context>
 <context>
     <name>host::QueueWords</name>
     <message>
         <source>The printer waits for labels or tape.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante attend des étiquettes ou du ruban.</translation>
     </message>
     <message>
         <source>Labels or tape are jammed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des étiquettes ou du ruban sont coincés.</translation>
     </message>
     <message>
         <source>The label roll or tape is nearly empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rouleau d’étiquettes ou le ruban est presque épuisé.</translation>
     </message>
     <message>
         <source>The label roll or tape is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rouleau d’étiquettes ou le ruban est épuisé.</translation>
     </message>
     <message>
         <source>The printer is about to pause.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante va être mise en pause.</translation>
     </message>
     <message>
         <source>The queue is paused; jobs wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>La file d’attente est en pause ; les tâches attendent.</translation>
     </message>
     <message>
         <source>The printer is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante est éteinte.</translation>
     </message>
     <message>
         <source>Connecting to the printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à l’imprimante en cours.</translation>
     </message>
     <message>
         <source>The printer does not respond.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante ne répond pas.</translation>
     </message>
     <message>
         <source>The printer is stopping.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante s’arrête.</translation>
     </message>
     <message>
         <source>Some printers of the class are stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines imprimantes de la classe sont arrêtées.</translation>
     </message>
     <message>
         <source>The toner is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le toner est presque épuisé.</translation>
     </message>
     <message>
         <source>The toner is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le toner est épuisé.</translation>
     </message>
     <message>
         <source>The print server has no space left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a plus d’espace.</translation>
     </message>
     <message>
         <source>The printer&apos;s cover is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le capot de l’imprimante est ouvert.</translation>
     </message>
     <message>
         <source>A lock of the printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un verrou de l’imprimante est ouvert.</translation>
     </message>
     <message>
         <source>The printer&apos;s door is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte de l’imprimante est ouverte.</translation>
     </message>
     <message>
         <source>The cassette or roll holder is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cassette ou le support de rouleau manque.</translation>
     </message>
     <message>
         <source>The output tray is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bac de sortie manque.</translation>
     </message>
     <message>
         <source>The output tray is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bac de sortie est presque plein.</translation>
     </message>
     <message>
         <source>The output tray is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bac de sortie est plein.</translation>
     </message>
     <message>
         <source>Ink or ribbon is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’encre ou le ruban encreur est presque épuisé.</translation>
     </message>
     <message>
         <source>Ink or ribbon is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’encre ou le ruban encreur est épuisé.</translation>
     </message>
     <message>
         <source>The waste box is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bac de récupération est presque plein.</translation>
     </message>
     <message>
         <source>The waste box is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bac de récupération est plein.</translation>
     </message>
     <message>
         <source>The printer is too hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante est trop chaude.</translation>
     </message>
     <message>
         <source>The printer is warming up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante préchauffe.</translation>
     </message>
     <message>
         <source>The printer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante est hors ligne.</translation>
     </message>
     <message>
         <source>New jobs are held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les nouvelles tâches sont retenues.</translation>
     </message>
     <message>
         <source>The printer is switched off by its administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante est désactivée par son administrateur.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie du pilote de l’imprimante manque.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie du pilote de l’imprimante n’est pas installée de façon sûre.</translation>
     </message>
     <message>
         <source>Waiting for the printer to finish the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attente de la fin de la tâche par l’imprimante.</translation>
     </message>
     <message>
         <source>The printer does not follow its protocol.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante ne respecte pas son protocole.</translation>
     </message>
     <message>
         <source>Ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prête.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression en cours.</translation>
     </message>
     <message>
         <source>Found on the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvée sur le réseau.</translation>
     </message>
     <message>
         <source>State unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>État inconnu.</translation>
     </message>
     <message>
         <source>The queue accepts no jobs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La file d’attente n’accepte pas de tâches.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur indique : %1</translation>
     </message>
 </context>
 <context>

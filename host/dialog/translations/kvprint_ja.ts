@@ -5,16 +5,16 @@
     <name>dialog::ChoiceControl</name>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>未設定</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1…</source>
         <comment>a choice whose value is still to be given</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
 </context>
 <context>
@@ -55,79 +55,79 @@
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」はありません</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」に値は指定できません</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」には値が必要です: %2</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」は仮想プリンター用で、「--ppd」が必要です</translation>
     </message>
     <message>
         <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>-H: 「%1」は送信済みのジョブ用で、「-i」が必要です</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」に文書は指定できませんが、「%2」が指定されています</translation>
     </message>
     <message>
         <source>Standard input (&quot;-&quot;) can be printed only once</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力 (「-」) を印刷できるのは 1 回だけです</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」と「%2」は同時に指定できません</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; goes only together with one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」は次のいずれかと一緒に指定してください: %2</translation>
     </message>
     <message>
         <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
-        <translation type="unfinished"></translation>
+        <translation>文書が指定されていません。ファイル、または入力する場合は「-」を指定してください</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>値が空です</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は印刷時刻として使えません。HH:MM または HH:MM:SS (UTC)、または次のいずれかを指定してください: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は使えません。次のいずれかを指定してください: %2</translation>
     </message>
     <message>
         <source>it names no paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙が指定されていません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は部数として使えません。1 から %2 までで指定してください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は優先度として使えません。1 (最後) から 100 (最初) までで指定してください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はキューを指していません。QUEUE または QUEUE/INSTANCE と書いてください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はジョブではありません。ジョブ番号、または送信時に表示された QUEUE-NUMBER を指定してください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はオプションを指していません。NAME=VALUE と書いてください</translation>
     </message>
 </context>
 <context>
@@ -135,100 +135,100 @@
     <message>
         <source>%1 to %2</source>
         <comment>the smallest and the largest length</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ～ %2</translation>
     </message>
     <message>
         <source>Paper width</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の幅</translation>
     </message>
     <message>
         <source>Paper length</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の長さ</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <source>Wi&amp;dth</source>
+        <translation>幅(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Length</source>
-        <translation type="unfinished"></translation>
+        <translation>長さ(&amp;L)</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンタークラス: %1</translation>
     </message>
     <message>
         <source>P&amp;rinter</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター(&amp;R)</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">プリンター</translation>
+        <translation>プリンター</translation>
     </message>
     <message>
         <source>There is no such printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターがありません。</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーの応答を待っています…</translation>
     </message>
     <message>
         <source>Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>前回: %1</translation>
     </message>
     <message>
         <source>The print server does not answer. Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーが応答しません。前回: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
     <message>
         <source>(default)</source>
-        <translation type="unfinished"></translation>
+        <translation>(既定)</translation>
     </message>
     <message>
         <source>Class of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>クラスの構成: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DialogPages</name>
     <message>
         <source>Options, preview and summary</source>
-        <translation type="unfinished">オプション、プレビュー、概要</translation>
+        <translation>オプション、プレビュー、概要</translation>
     </message>
     <message>
         <source>Page pre&amp;view</source>
-        <translation type="unfinished">ページのプレビュー(&amp;V)</translation>
+        <translation>ページのプレビュー(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
-        <translation type="unfinished">概要(&amp;S)</translation>
+        <translation>概要(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ(&amp;J)</translation>
     </message>
     <message>
         <source>&amp;What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>送信内容(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション(&amp;O)</translation>
     </message>
 </context>
 <context>
     <name>dialog::FreeChoiceFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>「%1」には %n 文字以上が必要です。それまでは元の設定のままです。</numerusform>
         </translation>
     </message>
 </context>
@@ -236,121 +236,121 @@
     <name>dialog::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」に印刷先がありません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はほかのカットオプションとの組み合わせで「%2」にできないため、「%3」として印刷されます</translation>
     </message>
     <message>
         <source>This would help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>解決方法: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobPage</name>
     <message>
         <source>Time to print at</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷する時刻</translation>
     </message>
     <message>
         <source>As the queue is set</source>
-        <translation type="unfinished"></translation>
+        <translation>キューの設定に従う</translation>
     </message>
     <message>
         <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation type="unfinished"></translation>
+        <translation>1 から 100 まで。優先度の高いジョブが先に印刷されます</translation>
     </message>
     <message>
         <source>Job &amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ名(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <source>Orienta&amp;tion</source>
+        <translation>印刷の向き(&amp;T)</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
-        <translation type="unfinished"></translation>
+        <source>Pr&amp;int it</source>
+        <translation>印刷のタイミング(&amp;I)</translation>
     </message>
     <message>
         <source>Priorit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>優先度(&amp;Y)</translation>
     </message>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの設定に従う</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>縦</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>横</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>横 (逆向き)</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>縦 (逆向き)</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ</translation>
     </message>
     <message>
         <source>When I release it</source>
-        <translation type="unfinished"></translation>
+        <translation>保留を解除したとき</translation>
     </message>
     <message>
         <source>At a time</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻を指定</translation>
     </message>
     <message>
         <source>During the day</source>
-        <translation type="unfinished"></translation>
+        <translation>日中</translation>
     </message>
     <message>
         <source>In the evening</source>
-        <translation type="unfinished"></translation>
+        <translation>夕方</translation>
     </message>
     <message>
         <source>At night</source>
-        <translation type="unfinished"></translation>
+        <translation>夜間</translation>
     </message>
     <message>
         <source>In the second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>第 2 シフト</translation>
     </message>
     <message>
         <source>In the third shift</source>
-        <translation type="unfinished"></translation>
+        <translation>第 3 シフト</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>週末</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobWindow</name>
     <message>
         <source>The job is sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブを送信しました。</translation>
     </message>
     <message>
         <source>%1 on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1: %2</translation>
     </message>
     <message>
         <source>Cancel the &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブをキャンセル(&amp;J)</translation>
     </message>
 </context>
 <context>
@@ -358,33 +358,33 @@
     <message>
         <source>%1 %2</source>
         <comment>a number and its unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>in</source>
         <comment>inches</comment>
-        <translation type="unfinished"></translation>
+        <translation>インチ</translation>
     </message>
     <message>
         <source>mm</source>
         <comment>millimetres</comment>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>%1 × %2 %3</source>
         <comment>width, length and their unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 %3</translation>
     </message>
 </context>
 <context>
     <name>dialog::OptionsPage</name>
     <message>
         <source>Groups of options</source>
-        <translation type="unfinished"></translation>
+        <translation>オプションのグループ</translation>
     </message>
     <message>
         <source>This printer has no other options.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターにほかのオプションはありません。</translation>
     </message>
 </context>
 <context>
@@ -450,15 +450,15 @@
     <message>
         <source>Custom, %1</source>
         <comment>a size</comment>
-        <translation type="unfinished"></translation>
+        <translation>カスタム、%1</translation>
     </message>
     <message>
         <source>Use the document&apos;s size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>文書のサイズを使う: %1</translation>
     </message>
     <message>
         <source>A custom size</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタムサイズ</translation>
     </message>
 </context>
 <context>
@@ -466,38 +466,38 @@
     <message>
         <source>%1 wide</source>
         <comment>papers of that width</comment>
-        <translation type="unfinished"></translation>
+        <translation>幅 %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::PaperList</name>
     <message>
         <source>%1 wide, %2 long</source>
-        <translation type="unfinished">幅 %1、長さ %2</translation>
+        <translation>幅 %1、長さ %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a paper&apos;s text and its name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Custom size…</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタムサイズ…</translation>
     </message>
 </context>
 <context>
     <name>dialog::PasswordDialog</name>
     <message>
         <source>Password for the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーのパスワード</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー名(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -520,31 +520,31 @@
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
-        <translation type="unfinished">カットのオプションを表示できません。%1</translation>
+        <translation>カットオプションを表示できません。%1</translation>
     </message>
     <message>
         <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの記述がないため、用紙とカットの情報がありません。</translation>
     </message>
     <message>
         <source>Waiting for the printer&apos;s description…</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの記述を待っています…</translation>
     </message>
     <message>
         <source>No printer is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが選択されていません。</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーの応答を待っています…</translation>
     </message>
     <message>
         <source>The printer cannot do all of these together.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの設定をすべて同時に使うことはできません。</translation>
     </message>
     <message>
         <source>Print anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>このまま印刷</translation>
     </message>
 </context>
 <context>
@@ -566,58 +566,58 @@
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
-        <translation type="unfinished"></translation>
+        <translation>送信を中止</translation>
     </message>
     <message>
         <source>Sending &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を送信中</translation>
     </message>
 </context>
 <context>
     <name>dialog::SentPage</name>
     <message>
         <source>Option</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">値</translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>設定元</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>送信</translation>
     </message>
     <message>
         <source>Options of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブのオプション</translation>
     </message>
     <message>
         <source>&amp;The same job on the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドラインでの同じジョブ(&amp;T)</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
-        <translation type="unfinished"></translation>
+        <source>Cop&amp;y</source>
+        <translation>コピー(&amp;Y)</translation>
     </message>
     <message>
         <source>Copy the command</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドをコピー</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
     </message>
 </context>
 <context>
@@ -646,76 +646,76 @@
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD ファイルに用紙がありません</translation>
     </message>
 </context>
 <context>
     <name>host::ChoiceCheck</name>
     <message>
         <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター「%1」にオプション「%2」はありません。</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター「%1」に用紙「%2」はありません。</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター「%2」のオプション「%1」に選択肢「%3」はありません。使える選択肢: %4</translation>
     </message>
 </context>
 <context>
     <name>host::Constraints</name>
     <message>
         <source>&quot;%1: %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1: %2」</translation>
     </message>
     <message>
         <source>This printer cannot do %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターは%1に対応していません。</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1と%2は同時に使えません。</translation>
     </message>
     <message>
         <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を「%2」にする</translation>
     </message>
 </context>
 <context>
     <name>host::CupsConnection</name>
     <message>
         <source>Given up on request.</source>
-        <translation type="unfinished"></translation>
+        <translation>要求により中止しました。</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」が応答しません。</translation>
     </message>
     <message>
         <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」に接続できません: %2</translation>
     </message>
     <message>
         <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」との接続が切れました。</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; says: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」からのメッセージ: %2</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」から「%2」を取得できません: %3</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB を超えています</translation>
     </message>
     <message>
         <source>the connection broke in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>途中で接続が切れました</translation>
     </message>
 </context>
 <context>
@@ -778,61 +778,61 @@
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>文書「%1」を読めません: %2</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished">ファイルではありません</translation>
+        <translation>ファイルではありません</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished">空です</translation>
+        <translation>空です</translation>
     </message>
     <message>
         <source>it has become shorter while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み中に短くなりました</translation>
     </message>
 </context>
 <context>
     <name>host::JobChange</name>
     <message>
         <source>It is to be printed anew, but held. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>再印刷の対象ですが、保留されています。%1</translation>
     </message>
     <message>
         <source>Job %1 was not changed. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1 は変更されませんでした。%2</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
     </message>
 </context>
 <context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値</translation>
     </message>
     <message>
         <source>queue default</source>
-        <translation type="unfinished"></translation>
+        <translation>キューの既定値</translation>
     </message>
     <message>
         <source>your default (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーの既定値 (lpoptions)</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>cut options</source>
-        <translation type="unfinished"></translation>
+        <translation>カットオプション</translation>
     </message>
     <message>
         <source>set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーの設定</translation>
     </message>
 </context>
 <context>
@@ -840,117 +840,119 @@
     <message>
         <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ「%1」、送信先「%2」(%3)
+</translation>
     </message>
     <message>
         <source>Options that are sent:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>送信されるオプション:
+</translation>
     </message>
 </context>
 <context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
-        <translation type="unfinished"></translation>
+        <translation>保留中。解除されるまで待ちます。</translation>
     </message>
     <message>
         <source>Held until %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 まで保留中。</translation>
     </message>
     <message>
         <source>Waiting for its turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>順番を待っています。</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷中。</translation>
     </message>
     <message>
         <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>停止中。プリンターの準備ができると再開します。</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルされました。</translation>
     </message>
     <message>
         <source>Given up by the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーが中止しました。</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷しました。</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーからのメッセージ: %1</translation>
     </message>
 </context>
 <context>
     <name>host::JobSummary</name>
     <message>
         <source>Printing</source>
-        <translation type="unfinished">印刷</translation>
+        <translation>印刷</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished">文書</translation>
+        <translation>文書</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">プリンター</translation>
+        <translation>プリンター</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished">用紙</translation>
+        <translation>用紙</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished">ページ</translation>
+        <translation>ページ</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished">すべて</translation>
+        <translation>すべて</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished">部数</translation>
+        <translation>部数</translation>
     </message>
     <message>
         <source>Label strip</source>
-        <translation type="unfinished">ラベルの帯</translation>
+        <translation>ラベルの帯</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished">ラベル</translation>
+        <translation>ラベル</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished">切り離し片</translation>
+        <translation>切り離し片</translation>
     </message>
     <message>
         <source>Tape</source>
-        <translation type="unfinished">テープ</translation>
+        <translation>テープ</translation>
     </message>
     <message>
         <source>Cuts</source>
-        <translation type="unfinished">カット</translation>
+        <translation>カット</translation>
     </message>
 </context>
 <context>
     <name>host::JobUpload</name>
     <message>
         <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください: %4</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷する文書がありません。</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
     </message>
 </context>
 <context>
@@ -993,85 +995,85 @@
     </message>
     <message>
         <source>Cannot open the document on standard input: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力の文書を開けません: %1</translation>
     </message>
     <message>
         <source>it is a damaged image</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が壊れています</translation>
     </message>
     <message>
         <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 ピクセルあり、印刷できる大きさを超えています</translation>
     </message>
     <message>
         <source>it is an image whose end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の終わりが欠けています</translation>
     </message>
     <message>
         <source>No document is named</source>
-        <translation type="unfinished"></translation>
+        <translation>文書が指定されていません</translation>
     </message>
     <message>
         <source>it can be read only once</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込めるのは 1 回だけです</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>it is longer than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を超えています</translation>
     </message>
     <message>
         <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF、PNG、JPEG、SVG のいずれでもありません</translation>
     </message>
     <message>
         <source>the file has changed since it was opened; open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
     </message>
     <message>
         <source>it is a damaged PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF が壊れています</translation>
     </message>
     <message>
         <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」に保存できません: %2</translation>
     </message>
     <message>
         <source>it is a damaged SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG が壊れています</translation>
     </message>
     <message>
         <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を参照していますが、印刷されるのは SVG 自体の内容だけです</translation>
     </message>
     <message>
         <source>line %1 of the SVG: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG の %1 行目: %2</translation>
     </message>
     <message>
         <source>it is an SVG of more parts than can be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG の要素が多すぎて描画できません</translation>
     </message>
     <message>
         <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG でも JPEG でもない画像を含んでいます</translation>
     </message>
     <message>
         <source>it has a damaged picture in it</source>
-        <translation type="unfinished"></translation>
+        <translation>壊れた画像を含んでいます</translation>
     </message>
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
     </message>
 </context>
 <context>
@@ -1117,11 +1119,11 @@
     <name>host::PanelSource</name>
     <message>
         <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation type="unfinished">バンドル「%1」はパネルを作成できませんでした</translation>
+        <translation>バンドル「%1」はパネルを作成できませんでした</translation>
     </message>
     <message>
         <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation type="unfinished">バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
+        <translation>バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
     </message>
 </context>
 <context>
@@ -1163,11 +1165,11 @@
     <name>host::PpdOptions</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>一般</translation>
     </message>
     <message>
         <source>Printer control</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター制御</translation>
     </message>
 </context>
 <context>
@@ -1185,181 +1187,181 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation type="unfinished">「%1」の設定を保存できません: %2</translation>
+        <translation>「%1」の設定を保存できません: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation type="unfinished">「%1」はこの設定での印刷を許可していません。</translation>
+        <translation>「%1」はこの設定での印刷を許可していません。</translation>
     </message>
 </context>
 <context>
     <name>host::QueueSession</name>
     <message>
         <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」にキューまたはクラス「%2」はありません。</translation>
     </message>
 </context>
 <context>
     <name>host::QueueWords</name>
     <message>
         <source>The printer waits for labels or tape.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルまたはテープの補給を待っています。</translation>
     </message>
     <message>
         <source>Labels or tape are jammed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルまたはテープが詰まっています。</translation>
     </message>
     <message>
         <source>The label roll or tape is nearly empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルロールまたはテープの残りがわずかです。</translation>
     </message>
     <message>
         <source>The label roll or tape is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルロールまたはテープがなくなりました。</translation>
     </message>
     <message>
         <source>The printer is about to pause.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターは一時停止するところです。</translation>
     </message>
     <message>
         <source>The queue is paused; jobs wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>キューは一時停止中です。ジョブは待機します。</translation>
     </message>
     <message>
         <source>The printer is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの電源が切れています。</translation>
     </message>
     <message>
         <source>Connecting to the printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターに接続中。</translation>
     </message>
     <message>
         <source>The printer does not respond.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが応答しません。</translation>
     </message>
     <message>
         <source>The printer is stopping.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターを停止しています。</translation>
     </message>
     <message>
         <source>Some printers of the class are stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>クラスの一部のプリンターが停止しています。</translation>
     </message>
     <message>
         <source>The toner is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>トナーの残りがわずかです。</translation>
     </message>
     <message>
         <source>The toner is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>トナーがなくなりました。</translation>
     </message>
     <message>
         <source>The print server has no space left.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーに空き容量がありません。</translation>
     </message>
     <message>
         <source>The printer&apos;s cover is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのカバーが開いています。</translation>
     </message>
     <message>
         <source>A lock of the printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのロックが外れています。</translation>
     </message>
     <message>
         <source>The printer&apos;s door is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのドアが開いています。</translation>
     </message>
     <message>
         <source>The cassette or roll holder is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>カセットまたはロールホルダーがありません。</translation>
     </message>
     <message>
         <source>The output tray is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>排紙トレイがありません。</translation>
     </message>
     <message>
         <source>The output tray is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>排紙トレイがもうすぐいっぱいです。</translation>
     </message>
     <message>
         <source>The output tray is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>排紙トレイがいっぱいです。</translation>
     </message>
     <message>
         <source>Ink or ribbon is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>インクまたはインクリボンの残りがわずかです。</translation>
     </message>
     <message>
         <source>Ink or ribbon is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>インクまたはインクリボンがなくなりました。</translation>
     </message>
     <message>
         <source>The waste box is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>回収ボックスがもうすぐいっぱいです。</translation>
     </message>
     <message>
         <source>The waste box is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>回収ボックスがいっぱいです。</translation>
     </message>
     <message>
         <source>The printer is too hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターが熱くなりすぎています。</translation>
     </message>
     <message>
         <source>The printer is warming up.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターはウォームアップ中です。</translation>
     </message>
     <message>
         <source>The printer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターはオフラインです。</translation>
     </message>
     <message>
         <source>New jobs are held.</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいジョブは保留されます。</translation>
     </message>
     <message>
         <source>The printer is switched off by its administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターは管理者によって無効にされています。</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンタードライバーの一部がありません。</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンタードライバーの一部が安全にインストールされていません。</translation>
     </message>
     <message>
         <source>Waiting for the printer to finish the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターがジョブを終えるのを待っています。</translation>
     </message>
     <message>
         <source>The printer does not follow its protocol.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターがプロトコルに従っていません。</translation>
     </message>
     <message>
         <source>Ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了。</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷中。</translation>
     </message>
     <message>
         <source>Found on the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークで見つかりました。</translation>
     </message>
     <message>
         <source>State unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>状態は不明です。</translation>
     </message>
     <message>
         <source>The queue accepts no jobs.</source>
-        <translation type="unfinished"></translation>
+        <translation>キューはジョブを受け付けていません。</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーからのメッセージ: %1</translation>
     </message>
 </context>
 <context>
