@@ -5,16 +5,16 @@
     <name>dialog::ChoiceControl</name>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>sin ajustar</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1…</source>
         <comment>a choice whose value is still to be given</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
 </context>
 <context>
@@ -28,20 +28,24 @@
        kvprint -i [QUEUE-]JOB [OPTION]...
        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Uso: kvprint [OPCIÓN]... [--] [DOCUMENTO]...
+     kvprint -i [COLA-]TRABAJO [OPCIÓN]...
+     kvprint --list | --summary | --dry-run [OPCIÓN]... [--] [DOCUMENTO]...
+</translation>
     </message>
     <message>
         <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime documentos en impresoras de etiquetas, con un diálogo para papel, páginas y cortes que muestra la tira de etiquetas tal como saldrá. Sin pantalla imprime directamente. PDF, PNG, JPEG y SVG; «-» o nada es la entrada estándar.</translation>
     </message>
     <message>
         <source>Options:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones:
+</translation>
     </message>
     <message>
         <source>Ends the options: what follows are documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina las opciones: lo que sigue son documentos.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -51,83 +55,89 @@
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida:
+  0  impreso, o mostrado lo que se pidió
+  1  algo no se pudo abrir, usar, enviar o escribir; no se imprimió nada
+  2  no se entendió la línea de órdenes
+  3  impreso, pero sin el panel de opciones de corte
+  4  cancelado en el diálogo
+</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la opción «%1»</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>La opción «%1» no admite ningún valor</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La opción «%1» necesita un valor: %2</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>La opción «%1» es para la impresora virtual y necesita «--ppd»</translation>
     </message>
     <message>
         <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>-H: «%1» se refiere a un trabajo ya enviado y necesita «-i»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no admite documentos y se indicó «%2»</translation>
     </message>
     <message>
         <source>Standard input (&quot;-&quot;) can be printed only once</source>
-        <translation type="unfinished"></translation>
+        <translation>La entrada estándar («-») solo se puede imprimir una vez</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>La opción «%1» no es compatible con «%2»</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; goes only together with one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La opción «%1» solo se admite junto con una de estas: %2</translation>
     </message>
     <message>
         <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
-        <translation type="unfinished"></translation>
+        <translation>No se indicó ningún documento; indique un archivo, o «-» para escribirlo</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor está vacío</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una hora de impresión; escriba HH:MM o HH:MM:SS (UTC), o una de estas palabras: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es posible; tiene que ser uno de estos valores: %2</translation>
     </message>
     <message>
         <source>it names no paper</source>
-        <translation type="unfinished"></translation>
+        <translation>no indica ningún papel</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número de copias; tiene que estar entre 1 y %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una prioridad; tiene que estar entre 1 (último) y 100 (primero)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no indica ninguna cola; escriba COLA o COLA/INSTANCIA</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un trabajo; escriba su número, o COLA-NÚMERO tal como se mostró al enviarlo</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no indica ninguna opción; escriba NOMBRE=VALOR</translation>
     </message>
 </context>
 <context>
@@ -135,101 +145,101 @@
     <message>
         <source>%1 to %2</source>
         <comment>the smallest and the largest length</comment>
-        <translation type="unfinished"></translation>
+        <translation>de %1 a %2</translation>
     </message>
     <message>
         <source>Paper width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho del papel</translation>
     </message>
     <message>
         <source>Paper length</source>
-        <translation type="unfinished"></translation>
+        <translation>Largo del papel</translation>
     </message>
     <message>
         <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anc&amp;ho</translation>
     </message>
     <message>
         <source>&amp;Length</source>
-        <translation type="unfinished"></translation>
+        <translation>La&amp;rgo</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Clase de impresoras: %1</translation>
     </message>
     <message>
         <source>P&amp;rinter</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mpresora</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Impresora</translation>
+        <translation>Impresora</translation>
     </message>
     <message>
         <source>There is no such printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esa impresora no existe.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la respuesta del servidor de impresión…</translation>
     </message>
     <message>
         <source>Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La última vez: %1</translation>
     </message>
     <message>
         <source>The print server does not answer. Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no responde. La última vez: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
     <message>
         <source>(default)</source>
-        <translation type="unfinished"></translation>
+        <translation>(predeterminada)</translation>
     </message>
     <message>
         <source>Class of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Clase formada por: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DialogPages</name>
     <message>
         <source>Options, preview and summary</source>
-        <translation type="unfinished">Opciones, vista previa y resumen</translation>
+        <translation>Opciones, vista previa y resumen</translation>
     </message>
     <message>
         <source>Page pre&amp;view</source>
-        <translation type="unfinished">&amp;Vista previa</translation>
+        <translation>&amp;Vista previa</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
-        <translation type="unfinished">Re&amp;sumen</translation>
+        <translation>Re&amp;sumen</translation>
     </message>
     <message>
         <source>&amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Traba&amp;jo</translation>
     </message>
     <message>
         <source>&amp;What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se &amp;enviará</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opciones</translation>
     </message>
 </context>
 <context>
     <name>dialog::FreeChoiceFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«%1» necesita al menos %n carácter. Hasta entonces, el ajuste queda como estaba.</numerusform>
+            <numerusform>«%1» necesita al menos %n caracteres. Hasta entonces, el ajuste queda como estaba.</numerusform>
         </translation>
     </message>
 </context>
@@ -237,121 +247,121 @@
     <name>dialog::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» no tiene ningún destino en el que imprimir</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no puede ser «%2» con las demás opciones de corte y se imprime como «%3»</translation>
     </message>
     <message>
         <source>This would help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Solución posible: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobPage</name>
     <message>
         <source>Time to print at</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora de impresión</translation>
     </message>
     <message>
         <source>As the queue is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Según la cola</translation>
     </message>
     <message>
         <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation type="unfinished"></translation>
+        <translation>De 1 a 100; los trabajos con mayor prioridad se imprimen antes que los demás</translation>
     </message>
     <message>
         <source>Job &amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre del trabajo</translation>
     </message>
     <message>
         <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orien&amp;tación</translation>
     </message>
     <message>
         <source>P&amp;rint it</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;uándo imprimir</translation>
     </message>
     <message>
         <source>Priorit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prioridad</translation>
     </message>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Según la impresora</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal invertida</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical invertida</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>When I release it</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuando lo libere</translation>
     </message>
     <message>
         <source>At a time</source>
-        <translation type="unfinished"></translation>
+        <translation>A una hora determinada</translation>
     </message>
     <message>
         <source>During the day</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante el día</translation>
     </message>
     <message>
         <source>In the evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Por la tarde</translation>
     </message>
     <message>
         <source>At night</source>
-        <translation type="unfinished"></translation>
+        <translation>Por la noche</translation>
     </message>
     <message>
         <source>In the second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>En el segundo turno</translation>
     </message>
     <message>
         <source>In the third shift</source>
-        <translation type="unfinished"></translation>
+        <translation>En el tercer turno</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>El fin de semana</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobWindow</name>
     <message>
         <source>The job is sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>El trabajo se ha enviado.</translation>
     </message>
     <message>
         <source>%1 on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo %1: %2</translation>
     </message>
     <message>
         <source>Cancel the &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar el &amp;trabajo</translation>
     </message>
 </context>
 <context>
@@ -359,33 +369,33 @@
     <message>
         <source>%1 %2</source>
         <comment>a number and its unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>in</source>
         <comment>inches</comment>
-        <translation type="unfinished"></translation>
+        <translation>pulg.</translation>
     </message>
     <message>
         <source>mm</source>
         <comment>millimetres</comment>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>%1 × %2 %3</source>
         <comment>width, length and their unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 %3</translation>
     </message>
 </context>
 <context>
     <name>dialog::OptionsPage</name>
     <message>
         <source>Groups of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupos de opciones</translation>
     </message>
     <message>
         <source>This printer has no other options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impresora no tiene más opciones.</translation>
     </message>
 </context>
 <context>
@@ -451,15 +461,15 @@
     <message>
         <source>Custom, %1</source>
         <comment>a size</comment>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado, %1</translation>
     </message>
     <message>
         <source>Use the document&apos;s size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar el tamaño del documento: %1</translation>
     </message>
     <message>
         <source>A custom size</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tamaño personalizado</translation>
     </message>
 </context>
 <context>
@@ -467,38 +477,38 @@
     <message>
         <source>%1 wide</source>
         <comment>papers of that width</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 de ancho</translation>
     </message>
 </context>
 <context>
     <name>dialog::PaperList</name>
     <message>
         <source>%1 wide, %2 long</source>
-        <translation type="unfinished">%1 de ancho, %2 de largo</translation>
+        <translation>%1 de ancho, %2 de largo</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a paper&apos;s text and its name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Custom size…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño personalizado…</translation>
     </message>
 </context>
 <context>
     <name>dialog::PasswordDialog</name>
     <message>
         <source>Password for the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña del servidor de impresión</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de &amp;usuario</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Con&amp;traseña</translation>
     </message>
 </context>
 <context>
@@ -521,31 +531,31 @@
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
-        <translation type="unfinished">No se pueden mostrar las opciones de corte. %1</translation>
+        <translation>No se pueden mostrar las opciones de corte. %1</translation>
     </message>
     <message>
         <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora no tiene descripción, por lo que aquí no se conocen sus papeles ni sus cortes.</translation>
     </message>
     <message>
         <source>Waiting for the printer&apos;s description…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la descripción de la impresora…</translation>
     </message>
     <message>
         <source>No printer is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha elegido ninguna impresora.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la respuesta del servidor de impresión…</translation>
     </message>
     <message>
         <source>The printer cannot do all of these together.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora no puede hacer todo esto a la vez.</translation>
     </message>
     <message>
         <source>Print anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir de todos modos</translation>
     </message>
 </context>
 <context>
@@ -567,58 +577,58 @@
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener el envío</translation>
     </message>
     <message>
         <source>Sending &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviando «%1»</translation>
     </message>
 </context>
 <context>
     <name>dialog::SentPage</name>
     <message>
         <source>Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Opción</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valor</translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Se envía</translation>
     </message>
     <message>
         <source>Options of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones del trabajo</translation>
     </message>
     <message>
         <source>&amp;The same job on the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>El mismo tra&amp;bajo en la línea de órdenes</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;piar</translation>
     </message>
     <message>
         <source>Copy the command</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la orden</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
     </message>
 </context>
 <context>
@@ -647,76 +657,76 @@
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo PPD no indica ningún papel en el que imprimir</translation>
     </message>
 </context>
 <context>
     <name>host::ChoiceCheck</name>
     <message>
         <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora «%1» no tiene la opción «%2».</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora «%1» no tiene el papel «%2».</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>La opción «%1» de la impresora «%2» no tiene el valor «%3»; tiene: %4</translation>
     </message>
 </context>
 <context>
     <name>host::Constraints</name>
     <message>
         <source>&quot;%1: %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1: %2»</translation>
     </message>
     <message>
         <source>This printer cannot do %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta impresora no admite %1.</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 se excluyen mutuamente.</translation>
     </message>
     <message>
         <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ajustar «%1» a «%2»</translation>
     </message>
 </context>
 <context>
     <name>host::CupsConnection</name>
     <message>
         <source>Given up on request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrumpido a petición del usuario.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» no responde.</translation>
     </message>
     <message>
         <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede conectar con el servidor de impresión «%1»: %2</translation>
     </message>
     <message>
         <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha cortado la conexión con el servidor de impresión «%1».</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; says: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» dice: %2</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» no entrega «%2»: %3</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>ocupa más de %1 MB</translation>
     </message>
     <message>
         <source>the connection broke in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>la conexión se cortó a la mitad</translation>
     </message>
 </context>
 <context>
@@ -779,61 +789,61 @@
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el documento «%1»: %2</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished">no es un archivo</translation>
+        <translation>no es un archivo</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished">está vacío</translation>
+        <translation>está vacío</translation>
     </message>
     <message>
         <source>it has become shorter while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha acortado mientras se leía</translation>
     </message>
 </context>
 <context>
     <name>host::JobChange</name>
     <message>
         <source>It is to be printed anew, but held. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se va a imprimir de nuevo, pero está retenido. %1</translation>
     </message>
     <message>
         <source>Job %1 was not changed. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>El trabajo %1 no se ha modificado. %2</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
     </message>
 </context>
 <context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
-        <translation type="unfinished"></translation>
+        <translation>predeterminado de la impresora</translation>
     </message>
     <message>
         <source>queue default</source>
-        <translation type="unfinished"></translation>
+        <translation>predeterminado de la cola</translation>
     </message>
     <message>
         <source>your default (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>su valor predeterminado (lpoptions)</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>preajuste</translation>
     </message>
     <message>
         <source>cut options</source>
-        <translation type="unfinished"></translation>
+        <translation>opciones de corte</translation>
     </message>
     <message>
         <source>set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>elegido por usted</translation>
     </message>
 </context>
 <context>
@@ -841,117 +851,119 @@
     <message>
         <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo «%1» para «%2» en %3
+</translation>
     </message>
     <message>
         <source>Options that are sent:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones que se envían:
+</translation>
     </message>
 </context>
 <context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retenido hasta que se libere.</translation>
     </message>
     <message>
         <source>Held until %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retenido hasta: %1.</translation>
     </message>
     <message>
         <source>Waiting for its turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando su turno.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo.</translation>
     </message>
     <message>
         <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido; continúa cuando la impresora vuelva a estar lista.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado.</translation>
     </message>
     <message>
         <source>Given up by the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrumpido por el servidor de impresión.</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impreso.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor dice: %1</translation>
     </message>
 </context>
 <context>
     <name>host::JobSummary</name>
     <message>
         <source>Printing</source>
-        <translation type="unfinished">Impresión</translation>
+        <translation>Impresión</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished">Documento</translation>
+        <translation>Documento</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Impresora</translation>
+        <translation>Impresora</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished">Papel</translation>
+        <translation>Papel</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished">Páginas</translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished">todas</translation>
+        <translation>todas</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished">Copias</translation>
+        <translation>Copias</translation>
     </message>
     <message>
         <source>Label strip</source>
-        <translation type="unfinished">Tira de etiquetas</translation>
+        <translation>Tira de etiquetas</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished">Etiquetas</translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished">Piezas</translation>
+        <translation>Piezas</translation>
     </message>
     <message>
         <source>Tape</source>
-        <translation type="unfinished">Cinta</translation>
+        <translation>Cinta</translation>
     </message>
     <message>
         <source>Cuts</source>
-        <translation type="unfinished">Cortes</translation>
+        <translation>Cortes</translation>
     </message>
 </context>
 <context>
     <name>host::JobUpload</name>
     <message>
         <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir: %4</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún documento que imprimir.</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
     </message>
 </context>
 <context>
@@ -994,86 +1006,86 @@
     </message>
     <message>
         <source>Cannot open the document on standard input: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el documento de la entrada estándar: %1</translation>
     </message>
     <message>
         <source>it is a damaged image</source>
-        <translation type="unfinished"></translation>
+        <translation>es una imagen dañada</translation>
     </message>
     <message>
         <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene %1 × %2 píxeles, más de los que se pueden imprimir</translation>
     </message>
     <message>
         <source>it is an image whose end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>es una imagen a la que le falta el final</translation>
     </message>
     <message>
         <source>No document is named</source>
-        <translation type="unfinished"></translation>
+        <translation>No se indica ningún documento</translation>
     </message>
     <message>
         <source>it can be read only once</source>
-        <translation type="unfinished"></translation>
+        <translation>solo se puede leer una vez</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada estándar</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>it is longer than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>supera %1</translation>
     </message>
     <message>
         <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>no es PDF, PNG, JPEG ni SVG</translation>
     </message>
     <message>
         <source>the file has changed since it was opened; open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
     </message>
     <message>
         <source>it is a damaged PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>es un PDF dañado</translation>
     </message>
     <message>
         <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede guardar en «%1»: %2</translation>
     </message>
     <message>
         <source>it is a damaged SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>es un SVG dañado</translation>
     </message>
     <message>
         <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>hace referencia a «%1», y solo se imprime lo que está en el propio SVG</translation>
     </message>
     <message>
         <source>line %1 of the SVG: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1 del SVG: %2</translation>
     </message>
     <message>
         <source>it is an SVG of more parts than can be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>es un SVG con más partes de las que se pueden dibujar</translation>
     </message>
     <message>
         <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene una imagen que no es ni PNG ni JPEG</translation>
     </message>
     <message>
         <source>it has a damaged picture in it</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene una imagen dañada</translation>
     </message>
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
     </message>
 </context>
 <context>
@@ -1119,11 +1131,11 @@
     <name>host::PanelSource</name>
     <message>
         <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation type="unfinished">El paquete «%1» no pudo crear su panel</translation>
+        <translation>El paquete «%1» no pudo crear su panel</translation>
     </message>
     <message>
         <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation type="unfinished">No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
+        <translation>No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1177,11 @@
     <name>host::PpdOptions</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Printer control</source>
-        <translation type="unfinished"></translation>
+        <translation>Control de la impresora</translation>
     </message>
 </context>
 <context>
@@ -1187,181 +1199,181 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation type="unfinished">«%1» no puede guardar sus ajustes: %2</translation>
+        <translation>«%1» no puede guardar sus ajustes: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation type="unfinished">«%1» no permite imprimir el trabajo con estos ajustes.</translation>
+        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueSession</name>
     <message>
         <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» no tiene ninguna cola o clase «%2».</translation>
     </message>
 </context>
 <context>
     <name>host::QueueWords</name>
     <message>
         <source>The printer waits for labels or tape.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora espera etiquetas o cinta.</translation>
     </message>
     <message>
         <source>Labels or tape are jammed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las etiquetas o la cinta están atascadas.</translation>
     </message>
     <message>
         <source>The label roll or tape is nearly empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El rollo de etiquetas o la cinta está a punto de acabarse.</translation>
     </message>
     <message>
         <source>The label roll or tape is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El rollo de etiquetas o la cinta se ha acabado.</translation>
     </message>
     <message>
         <source>The printer is about to pause.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora está a punto de ponerse en pausa.</translation>
     </message>
     <message>
         <source>The queue is paused; jobs wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cola está en pausa; los trabajos esperan.</translation>
     </message>
     <message>
         <source>The printer is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora está apagada.</translation>
     </message>
     <message>
         <source>Connecting to the printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando con la impresora.</translation>
     </message>
     <message>
         <source>The printer does not respond.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora no responde.</translation>
     </message>
     <message>
         <source>The printer is stopping.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora se está deteniendo.</translation>
     </message>
     <message>
         <source>Some printers of the class are stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunas impresoras de la clase están detenidas.</translation>
     </message>
     <message>
         <source>The toner is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tóner está a punto de agotarse.</translation>
     </message>
     <message>
         <source>The toner is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tóner se ha agotado.</translation>
     </message>
     <message>
         <source>The print server has no space left.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no tiene espacio libre.</translation>
     </message>
     <message>
         <source>The printer&apos;s cover is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cubierta de la impresora está abierta.</translation>
     </message>
     <message>
         <source>A lock of the printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cierre de la impresora está abierto.</translation>
     </message>
     <message>
         <source>The printer&apos;s door is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta de la impresora está abierta.</translation>
     </message>
     <message>
         <source>The cassette or roll holder is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el casete o el soporte del rollo.</translation>
     </message>
     <message>
         <source>The output tray is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la bandeja de salida.</translation>
     </message>
     <message>
         <source>The output tray is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>La bandeja de salida está casi llena.</translation>
     </message>
     <message>
         <source>The output tray is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>La bandeja de salida está llena.</translation>
     </message>
     <message>
         <source>Ink or ribbon is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tinta o la cinta entintada está a punto de agotarse.</translation>
     </message>
     <message>
         <source>Ink or ribbon is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tinta o la cinta entintada se ha agotado.</translation>
     </message>
     <message>
         <source>The waste box is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>El depósito de residuos está casi lleno.</translation>
     </message>
     <message>
         <source>The waste box is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>El depósito de residuos está lleno.</translation>
     </message>
     <message>
         <source>The printer is too hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora está demasiado caliente.</translation>
     </message>
     <message>
         <source>The printer is warming up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora se está calentando.</translation>
     </message>
     <message>
         <source>The printer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora está desconectada.</translation>
     </message>
     <message>
         <source>New jobs are held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los trabajos nuevos se retienen.</translation>
     </message>
     <message>
         <source>The printer is switched off by its administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>El administrador ha desactivado la impresora.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta una parte del controlador de la impresora.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una parte del controlador de la impresora no está instalada de forma segura.</translation>
     </message>
     <message>
         <source>Waiting for the printer to finish the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando a que la impresora termine el trabajo.</translation>
     </message>
     <message>
         <source>The printer does not follow its protocol.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora no cumple su protocolo.</translation>
     </message>
     <message>
         <source>Ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo.</translation>
     </message>
     <message>
         <source>Found on the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrada en la red.</translation>
     </message>
     <message>
         <source>State unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado desconocido.</translation>
     </message>
     <message>
         <source>The queue accepts no jobs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cola no acepta trabajos.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor dice: %1</translation>
     </message>
 </context>
 <context>

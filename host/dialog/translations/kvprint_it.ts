@@ -5,16 +5,16 @@
     <name>dialog::ChoiceControl</name>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>non impostato</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1…</source>
         <comment>a choice whose value is still to be given</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
 </context>
 <context>
@@ -28,20 +28,24 @@
        kvprint -i [QUEUE-]JOB [OPTION]...
        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Uso: kvprint [OPZIONE]... [--] [DOCUMENTO]...
+     kvprint -i [CODA-]LAVORO [OPZIONE]...
+     kvprint --list | --summary | --dry-run [OPZIONE]... [--] [DOCUMENTO]...
+</translation>
     </message>
     <message>
         <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa documenti su stampanti di etichette, con una finestra per carta, pagine e tagli che mostra la striscia di etichette come uscirà. Senza uno schermo stampa subito. PDF, PNG, JPEG e SVG; &quot;-&quot; o niente è lo standard input.</translation>
     </message>
     <message>
         <source>Options:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni:
+</translation>
     </message>
     <message>
         <source>Ends the options: what follows are documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina le opzioni: ciò che segue sono documenti.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -51,83 +55,90 @@
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Stato di uscita:
+  0  stampato, o mostrato ciò che è stato chiesto
+  1  qualcosa non si è potuto aprire, usare, inviare o scrivere; nulla è stato
+     stampato
+  2  la riga di comando non è stata compresa
+  3  stampato, ma senza il pannello delle opzioni di taglio
+  4  annullato nella finestra
+</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; non esiste</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; non accetta valori</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; needs a value: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; richiede un valore: %2</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; riguarda la stampante virtuale e richiede &quot;--ppd&quot;</translation>
     </message>
     <message>
         <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>-H: &quot;%1&quot; riguarda un lavoro già inviato e richiede &quot;-i&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non accetta documenti ed è stato indicato &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Standard input (&quot;-&quot;) can be printed only once</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo standard input (&quot;-&quot;) può essere stampato una volta sola</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; non è compatibile con &quot;%2&quot;</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; goes only together with one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; è ammessa solo insieme a una di queste: %2</translation>
     </message>
     <message>
         <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun documento indicato; indicare un file, o &quot;-&quot; per immetterlo da tastiera</translation>
     </message>
     <message>
         <source>the value is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore è vuoto</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un&apos;ora di stampa; scrivere HH:MM o HH:MM:SS (UTC), o una di queste parole: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è possibile; deve essere uno di questi valori: %2</translation>
     </message>
     <message>
         <source>it names no paper</source>
-        <translation type="unfinished"></translation>
+        <translation>non indica alcuna carta</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un numero di copie; deve essere da 1 a %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è una priorità; deve essere da 1 (ultimo) a 100 (primo)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non indica alcuna coda; scrivere CODA o CODA/ISTANZA</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un lavoro; scrivere il suo numero, o CODA-NUMERO come mostrato all&apos;invio</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non indica alcuna opzione; scrivere NOME=VALORE</translation>
     </message>
 </context>
 <context>
@@ -135,101 +146,101 @@
     <message>
         <source>%1 to %2</source>
         <comment>the smallest and the largest length</comment>
-        <translation type="unfinished"></translation>
+        <translation>da %1 a %2</translation>
     </message>
     <message>
         <source>Paper width</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza della carta</translation>
     </message>
     <message>
         <source>Paper length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza della carta</translation>
     </message>
     <message>
         <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Larghezza</translation>
     </message>
     <message>
         <source>&amp;Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lung&amp;hezza</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe di stampanti: %1</translation>
     </message>
     <message>
         <source>P&amp;rinter</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa&amp;nte</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Stampante</translation>
+        <translation>Stampante</translation>
     </message>
     <message>
         <source>There is no such printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante non esiste.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa della risposta del server di stampa…</translation>
     </message>
     <message>
         <source>Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ultima volta: %1</translation>
     </message>
     <message>
         <source>The print server does not answer. Last time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non risponde. L&apos;ultima volta: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
     <message>
         <source>(default)</source>
-        <translation type="unfinished"></translation>
+        <translation>(predefinita)</translation>
     </message>
     <message>
         <source>Class of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe composta da: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::DialogPages</name>
     <message>
         <source>Options, preview and summary</source>
-        <translation type="unfinished">Opzioni, anteprima e riepilogo</translation>
+        <translation>Opzioni, anteprima e riepilogo</translation>
     </message>
     <message>
         <source>Page pre&amp;view</source>
-        <translation type="unfinished">Ante&amp;prima pagina</translation>
+        <translation>Ante&amp;prima pagina</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
-        <translation type="unfinished">&amp;Riepilogo</translation>
+        <translation>&amp;Riepilogo</translation>
     </message>
     <message>
         <source>&amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>La&amp;voro</translation>
     </message>
     <message>
         <source>&amp;What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dati da inviare</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opzioni</translation>
     </message>
 </context>
 <context>
     <name>dialog::FreeChoiceFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&quot;%1&quot; richiede almeno %n carattere. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
+            <numerusform>&quot;%1&quot; richiede almeno %n caratteri. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
         </translation>
     </message>
 </context>
@@ -237,121 +248,121 @@
     <name>dialog::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; non ha alcuna destinazione su cui stampare</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere &quot;%2&quot; con le altre opzioni di taglio e viene stampato come &quot;%3&quot;</translation>
     </message>
     <message>
         <source>This would help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Soluzione possibile: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobPage</name>
     <message>
         <source>Time to print at</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora di stampa</translation>
     </message>
     <message>
         <source>As the queue is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Come impostato nella coda</translation>
     </message>
     <message>
         <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation type="unfinished"></translation>
+        <translation>Da 1 a 100; i lavori con priorità più alta vengono stampati prima degli altri</translation>
     </message>
     <message>
         <source>Job &amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>No&amp;me del lavoro</translation>
     </message>
     <message>
         <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ori&amp;entamento</translation>
     </message>
     <message>
         <source>P&amp;rint it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quando stampare</translation>
     </message>
     <message>
         <source>Priorit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>Priori&amp;tà</translation>
     </message>
     <message>
         <source>As the printer is set</source>
-        <translation type="unfinished"></translation>
+        <translation>Come impostato nella stampante</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Reverse landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale invertito</translation>
     </message>
     <message>
         <source>Reverse portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale invertito</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Adesso</translation>
     </message>
     <message>
         <source>When I release it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quando lo rilascio</translation>
     </message>
     <message>
         <source>At a time</source>
-        <translation type="unfinished"></translation>
+        <translation>A un&apos;ora precisa</translation>
     </message>
     <message>
         <source>During the day</source>
-        <translation type="unfinished"></translation>
+        <translation>Durante il giorno</translation>
     </message>
     <message>
         <source>In the evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Di sera</translation>
     </message>
     <message>
         <source>At night</source>
-        <translation type="unfinished"></translation>
+        <translation>Di notte</translation>
     </message>
     <message>
         <source>In the second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Nel secondo turno</translation>
     </message>
     <message>
         <source>In the third shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Nel terzo turno</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>Nel fine settimana</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobWindow</name>
     <message>
         <source>The job is sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro è stato inviato.</translation>
     </message>
     <message>
         <source>%1 on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 su %2</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavoro %1: %2</translation>
     </message>
     <message>
         <source>Cancel the &amp;job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla il &amp;lavoro</translation>
     </message>
 </context>
 <context>
@@ -359,33 +370,33 @@
     <message>
         <source>%1 %2</source>
         <comment>a number and its unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>in</source>
         <comment>inches</comment>
-        <translation type="unfinished"></translation>
+        <translation>in</translation>
     </message>
     <message>
         <source>mm</source>
         <comment>millimetres</comment>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>%1 × %2 %3</source>
         <comment>width, length and their unit</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 %3</translation>
     </message>
 </context>
 <context>
     <name>dialog::OptionsPage</name>
     <message>
         <source>Groups of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppi di opzioni</translation>
     </message>
     <message>
         <source>This printer has no other options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa stampante non ha altre opzioni.</translation>
     </message>
 </context>
 <context>
@@ -451,15 +462,15 @@
     <message>
         <source>Custom, %1</source>
         <comment>a size</comment>
-        <translation type="unfinished"></translation>
+        <translation>Personalizzata, %1</translation>
     </message>
     <message>
         <source>Use the document&apos;s size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa le dimensioni del documento: %1</translation>
     </message>
     <message>
         <source>A custom size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni personalizzate</translation>
     </message>
 </context>
 <context>
@@ -467,38 +478,38 @@
     <message>
         <source>%1 wide</source>
         <comment>papers of that width</comment>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::PaperList</name>
     <message>
         <source>%1 wide, %2 long</source>
-        <translation type="unfinished">largo %1, lungo %2</translation>
+        <translation>largo %1, lungo %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a paper&apos;s text and its name</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Custom size…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni personalizzate…</translation>
     </message>
 </context>
 <context>
     <name>dialog::PasswordDialog</name>
     <message>
         <source>Password for the print server</source>
-        <translation type="unfinished"></translation>
+        <translation>Password del server di stampa</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome &amp;utente</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Password</translation>
     </message>
 </context>
 <context>
@@ -521,31 +532,31 @@
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
-        <translation type="unfinished">Le opzioni di taglio non possono essere mostrate. %1</translation>
+        <translation>Le opzioni di taglio non possono essere mostrate. %1</translation>
     </message>
     <message>
         <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante non ha una descrizione, quindi le sue carte e i suoi tagli non sono noti.</translation>
     </message>
     <message>
         <source>Waiting for the printer&apos;s description…</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa della descrizione della stampante…</translation>
     </message>
     <message>
         <source>No printer is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna stampante scelta.</translation>
     </message>
     <message>
         <source>Waiting for the print server&apos;s answer…</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa della risposta del server di stampa…</translation>
     </message>
     <message>
         <source>The printer cannot do all of these together.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante non può fare tutto questo insieme.</translation>
     </message>
     <message>
         <source>Print anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa comunque</translation>
     </message>
 </context>
 <context>
@@ -567,58 +578,58 @@
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompi l&apos;invio</translation>
     </message>
     <message>
         <source>Sending &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio di &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
     <name>dialog::SentPage</name>
     <message>
         <source>Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzione</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valore</translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Inviato</translation>
     </message>
     <message>
         <source>Options of the job</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni del lavoro</translation>
     </message>
     <message>
         <source>&amp;The same job on the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo s&amp;tesso lavoro da riga di comando</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
-        <translation type="unfinished"></translation>
+        <translation>Cop&amp;ia</translation>
     </message>
     <message>
         <source>Copy the command</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia il comando</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sì</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
     </message>
 </context>
 <context>
@@ -647,76 +658,76 @@
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file PPD non indica alcuna carta</translation>
     </message>
 </context>
 <context>
     <name>host::ChoiceCheck</name>
     <message>
         <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante &quot;%1&quot; non ha l&apos;opzione &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;opzione &quot;%1&quot; della stampante &quot;%2&quot; non ha la scelta &quot;%3&quot;; ha: %4</translation>
     </message>
 </context>
 <context>
     <name>host::Constraints</name>
     <message>
         <source>&quot;%1: %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1: %2&quot;</translation>
     </message>
     <message>
         <source>This printer cannot do %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa stampante non consente %1.</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 e %2 si escludono a vicenda.</translation>
     </message>
     <message>
         <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>impostare &quot;%1&quot; su &quot;%2&quot;</translation>
     </message>
 </context>
 <context>
     <name>host::CupsConnection</name>
     <message>
         <source>Given up on request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto su richiesta.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; non risponde.</translation>
     </message>
     <message>
         <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile connettersi al server di stampa &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connessione al server di stampa &quot;%1&quot; si è interrotta.</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; says: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; comunica: %2</translation>
     </message>
     <message>
         <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; non fornisce &quot;%2&quot;: %3</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>supera %1 MB</translation>
     </message>
     <message>
         <source>the connection broke in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>la connessione si è interrotta a metà</translation>
     </message>
 </context>
 <context>
@@ -779,61 +790,61 @@
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il documento &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished">non è un file</translation>
+        <translation>non è un file</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished">è vuoto</translation>
+        <translation>è vuoto</translation>
     </message>
     <message>
         <source>it has become shorter while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>si è accorciato durante la lettura</translation>
     </message>
 </context>
 <context>
     <name>host::JobChange</name>
     <message>
         <source>It is to be printed anew, but held. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrà stampato di nuovo, ma è trattenuto. %1</translation>
     </message>
     <message>
         <source>Job %1 was not changed. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lavoro %1 non è stato modificato. %2</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
-        <translation type="unfinished"></translation>
+        <translation>predefinito della stampante</translation>
     </message>
     <message>
         <source>queue default</source>
-        <translation type="unfinished"></translation>
+        <translation>predefinito della coda</translation>
     </message>
     <message>
         <source>your default (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>predefinito personale (lpoptions)</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>preimpostazione</translation>
     </message>
     <message>
         <source>cut options</source>
-        <translation type="unfinished"></translation>
+        <translation>opzioni di taglio</translation>
     </message>
     <message>
         <source>set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>scelto dall&apos;utente</translation>
     </message>
 </context>
 <context>
@@ -841,117 +852,119 @@
     <message>
         <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Lavoro &quot;%1&quot; per &quot;%2&quot; su %3
+</translation>
     </message>
     <message>
         <source>Options that are sent:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni che vengono inviate:
+</translation>
     </message>
 </context>
 <context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trattenuto finché non viene rilasciato.</translation>
     </message>
     <message>
         <source>Held until %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trattenuto fino a: %1.</translation>
     </message>
     <message>
         <source>Waiting for its turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa del proprio turno.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa in corso.</translation>
     </message>
     <message>
         <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermo; riprende quando la stampante è di nuovo pronta.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato.</translation>
     </message>
     <message>
         <source>Given up by the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto dal server di stampa.</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampato.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server comunica: %1</translation>
     </message>
 </context>
 <context>
     <name>host::JobSummary</name>
     <message>
         <source>Printing</source>
-        <translation type="unfinished">Stampa</translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished">Documento</translation>
+        <translation>Documento</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Stampante</translation>
+        <translation>Stampante</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished">Carta</translation>
+        <translation>Carta</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished">Pagine</translation>
+        <translation>Pagine</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished">tutte</translation>
+        <translation>tutte</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished">Copie</translation>
+        <translation>Copie</translation>
     </message>
     <message>
         <source>Label strip</source>
-        <translation type="unfinished">Striscia di etichette</translation>
+        <translation>Striscia di etichette</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished">Etichette</translation>
+        <translation>Etichette</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished">Pezzi</translation>
+        <translation>Pezzi</translation>
     </message>
     <message>
         <source>Tape</source>
-        <translation type="unfinished">Nastro</translation>
+        <translation>Nastro</translation>
     </message>
     <message>
         <source>Cuts</source>
-        <translation type="unfinished">Tagli</translation>
+        <translation>Tagli</translation>
     </message>
 </context>
 <context>
     <name>host::JobUpload</name>
     <message>
         <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo: %4</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono documenti da stampare.</translation>
     </message>
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
@@ -994,86 +1007,86 @@
     </message>
     <message>
         <source>Cannot open the document on standard input: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il documento dallo standard input: %1</translation>
     </message>
     <message>
         <source>it is a damaged image</source>
-        <translation type="unfinished"></translation>
+        <translation>è un&apos;immagine danneggiata</translation>
     </message>
     <message>
         <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>ha %1 × %2 pixel, più di quanti se ne possano stampare</translation>
     </message>
     <message>
         <source>it is an image whose end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>è un&apos;immagine a cui manca la fine</translation>
     </message>
     <message>
         <source>No document is named</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun documento indicato</translation>
     </message>
     <message>
         <source>it can be read only once</source>
-        <translation type="unfinished"></translation>
+        <translation>può essere letto una volta sola</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>standard input</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 e %n altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
         </translation>
     </message>
     <message>
         <source>it is longer than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>supera %1</translation>
     </message>
     <message>
         <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un PDF, PNG, JPEG o SVG</translation>
     </message>
     <message>
         <source>the file has changed since it was opened; open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
     </message>
     <message>
         <source>it is a damaged PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>è un PDF danneggiato</translation>
     </message>
     <message>
         <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>non si può salvare in &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>it is a damaged SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>è un SVG danneggiato</translation>
     </message>
     <message>
         <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation type="unfinished"></translation>
+        <translation>rimanda a &quot;%1&quot;, e si stampa solo ciò che è contenuto nell&apos;SVG stesso</translation>
     </message>
     <message>
         <source>line %1 of the SVG: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1 dell&apos;SVG: %2</translation>
     </message>
     <message>
         <source>it is an SVG of more parts than can be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>è un SVG con più parti di quante se ne possano disegnare</translation>
     </message>
     <message>
         <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene un&apos;immagine che non è né PNG né JPEG</translation>
     </message>
     <message>
         <source>it has a damaged picture in it</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene un&apos;immagine danneggiata</translation>
     </message>
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
     </message>
 </context>
 <context>
@@ -1119,11 +1132,11 @@
     <name>host::PanelSource</name>
     <message>
         <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation type="unfinished">Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
+        <translation>Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
     </message>
     <message>
         <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation type="unfinished">Il pannello del bundle &quot;%1&quot; non può essere mostrato: il suo file di layout è inutilizzabile</translation>
+        <translation>Il pannello del bundle &quot;%1&quot; non può essere mostrato: il suo file di layout è inutilizzabile</translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1178,11 @@
     <name>host::PpdOptions</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generale</translation>
     </message>
     <message>
         <source>Printer control</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllo stampante</translation>
     </message>
 </context>
 <context>
@@ -1187,181 +1200,181 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation type="unfinished">&quot;%1&quot; non può salvare le impostazioni: %2</translation>
+        <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation type="unfinished">&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
+        <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueSession</name>
     <message>
         <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; non ha alcuna coda o classe &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueWords</name>
     <message>
         <source>The printer waits for labels or tape.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante attende etichette o nastro.</translation>
     </message>
     <message>
         <source>Labels or tape are jammed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichette o nastro inceppati.</translation>
     </message>
     <message>
         <source>The label roll or tape is nearly empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il rotolo di etichette o il nastro è quasi esaurito.</translation>
     </message>
     <message>
         <source>The label roll or tape is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il rotolo di etichette o il nastro è esaurito.</translation>
     </message>
     <message>
         <source>The printer is about to pause.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante sta per andare in pausa.</translation>
     </message>
     <message>
         <source>The queue is paused; jobs wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coda è in pausa; i lavori attendono.</translation>
     </message>
     <message>
         <source>The printer is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante è spenta.</translation>
     </message>
     <message>
         <source>Connecting to the printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connessione alla stampante in corso.</translation>
     </message>
     <message>
         <source>The printer does not respond.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante non risponde.</translation>
     </message>
     <message>
         <source>The printer is stopping.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante si sta fermando.</translation>
     </message>
     <message>
         <source>Some printers of the class are stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcune stampanti della classe sono ferme.</translation>
     </message>
     <message>
         <source>The toner is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il toner è quasi esaurito.</translation>
     </message>
     <message>
         <source>The toner is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il toner è esaurito.</translation>
     </message>
     <message>
         <source>The print server has no space left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non ha più spazio.</translation>
     </message>
     <message>
         <source>The printer&apos;s cover is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il coperchio della stampante è aperto.</translation>
     </message>
     <message>
         <source>A lock of the printer is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un blocco della stampante è aperto.</translation>
     </message>
     <message>
         <source>The printer&apos;s door is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo sportello della stampante è aperto.</translation>
     </message>
     <message>
         <source>The cassette or roll holder is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca la cassetta o il supporto del rotolo.</translation>
     </message>
     <message>
         <source>The output tray is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca il vassoio di uscita.</translation>
     </message>
     <message>
         <source>The output tray is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il vassoio di uscita è quasi pieno.</translation>
     </message>
     <message>
         <source>The output tray is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il vassoio di uscita è pieno.</translation>
     </message>
     <message>
         <source>Ink or ribbon is nearly used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;inchiostro o il nastro inchiostrato è quasi esaurito.</translation>
     </message>
     <message>
         <source>Ink or ribbon is used up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;inchiostro o il nastro inchiostrato è esaurito.</translation>
     </message>
     <message>
         <source>The waste box is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il contenitore degli scarti è quasi pieno.</translation>
     </message>
     <message>
         <source>The waste box is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il contenitore degli scarti è pieno.</translation>
     </message>
     <message>
         <source>The printer is too hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante è troppo calda.</translation>
     </message>
     <message>
         <source>The printer is warming up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante si sta riscaldando.</translation>
     </message>
     <message>
         <source>The printer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante è fuori linea.</translation>
     </message>
     <message>
         <source>New jobs are held.</source>
-        <translation type="unfinished"></translation>
+        <translation>I nuovi lavori vengono trattenuti.</translation>
     </message>
     <message>
         <source>The printer is switched off by its administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante è stata disattivata dall&apos;amministratore.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca una parte del driver della stampante.</translation>
     </message>
     <message>
         <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una parte del driver della stampante non è installata in modo sicuro.</translation>
     </message>
     <message>
         <source>Waiting for the printer to finish the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa che la stampante termini il lavoro.</translation>
     </message>
     <message>
         <source>The printer does not follow its protocol.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampante non rispetta il suo protocollo.</translation>
     </message>
     <message>
         <source>Ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronta.</translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa in corso.</translation>
     </message>
     <message>
         <source>Found on the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trovata in rete.</translation>
     </message>
     <message>
         <source>State unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato sconosciuto.</translation>
     </message>
     <message>
         <source>The queue accepts no jobs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coda non accetta lavori.</translation>
     </message>
     <message>
         <source>The server says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server comunica: %1</translation>
     </message>
 </context>
 <context>
