@@ -147,7 +147,9 @@ void QueueSession::setChosen(const Destination &destination)
         m_loader.load(destination);
         m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
         connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
-        connect(m_monitor.get(), &QueueMonitor::failed, this, &QueueSession::failed);
+        connect(m_monitor.get(), &QueueMonitor::failed, this, [this](const CupsError &error) {
+            Q_EMIT failed(error.kind == CupsFailure::NotFound ? noSuchDestination() : error);
+        });
     }
     if (isAnother)
         Q_EMIT chosenChanged();

@@ -3,6 +3,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 
 namespace dialog {
@@ -10,6 +11,7 @@ namespace dialog {
 Banner::Banner(QWidget *parent)
     : QFrame(parent)
     , m_text(new QLabel(this))
+    , m_remedy(new QPushButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -24,12 +26,18 @@ Banner::Banner(QWidget *parent)
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(icon);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_remedy);
+    m_remedy->setAutoDefault(false);
+    connect(m_remedy, &QPushButton::clicked, this, &Banner::remedyClicked);
     setVisible(false);
 }
 
-void Banner::setMessage(const QString &message)
+void Banner::setMessage(const QString &message, const QString &remedy)
 {
     m_text->setText(message);
+    // An ampersand in a PPD's text is no shortcut.
+    m_remedy->setText(QString(remedy).replace(u'&', QStringLiteral("&&")));
+    m_remedy->setVisible(!remedy.isEmpty());
     setAccessibleName(message);
     setVisible(!message.isEmpty());
 }

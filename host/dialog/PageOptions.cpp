@@ -30,6 +30,7 @@ PageOptions::PageOptions(int pageCount, QWidget *parent)
     layout->addRow(QString(), m_collate);
     layout->addRow(tr("Pa&ges"), m_pages);
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
+        m_setsCopies = true;
         m_collate->setEnabled(copies > 1);
         Q_EMIT changed();
     });
@@ -50,10 +51,19 @@ host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() con
                              m_collate->isChecked() ? host::Collate::Yes : host::Collate::No};
 }
 
-QString PageOptions::pagesInWords() const
+void PageOptions::setSettings(const host::JobSettings &settings)
 {
-    const QString text = m_pages->text().simplified();
-    return text.isEmpty() ? tr("all") : text;
+    m_setsCopies = settings.copies.has_value();
+    m_copies->setValue(settings.copies.value_or(1));
+    m_collate->setChecked(settings.collate.value_or(host::Collate::Yes) == host::Collate::Yes);
+    m_pages->setText(settings.pageRanges);
+}
+
+void PageOptions::writeTo(host::JobSettings &settings) const
+{
+    settings.copies = m_setsCopies || m_copies->value() > 1 ? std::optional(m_copies->value()) : std::nullopt;
+    settings.collate = m_collate->isChecked() ? host::Collate::Yes : host::Collate::No;
+    settings.pageRanges = m_pages->text();
 }
 
 } // namespace dialog

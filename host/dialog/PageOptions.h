@@ -2,6 +2,7 @@
 #pragma once
 
 #include <host/PrintJob.h>
+#include <host/cups/JobOptions.h>
 
 #include <QWidget>
 
@@ -20,13 +21,17 @@ public:
 
     /// The choices as they stand, or why they cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
-    /// The pages as the user wrote them; "all" in the user's language for an empty field.
-    QString pagesInWords() const;
+    /// Shows copies, order and pages of the settings; nothing stands for one copy of all pages, set by set.
+    void setSettings(const host::JobSettings &settings);
+    /// Puts copies, order and pages into the settings, the others stay. What nobody has set is left to the
+    /// queue.
+    void writeTo(host::JobSettings &settings) const;
 
 Q_SIGNALS:
     void changed();
 
 private:
+    bool m_setsCopies = false;
     int m_pageCount;
     QSpinBox *m_copies;
     QCheckBox *m_collate;

@@ -2,152 +2,201 @@
 #include "PrintDialog.h"
 
 #include "Banner.h"
+#include "DestinationChooser.h"
+#include "DialogPages.h"
 #include "PageOptions.h"
-#include "PagePreview.h"
-#include "PanelPage.h"
 #include "PaperChooser.h"
+#include "SendBar.h"
 #include "StripPreview.h"
 
 #include <host/CutPlanWords.h>
 
 #include <QDialogButtonBox>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QShowEvent>
-#include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
 namespace dialog {
 
-PrintDialog::PrintDialog(PrintRequest request, Sender sender, QWidget *parent)
+PrintDialog::PrintDialog(std::unique_ptr<host::LabelDocument> document, host::SetupKeeper &keeper,
+                         JobSender &sender, const DialogWishes &wishes, QWidget *parent)
     : QDialog(parent)
-    , m_request(std::move(request))
-    , m_sender(std::move(sender))
+    , m_document(std::move(document))
+    , m_keeper(keeper)
+    , m_sender(sender)
 {
-    setWindowTitle(tr("Print %1").arg(QFileInfo(m_request.document->path()).fileName()));
-    build();
-    applyPaper();
-    buildPanel();
-    refresh();
+    m_draft.settings = wishes.settings;
+    m_draft.title = wishes.title.value_or(host::defaultTitle(*m_document));
+    setWindowTitle(tr("Print %1").arg(host::defaultTitle(*m_document)));
+    build(wishes);
+    connectAll();
+    takeSetup();
+    showProblem(wishes.problem);
 }
 
 PrintDialog::~PrintDialog()
 {
-    // The panel's view must leave before its panel goes, and taking its page away changes the front page.
-    disconnect(m_tabs, nullptr, this, nullptr);
-    if (m_request.panels) {
-        m_request.panels->host().setDidChangeHook({});
-        m_request.panels->host().setPanelViewDidResizeHook({});
-    }
-    delete m_panelPage;
+    m_pages->disconnect(this);
+    dropSetup();
 }
 
-void PrintDialog::build()
+void PrintDialog::build(const DialogWishes &wishes)
 {
+    m_content = new QWidget(this);
     m_panelBanner = new Banner(this);
+    m_conflictBanner = new Banner(this);
     m_problemBanner = new Banner(this);
-    m_tabs = new QTabWidget(this);
-    m_tabs->setAccessibleName(tr("Options, preview and summary"));
-    m_strip = new StripPreview(this);
+    const host::QueueSession *const session = m_keeper.session();
+    m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
+    m_stripPreview = new StripPreview(m_content);
     m_figures = new QLabel(this);
     m_figures->setWordWrap(true);
     m_figures->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    m_sendBar = new SendBar(this);
     auto *const buttons = new QDialogButtonBox(this);
     m_printButton = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
     m_printButton->setDefault(true);
     buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
 
     auto *const upper = new QHBoxLayout;
-    upper->addWidget(buildChoices());
-    upper->addWidget(m_tabs, 1);
+    upper->addWidget(buildChoices(wishes));
+    upper->addWidget(m_pages, 1);
+    auto *const content = new QVBoxLayout(m_content);
+    content->setContentsMargins({});
+    content->addLayout(upper, 1);
+    content->addWidget(m_stripPreview);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_panelBanner);
-    layout->addLayout(upper, 1);
-    layout->addWidget(m_strip);
+    layout->addWidget(m_content, 1);
     layout->addWidget(m_figures);
+    layout->addWidget(m_conflictBanner);
     layout->addWidget(m_problemBanner);
+    layout->addWidget(m_sendBar);
     layout->addWidget(buttons);
-    buildPages();
-    m_panelBanner->setMessage(m_request.panelProblem);
-
-    connect(m_papers, &PaperChooser::paperChosen, this, &PrintDialog::changePaper);
-    connect(m_pageOptions, &PageOptions::changed, this, &PrintDialog::refreshLater);
-    connect(m_tabs, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
-QWidget *PrintDialog::buildChoices()
+QWidget *PrintDialog::buildChoices(const DialogWishes &wishes)
 {
-    auto *const choices = new QWidget(this);
-    auto *const printer = new QLabel(m_request.state->ppd().printerName(), choices);
+    auto *const choices = new QWidget(m_content);
+    m_pageOptions = new PageOptions(m_document->pageCount(), choices);
+    m_pageOptions->setSettings(wishes.settings);
+    m_paperPlace = new QVBoxLayout;
+    auto *const layout = new QVBoxLayout(choices);
+    layout->setContentsMargins({});
+    layout->addWidget(buildPrinter(choices));
+    layout->addLayout(m_paperPlace, 1);
+    layout->addWidget(m_pageOptions);
+    return choices;
+}
+
+QWidget *PrintDialog::buildPrinter(QWidget *parent)
+{
+    if (m_keeper.session())
+        return new DestinationChooser(*m_keeper.session(), parent);
+    auto *const printer = new QLabel(m_keeper.setup()->printerText(), parent);
     QFont bold = printer->font();
     bold.setBold(true);
     printer->setFont(bold);
     printer->setWordWrap(true);
     printer->setTextFormat(Qt::PlainText);
     printer->setAccessibleName(tr("Printer: %1").arg(printer->text()));
-    m_papers = new PaperChooser(m_request.state->ppd().papers(), m_request.paper, choices);
-    m_pageOptions = new PageOptions(m_request.document->pageCount(), choices);
-    auto *const layout = new QVBoxLayout(choices);
-    layout->setContentsMargins({});
-    layout->addWidget(printer);
-    layout->addWidget(m_papers, 1);
-    layout->addWidget(m_pageOptions);
-    return choices;
+    return printer;
 }
 
-void PrintDialog::buildPages()
+void PrintDialog::connectAll()
 {
-    m_pagePreview = new PagePreview(*m_request.document, m_tabs);
-    m_summaryPage = new SummaryPage(m_tabs);
-    m_tabs->addTab(m_pagePreview, tr("Page pre&view"));
-    m_tabs->addTab(m_summaryPage, tr("&Summary"));
+    connect(m_pageOptions, &PageOptions::changed, this, &PrintDialog::refreshLater);
+    connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
+    m_pages->setSummary([this] { return summary(); });
+    m_pages->setTicket([this]() -> std::optional<host::JobTicket> {
+        if (!m_keeper.setup())
+            return std::nullopt;
+        return host::ticketFor(*m_keeper.setup(), *m_document, m_draft);
+    });
+    connect(m_conflictBanner, &Banner::remedyClicked, this, [this] {
+        if (const std::optional<host::Remedy> remedy = m_keeper.setup()->remedy())
+            m_keeper.setup()->apply(*remedy);
+        refresh();
+    });
+    connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
+    connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
+    connect(&m_keeper, &host::SetupKeeper::choicesLost, this,
+            [this](const QStringList &sentences) { showProblem(sentences.join(u' ')); });
+    if (host::QueueSession *const session = m_keeper.session()) {
+        connect(session, &host::QueueSession::failed, this,
+                [this](const host::CupsError &error) { showProblem(error.message); });
+        connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
+    }
+    connect(m_sendBar, &SendBar::cancelled, &m_sender, &JobSender::cancel);
+    connect(&m_sender, &JobSender::progressed, m_sendBar, &SendBar::setProgress);
+    connect(&m_sender, &JobSender::sent, this, [this] {
+        finishSending();
+        QDialog::accept();
+    });
+    connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
+        finishSending();
+        showProblem(problem);
+        if (m_closesAfterSending)
+            QDialog::reject();
+    });
 }
 
-void PrintDialog::buildPanel()
+void PrintDialog::takeSetup()
 {
-    PDEPanel *const panel = m_request.panels ? m_request.panels->firstPanel() : nullptr;
-    if (!panel)
-        return;
-    m_panelPage = new PanelPage(*panel, m_tabs);
-    m_request.panels->host().setDidChangeHook([this] { refreshLater(); });
-    m_request.panels->host().setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
-    QString error;
-    if (!panel->restoreValuesAndReturnError(&error))
-        showProblem(error);
-    const QSignalBlocker quiet(m_tabs);
-    QString title = panel->panelName();
-    m_tabs->insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
-    m_tabs->setCurrentIndex(0);
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (setup) {
+        const bool hasProblem = setup->panelProblem().has_value();
+        m_panelBanner->setMessage(
+            hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
+                       : QString());
+        m_pages->takeSetup(*setup);
+        setup->setDidChangeHook([this] { refreshLater(); });
+    }
+    if (setup && setup->paper()) {
+        m_papers = new PaperChooser(setup->ppd().papers(), *setup->paper(), m_content);
+        m_paperPlace->addWidget(m_papers);
+        connect(m_papers, &PaperChooser::paperChosen, this, &PrintDialog::changePaper);
+    }
+    applyPaper();
+    if (isVisible())
+        m_pages->announceFront();
+    refresh();
+}
+
+void PrintDialog::dropSetup()
+{
+    m_stripPreview->clear();
+    m_strip.reset();
+    if (m_keeper.setup())
+        m_keeper.setup()->setDidChangeHook({});
+    m_pages->dropSetup();
+    delete m_papers;
+    m_papers = nullptr;
+    m_conflictBanner->setMessage(QString());
 }
 
 void PrintDialog::changePaper()
 {
-    m_request.paper = m_papers->chosen();
+    m_keeper.setup()->choosePaper(m_papers->chosen());
     applyPaper();
-    m_request.state->postPaperDidChange();
     refresh();
 }
 
 void PrintDialog::applyPaper()
 {
-    const host::PpdPaper &paper = m_request.paper;
-    const QString name = QString::fromUtf8(paper.name);
-    platform::Paper chosen;
-    chosen.name = name;
-    chosen.height = paper.size.height();
-    m_request.state->setPaper(chosen);
-    m_request.state->changeOption(QStringLiteral("PageSize"), name, nullptr);
     // What shows the old labels lets go of them first.
-    m_strip->clear();
-    m_job.reset();
-    auto renderer = std::make_unique<host::LabelRenderer>(*m_request.document, paper.size);
-    m_pagePreview->setRenderer(*renderer);
+    m_stripPreview->clear();
+    m_strip.reset();
+    const host::PrinterSetup *const setup = m_keeper.setup();
+    const QSizeF paper = setup ? host::shownPaper(*setup, *m_document) : m_document->pageSize(0);
+    auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper);
+    m_pages->setRenderer(*renderer);
     m_renderer = std::move(renderer);
 }
 
@@ -162,21 +211,56 @@ void PrintDialog::refreshLater()
 void PrintDialog::refresh()
 {
     m_refreshPending = false;
-    m_strip->clear();
+    m_stripPreview->clear();
+    m_strip.reset();
     auto choices = m_pageOptions->choices();
-    m_printButton->setEnabled(static_cast<bool>(choices));
-    if (!choices) {
-        m_job.reset();
+    const bool isReady = m_keeper.setup() && choices;
+    m_printButton->setEnabled(isReady && !m_isSending);
+    if (!choices)
         setFigures(choices.error().message);
+    else if (!m_keeper.setup())
+        setFigures(waitingText());
+    else
+        refreshJob(choices.value());
+    refreshConflicts();
+    m_pages->refresh();
+}
+
+void PrintDialog::refreshJob(const host::PageChoices &choices)
+{
+    const host::PrinterSetup &setup = *m_keeper.setup();
+    m_draft.pages = choices;
+    m_pageOptions->writeTo(m_draft.settings);
+    const bool hasStrip = setup.hasPpd() && setup.paper();
+    m_stripPreview->setVisible(hasStrip);
+    if (!hasStrip) {
+        setFigures(tr("The printer has no description, so its papers and cuts are not known here."));
         return;
     }
-    m_job = std::make_unique<host::PrintJob>(*m_request.state, *m_request.document, *m_renderer,
-                                             m_request.paper, std::move(choices).value());
-    m_strip->setPlan(m_job->plan(), *m_renderer);
-    setFigures(host::cutPlanFigures(m_job->plan()) + u'\n' +
-               host::cutPlanSentences(m_job->plan()).join(u' '));
-    if (m_tabs->currentWidget() == m_summaryPage)
-        m_summaryPage->setSections(summary());
+    m_strip =
+        std::make_unique<host::PrintJob>(setup.state(), *m_document, *m_renderer, *setup.paper(), choices);
+    m_stripPreview->setPlan(m_strip->plan(), *m_renderer);
+    setFigures(host::cutPlanFigures(m_strip->plan()) + u'\n' +
+               host::cutPlanSentences(m_strip->plan()).join(u' '));
+}
+
+void PrintDialog::refreshConflicts()
+{
+    const host::PrinterSetup *const setup = m_keeper.setup();
+    QStringList sentences;
+    for (const host::Conflict &conflict : setup ? setup->conflicts() : std::vector<host::Conflict>())
+        sentences.append(conflict.sentence());
+    const std::optional<host::Remedy> remedy = sentences.isEmpty() ? std::nullopt : setup->remedy();
+    m_conflictBanner->setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
+}
+
+QString PrintDialog::waitingText() const
+{
+    const host::QueueSession *const session = m_keeper.session();
+    if (!session || session->isSettled())
+        return session && session->chosen() ? tr("Waiting for the printer's description…")
+                                            : tr("No printer is chosen.");
+    return tr("Waiting for the print server's answer…");
 }
 
 void PrintDialog::setFigures(const QString &text)
@@ -191,11 +275,8 @@ void PrintDialog::setFigures(const QString &text)
 
 void PrintDialog::pageShown()
 {
-    if (m_panelPage && m_tabs->currentWidget() == m_panelPage)
-        m_panelPage->panel().willShow();
+    m_pages->announceFront();
     refresh();
-    if (m_tabs->currentWidget() == m_summaryPage)
-        m_summaryPage->setSections(summary());
 }
 
 void PrintDialog::showEvent(QShowEvent *event)
@@ -205,51 +286,73 @@ void PrintDialog::showEvent(QShowEvent *event)
         pageShown();
 }
 
-bool PrintDialog::askPanels()
-{
-    if (!m_panelPage)
-        return true;
-    PDEPanel &panel = m_panelPage->panel();
-    QString error;
-    if (!panel.saveValuesAndReturnError(&error)) {
-        showProblem(tr("\"%1\" cannot save its settings: %2").arg(panel.panelName(), error));
-        return false;
-    }
-    if (!panel.shouldPrint()) {
-        showProblem(tr("\"%1\" does not let the job be printed with these settings.").arg(panel.panelName()));
-        return false;
-    }
-    return true;
-}
-
-bool PrintDialog::print()
+void PrintDialog::print()
 {
     showProblem(QString());
-    if (!askPanels())
-        return false;
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (!setup) {
+        showProblem(waitingText());
+        return;
+    }
+    if (const std::optional<QString> refusal = setup->savePanel()) {
+        showProblem(*refusal);
+        return;
+    }
     // Saving may have changed what is recorded.
     refresh();
-    if (!m_job) {
-        showProblem(m_pageOptions->choices().error().message);
-        return false;
+    const auto choices = m_pageOptions->choices();
+    if (!choices) {
+        showProblem(choices.error().message);
+        return;
     }
-    if (const std::optional<QString> problem = m_sender(*m_job)) {
-        showProblem(*problem);
-        return false;
-    }
-    return true;
+    m_isSending = true;
+    m_content->setEnabled(false);
+    m_printButton->setEnabled(false);
+    m_sendBar->begin(m_draft.title);
+    m_sender.send({*setup, *m_document, m_draft, m_strip.get()});
+}
+
+void PrintDialog::finishSending()
+{
+    m_isSending = false;
+    m_content->setEnabled(true);
+    m_sendBar->end();
+    m_printButton->setEnabled(m_keeper.setup() != nullptr);
+}
+
+bool PrintDialog::confirmsConflicts()
+{
+    if (m_conflictBanner->message().isEmpty())
+        return true;
+    QMessageBox question(QMessageBox::Warning, windowTitle(),
+                         tr("The printer cannot do all of these together."), QMessageBox::NoButton, this);
+    question.setInformativeText(m_conflictBanner->message());
+    const QPushButton *const print = question.addButton(tr("Print anyway"), QMessageBox::AcceptRole);
+    question.setDefaultButton(question.addButton(QMessageBox::Cancel));
+    question.exec();
+    return question.clickedButton() == print;
 }
 
 void PrintDialog::accept()
 {
-    if (print())
-        QDialog::accept();
+    if (!m_isSending && m_printButton->isEnabled() && confirmsConflicts())
+        print();
+}
+
+void PrintDialog::reject()
+{
+    if (!m_isSending) {
+        QDialog::reject();
+        return;
+    }
+    // The job is taken back first, so that nothing half-sent stays behind.
+    m_closesAfterSending = true;
+    m_sender.cancel();
 }
 
 void PrintDialog::done(int result)
 {
-    if (m_panelPage)
-        m_panelPage->panel().printWindowWillClose(this);
+    m_pages->announceClosing(this);
     QDialog::done(result);
 }
 
@@ -259,43 +362,16 @@ void PrintDialog::showProblem(const QString &problem)
     m_problemBanner->setMessage(problem);
 }
 
-std::vector<SummarySection> PrintDialog::summary() const
+bool PrintDialog::hasPanelProblem() const
 {
-    std::vector<SummarySection> sections;
-    SummarySection own{tr("Printing"), {}};
-    own.lines.emplace_back(tr("Document"), QFileInfo(m_request.document->path()).fileName());
-    own.lines.emplace_back(tr("Printer"), m_request.state->ppd().printerName());
-    own.lines.emplace_back(tr("Paper"), m_request.paper.text);
-    own.lines.emplace_back(tr("Pages"), m_pageOptions->pagesInWords());
-    if (m_job)
-        own.lines.emplace_back(tr("Copies"), QLocale().toString(m_job->choices().copies));
-    sections.push_back(std::move(own));
-    if (m_panelPage)
-        sections.push_back(panelSummary());
-    if (m_job) {
-        SummarySection strip{tr("Label strip"), {}};
-        const host::CutPlan &plan = m_job->plan();
-        strip.lines.emplace_back(tr("Labels"),
-                                 QLocale().toString(static_cast<qulonglong>(plan.labels().size())));
-        strip.lines.emplace_back(tr("Pieces"),
-                                 QLocale().toString(static_cast<qulonglong>(plan.pieces().size())));
-        strip.lines.emplace_back(tr("Tape"), host::lengthInWords(plan.tapeUsed()));
-        strip.lines.emplace_back(tr("Cuts"), host::cutPlanSentences(plan).join(u' '));
-        sections.push_back(std::move(strip));
-    }
-    return sections;
+    return m_keeper.setup() && m_keeper.setup()->panelProblem();
 }
 
-SummarySection PrintDialog::panelSummary() const
+std::vector<SummarySection> PrintDialog::summary() const
 {
-    SummarySection section{m_panelPage->panel().panelName(), {}};
-    const QVariantMap info = m_panelPage->panel().summaryInfo().value_or(QVariantMap());
-    for (const QString &title : info.value(PDESummaryDisplayOrderKey).toStringList()) {
-        // A line that the PPD gives no name says nothing to anybody.
-        if (!title.isEmpty())
-            section.lines.emplace_back(title, info.value(title).toString());
-    }
-    return section;
+    if (!m_keeper.setup())
+        return {};
+    return host::summarize(*m_keeper.setup(), *m_document, m_draft, m_strip.get());
 }
 
 } // namespace dialog

@@ -1,98 +1,110 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "JobSender.h"
 #include "SummaryPage.h"
 
-#include <host/PanelSession.h>
-#include <host/PrintJob.h>
+#include <host/setup/SetupKeeper.h>
 
 #include <QDialog>
 
 class QLabel;
 class QPushButton;
-class QTabWidget;
+class QVBoxLayout;
 
 namespace dialog {
 
 class Banner;
+class DialogPages;
 class PageOptions;
-class PagePreview;
-class PanelPage;
 class PaperChooser;
+class SendBar;
 class StripPreview;
 
-/// What a print dialog is opened for.
-struct PrintRequest {
-    std::shared_ptr<host::DialogState> state;
-    std::unique_ptr<host::LabelDocument> document;
-    host::PpdPaper paper;
-    /// The bundle with its panels, of which the first is shown and its view is loaded; null when there is
-    /// none, and then why.
-    std::unique_ptr<host::PanelSession> panels;
-    QString panelProblem;
-    /// The keywords that the panels take care of.
-    QStringList claimedKeywords;
+/// What the dialog opens with, beside the printer.
+struct DialogWishes {
+    host::JobSettings settings = {};
+    /// Nothing for the document's name.
+    std::optional<QString> title = {};
+    /// Told in a banner from the beginning.
+    QString problem = {};
 };
 
-/// The print dialog: paper and pages, the printer's own panel, the strip as it will come out, and a
-/// summary. Everything is live: what the panel or the user changes is seen on the strip at once.
+/// The print dialog: printer, paper and pages, the printer's own panel, the strip as it will come out, and a
+/// summary. Everything is live: what the panel, the user or the print server changes is seen at once.
 class PrintDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Sends a job; answers what went wrong, or nothing. Called when the user prints.
-    using Sender = std::function<std::optional<QString>(const host::PrintJob &)>;
-
-    PrintDialog(PrintRequest request, Sender sender, QWidget *parent = nullptr);
+    /// Keeper and sender are borrowed.
+    PrintDialog(std::unique_ptr<host::LabelDocument> document, host::SetupKeeper &keeper, JobSender &sender,
+                const DialogWishes &wishes, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
-    /// Prints as the Print button does: panels save and are asked, then the job is sent. Answers whether the
-    /// dialog is done; otherwise problem() says why not, and everything stays as set.
-    bool print();
+    /// Prints as the Print button does: panels save and are asked, then the job is handed to the sender. When
+    /// that has sent it, the dialog is accepted; otherwise problem() says why not, and everything stays as
+    /// set. Conflicts are not asked about.
+    void print();
     /// Why the last print() failed; empty when it did not.
     const QString &problem() const { return m_problem; }
-    /// The summary of all settings as they are now.
+    bool isSending() const { return m_isSending; }
+    /// The job's name.
+    const QString &title() const { return m_draft.title; }
+    /// Whether the printer has cut options, but there is no panel for them.
+    bool hasPanelProblem() const;
+    /// The summary of all settings as they are now; empty while no printer is known.
     std::vector<SummarySection> summary() const;
 
     void accept() override;
+    void reject() override;
     void done(int result) override;
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void build();
-    QWidget *buildChoices();
-    void buildPages();
-    void buildPanel();
+    void build(const DialogWishes &wishes);
+    QWidget *buildChoices(const DialogWishes &wishes);
+    QWidget *buildPrinter(QWidget *parent);
+    void connectAll();
+    void takeSetup();
+    void dropSetup();
     void changePaper();
     void applyPaper();
     /// Everything that shows the job is refreshed once, when control returns to the event loop.
     void refreshLater();
     void refresh();
+    void refreshJob(const host::PageChoices &choices);
+    void refreshConflicts();
     void setFigures(const QString &text);
+    QString waitingText() const;
     void pageShown();
-    bool askPanels();
+    bool confirmsConflicts();
+    void finishSending();
     void showProblem(const QString &problem);
-    SummarySection panelSummary() const;
 
-    PrintRequest m_request;
-    Sender m_sender;
+    std::unique_ptr<host::LabelDocument> m_document;
+    host::SetupKeeper &m_keeper;
+    JobSender &m_sender;
     QString m_problem;
     bool m_refreshPending = false;
+    bool m_isSending = false;
+    bool m_closesAfterSending = false;
+    host::JobDraft m_draft;
     std::unique_ptr<host::LabelRenderer> m_renderer;
-    std::unique_ptr<host::PrintJob> m_job;
+    std::unique_ptr<host::PrintJob> m_strip;
 
+    QWidget *m_content = nullptr;
     Banner *m_panelBanner = nullptr;
+    Banner *m_conflictBanner = nullptr;
     Banner *m_problemBanner = nullptr;
+    QVBoxLayout *m_paperPlace = nullptr;
     PaperChooser *m_papers = nullptr;
     PageOptions *m_pageOptions = nullptr;
-    QTabWidget *m_tabs = nullptr;
-    PanelPage *m_panelPage = nullptr;
-    PagePreview *m_pagePreview = nullptr;
-    SummaryPage *m_summaryPage = nullptr;
-    StripPreview *m_strip = nullptr;
+    DialogPages *m_pages = nullptr;
+    StripPreview *m_stripPreview = nullptr;
     QLabel *m_figures = nullptr;
+    SendBar *m_sendBar = nullptr;
     QPushButton *m_printButton = nullptr;
 };
 

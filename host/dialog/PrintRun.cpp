@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintRun.h"
 
+#include "CommandWishes.h"
+#include "HeadlessRun.h"
+#include "JobWindow.h"
+#include "PasswordDialog.h"
+#include "QueueSender.h"
+#include "ServerRun.h"
+#include "VirtualSender.h"
+
 #include <host/OutputFiles.h>
-#include <host/VirtualPrinter.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
-#include <QLocale>
+#include <QJsonDocument>
 
 namespace dialog {
 
@@ -18,17 +24,16 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(dialog::PrintRun)
 };
 
-/// The names of the papers, the first ones of many.
+/// The papers' names for a message, and "…" in place of most of them when there are many.
 QString paperNames(const host::PpdFile &ppd)
 {
-    constexpr qsizetype shown = 12;
+    constexpr int most = 12;
     QStringList names;
     for (const host::PpdPaper &paper : ppd.papers())
         names.append(QString::fromUtf8(paper.name));
-    const qsizetype more = names.size() - shown;
-    if (more <= 0)
-        return names.join(QStringLiteral(", "));
-    return Text::tr("%1 and %2 more").arg(names.first(shown).join(QStringLiteral(", "))).arg(more);
+    if (names.size() > most)
+        names = names.first(most) << QStringLiteral("…");
+    return names.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -39,122 +44,135 @@ PrintRun::PrintRun(CommandLine command, Console console)
 {
 }
 
-void PrintRun::complain(const QString &message)
+std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
 {
-    m_console.error(QCoreApplication::applicationName() + QStringLiteral(": ") + message + u'\n');
+    auto document = host::LabelDocument::open(m_command.documents);
+    if (document)
+        return std::move(document).value();
+    m_console.complain(document.error().message);
+    return nullptr;
 }
 
-std::optional<host::PpdPaper> PrintRun::choosePaper(const host::PpdFile &ppd)
+DialogWishes PrintRun::dialogWishes() const
 {
-    if (m_command.paper) {
-        std::optional<host::PpdPaper> paper = ppd.paper(*m_command.paper);
-        if (!paper)
-            complain(Text::tr("The PPD file \"%1\" has no paper \"%2\"; it has: %3")
-                         .arg(ppd.path(), QString::fromUtf8(*m_command.paper), paperNames(ppd)));
-        return paper;
-    }
-    if (std::optional<host::PpdPaper> paper = ppd.markedPaper())
-        return paper;
-    const std::vector<host::PpdPaper> papers = ppd.papers();
-    if (!papers.empty())
-        return papers.front();
-    complain(Text::tr("The PPD file \"%1\" names no paper to print on").arg(ppd.path()));
-    return std::nullopt;
+    return {m_command.settings, m_command.title, {}};
 }
 
-std::optional<PrintRequest> PrintRun::openRequest()
+std::unique_ptr<host::PrinterSetup> PrintRun::openPrinter()
 {
-    auto ppd = host::PpdFile::open(m_command.ppd);
+    auto ppd = host::PpdFile::open(*m_command.ppd);
     if (!ppd) {
-        complain(ppd.error().message);
-        return std::nullopt;
-    }
-    ppd.value().markDefaults();
-    ppd.value().localize(QLocale().name());
-    const std::optional<host::PpdPaper> paper = choosePaper(ppd.value());
-    if (!paper)
-        return std::nullopt;
-    auto document = host::LabelDocument::open(m_command.document);
-    if (!document) {
-        complain(document.error().message);
-        return std::nullopt;
-    }
-    PrintRequest request;
-    request.state = std::make_shared<host::DialogState>(std::move(ppd).value());
-    request.document = std::move(document).value();
-    request.paper = *paper;
-    return request;
-}
-
-void PrintRun::goOnWithoutPanel(PrintRequest &request, const QString &problem)
-{
-    complain(problem);
-    m_withoutPanel = true;
-    request.panels.reset();
-    request.panelProblem = Text::tr("The cut options cannot be shown. %1").arg(problem);
-}
-
-bool PrintRun::loadPanels(PrintRequest &request)
-{
-    const auto folder = host::PanelBundle::find(m_command.bundle);
-    auto bundle = folder ? host::PanelBundle::load(folder.value(), QLocale().uiLanguages())
-                         : host::Result<host::PanelBundle, host::BundleError>(folder.error());
-    if (!bundle && bundle.error().kind == host::BundleFailure::ResourceMissing) {
-        complain(bundle.error().message);
-        return false;
-    }
-    if (!bundle) {
-        goOnWithoutPanel(request, bundle.error().message);
-        return true;
-    }
-    request.panels = std::make_unique<host::PanelSession>(std::move(bundle).value(),
-                                                          std::make_shared<host::PanelHost>(request.state));
-    return askPanels(request, folder.value());
-}
-
-bool PrintRun::askPanels(PrintRequest &request, const QString &folder)
-{
-    request.claimedKeywords = request.panels->claimKeywords();
-    PDEPanel *const panel = request.panels->firstPanel();
-    if (!panel) {
-        goOnWithoutPanel(request, Text::tr("The panel bundle \"%1\" could not make its panel").arg(folder));
-        return true;
-    }
-    if (request.claimedKeywords.isEmpty()) {
-        // The panel has nothing to offer for this printer.
-        request.panels.reset();
-        return true;
-    }
-    if (panel->panelView())
-        return true;
-    complain(Text::tr("The panel of the bundle \"%1\" cannot be shown: its layout file cannot be used")
-                 .arg(folder));
-    return false;
-}
-
-std::unique_ptr<PrintDialog> PrintRun::openDialog()
-{
-    std::optional<PrintRequest> request = openRequest();
-    if (!request)
+        m_console.complain(ppd.error().message);
         return nullptr;
-    // The paper is chosen before the panel is made, since a panel looks at it from the beginning.
-    platform::Paper paper;
-    paper.name = QString::fromUtf8(request->paper.name);
-    paper.height = request->paper.size.height();
-    request->state->setPaper(paper);
-    if (!loadPanels(*request))
+    }
+    const QString papers = paperNames(ppd.value());
+    auto setup = std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(),
+                                                      setupWishes(m_command), panelSource(m_command));
+    for (const host::ChoiceError &refusal : setup->refusals()) {
+        const bool isPaper = refusal.kind == host::ChoiceFailure::UnknownPaper;
+        m_console.complain(isPaper ? Text::tr("The PPD file \"%1\" has no paper \"%2\"; it has: %3")
+                                         .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), papers)
+                                   : refusal.message);
+    }
+    if (!setup->refusals().empty() && !m_command.force)
         return nullptr;
-    return std::make_unique<PrintDialog>(std::move(*request),
-                                         [this](const host::PrintJob &job) { return sendJob(job); });
+    if (!setup->paper()) {
+        m_console.complain(Text::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
+        return nullptr;
+    }
+    if (const auto &problem = setup->panelProblem()) {
+        m_console.complain(problem->message);
+        if (problem->kind == host::PanelFailure::BrokenBundle)
+            return nullptr;
+    }
+    return setup;
 }
 
-std::optional<QString> PrintRun::sendJob(const host::PrintJob &job)
+ExitStatus PrintRun::runVirtual()
 {
-    m_folder = m_command.output.value_or(host::VirtualPrinter::freshFolder());
-    const std::optional<host::OutputError> error = host::VirtualPrinter::print(job, m_picture, m_folder);
-    if (!error)
-        return std::nullopt;
-    return error->message;
+    std::unique_ptr<host::PrinterSetup> setup = openPrinter();
+    std::unique_ptr<host::LabelDocument> document = setup ? openDocument() : nullptr;
+    if (!document)
+        return ExitStatus::Failed;
+    const bool withoutPanel = setup->panelProblem().has_value();
+    host::SetupKeeper keeper(std::move(setup));
+    VirtualSender sender(m_command.output);
+    PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    const ExitStatus status = showVirtual(dialog, sender);
+    return status == ExitStatus::Printed && withoutPanel ? ExitStatus::PrintedWithoutPanel : status;
+}
+
+ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
+{
+    dialog.show();
+    // Layout and first painting happen here, so that the picture shows what a person would see.
+    QApplication::processEvents();
+    if (!saveScreenshot(dialog.grab().toImage()))
+        return ExitStatus::Failed;
+    if (m_command.task == Task::Summary) {
+        tellSummary(dialog.summary());
+        return ExitStatus::Printed;
+    }
+    std::vector<SummarySection> summary;
+    if (m_command.noDialog) {
+        sender.setPictureTaker([&] { return dialog.grab().toImage(); });
+        dialog.print();
+        if (!dialog.problem().isEmpty()) {
+            m_console.complain(dialog.problem());
+            dialog.done(QDialog::Rejected);
+            return ExitStatus::Failed;
+        }
+    } else if (dialog.exec() != QDialog::Accepted) {
+        return ExitStatus::Cancelled;
+    }
+    tellSummary(dialog.summary());
+    m_console.out(Text::tr("The label strip is in:") + u'\n');
+    m_console.out(sender.folder() + u'\n');
+    return ExitStatus::Printed;
+}
+
+ExitStatus PrintRun::runOnQueue()
+{
+    std::unique_ptr<host::LabelDocument> document = openDocument();
+    if (!document)
+        return ExitStatus::Failed;
+    host::CupsServer server = cupsServer(m_command);
+    if (m_command.noDialog || m_command.task != Task::Print)
+        return HeadlessRun(m_command, m_console, server, *document).run();
+
+    PrintDialog *window = nullptr;
+    server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
+    host::QueueSession session(server, m_command.destination);
+    host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
+    QueueSender sender(server);
+    PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    window = &dialog;
+    dialog.show();
+    session.start(host::Discovery::Yes);
+    QApplication::processEvents();
+    if (!saveScreenshot(dialog.grab().toImage()))
+        return ExitStatus::Failed;
+    if (dialog.exec() != QDialog::Accepted)
+        return ExitStatus::Cancelled;
+    return follow(dialog, sender, server);
+}
+
+ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
+{
+    if (!m_command.quiet)
+        m_console.out(requestIdLine(sender.queue(), sender.jobId(), m_command.documents.size()));
+    JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
+    window.exec();
+    if (const auto &status = window.status()) {
+        if (status->state == host::JobState::Aborted) {
+            m_console.complain(status->sentences().join(u' '));
+            return ExitStatus::Failed;
+        }
+        if (status->state == host::JobState::Cancelled)
+            return ExitStatus::Cancelled;
+    }
+    const bool withoutPanel = dialog.hasPanelProblem();
+    return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 
 bool PrintRun::saveScreenshot(const QImage &picture)
@@ -167,45 +185,21 @@ bool PrintRun::saveScreenshot(const QImage &picture)
                 [&](QIODevice *device) { return QImageWriter(device, "png").write(picture); });
     const std::optional<host::OutputError> error = files.commit();
     if (error)
-        complain(error->message);
+        m_console.complain(error->message);
     return !error;
 }
 
-bool PrintRun::printAtOnce(PrintDialog &dialog)
+void PrintRun::tellSummary(const std::vector<SummarySection> &summary)
 {
-    m_picture = dialog.grab().toImage();
-    const bool printed = dialog.print();
-    if (!printed)
-        complain(dialog.problem());
-    dialog.done(printed ? QDialog::Accepted : QDialog::Rejected);
-    return printed;
-}
-
-void PrintRun::tell(const std::vector<SummarySection> &summary)
-{
-    m_console.out(summaryInPlainText(summary));
-    m_console.out(Text::tr("The label strip is in:") + u'\n');
-    m_console.out(QDir(m_folder).absolutePath() + u'\n');
+    m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(host::summaryJson(summary)).toJson())
+                                 : host::summaryInPlainText(summary));
 }
 
 ExitStatus PrintRun::run()
 {
-    const std::unique_ptr<PrintDialog> dialog = openDialog();
-    if (!dialog)
-        return ExitStatus::Failed;
-    dialog->show();
-    // Layout and first painting happen here, so that the picture shows what a person would see.
-    QApplication::processEvents();
-    if (!saveScreenshot(dialog->grab().toImage()))
-        return ExitStatus::Failed;
-    if (m_command.noDialog) {
-        if (!printAtOnce(*dialog))
-            return ExitStatus::Failed;
-    } else if (dialog->exec() != QDialog::Accepted) {
-        return ExitStatus::Cancelled;
-    }
-    tell(dialog->summary());
-    return m_withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
+    if (m_command.task == Task::List || m_command.task == Task::ChangeJob)
+        return ServerRun(m_command, m_console, cupsServer(m_command)).run();
+    return m_command.ppd ? runVirtual() : runOnQueue();
 }
 
 } // namespace dialog

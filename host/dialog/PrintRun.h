@@ -2,48 +2,34 @@
 #pragma once
 
 #include "CommandLine.h"
+#include "Console.h"
 #include "PrintDialog.h"
-
-#include <QImage>
 
 namespace dialog {
 
-/// Where a run of the program writes what it has to say.
-struct Console {
-    std::function<void(const QString &)> out;
-    std::function<void(const QString &)> error;
-};
-
-/// One run of kvprint: opens printer, document and bundle, shows the dialog or presses its Print button by
-/// itself, and prints on the virtual printer.
+/// One run of kvprint: opens what was asked for, shows the dialog or does without, and prints.
 class PrintRun {
 public:
     PrintRun(CommandLine command, Console console);
 
-    /// Everything from the files to the last message. Without a dialog it does not wait for anybody.
+    /// Everything from the files to the last message. Without a dialog it does not wait for anybody but the
+    /// print server.
     ExitStatus run();
 
 private:
-    /// Answers nothing, and says why, when the dialog cannot be opened for what was asked.
-    std::unique_ptr<PrintDialog> openDialog();
-    std::optional<PrintRequest> openRequest();
-    std::optional<host::PpdPaper> choosePaper(const host::PpdFile &ppd);
-    /// False, with the reason told, when the bundle is so damaged that printing on would mislead.
-    bool loadPanels(PrintRequest &request);
-    bool askPanels(PrintRequest &request, const QString &folder);
-    void goOnWithoutPanel(PrintRequest &request, const QString &problem);
-    std::optional<QString> sendJob(const host::PrintJob &job);
+    std::unique_ptr<host::LabelDocument> openDocument();
+    ExitStatus runVirtual();
+    ExitStatus runOnQueue();
+    /// The printer of a PPD file; null, with the reason told, when it cannot be used as asked.
+    std::unique_ptr<host::PrinterSetup> openPrinter();
+    ExitStatus showVirtual(PrintDialog &dialog, class VirtualSender &sender);
+    ExitStatus follow(PrintDialog &dialog, const class QueueSender &sender, const host::CupsServer &server);
+    DialogWishes dialogWishes() const;
     bool saveScreenshot(const QImage &picture);
-    bool printAtOnce(PrintDialog &dialog);
-    void tell(const std::vector<SummarySection> &summary);
-    void complain(const QString &message);
+    void tellSummary(const std::vector<SummarySection> &summary);
 
     CommandLine m_command;
     Console m_console;
-    bool m_withoutPanel = false;
-    QString m_folder;
-    /// What the virtual printer puts beside the strip; null for nothing.
-    QImage m_picture;
 };
 
 } // namespace dialog

@@ -35,15 +35,4 @@ void SummaryPage::setSections(const std::vector<SummarySection> &sections)
     expandAll();
 }
 
-QString summaryInPlainText(const std::vector<SummarySection> &sections)
-{
-    QString text;
-    for (const SummarySection &section : sections) {
-        text += section.title + u'\n';
-        for (const auto &[title, value] : section.lines)
-            text += QStringLiteral("  %1: %2\n").arg(title, value);
-    }
-    return text;
-}
-
 } // namespace dialog

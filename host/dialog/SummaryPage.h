@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QString>
-#include <QTreeWidget>
+#include <host/setup/JobSummary.h>
 
-#include <utility>
-#include <vector>
+#include <QTreeWidget>
 
 namespace dialog {
 
-/// Lines of a summary under one title.
-struct SummarySection {
-    QString title;
-    std::vector<std::pair<QString, QString>> lines;
-};
+using host::SummarySection;
 
 /// All settings of the job in one list, to be read before printing.
 class SummaryPage : public QTreeWidget {
@@ -24,8 +18,5 @@ public:
 
     void setSections(const std::vector<SummarySection> &sections);
 };
-
-/// The sections as plain text, for a terminal.
-QString summaryInPlainText(const std::vector<SummarySection> &sections);
 
 } // namespace dialog

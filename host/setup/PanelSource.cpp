@@ -43,9 +43,6 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
             PanelFailure::BrokenBundle,
             Text::tr("The panel of the bundle \"%1\" cannot be shown: its layout file cannot be used")
                 .arg(found.value())};
-    QString error;
-    if (!panel->restoreValuesAndReturnError(&error))
-        return PanelError{PanelFailure::NoPanel, error};
     return panels;
 }
 

@@ -127,12 +127,37 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     PanelHost *const host = panelHost();
     if (!host)
         return;
+    fillPanel();
     host->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         if (!choice)
             return;
         m_lastChosen = keyword;
         record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
     });
+}
+
+void PrinterSetup::fillPanel()
+{
+    // When it is shown for the first time, a panel begins with the PPD's own defaults and marks them. What the
+    // queue, the user and the command line want instead is then told like any change made elsewhere.
+    std::vector<std::pair<QString, QString>> wanted;
+    for (const QString &keyword : claimedKeywords()) {
+        if (const std::optional<QString> choice = ppd().markedChoice(keyword))
+            wanted.emplace_back(keyword, *choice);
+    }
+    panel()->willShow();
+    for (const auto &[keyword, choice] : wanted) {
+        if (ppd().markedChoice(keyword) != choice)
+            m_state->changeOption(keyword, choice, nullptr);
+    }
+    refreshPanel();
+}
+
+void PrinterSetup::refreshPanel()
+{
+    QString error;
+    if (panel() && !panel()->restoreValuesAndReturnError(&error))
+        m_panelProblem = PanelError{PanelFailure::NoPanel, error};
 }
 
 QString PrinterSetup::printerText() const
@@ -172,6 +197,9 @@ void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
     m_lastChosen = QString::fromUtf8(keyword);
     record(keyword, value, Origin::You);
     m_state->changeOption(m_lastChosen, QString::fromUtf8(value), nullptr);
+    // Panels take note of such a change, but show it only when they are asked to.
+    if (claimedKeywords().contains(m_lastChosen))
+        refreshPanel();
 }
 
 std::vector<Conflict> PrinterSetup::conflicts() const

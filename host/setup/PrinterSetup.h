@@ -85,6 +85,8 @@ private:
     void takePaper(const SetupWishes &wishes);
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
+    void fillPanel();
+    void refreshPanel();
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
     Destination m_destination;

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CommandLine.h"
+
+#include <host/cups/CupsServer.h>
+#include <host/setup/PrinterSetup.h>
+
+namespace dialog {
+
+// What the command line asks for, as the parts of a run take it.
+
+/// The print server to talk to, without a way to ask for passwords.
+host::CupsServer cupsServer(const CommandLine &command);
+/// What is wanted of the printer; PPD texts in the user's language.
+host::SetupWishes setupWishes(const CommandLine &command);
+/// Where the panel is looked for.
+host::PanelSource panelSource(const CommandLine &command);
+
+/// The line that lp writes when a job is sent: programs that start lp look for it.
+QString requestIdLine(const QString &queue, int jobId, qsizetype documents);
+
+} // namespace dialog

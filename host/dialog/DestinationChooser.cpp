@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DestinationChooser.h"
+
+#include <host/cups/QueueWords.h>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace dialog {
+
+namespace {
+
+QString listText(const host::Destination &destination)
+{
+    // Two queues may have one description, and an instance has that of its queue.
+    if (destination.description.isEmpty() || destination.description == destination.name())
+        return destination.name();
+    return QStringLiteral("%1 – %2").arg(destination.name(), destination.description);
+}
+
+QString describe(const host::Destination &destination)
+{
+    QStringList lines;
+    if (destination.isClass)
+        lines.append(DestinationChooser::tr("Class of printers: %1")
+                         .arg(destination.members.join(QStringLiteral(", "))));
+    if (!destination.makeAndModel.isEmpty())
+        lines.append(destination.makeAndModel);
+    if (!destination.location.isEmpty())
+        lines.append(destination.location);
+    return lines.join(u'\n');
+}
+
+QStyle::StandardPixmap icon(host::StateSeverity severity)
+{
+    switch (severity) {
+    case host::StateSeverity::Good:
+        return QStyle::SP_MessageBoxInformation;
+    case host::StateSeverity::Warning:
+        return QStyle::SP_MessageBoxWarning;
+    case host::StateSeverity::Error:
+        break;
+    }
+    return QStyle::SP_MessageBoxCritical;
+}
+
+} // namespace
+
+DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *parent)
+    : QWidget(parent)
+    , m_session(session)
+    , m_list(new QComboBox(this))
+    , m_icon(new QLabel(this))
+    , m_state(new QLabel(this))
+{
+    auto *const label = new QLabel(tr("P&rinter"), this);
+    label->setBuddy(m_list);
+    m_list->setAccessibleName(tr("Printer"));
+    // As wide as the papers below it, however long the printers' descriptions are.
+    m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_list->setMinimumContentsLength(20);
+    m_state->setWordWrap(true);
+    m_state->setTextFormat(Qt::PlainText);
+    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // Room for two lines, so that the papers do not jump when a state comes and goes.
+    m_state->setMinimumHeight(2 * m_state->fontMetrics().lineSpacing());
+    m_state->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    m_icon->setAlignment(Qt::AlignTop);
+
+    auto *const state = new QHBoxLayout;
+    state->addWidget(m_icon);
+    state->addWidget(m_state, 1);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(label);
+    layout->addWidget(m_list);
+    layout->addLayout(state);
+    connect(&session, &host::QueueSession::destinationsChanged, this, &DestinationChooser::showDestinations);
+    connect(&session, &host::QueueSession::chosenChanged, this, &DestinationChooser::showChosen);
+    connect(&session, &host::QueueSession::stateChanged, this, &DestinationChooser::showState);
+    connect(&session, &host::QueueSession::settled, this, &DestinationChooser::showState);
+    connect(m_list, &QComboBox::activated, this,
+            [this](int index) { m_session.choose(m_list->itemData(index).toString()); });
+    showDestinations();
+}
+
+void DestinationChooser::showDestinations()
+{
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const host::Destination &destination : m_session.destinations().destinations()) {
+        m_list->addItem(listText(destination), destination.name());
+        m_list->setItemData(m_list->count() - 1, describe(destination), Qt::ToolTipRole);
+    }
+    showChosen();
+}
+
+void DestinationChooser::showChosen()
+{
+    const QString name = m_session.chosenName();
+    int index = m_list->findData(name);
+    if (index < 0 && !name.isEmpty()) {
+        // Asked for and not there yet, or an instance that nobody has made.
+        m_list->insertItem(0, name, name);
+        index = 0;
+    }
+    m_list->setCurrentIndex(index);
+    showState();
+}
+
+QString DestinationChooser::stateText() const
+{
+    const bool isFromLastTime = m_session.destinations().isStale();
+    if (!m_session.chosen())
+        return m_session.isSettled() ? tr("There is no such printer.")
+                                     : tr("Waiting for the print server's answer…");
+    const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
+    if (isFromLastTime && !m_session.isSettled())
+        return tr("Last time: %1").arg(sentences);
+    return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
+}
+
+void DestinationChooser::showState()
+{
+    const QString text = stateText();
+    m_state->setText(text);
+    m_list->setAccessibleDescription(text);
+    const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();
+    const host::StateSeverity severity =
+        isKnown ? host::queueSeverity(*m_session.chosen()) : host::StateSeverity::Warning;
+    // A printer that is well needs no sign.
+    m_icon->setVisible(isKnown && severity != host::StateSeverity::Good);
+    if (m_icon->isHidden())
+        return;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icon->setPixmap(style()->standardIcon(icon(severity)).pixmap(size));
+}
+
+} // namespace dialog

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "SummaryPage.h"
+
+#include <host/cups/CupsServer.h>
+#include <host/setup/PrinterSetup.h>
+
+#include <QTabWidget>
+
+#include <functional>
+
+namespace dialog {
+
+class PagePreview;
+class PanelPage;
+class SentPage;
+
+/// The dialog's pages: the printer's panel and its other options, which come and go with the printer, and
+/// those that every printer has.
+class DialogPages : public QTabWidget {
+    Q_OBJECT
+
+public:
+    /// The document is borrowed. Without a server there is no page of what will be sent.
+    DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent);
+    ~DialogPages() override;
+
+    /// Shows the pages of the printer, which is borrowed until dropSetup().
+    void takeSetup(host::PrinterSetup &setup);
+    /// Gives back the panel's view and takes off all that belongs to the printer.
+    void dropSetup();
+
+    /// Labels as the renderer draws them; borrowed until the next call.
+    void setRenderer(const host::LabelRenderer &renderer);
+    /// What the summary and the page of what will be sent show when they are in front.
+    void setSummary(std::function<std::vector<SummarySection>()> summary) { m_summary = std::move(summary); }
+    void setTicket(std::function<std::optional<host::JobTicket>()> ticket) { m_ticket = std::move(ticket); }
+    /// Refreshes the page in front.
+    void refresh();
+    /// Tells the panel that its page comes to the front, if it does.
+    void announceFront();
+    /// The dialog is about to close.
+    void announceClosing(QWidget *window);
+
+private:
+    const host::CupsServer *m_server;
+    host::PrinterSetup *m_setup = nullptr;
+    PanelPage *m_panelPage = nullptr;
+    PagePreview *m_pagePreview;
+    SummaryPage *m_summaryPage;
+    SentPage *m_sentPage = nullptr;
+    std::function<std::vector<SummarySection>()> m_summary;
+    std::function<std::optional<host::JobTicket>()> m_ticket;
+};
+
+} // namespace dialog

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "HeadlessRun.h"
+
+#include "CommandWishes.h"
+#include "QueueSender.h"
+
+#include <host/setup/JobReport.h>
+#include <host/setup/JobSummary.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace dialog {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
+};
+
+/// A printer on the network that has no queue yet announces itself within this time.
+constexpr std::chrono::milliseconds discoveryPatience{1500};
+
+bool isPpdKnown(const host::QueueSession &session)
+{
+    return session.ppdKnowledge() != host::PpdKnowledge::Asked &&
+           session.ppdKnowledge() != host::PpdKnowledge::Cached;
+}
+
+/// Runs the event loop until the condition holds, or as long as the patience lasts; answers whether it holds.
+bool waitUntil(host::QueueSession &session, const std::function<bool()> &holds,
+               std::optional<std::chrono::milliseconds> patience = std::nullopt)
+{
+    QEventLoop loop;
+    const auto look = [&] {
+        if (holds())
+            loop.quit();
+    };
+    QObject::connect(&session, &host::QueueSession::settled, &loop, look);
+    QObject::connect(&session, &host::QueueSession::chosenChanged, &loop, look);
+    QObject::connect(&session, &host::QueueSession::ppdChanged, &loop, look);
+    if (patience)
+        QTimer::singleShot(*patience, &loop, &QEventLoop::quit);
+    if (!holds())
+        loop.exec();
+    return holds();
+}
+
+/// The strip for the summary; null where nobody knows of cuts.
+std::unique_ptr<host::PrintJob> makeStrip(const host::PrinterSetup &setup,
+                                          const host::LabelDocument &document,
+                                          const host::LabelRenderer &renderer, const host::JobDraft &draft)
+{
+    if (!setup.hasPpd() || !setup.paper())
+        return nullptr;
+    return std::make_unique<host::PrintJob>(setup.state(), document, renderer, *setup.paper(), draft.pages);
+}
+
+} // namespace
+
+HeadlessRun::HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
+                         const host::LabelDocument &document)
+    : m_command(command)
+    , m_console(console)
+    , m_server(std::move(server))
+    , m_document(document)
+{
+}
+
+host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper)
+{
+    std::optional<host::CupsError> failure;
+    QObject::connect(&session, &host::QueueSession::failed, &keeper,
+                     [&](const host::CupsError &error) { failure = error; });
+    session.start(host::Discovery::No);
+    waitUntil(session, [&] { return session.isSettled() && (!session.chosen() || isPpdKnown(session)); });
+    const bool mayBeDiscovered = !session.chosen() && failure && failure->kind == host::CupsFailure::NotFound;
+    if (mayBeDiscovered) {
+        session.start(host::Discovery::Yes);
+        const auto isThere = [&] { return session.chosen() && isPpdKnown(session); };
+        if (waitUntil(session, isThere, discoveryPatience))
+            failure.reset();
+    }
+    if (!failure && !session.chosen())
+        failure = host::CupsError{
+            host::CupsFailure::NotFound,
+            Text::tr("The print server \"%1\" has no destination to print on").arg(m_server.displayName())};
+    if (failure)
+        m_console.complain(failure->message);
+    // A PPD that cannot be used says nothing of what would come out.
+    const bool mayGoOn = !failure || (m_command.force && failure->kind == host::CupsFailure::Refused);
+    return mayGoOn ? keeper.setup() : nullptr;
+}
+
+bool HeadlessRun::accepts(host::PrinterSetup &setup)
+{
+    for (const host::ChoiceError &refusal : setup.refusals())
+        m_console.complain(refusal.message);
+    if (!setup.refusals().empty() && !m_command.force)
+        return false;
+    if (const auto &problem = setup.panelProblem()) {
+        m_console.complain(problem->message);
+        if (problem->kind == host::PanelFailure::BrokenBundle)
+            return false;
+    }
+    if (const std::optional<QString> refusal = setup.savePanel()) {
+        m_console.complain(*refusal);
+        return false;
+    }
+    tellChangesByPanel(setup);
+    return !hasConflicts(setup) || m_command.force;
+}
+
+void HeadlessRun::tellChangesByPanel(const host::PrinterSetup &setup) const
+{
+    for (const host::JobChoice &wish : m_command.options) {
+        const auto now = std::ranges::find(setup.choices(), wish.name, &host::JobChoice::name);
+        if (now != setup.choices().end() && now->value != wish.value)
+            m_console.complain(Text::tr("\"%1\" cannot be \"%2\" together with the other cut options and is "
+                                        "printed as \"%3\"")
+                                   .arg(QString::fromUtf8(wish.name), QString::fromUtf8(wish.value),
+                                        QString::fromUtf8(now->value)));
+    }
+}
+
+bool HeadlessRun::hasConflicts(const host::PrinterSetup &setup) const
+{
+    const std::vector<host::Conflict> conflicts = setup.conflicts();
+    for (const host::Conflict &conflict : conflicts)
+        m_console.complain(conflict.sentence());
+    const std::optional<host::Remedy> remedy = conflicts.empty() ? std::nullopt : setup.remedy();
+    if (remedy)
+        m_console.complain(Text::tr("This would help: %1").arg(remedy->sentence()));
+    return !conflicts.empty();
+}
+
+std::optional<host::JobDraft> HeadlessRun::makeDraft() const
+{
+    auto pages = host::parsePageRanges(m_command.settings.pageRanges, m_document.pageCount());
+    if (!pages) {
+        m_console.complain(pages.error().message);
+        return std::nullopt;
+    }
+    host::JobDraft draft;
+    draft.settings = m_command.settings;
+    draft.title = m_command.title.value_or(host::defaultTitle(m_document));
+    draft.pages = {std::move(pages).value(), m_command.settings.copies.value_or(1),
+                   m_command.settings.collate.value_or(host::Collate::Yes)};
+    return draft;
+}
+
+ExitStatus HeadlessRun::run()
+{
+    const std::optional<host::JobDraft> draft = makeDraft();
+    if (!draft)
+        return ExitStatus::Failed;
+    host::QueueSession session(m_server, m_command.destination);
+    host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
+    host::PrinterSetup *const setup = waitForSetup(session, keeper);
+    if (!setup || !accepts(*setup))
+        return ExitStatus::Failed;
+    const ExitStatus status = finish(*setup, *draft);
+    const bool withoutPanel = setup->panelProblem().has_value();
+    return status == ExitStatus::Printed && withoutPanel ? ExitStatus::PrintedWithoutPanel : status;
+}
+
+ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::JobDraft &draft)
+{
+    const auto tell = [&](const auto &json, const QString &text) {
+        m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(json).toJson()) : text);
+        return ExitStatus::Printed;
+    };
+    if (m_command.task == Task::DryRun) {
+        const host::JobTicket ticket = host::ticketFor(setup, m_document, draft);
+        return tell(host::ticketJson(m_server, ticket, setup.conflicts()),
+                    host::ticketInPlainText(m_server, ticket, setup.conflicts()));
+    }
+    if (m_command.task == Task::Summary) {
+        const host::LabelRenderer renderer(m_document, host::shownPaper(setup, m_document));
+        const std::unique_ptr<host::PrintJob> strip = makeStrip(setup, m_document, renderer, draft);
+        const auto summary = host::summarize(setup, m_document, draft, strip.get());
+        return tell(host::summaryJson(summary), host::summaryInPlainText(summary));
+    }
+    return send(setup, draft);
+}
+
+ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDraft &draft)
+{
+    QueueSender sender(m_server);
+    QEventLoop loop;
+    std::optional<QString> problem;
+    QObject::connect(&sender, &JobSender::sent, &loop, &QEventLoop::quit);
+    QObject::connect(&sender, &JobSender::failed, &loop, [&](const QString &text) {
+        problem = text;
+        loop.quit();
+    });
+    sender.send({setup, m_document, draft, nullptr});
+    loop.exec();
+    if (problem) {
+        m_console.complain(*problem);
+        return ExitStatus::Failed;
+    }
+    if (!m_command.quiet)
+        m_console.out(requestIdLine(sender.queue(), sender.jobId(), m_command.documents.size()));
+    return ExitStatus::Printed;
+}
+
+} // namespace dialog

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CommandLine.h"
+#include "Console.h"
+
+#include <host/cups/CupsServer.h>
+#include <host/setup/SetupJob.h>
+#include <host/setup/SetupKeeper.h>
+
+namespace dialog {
+
+/// Printing on a queue without a dialog, or telling what would be printed. The panel works all the same,
+/// without being seen, so that its rules hold for what the command line asks for.
+class HeadlessRun {
+public:
+    /// The document is borrowed.
+    HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
+                const host::LabelDocument &document);
+
+    ExitStatus run();
+
+private:
+    /// Waits for the server; null, with the reason told, when there is nothing to print on.
+    host::PrinterSetup *waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper);
+    /// Whether the printer can do what is asked for; tells what it cannot.
+    bool accepts(host::PrinterSetup &setup);
+    void tellChangesByPanel(const host::PrinterSetup &setup) const;
+    bool hasConflicts(const host::PrinterSetup &setup) const;
+    std::optional<host::JobDraft> makeDraft() const;
+    ExitStatus finish(const host::PrinterSetup &setup, const host::JobDraft &draft);
+    ExitStatus send(const host::PrinterSetup &setup, const host::JobDraft &draft);
+
+    const CommandLine &m_command;
+    const Console &m_console;
+    host::CupsServer m_server;
+    const host::LabelDocument &m_document;
+};
+
+} // namespace dialog

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/setup/SetupJob.h>
+
+#include <QObject>
+
+namespace dialog {
+
+/// A job that is ready to leave the dialog.
+struct ReadyJob {
+    const host::PrinterSetup &setup;
+    const host::LabelDocument &document;
+    const host::JobDraft &draft;
+    /// The strip with its plan of cuts; null without a PPD.
+    const host::PrintJob *strip;
+};
+
+/// Takes jobs from the dialog. The outcome may come at once or later; until then no other job is handed over.
+class JobSender : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// One of sent() and failed() follows. What the job borrows is only used during the call.
+    virtual void send(const ReadyJob &job) = 0;
+    /// Takes the job back while it is on its way; failed() follows, or sent() if it was too late.
+    virtual void cancel() = 0;
+
+Q_SIGNALS:
+    /// How much has been sent, 0 to 100; -1 when nobody can tell.
+    void progressed(int percent);
+    void sent();
+    /// Nothing is printed. The text is empty when it was the user who took the job back.
+    void failed(const QString &problem);
+};
+
+} // namespace dialog

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobWindow.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace dialog {
+
+JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int jobId, const QString &title,
+                     QWidget *parent)
+    : QDialog(parent)
+    , m_monitor(server, queue, jobId)
+    , m_words(new QLabel(tr("The job is sent."), this))
+{
+    setWindowTitle(tr("%1 on %2").arg(title, queue));
+    auto *const name = new QLabel(tr("Job %1: %2").arg(jobId).arg(title), this);
+    name->setTextFormat(Qt::PlainText);
+    QFont bold = name->font();
+    bold.setBold(true);
+    name->setFont(bold);
+    name->setWordWrap(true);
+    m_words->setWordWrap(true);
+    m_words->setTextFormat(Qt::PlainText);
+    m_words->setMinimumHeight(3 * m_words->fontMetrics().lineSpacing());
+    m_words->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    auto *const buttons = new QDialogButtonBox(this);
+    m_cancel = buttons->addButton(tr("Cancel the &job"), QDialogButtonBox::DestructiveRole);
+    QPushButton *const close = buttons->addButton(QDialogButtonBox::Close);
+    close->setDefault(true);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(name);
+    layout->addWidget(m_words, 1);
+    layout->addWidget(buttons);
+    setMinimumWidth(40 * fontMetrics().averageCharWidth());
+
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        m_cancel->setEnabled(false);
+        m_monitor.cancelJob();
+    });
+    connect(&m_monitor, &host::JobMonitor::changed, this, &JobWindow::showStatus);
+    connect(&m_monitor, &host::JobMonitor::failed, this,
+            [this](const host::CupsError &error) { m_words->setText(error.message); });
+}
+
+void JobWindow::showStatus(const host::JobStatus &status)
+{
+    m_status = status;
+    m_words->setText(status.sentences().join(u'\n'));
+    m_words->setAccessibleName(m_words->text());
+    m_cancel->setEnabled(!status.isOver());
+    if (status.state == host::JobState::Completed)
+        accept();
+}
+
+} // namespace dialog

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "QueueSender.h"
+
+namespace dialog {
+
+QueueSender::QueueSender(host::CupsServer server, QObject *parent)
+    : JobSender(parent)
+    , m_submission(std::move(server))
+{
+    connect(&m_submission, &host::JobSubmission::progressed, this,
+            [this](const host::UploadProgress &progress) {
+                Q_EMIT progressed(progress.total > 0 ? static_cast<int>(100 * progress.sent / progress.total)
+                                                     : -1);
+            });
+    connect(&m_submission, &host::JobSubmission::submitted, this, [this](int jobId) {
+        m_jobId = jobId;
+        Q_EMIT sent();
+    });
+    connect(&m_submission, &host::JobSubmission::failed, this, [this](const host::CupsError &error) {
+        Q_EMIT failed(error.kind == host::CupsFailure::Cancelled ? QString() : error.message);
+    });
+}
+
+void QueueSender::send(const ReadyJob &job)
+{
+    m_queue = job.setup.destination().queue;
+    m_submission.submit(host::ticketFor(job.setup, job.document, job.draft));
+}
+
+} // namespace dialog

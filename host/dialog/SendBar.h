@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QWidget>
+
+class QProgressBar;
+
+namespace dialog {
+
+/// Tells how far the sending of a job is, with a button to take it back. Hidden while nothing is sent.
+class SendBar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SendBar(QWidget *parent);
+
+    void begin(const QString &title);
+    /// 0 to 100; -1 when nobody can tell.
+    void setProgress(int percent);
+    void end();
+
+Q_SIGNALS:
+    void cancelled();
+
+private:
+    QProgressBar *m_bar;
+};
+
+} // namespace dialog

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <host/setup/PrinterSetup.h>
+#include <tests/support/PpdBuilder.h>
+
+#include <QCheckBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using host::ChoiceFailure;
+using host::JobChoice;
+using host::Origin;
+using host::PrinterSetup;
+using host::SetupWishes;
+using test_support::PpdBuilder;
+
+namespace {
+
+class PrinterSetupTest : public testing::Test {
+protected:
+    std::unique_ptr<PrinterSetup> make(const PpdBuilder &ppd, const SetupWishes &wishes = {},
+                                       const host::Destination &destination = {}) const
+    {
+        const QString path = folder.filePath(QStringLiteral("printer.ppd"));
+        EXPECT_TRUE(ppd.writeTo(path));
+        auto opened = host::PpdFile::open(path);
+        if (!opened)
+            qFatal("%s", qPrintable(opened.error().message));
+        return std::make_unique<PrinterSetup>(destination, std::move(opened).value(), wishes, source);
+    }
+
+    static const JobChoice *find(const PrinterSetup &setup, const QByteArray &name)
+    {
+        const auto found = std::ranges::find(setup.choices(), name, &JobChoice::name);
+        return found == setup.choices().end() ? nullptr : &*found;
+    }
+
+    static QString marked(const PrinterSetup &setup, const char *keyword)
+    {
+        return setup.ppd().markedChoice(QLatin1String(keyword)).value_or(QStringLiteral("(none)"));
+    }
+
+    static QCheckBox *box(const PrinterSetup &setup, const char *name)
+    {
+        return setup.panel()->panelView()->findChild<QCheckBox *>(QLatin1String(name));
+    }
+
+    const host::PanelSource source{QStringLiteral(KV_BINARY_DIR "/bin"), {}};
+    QTemporaryDir folder;
+};
+
+JobChoice wish(const char *name, const char *value)
+{
+    return {name, value, Origin::You};
+}
+
+} // namespace
+
+TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
+{
+    const auto setup =
+        make(PpdBuilder().allOptions(), {{wish("KvMirror", "ON"), wish("KvCutLabel", "7")}, "36mm"});
+    ASSERT_TRUE(setup->panel());
+    EXPECT_EQ(setup->claimedKeywords().size(), 9);
+    EXPECT_TRUE(setup->refusals().empty());
+    EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("ON"));
+    EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("36mm"));
+    EXPECT_EQ(setup->paper()->name, QByteArray("36mm"));
+    EXPECT_EQ(setup->state().paper()->name, QStringLiteral("36mm"));
+    // Coming to the front does not take it back.
+    setup->panel()->willShow();
+    EXPECT_TRUE(box(*setup, "mMirrorPrintChkBx")->isChecked());
+    EXPECT_EQ(find(*setup, "KvMirror")->origin, Origin::You);
+}
+
+TEST_F(PrinterSetupTest, WhatThePrinterLacksIsRefusedByName)
+{
+    const auto setup =
+        make(PpdBuilder().options({"KvMirror", "KvHalfCut"}),
+             {{wish("KvMirror", "SIDEWAYS"), wish("NoSuch", "ON"), wish("KvHalfCut", "ON")}, "A4"});
+    ASSERT_EQ(setup->refusals().size(), 3U);
+    EXPECT_EQ(setup->refusals()[0].kind, ChoiceFailure::UnknownChoice);
+    EXPECT_TRUE(setup->refusals()[0].message.contains(QStringLiteral("\"SIDEWAYS\"")));
+    EXPECT_EQ(setup->refusals()[1].kind, ChoiceFailure::UnknownOption);
+    EXPECT_TRUE(setup->refusals()[1].message.contains(QStringLiteral("\"NoSuch\"")));
+    EXPECT_EQ(setup->refusals()[2].kind, ChoiceFailure::UnknownPaper);
+    EXPECT_TRUE(setup->refusals()[2].message.contains(QStringLiteral("\"A4\"")));
+    EXPECT_EQ(setup->paper()->name, QByteArray("24mm"));
+    EXPECT_EQ(marked(*setup, "KvHalfCut"), QStringLiteral("ON"));
+    EXPECT_FALSE(find(*setup, "NoSuch"));
+}
+
+TEST_F(PrinterSetupTest, ForcedWishesAreKeptAsTheyAre)
+{
+    SetupWishes wishes{{wish("NoSuch", "ON")}, "A4"};
+    wishes.force = true;
+    const auto setup = make(PpdBuilder().options({"KvMirror"}), wishes);
+    EXPECT_EQ(setup->refusals().size(), 2U);
+    ASSERT_TRUE(find(*setup, "NoSuch"));
+    ASSERT_TRUE(find(*setup, "PageSize"));
+    EXPECT_EQ(find(*setup, "PageSize")->value, QByteArray("A4"));
+    // The labels are still shown on a paper that the printer has.
+    EXPECT_EQ(setup->paper()->name, QByteArray("24mm"));
+}
+
+TEST_F(PrinterSetupTest, AClickOnThePanelIsRecordedAsThePanels)
+{
+    const auto setup = make(PpdBuilder().allOptions());
+    EXPECT_FALSE(find(*setup, "KvMirror"));
+    int heard = 0;
+    setup->setDidChangeHook([&] { ++heard; });
+    QTest::mouseClick(box(*setup, "mMirrorPrintChkBx"), Qt::LeftButton, {}, {5, 8});
+    EXPECT_GT(heard, 0);
+    ASSERT_TRUE(find(*setup, "KvMirror"));
+    EXPECT_EQ(find(*setup, "KvMirror")->value, QByteArray("ON"));
+    EXPECT_EQ(find(*setup, "KvMirror")->origin, Origin::Panel);
+}
+
+TEST_F(PrinterSetupTest, ThePanelsRulesHoldForWishesToo)
+{
+    const auto setup =
+        make(PpdBuilder().allOptions(), {{wish("KvSpecialTape", "ON"), wish("KvHalfCut", "ON")}});
+    EXPECT_FALSE(setup->savePanel());
+    ASSERT_TRUE(find(*setup, "KvHalfCut"));
+    EXPECT_EQ(find(*setup, "KvSpecialTape")->value, QByteArray("ON"));
+    EXPECT_EQ(find(*setup, "KvSpecialTape")->origin, Origin::You);
+    EXPECT_EQ(find(*setup, "KvHalfCut")->value, QByteArray("OFF"));
+    EXPECT_EQ(find(*setup, "KvHalfCut")->origin, Origin::Panel);
+}
+
+TEST_F(PrinterSetupTest, ARemedyEndsTheConflictAndLeavesThePaper)
+{
+    const PpdBuilder ppd = PpdBuilder()
+                               .options({"KvMirror"})
+                               .option("Other")
+                               .constraint("KvMirror", "ON", "PageSize", "24mm")
+                               .constraint("Other", "ON", "KvMirror", "ON");
+    const auto setup = make(ppd);
+    EXPECT_TRUE(setup->conflicts().empty());
+    setup->choose("Other", "ON");
+    setup->choose("KvMirror", "ON");
+    EXPECT_EQ(setup->conflicts().size(), 2U);
+    const auto remedy = setup->remedy();
+    ASSERT_TRUE(remedy);
+    setup->apply(*remedy);
+    EXPECT_TRUE(setup->conflicts().empty());
+    EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("24mm"));
+    // The paper rules it out, so not even the last choice can stay.
+    EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("OFF"));
+}
+
+TEST_F(PrinterSetupTest, TheUsersDefaultsAreMarkedAndAFreePaperIsAmongThem)
+{
+    const QByteArray freeSizes =
+        "*MaxMediaWidth: \"300\"\n*MaxMediaHeight: \"2835\"\n*HWMargins: 0 0 0 0\n"
+        "*VariablePaperSize: True\n*CustomPageSize True: \"pop\"\n"
+        "*ParamCustomPageSize Width: 1 points 10 300\n*ParamCustomPageSize Height: 2 points 10 2835\n";
+    host::Destination destination;
+    destination.queue = QStringLiteral("tape");
+    destination.userOptions = {{"PageSize", "Custom.30x40mm"}, {"KvMirror", "ON"}};
+    const auto setup = make(PpdBuilder().options({"KvMirror"}).raw(freeSizes), {}, destination);
+    EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("ON"));
+    ASSERT_TRUE(setup->paper());
+    EXPECT_EQ(setup->paper()->name, QByteArray("Custom.30x40mm"));
+    // Nobody has chosen anything for this job.
+    EXPECT_TRUE(setup->choices().empty());
+}
+
+TEST_F(PrinterSetupTest, ThePrintersChoicesAnnounceAPaperToThePanel)
+{
+    const auto setup = make(PpdBuilder().allOptions());
+    EXPECT_TRUE(box(*setup, "mRemoveBlkSpaceChkBx")->isEnabled());
+    setup->choosePaper(setup->ppd().paper("DC29x90").value());
+    // Blank cannot be taken off die-cut labels.
+    EXPECT_FALSE(box(*setup, "mRemoveBlkSpaceChkBx")->isEnabled());
+    EXPECT_EQ(find(*setup, "PageSize")->value, QByteArray("DC29x90"));
+    EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("DC29x90"));
+}
+
+TEST_F(PrinterSetupTest, WithoutAPpdEverythingIsPassedOn)
+{
+    host::Destination destination;
+    destination.queue = QStringLiteral("plain");
+    const PrinterSetup setup(destination, std::nullopt, {{wish("Anything", "Goes")}, "A4"}, source);
+    EXPECT_FALSE(setup.hasPpd());
+    EXPECT_FALSE(setup.panel());
+    EXPECT_FALSE(setup.panelProblem());
+    EXPECT_FALSE(setup.paper());
+    EXPECT_TRUE(setup.conflicts().empty());
+    ASSERT_EQ(setup.choices().size(), 2U);
+    EXPECT_EQ(setup.choices()[1].name, QByteArray("PageSize"));
+    EXPECT_EQ(setup.printerText(), QStringLiteral("plain"));
+}
+
+TEST_F(PrinterSetupTest, APrinterWithoutCutOptionsHasNoPanelAndNoProblem)
+{
+    const auto setup = make(PpdBuilder().option("Other"));
+    EXPECT_FALSE(setup->panel());
+    EXPECT_FALSE(setup->panelProblem());
+    EXPECT_FALSE(setup->savePanel());
+}
+
+TEST_F(PrinterSetupTest, ABundleThatIsNotThereIsAProblemToTell)
+{
+    const QString path = folder.filePath(QStringLiteral("printer.ppd"));
+    ASSERT_TRUE(PpdBuilder().allOptions().writeTo(path));
+    auto ppd = host::PpdFile::open(path);
+    ASSERT_TRUE(ppd);
+    const PrinterSetup setup({}, std::move(ppd).value(), {}, {QStringLiteral("/nowhere"), {}});
+    ASSERT_TRUE(setup.panelProblem());
+    EXPECT_EQ(setup.panelProblem()->kind, host::PanelFailure::NoPanel);
+    EXPECT_TRUE(setup.panelProblem()->message.contains(QStringLiteral("/nowhere")));
+    EXPECT_FALSE(setup.panel());
+}

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: Apache-2.0
+// The way from a server's answers to the printer that is set up, against a real cupsd.
+#include <host/cups/QueueCache.h>
+#include <host/setup/SetupKeeper.h>
+#include <tests/support/PpdBuilder.h>
+#include <tests/support/PrivateCupsd.h>
+
+#include <QDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using host::PpdKnowledge;
+using host::QueueSession;
+using host::SetupKeeper;
+using test_support::PpdBuilder;
+using test_support::PrivateCupsd;
+
+namespace {
+
+bool waitFor(const std::function<bool()> &condition)
+{
+    return QTest::qWaitFor(condition, 15000);
+}
+
+class SetupKeeperTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() { cupsd = std::make_unique<PrivateCupsd>(); }
+    static void TearDownTestSuite() { cupsd.reset(); }
+
+    void SetUp() override
+    {
+        server.address = cupsd->address();
+        QDir(host::QueueCache(server).folder()).removeRecursively();
+        cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().allOptions().ppd());
+        cupsd->addQueue(QStringLiteral("labels"), PpdBuilder().options({"KvMirror"}).ppd());
+        cupsd->addRawQueue(QStringLiteral("plain"));
+    }
+
+    void open(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
+    {
+        keeper.reset();
+        session = std::make_unique<QueueSession>(server, wanted);
+        keeper = std::make_unique<SetupKeeper>(*session, source, wishes);
+        failures.clear();
+        QObject::connect(session.get(), &QueueSession::failed, keeper.get(),
+                         [this](const host::CupsError &error) { failures.append(error.message); });
+        QObject::connect(keeper.get(), &SetupKeeper::choicesLost, keeper.get(),
+                         [this](const QStringList &sentences) { lost += sentences; });
+    }
+
+    /// Opens and waits for the server to have told everything.
+    void openAndSettle(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
+    {
+        open(wanted, wishes);
+        session->start(host::Discovery::No);
+        EXPECT_TRUE(waitFor([this] { return session->isSettled() && knows(); }));
+    }
+
+    bool knows() const
+    {
+        return session->ppdKnowledge() == PpdKnowledge::Current ||
+               session->ppdKnowledge() == PpdKnowledge::Absent;
+    }
+
+    QByteArray chosen(const char *name) const
+    {
+        const auto &choices = keeper->setup()->choices();
+        const auto found = std::ranges::find(choices, QByteArray(name), &host::JobChoice::name);
+        return found == choices.end() ? QByteArray("(none)") : found->value;
+    }
+
+    inline static std::unique_ptr<PrivateCupsd> cupsd;
+    const host::PanelSource source{QStringLiteral(KV_BINARY_DIR "/bin"), {}};
+    host::CupsServer server;
+    std::unique_ptr<QueueSession> session;
+    std::unique_ptr<SetupKeeper> keeper;
+    QStringList failures;
+    QStringList lost;
+};
+
+} // namespace
+
+TEST_F(SetupKeeperTest, TheFirstTimeThePrinterComesWithTheServersAnswer)
+{
+    open(QStringLiteral("tape"));
+    EXPECT_FALSE(session->chosen());
+    EXPECT_FALSE(keeper->setup());
+    EXPECT_EQ(session->chosenName(), QStringLiteral("tape"));
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([this] { return keeper->setup() != nullptr; }));
+    EXPECT_EQ(keeper->setup()->destination().queue, QStringLiteral("tape"));
+    EXPECT_TRUE(keeper->setup()->panel());
+    EXPECT_EQ(failures, QStringList());
+}
+
+TEST_F(SetupKeeperTest, TheSecondTimeItIsThereBeforeAnybodyIsAsked)
+{
+    openAndSettle(QStringLiteral("tape"));
+    open(QStringLiteral("tape"));
+    ASSERT_TRUE(keeper->setup());
+    EXPECT_TRUE(keeper->setup()->panel());
+    EXPECT_EQ(session->ppdKnowledge(), PpdKnowledge::Cached);
+    const host::PrinterSetup *const before = keeper->setup();
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([this] { return session->ppdKnowledge() == PpdKnowledge::Current; }));
+    // Nothing is new, so nothing on the screen jumps.
+    EXPECT_EQ(keeper->setup(), before);
+}
+
+TEST_F(SetupKeeperTest, AQueueThatCameSinceIsFoundThoughTheCacheDoesNotHaveIt)
+{
+    openAndSettle(QStringLiteral("tape"));
+    cupsd->addQueue(QStringLiteral("late"), PpdBuilder().allOptions().ppd());
+    openAndSettle(QStringLiteral("late"));
+    ASSERT_TRUE(keeper->setup());
+    EXPECT_EQ(keeper->setup()->destination().queue, QStringLiteral("late"));
+    cupsd->removeQueue(QStringLiteral("late"));
+}
+
+TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
+{
+    openAndSettle(QStringLiteral("tape"));
+    keeper->setup()->choose("KvMirror", "ON");
+    keeper->setup()->choose("KvCutMark", "ON");
+    keeper->setup()->choosePaper(keeper->setup()->ppd().paper("36mm").value());
+    int ended = 0;
+    QObject::connect(keeper.get(), &SetupKeeper::setupAboutToEnd, [&] { ++ended; });
+    cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvMirror", "KvHalfCut"}).ppd());
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([&] { return ended > 0 && keeper->setup(); }));
+    EXPECT_EQ(keeper->setup()->claimedKeywords().size(), 2);
+    EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
+    EXPECT_EQ(keeper->setup()->paper()->name, QByteArray("36mm"));
+    EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
+    ASSERT_EQ(lost.size(), 1);
+    EXPECT_TRUE(lost.first().contains(QStringLiteral("KvCutMark"))) << lost.first().toStdString();
+}
+
+TEST_F(SetupKeeperTest, EachQueueKeepsItsChoices)
+{
+    openAndSettle(QStringLiteral("tape"), {{{"KvMirror", "ON", host::Origin::You}}});
+    keeper->setup()->choose("KvHalfCut", "ON");
+    session->choose(QStringLiteral("labels"));
+    ASSERT_TRUE(waitFor([this] { return keeper->setup() && knows(); }));
+    // What the command line asks for is asked of any queue; what was set here belongs to its queue.
+    EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
+    EXPECT_EQ(chosen("KvHalfCut"), QByteArray("(none)"));
+    session->choose(QStringLiteral("tape"));
+    ASSERT_TRUE(waitFor([this] { return keeper->setup() && knows(); }));
+    EXPECT_EQ(chosen("KvHalfCut"), QByteArray("ON"));
+}
+
+TEST_F(SetupKeeperTest, AQueueWithoutPpdIsSetUpAllTheSame)
+{
+    openAndSettle(QStringLiteral("plain"));
+    ASSERT_TRUE(keeper->setup());
+    EXPECT_FALSE(keeper->setup()->hasPpd());
+    EXPECT_EQ(failures, QStringList());
+}
+
+TEST_F(SetupKeeperTest, ADeletedQueueIsToldAndLeavesWhatIsKnown)
+{
+    cupsd->addQueue(QStringLiteral("gone"), PpdBuilder().allOptions().ppd());
+    openAndSettle(QStringLiteral("gone"));
+    cupsd->removeQueue(QStringLiteral("gone"));
+    open(QStringLiteral("gone"));
+    ASSERT_TRUE(keeper->setup());
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([this] { return !failures.isEmpty(); }));
+    EXPECT_TRUE(failures.first().contains(QStringLiteral("gone"))) << failures.first().toStdString();
+}
+
+TEST_F(SetupKeeperTest, AnUnknownQueueIsNamedAndNothingElseIsChosen)
+{
+    open(QStringLiteral("nobody"));
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([this] { return session->isSettled(); }));
+    EXPECT_FALSE(session->chosen());
+    EXPECT_FALSE(keeper->setup());
+    ASSERT_EQ(failures.size(), 1);
+    EXPECT_TRUE(failures.first().contains(QStringLiteral("\"nobody\""))) << failures.first().toStdString();
+}
+
+TEST_F(SetupKeeperTest, TheDefaultQueueIsChosenAndWithoutOneTheFirst)
+{
+    cupsd->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("labels")});
+    openAndSettle(std::nullopt);
+    ASSERT_TRUE(session->chosen());
+    EXPECT_EQ(session->chosen()->queue, QStringLiteral("labels"));
+    // What the user sets stands over the server's.
+    qputenv("LPDEST", "tape");
+    openAndSettle(std::nullopt);
+    qunsetenv("LPDEST");
+    EXPECT_EQ(session->chosen()->queue, QStringLiteral("tape"));
+}
