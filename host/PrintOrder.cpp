@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <optional>
+#include <limits>
 
 namespace host {
 
@@ -32,19 +32,37 @@ std::optional<Range> parseRange(const QString &text, int pageCount)
     return Range{first, match.capturedLength(3) == 0 ? qMax(first, pageCount) : match.captured(3).toInt()};
 }
 
+PageRangeError notUnderstood(const QString &text)
+{
+    return {
+        PageRangeFailure::NotUnderstood,
+        Text::tr("Cannot understand the pages \"%1\": write numbers and ranges such as 1-3, 5").arg(text)};
+}
+
+QStringList rangeTexts(const QString &text)
+{
+    return text.trimmed().isEmpty() ? QStringList() : text.split(u',');
+}
+
 } // namespace
+
+std::optional<PageRangeError> checkPageRanges(const QString &text)
+{
+    for (const QString &part : rangeTexts(text)) {
+        const std::optional<Range> range = parseRange(part, std::numeric_limits<int>::max());
+        if (!range || range->first > range->last || range->first < 1)
+            return notUnderstood(text);
+    }
+    return std::nullopt;
+}
 
 Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text, int pageCount)
 {
     std::vector<bool> chosen(static_cast<std::size_t>(pageCount), text.trimmed().isEmpty());
-    const QStringList parts = text.trimmed().isEmpty() ? QStringList() : text.split(u',');
-    for (const QString &part : parts) {
+    for (const QString &part : rangeTexts(text)) {
         const std::optional<Range> range = parseRange(part, pageCount);
         if (!range || range->first > range->last)
-            return PageRangeError{PageRangeFailure::NotUnderstood,
-                                  Text::tr("Cannot understand the pages \"%1\": write numbers and ranges "
-                                           "such as 1-3, 5")
-                                      .arg(text)};
+            return notUnderstood(text);
         if (range->first < 1 || range->last > pageCount)
             return PageRangeError{PageRangeFailure::OutOfDocument,
                                   Text::tr("Cannot print the pages \"%1\": the document's last page is %2")

@@ -3,6 +3,7 @@
 
 #include "Result.h"
 
+#include <optional>
 #include <vector>
 
 namespace host {
@@ -25,6 +26,9 @@ inline constexpr int mostLabels = 100'000;
 /// The pages that a text such as "1-3, 5, 8-" names, counted from 0, each once and in the document's order;
 /// all pages for a blank text. Pages in the text count from 1; "8-" goes on to the last.
 Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text, int pageCount);
+
+/// What is wrong with such a text whatever the document; nothing when some document has the pages.
+std::optional<PageRangeError> checkPageRanges(const QString &text);
 
 /// The pages in the order in which they are printed.
 std::vector<int> printOrder(const std::vector<int> &pages, int copies, Collate collate);

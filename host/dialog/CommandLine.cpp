@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CommandLine.h"
 
-#include <QCommandLineParser>
+#include "CommandHelp.h"
+#include "CommandOption.h"
+#include "JobWords.h"
+
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace dialog {
 
@@ -12,88 +17,177 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
 };
 
-QString exitStatuses()
-{
-    return QStringLiteral("\n") +
-           Text::tr("Exit status:\n"
-                    "  0  printed\n"
-                    "  1  something could not be opened, used or written; nothing was printed\n"
-                    "  2  the command line was not understood\n"
-                    "  3  printed, but without the cut-options panel\n"
-                    "  4  cancelled in the dialog\n");
-}
-
 UsageError wrong(const QString &message)
 {
     return {UsageProblem::Wrong, message};
 }
 
-std::optional<QString> valueOf(const QCommandLineParser &parser, const QString &name)
-{
-    if (!parser.isSet(name))
-        return std::nullopt;
-    return parser.value(name);
-}
+/// Reads the words one after the other, as lp does: letters may stand together ("-sd tape"), and a value is
+/// the rest of its word or the next word, whatever that looks like.
+class Reader {
+public:
+    explicit Reader(QStringList words)
+        : m_words(std::move(words))
+    {
+    }
 
-void describe(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(
-        Text::tr("Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows "
-                 "the label strip as it will come out. Without a display it prints at once."));
-    parser.addOptions({
-        {QStringLiteral("ppd"), Text::tr("The printer's PPD file, plain or gzip. Required."),
-         QStringLiteral("FILE")},
-        {QStringLiteral("paper"),
-         Text::tr("The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free "
-                  "sizes. The PPD's default without it."),
-         QStringLiteral("NAME")},
-        {QStringLiteral("bundle"), Text::tr("The bundle with the cut-options panel, or the folder it is in."),
-         QStringLiteral("DIR")},
-        {QStringLiteral("output"),
-         Text::tr("The folder for strip.pdf and job.json, made when it is not there. A new folder among "
-                  "the user's data without it."),
-         QStringLiteral("DIR")},
-        {QStringLiteral("screenshot"), Text::tr("Saves a picture of the dialog, as it opens, in a PNG file."),
-         QStringLiteral("OUT.png")},
-        {QStringLiteral("no-dialog"),
-         Text::tr("Prints at once, with the settings that the dialog would open with.")},
-        {{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Shows this help.")},
-        {{QStringLiteral("v"), QStringLiteral("version")}, Text::tr("Shows the version.")},
-    });
-    parser.addPositionalArgument(QStringLiteral("DOCUMENT.pdf"), Text::tr("The labels, one a page."));
-}
+    host::Result<CommandLine, UsageError> read()
+    {
+        bool onlyDocuments = false;
+        while (!m_words.isEmpty() && !m_error) {
+            const QString word = m_words.takeFirst();
+            if (onlyDocuments || word == QStringLiteral("-") || !word.startsWith(u'-'))
+                m_command.documents.append(word);
+            else if (word == QStringLiteral("--"))
+                onlyDocuments = true;
+            else if (word.startsWith(QStringLiteral("--")))
+                readName(word);
+            else
+                readLetters(word);
+        }
+        if (!m_error)
+            m_error = checkTogether();
+        if (m_error)
+            return *m_error;
+        return m_command;
+    }
+
+private:
+    void readName(const QString &word)
+    {
+        const qsizetype equals = word.indexOf(u'=');
+        const QString name = word.mid(2, equals < 0 ? -1 : equals - 2);
+        const CommandOption *const option = findOption(QStringView(name));
+        if (!option)
+            m_error = wrong(Text::tr("There is no option \"%1\"").arg(QStringLiteral("--") + name));
+        else if (!option->value && equals >= 0)
+            m_error = wrong(Text::tr("The option \"%1\" takes no value").arg(option->spelling()));
+        else
+            use(*option, equals < 0 ? std::nullopt : std::optional(word.mid(equals + 1)));
+    }
+
+    void readLetters(const QString &word)
+    {
+        for (qsizetype i = 1; i < word.size() && !m_error; ++i) {
+            const CommandOption *const option = findOption(word[i]);
+            if (!option) {
+                m_error =
+                    wrong(Text::tr("There is no option \"%1\"").arg(QStringLiteral("-") + word.mid(i, 1)));
+                return;
+            }
+            const bool takesRest = option->value && i + 1 < word.size();
+            use(*option, takesRest ? std::optional(word.mid(i + 1)) : std::nullopt);
+            if (takesRest)
+                return;
+        }
+    }
+
+    /// With the value that came in the same word, if any.
+    void use(const CommandOption &option, std::optional<QString> value)
+    {
+        if (!option.take) {
+            m_error = answer(option);
+            return;
+        }
+        if (option.value && !value) {
+            if (m_words.isEmpty()) {
+                m_error = wrong(Text::tr("The option \"%1\" needs a value: %2")
+                                    .arg(option.spelling(), QString::fromLatin1(option.value)));
+                return;
+            }
+            value = m_words.takeFirst();
+        }
+        if (const Complaint complaint = option.take(m_command, value.value_or(QString())))
+            m_error = wrong(option.spelling() + QStringLiteral(": ") + *complaint);
+        m_used.push_back(&option);
+    }
+
+    static UsageError answer(const CommandOption &option)
+    {
+        if (qstrcmp(option.name, "help") == 0)
+            return {UsageProblem::HelpWanted, commandHelp()};
+        return {UsageProblem::VersionWanted,
+                QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() + u'\n'};
+    }
+
+    std::optional<UsageError> checkTogether() const
+    {
+        for (const CommandOption *const option : m_used) {
+            if (!option->goesWith(m_command.task))
+                return wrongTask(*option);
+            if (option->printer == CommandOption::Printer::Queue && m_command.ppd)
+                return notTogether(*option, QStringLiteral("--ppd"));
+            if (option->printer == CommandOption::Printer::Virtual && !m_command.ppd)
+                return wrong(Text::tr("The option \"%1\" is about the virtual printer and needs \"--ppd\"")
+                                 .arg(option->spelling()));
+        }
+        if (m_command.settings.hold && holdNeedsJob(*m_command.settings.hold) && !m_command.jobToChange)
+            return wrong(Text::tr("-H: \"%1\" is about a job that was sent before and needs \"-i\"")
+                             .arg(*m_command.settings.hold));
+        return checkDocuments();
+    }
+
+    std::optional<UsageError> checkDocuments() const
+    {
+        const bool takesDocuments = m_command.task != Task::List && m_command.task != Task::ChangeJob;
+        if (!takesDocuments && !m_command.documents.isEmpty())
+            return wrong(Text::tr("\"%1\" takes no documents, and \"%2\" was named")
+                             .arg(taskSpelling(), m_command.documents.constFirst()));
+        if (m_command.documents.count(QStringLiteral("-")) > 1)
+            return wrong(Text::tr("Standard input (\"-\") can be printed only once"));
+        return std::nullopt;
+    }
+
+    /// Of the option that asks for the task; empty for printing.
+    QString taskSpelling() const
+    {
+        for (const CommandOption &each : commandOptions()) {
+            if (each.asksFor(m_command.task))
+                return each.spelling();
+        }
+        return {};
+    }
+
+    static UsageError notTogether(const CommandOption &option, const QString &other)
+    {
+        return wrong(
+            Text::tr("The option \"%1\" does not go together with \"%2\"").arg(option.spelling(), other));
+    }
+
+    UsageError wrongTask(const CommandOption &option) const
+    {
+        if (const QString task = taskSpelling(); !task.isEmpty())
+            return notTogether(option, task);
+        QStringList tasks;
+        for (const CommandOption &each : commandOptions()) {
+            for (const Task task : {Task::List, Task::Summary, Task::DryRun, Task::ChangeJob}) {
+                if (option.goesWith(task) && each.asksFor(task))
+                    tasks.append(each.spelling());
+            }
+        }
+        return wrong(Text::tr("The option \"%1\" goes only together with one of: %2")
+                         .arg(option.spelling(), tasks.join(QStringLiteral(", "))));
+    }
+
+    QStringList m_words;
+    CommandLine m_command;
+    std::vector<const CommandOption *> m_used;
+    std::optional<UsageError> m_error;
+};
 
 } // namespace
 
 host::Result<CommandLine, UsageError> CommandLine::parse(const QStringList &arguments)
 {
-    QCommandLineParser parser;
-    describe(parser);
-    if (!parser.parse(arguments))
-        return wrong(parser.errorText());
-    if (parser.isSet(QStringLiteral("help")))
-        return UsageError{UsageProblem::HelpWanted, parser.helpText() + exitStatuses()};
-    if (parser.isSet(QStringLiteral("version")))
-        return UsageError{UsageProblem::VersionWanted, QCoreApplication::applicationName() + u' ' +
-                                                           QCoreApplication::applicationVersion() + u'\n'};
-    const QStringList documents = parser.positionalArguments();
-    if (!parser.isSet(QStringLiteral("ppd")))
-        return wrong(Text::tr("No printer was named: --ppd FILE is missing"));
-    if (documents.isEmpty())
-        return wrong(Text::tr("No document was named"));
-    if (documents.size() > 1)
-        return wrong(
-            Text::tr("Only one document can be printed at a time, and %1 were named").arg(documents.size()));
-    CommandLine command;
-    command.ppd = parser.value(QStringLiteral("ppd"));
-    command.document = documents.constFirst();
-    if (const std::optional<QString> paper = valueOf(parser, QStringLiteral("paper")))
-        command.paper = paper->toUtf8();
-    command.bundle = valueOf(parser, QStringLiteral("bundle"));
-    command.output = valueOf(parser, QStringLiteral("output"));
-    command.screenshot = valueOf(parser, QStringLiteral("screenshot"));
-    command.noDialog = parser.isSet(QStringLiteral("no-dialog"));
-    return command;
+    return Reader(arguments.mid(1)).read();
+}
+
+std::optional<UsageError> CommandLine::checkInput(bool inputIsTerminal) const
+{
+    const bool wantsDocument = task != Task::List && task != Task::ChangeJob;
+    if (!wantsDocument || !documents.isEmpty() || !inputIsTerminal)
+        return std::nullopt;
+    return wrong(Text::tr("No document was named; name a file, or \"-\" to type one in"));
 }
 
 } // namespace dialog

@@ -71,7 +71,7 @@ void DialogPages::refresh()
 void DialogPages::announceFront()
 {
     if (m_panelPage && currentWidget() == m_panelPage)
-        m_panelPage->panel().willShow();
+        m_setup->announcePanel();
 }
 
 void DialogPages::announceClosing(QWidget *window)

@@ -4,26 +4,29 @@
 
 #include <QApplication>
 
-#include <algorithm>
 #include <cstdio>
-#include <string_view>
+
+#include <unistd.h>
 
 namespace {
 
 bool hasDisplay()
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/// Whether the arguments ask for the dialog; not when they only make the program tell something.
+bool asksForDialog(const QStringList &arguments)
+{
+    const auto command = dialog::CommandLine::parse(arguments);
+    return command && command.value().task == dialog::Task::Print && !command.value().noDialog;
 }
 
 /// Whether somebody sees the windows. Decided before there is an application, which could not start
 /// without a display.
-bool chooseScreen(int argc, char **argv)
+bool chooseScreen(const QStringList &arguments)
 {
-    constexpr std::string_view unattended[] = {"--no-dialog", "--help", "-h", "--version", "-v"};
-    const bool quiet = std::any_of(argv + 1, argv + argc, [&](const char *argument) {
-        return std::ranges::find(unattended, std::string_view(argument)) != std::end(unattended);
-    });
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && (quiet || !hasDisplay()))
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && (!asksForDialog(arguments) || !hasDisplay()))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     return !platform.startsWith("offscreen") && !platform.startsWith("minimal");
@@ -70,18 +73,25 @@ int refuse(const dialog::UsageError &error)
 // NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program either way
 int main(int argc, char **argv)
 {
-    const bool attended = chooseScreen(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const bool attended = chooseScreen(arguments);
     if (!attended)
         usualHandler = qInstallMessageHandler(passOnMessage);
+    // Qt would take options of its own out of what are lp's words: "-title" says "-t itle".
+    argc = 1;
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kvprint"));
     QApplication::setApplicationVersion(QStringLiteral(KV_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kvprint.kvprint"));
     dialog::installTranslations(QLocale());
 
-    auto command = dialog::CommandLine::parse(QApplication::arguments());
+    auto command = dialog::CommandLine::parse(arguments);
     if (!command)
         return refuse(command.error());
+    if (const auto error = command.value().checkInput(isatty(STDIN_FILENO) == 1))
+        return refuse(*error);
     command.value().noDialog = command.value().noDialog || !attended;
     const dialog::Console console{[](const QString &text) { write(stdout, text); },
                                   [](const QString &text) { write(stderr, text); }};

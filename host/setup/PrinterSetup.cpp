@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrinterSetup.h"
 
+#include <QCheckBox>
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -127,7 +128,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     PanelHost *const host = panelHost();
     if (!host)
         return;
-    fillPanel();
+    announcePanel();
     host->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         if (!choice)
             return;
@@ -136,28 +137,56 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     });
 }
 
-void PrinterSetup::fillPanel()
+std::vector<std::pair<QString, QString>> PrinterSetup::claimedChoices() const
 {
-    // When it is shown for the first time, a panel begins with the PPD's own defaults and marks them. What the
-    // queue, the user and the command line want instead is then told like any change made elsewhere.
-    std::vector<std::pair<QString, QString>> wanted;
+    std::vector<std::pair<QString, QString>> choices;
     for (const QString &keyword : claimedKeywords()) {
         if (const std::optional<QString> choice = ppd().markedChoice(keyword))
-            wanted.emplace_back(keyword, *choice);
+            choices.emplace_back(keyword, *choice);
     }
-    panel()->willShow();
-    for (const auto &[keyword, choice] : wanted) {
-        if (ppd().markedChoice(keyword) != choice)
-            m_state->changeOption(keyword, choice, nullptr);
-    }
-    refreshPanel();
+    return choices;
 }
 
-void PrinterSetup::refreshPanel()
+void PrinterSetup::announcePanel()
 {
+    if (!panel())
+        return;
+    const auto wanted = claimedChoices();
+    panel()->willShow();
+    tellPanel(wanted);
+}
+
+void PrinterSetup::tellPanel(const std::vector<std::pair<QString, QString>> &wanted)
+{
+    // When it is shown for the first time, a panel begins with the PPD's own defaults and marks them. What
+    // the queue, the user and the command line want instead is then told like any change made elsewhere.
+    bool isNews = false;
+    for (const auto &[keyword, choice] : wanted) {
+        if (ppd().markedChoice(keyword) == choice)
+            continue;
+        m_state->changeOption(keyword, choice, nullptr);
+        isNews = true;
+    }
     QString error;
-    if (panel() && !panel()->restoreValuesAndReturnError(&error))
+    if (isNews && !panel()->restoreValuesAndReturnError(&error))
         m_panelProblem = PanelError{PanelFailure::NoPanel, error};
+    pressWanted(wanted);
+}
+
+void PrinterSetup::pressWanted(const std::vector<std::pair<QString, QString>> &wanted)
+{
+    // A panel that refreshes all its controls goes back to a ready-made combination, which may lack what only
+    // a click can add. So the click is made again, where the panel still allows it.
+    QWidget *const view = panel()->panelView();
+    for (QCheckBox *const box : view->findChildren<QCheckBox *>()) {
+        const QString keyword = box->property("ppdKeyword").toString();
+        const auto found = std::ranges::find(wanted, keyword, &std::pair<QString, QString>::first);
+        if (found == wanted.end() || box->isHidden() || !box->isEnabledTo(view))
+            continue;
+        const bool isOn = ppd().choiceIndex(keyword, found->second) == 1;
+        if (box->isChecked() != isOn)
+            box->click();
+    }
 }
 
 QString PrinterSetup::printerText() const
@@ -190,6 +219,8 @@ void PrinterSetup::choosePaper(const PpdPaper &paper)
     m_state->setPaper(panelPaper(paper));
     m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(paper.name), nullptr);
     m_state->postPaperDidChange();
+    if (panel())
+        pressWanted(claimedChoices());
 }
 
 void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
@@ -198,8 +229,11 @@ void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
     record(keyword, value, Origin::You);
     m_state->changeOption(m_lastChosen, QString::fromUtf8(value), nullptr);
     // Panels take note of such a change, but show it only when they are asked to.
-    if (claimedKeywords().contains(m_lastChosen))
-        refreshPanel();
+    QString error;
+    if (panel() && claimedKeywords().contains(m_lastChosen) && !panel()->restoreValuesAndReturnError(&error))
+        m_panelProblem = PanelError{PanelFailure::NoPanel, error};
+    if (panel())
+        pressWanted(claimedChoices());
 }
 
 std::vector<Conflict> PrinterSetup::conflicts() const

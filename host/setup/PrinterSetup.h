@@ -73,6 +73,8 @@ public:
     std::optional<Remedy> remedy() const;
     void apply(const Remedy &remedy);
 
+    /// Tells the panel that its page comes to the front. What is chosen stays chosen.
+    void announcePanel();
     /// Has the panel hand over its settings and asks whether they may be printed. Nothing, or why not.
     std::optional<QString> savePanel();
     /// Called after every change that a panel has made.
@@ -85,8 +87,9 @@ private:
     void takePaper(const SetupWishes &wishes);
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
-    void fillPanel();
-    void refreshPanel();
+    void tellPanel(const std::vector<std::pair<QString, QString>> &wanted);
+    void pressWanted(const std::vector<std::pair<QString, QString>> &wanted);
+    std::vector<std::pair<QString, QString>> claimedChoices() const;
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
     Destination m_destination;

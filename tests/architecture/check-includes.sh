@@ -20,6 +20,8 @@ preview platform preview
 plugin platform ppd plugin plugin_protocol
 options platform ppd preview plugin plugin_protocol options
 host platform plugin_protocol host
+cups platform plugin_protocol host
+dialog platform plugin_protocol host
 tools platform plugin_protocol host tools
 '
 headers='
@@ -67,4 +69,4 @@ done <<EOF
 $allowed
 EOF
 echo "$tried uses tried, $failures wrong"
-[ "$failures" -eq 0 ] && [ "$tried" -eq 90 ]
+[ "$failures" -eq 0 ] && [ "$tried" -eq 110 ]

@@ -50,6 +50,17 @@ TEST(PageRanges, RefuseWithAReason)
     }
 }
 
+TEST(PageRanges, CanBeCheckedBeforeThereIsADocument)
+{
+    for (const char *good : {"", "  ", "1", "1-3, 5", "8-", "999999999", "7-7"})
+        EXPECT_FALSE(host::checkPageRanges(QString::fromLatin1(good))) << good;
+    for (const char *bad : {"a", "3-1", "0", "0-2", "1,", "-5", "1--2", "1 2", "9999999999"}) {
+        const auto error = host::checkPageRanges(QString::fromLatin1(bad));
+        ASSERT_TRUE(error) << bad;
+        EXPECT_TRUE(error->message.contains(QLatin1String(bad)));
+    }
+}
+
 TEST(PrintOrder, GoesSetBySetOrLabelByLabel)
 {
     EXPECT_EQ(host::printOrder({0, 2, 3}, 1, Collate::Yes), (std::vector<int>{0, 2, 3}));

@@ -71,7 +71,7 @@ TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
     EXPECT_EQ(setup->paper()->name, QByteArray("36mm"));
     EXPECT_EQ(setup->state().paper()->name, QStringLiteral("36mm"));
     // Coming to the front does not take it back.
-    setup->panel()->willShow();
+    setup->announcePanel();
     EXPECT_TRUE(box(*setup, "mMirrorPrintChkBx")->isChecked());
     EXPECT_EQ(find(*setup, "KvMirror")->origin, Origin::You);
 }

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobChange.h"
+
+#include "JobTicket.h"
+
+#include <QCoreApplication>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::JobChange)
+};
+
+bool isRestart(const JobChange &change)
+{
+    return change.settings.hold == QStringLiteral("restart");
+}
+
+/// The value of "job-hold-until" that makes the job wait; nothing when it is not to wait.
+QByteArray holdUntil(const JobChange &change)
+{
+    for (const JobOption &option : makeJobOptions({}, nullptr, {}, {.hold = change.settings.hold})) {
+        if (option.name == "job-hold-until" && option.value != "no-hold" && !isRestart(change))
+            return option.value;
+    }
+    return {};
+}
+
+/// What is changed under IPP's and the PPD's names, but not until when the job waits.
+std::vector<JobOption> changedOptions(const JobChange &change)
+{
+    JobSettings settings = change.settings;
+    if (isRestart(change) || !holdUntil(change).isEmpty())
+        settings.hold.reset();
+    std::vector<JobChoice> choices = change.options;
+    // How many copies the job has, if it is not told here, only the server knows.
+    if (settings.collate)
+        choices.push_back({"collate", *settings.collate == Collate::Yes ? "true" : "false"});
+    if (change.title)
+        choices.push_back({"job-name", change.title->toUtf8()});
+    return makeJobOptions({}, nullptr, choices, settings);
+}
+
+/// Requests about one job over one connection.
+class JobRequests {
+public:
+    JobRequests(CupsConnection &connection, int jobId)
+        : m_connection(connection)
+        , m_jobId(jobId)
+    {
+    }
+
+    /// Nothing, or why it was not done. An empty hold is not sent.
+    std::optional<CupsError> send(ipp_op_t operation, const std::vector<JobOption> &options,
+                                  const QByteArray &hold)
+    {
+        IppPointer request = m_connection.newRequest(operation);
+        // By the job's own address, so that one that was moved to another queue is found too.
+        const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(m_jobId);
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+        encodeJobOptions(request.get(), options);
+        // To RFC 8011 a time of day is no keyword but a name, and here the server insists on that.
+        if (!hold.isEmpty())
+            ippAddString(request.get(), IPP_TAG_JOB, hold.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD,
+                         "job-hold-until", nullptr, hold.constData());
+        const Result<IppPointer, CupsError> answer = m_connection.exchange(std::move(request), "/jobs");
+        return answer ? std::nullopt : std::optional(answer.error());
+    }
+
+    std::optional<CupsError> change(const std::vector<JobOption> &options, const QByteArray &hold)
+    {
+        std::optional<CupsError> error = send(IPP_OP_SET_JOB_ATTRIBUTES, options, hold);
+        // The job is held now, but whoever asks is still told the old time; this puts that right. Its
+        // outcome changes nothing for the job.
+        if (!error && !hold.isEmpty())
+            send(IPP_OP_HOLD_JOB, {}, hold);
+        return error;
+    }
+
+    /// The server takes no changes with the restart, and without a hold it would print before they come.
+    std::optional<CupsError> restart(const std::vector<JobOption> &options)
+    {
+        if (options.empty())
+            return send(IPP_OP_RESTART_JOB, {}, {});
+        if (std::optional<CupsError> error = send(IPP_OP_RESTART_JOB, {}, "indefinite"))
+            return error;
+        std::optional<CupsError> error = send(IPP_OP_SET_JOB_ATTRIBUTES, options, "no-hold");
+        if (error)
+            error->message = Text::tr("It is to be printed anew, but held. %1").arg(error->message);
+        return error;
+    }
+
+private:
+    CupsConnection &m_connection;
+    int m_jobId;
+};
+
+} // namespace
+
+bool JobChange::isEmpty() const
+{
+    return !isRestart(*this) && holdUntil(*this).isEmpty() && changedOptions(*this).empty();
+}
+
+std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task)
+{
+    if (change.isEmpty())
+        return std::nullopt;
+    const auto told = [&](CupsError error) {
+        error.message = Text::tr("Job %1 was not changed. %2").arg(change.jobId).arg(error.message);
+        return error;
+    };
+    const std::vector<JobOption> options = changedOptions(change);
+    if (const JobOption *const option = findUnsendable(options))
+        return told({CupsFailure::Refused,
+                     Text::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
+                         .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))});
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return told(connection.error());
+    JobRequests requests(connection.value(), change.jobId);
+    const std::optional<CupsError> error =
+        isRestart(change) ? requests.restart(options) : requests.change(options, holdUntil(change));
+    return error ? std::optional(told(*error)) : std::nullopt;
+}
+
+} // namespace host

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandHelp.h"
+
+#include "CommandOption.h"
+
+#include <QCoreApplication>
+
+namespace dialog {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+};
+
+constexpr qsizetype lineWidth = 79;
+/// Where the texts beside the options begin.
+constexpr qsizetype textColumn = 26;
+
+/// The text in lines, each but the first indented.
+QString wrapped(const QString &text, qsizetype width, qsizetype indent)
+{
+    QStringList lines;
+    QString line;
+    for (const QString &word : text.split(u' ')) {
+        if (!line.isEmpty() && line.size() + 1 + word.size() > width)
+            lines.append(std::exchange(line, QString()));
+        line += line.isEmpty() ? word : u' ' + word;
+    }
+    lines.append(line);
+    return lines.join(u'\n' + QString(indent, u' '));
+}
+
+QString lines(const QString &option, const QString &text)
+{
+    QString left = QStringLiteral("  ") + option;
+    left = left.size() + 2 <= textColumn ? left.leftJustified(textColumn)
+                                         : left + u'\n' + QString(textColumn, u' ');
+    return left + wrapped(text, lineWidth - textColumn, textColumn) + u'\n';
+}
+
+QString lines(const CommandOption &option)
+{
+    const QString value = option.value ? u' ' + QString::fromLatin1(option.value) : QString();
+    return lines(option.spelling() + value, QCoreApplication::translate("dialog::CommandLine", option.help));
+}
+
+} // namespace
+
+QString commandHelp()
+{
+    QString help =
+        Text::tr("Usage: kvprint [OPTION]... [--] [DOCUMENT]...\n"
+                 "       kvprint -i [QUEUE-]JOB [OPTION]...\n"
+                 "       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...\n") +
+        u'\n' +
+        wrapped(
+            Text::tr("Prints documents on label printers, with a dialog for paper, pages and cuts that shows "
+                     "the label strip as it will come out. Without a display it prints at once. PDF, "
+                     "PNG, JPEG and SVG; \"-\" or nothing is standard input."),
+            lineWidth, 0) +
+        QStringLiteral("\n\n") + Text::tr("Options:\n");
+    for (const CommandOption &option : commandOptions())
+        help += lines(option);
+    help += lines(QStringLiteral("--"), Text::tr("Ends the options: what follows are documents."));
+    return help + u'\n' +
+           Text::tr("Exit status:\n"
+                    "  0  printed, or told what was asked for\n"
+                    "  1  something could not be opened, used, sent or written; nothing was printed\n"
+                    "  2  the command line was not understood\n"
+                    "  3  printed, but without the cut-options panel\n"
+                    "  4  cancelled in the dialog\n");
+}
+
+} // namespace dialog

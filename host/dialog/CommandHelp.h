@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+namespace dialog {
+
+/// The help text in the user's language: usage, all options, exit statuses. Lines of up to 80 columns.
+QString commandHelp();
+
+} // namespace dialog

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandOption.h"
+
+#include "JobWords.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
+
+namespace dialog {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+};
+
+constexpr unsigned bit(Task task)
+{
+    return 1U << static_cast<unsigned>(task);
+}
+
+constexpr unsigned printing = bit(Task::Print);
+constexpr unsigned sending = bit(Task::Print) | bit(Task::DryRun);
+constexpr unsigned documents = sending | bit(Task::Summary);
+constexpr unsigned jobs = documents | bit(Task::ChangeJob);
+constexpr unsigned telling = bit(Task::List) | bit(Task::Summary) | bit(Task::DryRun);
+constexpr unsigned all = jobs | telling;
+
+template<auto Field>
+Complaint takeText(CommandLine &command, const QString &value)
+{
+    if (value.isEmpty())
+        return Text::tr("the value is empty");
+    command.*Field = value;
+    return std::nullopt;
+}
+
+template<auto Field>
+Complaint takeFlag(CommandLine &command, const QString &)
+{
+    command.*Field = true;
+    return std::nullopt;
+}
+
+template<Task Wanted>
+Complaint takeTask(CommandLine &command, const QString &)
+{
+    command.task = Wanted;
+    return std::nullopt;
+}
+
+Complaint takeTitle(CommandLine &command, const QString &value)
+{
+    // An empty one leaves the name to the document, as without the option.
+    command.title = value.isEmpty() ? std::nullopt : std::optional(value);
+    return std::nullopt;
+}
+
+/// The mail tells the job's number; lp is silent then, and so are we.
+Complaint takeMail(CommandLine &command, const QString &)
+{
+    command.mail = true;
+    command.quiet = true;
+    return std::nullopt;
+}
+
+Complaint takePaper(CommandLine &command, const QString &value)
+{
+    if (value.isEmpty())
+        return Text::tr("the value is empty");
+    command.paper = value.toUtf8();
+    return std::nullopt;
+}
+
+/// Documents are always copied before the program ends.
+Complaint takeCopyFlag(CommandLine &, const QString &)
+{
+    return std::nullopt;
+}
+
+constexpr auto Any = CommandOption::Printer::Any;
+constexpr auto Queue = CommandOption::Printer::Queue;
+constexpr auto Virtual = CommandOption::Printer::Virtual;
+
+#define HELP(text) QT_TRANSLATE_NOOP("dialog::CommandLine", text)
+
+// clang-format off
+constexpr CommandOption options[] = {
+    {'d', nullptr, "QUEUE[/INSTANCE]",
+     HELP("The queue to print on, with a named set of options. The default queue without it."),
+     documents, Queue, takeDestination},
+    {'h', nullptr, "HOST[:PORT]", HELP("The print server."), all, Queue, takeText<&CommandLine::server>},
+    {'U', nullptr, "USER", HELP("The user for whom is printed."), all, Queue, takeText<&CommandLine::user>},
+    {'E', nullptr, nullptr, HELP("Encrypts the connection to the print server."), all, Queue,
+     takeFlag<&CommandLine::encrypt>},
+    {0, "paper", "NAME",
+     HELP("The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes."),
+     jobs, Any, takePaper},
+    {'n', nullptr, "COPIES", HELP("The number of copies."), jobs, Any, takeCopies},
+    {'P', nullptr, "PAGES", HELP("The pages to print, as in 1-3,5,8-."), jobs, Any, takePages},
+    {'o', nullptr, "NAME=VALUE",
+     HELP("An option of the PPD or of the print server; several in one, with blanks between them, or one "
+          "by one."),
+     jobs, Any, takeOptions},
+    {'t', nullptr, "TITLE", HELP("The job's name in the queue."), jobs, Any, takeTitle},
+    {'q', nullptr, "PRIORITY", HELP("The job's priority, from 1 to 100 (first)."), jobs, Any, takePriority},
+    {'H', nullptr, "WHEN",
+     HELP("When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent "
+          "before also resume and restart."),
+     jobs, Any, takeHold},
+    {'m', nullptr, nullptr, HELP("Sends a mail when the job is over; -s is part of it."), sending | bit(Task::ChangeJob), Queue,
+     takeMail},
+    {'s', nullptr, nullptr, HELP("Does not tell the job's number."), all, Any, takeFlag<&CommandLine::quiet>},
+    {'c', nullptr, nullptr, HELP("Accepted for lp's sake: documents are always copied."), all, Any,
+     takeCopyFlag},
+    {'i', nullptr, "[QUEUE-]JOB", HELP("Changes a job that was sent before."), bit(Task::ChangeJob), Queue,
+     takeJob},
+    {0, "no-dialog", nullptr, HELP("Prints at once, with the settings that the dialog would open with."), all,
+     Any, takeFlag<&CommandLine::noDialog>},
+    {0, "list", nullptr, HELP("Lists the queues and how they are."), bit(Task::List), Queue,
+     takeTask<Task::List>},
+    {0, "summary", nullptr, HELP("Tells the settings that the dialog would open with, and prints nothing."),
+     bit(Task::Summary), Any, takeTask<Task::Summary>},
+    {0, "dry-run", nullptr, HELP("Does everything but sending, and tells what would be sent."),
+     bit(Task::DryRun), Any, takeTask<Task::DryRun>},
+    {0, "json", nullptr, HELP("Tells it as JSON."), telling, Any, takeFlag<&CommandLine::json>},
+    {0, "force", nullptr, HELP("Sends even what the printer does not have, and what conflicts."), sending, Any,
+     takeFlag<&CommandLine::force>},
+    {0, "screenshot", "OUT.png", HELP("Saves a picture of the dialog, as it opens, in a PNG file."), documents,
+     Any, takeText<&CommandLine::screenshot>},
+    {0, "bundle", "DIR", HELP("The bundle with the cut-options panel, or the folder it is in."), documents,
+     Any, takeText<&CommandLine::bundle>},
+    {0, "ppd", "FILE", HELP("A PPD file, plain or gzip: prints on a virtual printer instead of a queue."),
+     documents, Any, takeText<&CommandLine::ppd>},
+    {0, "output", "DIR",
+     HELP("The folder for the virtual printer's strip.pdf and job.json, made when it is not there. A new "
+          "folder among the user's data without it."),
+     printing, Virtual, takeText<&CommandLine::output>},
+    {0, "help", nullptr, HELP("Shows this help."), all, Any, nullptr},
+    {0, "version", nullptr, HELP("Shows the version."), all, Any, nullptr},
+};
+// clang-format on
+
+#undef HELP
+
+} // namespace
+
+QString CommandOption::spelling() const
+{
+    return letter ? u'-' + QString(QLatin1Char(letter)) : QStringLiteral("--") + QLatin1String(name);
+}
+
+bool CommandOption::goesWith(Task task) const
+{
+    return (tasks & bit(task)) != 0;
+}
+
+bool CommandOption::asksFor(Task task) const
+{
+    return task != Task::Print && tasks == bit(task);
+}
+
+std::span<const CommandOption> commandOptions()
+{
+    return options;
+}
+
+const CommandOption *findOption(QChar letter)
+{
+    const auto *const found =
+        std::find_if(std::begin(options), std::end(options), [&](const CommandOption &each) {
+            return each.letter != 0 && letter == QLatin1Char(each.letter);
+        });
+    return found == std::end(options) ? nullptr : found;
+}
+
+const CommandOption *findOption(QStringView name)
+{
+    const auto *const found =
+        std::find_if(std::begin(options), std::end(options), [&](const CommandOption &each) {
+            return each.name && name == QLatin1String(each.name);
+        });
+    return found == std::end(options) ? nullptr : found;
+}
+
+} // namespace dialog

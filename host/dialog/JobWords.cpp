@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobWords.h"
+
+#include <cups/cups.h>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QTime>
+
+#include <algorithm>
+#include <iterator>
+
+namespace dialog {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+};
+
+/// A word for when a job is printed, and where it may stand.
+struct HoldWord {
+    enum Place { Anywhere, LetterOnly, OptionOnly, WithJobOnly };
+    const char *word;
+    Place place;
+};
+
+// lp's own words and those of RFC 8011, section 5.2.2.
+constexpr HoldWord holdWords[] = {
+    {"hold", HoldWord::LetterOnly},      {"immediate", HoldWord::LetterOnly},
+    {"indefinite", HoldWord::Anywhere},  {"no-hold", HoldWord::OptionOnly},
+    {"day-time", HoldWord::Anywhere},    {"evening", HoldWord::Anywhere},
+    {"night", HoldWord::Anywhere},       {"second-shift", HoldWord::Anywhere},
+    {"third-shift", HoldWord::Anywhere}, {"weekend", HoldWord::Anywhere},
+    {"resume", HoldWord::WithJobOnly},   {"release", HoldWord::WithJobOnly},
+    {"restart", HoldWord::WithJobOnly},
+};
+
+bool isTime(const QString &value)
+{
+    return QTime::fromString(value, QStringLiteral("H:mm")).isValid() ||
+           QTime::fromString(value, QStringLiteral("H:mm:ss")).isValid();
+}
+
+/// When to print, from -H or, with fewer words of its own, from the option.
+Complaint readHold(CommandLine &command, const QString &value, bool isLetter)
+{
+    QStringList accepted;
+    for (const HoldWord &each : holdWords) {
+        if (isLetter ? each.place != HoldWord::OptionOnly
+                     : each.place == HoldWord::Anywhere || each.place == HoldWord::OptionOnly)
+            accepted.append(QString::fromLatin1(each.word));
+    }
+    if (!accepted.contains(value) && !isTime(value))
+        return Text::tr("\"%1\" is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2")
+            .arg(value, accepted.join(QStringLiteral(", ")));
+    command.settings.hold = value;
+    return std::nullopt;
+}
+
+Complaint takeHoldOption(CommandLine &command, const QString &value)
+{
+    return readHold(command, value, false);
+}
+
+Complaint notOneOf(const QString &value, const QString &accepted)
+{
+    return Text::tr("\"%1\" is not possible; it must be one of: %2").arg(value, accepted);
+}
+
+/// A row of words and what they stand for.
+template<typename Meaning>
+using Words = std::initializer_list<std::pair<const char *, Meaning>>;
+
+/// Takes up what the word stands for.
+template<typename Meaning>
+Complaint takeWord(const QString &value, Words<Meaning> words, std::optional<Meaning> &place)
+{
+    QStringList accepted;
+    for (const auto &[word, meaning] : words) {
+        if (value == QLatin1String(word)) {
+            place = meaning;
+            return std::nullopt;
+        }
+        accepted.append(QString::fromLatin1(word));
+    }
+    return notOneOf(value, accepted.join(QStringLiteral(", ")));
+}
+
+Complaint takeCollate(CommandLine &command, const QString &value)
+{
+    using host::Collate;
+    return takeWord<Collate>(value, {{"true", Collate::Yes}, {"false", Collate::No}},
+                             command.settings.collate);
+}
+
+Complaint takeHandling(CommandLine &command, const QString &value)
+{
+    using host::Collate;
+    return takeWord<Collate>(value,
+                             {{"separate-documents-collated-copies", Collate::Yes},
+                              {"separate-documents-uncollated-copies", Collate::No}},
+                             command.settings.collate);
+}
+
+Complaint takeOrientation(CommandLine &command, const QString &value)
+{
+    using host::Orientation;
+    return takeWord<Orientation>(value,
+                                 {{"3", Orientation::Portrait},
+                                  {"4", Orientation::Landscape},
+                                  {"5", Orientation::ReverseLandscape},
+                                  {"6", Orientation::ReversePortrait},
+                                  {"portrait", Orientation::Portrait},
+                                  {"landscape", Orientation::Landscape},
+                                  {"reverse-landscape", Orientation::ReverseLandscape},
+                                  {"reverse-portrait", Orientation::ReversePortrait}},
+                                 command.settings.orientation);
+}
+
+Complaint takeLandscape(CommandLine &command, const QString &value)
+{
+    using host::Orientation;
+    return takeWord<Orientation>(value, {{"true", Orientation::Landscape}, {"false", Orientation::Portrait}},
+                                 command.settings.orientation);
+}
+
+Complaint takePaper(CommandLine &command, const QString &value)
+{
+    if (value.isEmpty())
+        return Text::tr("it names no paper");
+    command.paper = value.toUtf8();
+    return std::nullopt;
+}
+
+Complaint takeTitle(CommandLine &command, const QString &value)
+{
+    if (!value.isEmpty())
+        command.title = value;
+    return std::nullopt;
+}
+
+/// Options that mean the same as a letter or a name of the command line.
+constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)> settingOptions[] = {
+    {"copies", takeCopies},
+    {"page-ranges", takePages},
+    {"job-priority", takePriority},
+    {"job-hold-until", takeHoldOption},
+    {"job-name", takeTitle},
+    {"collate", takeCollate},
+    {"multiple-document-handling", takeHandling},
+    {"orientation-requested", takeOrientation},
+    {"orientation", takeOrientation},
+    {"landscape", takeLandscape},
+    {"PageSize", takePaper},
+    {"PageRegion", takePaper},
+    {"media", takePaper},
+};
+
+/// Where a later option takes the place of an earlier one.
+void setOption(std::vector<host::JobChoice> &options, const QByteArray &name, const QByteArray &value)
+{
+    const auto same = std::find_if(options.begin(), options.end(),
+                                   [&](const host::JobChoice &each) { return each.name == name; });
+    if (same != options.end())
+        same->value = value;
+    else
+        options.push_back({name, value, host::Origin::You});
+}
+
+Complaint takeOption(CommandLine &command, const QByteArray &name, const QByteArray &value)
+{
+    const auto *const setting = std::find_if(std::begin(settingOptions), std::end(settingOptions),
+                                             [&](const auto &row) { return name == row.first; });
+    if (setting == std::end(settingOptions)) {
+        setOption(command.options, name, value);
+        return std::nullopt;
+    }
+    Complaint complaint = setting->second(command, QString::fromUtf8(value));
+    if (complaint)
+        complaint = QString::fromUtf8(name) + QStringLiteral(": ") + *complaint;
+    return complaint;
+}
+
+} // namespace
+
+Complaint takeCopies(CommandLine &command, const QString &value)
+{
+    bool isNumber = false;
+    const int copies = value.toInt(&isNumber);
+    if (!isNumber || copies < 1 || copies > host::mostCopies)
+        return Text::tr("\"%1\" is no number of copies; it must be from 1 to %2")
+            .arg(value)
+            .arg(host::mostCopies);
+    command.settings.copies = copies;
+    return std::nullopt;
+}
+
+Complaint takePriority(CommandLine &command, const QString &value)
+{
+    bool isNumber = false;
+    const int priority = value.toInt(&isNumber);
+    if (!isNumber || priority < 1 || priority > 100)
+        return Text::tr("\"%1\" is no priority; it must be from 1 (last) to 100 (first)").arg(value);
+    command.settings.priority = priority;
+    return std::nullopt;
+}
+
+Complaint takeHold(CommandLine &command, const QString &value)
+{
+    return readHold(command, value, true);
+}
+
+Complaint takePages(CommandLine &command, const QString &value)
+{
+    if (const std::optional<host::PageRangeError> error = host::checkPageRanges(value))
+        return error->message;
+    command.settings.pageRanges = value;
+    return std::nullopt;
+}
+
+Complaint takeDestination(CommandLine &command, const QString &value)
+{
+    const auto [queue, instance] = host::splitDestinationName(value);
+    if (queue.isEmpty() || (instance && instance->isEmpty()))
+        return Text::tr("\"%1\" names no queue; write QUEUE or QUEUE/INSTANCE").arg(value);
+    command.destination = value;
+    return std::nullopt;
+}
+
+Complaint takeJob(CommandLine &command, const QString &value)
+{
+    static const QRegularExpression form(QStringLiteral("^(?:(.+)-)?([0-9]{1,9})$"));
+    const QRegularExpressionMatch match = form.match(value);
+    const int job = match.captured(2).toInt();
+    if (job < 1)
+        return Text::tr("\"%1\" is no job; write its number, or QUEUE-NUMBER as it was told when it was sent")
+            .arg(value);
+    command.task = Task::ChangeJob;
+    command.jobToChange = job;
+    if (match.capturedLength(1) > 0)
+        command.destination = match.captured(1);
+    return std::nullopt;
+}
+
+Complaint takeOptions(CommandLine &command, const QString &value)
+{
+    cups_option_t *parsed = nullptr;
+    const int count = cupsParseOptions(value.toUtf8().constData(), 0, &parsed);
+    Complaint complaint;
+    for (int i = 0; i < count && !complaint; ++i)
+        complaint = takeOption(command, parsed[i].name, parsed[i].value);
+    cupsFreeOptions(count, parsed);
+    if (count == 0)
+        return Text::tr("\"%1\" names no option; write NAME=VALUE").arg(value);
+    return complaint;
+}
+
+bool holdNeedsJob(const QString &hold)
+{
+    return std::any_of(std::begin(holdWords), std::end(holdWords), [&](const HoldWord &each) {
+        return each.place == HoldWord::WithJobOnly && hold == QLatin1String(each.word);
+    });
+}
+
+} // namespace dialog
