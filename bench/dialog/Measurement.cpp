@@ -129,15 +129,16 @@ bool Measurer::fillCache(const QStringList &command, const QByteArray &server)
             ++result;
         return result;
     };
-    const int lists = count("*.cbor");
     const int ppds = count("*.ppd");
     const Opening opening(command, environment(server, cacheFolder()), output());
-    while (count("*.cbor") == lists || count("*.ppd") == ppds) {
+    while (count("*.ppd") == ppds) {
         if (Clock::now() > opening.start() + screenPatience)
             return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    return true;
+    // The list of the queues is kept too, at about the same time; its file may be there from before.
+    std::this_thread::sleep_for(settlingTime);
+    return count("*.cbor") > 0;
 }
 
 } // namespace bench
