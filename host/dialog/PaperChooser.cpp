@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PaperChooser.h"
 
+#include "ClearButton.h"
+
 #include <host/CutPlanWords.h>
 #include <host/Units.h>
 
@@ -58,7 +60,7 @@ PaperChooser::PaperChooser(std::vector<host::PpdPaper> papers, const host::PpdPa
     m_list->setAccessibleName(tr("Paper"));
     m_search->setPlaceholderText(tr("Search papers"));
     m_search->setAccessibleName(tr("Search papers"));
-    m_search->setClearButtonEnabled(true);
+    addClearButton(m_search);
     // A few papers are seen at a glance.
     constexpr std::size_t searchable = 8;
     m_search->setVisible(m_papers.size() > searchable);
