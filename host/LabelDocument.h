@@ -1,51 +1,74 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Result.h"
+#include "DocumentError.h"
 
-#include <QFile>
 #include <QImage>
-#include <QPdfDocument>
 #include <QSizeF>
+#include <QStringList>
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace host {
 
-enum class DocumentFailure {
-    Missing,    ///< there is no such file
-    NotAFile,   ///< a folder, a pipe or a device
-    Unreadable, ///< no permission, or the medium fails
-    Empty,      ///< no bytes, or no pages
-    NotAPdf,    ///< something else than a PDF, or a damaged one
-    Encrypted,  ///< a password is needed
-    BadPage,    ///< a page without area, or larger than any PDF page
-};
-using DocumentError = Failure<DocumentFailure>;
+class OpenedDocument;
 
-/// The PDF whose pages become labels.
+/// One of the documents of a job: its place in the sequence of pages, and what is sent of it.
+struct DocumentFile {
+    /// As the user named it: a path, or "-" for standard input.
+    QString name;
+    /// The first of its pages in the sequence, counted from 0.
+    int firstPage = 0;
+    int pageCount = 0;
+    /// A file to read and what it holds: the named file itself, or a temporary one that lives as long as the
+    /// LabelDocument does.
+    QString pathToSend;
+    QString mimeType;
+};
+
+/// The documents whose pages become labels, one after the other: PDF, PNG, JPEG and SVG, from files and from
+/// standard input, each recognised by its content. Pages count from 0 through all of them.
 class LabelDocument {
 public:
-    /// The largest side of a page, in points: what PDF readers have always taken as the limit.
-    static constexpr double longestSide = 14400.0;
+    /// Opens the documents and checks them, or none of them. Never waits on a pipe by name, but reads
+    /// standard input ("-", at most once) to its end.
+    static Result<std::unique_ptr<LabelDocument>, DocumentError> open(const QStringList &names);
+    static Result<std::unique_ptr<LabelDocument>, DocumentError> open(const QString &name);
+    ~LabelDocument();
 
-    /// Opens a PDF and checks the size of every page. Never waits on a pipe.
-    static Result<std::unique_ptr<LabelDocument>, DocumentError> open(const QString &path);
+    /// At least one, in the order in which they are printed.
+    const std::vector<DocumentFile> &files() const { return m_files; }
+    /// The first document's name: a path, or "-".
+    const QString &path() const { return m_files.front().name; }
+    /// What the documents are called in a sentence or a window's title: the first one's file name, and how
+    /// many more there are.
+    QString title() const;
 
-    const QString &path() const { return m_path; }
-    int pageCount() const { return m_pdf.pageCount(); }
-    /// Width and height of the page in points, as one reads it. Pages count from 0.
-    QSizeF pageSize(int page) const { return m_pdf.pagePointSize(page); }
+    int pageCount() const;
+    /// The documents' page counts, in order.
+    std::vector<int> pageCounts() const;
+    /// Width and height of the page in points, as one reads it. Of a page that checkForPrinting refuses, some
+    /// size that a PDF page can have.
+    QSizeF pageSize(int page) const;
     /// The page on white. The size is in pixels; a page that cannot be drawn is left white.
     QImage render(int page, QSize size) const;
 
-private:
-    explicit LabelDocument(const QString &path);
+    /// Checks what opening leaves out so as to be quick: pages far behind in long documents, and whether the
+    /// files are still what was opened. To be asked before anything is sent; takes seconds for tens of
+    /// thousands of pages, and no time when asked again.
+    std::optional<DocumentError> checkForPrinting() const;
 
-    QString m_path;
-    QFile m_file;
-    /// Drawing a page changes nothing that can be seen.
-    mutable QPdfDocument m_pdf;
+private:
+    LabelDocument();
+
+    void append(const QString &name, std::unique_ptr<OpenedDocument> document);
+    /// The document that the page belongs to.
+    std::size_t indexOf(int page) const;
+
+    std::vector<DocumentFile> m_files;
+    std::vector<std::unique_ptr<OpenedDocument>> m_documents;
 };
 
 } // namespace host

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdFile.h"
 
+#include "PpdNumber.h"
 #include "PpdSource.h"
 
 #include <QFileInfo>
@@ -25,8 +26,9 @@ void setText(char (&record)[Size], const QByteArray &utf8)
 /// Puts the translations of one language into the records of an open PPD.
 class Localizer {
 public:
-    Localizer(const PpdTranslations &translations, const QString &language)
-        : m_translations(translations)
+    Localizer(ppd_file_t *ppd, const PpdTranslations &translations, const QString &language)
+        : m_ppd(ppd)
+        , m_translations(translations)
         , m_language(language)
     {
     }
@@ -46,6 +48,23 @@ private:
         localize(option.text, "Translation", option.keyword);
         for (int i = 0; i < option.num_choices; ++i)
             localize(option.choices[i].text, option.keyword, option.choices[i].choice);
+        if (const ppd_coption_t *const free = ppdFindCustomOption(m_ppd, option.keyword))
+            localizeFreeChoice(option, *free);
+    }
+
+    /// A free choice has its texts under keywords of its own.
+    void localizeFreeChoice(ppd_option_t &option, const ppd_coption_t &free) const
+    {
+        const QByteArray choice = QByteArray("Custom") + option.keyword;
+        for (int i = 0; i < option.num_choices; ++i) {
+            if (qstricmp(option.choices[i].choice, customSizeName) == 0)
+                localize(option.choices[i].text, choice.constData(), "True");
+        }
+        const QByteArray parameters = "Param" + choice;
+        for (int i = 0; i < cupsArrayCount(free.params); ++i) {
+            auto *const parameter = static_cast<ppd_cparam_t *>(cupsArrayIndex(free.params, i));
+            localize(parameter->text, parameters.constData(), parameter->name);
+        }
     }
 
     template<std::size_t Size>
@@ -55,9 +74,20 @@ private:
             setText(record, *text);
     }
 
+    ppd_file_t *m_ppd;
     const PpdTranslations &m_translations;
     const QString &m_language;
 };
+
+/// Takes the marks off all choices. libcups cannot itself, where an option may have several.
+void unmark(ppd_file_t *ppd, ppd_option_t &option)
+{
+    for (int i = 0; i < option.num_choices; ++i)
+        option.choices[i].marked = 0;
+    // To libcups's list, the choices of one option are equal, and a choice may stand in it twice.
+    while (option.num_choices > 0 && cupsArrayRemove(ppd->marked, option.choices) != 0) {
+    }
+}
 
 } // namespace
 
@@ -90,19 +120,32 @@ QString PpdFile::printerName() const
 
 void PpdFile::localize(const QString &language)
 {
-    const Localizer localizer(m_translations, language);
+    const Localizer localizer(m_ppd.get(), m_translations, language);
     for (int i = 0; i < m_ppd->num_groups; ++i)
         localizer.localizeGroup(m_ppd->groups[i]);
 }
 
 void PpdFile::markDefaults()
 {
+    for (ppd_option_t *option = ppdFirstOption(m_ppd.get()); option; option = ppdNextOption(m_ppd.get())) {
+        if (option->ui == PPD_UI_PICKMANY)
+            unmark(m_ppd.get(), *option);
+    }
     ppdMarkDefaults(m_ppd.get());
 }
 
 void PpdFile::mark(const QString &keyword, const QString &choice)
 {
-    ppdMarkOption(m_ppd.get(), keyword.toUtf8().constData(), choice.toUtf8().constData());
+    const QByteArray name = keyword.toUtf8();
+    const QByteArray value = choice.toUtf8();
+    ppd_option_t *const option = ppdFindOption(m_ppd.get(), name.constData());
+    if (!option || option->ui != PPD_UI_PICKMANY) {
+        ppdMarkOption(m_ppd.get(), name.constData(), value.constData());
+        return;
+    }
+    unmark(m_ppd.get(), *option);
+    for (const QByteArray &each : value.split(','))
+        ppdMarkOption(m_ppd.get(), name.constData(), each.constData());
 }
 
 std::optional<QString> PpdFile::markedChoice(const QString &keyword) const
@@ -209,7 +252,12 @@ std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
 std::optional<PpdPaper> PpdFile::markedPaper() const
 {
     const std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
-    return name ? paper(name->toUtf8()) : std::nullopt;
+    if (name != QLatin1String(customSizeName))
+        return name ? paper(name->toUtf8()) : std::nullopt;
+    const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
+    if (!size)
+        return std::nullopt;
+    return paper(customPaperName(QSizeF(double{size->width}, double{size->length})));
 }
 
 std::optional<PpdCustomLimits> PpdFile::customLimits() const

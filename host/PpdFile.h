@@ -77,7 +77,8 @@ public:
 
     /// Marks the choice that the PPD names as default, for every option.
     void markDefaults();
-    /// Marks a choice, as the user's or a panel's. An unknown keyword or choice is no error.
+    /// Marks a choice, as the user's or a panel's. An unknown keyword or choice is no error. For an option
+    /// that may have several, exactly the choices of a list with commas are marked; none for an empty one.
     void mark(const QString &keyword, const QString &choice);
     /// The marked choice; nothing when none is marked or the PPD lacks the keyword.
     std::optional<QString> markedChoice(const QString &keyword) const;

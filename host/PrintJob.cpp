@@ -26,13 +26,24 @@ CutPlan planFor(const DialogState &state, const LabelRenderer &renderer, const L
     std::optional<double> leadingMargin;
     if (paper.margins)
         leadingMargin = paper.margins->top() * millimetresPerPoint;
-    return CutPlan::make(settings, printOrder(choices.pages, choices.copies, choices.collate), extents,
-                         leadingMargin);
+    const std::vector<int> order =
+        printOrder(pagesByDocument(choices.pages, document.pageCounts()), choices.copies, choices.collate);
+    return CutPlan::make(settings, order, extents, leadingMargin);
 }
 
 double hundredths(double points)
 {
     return std::round(points * millimetresPerPoint * 100.0) / 100.0;
+}
+
+/// The documents' paths; standard input has none and stays "-".
+QJsonArray documentsJson(const LabelDocument &document)
+{
+    QJsonArray documents;
+    for (const DocumentFile &file : document.files())
+        documents.append(file.name == standardInputName ? file.name
+                                                        : QFileInfo(file.name).absoluteFilePath());
+    return documents;
 }
 
 QJsonObject paperJson(const PpdPaper &paper)
@@ -65,12 +76,14 @@ QJsonObject printJobJson(const PrintJob &job)
         if (keyword != QStringLiteral("PageSize"))
             options.append(QJsonObject{{"keyword", keyword}, {"choice", choice}});
     }
+    const QJsonArray documents = documentsJson(job.document());
     QJsonArray pages;
     for (const int page : job.choices().pages)
         pages.append(page + 1);
     return {{"printer", job.state().ppd().printerName()},
             {"ppd", QFileInfo(job.state().ppd().path()).absoluteFilePath()},
-            {"document", QFileInfo(job.document().path()).absoluteFilePath()},
+            {"document", documents.first()},
+            {"documents", documents},
             {"paper", paperJson(job.paper())},
             {"pages", pages},
             {"copies", job.choices().copies},

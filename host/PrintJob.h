@@ -10,13 +10,13 @@ namespace host {
 
 /// The choices of the dialog's own page.
 struct PageChoices {
-    /// The document's pages to print, counted from 0.
+    /// The pages to print, counted from 0 through all documents, in order.
     std::vector<int> pages;
     int copies = 1;
     Collate collate = Collate::Yes;
 };
 
-/// A document, about to be printed on a printer's paper with the choices made in a dialog. Made anew from
+/// Documents, about to be printed on a printer's paper with the choices made in a dialog. Made anew from
 /// the dialog's state whenever something changes; cheap, as the labels' drawings are kept by the renderer.
 class PrintJob {
 public:
@@ -40,7 +40,7 @@ private:
     CutPlan m_plan;
 };
 
-/// The job for programs: printer, document, paper, copies, the option choices that were recorded, and the
+/// The job for programs: printer, documents, paper, copies, the option choices that were recorded, and the
 /// plan of cuts.
 QJsonObject printJobJson(const PrintJob &job);
 

@@ -44,19 +44,8 @@ QStringList rangeTexts(const QString &text)
     return text.trimmed().isEmpty() ? QStringList() : text.split(u',');
 }
 
-} // namespace
-
-std::optional<PageRangeError> checkPageRanges(const QString &text)
-{
-    for (const QString &part : rangeTexts(text)) {
-        const std::optional<Range> range = parseRange(part, std::numeric_limits<int>::max());
-        if (!range || range->first > range->last || range->first < 1)
-            return notUnderstood(text);
-    }
-    return std::nullopt;
-}
-
-Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text, int pageCount)
+/// Which pages of a document of so many pages are named.
+Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int pageCount)
 {
     std::vector<bool> chosen(static_cast<std::size_t>(pageCount), text.trimmed().isEmpty());
     for (const QString &part : rangeTexts(text)) {
@@ -70,24 +59,66 @@ Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text, in
                                       .arg(pageCount)};
         std::fill(chosen.begin() + (range->first - 1), chosen.begin() + range->last, true);
     }
+    return chosen;
+}
+
+} // namespace
+
+std::optional<PageRangeError> checkPageRanges(const QString &text)
+{
+    for (const QString &part : rangeTexts(text)) {
+        const std::optional<Range> range = parseRange(part, std::numeric_limits<int>::max());
+        if (!range || range->first > range->last || range->first < 1)
+            return notUnderstood(text);
+    }
+    return std::nullopt;
+}
+
+Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
+                                                         const std::vector<int> &pageCounts)
+{
+    const int longest = pageCounts.empty() ? 0 : std::ranges::max(pageCounts);
+    const auto chosen = parseChosen(text, longest);
+    if (!chosen)
+        return chosen.error();
     std::vector<int> pages;
-    for (int page = 0; page < pageCount; ++page) {
-        if (chosen[static_cast<std::size_t>(page)])
-            pages.push_back(page);
+    int first = 0;
+    for (const int count : pageCounts) {
+        for (int page = 0; page < count; ++page) {
+            if (chosen.value()[static_cast<std::size_t>(page)])
+                pages.push_back(first + page);
+        }
+        first += count;
     }
     return pages;
 }
 
-std::vector<int> printOrder(const std::vector<int> &pages, int copies, Collate collate)
+std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
+                                              const std::vector<int> &pageCounts)
+{
+    std::vector<std::vector<int>> documents;
+    auto begin = pages.begin();
+    int next = 0;
+    for (const int count : pageCounts) {
+        next += count;
+        const auto end = std::lower_bound(begin, pages.end(), next);
+        documents.emplace_back(begin, end);
+        begin = end;
+    }
+    return documents;
+}
+
+std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate)
 {
     std::vector<int> order;
-    order.reserve(pages.size() * static_cast<std::size_t>(copies));
-    if (collate == Collate::Yes) {
-        for (int copy = 0; copy < copies; ++copy)
-            order.insert(order.end(), pages.begin(), pages.end());
-    } else {
-        for (const int page : pages)
-            order.insert(order.end(), static_cast<std::size_t>(copies), page);
+    for (const std::vector<int> &pages : pagesByDocument) {
+        if (collate == Collate::Yes) {
+            for (int copy = 0; copy < copies; ++copy)
+                order.insert(order.end(), pages.begin(), pages.end());
+        } else {
+            for (const int page : pages)
+                order.insert(order.end(), static_cast<std::size_t>(copies), page);
+        }
     }
     return order;
 }

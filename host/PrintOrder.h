@@ -3,6 +3,8 @@
 
 #include "Result.h"
 
+#include <QString>
+
 #include <optional>
 #include <vector>
 
@@ -10,7 +12,7 @@ namespace host {
 
 enum class PageRangeFailure {
     NotUnderstood, ///< something else than numbers and ranges
-    OutOfDocument, ///< a page that the document does not have
+    OutOfDocument, ///< a page that no document has
     TooMany,       ///< more labels than mostLabels
 };
 using PageRangeError = Failure<PageRangeFailure>;
@@ -23,14 +25,24 @@ inline constexpr int mostCopies = 9999;
 /// The largest number of labels of one job: some kilometres of tape.
 inline constexpr int mostLabels = 100'000;
 
-/// The pages that a text such as "1-3, 5, 8-" names, counted from 0, each once and in the document's order;
-/// all pages for a blank text. Pages in the text count from 1; "8-" goes on to the last.
-Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text, int pageCount);
+/// The pages that a text such as "1-3, 5, 8-" names, of documents with so many pages each, which are printed
+/// one after the other. The text applies to every document by itself, as lp's -P does: "1" is the first page
+/// of each. Pages in the text count from 1 and "8-" goes on to the last; a page that no document has is an
+/// error. A blank text names all pages. The answer counts from 0 through all documents, each page once and
+/// in order.
+Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
+                                                         const std::vector<int> &pageCounts);
 
 /// What is wrong with such a text whatever the document; nothing when some document has the pages.
 std::optional<PageRangeError> checkPageRanges(const QString &text);
 
-/// The pages in the order in which they are printed.
-std::vector<int> printOrder(const std::vector<int> &pages, int copies, Collate collate);
+/// The pages, counted through documents of so many pages each and in order, as one list for each document.
+std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
+                                              const std::vector<int> &pageCounts);
+
+/// The pages in the order in which they are printed. Copies are made of each document by itself, as a print
+/// server makes them: all copies of the first document come before the second.
+std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies,
+                            Collate collate);
 
 } // namespace host

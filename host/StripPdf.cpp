@@ -5,7 +5,6 @@
 #include "StripPainter.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -52,8 +51,7 @@ std::vector<Segment> segmentsOf(const StripLayout &layout)
 QStringList headLines(const PrintJob &job)
 {
     QStringList lines{Text::tr("%1 on %2, %3")
-                          .arg(QFileInfo(job.document().path()).fileName(), job.state().ppd().printerName(),
-                               job.paper().text),
+                          .arg(job.document().title(), job.state().ppd().printerName(), job.paper().text),
                       cutPlanFigures(job.plan())};
     return lines + cutPlanSentences(job.plan());
 }

@@ -129,8 +129,11 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
         return ChoiceError{ChoiceFailure::UnknownPaper,
                            Text::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};
     }
-    const QByteArrayList values =
-        option->ui == PPD_UI_PICKMANY ? choice.value.split(',') : QByteArrayList{choice.value};
+    const bool takesSeveral = option->ui == PPD_UI_PICKMANY;
+    // Of several, none may be chosen.
+    if (takesSeveral && choice.value.isEmpty())
+        return std::nullopt;
+    const QByteArrayList values = takesSeveral ? choice.value.split(',') : QByteArrayList{choice.value};
     const bool isKnown = std::all_of(values.begin(), values.end(),
                                      [&](const QByteArray &each) { return hasChoice(*option, each); });
     if (isKnown || isFreeValue(ppd, choice))

@@ -13,6 +13,10 @@ struct JobDocument {
     QString path;
     /// Its MIME type; empty lets the server look at the content.
     QByteArray format = {};
+    /// What the user calls it, when a file made of it is sent; else empty.
+    QString name = {};
+
+    const QString &shownName() const { return name.isEmpty() ? path : name; }
 };
 
 /// A job, ready to be sent.

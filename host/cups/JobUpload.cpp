@@ -62,7 +62,7 @@ private:
         const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
         const QByteArray queue = m_ticket.destination.queue.toUtf8();
         const QByteArray resource = queueResource(m_ticket.destination.queue);
-        const QByteArray name = QFileInfo(document.path).fileName().toUtf8();
+        const QByteArray name = QFileInfo(document.shownName()).fileName().toUtf8();
         const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
         m_connection.beginWaiting();
         http_status_t status = cupsStartDocument(m_connection.http(), queue.constData(), m_jobId,

@@ -85,7 +85,7 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
     }
     words += QStringLiteral("--");
     for (const JobDocument &document : ticket.documents)
-        words += fileWord(document.path);
+        words += fileWord(document.shownName());
     for (QString &word : words)
         word = shellWord(word);
     command.line = words.join(u' ');

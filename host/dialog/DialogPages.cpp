@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DialogPages.h"
 
+#include "JobPage.h"
+#include "OptionsPage.h"
 #include "PagePreview.h"
 #include "PanelPage.h"
 #include "SentPage.h"
+
+#include <QTabBar>
 
 namespace dialog {
 
@@ -16,10 +20,13 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     setAccessibleName(tr("Options, preview and summary"));
     addTab(m_pagePreview, tr("Page pre&view"));
     addTab(m_summaryPage, tr("&Summary"));
-    if (m_server) {
-        m_sentPage = new SentPage(this);
-        addTab(m_sentPage, tr("&What will be sent"));
-    }
+    if (!m_server)
+        return;
+    m_jobPage = new JobPage(this);
+    m_sentPage = new SentPage(this);
+    insertTab(0, m_jobPage, tr("&Job"));
+    addTab(m_sentPage, tr("&What will be sent"));
+    connect(m_jobPage, &JobPage::changed, this, &DialogPages::chosen);
 }
 
 DialogPages::~DialogPages()
@@ -32,15 +39,64 @@ DialogPages::~DialogPages()
 void DialogPages::takeSetup(host::PrinterSetup &setup)
 {
     m_setup = &setup;
-    PDEPanel *const panel = setup.panel();
-    if (!panel)
-        return;
     const QSignalBlocker quiet(this);
-    m_panelPage = new PanelPage(*panel, this);
-    setup.panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
-    QString title = panel->panelName();
+    if (setup.hasPpd())
+        addOptions();
+    if (PDEPanel *const panel = setup.panel())
+        addPanel(*panel);
+    // All titles are in sight, as long as no language makes novels of them.
+    const int widest = 100 * fontMetrics().averageCharWidth();
+    setMinimumWidth(qMin(tabBar()->sizeHint().width() + tabBar()->fontMetrics().height(), widest));
+}
+
+void DialogPages::addPanel(PDEPanel &panel)
+{
+    m_panelPage = new PanelPage(panel, this);
+    m_setup->panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
+    QString title = panel.panelName();
     insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
     setCurrentIndex(0);
+}
+
+void DialogPages::addOptions()
+{
+    m_optionsPage = new OptionsPage(m_setup->ppd(), m_setup->claimedKeywords(), this);
+    if (m_optionsPage->isEmpty()) {
+        delete m_optionsPage;
+        m_optionsPage = nullptr;
+        return;
+    }
+    insertTab(0, m_optionsPage, tr("&Options"));
+    m_optionsPage->refresh();
+    connect(m_optionsPage, &OptionsPage::chosen, this,
+            [this](const QByteArray &keyword, const QByteArray &value) {
+                m_setup->choose(keyword, value);
+                Q_EMIT chosen();
+            });
+}
+
+void DialogPages::showJob(const host::JobDraft &draft)
+{
+    if (!m_jobPage)
+        return;
+    m_jobPage->setSettings(draft.settings);
+    m_jobPage->setTitle(draft.title);
+}
+
+void DialogPages::writeJobTo(host::JobDraft &draft) const
+{
+    if (!m_jobPage)
+        return;
+    draft.settings = m_jobPage->settings();
+    draft.title = m_jobPage->title();
+}
+
+void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
+{
+    if (!m_optionsPage)
+        return;
+    m_optionsPage->refresh();
+    m_optionsPage->setConflicts(conflicts);
 }
 
 void DialogPages::dropSetup()
@@ -50,6 +106,8 @@ void DialogPages::dropSetup()
     const QSignalBlocker quiet(this);
     delete m_panelPage;
     m_panelPage = nullptr;
+    delete m_optionsPage;
+    m_optionsPage = nullptr;
     m_setup = nullptr;
 }
 

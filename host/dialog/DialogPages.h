@@ -4,7 +4,7 @@
 #include "SummaryPage.h"
 
 #include <host/cups/CupsServer.h>
-#include <host/setup/PrinterSetup.h>
+#include <host/setup/SetupJob.h>
 
 #include <QTabWidget>
 
@@ -12,6 +12,8 @@
 
 namespace dialog {
 
+class JobPage;
+class OptionsPage;
 class PagePreview;
 class PanelPage;
 class SentPage;
@@ -33,6 +35,12 @@ public:
 
     /// Labels as the renderer draws them; borrowed until the next call.
     void setRenderer(const host::LabelRenderer &renderer);
+    /// Job name, orientation, hold and priority, as they are shown; without a server they are left as they
+    /// are.
+    void showJob(const host::JobDraft &draft);
+    void writeJobTo(host::JobDraft &draft) const;
+    /// Shows the conflicts at the options that they are about.
+    void setConflicts(const std::vector<host::Conflict> &conflicts);
     /// What the summary and the page of what will be sent show when they are in front.
     void setSummary(std::function<std::vector<SummarySection>()> summary) { m_summary = std::move(summary); }
     void setTicket(std::function<std::optional<host::JobTicket>()> ticket) { m_ticket = std::move(ticket); }
@@ -43,10 +51,19 @@ public:
     /// The dialog is about to close.
     void announceClosing(QWidget *window);
 
+Q_SIGNALS:
+    /// The user has chosen a printer option, which is marked already, or has set something for the job.
+    void chosen();
+
 private:
+    void addPanel(PDEPanel &panel);
+    void addOptions();
+
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;
     PanelPage *m_panelPage = nullptr;
+    OptionsPage *m_optionsPage = nullptr;
+    JobPage *m_jobPage = nullptr;
     PagePreview *m_pagePreview;
     SummaryPage *m_summaryPage;
     SentPage *m_sentPage = nullptr;

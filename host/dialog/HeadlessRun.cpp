@@ -140,9 +140,13 @@ bool HeadlessRun::hasConflicts(const host::PrinterSetup &setup) const
 
 std::optional<host::JobDraft> HeadlessRun::makeDraft() const
 {
-    auto pages = host::parsePageRanges(m_command.settings.pageRanges, m_document.pageCount());
+    auto pages = host::parsePageRanges(m_command.settings.pageRanges, m_document.pageCounts());
     if (!pages) {
         m_console.complain(pages.error().message);
+        return std::nullopt;
+    }
+    if (const std::optional<host::DocumentError> error = m_document.checkForPrinting()) {
+        m_console.complain(error->message);
         return std::nullopt;
     }
     host::JobDraft draft;
@@ -205,7 +209,8 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
         return ExitStatus::Failed;
     }
     if (!m_command.quiet)
-        m_console.out(requestIdLine(sender.queue(), sender.jobId(), m_command.documents.size()));
+        m_console.out(
+            requestIdLine(sender.queue(), sender.jobId(), qMax(qsizetype(1), m_command.documents.size())));
     return ExitStatus::Printed;
 }
 

@@ -6,13 +6,14 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 namespace dialog {
 
-PageOptions::PageOptions(int pageCount, QWidget *parent)
+PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     : QWidget(parent)
-    , m_pageCount(pageCount)
+    , m_pageCounts(std::move(pageCounts))
     , m_copies(new QSpinBox(this))
     , m_collate(new QCheckBox(tr("Set &by set"), this))
     , m_pages(new QLineEdit(this))
@@ -42,7 +43,7 @@ PageOptions::PageOptions(int pageCount, QWidget *parent)
 
 host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
 {
-    auto pages = host::parsePageRanges(m_pages->text(), m_pageCount);
+    auto pages = host::parsePageRanges(m_pages->text(), m_pageCounts);
     if (!pages)
         return pages.error();
     if (pages.value().size() * static_cast<std::size_t>(m_copies->value()) > host::mostLabels)
@@ -55,10 +56,9 @@ host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() con
 
 void PageOptions::setSettings(const host::JobSettings &settings)
 {
+    setChoices(settings.copies.value_or(1), settings.collate.value_or(host::Collate::Yes),
+               settings.pageRanges);
     m_setsCopies = settings.copies.has_value();
-    m_copies->setValue(settings.copies.value_or(1));
-    m_collate->setChecked(settings.collate.value_or(host::Collate::Yes) == host::Collate::Yes);
-    m_pages->setText(settings.pageRanges);
 }
 
 void PageOptions::writeTo(host::JobSettings &settings) const
@@ -66,6 +66,24 @@ void PageOptions::writeTo(host::JobSettings &settings) const
     settings.copies = m_setsCopies || m_copies->value() > 1 ? std::optional(m_copies->value()) : std::nullopt;
     settings.collate = m_collate->isChecked() ? host::Collate::Yes : host::Collate::No;
     settings.pageRanges = m_pages->text();
+}
+
+QString PageOptions::rangesText() const
+{
+    return m_pages->text();
+}
+
+bool PageOptions::collateIsOffered() const
+{
+    return m_copies->value() > 1;
+}
+
+void PageOptions::setChoices(int copies, host::Collate collate, const QString &ranges)
+{
+    const QSignalBlocker quiet(this);
+    m_copies->setValue(copies);
+    m_collate->setChecked(collate == host::Collate::Yes);
+    m_pages->setText(ranges);
 }
 
 } // namespace dialog

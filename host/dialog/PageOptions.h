@@ -12,12 +12,13 @@ class QSpinBox;
 
 namespace dialog {
 
-/// Which pages of the document are printed, how often and in which order.
+/// Which pages of the documents are printed, how often and in which order.
 class PageOptions : public QWidget {
     Q_OBJECT
 
 public:
-    PageOptions(int pageCount, QWidget *parent);
+    /// The documents' page counts, in the order in which they are printed.
+    PageOptions(std::vector<int> pageCounts, QWidget *parent);
 
     /// The choices as they stand, or why they cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
@@ -27,12 +28,21 @@ public:
     /// queue.
     void writeTo(host::JobSettings &settings) const;
 
+    /// The pages as the user wrote them; empty for all.
+    QString rangesText() const;
+    /// Whether there are copies whose order can be chosen. Otherwise collating makes no difference.
+    bool collateIsOffered() const;
+
+    /// Shows these as if the user had chosen them, quietly. Copies are brought within 1 to host::mostCopies;
+    /// the text of the pages is taken as it is, and checked by choices().
+    void setChoices(int copies, host::Collate collate, const QString &ranges);
+
 Q_SIGNALS:
     void changed();
 
 private:
     bool m_setsCopies = false;
-    int m_pageCount;
+    std::vector<int> m_pageCounts;
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QLineEdit *m_pages;

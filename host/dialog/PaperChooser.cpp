@@ -2,90 +2,211 @@
 #include "PaperChooser.h"
 
 #include "ClearButton.h"
+#include "CustomPaperFields.h"
+#include "LengthUnit.h"
+#include "LinkButton.h"
+#include "PaperList.h"
 
-#include <host/CutPlanWords.h>
-#include <host/Units.h>
+#include <host/PpdNumber.h>
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace dialog {
 
 namespace {
 
-QString sizeInWords(const host::PpdPaper &paper)
+/// Documents round their pages to whole points or to tenths of millimetres.
+constexpr double sameSize = 0.5;
+
+bool isSameSize(const QSizeF &one, const QSizeF &other)
 {
-    return PaperChooser::tr("%1 wide, %2 long")
-        .arg(host::lengthInWords(paper.size.width() * host::millimetresPerPoint),
-             host::lengthInWords(paper.size.height() * host::millimetresPerPoint));
+    return std::abs(one.width() - other.width()) <= sameSize &&
+           std::abs(one.height() - other.height()) <= sameSize;
 }
 
-bool matches(const host::PpdPaper &paper, const QString &text)
+bool isWithin(const QSizeF &size, const host::PpdCustomLimits &limits)
 {
-    // Every word may stand anywhere: "24 die" finds "Die-Cut 24 mm x 38 mm".
-    const QString searched = paper.text + u' ' + QString::fromUtf8(paper.name);
-    const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
-    return std::ranges::all_of(
-        words, [&](const QString &word) { return searched.contains(word, Qt::CaseInsensitive); });
+    return size.width() >= limits.smallest.width() && size.width() <= limits.largest.width() &&
+           size.height() >= limits.smallest.height() && size.height() <= limits.largest.height();
+}
+
+bool isCustom(const host::PpdPaper &paper)
+{
+    return paper.name.startsWith("Custom.");
 }
 
 } // namespace
 
-PaperChooser::PaperChooser(std::vector<host::PpdPaper> papers, const host::PpdPaper &chosen, QWidget *parent)
+PaperChooser::PaperChooser(const host::PpdFile &ppd, const host::PpdPaper &chosen, QWidget *parent)
     : QWidget(parent)
-    , m_papers(std::move(papers))
+    , m_ppd(&ppd)
     , m_search(new QLineEdit(this))
-    , m_list(new QListWidget(this))
+    , m_list(new PaperList(this))
+    , m_documentButton(new LinkButton(this))
 {
-    auto found = std::ranges::find(m_papers, chosen.name, &host::PpdPaper::name);
-    if (found == m_papers.end())
-        found = m_papers.insert(m_papers.begin(), chosen);
-    m_chosen = static_cast<std::size_t>(found - m_papers.begin());
-    for (const host::PpdPaper &paper : m_papers) {
-        auto *const item = new QListWidgetItem(paper.text, m_list);
-        item->setToolTip(QStringLiteral("%1\n%2").arg(QString::fromUtf8(paper.name), sizeInWords(paper)));
-    }
-    m_list->setCurrentRow(static_cast<int>(m_chosen));
-    m_list->setMinimumHeight(m_list->fontMetrics().height() * 6);
-    // Wide enough for the papers' texts, unless one of them is a novel.
-    const int widest = m_list->fontMetrics().averageCharWidth() * 40;
-    m_list->setMinimumWidth(qMin(m_list->sizeHintForColumn(0) + m_list->fontMetrics().height() * 3, widest));
+    build();
+    setPpd(ppd, chosen);
+}
 
+void PaperChooser::build()
+{
     auto *const label = new QLabel(tr("P&aper"), this);
     label->setBuddy(m_list);
     m_list->setAccessibleName(tr("Paper"));
     m_search->setPlaceholderText(tr("Search papers"));
     m_search->setAccessibleName(tr("Search papers"));
     addClearButton(m_search);
-    // A few papers are seen at a glance.
-    constexpr std::size_t searchable = 8;
-    m_search->setVisible(m_papers.size() > searchable);
+    m_documentButton->hide();
 
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(label);
     layout->addWidget(m_search);
-    layout->addWidget(m_list);
-    connect(m_search, &QLineEdit::textChanged, this, &PaperChooser::filter);
-    connect(m_list, &QListWidget::currentRowChanged, this, &PaperChooser::choose);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(m_documentButton, 0, Qt::AlignLeading);
+    connect(m_search, &QLineEdit::textChanged, m_list, &PaperList::filter);
+    connect(m_list, &PaperList::entryChosen, this, &PaperChooser::chooseEntry);
+    connect(m_documentButton, &QPushButton::clicked, this, &PaperChooser::chooseDocumentSize);
 }
 
-void PaperChooser::filter(const QString &text)
+void PaperChooser::setPpd(const host::PpdFile &ppd, const host::PpdPaper &chosen)
 {
-    for (int row = 0; row < m_list->count(); ++row)
-        m_list->item(row)->setHidden(!matches(m_papers[static_cast<std::size_t>(row)], text));
+    m_ppd = &ppd;
+    m_papers = ppd.papers();
+    // A few papers are seen at a glance.
+    constexpr std::size_t searchable = 8;
+    m_search->setVisible(m_papers.size() > searchable);
+    buildCustom();
+    const bool isListed = std::ranges::find(m_papers, chosen.name, &host::PpdPaper::name) != m_papers.end();
+    if (!isListed && !(m_fields && isCustom(chosen)))
+        m_papers.insert(m_papers.begin(), chosen);
+    m_list->setPapers(m_papers, m_fields != nullptr);
+    m_list->filter(m_search->isHidden() ? QString() : m_search->text());
+    showPaper(chosen);
 }
 
-void PaperChooser::choose(int row)
+void PaperChooser::buildCustom()
 {
-    if (row < 0 || static_cast<std::size_t>(row) == m_chosen)
+    delete m_fields;
+    m_fields = nullptr;
+    m_limits = m_ppd->customLimits();
+    // Some PPDs give limits, and no way to ask for a size.
+    if (!m_limits || !customPaper(host::customPaperName(m_limits->smallest)))
         return;
-    m_chosen = static_cast<std::size_t>(row);
+    m_fields = new CustomPaperFields(*m_limits, this);
+    m_fields->hide();
+    auto *const column = qobject_cast<QVBoxLayout *>(layout());
+    column->insertWidget(column->indexOf(m_documentButton), m_fields);
+    setTabOrder(m_fields->lastField(), m_documentButton);
+    connect(m_fields, &CustomPaperFields::edited, this, &PaperChooser::chooseCustomSize);
+}
+
+void PaperChooser::setDocumentPage(const QSizeF &points)
+{
+    m_documentPage = points;
+    updateDocumentButton();
+}
+
+bool PaperChooser::choose(const QByteArray &name)
+{
+    const auto listed = std::ranges::find(m_papers, name, &host::PpdPaper::name);
+    std::optional<host::PpdPaper> paper;
+    if (listed != m_papers.end())
+        paper = *listed;
+    else if (m_fields)
+        paper = customPaper(name);
+    if (paper)
+        showPaper(*paper);
+    return paper.has_value();
+}
+
+void PaperChooser::showPaper(const host::PpdPaper &paper)
+{
+    m_chosen = paper;
+    const auto listed = std::ranges::find(m_papers, paper.name, &host::PpdPaper::name);
+    const bool isFree = listed == m_papers.end();
+    m_list->showEntry(isFree ? PaperList::customEntry : static_cast<int>(listed - m_papers.begin()));
+    if (m_fields) {
+        m_fields->setVisible(isFree);
+        if (isFree)
+            m_fields->showSize(paper.size);
+    }
+    if (isFree)
+        m_chosen.text = tr("Custom, %1", "a size").arg(exactSize(paper.size));
+    updateDocumentButton();
+}
+
+void PaperChooser::chooseEntry(int entry)
+{
+    if (entry == PaperList::customEntry) {
+        // The last paper is a good beginning.
+        m_fields->showSize(m_chosen.size);
+        m_fields->show();
+        chooseCustomSize();
+        return;
+    }
+    showPaper(m_papers[static_cast<std::size_t>(entry)]);
     Q_EMIT paperChosen();
+}
+
+void PaperChooser::chooseCustomSize()
+{
+    const auto paper = customPaper(host::customPaperName(m_fields->size()));
+    if (!paper || paper->name == m_chosen.name)
+        return;
+    showPaper(*paper);
+    Q_EMIT paperChosen();
+}
+
+void PaperChooser::chooseDocumentSize()
+{
+    const auto paper = paperForDocument();
+    if (!paper)
+        return;
+    // The button is about to go; what it did is seen in the list.
+    m_list->setFocus();
+    showPaper(*paper);
+    Q_EMIT paperChosen();
+}
+
+std::optional<host::PpdPaper> PaperChooser::customPaper(const QByteArray &name) const
+{
+    return name.startsWith("Custom.") ? m_ppd->paper(name) : std::nullopt;
+}
+
+std::optional<host::PpdPaper> PaperChooser::paperForDocument() const
+{
+    if (m_documentPage.isEmpty())
+        return std::nullopt;
+    const QSizeF sizes[] = {m_documentPage, m_documentPage.transposed()};
+    for (const QSizeF &size : sizes) {
+        const auto found = std::ranges::find_if(
+            m_papers, [&](const host::PpdPaper &paper) { return isSameSize(paper.size, size); });
+        if (found != m_papers.end())
+            return *found;
+    }
+    for (const QSizeF &size : sizes) {
+        if (m_fields && isWithin(size, *m_limits))
+            return customPaper(host::customPaperName(size));
+    }
+    return std::nullopt;
+}
+
+void PaperChooser::updateDocumentButton()
+{
+    const bool isChosen =
+        isSameSize(m_documentPage, m_chosen.size) || isSameSize(m_documentPage.transposed(), m_chosen.size);
+    const auto paper = isChosen ? std::nullopt : paperForDocument();
+    m_documentButton->setVisible(paper.has_value());
+    if (!paper)
+        return;
+    m_documentButton->setText(tr("Use the document's size: %1").arg(exactSize(m_documentPage)));
+    m_documentButton->setToolTip(isCustom(*paper) ? tr("A custom size") : paper->text);
 }
 
 } // namespace dialog

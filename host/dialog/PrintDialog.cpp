@@ -31,8 +31,9 @@ PrintDialog::PrintDialog(std::unique_ptr<host::LabelDocument> document, host::Se
 {
     m_draft.settings = wishes.settings;
     m_draft.title = wishes.title.value_or(host::defaultTitle(*m_document));
-    setWindowTitle(tr("Print %1").arg(host::defaultTitle(*m_document)));
+    setWindowTitle(tr("Print %1").arg(m_document->title()));
     build(wishes);
+    m_pages->showJob(m_draft);
     connectAll();
     takeSetup();
     showProblem(wishes.problem);
@@ -84,7 +85,7 @@ void PrintDialog::build(const DialogWishes &wishes)
 QWidget *PrintDialog::buildChoices(const DialogWishes &wishes)
 {
     auto *const choices = new QWidget(m_content);
-    m_pageOptions = new PageOptions(m_document->pageCount(), choices);
+    m_pageOptions = new PageOptions(m_document->pageCounts(), choices);
     m_pageOptions->setSettings(wishes.settings);
     m_paperPlace = new QVBoxLayout;
     auto *const layout = new QVBoxLayout(choices);
@@ -113,6 +114,7 @@ void PrintDialog::connectAll()
 {
     connect(m_pageOptions, &PageOptions::changed, this, &PrintDialog::refreshLater);
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
+    connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
     m_pages->setSummary([this] { return summary(); });
     m_pages->setTicket([this]() -> std::optional<host::JobTicket> {
         if (!m_keeper.setup())
@@ -159,7 +161,8 @@ void PrintDialog::takeSetup()
         setup->setDidChangeHook([this] { refreshLater(); });
     }
     if (setup && setup->paper()) {
-        m_papers = new PaperChooser(setup->ppd().papers(), *setup->paper(), m_content);
+        m_papers = new PaperChooser(setup->ppd(), *setup->paper(), m_content);
+        m_papers->setDocumentPage(m_document->pageSize(0));
         m_paperPlace->addWidget(m_papers);
         connect(m_papers, &PaperChooser::paperChosen, this, &PrintDialog::changePaper);
     }
@@ -230,6 +233,7 @@ void PrintDialog::refreshJob(const host::PageChoices &choices)
 {
     const host::PrinterSetup &setup = *m_keeper.setup();
     m_draft.pages = choices;
+    m_pages->writeJobTo(m_draft);
     m_pageOptions->writeTo(m_draft.settings);
     const bool hasStrip = setup.hasPpd() && setup.paper();
     m_stripPreview->setVisible(hasStrip);
@@ -247,8 +251,10 @@ void PrintDialog::refreshJob(const host::PageChoices &choices)
 void PrintDialog::refreshConflicts()
 {
     const host::PrinterSetup *const setup = m_keeper.setup();
+    const std::vector<host::Conflict> conflicts = setup ? setup->conflicts() : std::vector<host::Conflict>();
+    m_pages->setConflicts(conflicts);
     QStringList sentences;
-    for (const host::Conflict &conflict : setup ? setup->conflicts() : std::vector<host::Conflict>())
+    for (const host::Conflict &conflict : conflicts)
         sentences.append(conflict.sentence());
     const std::optional<host::Remedy> remedy = sentences.isEmpty() ? std::nullopt : setup->remedy();
     m_conflictBanner->setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
@@ -292,6 +298,10 @@ void PrintDialog::print()
     host::PrinterSetup *const setup = m_keeper.setup();
     if (!setup) {
         showProblem(waitingText());
+        return;
+    }
+    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting()) {
+        showProblem(error->message);
         return;
     }
     if (const std::optional<QString> refusal = setup->savePanel()) {

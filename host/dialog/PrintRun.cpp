@@ -46,7 +46,8 @@ PrintRun::PrintRun(CommandLine command, Console console)
 
 std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
 {
-    auto document = host::LabelDocument::open(m_command.documents);
+    auto document = host::LabelDocument::open(m_command.documents.isEmpty() ? QStringList{QStringLiteral("-")}
+                                                                            : m_command.documents);
     if (document)
         return std::move(document).value();
     m_console.complain(document.error().message);
@@ -160,7 +161,8 @@ ExitStatus PrintRun::runOnQueue()
 ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
 {
     if (!m_command.quiet)
-        m_console.out(requestIdLine(sender.queue(), sender.jobId(), m_command.documents.size()));
+        m_console.out(
+            requestIdLine(sender.queue(), sender.jobId(), qMax(qsizetype(1), m_command.documents.size())));
     JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
     window.exec();
     if (const auto &status = window.status()) {

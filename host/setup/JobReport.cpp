@@ -37,7 +37,7 @@ QJsonArray documentsJson(const JobTicket &ticket)
 {
     QJsonArray list;
     for (const JobDocument &document : ticket.documents)
-        list.append(QJsonObject{{QStringLiteral("file"), document.path},
+        list.append(QJsonObject{{QStringLiteral("file"), document.shownName()},
                                 {QStringLiteral("type"), QString::fromUtf8(document.format)}});
     return list;
 }
@@ -61,7 +61,7 @@ QString ticketInPlainText(const CupsServer &server, const JobTicket &ticket,
     QString text = Text::tr("Job \"%1\" for \"%2\" on %3\n")
                        .arg(ticket.title, ticket.destination.name(), server.displayName());
     for (const JobDocument &document : ticket.documents)
-        text += QStringLiteral("  %1\n").arg(document.path);
+        text += QStringLiteral("  %1\n").arg(document.shownName());
     text += Text::tr("Options that are sent:\n");
     for (const JobOption &option : ticket.options) {
         if (option.isSent)

@@ -24,7 +24,7 @@ SummarySection printingSection(const PrinterSetup &setup, const LabelDocument &d
                                const JobDraft &draft)
 {
     SummarySection section{Text::tr("Printing"), {}};
-    section.lines.emplace_back(Text::tr("Document"), defaultTitle(document));
+    section.lines.emplace_back(Text::tr("Document"), document.title());
     section.lines.emplace_back(Text::tr("Printer"), setup.printerText());
     if (setup.paper())
         section.lines.emplace_back(Text::tr("Paper"), setup.paper()->text);

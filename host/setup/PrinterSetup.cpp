@@ -128,6 +128,9 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     PanelHost *const host = panelHost();
     if (!host)
         return;
+    QString error;
+    if (!panel()->restoreValuesAndReturnError(&error))
+        m_panelProblem = PanelError{PanelFailure::NoPanel, error};
     announcePanel();
     host->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         if (!choice)

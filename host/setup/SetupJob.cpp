@@ -11,13 +11,16 @@ JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, co
     ticket.destination = setup.destination();
     ticket.title = draft.title;
     ticket.options = makeJobOptions(setup.destination(), setup.ppdOrNull(), setup.choices(), draft.settings);
-    ticket.documents.push_back({document.path(), "application/pdf"});
+    for (const DocumentFile &file : document.files())
+        ticket.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name});
     return ticket;
 }
 
 QString defaultTitle(const LabelDocument &document)
 {
-    return QFileInfo(document.path()).fileName();
+    // As lp calls what it reads from standard input.
+    return document.path() == QStringLiteral("-") ? QStringLiteral("(stdin)")
+                                                  : QFileInfo(document.path()).fileName();
 }
 
 QSizeF shownPaper(const PrinterSetup &setup, const LabelDocument &document)

@@ -232,6 +232,7 @@ TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
         {"kvhalfcut", "ON", ChoiceFailure::UnknownOption},
         {"KvMirror", "ON", ChoiceFailure::UnknownOption},
         {"Many", "A,B", {}},
+        {"Many", "", {}},
         {"Many", "A,C", ChoiceFailure::UnknownChoice},
         {"PageSize", "small", {}},
         {"PageSize", "Small", ChoiceFailure::UnknownPaper},

@@ -54,8 +54,8 @@ TEST(LabelDocument, RefusesWithTheReason)
                                   ") >> /ID [(0123456789abcdef) (0123456789abcdef)]";
     const BadDocument rows[] = {
         {"empty", "", DocumentFailure::Empty},
-        {"text", "Dear printer, please print.", DocumentFailure::NotAPdf},
-        {"only the head", "%PDF-1.4\n", DocumentFailure::NotAPdf},
+        {"text", "Dear printer, please print.", DocumentFailure::UnknownKind},
+        {"only the head", "%PDF-1.4\n", DocumentFailure::Damaged},
         {"no pages", handWrittenPdf({}), DocumentFailure::Empty},
         {"encrypted", handWrittenPdf({"[0 0 100 100]"}, encryption), DocumentFailure::Encrypted},
         {"a sliver", handWrittenPdf({"[0 0 100 100]", "[0 0 100 0.5]"}), DocumentFailure::BadPage},

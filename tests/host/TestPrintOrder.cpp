@@ -26,7 +26,7 @@ TEST(PageRanges, NamePagesOnceAndInOrder)
         {"1-5", {0, 1, 2, 3, 4}},
     };
     for (const Row &row : rows) {
-        const auto pages = host::parsePageRanges(QLatin1String(row.text), 5);
+        const auto pages = host::parsePageRanges(QLatin1String(row.text), {5});
         ASSERT_TRUE(pages) << row.text << ": " << pages.error().message.toStdString();
         EXPECT_EQ(pages.value(), row.pages) << row.text;
     }
@@ -43,7 +43,7 @@ TEST(PageRanges, RefuseWithAReason)
         {",", PageRangeFailure::NotUnderstood},
     };
     for (const auto &[text, kind] : rows) {
-        const auto pages = host::parsePageRanges(QLatin1String(text), 5);
+        const auto pages = host::parsePageRanges(QLatin1String(text), {5});
         ASSERT_FALSE(pages) << text;
         EXPECT_EQ(pages.error().kind, kind) << text;
         EXPECT_TRUE(pages.error().message.contains(QLatin1String(text)));
@@ -63,8 +63,41 @@ TEST(PageRanges, CanBeCheckedBeforeThereIsADocument)
 
 TEST(PrintOrder, GoesSetBySetOrLabelByLabel)
 {
-    EXPECT_EQ(host::printOrder({0, 2, 3}, 1, Collate::Yes), (std::vector<int>{0, 2, 3}));
-    EXPECT_EQ(host::printOrder({0, 2}, 3, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 0, 2}));
-    EXPECT_EQ(host::printOrder({0, 2}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
+    EXPECT_EQ(host::printOrder({{0, 2, 3}}, 1, Collate::Yes), (std::vector<int>{0, 2, 3}));
+    EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 0, 2}));
+    EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
     EXPECT_TRUE(host::printOrder({}, 3, Collate::Yes).empty());
+}
+
+TEST(PageRanges, ApplyToEveryDocumentByItself)
+{
+    struct Row {
+        const char *text;
+        std::vector<int> pages;
+    };
+    // Pages 0 to 2, 3, and 4 to 8.
+    const std::vector<int> counts{3, 1, 5};
+    const Row rows[] = {
+        {"", {0, 1, 2, 3, 4, 5, 6, 7, 8}}, {"1", {0, 3, 4}}, {"2-", {1, 2, 5, 6, 7, 8}}, {"5", {8}},
+        {"1-2, 4", {0, 1, 3, 4, 5, 7}},
+    };
+    for (const Row &row : rows) {
+        const auto pages = host::parsePageRanges(QLatin1String(row.text), counts);
+        ASSERT_TRUE(pages) << row.text << ": " << pages.error().message.toStdString();
+        EXPECT_EQ(pages.value(), row.pages) << row.text;
+    }
+    for (const char *const text : {"6", "3-6", "0"}) {
+        const auto pages = host::parsePageRanges(QLatin1String(text), counts);
+        ASSERT_FALSE(pages) << text;
+        EXPECT_EQ(pages.error().kind, PageRangeFailure::OutOfDocument) << text;
+    }
+}
+
+TEST(PrintOrder, MakesCopiesOfEachDocumentByItself)
+{
+    const auto documents = host::pagesByDocument({0, 2, 4, 5}, {3, 1, 5});
+    EXPECT_EQ(documents, (std::vector<std::vector<int>>{{0, 2}, {}, {4, 5}}));
+    EXPECT_EQ(host::printOrder(documents, 2, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 4, 5, 4, 5}));
+    EXPECT_EQ(host::printOrder(documents, 2, Collate::No), (std::vector<int>{0, 0, 2, 2, 4, 4, 5, 5}));
+    EXPECT_TRUE(host::pagesByDocument({}, {}).empty());
 }

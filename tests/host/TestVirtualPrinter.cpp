@@ -142,6 +142,23 @@ TEST_F(VirtualPrinterTest, WritesTheJobForPrograms)
     EXPECT_EQ(json.value(QStringLiteral("paper")).toObject().value(QStringLiteral("width")).toDouble(), 24.0);
 }
 
+TEST_F(VirtualPrinterTest, CopiesOfSeveralDocumentsComeDocumentByDocument)
+{
+    auto opened = LabelDocument::open(QStringList{document->path(), document->path()});
+    ASSERT_TRUE(opened) << opened.error().message.toStdString();
+    const LabelDocument &both = *opened.value();
+    const host::LabelRenderer rendered(both, paper.size);
+    const host::PrintJob twice(state, both, rendered, paper, {{0, 1, 3}, 2, Collate::Yes});
+    std::vector<int> pages;
+    for (const host::PlannedLabel &label : twice.plan().labels())
+        pages.push_back(label.page);
+    EXPECT_EQ(pages, (std::vector<int>{0, 1, 0, 1, 3, 3}));
+    const QJsonObject json = printJobJson(twice);
+    EXPECT_EQ(json.value(QStringLiteral("document")).toString(), document->path());
+    EXPECT_EQ(json.value(QStringLiteral("documents")).toArray(),
+              (QJsonArray{document->path(), document->path()}));
+}
+
 TEST_F(VirtualPrinterTest, DrawsEveryCutOnTheStrip)
 {
     const QColor fullCut(0xd6, 0x2b, 0x1f);

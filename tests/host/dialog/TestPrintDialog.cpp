@@ -1,156 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SamplePdf.h"
-#include "SamplePpd.h"
+#include "DialogFixture.h"
 
-#include <host/CutPlanWords.h>
-#include <host/Units.h>
 #include <host/dialog/Banner.h>
-#include <host/dialog/PrintDialog.h>
 #include <host/dialog/SummaryPage.h>
 
 #include <platform/NotificationCenter.h>
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QApplication>
-#include <QCheckBox>
-#include <QDir>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
-#include <QScrollBar>
 #include <QSpinBox>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-using dialog::PrintDialog;
-using dialog::PrintRequest;
 
 namespace {
 
-constexpr double mm = host::pointsPerMillimetre;
-
-/// The dialog on a sandboxed printer and document, with the real bundle or none.
-class PrintDialogTest : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        std::vector<SamplePage> pages;
-        for (int page = 0; page < 3; ++page)
-            pages.push_back({QSizeF(60, 24) * mm, [](QPainter &painter) {
-                                 painter.fillRect(QRectF(10 * mm, 8 * mm, 20 * mm, 8 * mm), Qt::black);
-                             }});
-        documentPath = writePdf(sandbox, QStringLiteral("labels.pdf"), pages);
-    }
-
-    PrintRequest request()
-    {
-        PrintRequest request;
-        request.state = std::make_shared<host::DialogState>(openTapePpd(sandbox));
-        state = request.state.get();
-        auto document = host::LabelDocument::open(documentPath);
-        EXPECT_TRUE(document);
-        request.document = std::move(document).value();
-        request.paper = state->ppd().markedPaper().value();
-        platform::Paper paper;
-        paper.name = QString::fromUtf8(request.paper.name);
-        paper.height = request.paper.size.height();
-        state->setPaper(paper);
-        return request;
-    }
-
-    void open(const QString &bundle = QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle"))
-    {
-        PrintRequest wanted = request();
-        auto loaded = host::PanelBundle::load(bundle, {});
-        ASSERT_TRUE(loaded) << loaded.error().message.toStdString();
-        wanted.panels = std::make_unique<host::PanelSession>(std::move(loaded).value(),
-                                                             std::make_shared<host::PanelHost>(wanted.state));
-        wanted.claimedKeywords = wanted.panels->claimKeywords();
-        ASSERT_TRUE(wanted.panels->firstPanel());
-        ASSERT_TRUE(wanted.panels->firstPanel()->panelView());
-        show(std::move(wanted));
-    }
-
-    void show(PrintRequest wanted)
-    {
-        window = std::make_unique<PrintDialog>(std::move(wanted), [this](const host::PrintJob &job) {
-            sent.push_back(host::cutPlanFigures(job.plan()));
-            sentOptions = job.state().recorded();
-            return sendProblem;
-        });
-        window->show();
-        QApplication::processEvents();
-    }
-
-    template<typename Widget>
-    Widget *find(const QString &accessibleName = {}) const
-    {
-        for (Widget *const widget : window->findChildren<Widget *>()) {
-            if (accessibleName.isEmpty() || widget->accessibleName() == accessibleName)
-                return widget;
-        }
-        return nullptr;
-    }
-
-    QCheckBox *box(const char *name) const { return window->findChild<QCheckBox *>(QLatin1String(name)); }
-
-    QPushButton *button(const char *text) const
-    {
-        for (QPushButton *const candidate : window->findChildren<QPushButton *>()) {
-            if (candidate->text().remove(u'&') == QLatin1String(text))
-                return candidate;
-        }
-        return nullptr;
-    }
-
-    static void click(QAbstractButton *target)
-    {
-        ASSERT_TRUE(target);
-        const int x = target->layoutDirection() == Qt::RightToLeft ? target->width() - 8 : 8;
-        QTest::mouseClick(target, Qt::LeftButton, {}, {x, target->height() / 2});
-        QApplication::processEvents();
-    }
-
-    QString stripInWords() const
-    {
-        return find<QWidget>(QStringLiteral("Label strip"))->accessibleDescription();
-    }
-
-    void chooseTab(const char *title) const
-    {
-        auto *const tabs = window->findChild<QTabWidget *>();
-        for (int i = 0; i < tabs->count(); ++i) {
-            if (tabs->tabText(i).remove(u'&') == QLatin1String(title))
-                QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(i).center());
-        }
-        QApplication::processEvents();
-        EXPECT_EQ(tabs->tabText(tabs->currentIndex()).remove(u'&'), QLatin1String(title));
-    }
-
-    QString line(const QString &section, const QString &title) const
-    {
-        for (const dialog::SummarySection &candidate : window->summary()) {
-            for (const auto &[lineTitle, value] : candidate.lines) {
-                if (candidate.title == section && lineTitle == title)
-                    return value;
-            }
-        }
-        return QStringLiteral("(no such line)");
-    }
-
-    Sandbox sandbox;
-    QString documentPath;
-    host::DialogState *state = nullptr;
-    std::vector<QString> sent;
-    host::RecordedChoices sentOptions;
-    std::optional<QString> sendProblem;
-    std::unique_ptr<PrintDialog> window;
-};
+class PrintDialogTest : public DialogTest {};
 
 } // namespace
 
@@ -224,10 +86,10 @@ TEST_F(PrintDialogTest, CopiesAndPagesCountAndAreChecked)
     QTest::keyClicks(pages, QStringLiteral("9"));
     QApplication::processEvents();
     EXPECT_FALSE(button("Print")->isEnabled());
-    EXPECT_FALSE(window->print());
+    window->print();
     EXPECT_TRUE(window->problem().contains(QStringLiteral("last page is 3")))
         << window->problem().toStdString();
-    EXPECT_TRUE(sent.empty());
+    EXPECT_TRUE(sender.jobs.empty());
 }
 
 TEST_F(PrintDialogTest, PrintSavesAsksAndSends)
@@ -237,23 +99,23 @@ TEST_F(PrintDialogTest, PrintSavesAsksAndSends)
     click(button("Print"));
     EXPECT_EQ(window->result(), QDialog::Accepted);
     EXPECT_FALSE(window->isVisible());
-    ASSERT_EQ(sent.size(), 1U);
+    ASSERT_EQ(sender.jobs.size(), 1U);
     // All nine options are recorded when the panel has saved.
     for (const char *const keyword : {"KvCutLabel", "KvCutAtEnd", "KvMirror", "KvAutoTapeCut", "KvHalfCut",
                                       "KvChainPrint", "KvSpecialTape", "KvRemoveBlkSpace", "KvCutMark"})
-        EXPECT_TRUE(sentOptions.choice(QLatin1String(keyword))) << keyword;
-    EXPECT_EQ(sentOptions.choice(QStringLiteral("PageSize")), QStringLiteral("W24H60"));
+        EXPECT_TRUE(sender.options.choice(QLatin1String(keyword))) << keyword;
+    EXPECT_EQ(sender.options.choice(QStringLiteral("PageSize")), QStringLiteral("W24H60"));
 }
 
 TEST_F(PrintDialogTest, EnterPrintsAndEscapeCancels)
 {
     open();
     QTest::keyClick(window.get(), Qt::Key_Return);
-    EXPECT_EQ(sent.size(), 1U);
+    EXPECT_EQ(sender.jobs.size(), 1U);
     open();
     QTest::keyClick(window.get(), Qt::Key_Escape);
     EXPECT_EQ(window->result(), QDialog::Rejected);
-    EXPECT_EQ(sent.size(), 1U);
+    EXPECT_EQ(sender.jobs.size(), 1U);
 }
 
 TEST_F(PrintDialogTest, CancelSendsNothing)
@@ -262,23 +124,23 @@ TEST_F(PrintDialogTest, CancelSendsNothing)
     click(box("mHalfCutChkBx"));
     click(button("Cancel"));
     EXPECT_EQ(window->result(), QDialog::Rejected);
-    EXPECT_TRUE(sent.empty());
+    EXPECT_TRUE(sender.jobs.empty());
 }
 
 TEST_F(PrintDialogTest, AFailureLeavesTheDialogOpenAsSet)
 {
     open();
     click(box("mHalfCutChkBx"));
-    sendProblem = QStringLiteral("The disk is full");
+    sender.problem = QStringLiteral("The disk is full");
     click(button("Print"));
     EXPECT_TRUE(window->isVisible());
     bool told = false;
     for (const dialog::Banner *const banner : window->findChildren<dialog::Banner *>())
-        told = told || (banner->isVisible() && banner->message() == *sendProblem);
+        told = told || (banner->isVisible() && banner->message() == *sender.problem);
     EXPECT_TRUE(told);
     EXPECT_FALSE(box("mHalfCutChkBx")->isChecked());
 
-    sendProblem.reset();
+    sender.problem.reset();
     click(button("Print"));
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(window->problem(), QString());
@@ -302,7 +164,7 @@ TEST_F(PrintDialogTest, TheSummaryHasThePanelsLinesInTheirOrderBesideTheDialogsO
     ASSERT_EQ(list->topLevelItemCount(), 3);
     for (std::size_t i = 0; i < sections[1].lines.size(); ++i)
         EXPECT_EQ(list->topLevelItem(1)->child(static_cast<int>(i))->text(0), sections[1].lines[i].first);
-    const QString text = dialog::summaryInPlainText(sections);
+    const QString text = host::summaryInPlainText(sections);
     EXPECT_TRUE(text.contains(QStringLiteral("  Paper: Tape 24 mm x 60 mm\n"))) << text.toStdString();
 }
 
@@ -316,11 +178,8 @@ TEST_F(PrintDialogTest, ASearchFindsPapersAndChangesNothing)
     sandbox.write(QStringLiteral("many.ppd"), text);
     auto ppd = host::PpdFile::open(sandbox.path(QStringLiteral("many.ppd")));
     ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
-    PrintRequest wanted = request();
-    ppd.value().markDefaults();
-    wanted.state = std::make_shared<host::DialogState>(std::move(ppd).value());
-    state = wanted.state.get();
-    show(std::move(wanted));
+    show(std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(),
+                                              host::SetupWishes(), host::PanelSource()));
     auto *const search = find<QLineEdit>(QStringLiteral("Search papers"));
     auto *const papers = find<QListWidget>(QStringLiteral("Paper"));
     ASSERT_TRUE(search && search->isVisible());
@@ -330,23 +189,23 @@ TEST_F(PrintDialogTest, ASearchFindsPapersAndChangesNothing)
         if (!papers->item(row)->isHidden())
             shown.append(papers->item(row)->text());
     }
-    EXPECT_EQ(shown, QStringList{QStringLiteral("Removable 52 mm x 75 mm")});
+    EXPECT_EQ(shown, (QStringList{QStringLiteral("Custom size\u2026"), QStringLiteral("52 mm wide"),
+                                  QStringLiteral("Removable 52 mm x 75 mm")}));
     EXPECT_EQ(state->recorded().choice(QStringLiteral("PageSize")), QStringLiteral("W24H60"));
 }
 
 TEST_F(PrintDialogTest, GoesOnWithoutAPanelAndSaysSo)
 {
-    PrintRequest wanted = request();
-    wanted.panelProblem = QStringLiteral("The cut options cannot be shown.");
-    show(std::move(wanted));
-    EXPECT_EQ(window->findChild<QTabWidget *>()->count(), 2);
+    open(QStringLiteral("/nowhere"));
+    // The cut options are among the printer's other options then.
+    EXPECT_EQ(window->findChild<QTabWidget *>()->count(), 3);
     bool told = false;
     for (const dialog::Banner *const banner : window->findChildren<dialog::Banner *>())
         told =
             told || (banner->isVisible() && banner->message().startsWith(QStringLiteral("The cut options")));
     EXPECT_TRUE(told);
     click(button("Print"));
-    EXPECT_EQ(sent.size(), 1U);
+    EXPECT_EQ(sender.jobs.size(), 1U);
 }
 
 TEST_F(PrintDialogTest, ThePanelHearsWhenItsPageComesToTheFront)
@@ -354,88 +213,19 @@ TEST_F(PrintDialogTest, ThePanelHearsWhenItsPageComesToTheFront)
     open(QStringLiteral(KV_BINARY_DIR "/tests/bundles/good/KVLXDZOptions.bundle"));
     chooseTab("Page preview");
     chooseTab("One box");
-    EXPECT_EQ(line(QStringLiteral("One box"), QStringLiteral("Heard")).count(QStringLiteral("willShow")), 2);
+    // When it is filled for the first time, when the window appears, and when one comes back to it.
+    EXPECT_EQ(line(QStringLiteral("One box"), QStringLiteral("Heard")).count(QStringLiteral("willShow")), 3);
 }
 
 TEST_F(PrintDialogTest, GivesThePanelsViewBack)
 {
-    auto bundle =
-        host::PanelBundle::load(QStringLiteral(KV_BINARY_DIR "/tests/bundles/good/KVLXDZOptions.bundle"), {});
-    ASSERT_TRUE(bundle);
-    PrintRequest wanted = request();
-    wanted.panels = std::make_unique<host::PanelSession>(std::move(bundle).value(),
-                                                         std::make_shared<host::PanelHost>(wanted.state));
-    const PDEPanelList panels = wanted.panels->panels().value();
-    QWidget *const view = panels.front()->panelView();
-    show(std::move(wanted));
+    open(QStringLiteral(KV_BINARY_DIR "/tests/bundles/good/KVLXDZOptions.bundle"));
+    QWidget *const view = keeper->setup()->panel()->panelView();
     EXPECT_TRUE(view->isVisible());
     window.reset();
-    EXPECT_EQ(panels.front()->panelView()->parent(), nullptr);
+    EXPECT_EQ(view->parent(), nullptr);
     // A click that comes after the dialog is gone still finds a state to change, and no dialog to refresh.
     view->resize(100, 30);
     QTest::mouseClick(view, Qt::LeftButton, {}, {8, 15});
     QApplication::processEvents();
-}
-
-TEST_F(PrintDialogTest, EveryFieldHasANameForScreenReaders)
-{
-    open();
-    for (QWidget *const widget : window->findChildren<QWidget *>()) {
-        const bool reachable = widget->focusPolicy() & Qt::TabFocus && widget->isVisibleTo(window.get());
-        // The panel names its own controls.
-        const bool own = !box("mCutEveryChkBx")->parentWidget()->isAncestorOf(widget);
-        if (!reachable || !own || widget->parentWidget()->inherits("QAbstractSpinBox"))
-            continue;
-        const QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(widget);
-        ASSERT_TRUE(spoken) << widget->metaObject()->className();
-        const bool named = !spoken->text(QAccessible::Name).isEmpty();
-        EXPECT_TRUE(named || widget->inherits("QTabBar") || widget->inherits("QScrollArea"))
-            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
-    }
-}
-
-TEST_F(PrintDialogTest, TheStripScrollsByKeysAndWheel)
-{
-    open();
-    auto *const strip = qobject_cast<QAbstractScrollArea *>(find<QWidget>(QStringLiteral("Label strip")));
-    window->resize(500, 500);
-    QApplication::processEvents();
-    ASSERT_GT(strip->horizontalScrollBar()->maximum(), 0);
-    strip->setFocus();
-    QTest::keyClick(strip, Qt::Key_Right);
-    const int afterKey = strip->horizontalScrollBar()->value();
-    EXPECT_GT(afterKey, 0);
-    QWheelEvent wheel({50, 50}, strip->mapToGlobal(QPointF(50, 50)), {}, {0, -120}, Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(strip->viewport(), &wheel);
-    EXPECT_GT(strip->horizontalScrollBar()->value(), afterKey);
-}
-
-TEST_F(PrintDialogTest, IsDrawnInLightAndDarkAndRightToLeft)
-{
-    const QString pictures = QStringLiteral(KV_BINARY_DIR "/test-results/pictures");
-    ASSERT_TRUE(QDir().mkpath(pictures));
-    const QPalette usual = QApplication::palette();
-    QPalette dark(QColor(0x30, 0x33, 0x38), QColor(0x25, 0x28, 0x2c));
-    dark.setColor(QPalette::Base, QColor(0x1d, 0x1f, 0x22));
-    struct Row {
-        const char *name;
-        const QPalette *palette;
-        Qt::LayoutDirection direction;
-    };
-    for (const Row &row : {Row{"light", &usual, Qt::LeftToRight}, Row{"dark", &dark, Qt::LeftToRight},
-                           Row{"right-to-left", &usual, Qt::RightToLeft}}) {
-        QApplication::setPalette(*row.palette);
-        QApplication::setLayoutDirection(row.direction);
-        open();
-        click(box("mCutEveryChkBx"));
-        click(box("mChainPrintChkBx"));
-        const QImage picture = window->grab().toImage();
-        EXPECT_TRUE(picture.save(pictures + u'/' + QLatin1String(row.name) + QStringLiteral(".png")));
-        // The tape stays white, and the window's ground is the theme's.
-        EXPECT_EQ(QColor(picture.pixel(2, picture.height() - 3)), row.palette->color(QPalette::Window))
-            << row.name;
-    }
-    QApplication::setPalette(usual);
-    QApplication::setLayoutDirection(Qt::LeftToRight);
 }

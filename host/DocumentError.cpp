@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DocumentError.h"
+
+#include <QCoreApplication>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+};
+
+} // namespace
+
+DocumentError documentError(const DocumentProblem &problem, const QString &name)
+{
+    if (name == standardInputName)
+        return {problem.kind, Text::tr("Cannot open the document on standard input: %1").arg(problem.reason)};
+    return {problem.kind, Text::tr("Cannot open the document \"%1\": %2").arg(name, problem.reason)};
+}
+
+} // namespace host

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OpenedDocument.h"
+
+#include "DocumentKind.h"
+#include "ImagePdf.h"
+#include "StandardInput.h"
+#include "SvgPdf.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+};
+
+Result<QByteArray, DocumentProblem> readWhole(QFile &file, qint64 most)
+{
+    if (file.size() > most)
+        return DocumentProblem{DocumentFailure::TooLarge,
+                               Text::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
+    // No more than there is: reading makes room for all that is asked for.
+    QByteArray content = file.read(file.size());
+    if (file.error() != QFileDevice::NoError)
+        return DocumentProblem{DocumentFailure::Unreadable, file.errorString()};
+    return content;
+}
+
+/// Turns an image or an SVG into a PDF.
+std::optional<DocumentProblem> convert(QFile &file, DocumentKind kind, QTemporaryFile &pdf)
+{
+    const bool isSvg = kind == DocumentKind::Svg;
+    const auto content =
+        readWhole(file, isSvg ? OpenedDocument::mostSvgBytes : OpenedDocument::mostImageBytes);
+    if (!content)
+        return content.error();
+    auto problem = isSvg ? writeSvgPdf(content.value(), &pdf) : writeImagePdf(content.value(), kind, &pdf);
+    if ((problem && problem->kind == DocumentFailure::NotStored) || (!problem && !pdf.flush()))
+        return notStored(pdf);
+    return problem;
+}
+
+} // namespace
+
+Result<std::unique_ptr<OpenedDocument>, DocumentProblem> OpenedDocument::open(const QString &name)
+{
+    std::unique_ptr<OpenedDocument> document(new OpenedDocument);
+    document->m_path = name;
+    if (name == standardInputName) {
+        auto input = readStandardInput();
+        if (!input)
+            return input.error();
+        document->m_temporary = std::move(input).value();
+        document->m_path = document->m_temporary->fileName();
+    }
+    auto file = openRegularFile(document->m_path);
+    if (!file)
+        return file.error();
+    const std::optional<DocumentKind> kind = documentKind(file.value().file->peek(documentHeadSize));
+    if (!kind)
+        return DocumentProblem{DocumentFailure::UnknownKind, Text::tr("it is no PDF, PNG, JPEG or SVG")};
+    if (*kind != DocumentKind::Pdf) {
+        auto pdf = makeTemporaryFile();
+        if (!pdf)
+            return pdf.error();
+        if (const auto problem = convert(*file.value().file, *kind, *pdf.value()))
+            return *problem;
+        document->m_temporary = std::move(pdf).value();
+        document->m_path = document->m_temporary->fileName();
+        file = openRegularFile(document->m_path);
+        if (!file)
+            return file.error();
+    }
+    document->m_stamp = file.value().stamp;
+    auto pages = PdfPages::open(std::move(file.value().file));
+    if (!pages)
+        return pages.error();
+    document->m_pages = std::move(pages).value();
+    return document;
+}
+
+std::optional<DocumentProblem> OpenedDocument::checkForPrinting() const
+{
+    if (fileStamp(m_path) != m_stamp)
+        return DocumentProblem{DocumentFailure::Changed,
+                               Text::tr("the file has changed since it was opened; open it again")};
+    return m_pages->checkPages();
+}
+
+} // namespace host

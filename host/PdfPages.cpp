@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PdfPages.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+#include <cmath>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+};
+
+std::optional<DocumentProblem> loadingProblem(QPdfDocument::Error error)
+{
+    switch (error) {
+    case QPdfDocument::Error::None:
+        return std::nullopt;
+    case QPdfDocument::Error::IncorrectPassword:
+        return DocumentProblem{DocumentFailure::Encrypted,
+                               Text::tr("it is encrypted; remove its password first")};
+    case QPdfDocument::Error::UnsupportedSecurityScheme:
+        return DocumentProblem{DocumentFailure::Encrypted,
+                               Text::tr("it is encrypted in a way that is not known here")};
+    default:
+        return DocumentProblem{DocumentFailure::Damaged, Text::tr("it is a damaged PDF")};
+    }
+}
+
+double withinLimits(double side)
+{
+    return std::isnan(side) ? 1.0 : qBound(1.0, side, PdfPages::longestSide);
+}
+
+} // namespace
+
+PdfPages::PdfPages(std::unique_ptr<QFile> file)
+    : m_file(std::move(file))
+{
+}
+
+Result<std::unique_ptr<PdfPages>, DocumentProblem> PdfPages::open(std::unique_ptr<QFile> file)
+{
+    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file)));
+    pages->m_pdf.load(pages->m_file.get());
+    if (const auto problem = loadingProblem(pages->m_pdf.error()))
+        return *problem;
+    if (pages->pageCount() < 1)
+        return DocumentProblem{DocumentFailure::Empty, Text::tr("it has no pages")};
+    if (const auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
+        return *problem;
+    return pages;
+}
+
+QSizeF PdfPages::pageSize(int page) const
+{
+    const QSizeF size = m_pdf.pagePointSize(page);
+    return {withinLimits(size.width()), withinLimits(size.height())};
+}
+
+QImage PdfPages::render(int page, QSize size) const
+{
+    // A PDF page is transparent where nothing is drawn; labels are white there.
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.drawImage(QPoint(), m_pdf.render(page, size));
+    return image;
+}
+
+std::optional<DocumentProblem> PdfPages::checkSize(QSizeF size, int page)
+{
+    // Written so that a size that is no number fails too.
+    if (!(size.width() >= 1.0 && size.height() >= 1.0))
+        return DocumentProblem{DocumentFailure::BadPage, Text::tr("page %1 has no area").arg(page + 1)};
+    if (!(size.width() <= longestSide && size.height() <= longestSide))
+        return DocumentProblem{DocumentFailure::BadPage, Text::tr("page %1 is longer than %2 m")
+                                                             .arg(page + 1)
+                                                             .arg(longestSide / 72.0 * 0.0254, 0, 'f', 2)};
+    return std::nullopt;
+}
+
+std::optional<DocumentProblem> PdfPages::checkPagesUpTo(int end) const
+{
+    for (; m_checked < end; ++m_checked) {
+        if (const auto problem = checkSize(m_pdf.pagePointSize(m_checked), m_checked))
+            return problem;
+    }
+    return std::nullopt;
+}
+
+} // namespace host

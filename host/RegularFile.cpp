@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "RegularFile.h"
+
+#include <QCoreApplication>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+};
+
+FileStamp stampOf(const struct stat &status)
+{
+    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+DocumentProblem systemProblem(int error)
+{
+    if (error == ENOENT || error == ENOTDIR)
+        return {DocumentFailure::Missing, Text::tr("there is no such file")};
+    return {DocumentFailure::Unreadable, qt_error_string(error)};
+}
+
+std::optional<DocumentProblem> checkStatus(int result, const struct stat &status)
+{
+    if (result != 0)
+        return systemProblem(errno);
+    if (!S_ISREG(status.st_mode))
+        return DocumentProblem{DocumentFailure::NotAFile, Text::tr("it is not a file")};
+    if (status.st_size == 0)
+        return DocumentProblem{DocumentFailure::Empty, Text::tr("it is empty")};
+    return std::nullopt;
+}
+
+} // namespace
+
+Result<RegularFile, DocumentProblem> openRegularFile(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status = {};
+    // Asked before opening, since opening alone makes some devices do something.
+    if (const auto problem = checkStatus(::stat(name.constData(), &status), status))
+        return *problem;
+    // A pipe may have taken the file's place meanwhile; without O_NONBLOCK, opening it would wait.
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
+    if (descriptor < 0)
+        return systemProblem(errno);
+    auto file = std::make_unique<QFile>();
+    if (!file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return DocumentProblem{DocumentFailure::Unreadable, file->errorString()};
+    }
+    if (const auto problem = checkStatus(::fstat(descriptor, &status), status))
+        return *problem;
+    return RegularFile{std::move(file), stampOf(status)};
+}
+
+std::optional<FileStamp> fileStamp(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return stampOf(status);
+}
+
+} // namespace host

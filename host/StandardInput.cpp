@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "StandardInput.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+
+#include <array>
+#include <cerrno>
+#include <poll.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+};
+
+/// Like read(), but waits for input that whoever started the program has set not to be waited for.
+ssize_t readPiece(char *buffer, std::size_t size)
+{
+    for (;;) {
+        const ssize_t length = ::read(STDIN_FILENO, buffer, size);
+        if (length >= 0)
+            return length;
+        if (errno == EAGAIN) {
+            pollfd input = {STDIN_FILENO, POLLIN, 0};
+            ::poll(&input, 1, -1);
+        } else if (errno != EINTR) {
+            return length;
+        }
+    }
+}
+
+} // namespace
+
+Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> makeTemporaryFile()
+{
+    auto file = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/kvprint-XXXXXX.pdf"));
+    if (!file->open())
+        return notStored(*file);
+    return file;
+}
+
+DocumentProblem notStored(const QTemporaryFile &file)
+{
+    return {DocumentFailure::NotStored,
+            Text::tr("it cannot be kept in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
+}
+
+Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> readStandardInput(qint64 limit)
+{
+    auto file = makeTemporaryFile();
+    if (!file)
+        return file.error();
+    std::array<char, 65536> buffer = {};
+    qint64 taken = 0;
+    for (;;) {
+        const ssize_t length = readPiece(buffer.data(), buffer.size());
+        if (length < 0)
+            return DocumentProblem{DocumentFailure::Unreadable, qt_error_string(errno)};
+        if (length == 0)
+            break;
+        taken += length;
+        if (taken > limit)
+            return DocumentProblem{DocumentFailure::TooLarge,
+                                   Text::tr("it is longer than %1").arg(QLocale().formattedDataSize(limit))};
+        if (file.value()->write(buffer.data(), length) != length)
+            return notStored(*file.value());
+    }
+    if (!file.value()->flush())
+        return notStored(*file.value());
+    return file;
+}
+
+} // namespace host

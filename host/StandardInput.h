@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "DocumentError.h"
+
+#include <QTemporaryFile>
+
+#include <memory>
+
+namespace host {
+
+/// The most bytes taken from standard input: 1 GiB, far more than any document of labels has, and a bound
+/// for what a program that never stops writing can fill.
+inline constexpr qint64 mostInput = 1024LL * 1024 * 1024;
+
+/// An empty file among the system's temporary ones that only this user can read, gone with the object.
+Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> makeTemporaryFile();
+/// Why the temporary file could not be written.
+DocumentProblem notStored(const QTemporaryFile &file);
+
+/// Reads standard input to its end, waiting for whoever writes it, into a temporary file. The limit is in
+/// bytes; nothing is kept when there is more.
+Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> readStandardInput(qint64 limit = mostInput);
+
+} // namespace host

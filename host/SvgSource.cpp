@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SvgSource.h"
+
+#include "DocumentKind.h"
+#include "SvgLengths.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QImageReader>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+};
+
+/// What may be loaded or drawn in place of the element.
+bool drawsItsReference(QStringView element)
+{
+    constexpr QStringView names[] = {u"image",          u"feImage",      u"use",    u"linearGradient",
+                                     u"radialGradient", u"pattern",      u"tref",   u"textPath",
+                                     u"filter",         u"mask",         u"marker", u"video",
+                                     u"animation",      u"foreignObject"};
+    return std::ranges::find(names, element) != std::end(names);
+}
+
+DocumentProblem needsOther(QString other)
+{
+    constexpr qsizetype shown = 100;
+    if (other.size() > shown)
+        other = other.first(shown) + u'…';
+    return {DocumentFailure::NeedsOthers,
+            Text::tr("it refers to \"%1\", and only what is in the SVG itself is printed").arg(other)};
+}
+
+class SvgReader {
+public:
+    explicit SvgReader(const QByteArray &svg)
+        : m_reader(svg)
+        , m_writer(&m_source.content)
+    {
+        // Prefixes without a declaration are common in SVGs that have been cut out of others.
+        m_reader.setNamespaceProcessing(false);
+    }
+
+    std::optional<DocumentProblem> read()
+    {
+        while (!m_reader.atEnd() && !m_problem)
+            pass(m_reader.readNext());
+        if (m_problem)
+            return m_problem;
+        if (!m_rootSeen)
+            return DocumentProblem{DocumentFailure::UnknownKind, Text::tr("it is no PDF, PNG, JPEG or SVG")};
+        if (m_reader.hasError())
+            return DocumentProblem{
+                DocumentFailure::Damaged,
+                Text::tr("line %1 of the SVG: %2").arg(m_reader.lineNumber()).arg(m_reader.errorString())};
+        return std::nullopt;
+    }
+
+    SvgSource takeSource() { return std::move(m_source); }
+
+private:
+    void pass(QXmlStreamReader::TokenType token)
+    {
+        switch (token) {
+        case QXmlStreamReader::StartElement:
+            passElement();
+            break;
+        case QXmlStreamReader::EndElement:
+            --m_level;
+            m_inStyle = false;
+            m_writer.writeEndElement();
+            break;
+        case QXmlStreamReader::Characters:
+            // A style sheet is text too, and its lengths are lengths.
+            if (m_level > 0)
+                m_writer.writeCharacters(m_inStyle ? lengthsInPixels(m_reader.text().toString())
+                                                   : m_reader.text().toString());
+            break;
+        case QXmlStreamReader::DTD:
+            checkDeclarations();
+            break;
+        case QXmlStreamReader::EntityReference:
+            m_problem = needsOther(u'&' + m_reader.name().toString() + u';');
+            break;
+        case QXmlStreamReader::ProcessingInstruction:
+            if (m_reader.processingInstructionTarget() == u"xml-stylesheet")
+                m_problem = needsOther(m_reader.processingInstructionData().toString());
+            break;
+        default:
+            break;
+        }
+    }
+
+    /// What stands in another file would be missing without a word.
+    void checkDeclarations()
+    {
+        for (const QXmlStreamEntityDeclaration &entity : m_reader.entityDeclarations()) {
+            if (!entity.systemId().isEmpty())
+                m_problem = needsOther(entity.systemId().toString());
+        }
+    }
+
+    void passElement()
+    {
+        const QStringView name = m_reader.name();
+        if (!m_rootSeen && name != u"svg") {
+            m_problem =
+                DocumentProblem{DocumentFailure::UnknownKind, Text::tr("it is no PDF, PNG, JPEG or SVG")};
+            return;
+        }
+        if (++m_level > SvgSource::mostLevels || ++m_elements > SvgSource::mostElements) {
+            m_problem = DocumentProblem{DocumentFailure::TooLarge,
+                                        Text::tr("it is an SVG of more parts than can be drawn")};
+            return;
+        }
+        m_inStyle = name == u"style";
+        m_writer.writeStartElement(m_reader.qualifiedName().toString());
+        if (!m_rootSeen)
+            readRoot();
+        m_rootSeen = true;
+        passAttributes(name);
+    }
+
+    void passAttributes(QStringView element)
+    {
+        const QXmlStreamAttributes attributes = m_reader.attributes();
+        bool hasReference = false;
+        // The newer spelling comes before the older one where an element has both.
+        const bool hasNewSpelling = attributes.hasAttribute(QStringLiteral("href"));
+        for (const QXmlStreamAttribute &attribute : attributes) {
+            const bool isReference = attribute.name() == u"href";
+            if (!isReference) {
+                const QString value = attribute.value().toString();
+                m_writer.writeAttribute(attribute.qualifiedName().toString(),
+                                        holdsLengths(attribute.name()) ? lengthsInPixels(value) : value);
+            } else if (drawsItsReference(element) && !hasReference &&
+                       (!hasNewSpelling || attribute.qualifiedName() == u"href")) {
+                hasReference = true;
+                passReference(element, attribute.value().trimmed().toString());
+            }
+        }
+    }
+
+    void passReference(QStringView element, const QString &reference)
+    {
+        const bool inside = reference.isEmpty() || reference.startsWith(u'#');
+        const bool picture = element == u"image" && reference.startsWith(u"data:", Qt::CaseInsensitive);
+        if (!inside && !picture)
+            m_problem = needsOther(reference);
+        else if (picture)
+            checkPicture(reference);
+        if (!m_problem)
+            m_writer.writeAttribute(QStringLiteral("xlink:href"), reference);
+    }
+
+    /// Pictures are taken by their content: one that is an SVG could refer to files in turn.
+    void checkPicture(const QString &reference)
+    {
+        const QString mark = QStringLiteral("base64,");
+        const qsizetype begin = reference.lastIndexOf(mark);
+        const QByteArray data =
+            begin < 0 ? QByteArray()
+                      : QByteArray::fromBase64(QStringView(reference).mid(begin + mark.size()).toLatin1());
+        const std::optional<DocumentKind> kind = documentKind(data.left(documentHeadSize));
+        if (kind != DocumentKind::Png && kind != DocumentKind::Jpeg) {
+            m_problem = DocumentProblem{DocumentFailure::UnknownKind,
+                                        Text::tr("it has a picture in it that is neither PNG nor JPEG")};
+            return;
+        }
+        QBuffer buffer;
+        buffer.setData(data);
+        buffer.open(QIODevice::ReadOnly);
+        const QSize size = QImageReader(&buffer, kind == DocumentKind::Png ? "png" : "jpeg").size();
+        m_picturePixels += static_cast<qint64>(size.width()) * size.height();
+        if (!size.isValid())
+            m_problem = DocumentProblem{DocumentFailure::Damaged, Text::tr("it has a damaged picture in it")};
+        else if (m_picturePixels > SvgSource::mostPicturePixels)
+            m_problem = DocumentProblem{DocumentFailure::TooLarge,
+                                        Text::tr("it has pictures of more pixels in it than can be printed")};
+    }
+
+    void readRoot()
+    {
+        const QXmlStreamAttributes attributes = m_reader.attributes();
+        const auto value = [&](const char *name) {
+            return attributes.value(QLatin1String(name)).trimmed().toString();
+        };
+        m_source.viewBox = parseViewBox(value("viewBox"));
+        const std::optional<QSizeF> box =
+            m_source.viewBox ? std::optional(m_source.viewBox->size()) : std::nullopt;
+        if (box && !(box->width() > 0.0 && box->height() > 0.0)) {
+            m_problem = DocumentProblem{DocumentFailure::BadPage, Text::tr("page %1 has no area").arg(1)};
+            return;
+        }
+        const std::optional<double> width = lengthInPixels(value("width"));
+        const std::optional<double> height = lengthInPixels(value("height"));
+        m_source.keepsShape = !value("preserveAspectRatio").startsWith(QLatin1String("none"));
+        if (width && height)
+            m_source.size = QSizeF(*width, *height);
+        else if (width && box)
+            m_source.size = QSizeF(*width, *width * box->height() / box->width());
+        else if (height && box)
+            m_source.size = QSizeF(*height * box->width() / box->height(), *height);
+        else if (box)
+            m_source.size = box;
+    }
+
+    SvgSource m_source;
+    QXmlStreamReader m_reader;
+    QXmlStreamWriter m_writer;
+    std::optional<DocumentProblem> m_problem;
+    bool m_rootSeen = false;
+    bool m_inStyle = false;
+    int m_level = 0;
+    int m_elements = 0;
+    qint64 m_picturePixels = 0;
+};
+
+} // namespace
+
+Result<SvgSource, DocumentProblem> SvgSource::read(const QByteArray &svg)
+{
+    SvgReader reader(svg);
+    if (const auto problem = reader.read())
+        return *problem;
+    return reader.takeSource();
+}
+
+} // namespace host

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobPage.h"
+
+#include "HoldTime.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QTimeEdit>
+
+namespace dialog {
+
+namespace {
+
+constexpr int highestPriority = 100;
+
+/// The entry that opens the field for a time.
+const QString atATime = QStringLiteral("time");
+
+/// Other words of lp and the server for the same.
+struct Synonym {
+    const char *word;
+    const char *meaning;
+};
+constexpr Synonym synonyms[] = {
+    {"indefinite", "hold"},
+    {"no-hold", "resume"},
+    {"release", "resume"},
+    {"immediate", "resume"},
+};
+
+QString plainHold(const QString &hold)
+{
+    for (const Synonym &synonym : synonyms) {
+        if (hold == QLatin1String(synonym.word))
+            return QLatin1String(synonym.meaning);
+    }
+    return hold;
+}
+
+} // namespace
+
+JobPage::JobPage(QWidget *parent)
+    : QWidget(parent)
+    , m_title(new QLineEdit(this))
+    , m_orientation(new QComboBox(this))
+    , m_hold(new QComboBox(this))
+    , m_time(new QTimeEdit(this))
+    , m_priority(new QSpinBox(this))
+{
+    build();
+    connect(m_title, &QLineEdit::textEdited, this, &JobPage::changed);
+    connect(m_orientation, &QComboBox::activated, this, &JobPage::changed);
+    connect(m_hold, &QComboBox::activated, this, &JobPage::holdChosen);
+    connect(m_time, &QTimeEdit::userTimeChanged, this, &JobPage::changed);
+    connect(m_priority, &QSpinBox::valueChanged, this, &JobPage::changed);
+}
+
+void JobPage::build()
+{
+    // IPP has no longer names.
+    constexpr int longestTitle = 255;
+    m_title->setMaxLength(longestTitle);
+    fillOrientations();
+    fillHolds();
+    m_time->setAccessibleName(tr("Time to print at"));
+    // Qt turns a time around in a right-to-left window, where people do not.
+    m_time->setLayoutDirection(Qt::LeftToRight);
+    m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+    m_time->hide();
+    // 0 stands for the queue's own setting.
+    m_priority->setRange(0, highestPriority);
+    m_priority->setSpecialValueText(tr("As the queue is set"));
+    m_priority->setToolTip(tr("From 1 to 100; jobs with a higher priority are printed before others"));
+
+    auto *const when = new QHBoxLayout;
+    when->addWidget(m_hold, 1);
+    when->addWidget(m_time);
+    auto *const form = new QFormLayout(this);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("Job &name"), m_title);
+    form->addRow(tr("&Orientation"), m_orientation);
+    auto *const whenLabel = new QLabel(tr("P&rint it"), this);
+    whenLabel->setBuddy(m_hold);
+    form->addRow(whenLabel, when);
+    form->addRow(tr("Priorit&y"), m_priority);
+}
+
+void JobPage::fillOrientations()
+{
+    m_orientation->addItem(tr("As the printer is set"));
+    const std::pair<host::Orientation, QString> entries[] = {
+        {host::Orientation::Portrait, tr("Portrait")},
+        {host::Orientation::Landscape, tr("Landscape")},
+        {host::Orientation::ReverseLandscape, tr("Reverse landscape")},
+        {host::Orientation::ReversePortrait, tr("Reverse portrait")},
+    };
+    for (const auto &[orientation, text] : entries)
+        m_orientation->addItem(text, static_cast<int>(orientation));
+}
+
+void JobPage::fillHolds()
+{
+    m_hold->addItem(tr("As the queue is set"));
+    const std::pair<QString, QString> entries[] = {
+        {QStringLiteral("resume"), tr("Now")},
+        {QStringLiteral("hold"), tr("When I release it")},
+        {atATime, tr("At a time")},
+        {QStringLiteral("day-time"), tr("During the day")},
+        {QStringLiteral("evening"), tr("In the evening")},
+        {QStringLiteral("night"), tr("At night")},
+        {QStringLiteral("second-shift"), tr("In the second shift")},
+        {QStringLiteral("third-shift"), tr("In the third shift")},
+        {QStringLiteral("weekend"), tr("At the weekend")},
+    };
+    for (const auto &[hold, text] : entries)
+        m_hold->addItem(text, hold);
+}
+
+void JobPage::setSettings(const host::JobSettings &settings)
+{
+    const QSignalBlocker quiet(this);
+    const int orientation =
+        settings.orientation ? m_orientation->findData(static_cast<int>(*settings.orientation)) : 0;
+    m_orientation->setCurrentIndex(orientation);
+    showHold(settings.hold.value_or(QString()));
+    // lp prints at once what is to be printed "immediate", before all others.
+    const bool isFirst = settings.hold == QStringLiteral("immediate");
+    m_priority->setValue(isFirst ? highestPriority : settings.priority.value_or(0));
+}
+
+void JobPage::showHold(const QString &hold)
+{
+    const std::optional<QTime> time = localTimeFromHold(hold, QDateTime::currentDateTime());
+    if (time)
+        m_time->setTime(*time);
+    m_time->setVisible(time.has_value());
+    const QString entry = time ? atATime : plainHold(hold);
+    int index = entry.isEmpty() ? 0 : m_hold->findData(entry);
+    if (index < 0) {
+        m_hold->addItem(entry, entry);
+        index = m_hold->count() - 1;
+    }
+    m_hold->setCurrentIndex(index);
+}
+
+void JobPage::holdChosen()
+{
+    const bool hasTime = m_hold->currentData().toString() == atATime;
+    if (hasTime && m_time->isHidden()) {
+        // The next full hour is a good beginning.
+        constexpr int secondsPerHour = 3600;
+        const QTime later = QTime::currentTime().addSecs(secondsPerHour);
+        m_time->setTime(QTime(later.hour(), 0));
+    }
+    m_time->setVisible(hasTime);
+    Q_EMIT changed();
+}
+
+std::optional<QString> JobPage::hold() const
+{
+    if (m_hold->currentIndex() <= 0)
+        return std::nullopt;
+    const QString entry = m_hold->currentData().toString();
+    return entry == atATime ? holdFromLocalTime(m_time->time(), QDateTime::currentDateTime()) : entry;
+}
+
+host::JobSettings JobPage::settings() const
+{
+    host::JobSettings settings;
+    if (m_orientation->currentIndex() > 0)
+        settings.orientation = static_cast<host::Orientation>(m_orientation->currentData().toInt());
+    settings.hold = hold();
+    if (m_priority->value() > 0)
+        settings.priority = m_priority->value();
+    return settings;
+}
+
+QString JobPage::title() const
+{
+    return m_title->text();
+}
+
+void JobPage::setTitle(const QString &title)
+{
+    m_title->setText(title);
+    // Names differ at their beginning.
+    m_title->setCursorPosition(0);
+}
+
+} // namespace dialog

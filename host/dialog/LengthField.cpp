@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LengthField.h"
+
+namespace dialog {
+
+LengthField::LengthField(double minimum, double maximum, QWidget *parent)
+    : NumberField(minimum / pointsPer(userLengthUnit()), maximum / pointsPer(userLengthUnit()),
+                  exactDecimals(userLengthUnit()), parent)
+    , m_unit(userLengthUnit())
+    , m_minimum(minimum)
+    , m_maximum(maximum)
+{
+    setSuffix(u' ' + unitText(m_unit));
+    setSingleStep(m_unit == LengthUnit::Inch ? 0.125 : 1.0);
+    // A range narrower than the decimals has turned over.
+    const bool isFixed = this->minimum() >= this->maximum() || maximum <= minimum;
+    setReadOnly(isFixed);
+    setButtonSymbols(isFixed ? NoButtons : UpDownArrows);
+    if (isFixed)
+        setRange(minimum / pointsPer(m_unit), minimum / pointsPer(m_unit));
+}
+
+double LengthField::points() const
+{
+    return isReadOnly() ? m_minimum : qBound(m_minimum, value() * pointsPer(m_unit), m_maximum);
+}
+
+void LengthField::showPoints(double points)
+{
+    showNumber(qBound(minimum(), points / pointsPer(m_unit), maximum()));
+}
+
+} // namespace dialog

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QPushButton>
+
+namespace dialog {
+
+/// A button that looks like a link, for something offered beside the controls.
+class LinkButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit LinkButton(QWidget *parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace dialog

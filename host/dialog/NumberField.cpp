@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "NumberField.h"
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace dialog {
+
+NumberField::NumberField(double minimum, double maximum, int decimals, QWidget *parent)
+    : QDoubleSpinBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setDecimals(decimals);
+    // Rounded to the decimals, a limit must not come to lie outside of what is allowed; except where it was
+    // meant: 28.3465 points are 10 mm.
+    const double scale = std::pow(10.0, decimals);
+    constexpr double noise = 0.2;
+    setRange(std::ceil(minimum * scale - noise) / scale, std::floor(maximum * scale + noise) / scale);
+    setAccelerated(true);
+}
+
+void NumberField::showNumber(double number)
+{
+    const double smallestStep = std::pow(10.0, -decimals());
+    if (std::abs(value() - number) < smallestStep / 2)
+        return;
+    const QSignalBlocker quiet(this);
+    setValue(number);
+}
+
+QString NumberField::textFromValue(double value) const
+{
+    QString text = QDoubleSpinBox::textFromValue(value);
+    const QString point = locale().decimalPoint();
+    if (!text.contains(point))
+        return text;
+    while (text.endsWith(locale().zeroDigit()))
+        text.chop(1);
+    if (text.endsWith(point))
+        text.chop(point.size());
+    return text;
+}
+
+void NumberField::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QDoubleSpinBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+} // namespace dialog

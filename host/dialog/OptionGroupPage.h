@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/PpdOptions.h>
+#include <host/cups/Constraints.h>
+
+#include <QScrollArea>
+
+class QFormLayout;
+
+namespace dialog {
+
+class OptionControl;
+
+/// The controls of one group of options, one below the other. They are made when the page is first shown:
+/// there are PPDs with thousands of choices in groups that hardly anybody opens.
+class OptionGroupPage : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// The options are shown in the given order. The PPD is borrowed.
+    OptionGroupPage(const host::PpdFile &ppd, std::vector<QByteArray> keywords, QWidget *parent);
+
+    bool hasOption(const QByteArray &keyword) const;
+    /// Scrolls to the option's control and gives it the focus. Nothing for an option of another group.
+    void showOption(const QByteArray &keyword);
+    /// Shows what is marked now, quietly.
+    void refresh();
+    /// Shows each conflict at the options that it involves.
+    void setConflicts(const std::vector<host::Conflict> &conflicts);
+    /// The sentences about options of this group.
+    QStringList conflictSentences() const;
+
+Q_SIGNALS:
+    /// The user chose this, as a job carries it.
+    void chosen(const QByteArray &keyword, const QByteArray &value);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void build();
+    void addControl(QFormLayout *form, const host::PpdOption &option);
+    QStringList sentencesAbout(const QByteArray &keyword) const;
+    void showConflicts();
+
+    const host::PpdFile &m_ppd;
+    std::vector<QByteArray> m_keywords;
+    std::vector<OptionControl *> m_controls;
+    std::vector<host::Conflict> m_conflicts;
+    bool m_isBuilt = false;
+};
+
+} // namespace dialog
