@@ -108,7 +108,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
     QApplication::processEvents();
-    if (!saveScreenshot(dialog.grab().toImage()))
+    if (!saveScreenshot(dialog))
         return ExitStatus::Failed;
     if (m_command.task == Task::Summary) {
         tellSummary(dialog.summary());
@@ -151,7 +151,7 @@ ExitStatus PrintRun::runOnQueue()
     dialog.show();
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
-    if (!saveScreenshot(dialog.grab().toImage()))
+    if (!saveScreenshot(dialog))
         return ExitStatus::Failed;
     if (dialog.exec() != QDialog::Accepted)
         return ExitStatus::Cancelled;
@@ -177,14 +177,15 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
     return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 
-bool PrintRun::saveScreenshot(const QImage &picture)
+bool PrintRun::saveScreenshot(PrintDialog &dialog)
 {
     if (!m_command.screenshot)
         return true;
     const QFileInfo target(*m_command.screenshot);
     host::OutputFiles files(target.path());
-    files.write(target.fileName(),
-                [&](QIODevice *device) { return QImageWriter(device, "png").write(picture); });
+    files.write(target.fileName(), [&](QIODevice *device) {
+        return QImageWriter(device, "png").write(dialog.grab().toImage());
+    });
     const std::optional<host::OutputError> error = files.commit();
     if (error)
         m_console.complain(error->message);
