@@ -216,7 +216,7 @@
     </message>
     <message>
         <source>&amp;What will be sent</source>
-        <translation>Was gesendet &amp;wird</translation>
+        <translation>Z&amp;u senden</translation>
     </message>
     <message>
         <source>&amp;Options</source>

@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Page pre&amp;view</source>
-        <translation>ページのプレビュー(&amp;V)</translation>
+        <translation>プレビュー(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Summary</source>

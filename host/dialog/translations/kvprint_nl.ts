@@ -400,7 +400,7 @@
     </message>
     <message>
         <source>all, or for example 1-3, 5</source>
-        <translation>alle, of bijvoorbeeld 1-3, 5</translation>
+        <translation>alle, of bijv. 1-3, 5</translation>
     </message>
     <message>
         <source>&amp;Copies</source>

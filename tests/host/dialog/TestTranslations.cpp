@@ -121,10 +121,10 @@ void expectLetterKeysOnlyOnce(const std::vector<LabelledText> &texts, const std:
             taken[key] = text;
         }
     }
-    for (const auto &[context, text] : texts) {
-        const auto holds = [&](const QStringList &screen) { return screen.contains(context); };
-        EXPECT_TRUE(letterKey(text).isEmpty() || std::ranges::any_of(screens(), holds))
-            << "Which window is " << context.toStdString() << " part of?";
+    for (const LabelledText &each : texts) {
+        const auto holds = [&](const QStringList &screen) { return screen.contains(each.context); };
+        EXPECT_TRUE(letterKey(each.text).isEmpty() || std::ranges::any_of(screens(), holds))
+            << "Which window is " << each.context.toStdString() << " part of?";
     }
 }
 
