@@ -6,14 +6,11 @@
 #include "JobWindow.h"
 #include "PasswordDialog.h"
 #include "QueueSender.h"
+#include "Screenshot.h"
 #include "ServerRun.h"
 #include "VirtualSender.h"
 
-#include <host/OutputFiles.h>
-
 #include <QApplication>
-#include <QFileInfo>
-#include <QImageWriter>
 #include <QJsonDocument>
 #include <QTimer>
 #include <QWindow>
@@ -124,7 +121,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
     QApplication::processEvents();
-    if (!saveScreenshot(dialog))
+    if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (m_command.task == Task::Summary) {
         tellSummary(dialog.summary());
@@ -155,7 +152,7 @@ ExitStatus PrintRun::runOnQueue()
         return ExitStatus::Failed;
     host::CupsServer server = cupsServer(m_command);
     if (m_command.noDialog || m_command.task != Task::Print)
-        return HeadlessRun(m_command, m_console, server, *document).run();
+        return HeadlessRun(m_command, m_console, server, std::move(document)).run();
 
     PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
@@ -168,7 +165,7 @@ ExitStatus PrintRun::runOnQueue()
     waitForPainting(dialog);
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
-    if (!saveScreenshot(dialog))
+    if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (dialog.exec() != QDialog::Accepted)
         return ExitStatus::Cancelled;
@@ -194,16 +191,9 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
     return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 
-bool PrintRun::saveScreenshot(PrintDialog &dialog)
+bool PrintRun::takeScreenshot(PrintDialog &dialog)
 {
-    if (!m_command.screenshot)
-        return true;
-    const QFileInfo target(*m_command.screenshot);
-    host::OutputFiles files(target.path());
-    files.write(target.fileName(), [&](QIODevice *device) {
-        return QImageWriter(device, "png").write(dialog.grab().toImage());
-    });
-    const std::optional<host::OutputError> error = files.commit();
+    const auto error = m_command.screenshot ? saveScreenshot(dialog, *m_command.screenshot) : std::nullopt;
     if (error)
         m_console.complain(error->message);
     return !error;

@@ -31,7 +31,7 @@ SentPage::SentPage(QWidget *parent)
     m_line->setReadOnly(true);
     auto *const label = new QLabel(tr("&The same job on the command line"), this);
     label->setBuddy(m_line);
-    auto *const copy = new QPushButton(tr("C&opy"), this);
+    auto *const copy = new QPushButton(tr("Cop&y"), this);
     copy->setAutoDefault(false);
     copy->setAccessibleName(tr("Copy the command"));
     m_differences->setWordWrap(true);
