@@ -55,12 +55,14 @@ Measurer::Measurer(WindowWatch &watch, QByteArray display, QString folder)
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-QList<QByteArray> Measurer::environment(const QByteArray &server, const QString &cache) const
+QList<QByteArray> Measurer::environment(const QByteArray &server, bool hasEmptyCache) const
 {
+    if (hasEmptyCache)
+        QDir(emptyCacheFolder()).removeRecursively();
     const QByteArray folder = QFile::encodeName(m_folder);
     return {"PATH=" + qgetenv("PATH"),
             "HOME=" + folder,
-            "XDG_CACHE_HOME=" + QFile::encodeName(cache),
+            "XDG_CACHE_HOME=" + QFile::encodeName(hasEmptyCache ? emptyCacheFolder() : cacheFolder()),
             "XDG_CONFIG_HOME=" + folder + "/config",
             "XDG_RUNTIME_DIR=" + folder + "/runtime",
             "DISPLAY=" + m_display,
@@ -74,9 +76,8 @@ void Measurer::run(Measurement &measurement, bool isWarmUp)
 {
     if (!m_watch.waitForEmptyScreen(Clock::now() + screenPatience))
         qFatal("a window does not go away");
-    const QString cache = measurement.hasEmptyCache ? emptyCacheFolder() : cacheFolder();
-    QDir(emptyCacheFolder()).removeRecursively();
-    const Opening opening(measurement.command, environment(measurement.server, cache), output());
+    const Opening opening(measurement.command, environment(measurement.server, measurement.hasEmptyCache),
+                          output());
     const auto first = m_watch.waitForPainting(opening.start() + measurement.patience, hasContent);
     if (isWarmUp)
         return;
@@ -84,6 +85,7 @@ void Measurer::run(Measurement &measurement, bool isWarmUp)
         ++measurement.withoutWindow;
         return;
     }
+    measurement.busy.push_back(opening.processorTime());
     measurement.painted.push_back(milliseconds(first->time - opening.start()));
     if (!measurement.complete.isNull())
         notePanel(measurement, *first, opening.start());
@@ -108,10 +110,10 @@ void Measurer::notePanel(Measurement &measurement, const WindowWatch::Painting &
         ++measurement.withoutPanel;
 }
 
-QImage Measurer::settledPicture(const QStringList &command, const QByteArray &server)
+QImage Measurer::settledPicture(const QStringList &command, const QByteArray &server, bool hasEmptyCache)
 {
     m_watch.waitForEmptyScreen(Clock::now() + screenPatience);
-    const Opening opening(command, environment(server, cacheFolder()), output());
+    const Opening opening(command, environment(server, hasEmptyCache), output());
     if (!m_watch.waitForPainting(opening.start() + screenPatience, hasContent))
         return {};
     std::this_thread::sleep_for(settlingTime);
@@ -130,7 +132,7 @@ bool Measurer::fillCache(const QStringList &command, const QByteArray &server)
         return result;
     };
     const int ppds = count("*.ppd");
-    const Opening opening(command, environment(server, cacheFolder()), output());
+    const Opening opening(command, environment(server, false), output());
     while (count("*.ppd") == ppds) {
         if (Clock::now() > opening.start() + screenPatience)
             return false;

@@ -34,6 +34,8 @@ struct Measurement {
     std::vector<double> painted;
     /// To the first painting with the panel.
     std::vector<double> panelPainted;
+    /// Milliseconds that the main thread has kept a processor busy until then.
+    std::vector<double> busy;
     /// The program's peak memory in MiB, a moment after the first painting.
     std::vector<double> memory;
     /// Runs that have shown no window, and no panel, within the patience.
@@ -55,15 +57,16 @@ public:
     /// One run; the result is added unless the run is to warm up.
     void run(Measurement &measurement, bool isWarmUp);
     /// Opens the program and answers its window when it has been left alone for a while; a null image
-    /// when there was no window.
-    QImage settledPicture(const QStringList &command, const QByteArray &server);
+    /// when there was no window. With the cache of earlier openings or without.
+    QImage settledPicture(const QStringList &command, const QByteArray &server, bool hasEmptyCache = false);
     /// Opens the program until it keeps files of both the queues and the queue's PPD; false if it does not.
     bool fillCache(const QStringList &command, const QByteArray &server);
 
 private:
     QString cacheFolder() const { return m_folder + QStringLiteral("/cache"); }
     QString emptyCacheFolder() const { return m_folder + QStringLiteral("/empty-cache"); }
-    QList<QByteArray> environment(const QByteArray &server, const QString &cache) const;
+    /// Without the cache, what the last program without it has kept is thrown away.
+    QList<QByteArray> environment(const QByteArray &server, bool hasEmptyCache) const;
     QString output() const { return m_folder + QStringLiteral("/output"); }
     void notePanel(Measurement &measurement, const WindowWatch::Painting &first, Clock::time_point start);
 

@@ -58,16 +58,24 @@ Opening::~Opening()
     }
 }
 
+QByteArray Opening::readStatus(const char *name) const
+{
+    QFile file(QStringLiteral("/proc/%1/%2").arg(QString::number(m_process), QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 qint64 Opening::peakMemory() const
 {
-    QFile status(QStringLiteral("/proc/%1/status").arg(m_process));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
+    for (const QByteArray &line : readStatus("status").split('\n')) {
         if (line.startsWith("VmHWM:"))
             return line.simplified().split(' ').value(1).toLongLong();
     }
     return 0;
+}
+
+double Opening::processorTime() const
+{
+    return readStatus("schedstat").split(' ').first().toDouble() / 1e6;
 }
 
 } // namespace bench

@@ -25,7 +25,13 @@ public:
     /// program's own: that of wait4() would count the bench's memory too, as the child has it before exec.
     qint64 peakMemory() const;
 
+    /// Milliseconds that the program's main thread has kept a processor busy so far; hardly changed by what
+    /// else the machine does.
+    double processorTime() const;
+
 private:
+    QByteArray readStatus(const char *name) const;
+
     Clock::time_point m_start;
     pid_t m_process = -1;
 };

@@ -31,7 +31,8 @@ QByteArray row(const Measurement &measurement)
                       cell(QByteArray::number(static_cast<qulonglong>(runs)), 4);
     for (const double share : {0.5, 0.0, 0.95})
         text += cell(number(measurement.painted, share), 8);
-    text += cell(number(measurement.panelPainted, 0.5), 8) + cell(number(measurement.memory, 0.5), 7);
+    text += cell(number(measurement.panelPainted, 0.5), 8) + cell(number(measurement.busy, 0.5), 7) +
+            cell(number(measurement.memory, 0.5), 7);
     if (measurement.withoutWindow > 0)
         text += QByteArray::number(measurement.withoutWindow) + " without a window in " +
                 QByteArray::number(static_cast<qlonglong>(measurement.patience.count())) + " ms";
@@ -57,6 +58,7 @@ QJsonObject object(const Measurement &measurement)
             {QStringLiteral("medianPeakMiB"), median(measurement.memory)},
             {QStringLiteral("paintedMs"), array(measurement.painted)},
             {QStringLiteral("panelPaintedMs"), array(measurement.panelPainted)},
+            {QStringLiteral("busyMs"), array(measurement.busy)},
             {QStringLiteral("peakMiB"), array(measurement.memory)},
             {QStringLiteral("runsWithoutWindow"), measurement.withoutWindow},
             {QStringLiteral("runsWithoutPanel"), measurement.withoutPanel}};
@@ -110,7 +112,7 @@ QByteArray Report::table() const
 {
     QByteArray text =
         "milliseconds from the program's start to its first painted window; peak memory in MiB\n\n"
-        "program  server              queues  runs    median       min       95%     panel"
+        "program  server              queues  runs    median       min       95%     panel     busy"
         "   memory\n";
     for (const Measurement &measurement : m_measurements)
         text += row(measurement);

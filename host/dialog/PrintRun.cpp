@@ -12,6 +12,8 @@
 
 #include <QApplication>
 #include <QJsonDocument>
+#include <QTimer>
+#include <QWindow>
 
 namespace dialog {
 
@@ -31,6 +33,20 @@ QString paperNames(const host::PpdFile &ppd)
     if (names.size() > most)
         names = names.first(most) << QStringLiteral("…");
     return names.join(QStringLiteral(", "));
+}
+
+/// Lets the window appear before anything else is begun, which would take processors and memory from it.
+void waitForPainting(const QWidget &window)
+{
+    // Some desktops show no window before it is wanted, on another workspace for instance.
+    constexpr std::chrono::milliseconds longest{200};
+    bool isLate = false;
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [&] { isLate = true; });
+    timer.start(longest);
+    while (!isLate && window.isVisible() && !window.windowHandle()->isExposed())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 } // namespace
@@ -146,6 +162,7 @@ ExitStatus PrintRun::runOnQueue()
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
     window = &dialog;
     dialog.show();
+    waitForPainting(dialog);
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
     if (!takeScreenshot(dialog))
