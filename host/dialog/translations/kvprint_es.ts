@@ -156,7 +156,7 @@
         <translation>Largo del papel</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
+        <source>Wi&amp;dth</source>
         <translation>Anc&amp;ho</translation>
     </message>
     <message>
@@ -277,11 +277,11 @@
         <translation>&amp;Nombre del trabajo</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
+        <source>Orienta&amp;tion</source>
         <translation>Orien&amp;tación</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
+        <source>Pr&amp;int it</source>
         <translation>C&amp;uándo imprimir</translation>
     </message>
     <message>
@@ -611,7 +611,7 @@
         <translation>El mismo tra&amp;bajo en la línea de órdenes</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
+        <source>Cop&amp;y</source>
         <translation>Co&amp;piar</translation>
     </message>
     <message>

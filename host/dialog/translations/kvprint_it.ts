@@ -157,7 +157,7 @@
         <translation>Lunghezza della carta</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
+        <source>Wi&amp;dth</source>
         <translation>&amp;Larghezza</translation>
     </message>
     <message>
@@ -278,11 +278,11 @@
         <translation>No&amp;me del lavoro</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
+        <source>Orienta&amp;tion</source>
         <translation>Ori&amp;entamento</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
+        <source>Pr&amp;int it</source>
         <translation>&amp;Quando stampare</translation>
     </message>
     <message>
@@ -612,7 +612,7 @@
         <translation>Lo s&amp;tesso lavoro da riga di comando</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
+        <source>Cop&amp;y</source>
         <translation>Cop&amp;ia</translation>
     </message>
     <message>

@@ -156,7 +156,7 @@
         <translation>Comprimento do papel</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
+        <source>Wi&amp;dth</source>
         <translation>&amp;Largura</translation>
     </message>
     <message>
@@ -277,11 +277,11 @@
         <translation>Nome do trabal&amp;ho</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
+        <source>Orienta&amp;tion</source>
         <translation>Orie&amp;ntação</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
+        <source>Pr&amp;int it</source>
         <translation>&amp;Quando imprimir</translation>
     </message>
     <message>
@@ -611,7 +611,7 @@
         <translation>O mesmo trabalho na li&amp;nha de comandos</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
+        <source>Cop&amp;y</source>
         <translation>Co&amp;piar</translation>
     </message>
     <message>

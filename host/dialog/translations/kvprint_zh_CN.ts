@@ -156,7 +156,7 @@
         <translation>纸张长度</translation>
     </message>
     <message>
-        <source>&amp;Width</source>
+        <source>Wi&amp;dth</source>
         <translation>宽度(&amp;W)</translation>
     </message>
     <message>
@@ -276,11 +276,11 @@
         <translation>作业名称(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Orientation</source>
+        <source>Orienta&amp;tion</source>
         <translation>方向(&amp;I)</translation>
     </message>
     <message>
-        <source>P&amp;rint it</source>
+        <source>Pr&amp;int it</source>
         <translation>打印时间(&amp;T)</translation>
     </message>
     <message>
@@ -610,7 +610,7 @@
         <translation>命令行中的同一作业(&amp;T)</translation>
     </message>
     <message>
-        <source>C&amp;opy</source>
+        <source>Cop&amp;y</source>
         <translation>复制(&amp;Y)</translation>
     </message>
     <message>
