@@ -87,33 +87,22 @@ int CupsConnection::mayWaitOn(http_t *, void *data)
 {
     State &state = *static_cast<State *>(data);
     state.wasSilent = state.silence.hasExpired(state.server.patience.count());
-    return !state.wasSilent && !state.task->isCancelled();
+    return !state.wasSilent && (state.finishesFirst || !state.task->isCancelled());
 }
 
 const char *CupsConnection::password(const char *prompt, http_t *, const char *, const char *, void *data)
 {
     State &state = *static_cast<State *>(data);
-    const auto use = [&](const PasswordRequest::Credentials &credentials) {
-        // libcups keeps no copy.
-        state.credentials = credentials;
-        cupsSetUser(state.credentials.user.constData());
-        state.silence.start();
-        return state.credentials.password.constData();
-    };
-    const std::optional<PasswordRequest::Credentials> known = state.server.passwords->recall();
-    if (known && !std::exchange(state.triedMemory, true))
-        return use(*known);
-    if (!state.server.askPassword || state.wasRefused)
-        return nullptr;
     const PasswordRequest request(QString::fromUtf8(prompt), QString::fromUtf8(cupsUser()));
-    state.task->deliver([ask = state.server.askPassword, request] { ask(request); });
-    const std::optional<PasswordRequest::Credentials> answer = request.wait(*state.task);
-    state.wasRefused = !answer;
+    const std::optional<PasswordRequest::Credentials> answer =
+        state.server.passwords->get(request, *state.task, state.server.askPassword, state.triedPasswords);
     if (!answer)
         return nullptr;
-    state.triedMemory = true;
-    state.server.passwords->keep(*answer);
-    return use(*answer);
+    // libcups keeps no copy.
+    state.credentials = *answer;
+    cupsSetUser(state.credentials.user.constData());
+    state.silence.start();
+    return state.credentials.password.constData();
 }
 
 CupsError CupsConnection::lastError() const
@@ -168,6 +157,14 @@ Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const
     IppPointer answer(cupsDoRequest(m_http.get(), request.release(), resource.constData()));
     if (const std::optional<CupsError> error = checkAnswer(answer.get()))
         return *error;
+    return answer;
+}
+
+Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer request, const QByteArray &resource)
+{
+    m_state->finishesFirst = true;
+    Result<IppPointer, CupsError> answer = exchange(std::move(request), resource);
+    m_state->finishesFirst = false;
     return answer;
 }
 

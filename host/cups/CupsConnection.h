@@ -38,6 +38,10 @@ public:
     /// server said.
     Result<IppPointer, CupsError> exchange(IppPointer request, const QByteArray &resource);
 
+    /// The same for a request that makes something on the server: it is not given up when the task is
+    /// cancelled, since only the answer tells what there is to be taken back.
+    Result<IppPointer, CupsError> exchangeToTheEnd(IppPointer request, const QByteArray &resource);
+
     /// Fetches a file of the server into memory. Not more than that many bytes; what is longer is refused.
     /// Nothing when it has not changed since the date and length, as they stand in a "If-Modified-Since"
     /// field.
@@ -67,8 +71,9 @@ private:
         BackgroundTask *task = nullptr;
         QElapsedTimer silence;
         bool wasSilent = false;
-        bool triedMemory = false;
-        bool wasRefused = false;
+        /// What is on its way is waited for even when the task is cancelled.
+        bool finishesFirst = false;
+        int triedPasswords = 0;
         PasswordRequest::Credentials credentials;
     };
 

@@ -65,6 +65,7 @@ QCborMap Destination::toCbor() const
         map.insert(key(name), pairs);
     }
     map.insert(QStringLiteral("state"), static_cast<int>(state));
+    map.insert(QStringLiteral("configured"), configured);
     if (instance)
         map.insert(QStringLiteral("instance"), *instance);
     return map;
@@ -89,6 +90,7 @@ std::optional<Destination> Destination::fromCbor(const QCborMap &map)
     const qint64 state = map.value(QStringLiteral("state")).toInteger();
     if (state >= static_cast<int>(QueueState::Ready) && state <= static_cast<int>(QueueState::Paused))
         destination.state = static_cast<QueueState>(state);
+    destination.configured = map.value(QStringLiteral("configured")).toInteger();
     const QCborValue instance = map.value(QStringLiteral("instance"));
     if (instance.isString())
         destination.instance = instance.toString();

@@ -45,6 +45,9 @@ struct Destination {
     /// Where jobs go that name no destination.
     bool isDefault = false;
     bool acceptsJobs = true;
+    /// When the administrator changed the queue last, its PPD included, in seconds of the server's own clock;
+    /// 0 when the server does not tell.
+    qint64 configured = 0;
 
     QueueState state = QueueState::Unknown;
     /// IPP's keywords, "media-empty-error"; never "none".

@@ -11,10 +11,20 @@ namespace host {
 namespace {
 
 constexpr std::array requestedAttributes = {
-    "device-uri",         "member-names",          "printer-defaults",          "printer-info",
-    "printer-location",   "printer-name",          "printer-is-accepting-jobs", "printer-make-and-model",
-    "printer-state",      "printer-state-message", "printer-state-reasons",     "printer-type",
+    "device-uri",
+    "member-names",
+    "printer-defaults",
+    "printer-info",
+    "printer-location",
+    "printer-name",
+    "printer-is-accepting-jobs",
+    "printer-make-and-model",
+    "printer-state",
+    "printer-state-message",
+    "printer-state-reasons",
+    "printer-type",
     "job-sheets-default",
+    "printer-config-change-time",
 };
 
 constexpr std::pair<const char *, QString Destination::*> textAttributes[] = {
@@ -64,6 +74,8 @@ void takeAttribute(Destination &destination, ipp_attribute_t *attribute)
         takeType(destination, ippGetInteger(attribute, 0));
     else if (name == "printer-state")
         destination.state = static_cast<QueueState>(std::clamp(ippGetInteger(attribute, 0), 3, 5));
+    else if (name == "printer-config-change-time")
+        destination.configured = ippGetInteger(attribute, 0);
     else if (name == "printer-is-accepting-jobs")
         destination.acceptsJobs = ippGetBoolean(attribute, 0) != 0;
     else if (name.endsWith("-default"))

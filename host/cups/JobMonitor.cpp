@@ -36,6 +36,7 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
 
 void JobMonitor::cancelJob()
 {
+    m_server.passwords->forgetRefusal();
     m_background.start([this, server = m_server, queue = m_queue, jobId = m_jobId](BackgroundTask &task) {
         if (const std::optional<CupsError> error = host::cancelJob(server, queue, jobId, task))
             task.deliver([this, error = *error] { Q_EMIT failed(error); });

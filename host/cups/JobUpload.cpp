@@ -32,7 +32,7 @@ public:
                      m_ticket.title.toUtf8().constData());
         encodeJobOptions(request.get(), m_ticket.options);
         const Result<IppPointer, CupsError> answer =
-            m_connection.exchange(std::move(request), queueResource(m_ticket.destination.queue));
+            m_connection.exchangeToTheEnd(std::move(request), queueResource(m_ticket.destination.queue));
         if (!answer)
             return answer.error();
         m_jobId = ippGetInteger(ippFindAttribute(answer.value().get(), "job-id", IPP_TAG_INTEGER), 0);
@@ -64,6 +64,8 @@ private:
         const QByteArray resource = queueResource(m_ticket.destination.queue);
         const QByteArray name = QFileInfo(document.shownName()).fileName().toUtf8();
         const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
+        if (m_task.isCancelled())
+            return m_connection.lastError();
         m_connection.beginWaiting();
         http_status_t status = cupsStartDocument(m_connection.http(), queue.constData(), m_jobId,
                                                  name.constData(), format.constData(), isLast ? 1 : 0);
@@ -146,6 +148,8 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         return connection.error();
     if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination))
         return *error;
+    if (task.isCancelled())
+        return connection.value().lastError();
     Upload upload(connection.value(), ticket, task);
     Result<int, CupsError> job = upload.createJob();
     if (!job)

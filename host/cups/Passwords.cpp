@@ -40,16 +40,46 @@ std::optional<PasswordRequest::Credentials> PasswordRequest::wait(const Backgrou
     return m_reply->credentials;
 }
 
-std::optional<PasswordRequest::Credentials> PasswordMemory::recall() const
+bool PasswordMemory::waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task)
 {
-    const std::scoped_lock lock(m_mutex);
-    return m_credentials;
+    while (m_isAsking && !task.isCancelled())
+        m_answered.wait_for(lock, std::chrono::milliseconds(100));
+    return !task.isCancelled();
 }
 
-void PasswordMemory::keep(const PasswordRequest::Credentials &credentials)
+std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRequest &request,
+                                                                const BackgroundTask &task,
+                                                                const PasswordHandler &ask, int &tried)
+{
+    std::unique_lock lock(m_mutex);
+    if (!waitForTurn(lock, task))
+        return std::nullopt;
+    if (m_count > tried) {
+        tried = m_count;
+        return m_credentials;
+    }
+    if (m_isRefused || !ask)
+        return std::nullopt;
+    m_isAsking = true;
+    lock.unlock();
+    task.deliver([ask, request] { ask(request); });
+    const std::optional<PasswordRequest::Credentials> answer = request.wait(task);
+    lock.lock();
+    m_isAsking = false;
+    // A task that is cancelled has not been refused anything.
+    m_isRefused = !answer && !task.isCancelled();
+    if (answer) {
+        m_credentials = answer;
+        tried = ++m_count;
+    }
+    m_answered.notify_all();
+    return answer;
+}
+
+void PasswordMemory::forgetRefusal()
 {
     const std::scoped_lock lock(m_mutex);
-    m_credentials = credentials;
+    m_isRefused = false;
 }
 
 } // namespace host

@@ -55,15 +55,30 @@ private:
 /// Shows the wish to the user and sees that it is answered or refused, now or later.
 using PasswordHandler = std::function<void(const PasswordRequest &)>;
 
-/// The password that a server took last, for the rest of the program's life. Safe to share by threads.
+/// What the user has answered to a server's wishes for a password, for the rest of the program's life.
+/// Several threads talk to a server at once; they share the memory, and the user is asked by one of them at a
+/// time.
 class PasswordMemory {
 public:
-    std::optional<PasswordRequest::Credentials> recall() const;
-    void keep(const PasswordRequest::Credentials &credentials);
+    /// The answer to the request, which ask puts to the user; nothing when the user refuses or has refused.
+    /// While another thread asks, that one's answer is waited for and taken. Answers that the thread has
+    /// tried in vain are not taken again; tried counts them and is 0 at first.
+    std::optional<PasswordRequest::Credentials>
+    get(const PasswordRequest &request, const BackgroundTask &task, const PasswordHandler &ask, int &tried);
+    /// The user wants something of the server anew, and may be asked again after having refused.
+    void forgetRefusal();
 
 private:
-    mutable std::mutex m_mutex;
+    bool waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task);
+
+    std::mutex m_mutex;
+    std::condition_variable m_answered;
+    /// Given last; it may be wrong.
     std::optional<PasswordRequest::Credentials> m_credentials;
+    /// How many passwords were given so far.
+    int m_count = 0;
+    bool m_isAsking = false;
+    bool m_isRefused = false;
 };
 
 } // namespace host

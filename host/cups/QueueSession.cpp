@@ -4,6 +4,7 @@
 #include "LpOptions.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace host {
 
@@ -12,6 +13,14 @@ namespace {
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(host::QueueSession)
 };
+
+/// After which a server that could not be asked is asked again.
+constexpr std::chrono::seconds retryInterval{3};
+
+bool isOutOfReach(const CupsError &error)
+{
+    return error.kind == CupsFailure::Unreachable || error.kind == CupsFailure::Silent;
+}
 
 } // namespace
 
@@ -28,12 +37,8 @@ QueueSession::QueueSession(CupsServer server, std::optional<QString> wanted, QOb
         chooseWanted();
         Q_EMIT destinationsChanged();
     });
-    connect(&m_destinations, &DestinationList::refreshed, this, &QueueSession::settle);
-    connect(&m_destinations, &DestinationList::failed, this, [this](const CupsError &error) {
-        m_isSettled = true;
-        Q_EMIT failed(error);
-        Q_EMIT settled();
-    });
+    connect(&m_destinations, &DestinationList::refreshed, this, &QueueSession::takeList);
+    connect(&m_destinations, &DestinationList::failed, this, &QueueSession::listFailed);
     connect(&m_loader, &PpdLoader::loaded, this,
             [this](const QString &, const std::shared_ptr<PpdFile> &ppd) {
                 m_ppd.emplace(std::move(*ppd));
@@ -46,7 +51,7 @@ QueueSession::QueueSession(CupsServer server, std::optional<QString> wanted, QOb
     });
     connect(&m_loader, &PpdLoader::failed, this, [this](const QString &, const CupsError &error) {
         setKnowledge(PpdKnowledge::Failed, error);
-        Q_EMIT failed(error);
+        tell(error);
     });
     chooseWanted();
 }
@@ -55,6 +60,7 @@ void QueueSession::start(Discovery discovery)
 {
     m_hasStarted = true;
     m_isSettled = false;
+    m_server.passwords->forgetRefusal();
     m_destinations.refresh(discovery);
     if (m_chosen)
         setChosen(*m_chosen);
@@ -71,6 +77,7 @@ void QueueSession::choose(const QString &name)
     if (!found)
         return;
     m_userHasChosen = true;
+    m_server.passwords->forgetRefusal();
     if (!m_chosen || m_chosen->name() != found->name())
         setChosen(*found);
 }
@@ -89,6 +96,45 @@ void QueueSession::chooseWanted()
         m_wanted ? m_destinations.find(*m_wanted) : m_destinations.defaultDestination();
     if (found && (!m_chosen || m_chosen->name() != found->name()))
         setChosen(*found);
+}
+
+bool QueueSession::mayLackPpd() const
+{
+    return m_ppdError && isOutOfReach(*m_ppdError);
+}
+
+void QueueSession::tell(const CupsError &error)
+{
+    m_isOutOfReach = m_isOutOfReach || isOutOfReach(error);
+    Q_EMIT failed(error);
+}
+
+void QueueSession::listFailed(const CupsError &error)
+{
+    m_isSettled = true;
+    tell(error);
+    Q_EMIT settled();
+    // A chosen queue is asked for its state all the time, which tells when the server is back.
+    if (!m_chosen && isOutOfReach(error))
+        QTimer::singleShot(retryInterval, this, [this] { m_destinations.refresh(); });
+}
+
+void QueueSession::recover()
+{
+    if (!std::exchange(m_isOutOfReach, false))
+        return;
+    if (m_destinations.isStale())
+        m_destinations.refresh();
+    if (mayLackPpd())
+        m_loader.load(*m_chosen);
+    Q_EMIT recovered();
+}
+
+void QueueSession::takeList()
+{
+    settle();
+    if (!m_chosen && std::exchange(m_isOutOfReach, false))
+        Q_EMIT recovered();
 }
 
 void QueueSession::settle()
@@ -115,8 +161,13 @@ void QueueSession::takeState(const Destination &destination)
         return;
     const bool hasOtherDefaults = m_chosen->queueOptions != destination.queueOptions ||
                                   m_chosen->userOptions != destination.userOptions;
+    const bool isReconfigured = m_chosen->configured != destination.configured;
     m_chosen = destination;
     Q_EMIT stateChanged();
+    // While it is being asked for anyway, the answer has whatever the administrator has changed.
+    const bool isAskedFor = m_knowledge == PpdKnowledge::Asked || m_knowledge == PpdKnowledge::Cached;
+    if (isReconfigured && m_hasStarted && !isAskedFor)
+        m_loader.load(destination);
     if (!hasOtherDefaults)
         return;
     // What a job has without any choice is marked in the PPD, so the marks begin anew.
@@ -131,6 +182,7 @@ void QueueSession::takeNews(Destination news)
     news.isDefault = m_chosen->isDefault;
     news.isDiscovered = m_chosen->isDiscovered;
     takeState(news);
+    recover();
 }
 
 void QueueSession::setChosen(const Destination &destination)
@@ -147,7 +199,7 @@ void QueueSession::setChosen(const Destination &destination)
         m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
         connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
         connect(m_monitor.get(), &QueueMonitor::failed, this, [this](const CupsError &error) {
-            Q_EMIT failed(error.kind == CupsFailure::NotFound ? noSuchDestination() : error);
+            tell(error.kind == CupsFailure::NotFound ? noSuchDestination() : error);
         });
     }
     if (isAnother)

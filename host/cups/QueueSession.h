@@ -67,12 +67,19 @@ Q_SIGNALS:
     /// The server cannot be asked, or has no such destination or queue; the message says why. What is known
     /// stays.
     void failed(const host::CupsError &error);
+    /// The server answers again after it could not be asked.
+    void recovered();
 
 private:
+    void takeList();
+    void listFailed(const CupsError &error);
+    void tell(const CupsError &error);
     void chooseWanted();
     void setChosen(const Destination &destination);
     void takeState(const Destination &destination);
     void takeNews(Destination news);
+    void recover();
+    bool mayLackPpd() const;
     void settle();
     void setKnowledge(PpdKnowledge knowledge, const std::optional<CupsError> &error = std::nullopt);
     CupsError noSuchDestination() const;
@@ -90,6 +97,8 @@ private:
     bool m_hasStarted = false;
     bool m_isSettled = false;
     bool m_userHasChosen = false;
+    /// The server could not be asked the last time.
+    bool m_isOutOfReach = false;
 };
 
 } // namespace host

@@ -115,8 +115,9 @@ QString DestinationChooser::stateText() const
 {
     const bool isFromLastTime = m_session.destinations().isStale();
     if (!m_session.chosen())
-        return m_session.isSettled() ? tr("There is no such printer.")
-                                     : tr("Waiting for the print server's answer…");
+        return !m_session.isSettled() ? tr("Waiting for the print server's answer…")
+               : isFromLastTime       ? tr("The print server does not answer.")
+                                      : tr("There is no such printer.");
     const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
     if (isFromLastTime && !m_session.isSettled())
         return tr("Last time: %1").arg(sentences);

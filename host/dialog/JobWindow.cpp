@@ -41,8 +41,12 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
         m_monitor.cancelJob();
     });
     connect(&m_monitor, &host::JobMonitor::changed, this, &JobWindow::showStatus);
-    connect(&m_monitor, &host::JobMonitor::failed, this,
-            [this](const host::CupsError &error) { m_words->setText(error.message); });
+    connect(&m_monitor, &host::JobMonitor::failed, this, [this](const host::CupsError &error) {
+        m_words->setText(error.message);
+        m_words->setAccessibleName(error.message);
+        // A job that could not be taken back may still be, unless the server knows of none.
+        m_cancel->setEnabled(error.kind != host::CupsFailure::NotFound);
+    });
 }
 
 void JobWindow::showStatus(const host::JobStatus &status)

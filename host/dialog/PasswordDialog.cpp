@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PasswordDialog.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -46,7 +47,9 @@ void PasswordDialog::done(int result)
 host::PasswordHandler askWithDialog(QWidget *parent)
 {
     return [window = QPointer<QWidget>(parent)](const host::PasswordRequest &request) {
-        auto *const question = new PasswordDialog(request, window);
+        // A window that blocks all others must not block this one.
+        QWidget *const blocking = QApplication::activeModalWidget();
+        auto *const question = new PasswordDialog(request, blocking ? blocking : window.data());
         question->setWindowModality(Qt::WindowModal);
         question->show();
     };

@@ -25,7 +25,7 @@ private:
     QLineEdit *m_password;
 };
 
-/// Shows a dialog for every request; while one is open, the others wait for their turn by themselves.
+/// Shows a dialog for every request, in front of the parent or whatever window blocks that.
 host::PasswordHandler askWithDialog(QWidget *parent);
 
 } // namespace dialog

@@ -131,8 +131,18 @@ void PrintDialog::connectAll()
     connect(&m_keeper, &host::SetupKeeper::choicesLost, this,
             [this](const QStringList &sentences) { showProblem(sentences.join(u' ')); });
     if (host::QueueSession *const session = m_keeper.session()) {
-        connect(session, &host::QueueSession::failed, this,
-                [this](const host::CupsError &error) { showProblem(error.message); });
+        connect(session, &host::QueueSession::failed, this, [this](const host::CupsError &error) {
+            m_serverProblem = error.message;
+            showProblem(error.message);
+        });
+        connect(session, &host::QueueSession::recovered, this, [this] {
+            if (m_problem == m_serverProblem)
+                showProblem(QString());
+        });
+        // What was wrong with another printer is no concern of this one.
+        connect(session, &host::QueueSession::chosenChanged, this, [this] { showProblem(QString()); });
+        connect(session, &host::QueueSession::settled, this, &PrintDialog::refreshLater);
+        connect(session, &host::QueueSession::ppdChanged, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
     }
     connect(m_sendBar, &SendBar::cancelled, &m_sender, &JobSender::cancel);
@@ -263,6 +273,8 @@ void PrintDialog::refreshConflicts()
 QString PrintDialog::waitingText() const
 {
     const host::QueueSession *const session = m_keeper.session();
+    if (session && session->ppdError())
+        return tr("The printer's description is not known.");
     if (!session || session->isSettled())
         return session && session->chosen() ? tr("Waiting for the printer's description…")
                                             : tr("No printer is chosen.");

@@ -87,6 +87,8 @@ private:
     host::SetupKeeper &m_keeper;
     JobSender &m_sender;
     QString m_problem;
+    /// What the server said last when it could not be asked.
+    QString m_serverProblem;
     bool m_refreshPending = false;
     bool m_isSending = false;
     bool m_closesAfterSending = false;
