@@ -142,7 +142,10 @@ void StripPainter::paintLabel(QPainter &painter, std::size_t index) const
     }
     // The whole image, clipped, so that a PDF holds it once however often the label is printed.
     const QRectF whole(QPointF(label.left() - planned.trimmedBefore, 0.0), m_renderer.labelSize());
-    painter.drawImage(whole, m_renderer.render(planned.page, m_resolution));
+    if (m_labelsAreBlank)
+        painter.fillRect(whole, Qt::white);
+    else
+        painter.drawImage(whole, m_renderer.render(planned.page, m_resolution));
     painter.restore();
     const QRectF number(label.left(), -units(8.5), label.width(), units(3.6));
     if (label.width() > units(5.0))

@@ -31,6 +31,8 @@ public:
     StripPainter(const StripLayout &layout, const LabelRenderer &renderer, const StripColors &colors,
                  double pixelsPerMillimetre);
 
+    /// Leaves the labels white: their pictures take longer than all the rest.
+    void setLabelsBlank(bool blank) { m_labelsAreBlank = blank; }
     /// Draws what lies between left and right, in the layout's millimetres, which must be the painter's
     /// coordinates.
     void paint(QPainter &painter, double left, double right) const;
@@ -55,6 +57,7 @@ private:
     const LabelRenderer &m_renderer;
     StripColors m_colors;
     double m_resolution;
+    bool m_labelsAreBlank = false;
 };
 
 } // namespace host

@@ -22,12 +22,39 @@ DestinationList::DestinationList(CupsServer server, QObject *parent)
 {
 }
 
+DestinationList::DestinationList(CupsServer server, const std::optional<QString> &first, QObject *parent)
+    : QObject(parent)
+    , m_server(std::move(server))
+{
+    const QueueCache cache(m_server);
+    std::optional<Destination> last = cache.last();
+    m_isPartial = last && (first ? last->name() == *first : last->isDefault);
+    if (m_isPartial)
+        m_destinations.push_back(*std::move(last));
+    else
+        m_destinations = cache.destinations();
+}
+
+void DestinationList::remember(const QString &name)
+{
+    const auto found = std::find_if(m_destinations.begin(), m_destinations.end(),
+                                    [&](const Destination &each) { return each.name() == name; });
+    if (m_isStale || found == m_destinations.end())
+        return;
+    m_background.start([server = m_server, destination = *found](BackgroundTask &) {
+        QueueCache(server).storeLast(destination);
+    });
+}
+
 void DestinationList::refresh(Discovery discovery)
 {
     if (m_task)
         m_task->cancel();
-    m_task = m_background.start([this, server = m_server, discovery](BackgroundTask &task) {
+    const bool wantsOthers = std::exchange(m_isPartial, false);
+    m_task = m_background.start([this, server = m_server, discovery, wantsOthers](BackgroundTask &task) {
         // "this" is only used in what is delivered, on the main thread and while it is there.
+        if (wantsOthers)
+            task.deliver([this, known = QueueCache(server).destinations()] { takeKnown(known); });
         const auto ask = [&]() -> Result<std::vector<Destination>, CupsError> {
             Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
             return connection ? queryDestinations(connection.value()) : connection.error();
@@ -48,6 +75,14 @@ void DestinationList::refresh(Discovery discovery)
                 task.deliver([this, found] { addDiscovered(found); });
             });
     });
+}
+
+void DestinationList::takeKnown(const std::vector<Destination> &destinations)
+{
+    if (!m_isStale || destinations.empty())
+        return;
+    m_destinations = destinations;
+    Q_EMIT changed();
 }
 
 void DestinationList::take(std::vector<Destination> destinations)

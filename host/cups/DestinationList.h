@@ -20,9 +20,15 @@ class DestinationList : public QObject {
 public:
     /// Reads what is known from last time; asks nobody yet.
     explicit DestinationList(CupsServer server, QObject *parent = nullptr);
+    /// The same for a dialog that needs one destination first: the one of that name, or with nothing the
+    /// default one. When that is known at once, the others come with changed() after refresh().
+    DestinationList(CupsServer server, const std::optional<QString> &first, QObject *parent = nullptr);
 
     /// Asks the server. Discovery goes on for some seconds after refreshed().
     void refresh(Discovery discovery = Discovery::No);
+
+    /// Keeps the destination of that name, as the server has told of it, to be known at once the next time.
+    void remember(const QString &name);
 
     /// In the server's order, instances after their queues.
     const std::vector<Destination> &destinations() const { return m_destinations; }
@@ -44,11 +50,14 @@ Q_SIGNALS:
 
 private:
     void take(std::vector<Destination> destinations);
+    void takeKnown(const std::vector<Destination> &destinations);
     void addDiscovered(const Destination &destination);
 
     CupsServer m_server;
     std::vector<Destination> m_destinations;
     bool m_isStale = true;
+    /// Only the first is there of what was known last time.
+    bool m_isPartial = false;
     Background m_background;
     std::shared_ptr<BackgroundTask> m_task;
 };

@@ -38,6 +38,9 @@ void write(const QString &path, const QByteArray &content, const QDateTime &modi
     file.commit();
 }
 
+const QString allName = QStringLiteral("/queues.cbor");
+const QString lastName = QStringLiteral("/last.cbor");
+
 } // namespace
 
 QueueCache::QueueCache(const CupsServer &server)
@@ -46,9 +49,9 @@ QueueCache::QueueCache(const CupsServer &server)
 {
 }
 
-std::vector<Destination> QueueCache::destinations() const
+std::vector<Destination> QueueCache::read(const QString &name) const
 {
-    QFile file(m_folder + QStringLiteral("/queues.cbor"));
+    QFile file(m_folder + name);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QCborParserError error;
@@ -63,12 +66,33 @@ std::vector<Destination> QueueCache::destinations() const
     return destinations;
 }
 
-void QueueCache::storeDestinations(const std::vector<Destination> &destinations) const
+void QueueCache::store(const QString &name, const std::vector<Destination> &destinations) const
 {
     QCborArray entries{formVersion};
     for (const Destination &destination : destinations)
         entries.append(destination.toCbor());
-    write(m_folder + QStringLiteral("/queues.cbor"), entries.toCborValue().toCbor(), {});
+    write(m_folder + name, entries.toCborValue().toCbor(), {});
+}
+
+std::vector<Destination> QueueCache::destinations() const
+{
+    return read(allName);
+}
+
+void QueueCache::storeDestinations(const std::vector<Destination> &destinations) const
+{
+    store(allName, destinations);
+}
+
+std::optional<Destination> QueueCache::last() const
+{
+    std::vector<Destination> destinations = read(lastName);
+    return destinations.empty() ? std::nullopt : std::optional(std::move(destinations.front()));
+}
+
+void QueueCache::storeLast(const Destination &destination) const
+{
+    store(lastName, {destination});
 }
 
 QString QueueCache::ppdFileName(const QString &queue) const

@@ -19,6 +19,11 @@ public:
     /// A failure to write is no concern of the user; the cache then stays as it was.
     void storeDestinations(const std::vector<Destination> &destinations) const;
 
+    /// The destination that was set up last, which mostly is the next one too; reading it alone takes no time
+    /// however many there are. Nothing when none is kept.
+    std::optional<Destination> last() const;
+    void storeLast(const Destination &destination) const;
+
     /// The queue's PPD; nothing when none is kept.
     std::optional<QString> ppdPath(const QString &queue) const;
     /// What a server is asked to compare its PPD with, as an "If-Modified-Since" field; empty when none is
@@ -31,6 +36,8 @@ public:
     const QString &folder() const { return m_folder; }
 
 private:
+    std::vector<Destination> read(const QString &name) const;
+    void store(const QString &name, const std::vector<Destination> &destinations) const;
     QString ppdFileName(const QString &queue) const;
 
     QString m_folder;

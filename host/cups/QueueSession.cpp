@@ -27,12 +27,10 @@ bool isOutOfReach(const CupsError &error)
 QueueSession::QueueSession(CupsServer server, std::optional<QString> wanted, QObject *parent)
     : QObject(parent)
     , m_server(std::move(server))
-    , m_destinations(m_server)
+    , m_wanted(wanted ? std::move(wanted) : LpOptions::read().defaultName())
+    , m_destinations(m_server, m_wanted)
     , m_loader(m_server)
-    , m_wanted(std::move(wanted))
 {
-    if (!m_wanted)
-        m_wanted = LpOptions::read().defaultName();
     connect(&m_destinations, &DestinationList::changed, this, [this] {
         chooseWanted();
         Q_EMIT destinationsChanged();
@@ -146,6 +144,8 @@ void QueueSession::settle()
     // Without a default anywhere, the first one is as good a beginning as any.
     if (!m_chosen && !m_wanted && !m_destinations.destinations().empty())
         setChosen(m_destinations.destinations().front());
+    if (m_chosen)
+        m_destinations.remember(m_chosen->name());
     Q_EMIT settled();
 }
 
@@ -193,6 +193,7 @@ void QueueSession::setChosen(const Destination &destination)
         m_ppd = m_loader.cached(destination.queue);
         m_knowledge = m_ppd ? PpdKnowledge::Cached : PpdKnowledge::Asked;
         m_ppdError.reset();
+        m_destinations.remember(destination.name());
     }
     if (m_hasStarted) {
         m_loader.load(destination);

@@ -85,11 +85,11 @@ private:
     CupsError noSuchDestination() const;
 
     CupsServer m_server;
+    /// What is waited for; nothing when the user has chosen, or when the server's default counts.
+    std::optional<QString> m_wanted;
     DestinationList m_destinations;
     PpdLoader m_loader;
     std::unique_ptr<QueueMonitor> m_monitor;
-    /// What is waited for; nothing when the user has chosen, or when the server's default counts.
-    std::optional<QString> m_wanted;
     std::optional<Destination> m_chosen;
     std::optional<PpdFile> m_ppd;
     PpdKnowledge m_knowledge = PpdKnowledge::Asked;

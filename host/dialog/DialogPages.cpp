@@ -2,6 +2,7 @@
 #include "DialogPages.h"
 
 #include "JobPage.h"
+#include "LazyPage.h"
 #include "OptionsPage.h"
 #include "PagePreview.h"
 #include "PanelPage.h"
@@ -15,18 +16,25 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     : QTabWidget(parent)
     , m_server(server)
     , m_pagePreview(new PagePreview(document, this))
-    , m_summaryPage(new SummaryPage(this))
 {
     setAccessibleName(tr("Options, preview and summary"));
+    if (m_server)
+        addTab(new LazyPage([this](QWidget *page) { return makeJobPage(page); }, this), tr("&Job"));
     addTab(m_pagePreview, tr("Page pre&view"));
-    addTab(m_summaryPage, tr("&Summary"));
-    if (!m_server)
-        return;
-    m_jobPage = new JobPage(this);
-    m_sentPage = new SentPage(this);
-    insertTab(0, m_jobPage, tr("&Job"));
-    addTab(m_sentPage, tr("&What will be sent"));
+    addTab(new LazyPage([this](QWidget *page) { return m_summaryPage = new SummaryPage(page); }, this),
+           tr("&Summary"));
+    if (m_server)
+        addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
+               tr("&What will be sent"));
+}
+
+QWidget *DialogPages::makeJobPage(QWidget *parent)
+{
+    m_jobPage = new JobPage(parent);
+    m_jobPage->setSettings(m_job.settings);
+    m_jobPage->setTitle(m_job.title);
     connect(m_jobPage, &JobPage::changed, this, &DialogPages::chosen);
+    return m_jobPage;
 }
 
 DialogPages::~DialogPages()
@@ -60,35 +68,28 @@ void DialogPages::addPanel(PDEPanel &panel)
 
 void DialogPages::addOptions()
 {
-    m_optionsPage = new OptionsPage(m_setup->ppd(), m_setup->claimedKeywords(), this);
-    if (m_optionsPage->isEmpty()) {
-        delete m_optionsPage;
-        m_optionsPage = nullptr;
+    if (!OptionsPage::hasOptions(m_setup->ppd(), m_setup->claimedKeywords()))
         return;
-    }
-    insertTab(0, m_optionsPage, tr("&Options"));
-    m_optionsPage->refresh();
+    m_optionsPlace = new LazyPage([this](QWidget *page) { return makeOptionsPage(page); }, this);
+    insertTab(0, m_optionsPlace, tr("&Options"));
+}
+
+QWidget *DialogPages::makeOptionsPage(QWidget *parent)
+{
+    m_optionsPage = new OptionsPage(m_setup->ppd(), m_setup->claimedKeywords(), parent);
+    setConflicts(m_setup->conflicts());
     connect(m_optionsPage, &OptionsPage::chosen, this,
             [this](const QByteArray &keyword, const QByteArray &value) {
                 m_setup->choose(keyword, value);
                 Q_EMIT chosen();
             });
-}
-
-void DialogPages::showJob(const host::JobDraft &draft)
-{
-    if (!m_jobPage)
-        return;
-    m_jobPage->setSettings(draft.settings);
-    m_jobPage->setTitle(draft.title);
+    return m_optionsPage;
 }
 
 void DialogPages::writeJobTo(host::JobDraft &draft) const
 {
-    if (!m_jobPage)
-        return;
-    draft.settings = m_jobPage->settings();
-    draft.title = m_jobPage->title();
+    draft.settings = m_jobPage ? m_jobPage->settings() : m_job.settings;
+    draft.title = m_jobPage ? m_jobPage->title() : m_job.title;
 }
 
 void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
@@ -106,7 +107,8 @@ void DialogPages::dropSetup()
     const QSignalBlocker quiet(this);
     delete m_panelPage;
     m_panelPage = nullptr;
-    delete m_optionsPage;
+    delete m_optionsPlace;
+    m_optionsPlace = nullptr;
     m_optionsPage = nullptr;
     m_setup = nullptr;
 }
@@ -118,9 +120,9 @@ void DialogPages::setRenderer(const host::LabelRenderer &renderer)
 
 void DialogPages::refresh()
 {
-    if (m_summary && currentWidget() == m_summaryPage)
+    if (m_summary && m_summaryPage && m_summaryPage->isVisible())
         m_summaryPage->setSections(m_summary());
-    if (!m_sentPage || !m_ticket || currentWidget() != m_sentPage)
+    if (!m_sentPage || !m_ticket || !m_sentPage->isVisible())
         return;
     if (const std::optional<host::JobTicket> ticket = m_ticket())
         m_sentPage->setTicket(*m_server, *ticket);

@@ -13,6 +13,7 @@
 namespace dialog {
 
 class JobPage;
+class LazyPage;
 class OptionsPage;
 class PagePreview;
 class PanelPage;
@@ -37,7 +38,7 @@ public:
     void setRenderer(const host::LabelRenderer &renderer);
     /// Job name, orientation, hold and priority, as they are shown; without a server they are left as they
     /// are.
-    void showJob(const host::JobDraft &draft);
+    void showJob(const host::JobDraft &draft) { m_job = draft; }
     void writeJobTo(host::JobDraft &draft) const;
     /// Shows the conflicts at the options that they are about.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
@@ -58,15 +59,21 @@ Q_SIGNALS:
 private:
     void addPanel(PDEPanel &panel);
     void addOptions();
+    QWidget *makeOptionsPage(QWidget *parent);
+    QWidget *makeJobPage(QWidget *parent);
 
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;
     PanelPage *m_panelPage = nullptr;
+    LazyPage *m_optionsPlace = nullptr;
+    PagePreview *m_pagePreview;
+    // Null until they are shown.
     OptionsPage *m_optionsPage = nullptr;
     JobPage *m_jobPage = nullptr;
-    PagePreview *m_pagePreview;
-    SummaryPage *m_summaryPage;
+    SummaryPage *m_summaryPage = nullptr;
     SentPage *m_sentPage = nullptr;
+    /// What the page of the job begins with.
+    host::JobDraft m_job;
     std::function<std::vector<SummarySection>()> m_summary;
     std::function<std::optional<host::JobTicket>()> m_ticket;
 };

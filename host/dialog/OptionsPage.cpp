@@ -22,6 +22,20 @@ bool isPaper(const QByteArray &keyword)
     return qstricmp(keyword.constData(), "PageSize") == 0 || qstricmp(keyword.constData(), "PageRegion") == 0;
 }
 
+/// The options of a group that the page shows.
+std::vector<QByteArray> shownKeywords(const host::PpdOptions &options, const host::PpdGroup &group,
+                                      const QStringList &claimedKeywords)
+{
+    std::vector<QByteArray> keywords;
+    if (group.isInstallable)
+        return keywords;
+    std::ranges::copy_if(group.keywords, std::back_inserter(keywords), [&](const QByteArray &keyword) {
+        return !isPaper(keyword) && !claimedKeywords.contains(QString::fromUtf8(keyword)) &&
+               options.canBeChanged(keyword);
+    });
+    return keywords;
+}
+
 } // namespace
 
 OptionsPage::OptionsPage(host::PpdFile &ppd, const QStringList &claimedKeywords, QWidget *parent)
@@ -32,17 +46,19 @@ OptionsPage::OptionsPage(host::PpdFile &ppd, const QStringList &claimedKeywords,
 {
     const host::PpdOptions options(m_ppd);
     for (const host::PpdGroup &group : options.groups()) {
-        if (group.isInstallable)
-            continue;
-        std::vector<QByteArray> keywords;
-        std::ranges::copy_if(group.keywords, std::back_inserter(keywords), [&](const QByteArray &keyword) {
-            return !isPaper(keyword) && !claimedKeywords.contains(QString::fromUtf8(keyword)) &&
-                   options.canBeChanged(keyword);
-        });
+        const std::vector<QByteArray> keywords = shownKeywords(options, group, claimedKeywords);
         if (!keywords.empty())
             addGroup(group.text, keywords);
     }
     layOut();
+}
+
+bool OptionsPage::hasOptions(const host::PpdFile &ppd, const QStringList &claimedKeywords)
+{
+    const host::PpdOptions options(ppd);
+    return std::ranges::any_of(options.groups(), [&](const host::PpdGroup &group) {
+        return !shownKeywords(options, group, claimedKeywords).empty();
+    });
 }
 
 void OptionsPage::addGroup(const QString &text, const std::vector<QByteArray> &keywords)

@@ -27,6 +27,8 @@ public:
     /// The PPD is borrowed, localized already, and must outlive the page.
     OptionsPage(host::PpdFile &ppd, const QStringList &claimedKeywords, QWidget *parent);
 
+    /// Whether such a page would have anything to choose.
+    static bool hasOptions(const host::PpdFile &ppd, const QStringList &claimedKeywords);
     /// Whether there is nothing to choose, so that the page need not be shown.
     bool isEmpty() const { return m_pages.empty(); }
 

@@ -115,7 +115,10 @@ void PaperList::fitWidth()
     setMinimumHeight(fontMetrics().height() * 6);
     // Wide enough for the papers' texts, unless one of them is a novel.
     const int widest = fontMetrics().averageCharWidth() * 40;
-    setMinimumWidth(qMin(sizeHintForColumn(0) + fontMetrics().height() * 3, widest));
+    int texts = 0;
+    for (int row = 0; row < count(); ++row)
+        texts = qMax(texts, fontMetrics().horizontalAdvance(item(row)->text()));
+    setMinimumWidth(qMin(texts + fontMetrics().height() * 3, widest));
 }
 
 void PaperList::showEntry(int entry)

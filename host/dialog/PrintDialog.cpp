@@ -304,6 +304,12 @@ void PrintDialog::showEvent(QShowEvent *event)
         pageShown();
 }
 
+void PrintDialog::showAtOnce()
+{
+    m_stripPreview->paintOutlinesFirst();
+    show();
+}
+
 void PrintDialog::print()
 {
     showProblem(QString());

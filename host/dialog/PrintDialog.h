@@ -41,6 +41,8 @@ public:
                 JobSender &sender, const DialogWishes &wishes, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
+    /// Shows the dialog as soon as possible: the labels' content follows right after the first painting.
+    void showAtOnce();
     /// Prints as the Print button does: panels save and are asked, then the job is handed to the sender. When
     /// that has sent it, the dialog is accepted; otherwise problem() says why not, and everything stays as
     /// set. Conflicts are not asked about.

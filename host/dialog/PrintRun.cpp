@@ -161,10 +161,12 @@ ExitStatus PrintRun::runOnQueue()
     QueueSender sender(server);
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
     window = &dialog;
-    dialog.show();
+    dialog.showAtOnce();
     waitForPainting(dialog);
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
+    if (!dialog.isVisible())
+        return dialog.result() == QDialog::Accepted ? follow(dialog, sender, server) : ExitStatus::Cancelled;
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (dialog.exec() != QDialog::Accepted)

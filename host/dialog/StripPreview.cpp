@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace dialog {
@@ -87,9 +88,13 @@ void StripPreview::paintEvent(QPaintEvent *)
     painter.translate(-bounds.topLeft());
     const double left = bounds.left() + horizontalScrollBar()->value() / m_pixelsPerMillimetre;
     const double right = left + viewport()->width() / m_pixelsPerMillimetre;
-    host::StripPainter(*m_layout, *m_renderer, host::StripColors::forPalette(palette()),
-                       m_pixelsPerMillimetre * devicePixelRatioF())
-        .paint(painter, left, right);
+    host::StripPainter strip(*m_layout, *m_renderer, host::StripColors::forPalette(palette()),
+                             m_pixelsPerMillimetre * devicePixelRatioF());
+    const bool outlinesOnly = std::exchange(m_outlinesFirst, false);
+    strip.setLabelsBlank(outlinesOnly);
+    strip.paint(painter, left, right);
+    if (outlinesOnly)
+        QTimer::singleShot(0, viewport(), [this] { viewport()->update(); });
 }
 
 void StripPreview::resizeEvent(QResizeEvent *)

@@ -22,6 +22,10 @@ public:
     /// Shows nothing.
     void clear();
 
+    /// Paints the labels without their content the next time, and all of it right afterwards, so that the
+    /// window need not wait for the document's pages.
+    void paintOutlinesFirst() { m_outlinesFirst = true; }
+
     QSize sizeHint() const override;
 
 protected:
@@ -39,6 +43,7 @@ private:
     const host::LabelRenderer *m_renderer = nullptr;
     std::optional<host::StripLayout> m_layout;
     double m_pixelsPerMillimetre = 1.0;
+    bool m_outlinesFirst = false;
 };
 
 } // namespace dialog

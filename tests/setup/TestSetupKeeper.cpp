@@ -196,3 +196,19 @@ TEST_F(SetupKeeperTest, TheDefaultQueueIsChosenAndWithoutOneTheFirst)
     qunsetenv("LPDEST");
     EXPECT_EQ(session->chosen()->queue, QStringLiteral("tape"));
 }
+
+TEST_F(SetupKeeperTest, TheLastDestinationIsKnownAtOnceAndTheOthersFollow)
+{
+    openAndSettle(QStringLiteral("tape"));
+    ASSERT_TRUE(waitFor([this] { return host::QueueCache(server).last().has_value(); }));
+    open(QStringLiteral("tape"));
+    EXPECT_EQ(session->destinations().destinations().size(), 1U);
+    ASSERT_TRUE(keeper->setup());
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([this] { return session->destinations().destinations().size() >= 3; }));
+    // Another one is looked for among all.
+    open(QStringLiteral("labels"));
+    EXPECT_GE(session->destinations().destinations().size(), 3U);
+    ASSERT_TRUE(session->chosen());
+    EXPECT_EQ(session->chosen()->queue, QStringLiteral("labels"));
+}
