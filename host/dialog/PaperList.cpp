@@ -100,13 +100,12 @@ void PaperList::addPaper(const std::vector<host::PpdPaper> &papers, std::size_t 
 
 void PaperList::dressHeadings()
 {
-    QFont bold = font();
-    bold.setBold(true);
+    // Set off by their ground: bold letters would need a second font, loaded for this alone.
     for (int row = 0; row < count(); ++row) {
         if (!isHeading(*item(row)))
             continue;
-        item(row)->setFont(bold);
-        item(row)->setForeground(palette().brush(QPalette::Active, QPalette::Text));
+        item(row)->setBackground(palette().brush(QPalette::Active, QPalette::Window));
+        item(row)->setForeground(palette().brush(QPalette::Active, QPalette::WindowText));
     }
 }
 
