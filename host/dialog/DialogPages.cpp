@@ -130,6 +130,10 @@ void DialogPages::announceFront()
 {
     if (m_panelPage && currentWidget() == m_panelPage)
         m_setup->announcePanel();
+    // A panel hands its settings over before the job is printed; whoever looks at what will be sent must see
+    // them already. Whether the panel lets the job pass is told when it is printed.
+    if (m_setup && m_sentPage && currentWidget() == m_sentPage)
+        m_setup->savePanel();
 }
 
 void DialogPages::announceClosing(QWidget *window)
