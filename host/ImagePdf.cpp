@@ -220,7 +220,7 @@ private:
 std::optional<DocumentProblem> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf)
 {
     ImageSource source(image, kind);
-    if (const auto problem = source.check())
+    if (auto problem = source.check())
         return problem;
     const std::optional<PdfImage> page = source.read();
     if (!page)

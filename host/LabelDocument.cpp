@@ -52,8 +52,7 @@ void LabelDocument::append(const QString &name, std::unique_ptr<OpenedDocument> 
 
 QString LabelDocument::title() const
 {
-    const QString first =
-        path() == standardInputName ? Text::tr("standard input") : QFileInfo(path()).fileName();
+    QString first = path() == standardInputName ? Text::tr("standard input") : QFileInfo(path()).fileName();
     if (m_files.size() == 1)
         return first;
     return Text::tr("%1 and %n more", nullptr, static_cast<int>(m_files.size()) - 1).arg(first);

@@ -46,11 +46,11 @@ Result<std::unique_ptr<PdfPages>, DocumentProblem> PdfPages::open(std::unique_pt
 {
     std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file)));
     pages->m_pdf.load(pages->m_file.get());
-    if (const auto problem = loadingProblem(pages->m_pdf.error()))
+    if (auto problem = loadingProblem(pages->m_pdf.error()))
         return *problem;
     if (pages->pageCount() < 1)
         return DocumentProblem{DocumentFailure::Empty, Text::tr("it has no pages")};
-    if (const auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
+    if (auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
         return *problem;
     return pages;
 }
@@ -86,7 +86,7 @@ std::optional<DocumentProblem> PdfPages::checkSize(QSizeF size, int page)
 std::optional<DocumentProblem> PdfPages::checkPagesUpTo(int end) const
 {
     for (; m_checked < end; ++m_checked) {
-        if (const auto problem = checkSize(m_pdf.pagePointSize(m_checked), m_checked))
+        if (auto problem = checkSize(m_pdf.pagePointSize(m_checked), m_checked))
             return problem;
     }
     return std::nullopt;

@@ -78,15 +78,15 @@ std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf
         return source.error();
     // Looked at first, as drawing alone would take its time for a page of kilometres.
     if (source.value().size) {
-        if (const auto problem = PdfPages::checkSize(*source.value().size * pointsPerPixel, 0))
+        if (auto problem = PdfPages::checkSize(*source.value().size * pointsPerPixel, 0))
             return problem;
     }
-    const DocumentProblem damaged{DocumentFailure::Damaged, Text::tr("it is a damaged SVG")};
+    DocumentProblem damaged{DocumentFailure::Damaged, Text::tr("it is a damaged SVG")};
     QSvgRenderer renderer;
     if (!renderer.load(source.value().content))
         return damaged;
     const QSizeF size = source.value().size.value_or(renderer.viewBoxF().size()) * pointsPerPixel;
-    if (const auto problem = PdfPages::checkSize(size, 0))
+    if (auto problem = PdfPages::checkSize(size, 0))
         return problem;
     if (source.value().size && !source.value().viewBox)
         renderer.setViewBox(QRectF(QPointF(), *source.value().size));

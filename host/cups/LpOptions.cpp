@@ -19,6 +19,7 @@ std::vector<NamedValue> parse(const QByteArray &text)
     cups_option_t *options = nullptr;
     const int count = cupsParseOptions(text.constData(), 0, &options);
     std::vector<NamedValue> values;
+    values.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         values.push_back({options[i].name, options[i].value});
     cupsFreeOptions(count, options);

@@ -141,12 +141,11 @@ void QueueSession::settle()
 {
     m_isSettled = true;
     const bool isGone = m_chosen && !m_destinations.find(m_chosen->name());
-    if (isGone || (!m_chosen && m_wanted)) {
+    if (isGone || (!m_chosen && m_wanted))
         Q_EMIT failed(noSuchDestination());
-    } else if (!m_chosen && !m_destinations.destinations().empty()) {
-        // No default anywhere: the first one is as good a beginning as any.
+    // Without a default anywhere, the first one is as good a beginning as any.
+    if (!m_chosen && !m_wanted && !m_destinations.destinations().empty())
         setChosen(m_destinations.destinations().front());
-    }
     Q_EMIT settled();
 }
 

@@ -10,21 +10,19 @@ namespace dialog {
 
 Banner::Banner(QWidget *parent)
     : QFrame(parent)
+    , m_icon(new QLabel(this))
     , m_text(new QLabel(this))
     , m_remedy(new QPushButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
-    auto *const icon = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
     m_text->setForegroundRole(QPalette::ToolTipText);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *const layout = new QHBoxLayout(this);
-    layout->addWidget(icon);
+    layout->addWidget(m_icon);
     layout->addWidget(m_text, 1);
     layout->addWidget(m_remedy);
     m_remedy->setAutoDefault(false);
@@ -32,8 +30,17 @@ Banner::Banner(QWidget *parent)
     setVisible(false);
 }
 
+void Banner::showIcon()
+{
+    // Only now: looking through the icon themes takes longer than building the rest of the dialog.
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+}
+
 void Banner::setMessage(const QString &message, const QString &remedy)
 {
+    if (!message.isEmpty() && m_icon->pixmap().isNull())
+        showIcon();
     m_text->setText(message);
     // An ampersand in a PPD's text is no shortcut.
     m_remedy->setText(QString(remedy).replace(u'&', QStringLiteral("&&")));

@@ -24,6 +24,9 @@ Q_SIGNALS:
     void remedyClicked();
 
 private:
+    void showIcon();
+
+    QLabel *m_icon;
     QLabel *m_text;
     QPushButton *m_remedy;
 };

@@ -29,7 +29,7 @@ CustomPaperFields::CustomPaperFields(const host::PpdCustomLimits &limits, QWidge
     auto *const form = new QFormLayout(this);
     form->setContentsMargins({});
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->addRow(tr("&Width"), m_width);
+    form->addRow(tr("Wi&dth"), m_width);
     form->addRow(tr("&Length"), m_length);
     setFocusProxy(m_width->isReadOnly() ? m_length : m_width);
     connect(m_width, &LengthField::valueChanged, this, &CustomPaperFields::edited);

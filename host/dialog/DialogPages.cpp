@@ -45,7 +45,7 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
     if (PDEPanel *const panel = setup.panel())
         addPanel(*panel);
     // All titles are in sight, as long as no language makes novels of them.
-    const int widest = 100 * fontMetrics().averageCharWidth();
+    const int widest = 120 * fontMetrics().averageCharWidth();
     setMinimumWidth(qMin(tabBar()->sizeHint().width() + tabBar()->fontMetrics().height(), widest));
 }
 

@@ -2,7 +2,9 @@
 #include "HeadlessRun.h"
 
 #include "CommandWishes.h"
+#include "PrintDialog.h"
 #include "QueueSender.h"
+#include "Screenshot.h"
 
 #include <host/setup/JobReport.h>
 #include <host/setup/JobSummary.h>
@@ -63,11 +65,11 @@ std::unique_ptr<host::PrintJob> makeStrip(const host::PrinterSetup &setup,
 } // namespace
 
 HeadlessRun::HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
-                         const host::LabelDocument &document)
+                         std::shared_ptr<const host::LabelDocument> document)
     : m_command(command)
     , m_console(console)
     , m_server(std::move(server))
-    , m_document(document)
+    , m_document(std::move(document))
 {
 }
 
@@ -140,21 +142,35 @@ bool HeadlessRun::hasConflicts(const host::PrinterSetup &setup) const
 
 std::optional<host::JobDraft> HeadlessRun::makeDraft() const
 {
-    auto pages = host::parsePageRanges(m_command.settings.pageRanges, m_document.pageCounts());
+    auto pages = host::parsePageRanges(m_command.settings.pageRanges, m_document->pageCounts());
     if (!pages) {
         m_console.complain(pages.error().message);
         return std::nullopt;
     }
-    if (const std::optional<host::DocumentError> error = m_document.checkForPrinting()) {
+    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting()) {
         m_console.complain(error->message);
         return std::nullopt;
     }
     host::JobDraft draft;
     draft.settings = m_command.settings;
-    draft.title = m_command.title.value_or(host::defaultTitle(m_document));
+    draft.title = m_command.title.value_or(host::defaultTitle(*m_document));
     draft.pages = {std::move(pages).value(), m_command.settings.copies.value_or(1),
                    m_command.settings.collate.value_or(host::Collate::Yes)};
     return draft;
+}
+
+bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
+{
+    if (!m_command.screenshot)
+        return true;
+    QueueSender sender(m_server);
+    PrintDialog dialog(m_document, keeper, sender, {m_command.settings, m_command.title, {}});
+    dialog.show();
+    QCoreApplication::processEvents();
+    const std::optional<host::OutputError> error = saveScreenshot(dialog, *m_command.screenshot);
+    if (error)
+        m_console.complain(error->message);
+    return !error;
 }
 
 ExitStatus HeadlessRun::run()
@@ -165,7 +181,7 @@ ExitStatus HeadlessRun::run()
     host::QueueSession session(m_server, m_command.destination);
     host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
     host::PrinterSetup *const setup = waitForSetup(session, keeper);
-    if (!setup || !accepts(*setup))
+    if (!setup || !accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
     const ExitStatus status = finish(*setup, *draft);
     const bool withoutPanel = setup->panelProblem().has_value();
@@ -179,14 +195,14 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::JobD
         return ExitStatus::Printed;
     };
     if (m_command.task == Task::DryRun) {
-        const host::JobTicket ticket = host::ticketFor(setup, m_document, draft);
+        const host::JobTicket ticket = host::ticketFor(setup, *m_document, draft);
         return tell(host::ticketJson(m_server, ticket, setup.conflicts()),
                     host::ticketInPlainText(m_server, ticket, setup.conflicts()));
     }
     if (m_command.task == Task::Summary) {
-        const host::LabelRenderer renderer(m_document, host::shownPaper(setup, m_document));
-        const std::unique_ptr<host::PrintJob> strip = makeStrip(setup, m_document, renderer, draft);
-        const auto summary = host::summarize(setup, m_document, draft, strip.get());
+        const host::LabelRenderer renderer(*m_document, host::shownPaper(setup, *m_document));
+        const std::unique_ptr<host::PrintJob> strip = makeStrip(setup, *m_document, renderer, draft);
+        const auto summary = host::summarize(setup, *m_document, draft, strip.get());
         return tell(host::summaryJson(summary), host::summaryInPlainText(summary));
     }
     return send(setup, draft);
@@ -202,7 +218,7 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
         problem = text;
         loop.quit();
     });
-    sender.send({setup, m_document, draft, nullptr});
+    sender.send({setup, *m_document, draft, nullptr});
     loop.exec();
     if (problem) {
         m_console.complain(*problem);

@@ -14,9 +14,8 @@ namespace dialog {
 /// without being seen, so that its rules hold for what the command line asks for.
 class HeadlessRun {
 public:
-    /// The document is borrowed.
     HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
-                const host::LabelDocument &document);
+                std::shared_ptr<const host::LabelDocument> document);
 
     ExitStatus run();
 
@@ -28,13 +27,16 @@ private:
     void tellChangesByPanel(const host::PrinterSetup &setup) const;
     bool hasConflicts(const host::PrinterSetup &setup) const;
     std::optional<host::JobDraft> makeDraft() const;
+    /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be
+    /// saved.
+    bool takeScreenshot(host::SetupKeeper &keeper) const;
     ExitStatus finish(const host::PrinterSetup &setup, const host::JobDraft &draft);
     ExitStatus send(const host::PrinterSetup &setup, const host::JobDraft &draft);
 
     const CommandLine &m_command;
     const Console &m_console;
     host::CupsServer m_server;
-    const host::LabelDocument &m_document;
+    std::shared_ptr<const host::LabelDocument> m_document;
 };
 
 } // namespace dialog

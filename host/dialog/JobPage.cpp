@@ -84,8 +84,8 @@ void JobPage::build()
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("Job &name"), m_title);
-    form->addRow(tr("&Orientation"), m_orientation);
-    auto *const whenLabel = new QLabel(tr("P&rint it"), this);
+    form->addRow(tr("Orienta&tion"), m_orientation);
+    auto *const whenLabel = new QLabel(tr("Pr&int it"), this);
     whenLabel->setBuddy(m_hold);
     form->addRow(whenLabel, when);
     form->addRow(tr("Priorit&y"), m_priority);

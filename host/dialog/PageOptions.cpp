@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageOptions.h"
 
+#include "ClearButton.h"
+
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -23,7 +25,7 @@ PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     m_collate->setToolTip(
         tr("All pages once, then all pages again; otherwise all copies of a page together"));
     m_pages->setPlaceholderText(tr("all, or for example 1-3, 5"));
-    m_pages->setClearButtonEnabled(true);
+    addClearButton(m_pages);
 
     auto *const layout = new QFormLayout(this);
     layout->setContentsMargins({});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PaperChooser.h"
 
+#include "ClearButton.h"
 #include "CustomPaperFields.h"
 #include "LengthUnit.h"
 #include "LinkButton.h"
@@ -59,7 +60,7 @@ void PaperChooser::build()
     m_list->setAccessibleName(tr("Paper"));
     m_search->setPlaceholderText(tr("Search papers"));
     m_search->setAccessibleName(tr("Search papers"));
-    m_search->setClearButtonEnabled(true);
+    addClearButton(m_search);
     m_documentButton->hide();
 
     auto *const layout = new QVBoxLayout(this);

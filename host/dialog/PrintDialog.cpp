@@ -22,7 +22,7 @@
 
 namespace dialog {
 
-PrintDialog::PrintDialog(std::unique_ptr<host::LabelDocument> document, host::SetupKeeper &keeper,
+PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
                          JobSender &sender, const DialogWishes &wishes, QWidget *parent)
     : QDialog(parent)
     , m_document(std::move(document))

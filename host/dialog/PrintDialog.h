@@ -37,8 +37,8 @@ class PrintDialog : public QDialog {
 
 public:
     /// Keeper and sender are borrowed.
-    PrintDialog(std::unique_ptr<host::LabelDocument> document, host::SetupKeeper &keeper, JobSender &sender,
-                const DialogWishes &wishes, QWidget *parent = nullptr);
+    PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
+                JobSender &sender, const DialogWishes &wishes, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
     /// Prints as the Print button does: panels save and are asked, then the job is handed to the sender. When
@@ -83,7 +83,7 @@ private:
     void finishSending();
     void showProblem(const QString &problem);
 
-    std::unique_ptr<host::LabelDocument> m_document;
+    std::shared_ptr<const host::LabelDocument> m_document;
     host::SetupKeeper &m_keeper;
     JobSender &m_sender;
     QString m_problem;

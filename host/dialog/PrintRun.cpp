@@ -6,15 +6,14 @@
 #include "JobWindow.h"
 #include "PasswordDialog.h"
 #include "QueueSender.h"
+#include "Screenshot.h"
 #include "ServerRun.h"
 #include "VirtualSender.h"
 
-#include <host/OutputFiles.h>
-
 #include <QApplication>
-#include <QFileInfo>
-#include <QImageWriter>
 #include <QJsonDocument>
+#include <QTimer>
+#include <QWindow>
 
 namespace dialog {
 
@@ -34,6 +33,20 @@ QString paperNames(const host::PpdFile &ppd)
     if (names.size() > most)
         names = names.first(most) << QStringLiteral("…");
     return names.join(QStringLiteral(", "));
+}
+
+/// Lets the window appear before anything else is begun, which would take processors and memory from it.
+void waitForPainting(const QWidget &window)
+{
+    // Some desktops show no window before it is wanted, on another workspace for instance.
+    constexpr std::chrono::milliseconds longest{200};
+    bool isLate = false;
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [&] { isLate = true; });
+    timer.start(longest);
+    while (!isLate && window.isVisible() && !window.windowHandle()->isExposed())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 } // namespace
@@ -108,7 +121,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
     QApplication::processEvents();
-    if (!saveScreenshot(dialog.grab().toImage()))
+    if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (m_command.task == Task::Summary) {
         tellSummary(dialog.summary());
@@ -139,7 +152,7 @@ ExitStatus PrintRun::runOnQueue()
         return ExitStatus::Failed;
     host::CupsServer server = cupsServer(m_command);
     if (m_command.noDialog || m_command.task != Task::Print)
-        return HeadlessRun(m_command, m_console, server, *document).run();
+        return HeadlessRun(m_command, m_console, server, std::move(document)).run();
 
     PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
@@ -149,9 +162,10 @@ ExitStatus PrintRun::runOnQueue()
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
     window = &dialog;
     dialog.show();
+    waitForPainting(dialog);
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
-    if (!saveScreenshot(dialog.grab().toImage()))
+    if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (dialog.exec() != QDialog::Accepted)
         return ExitStatus::Cancelled;
@@ -177,15 +191,9 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
     return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 
-bool PrintRun::saveScreenshot(const QImage &picture)
+bool PrintRun::takeScreenshot(PrintDialog &dialog)
 {
-    if (!m_command.screenshot)
-        return true;
-    const QFileInfo target(*m_command.screenshot);
-    host::OutputFiles files(target.path());
-    files.write(target.fileName(),
-                [&](QIODevice *device) { return QImageWriter(device, "png").write(picture); });
-    const std::optional<host::OutputError> error = files.commit();
+    const auto error = m_command.screenshot ? saveScreenshot(dialog, *m_command.screenshot) : std::nullopt;
     if (error)
         m_console.complain(error->message);
     return !error;

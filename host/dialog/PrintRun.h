@@ -25,7 +25,7 @@ private:
     ExitStatus showVirtual(PrintDialog &dialog, class VirtualSender &sender);
     ExitStatus follow(PrintDialog &dialog, const class QueueSender &sender, const host::CupsServer &server);
     DialogWishes dialogWishes() const;
-    bool saveScreenshot(const QImage &picture);
+    bool takeScreenshot(PrintDialog &dialog);
     void tellSummary(const std::vector<SummarySection> &summary);
 
     CommandLine m_command;

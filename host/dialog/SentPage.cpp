@@ -29,10 +29,9 @@ SentPage::SentPage(QWidget *parent)
     m_options->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_options->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_line->setReadOnly(true);
-    m_line->setFont(QFont(QStringLiteral("monospace")));
     auto *const label = new QLabel(tr("&The same job on the command line"), this);
     label->setBuddy(m_line);
-    auto *const copy = new QPushButton(tr("C&opy"), this);
+    auto *const copy = new QPushButton(tr("Cop&y"), this);
     copy->setAutoDefault(false);
     copy->setAccessibleName(tr("Copy the command"));
     m_differences->setWordWrap(true);
@@ -66,6 +65,8 @@ void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &
     }
     m_options->addTopLevelItems(items);
     const host::LpCommand command = host::lpCommand(server, ticket);
+    // Loading another font is put off until somebody looks at this page.
+    m_line->setFont(QFont(QStringLiteral("monospace")));
     m_line->setText(command.line);
     m_line->setCursorPosition(0);
     m_differences->setVisible(!command.differences.isEmpty());

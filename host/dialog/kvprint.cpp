@@ -4,7 +4,10 @@
 
 #include <QApplication>
 
+#include <fontconfig/fontconfig.h>
+
 #include <cstdio>
+#include <thread>
 
 #include <unistd.h>
 
@@ -79,6 +82,9 @@ int main(int argc, char **argv)
     const bool attended = chooseScreen(arguments);
     if (!attended)
         usualHandler = qInstallMessageHandler(passOnMessage);
+    // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it
+    // done, having been busy with the display meanwhile.
+    const std::jthread fonts = attended ? std::jthread(FcInit) : std::jthread();
     // Qt would take options of its own out of what are lp's words: "-title" says "-t itle".
     argc = 1;
     const QApplication application(argc, argv);

@@ -2,72 +2,498 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>nicht eingestellt</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>„kvprint --help“ zeigt die Hilfe.</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>Die Option „%1“ gibt es nicht</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>Die Option „%1“ nimmt keinen Wert</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>Die Option „%1“ braucht einen Wert: %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>Die Option „%1“ betrifft den virtuellen Drucker und braucht „--ppd“</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H: „%1“ betrifft einen früher gesendeten Auftrag und braucht „-i“</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>„%1“ nimmt keine Dokumente, angegeben ist „%2“</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>Die Standardeingabe („-“) lässt sich nur einmal drucken</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>Die Option „%1“ verträgt sich nicht mit „%2“</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>Die Option „%1“ geht nur zusammen mit einer von: %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>Kein Dokument angegeben; nennen Sie eine Datei oder „-“, um eines einzutippen</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>der Wert ist leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>„%1“ ist kein Zeitpunkt zum Drucken; schreiben Sie HH:MM oder HH:MM:SS (UTC) oder eines von: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>„%1“ ist nicht möglich; es muss eines sein von: %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>kein Papier angegeben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>„%1“ ist keine Zahl von Kopien; sie muss von 1 bis %2 sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>„%1“ ist keine Priorität; sie muss von 1 (zuletzt) bis 100 (zuerst) sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>„%1“ nennt keine Warteschlange; schreiben Sie QUEUE oder QUEUE/INSTANCE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>„%1“ ist kein Auftrag; schreiben Sie seine Nummer oder QUEUE-NUMBER, wie beim Senden gemeldet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>„%1“ nennt keine Option; schreiben Sie NAME=VALUE</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>Papierbreite</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>Kein Drucker angegeben: --ppd DATEI fehlt</translation>
+        <source>Paper length</source>
+        <translation>Papierlänge</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>Kein Dokument angegeben</translation>
+        <source>Wi&amp;dth</source>
+        <translation>Bre&amp;ite</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>Es kann nur ein Dokument auf einmal gedruckt werden, angegeben sind %1</translation>
+        <source>&amp;Length</source>
+        <translation>&amp;Länge</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Druckerklasse: %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>„kvprint --help“ zeigt die Hilfe.</translation>
+        <source>P&amp;rinter</source>
+        <translation>Drucke&amp;r</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Diesen Drucker gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Warten auf die Antwort des Druckservers…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>Zuletzt: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>Der Druckserver antwortet nicht. Zuletzt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(Standard)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>Klasse aus: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Optionen, Vorschau und Übersicht</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Seiten&amp;vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Au&amp;ftrag</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>Z&amp;u senden</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
+            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>Der Druckserver „%1“ hat kein Ziel, auf dem gedruckt werden kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>„%1“ kann zusammen mit den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>Abhilfe: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Uhrzeit für den Druck</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Vorgabe der Warteschlange</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>Von 1 bis 100; Aufträge mit höherer Priorität werden vor anderen gedruckt</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Auftrags&amp;name</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Ausrich&amp;tung</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Priorität</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Vorgabe des Druckers</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Umgekehrtes Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Umgekehrtes Hochformat</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Nach Freigabe</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Abends</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>Der Auftrag ist gesendet.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Auftrag %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>&amp;Auftrag abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Gruppen von Optionen</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Dieser Drucker hat keine weiteren Optionen.</translation>
     </message>
 </context>
 <context>
@@ -96,10 +522,6 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>So viele Etiketten auf einmal gehen nicht: Ein Auftrag hat höchstens %1</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>alle</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
@@ -123,10 +545,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 breit, %2 lang</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>P&amp;apier</translation>
     </message>
@@ -138,16 +556,64 @@
         <source>Search papers</source>
         <translation>Papiere suchen</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Eigene Größe, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Größe des Dokuments nehmen: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Eine eigene Größe</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 breit</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 breit, %2 lang</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Eigene Größe…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Kennwort für den Druckserver</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>&amp;Benutzername</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Kennwort</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>%1 drucken</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Optionen, Vorschau und Übersicht</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +624,109 @@
         <translation>Drucker: %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>Ü&amp;bersicht</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Druck</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Dokument</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Drucker</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Kopien</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Etikettenstreifen</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etiketten</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Stücke</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Band</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Schnitte</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Seiten&amp;vorschau</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 und %2 weitere</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>Die PPD-Datei „%1“ hat kein Papier „%2“; sie hat: %3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>Die PPD-Datei „%1“ nennt kein Papier, auf das gedruckt werden kann</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>Die Schneideoptionen können nicht gezeigt werden. %1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>Der Drucker hat keine Beschreibung; seine Papiere und Schnitte sind hier deshalb nicht bekannt.</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Warten auf die Beschreibung des Druckers…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Es ist kein Drucker gewählt.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Warten auf die Antwort des Druckservers…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>Der Drucker kann dies nicht alles zusammen.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Trotzdem drucken</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>Die PPD-Datei „%1“ hat kein Papier „%2“; sie hat: %3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>Die PPD-Datei „%1“ nennt kein Papier, auf das gedruckt werden kann</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>Der Etikettenstreifen liegt in:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Senden abbrechen</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>„%1“ wird gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Optionen des Auftrags</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>Derselbe Auftra&amp;g auf der Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Ko&amp;pieren</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +749,82 @@
     <message>
         <source>Summary</source>
         <translation>Übersicht</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Die PPD-Datei nennt kein Papier, auf das gedruckt werden kann</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>Der Drucker „%1“ hat keine Option „%2“.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>Der Drucker „%1“ hat kein Papier „%2“.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>Die Option „%1“ des Druckers „%2“ hat keine Auswahl „%3“; sie hat: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>„%1: %2“</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Dieser Drucker beherrscht %1 nicht.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 und %2 schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>„%1“ auf „%2“ setzen</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>Auf Wunsch abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>Der Druckserver „%1“ antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Keine Verbindung zum Druckserver „%1“: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>Die Verbindung zum Druckserver „%1“ ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>Der Druckserver „%1“ meldet: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>Der Druckserver „%1“ liefert „%2“ nicht: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>die Datei ist größer als %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>die Verbindung brach mittendrin ab</translation>
     </message>
 </context>
 <context>
@@ -332,9 +884,190 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Das Dokument „%1“ lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>die Datei wurde kürzer, während sie gelesen wurde</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Er soll neu gedruckt werden, wird aber zurückgehalten. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>Auftrag %1 wurde nicht geändert. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>Vorgabe des Druckers</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>Vorgabe der Warteschlange</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>Ihre Vorgabe (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>Voreinstellung</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>Schneideoptionen</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>von Ihnen gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Auftrag „%1“ für „%2“ auf %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Gesendete Optionen:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Zurückgehalten bis zur Freigabe.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Zurückgehalten bis %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>Wartet, bis er an der Reihe ist.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Angehalten; es geht weiter, wenn der Drucker wieder bereit ist.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>Vom Druckserver aufgegeben.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Gedruckt.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Der Server meldet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Kopien</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Etikettenstreifen</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Stücke</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Band</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Schnitte</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken: %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Es gibt kein Dokument zu drucken.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
         <translation>Das Dokument „%1“ lässt sich nicht öffnen: %2</translation>
     </message>
     <message>
@@ -358,10 +1091,6 @@
         <translation>es ist auf unbekannte Weise verschlüsselt</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>es ist kein PDF oder ein beschädigtes</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>es hat keine Seiten</translation>
     </message>
@@ -373,11 +1102,94 @@
         <source>page %1 is longer than %2 m</source>
         <translation>Seite %1 ist länger als %2 m</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Das Dokument von der Standardeingabe lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>es ist ein beschädigtes Bild</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>es hat %1 × %2 Pixel, mehr als sich drucken lassen</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>es ist ein Bild, dessen Ende fehlt</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Kein Dokument angegeben</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>sie lässt sich nur einmal lesen</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>es ist größer als %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>es ist kein PDF, PNG, JPEG oder SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>es ist ein beschädigtes PDF</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>es lässt sich nicht in „%1“ ablegen: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>es ist ein beschädigtes SVG</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>es verweist auf „%1“, und gedruckt wird nur, was im SVG selbst steht</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>Zeile %1 des SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>es ist ein SVG aus mehr Teilen, als sich zeichnen lassen</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>es enthält ein Bild, das weder PNG noch JPEG ist</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>es enthält ein beschädigtes Bild</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
         <translation>Das Bundle „%1“ lässt sich nicht verwenden: %2</translation>
     </message>
     <message>
@@ -414,9 +1226,20 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
         <translation>Die PPD-Datei „%1“ lässt sich nicht öffnen: %2</translation>
     </message>
     <message>
@@ -424,7 +1247,7 @@
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>sie ist größer als %1 MB, mehr als jede Druckerbeschreibung</translation>
     </message>
     <message>
@@ -449,14 +1272,206 @@
     </message>
 </context>
 <context>
+    <name>host::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Druckersteuerung</translation>
+    </message>
+</context>
+<context>
     <name>host::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
         <translation>Die Seiten „%1“ sind nicht verständlich: Schreiben Sie Zahlen und Bereiche wie 1-3, 5</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Die Seiten „%1“ lassen sich nicht drucken: Die letzte Seite des Dokuments ist %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ hat keine Warteschlange oder Klasse „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>Der Drucker wartet auf Etiketten oder Band.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Etiketten oder Band haben sich gestaut.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>Die Etikettenrolle oder das Band ist fast aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>Die Etikettenrolle oder das Band ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>Der Drucker wird gleich angehalten.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>Die Warteschlange ist angehalten; Aufträge warten.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>Der Drucker ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Verbindung zum Drucker wird hergestellt.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>Der Drucker antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>Der Drucker hält an.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Einige Drucker der Klasse sind angehalten.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>Der Toner ist fast aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>Der Toner ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>Der Druckserver hat keinen Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>Die Abdeckung des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Eine Verriegelung des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>Die Klappe des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Die Kassette oder der Rollenhalter fehlt.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Das Ausgabefach fehlt.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>Das Ausgabefach ist fast voll.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Das Ausgabefach ist voll.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>Tinte oder Farbband ist fast aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>Tinte oder Farbband ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>Der Abfallbehälter ist fast voll.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>Der Abfallbehälter ist voll.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>Der Drucker ist zu heiß.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>Der Drucker wärmt sich auf.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>Der Drucker ist offline.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Neue Aufträge werden zurückgehalten.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>Der Drucker ist vom Verwalter abgeschaltet.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Ein Teil des Druckertreibers fehlt.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Ein Teil des Druckertreibers ist nicht sicher installiert.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Warten, bis der Drucker den Auftrag beendet hat.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>Der Drucker hält sich nicht an sein Protokoll.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Bereit.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Druckt.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Im Netzwerk gefunden.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Zustand unbekannt.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>Die Warteschlange nimmt keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Der Server meldet: %1</translation>
     </message>
 </context>
 <context>
@@ -484,7 +1499,7 @@
         <translation>der Ordner lässt sich nicht anlegen: %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
+        <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
     <message>

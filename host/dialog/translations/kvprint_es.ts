@@ -2,72 +2,508 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>sin ajustar</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>Pruebe «kvprint --help».</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation>Uso: kvprint [OPCIÓN]... [--] [DOCUMENTO]...
+     kvprint -i [COLA-]TRABAJO [OPCIÓN]...
+     kvprint --list | --summary | --dry-run [OPCIÓN]... [--] [DOCUMENTO]...
+</translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation>Imprime documentos en impresoras de etiquetas, con un diálogo para papel, páginas y cortes que muestra la tira de etiquetas tal como saldrá. Sin pantalla imprime directamente. PDF, PNG, JPEG y SVG; «-» o nada es la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation>Opciones:
+</translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation>Termina las opciones: lo que sigue son documentos.</translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation>Estado de salida:
+  0  impreso, o mostrado lo que se pidió
+  1  algo no se pudo abrir, usar, enviar o escribir; no se imprimió nada
+  2  no se entendió la línea de órdenes
+  3  impreso, pero sin el panel de opciones de corte
+  4  cancelado en el diálogo
+</translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>No existe la opción «%1»</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>La opción «%1» no admite ningún valor</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>La opción «%1» necesita un valor: %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>La opción «%1» es para la impresora virtual y necesita «--ppd»</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H: «%1» se refiere a un trabajo ya enviado y necesita «-i»</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>«%1» no admite documentos y se indicó «%2»</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>La entrada estándar («-») solo se puede imprimir una vez</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>La opción «%1» no es compatible con «%2»</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>La opción «%1» solo se admite junto con una de estas: %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>No se indicó ningún documento; indique un archivo, o «-» para escribirlo</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>el valor está vacío</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>«%1» no es una hora de impresión; escriba HH:MM o HH:MM:SS (UTC), o una de estas palabras: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>«%1» no es posible; tiene que ser uno de estos valores: %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>no indica ningún papel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>«%1» no es un número de copias; tiene que estar entre 1 y %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>«%1» no es una prioridad; tiene que estar entre 1 (último) y 100 (primero)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>«%1» no indica ninguna cola; escriba COLA o COLA/INSTANCIA</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>«%1» no es un trabajo; escriba su número, o COLA-NÚMERO tal como se mostró al enviarlo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>«%1» no indica ninguna opción; escriba NOMBRE=VALOR</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>de %1 a %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>Ancho del papel</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>No se indicó ninguna impresora: falta --ppd ARCHIVO</translation>
+        <source>Paper length</source>
+        <translation>Largo del papel</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>No se indicó ningún documento</translation>
+        <source>Wi&amp;dth</source>
+        <translation>Anc&amp;ho</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>Solo se puede imprimir un documento a la vez y se indicaron %1</translation>
+        <source>&amp;Length</source>
+        <translation>La&amp;rgo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Clase de impresoras: %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>Pruebe «kvprint --help».</translation>
+        <source>P&amp;rinter</source>
+        <translation>I&amp;mpresora</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Esa impresora no existe.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Esperando la respuesta del servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>La última vez: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>El servidor de impresión no responde. La última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(predeterminada)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>Clase formada por: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opciones, vista previa y resumen</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Re&amp;sumen</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Traba&amp;jo</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>Lo que se &amp;enviará</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>«%1» necesita al menos %n carácter. Hasta entonces, el ajuste queda como estaba.</numerusform>
+            <numerusform>«%1» necesita al menos %n caracteres. Hasta entonces, el ajuste queda como estaba.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>El servidor de impresión «%1» no tiene ningún destino en el que imprimir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>«%1» no puede ser «%2» con las demás opciones de corte y se imprime como «%3»</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>Solución posible: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Hora de impresión</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Según la cola</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>De 1 a 100; los trabajos con mayor prioridad se imprimen antes que los demás</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>&amp;Nombre del trabajo</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Orien&amp;tación</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>C&amp;uándo imprimir</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Prioridad</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Según la impresora</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Horizontal invertida</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Vertical invertida</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Cuando lo libere</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A una hora determinada</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante el día</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Por la tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Por la noche</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>En el segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>En el tercer turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>El fin de semana</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>El trabajo se ha enviado.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Trabajo %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Cancelar el &amp;trabajo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>pulg.</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Grupos de opciones</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Esta impresora no tiene más opciones.</translation>
     </message>
 </context>
 <context>
@@ -96,10 +532,6 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>No se pueden imprimir tantas etiquetas a la vez: un trabajo tiene como máximo %1</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>todas</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
@@ -123,10 +555,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 de ancho, %2 de largo</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>P&amp;apel</translation>
     </message>
@@ -138,16 +566,64 @@
         <source>Search papers</source>
         <translation>Buscar papeles</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personalizado, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Usar el tamaño del documento: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Un tamaño personalizado</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 de ancho</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 de ancho, %2 de largo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Tamaño personalizado…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Contraseña del servidor de impresión</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nombre de &amp;usuario</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>Con&amp;traseña</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>Imprimir %1</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opciones, vista previa y resumen</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +634,109 @@
         <translation>Impresora: %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>Re&amp;sumen</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>«%1» no puede guardar sus ajustes: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impresión</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Impresora</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papel</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Páginas</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copias</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Tira de etiquetas</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etiquetas</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Piezas</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Cinta</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Cortes</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>&amp;Vista previa</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 y %2 más</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>El archivo PPD «%1» no tiene el papel «%2»; tiene: %3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>El archivo PPD «%1» no indica ningún papel en el que imprimir</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>No se pueden mostrar las opciones de corte. %1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>El paquete «%1» no pudo crear su panel</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>La impresora no tiene descripción, por lo que aquí no se conocen sus papeles ni sus cortes.</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Esperando la descripción de la impresora…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>No se ha elegido ninguna impresora.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Esperando la respuesta del servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>La impresora no puede hacer todo esto a la vez.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Imprimir de todos modos</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>El archivo PPD «%1» no tiene el papel «%2»; tiene: %3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>El archivo PPD «%1» no indica ningún papel en el que imprimir</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>La tira de etiquetas está en:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Detener el envío</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>Enviando «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origen</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Se envía</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opciones del trabajo</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>El mismo tra&amp;bajo en la línea de órdenes</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copiar la orden</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +759,82 @@
     <message>
         <source>Summary</source>
         <translation>Resumen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>El archivo PPD no indica ningún papel en el que imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>La impresora «%1» no tiene la opción «%2».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>La impresora «%1» no tiene el papel «%2».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>La opción «%1» de la impresora «%2» no tiene el valor «%3»; tiene: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>«%1: %2»</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Esta impresora no admite %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 y %2 se excluyen mutuamente.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>ajustar «%1» a «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>Interrumpido a petición del usuario.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>El servidor de impresión «%1» no responde.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>No se puede conectar con el servidor de impresión «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>Se ha cortado la conexión con el servidor de impresión «%1».</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>El servidor de impresión «%1» dice: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>El servidor de impresión «%1» no entrega «%2»: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>ocupa más de %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>la conexión se cortó a la mitad</translation>
     </message>
 </context>
 <context>
@@ -332,9 +894,190 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>No se puede leer el documento «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>se ha acortado mientras se leía</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Se va a imprimir de nuevo, pero está retenido. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>El trabajo %1 no se ha modificado. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>predeterminado de la impresora</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>predeterminado de la cola</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>su valor predeterminado (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>preajuste</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>opciones de corte</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>elegido por usted</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Trabajo «%1» para «%2» en %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opciones que se envían:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Retenido hasta que se libere.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Retenido hasta: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>Esperando su turno.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Detenido; continúa cuando la impresora vuelva a estar lista.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>Interrumpido por el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Impreso.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>El servidor dice: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todas</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Tira de etiquetas</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Piezas</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Cinta</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Cortes</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir: %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>No hay ningún documento que imprimir.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
         <translation>No se puede abrir el documento «%1»: %2</translation>
     </message>
     <message>
@@ -358,10 +1101,6 @@
         <translation>está cifrado de un modo desconocido</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>no es un PDF o está dañado</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>no tiene páginas</translation>
     </message>
@@ -373,11 +1112,94 @@
         <source>page %1 is longer than %2 m</source>
         <translation>la página %1 mide más de %2 m</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>No se puede abrir el documento de la entrada estándar: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>es una imagen dañada</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>tiene %1 × %2 píxeles, más de los que se pueden imprimir</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>es una imagen a la que le falta el final</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>No se indica ningún documento</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>solo se puede leer una vez</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrada estándar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>supera %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>no es PDF, PNG, JPEG ni SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>es un PDF dañado</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>no se puede guardar en «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>es un SVG dañado</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>hace referencia a «%1», y solo se imprime lo que está en el propio SVG</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>línea %1 del SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>es un SVG con más partes de las que se pueden dibujar</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>contiene una imagen que no es ni PNG ni JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>contiene una imagen dañada</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
         <translation>No se puede usar el paquete «%1»: %2</translation>
     </message>
     <message>
@@ -414,9 +1236,20 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>El paquete «%1» no pudo crear su panel</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
         <translation>No se puede abrir el archivo PPD «%1»: %2</translation>
     </message>
     <message>
@@ -424,7 +1257,7 @@
         <translation>línea %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>ocupa más de %1 MB, más que cualquier descripción de impresora</translation>
     </message>
     <message>
@@ -449,14 +1282,206 @@
     </message>
 </context>
 <context>
+    <name>host::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Control de la impresora</translation>
+    </message>
+</context>
+<context>
     <name>host::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
         <translation>No se entienden las páginas «%1»: escriba números e intervalos como 1-3, 5</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>No se pueden imprimir las páginas «%1»: la última página del documento es %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>«%1» no puede guardar sus ajustes: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no tiene ninguna cola o clase «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>La impresora espera etiquetas o cinta.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Las etiquetas o la cinta están atascadas.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>El rollo de etiquetas o la cinta está a punto de acabarse.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>El rollo de etiquetas o la cinta se ha acabado.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>La impresora está a punto de ponerse en pausa.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>La cola está en pausa; los trabajos esperan.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>La impresora está apagada.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Conectando con la impresora.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>La impresora no responde.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>La impresora se está deteniendo.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Algunas impresoras de la clase están detenidas.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>El tóner está a punto de agotarse.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>El tóner se ha agotado.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>El servidor de impresión no tiene espacio libre.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>La cubierta de la impresora está abierta.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Un cierre de la impresora está abierto.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>La puerta de la impresora está abierta.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Falta el casete o el soporte del rollo.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Falta la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>La bandeja de salida está casi llena.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>La bandeja de salida está llena.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>La tinta o la cinta entintada está a punto de agotarse.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>La tinta o la cinta entintada se ha agotado.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>El depósito de residuos está casi lleno.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>El depósito de residuos está lleno.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>La impresora está demasiado caliente.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>La impresora se está calentando.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>La impresora está desconectada.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Los trabajos nuevos se retienen.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>El administrador ha desactivado la impresora.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Falta una parte del controlador de la impresora.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Una parte del controlador de la impresora no está instalada de forma segura.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Esperando a que la impresora termine el trabajo.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>La impresora no cumple su protocolo.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Lista.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Encontrada en la red.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Estado desconocido.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>La cola no acepta trabajos.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>El servidor dice: %1</translation>
     </message>
 </context>
 <context>
@@ -484,7 +1509,7 @@
         <translation>no se puede crear la carpeta: %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
+        <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>No se puede escribir «%1»: %2</translation>
     </message>
     <message>

@@ -2,72 +2,498 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>non défini</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>Essayez « kvprint --help ».</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>L’option « %1 » n’existe pas</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>L’option « %1 » ne prend pas de valeur</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>L’option « %1 » demande une valeur : %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>L’option « %1 » concerne l’imprimante virtuelle et demande « --ppd »</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H : « %1 » concerne une tâche déjà envoyée et demande « -i »</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>« %1 » ne prend pas de document, et « %2 » est indiqué</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>L’entrée standard (« - ») ne peut être imprimée qu’une fois</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>L’option « %1 » ne va pas avec « %2 »</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>L’option « %1 » ne va qu’avec l’une de : %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>Aucun document indiqué ; indiquez un fichier, ou « - » pour en saisir un</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>la valeur est vide</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>« %1 » n’est pas un moment d’impression ; écrivez HH:MM ou HH:MM:SS (UTC), ou l’un de : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>« %1 » n’est pas possible ; ce doit être l’un de : %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>aucun papier n’est indiqué</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>« %1 » n’est pas un nombre de copies ; il doit aller de 1 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>« %1 » n’est pas une priorité ; elle doit aller de 1 (dernière) à 100 (première)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>« %1 » n’indique aucune file d’attente ; écrivez QUEUE ou QUEUE/INSTANCE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>« %1 » n’est pas une tâche ; écrivez son numéro, ou QUEUE-NUMBER comme annoncé à l’envoi</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>« %1 » n’indique aucune option ; écrivez NAME=VALUE</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 à %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>Largeur du papier</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>Aucune imprimante indiquée : il manque --ppd FICHIER</translation>
+        <source>Paper length</source>
+        <translation>Longueur du papier</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>Aucun document indiqué</translation>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Largeur</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>Un seul document peut être imprimé à la fois, et %1 ont été indiqués</translation>
+        <source>&amp;Length</source>
+        <translation>Longue&amp;ur</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Classe d’imprimantes : %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>Essayez « kvprint --help ».</translation>
+        <source>P&amp;rinter</source>
+        <translation>Imp&amp;rimante</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Cette imprimante n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Attente de la réponse du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>La dernière fois : %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>Le serveur d’impression ne répond pas. La dernière fois : %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(par défaut)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>Classe de : %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Options, aperçu et résumé</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Ap&amp;erçu de la page</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Ré&amp;sumé</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>&amp;Tâche</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>À en&amp;voyer</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>« %1 » demande au moins %n caractère. D’ici là, le réglage reste tel qu’il était.</numerusform>
+            <numerusform>« %1 » demande au moins %n caractères. D’ici là, le réglage reste tel qu’il était.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>Le serveur d’impression « %1 » n’a aucune destination où imprimer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>« %1 » ne peut pas être « %2 » avec les autres options de coupe et sera imprimé comme « %3 »</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>Solution possible : %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Heure d’impression</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Réglage de la file d’attente</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>De 1 à 100 ; les tâches de priorité plus élevée sont imprimées avant les autres</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Nom &amp;de la tâche</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Orie&amp;ntation</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Quand imprimer</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Priorité</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Réglage de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Paysage inversé</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Portrait inversé</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Quand je libère la tâche</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>À une heure donnée</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Pendant la journée</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>En soirée</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>La tâche est envoyée.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Tâche %1 : %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Annuler la &amp;tâche</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Groupes d’options</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Cette imprimante n’a pas d’autres options.</translation>
     </message>
 </context>
 <context>
@@ -96,10 +522,6 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>Impossible d’imprimer autant d’étiquettes à la fois : une tâche en a au plus %1</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>toutes</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
@@ -123,10 +545,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 de large, %2 de long</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>P&amp;apier</translation>
     </message>
@@ -138,16 +556,64 @@
         <source>Search papers</source>
         <translation>Chercher un papier</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personnalisé, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Prendre la taille du document : %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Une taille personnalisée</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 de large</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 de large, %2 de long</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Taille personnalisée…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Mot de passe du serveur d’impression</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nom d’&amp;utilisateur</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Mot de passe</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>Imprimer %1</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Options, aperçu et résumé</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +624,109 @@
         <translation>Imprimante : %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>Ré&amp;sumé</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impression</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Document</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Imprimante</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Bande d’étiquettes</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Étiquettes</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Morceaux</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Ruban</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Coupes</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Ap&amp;erçu de la page</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 et %2 autres</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>Le fichier PPD « %1 » n’a pas de papier « %2 » ; il a : %3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>Le fichier PPD « %1 » n’indique aucun papier</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>Les options de coupe ne peuvent pas être affichées. %1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>L’imprimante n’a pas de description ; ses papiers et ses coupes ne sont donc pas connus ici.</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Attente de la description de l’imprimante…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Aucune imprimante n’est choisie.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Attente de la réponse du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>L’imprimante ne peut pas faire tout cela à la fois.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Imprimer quand même</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>Le fichier PPD « %1 » n’a pas de papier « %2 » ; il a : %3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>Le fichier PPD « %1 » n’indique aucun papier</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>La bande d’étiquettes se trouve dans :</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Arrêter l’envoi</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>Envoi de « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyée</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Options de la tâche</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>La même tâche en ligne de comman&amp;de</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copier la commande</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +749,82 @@
     <message>
         <source>Summary</source>
         <translation>Résumé</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Le fichier PPD n’indique aucun papier</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>L’imprimante « %1 » n’a pas d’option « %2 ».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>L’imprimante « %1 » n’a pas de papier « %2 ».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>L’option « %1 » de l’imprimante « %2 » n’a pas de choix « %3 » ; elle a : %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>« %1 : %2 »</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Cette imprimante ne permet pas %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 et %2 s’excluent mutuellement.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>régler « %1 » sur « %2 »</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>Abandonné à votre demande.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>Le serveur d’impression « %1 » ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Impossible de se connecter au serveur d’impression « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>La connexion au serveur d’impression « %1 » a été interrompue.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>Le serveur d’impression « %1 » indique : %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>Le serveur d’impression « %1 » ne fournit pas « %2 » : %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>le fichier dépasse %1 Mo</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>la connexion a été interrompue en cours de route</translation>
     </message>
 </context>
 <context>
@@ -332,9 +884,190 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Impossible de lire le document « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>il a raccourci pendant la lecture</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Elle doit être réimprimée, mais est retenue. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>La tâche %1 n’a pas été modifiée. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>défaut de la file d’attente</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>votre défaut (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>préréglage</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>options de coupe</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>réglé par vous</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Tâche « %1 » pour « %2 » sur %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Options envoyées :
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Retenue jusqu’à sa libération.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Retenue jusqu’à %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>En attente de son tour.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Impression en cours.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Arrêtée ; elle reprend quand l’imprimante est de nouveau prête.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annulée.</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>Abandonnée par le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Imprimée.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Le serveur indique : %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Bande d’étiquettes</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Morceaux</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Ruban</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Coupes</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau : %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Il n’y a aucun document à imprimer.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
         <translation>Impossible d’ouvrir le document « %1 » : %2</translation>
     </message>
     <message>
@@ -358,10 +1091,6 @@
         <translation>il est chiffré d’une manière inconnue</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>ce n’est pas un PDF, ou il est endommagé</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>il n’a pas de pages</translation>
     </message>
@@ -373,11 +1102,94 @@
         <source>page %1 is longer than %2 m</source>
         <translation>la page %1 est plus longue que %2 m</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Impossible d’ouvrir le document de l’entrée standard : %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>c’est une image endommagée</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>il a %1 × %2 pixels, plus qu’il n’est possible d’imprimer</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>c’est une image dont la fin manque</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Aucun document n’est indiqué</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>elle ne peut être lue qu’une fois</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>il dépasse %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>ce n’est ni un PDF, ni un PNG, ni un JPEG, ni un SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>c’est un PDF endommagé</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>il ne peut pas être conservé dans « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>c’est un SVG endommagé</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>il renvoie à « %1 », et seul le contenu du SVG même est imprimé</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>ligne %1 du SVG : %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>c’est un SVG de plus d’éléments qu’il n’est possible d’en dessiner</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>il contient une image qui n’est ni PNG ni JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>il contient une image endommagée</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
         <translation>Impossible d’utiliser le paquet « %1 » : %2</translation>
     </message>
     <message>
@@ -414,9 +1226,20 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
         <translation>Impossible d’ouvrir le fichier PPD « %1 » : %2</translation>
     </message>
     <message>
@@ -424,7 +1247,7 @@
         <translation>ligne %1 : %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>il dépasse %1 Mo, plus que toute description d’imprimante</translation>
     </message>
     <message>
@@ -449,14 +1272,206 @@
     </message>
 </context>
 <context>
+    <name>host::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Commande de l’imprimante</translation>
+    </message>
+</context>
+<context>
     <name>host::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
         <translation>Pages « %1 » incompréhensibles : écrivez des nombres et des plages comme 1-3, 5</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Impossible d’imprimer les pages « %1 » : la dernière page du document est %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » n’a pas de file d’attente ou de classe « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>L’imprimante attend des étiquettes ou du ruban.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Des étiquettes ou du ruban sont coincés.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>Le rouleau d’étiquettes ou le ruban est presque épuisé.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>Le rouleau d’étiquettes ou le ruban est épuisé.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>L’imprimante va être mise en pause.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>La file d’attente est en pause ; les tâches attendent.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>L’imprimante est éteinte.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Connexion à l’imprimante en cours.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>L’imprimante ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>L’imprimante s’arrête.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Certaines imprimantes de la classe sont arrêtées.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>Le toner est presque épuisé.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>Le toner est épuisé.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>Le serveur d’impression n’a plus d’espace.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>Le capot de l’imprimante est ouvert.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Un verrou de l’imprimante est ouvert.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>La porte de l’imprimante est ouverte.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>La cassette ou le support de rouleau manque.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Le bac de sortie manque.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>Le bac de sortie est presque plein.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Le bac de sortie est plein.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>L’encre ou le ruban encreur est presque épuisé.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>L’encre ou le ruban encreur est épuisé.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>Le bac de récupération est presque plein.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>Le bac de récupération est plein.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>L’imprimante est trop chaude.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>L’imprimante préchauffe.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>L’imprimante est hors ligne.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Les nouvelles tâches sont retenues.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>L’imprimante est désactivée par son administrateur.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Une partie du pilote de l’imprimante manque.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Une partie du pilote de l’imprimante n’est pas installée de façon sûre.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Attente de la fin de la tâche par l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>L’imprimante ne respecte pas son protocole.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Prête.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Impression en cours.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Trouvée sur le réseau.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>État inconnu.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>La file d’attente n’accepte pas de tâches.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Le serveur indique : %1</translation>
     </message>
 </context>
 <context>
@@ -484,7 +1499,7 @@
         <translation>impossible de créer le dossier : %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
+        <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>Impossible d’écrire « %1 » : %2</translation>
     </message>
     <message>

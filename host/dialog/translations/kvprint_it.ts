@@ -2,72 +2,509 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>non impostato</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>Provare &quot;kvprint --help&quot;.</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation>Uso: kvprint [OPZIONE]... [--] [DOCUMENTO]...
+     kvprint -i [CODA-]LAVORO [OPZIONE]...
+     kvprint --list | --summary | --dry-run [OPZIONE]... [--] [DOCUMENTO]...
+</translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation>Stampa documenti su stampanti di etichette, con una finestra per carta, pagine e tagli che mostra la striscia di etichette come uscirà. Senza uno schermo stampa subito. PDF, PNG, JPEG e SVG; &quot;-&quot; o niente è lo standard input.</translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation>Opzioni:
+</translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation>Termina le opzioni: ciò che segue sono documenti.</translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation>Stato di uscita:
+  0  stampato, o mostrato ciò che è stato chiesto
+  1  qualcosa non si è potuto aprire, usare, inviare o scrivere; nulla è stato
+     stampato
+  2  la riga di comando non è stata compresa
+  3  stampato, ma senza il pannello delle opzioni di taglio
+  4  annullato nella finestra
+</translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>L&apos;opzione &quot;%1&quot; non esiste</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>L&apos;opzione &quot;%1&quot; non accetta valori</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>L&apos;opzione &quot;%1&quot; richiede un valore: %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>L&apos;opzione &quot;%1&quot; riguarda la stampante virtuale e richiede &quot;--ppd&quot;</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H: &quot;%1&quot; riguarda un lavoro già inviato e richiede &quot;-i&quot;</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>&quot;%1&quot; non accetta documenti ed è stato indicato &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>Lo standard input (&quot;-&quot;) può essere stampato una volta sola</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>L&apos;opzione &quot;%1&quot; non è compatibile con &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>L&apos;opzione &quot;%1&quot; è ammessa solo insieme a una di queste: %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>Nessun documento indicato; indicare un file, o &quot;-&quot; per immetterlo da tastiera</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>il valore è vuoto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>&quot;%1&quot; non è un&apos;ora di stampa; scrivere HH:MM o HH:MM:SS (UTC), o una di queste parole: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>&quot;%1&quot; non è possibile; deve essere uno di questi valori: %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>non indica alcuna carta</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>&quot;%1&quot; non è un numero di copie; deve essere da 1 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>&quot;%1&quot; non è una priorità; deve essere da 1 (ultimo) a 100 (primo)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>&quot;%1&quot; non indica alcuna coda; scrivere CODA o CODA/ISTANZA</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>&quot;%1&quot; non è un lavoro; scrivere il suo numero, o CODA-NUMERO come mostrato all&apos;invio</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>&quot;%1&quot; non indica alcuna opzione; scrivere NOME=VALORE</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>da %1 a %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>Larghezza della carta</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>Nessuna stampante indicata: manca --ppd FILE</translation>
+        <source>Paper length</source>
+        <translation>Lunghezza della carta</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>Nessun documento indicato</translation>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Larghezza</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>Si può stampare un solo documento alla volta e ne sono stati indicati %1</translation>
+        <source>&amp;Length</source>
+        <translation>Lung&amp;hezza</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Classe di stampanti: %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>Provare "kvprint --help".</translation>
+        <source>P&amp;rinter</source>
+        <translation>Stampa&amp;nte</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>La stampante non esiste.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>In attesa della risposta del server di stampa…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>L&apos;ultima volta: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>Il server di stampa non risponde. L&apos;ultima volta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(predefinita)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>Classe composta da: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opzioni, anteprima e riepilogo</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Ante&amp;prima pagina</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Riepilogo</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>La&amp;voro</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>&amp;Dati da inviare</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opzioni</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>&quot;%1&quot; richiede almeno %n carattere. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
+            <numerusform>&quot;%1&quot; richiede almeno %n caratteri. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha alcuna destinazione su cui stampare</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>&quot;%1&quot; non può essere &quot;%2&quot; con le altre opzioni di taglio e viene stampato come &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>Soluzione possibile: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Ora di stampa</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Come impostato nella coda</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>Da 1 a 100; i lavori con priorità più alta vengono stampati prima degli altri</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>No&amp;me del lavoro</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Ori&amp;entamento</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Quando stampare</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>Priori&amp;tà</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Come impostato nella stampante</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Orizzontale invertito</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Verticale invertito</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Adesso</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Quando lo rilascio</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A un&apos;ora precisa</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante il giorno</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Di sera</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Di notte</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Nel secondo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Nel terzo turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Nel fine settimana</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>Il lavoro è stato inviato.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 su %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Lavoro %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Annulla il &amp;lavoro</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Gruppi di opzioni</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Questa stampante non ha altre opzioni.</translation>
     </message>
 </context>
 <context>
@@ -96,16 +533,12 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>Impossibile stampare tante etichette insieme: un lavoro ne ha al massimo %1</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>tutte</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
     <message>
         <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>La pagina è più grande dell'etichetta e viene ridotta.</translation>
+        <translation>La pagina è più grande dell&apos;etichetta e viene ridotta.</translation>
     </message>
     <message>
         <source>Previous page</source>
@@ -123,10 +556,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>largo %1, lungo %2</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>C&amp;arta</translation>
     </message>
@@ -138,16 +567,64 @@
         <source>Search papers</source>
         <translation>Cerca carta</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personalizzata, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Usa le dimensioni del documento: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Dimensioni personalizzate</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>Larghezza %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>largo %1, lungo %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Dimensioni personalizzate…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Password del server di stampa</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nome &amp;utente</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Password</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>Stampa %1</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opzioni, anteprima e riepilogo</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +635,109 @@
         <translation>Stampante: %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>&amp;Riepilogo</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>"%1" non può salvare le impostazioni: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>"%1" non consente di stampare il lavoro con queste impostazioni.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Stampa</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Stampante</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Carta</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pagine</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copie</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Striscia di etichette</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etichette</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Pezzi</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Nastro</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Tagli</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Ante&amp;prima pagina</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 e altre %2</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>Il file PPD "%1" non ha la carta "%2"; ha: %3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>Il file PPD "%1" non indica alcuna carta</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>Le opzioni di taglio non possono essere mostrate. %1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>Il bundle "%1" non ha potuto creare il suo pannello</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>La stampante non ha una descrizione, quindi le sue carte e i suoi tagli non sono noti.</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>Il pannello del bundle "%1" non può essere mostrato: il suo file di layout è inutilizzabile</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>In attesa della descrizione della stampante…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Nessuna stampante scelta.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>In attesa della risposta del server di stampa…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>La stampante non può fare tutto questo insieme.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Stampa comunque</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>Il file PPD &quot;%1&quot; non ha la carta &quot;%2&quot;; ha: %3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>Il file PPD &quot;%1&quot; non indica alcuna carta</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>La striscia di etichette è in:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Interrompi l&apos;invio</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>Invio di &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Opzione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Inviato</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opzioni del lavoro</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>Lo s&amp;tesso lavoro da riga di comando</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Cop&amp;ia</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copia il comando</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sì</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
     </message>
 </context>
 <context>
@@ -276,14 +763,90 @@
     </message>
 </context>
 <context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Il file PPD non indica alcuna carta</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>La stampante &quot;%1&quot; non ha l&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>L&apos;opzione &quot;%1&quot; della stampante &quot;%2&quot; non ha la scelta &quot;%3&quot;; ha: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>&quot;%1: %2&quot;</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Questa stampante non consente %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 e %2 si escludono a vicenda.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>impostare &quot;%1&quot; su &quot;%2&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>Interrotto su richiesta.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>Il server di stampa &quot;%1&quot; non risponde.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Impossibile connettersi al server di stampa &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>La connessione al server di stampa &quot;%1&quot; si è interrotta.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>Il server di stampa &quot;%1&quot; comunica: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>Il server di stampa &quot;%1&quot; non fornisce &quot;%2&quot;: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>supera %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>la connessione si è interrotta a metà</translation>
+    </message>
+</context>
+<context>
     <name>host::CutPlan</name>
     <message>
         <source>No full cut: the labels come out as one strip.</source>
-        <translation>Nessun taglio completo: le etichette escono in un'unica striscia.</translation>
+        <translation>Nessun taglio completo: le etichette escono in un&apos;unica striscia.</translation>
     </message>
     <message>
         <source>Full cut after the last label.</source>
-        <translation>Taglio completo dopo l'ultima etichetta.</translation>
+        <translation>Taglio completo dopo l&apos;ultima etichetta.</translation>
     </message>
     <message>
         <source>Full cut after every label.</source>
@@ -332,10 +895,191 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Impossibile leggere il documento &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>si è accorciato durante la lettura</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Verrà stampato di nuovo, ma è trattenuto. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>Il lavoro %1 non è stato modificato. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>predefinito della stampante</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>predefinito della coda</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>predefinito personale (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>preimpostazione</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>opzioni di taglio</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>scelto dall&apos;utente</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Lavoro &quot;%1&quot; per &quot;%2&quot; su %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opzioni che vengono inviate:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Trattenuto finché non viene rilasciato.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Trattenuto fino a: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>In attesa del proprio turno.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Stampa in corso.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Fermo; riprende quando la stampante è di nuovo pronta.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annullato.</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>Interrotto dal server di stampa.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Stampato.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Il server comunica: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>tutte</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Striscia di etichette</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etichette</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Pezzi</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Nastro</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Tagli</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo: %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Non ci sono documenti da stampare.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
-        <translation>Impossibile aprire il documento "%1": %2</translation>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Impossibile aprire il documento &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -358,10 +1102,6 @@
         <translation>è cifrato in un modo sconosciuto</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>non è un PDF o è danneggiato</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>non ha pagine</translation>
     </message>
@@ -373,12 +1113,95 @@
         <source>page %1 is longer than %2 m</source>
         <translation>la pagina %1 è più lunga di %2 m</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Impossibile aprire il documento dallo standard input: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>è un&apos;immagine danneggiata</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>ha %1 × %2 pixel, più di quanti se ne possano stampare</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>è un&apos;immagine a cui manca la fine</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Nessun documento indicato</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>può essere letto una volta sola</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standard input</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e %n altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>supera %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>non è un PDF, PNG, JPEG o SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>è un PDF danneggiato</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>non si può salvare in &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>è un SVG danneggiato</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>rimanda a &quot;%1&quot;, e si stampa solo ciò che è contenuto nell&apos;SVG stesso</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>riga %1 dell&apos;SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>è un SVG con più parti di quante se ne possano disegnare</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>contiene un&apos;immagine che non è né PNG né JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>contiene un&apos;immagine danneggiata</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
-        <translation>Impossibile usare il bundle "%1": %2</translation>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Impossibile usare il bundle &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>its library is no library of panels</source>
@@ -386,7 +1209,7 @@
     </message>
     <message>
         <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>è fatto per la versione %1 dell'interfaccia e questo programma ha la %2</translation>
+        <translation>è fatto per la versione %1 dell&apos;interfaccia e questo programma ha la %2</translation>
     </message>
     <message>
         <source>missing or unreadable: %1</source>
@@ -414,17 +1237,28 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Il pannello del bundle &quot;%1&quot; non può essere mostrato: il suo file di layout è inutilizzabile</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
-        <translation>Impossibile aprire il file PPD "%1": %2</translation>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Impossibile aprire il file PPD &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
         <translation>riga %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>supera %1 MB, più di qualsiasi descrizione di stampante</translation>
     </message>
     <message>
@@ -445,18 +1279,210 @@
     </message>
     <message>
         <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>finisce a metà di un'opzione; il file è incompleto</translation>
+        <translation>finisce a metà di un&apos;opzione; il file è incompleto</translation>
+    </message>
+</context>
+<context>
+    <name>host::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Controllo stampante</translation>
     </message>
 </context>
 <context>
     <name>host::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
-        <translation>Pagine "%1" non comprese: scrivere numeri e intervalli come 1-3, 5</translation>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>Pagine &quot;%1&quot; non comprese: scrivere numeri e intervalli come 1-3, 5</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
-        <translation>Impossibile stampare le pagine "%1": l'ultima pagina del documento è %2</translation>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Impossibile stampare le pagine &quot;%1&quot;: l&apos;ultima pagina del documento è %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha alcuna coda o classe &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>La stampante attende etichette o nastro.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Etichette o nastro inceppati.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>Il rotolo di etichette o il nastro è quasi esaurito.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>Il rotolo di etichette o il nastro è esaurito.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>La stampante sta per andare in pausa.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>La coda è in pausa; i lavori attendono.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>La stampante è spenta.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Connessione alla stampante in corso.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>La stampante non risponde.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>La stampante si sta fermando.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Alcune stampanti della classe sono ferme.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>Il toner è quasi esaurito.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>Il toner è esaurito.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>Il server di stampa non ha più spazio.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>Il coperchio della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Un blocco della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>Lo sportello della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Manca la cassetta o il supporto del rotolo.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Manca il vassoio di uscita.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>Il vassoio di uscita è quasi pieno.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Il vassoio di uscita è pieno.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>L&apos;inchiostro o il nastro inchiostrato è quasi esaurito.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>L&apos;inchiostro o il nastro inchiostrato è esaurito.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>Il contenitore degli scarti è quasi pieno.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>Il contenitore degli scarti è pieno.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>La stampante è troppo calda.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>La stampante si sta riscaldando.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>La stampante è fuori linea.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>I nuovi lavori vengono trattenuti.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>La stampante è stata disattivata dall&apos;amministratore.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Manca una parte del driver della stampante.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Una parte del driver della stampante non è installata in modo sicuro.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>In attesa che la stampante termini il lavoro.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>La stampante non rispetta il suo protocollo.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Pronta.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Stampa in corso.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Trovata in rete.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Stato sconosciuto.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>La coda non accetta lavori.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Il server comunica: %1</translation>
     </message>
 </context>
 <context>
@@ -484,8 +1510,8 @@
         <translation>impossibile creare la cartella: %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
-        <translation>Impossibile scrivere "%1": %2</translation>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Impossibile scrivere &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>it is a folder</source>

@@ -2,72 +2,497 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>「kvprint --help」をお試しください。</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>オプション「%1」はありません</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>オプション「%1」に値は指定できません</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>オプション「%1」には値が必要です: %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>オプション「%1」は仮想プリンター用で、「--ppd」が必要です</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H: 「%1」は送信済みのジョブ用で、「-i」が必要です</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>「%1」に文書は指定できませんが、「%2」が指定されています</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>標準入力 (「-」) を印刷できるのは 1 回だけです</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>オプション「%1」と「%2」は同時に指定できません</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>オプション「%1」は次のいずれかと一緒に指定してください: %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>文書が指定されていません。ファイル、または入力する場合は「-」を指定してください</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>値が空です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>「%1」は印刷時刻として使えません。HH:MM または HH:MM:SS (UTC)、または次のいずれかを指定してください: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>「%1」は使えません。次のいずれかを指定してください: %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>用紙が指定されていません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>「%1」は部数として使えません。1 から %2 までで指定してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>「%1」は優先度として使えません。1 (最後) から 100 (最初) までで指定してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>「%1」はキューを指していません。QUEUE または QUEUE/INSTANCE と書いてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>「%1」はジョブではありません。ジョブ番号、または送信時に表示された QUEUE-NUMBER を指定してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>「%1」はオプションを指していません。NAME=VALUE と書いてください</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 ～ %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>用紙の幅</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>プリンターが指定されていません: --ppd FILE が必要です</translation>
+        <source>Paper length</source>
+        <translation>用紙の長さ</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>文書が指定されていません</translation>
+        <source>Wi&amp;dth</source>
+        <translation>幅(&amp;D)</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>一度に印刷できる文書は 1 つです (%1 個指定されました)</translation>
+        <source>&amp;Length</source>
+        <translation>長さ(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>プリンタークラス: %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>「kvprint --help」をお試しください。</translation>
+        <source>P&amp;rinter</source>
+        <translation>プリンター(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>プリンターがありません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>プリントサーバーの応答を待っています…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>前回: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>プリントサーバーが応答しません。前回: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(既定)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>クラスの構成: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>オプション、プレビュー、概要</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>プレビュー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>概要(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>ジョブ(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>送信内容(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>オプション(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>「%1」には %n 文字以上が必要です。それまでは元の設定のままです。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>プリントサーバー「%1」に印刷先がありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>「%1」はほかのカットオプションとの組み合わせで「%2」にできないため、「%3」として印刷されます</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>解決方法: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>印刷する時刻</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>キューの設定に従う</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>1 から 100 まで。優先度の高いジョブが先に印刷されます</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>ジョブ名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>印刷の向き(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>印刷のタイミング(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>優先度(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>プリンターの設定に従う</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>横 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>縦 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>今すぐ</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>保留を解除したとき</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>時刻を指定</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>夕方</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>ジョブを送信しました。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>ジョブをキャンセル(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>オプションのグループ</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>このプリンターにほかのオプションはありません。</translation>
     </message>
 </context>
 <context>
@@ -96,10 +521,6 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>一度に印刷できるラベルは %1 枚までです</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>すべて</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
@@ -123,10 +544,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>幅 %1、長さ %2</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>用紙(&amp;A)</translation>
     </message>
@@ -138,16 +555,64 @@
         <source>Search papers</source>
         <translation>用紙を検索</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>カスタム、%1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>文書のサイズを使う: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>幅 %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>幅 %1、長さ %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>カスタムサイズ…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>プリントサーバーのパスワード</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>ユーザー名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>パスワード(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>%1 の印刷</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>オプション、プレビュー、概要</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +623,109 @@
         <translation>プリンター: %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>概要(&amp;S)</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>「%1」の設定を保存できません: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>「%1」はこの設定での印刷を許可していません。</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>印刷</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>文書</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>用紙</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>ラベルの帯</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>ラベル</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>切り離し片</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>テープ</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>カット</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>ページのプレビュー(&amp;V)</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>カットオプションを表示できません。%1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>プリンターの記述がないため、用紙とカットの情報がありません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>プリンターの記述を待っています…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>プリンターが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>プリントサーバーの応答を待っています…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>これらの設定をすべて同時に使うことはできません。</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>このまま印刷</translation>
     </message>
 </context>
 <context>
     <name>dialog::PrintRun</name>
     <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 ほか %2 件</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>PPD ファイル「%1」に用紙「%2」はありません。使える用紙: %3</translation>
     </message>
     <message>
-        <source>The PPD file "%1" names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
         <translation>PPD ファイル「%1」に用紙がありません</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>カットのオプションを表示できません。%1</translation>
-    </message>
-    <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>バンドル「%1」はパネルを作成できませんでした</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>ラベルの帯の保存先:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>送信を中止</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>「%1」を送信中</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>設定元</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>ジョブのオプション</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>コマンドラインでの同じジョブ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>コピー(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>コマンドをコピー</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +748,82 @@
     <message>
         <source>Summary</source>
         <translation>概要</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>PPD ファイルに用紙がありません</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>プリンター「%1」にオプション「%2」はありません。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>プリンター「%1」に用紙「%2」はありません。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>プリンター「%2」のオプション「%1」に選択肢「%3」はありません。使える選択肢: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>「%1: %2」</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>このプリンターは%1に対応していません。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1と%2は同時に使えません。</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>「%1」を「%2」にする</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>要求により中止しました。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>プリントサーバー「%1」が応答しません。</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>プリントサーバー「%1」に接続できません: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>プリントサーバー「%1」との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>プリントサーバー「%1」からのメッセージ: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>プリントサーバー「%1」から「%2」を取得できません: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>%1 MB を超えています</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>途中で接続が切れました</translation>
     </message>
 </context>
 <context>
@@ -332,9 +883,190 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>文書「%1」を読めません: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>読み込み中に短くなりました</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>再印刷の対象ですが、保留されています。%1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>ジョブ %1 は変更されませんでした。%2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>キューの既定値</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>ユーザーの既定値 (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>カットオプション</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>ユーザーの設定</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>ジョブ「%1」、送信先「%2」(%3)
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>送信されるオプション:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>保留中。解除されるまで待ちます。</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>%1 まで保留中。</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>順番を待っています。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>印刷中。</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>停止中。プリンターの準備ができると再開します。</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>キャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>プリントサーバーが中止しました。</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>印刷しました。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>サーバーからのメッセージ: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>ラベルの帯</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>切り離し片</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>テープ</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>カット</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください: %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>印刷する文書がありません。</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
         <translation>文書「%1」を開けません: %2</translation>
     </message>
     <message>
@@ -358,10 +1090,6 @@
         <translation>未知の方式で暗号化されています</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>PDF ではないか、壊れています</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>ページがありません</translation>
     </message>
@@ -373,11 +1101,93 @@
         <source>page %1 is longer than %2 m</source>
         <translation>%1 ページは %2 m を超えています</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>標準入力の文書を開けません: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>画像が壊れています</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>%1 × %2 ピクセルあり、印刷できる大きさを超えています</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>画像の終わりが欠けています</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>文書が指定されていません</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>読み込めるのは 1 回だけです</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>%1 を超えています</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>PDF、PNG、JPEG、SVG のいずれでもありません</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>PDF が壊れています</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>「%1」に保存できません: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>SVG が壊れています</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>「%1」を参照していますが、印刷されるのは SVG 自体の内容だけです</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>SVG の %1 行目: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>SVG の要素が多すぎて描画できません</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>PNG でも JPEG でもない画像を含んでいます</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>壊れた画像を含んでいます</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
         <translation>バンドル「%1」を使えません: %2</translation>
     </message>
     <message>
@@ -414,9 +1224,20 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>バンドル「%1」はパネルを作成できませんでした</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
         <translation>PPD ファイル「%1」を開けません: %2</translation>
     </message>
     <message>
@@ -424,7 +1245,7 @@
         <translation>%1 行目: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>%1 MB を超えており、プリンターの記述としては大きすぎます</translation>
     </message>
     <message>
@@ -449,14 +1270,206 @@
     </message>
 </context>
 <context>
+    <name>host::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>プリンター制御</translation>
+    </message>
+</context>
+<context>
     <name>host::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
         <translation>ページ「%1」を理解できません: 1-3, 5 のように入力してください</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>ページ「%1」を印刷できません: 最後のページは %2 です</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>「%1」の設定を保存できません: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>「%1」はこの設定での印刷を許可していません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」にキューまたはクラス「%2」はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>ラベルまたはテープの補給を待っています。</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>ラベルまたはテープが詰まっています。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>ラベルロールまたはテープの残りがわずかです。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>ラベルロールまたはテープがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>プリンターは一時停止するところです。</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>キューは一時停止中です。ジョブは待機します。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>プリンターの電源が切れています。</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>プリンターに接続中。</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>プリンターが応答しません。</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>プリンターを停止しています。</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>クラスの一部のプリンターが停止しています。</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>トナーの残りがわずかです。</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>トナーがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>プリントサーバーに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>プリンターのカバーが開いています。</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>プリンターのロックが外れています。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>プリンターのドアが開いています。</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>カセットまたはロールホルダーがありません。</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>排紙トレイがありません。</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>排紙トレイがもうすぐいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>排紙トレイがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>インクまたはインクリボンの残りがわずかです。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>インクまたはインクリボンがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>回収ボックスがもうすぐいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>回収ボックスがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>プリンターが熱くなりすぎています。</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>プリンターはウォームアップ中です。</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>プリンターはオフラインです。</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>新しいジョブは保留されます。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>プリンターは管理者によって無効にされています。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>プリンタードライバーの一部がありません。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>プリンタードライバーの一部が安全にインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>プリンターがジョブを終えるのを待っています。</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>プリンターがプロトコルに従っていません。</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>準備完了。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>印刷中。</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>ネットワークで見つかりました。</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>状態は不明です。</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>キューはジョブを受け付けていません。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>サーバーからのメッセージ: %1</translation>
     </message>
 </context>
 <context>
@@ -484,7 +1497,7 @@
         <translation>フォルダーを作成できません: %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
+        <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>「%1」に書き込めません: %2</translation>
     </message>
     <message>

@@ -2,72 +2,498 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>niet ingesteld</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>Probeer &quot;kvprint --help&quot;.</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>De optie &quot;%1&quot; bestaat niet</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>De optie &quot;%1&quot; heeft geen waarde</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>De optie &quot;%1&quot; heeft een waarde nodig: %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>De optie &quot;%1&quot; betreft de virtuele printer en heeft &quot;--ppd&quot; nodig</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H: &quot;%1&quot; betreft een eerder verzonden taak en heeft &quot;-i&quot; nodig</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>&quot;%1&quot; neemt geen documenten, maar &quot;%2&quot; is opgegeven</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>De standaardinvoer (&quot;-&quot;) kan maar één keer worden afgedrukt</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>De optie &quot;%1&quot; gaat niet samen met &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>De optie &quot;%1&quot; kan alleen samen met een van: %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>Geen document opgegeven; noem een bestand, of &quot;-&quot; om er een in te typen</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>de waarde is leeg</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>&quot;%1&quot; is geen tijdstip om af te drukken; schrijf HH:MM of HH:MM:SS (UTC), of een van: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>&quot;%1&quot; is niet mogelijk; het moet een zijn van: %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>er is geen papier opgegeven</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>&quot;%1&quot; is geen aantal exemplaren; het moet van 1 tot %2 zijn</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>&quot;%1&quot; is geen prioriteit; die moet van 1 (laatst) tot 100 (eerst) zijn</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>&quot;%1&quot; noemt geen wachtrij; schrijf QUEUE of QUEUE/INSTANCE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>&quot;%1&quot; is geen taak; schrijf het nummer, of QUEUE-NUMBER zoals bij het verzenden gemeld</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>&quot;%1&quot; noemt geen optie; schrijf NAME=VALUE</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 tot %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>Papierbreedte</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>Geen printer opgegeven: --ppd BESTAND ontbreekt</translation>
+        <source>Paper length</source>
+        <translation>Papierlengte</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>Geen document opgegeven</translation>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Breedte</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>Er kan maar één document tegelijk worden afgedrukt; er zijn er %1 opgegeven</translation>
+        <source>&amp;Length</source>
+        <translation>&amp;Lengte</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Printerklasse: %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>Probeer "kvprint --help".</translation>
+        <source>P&amp;rinter</source>
+        <translation>P&amp;rinter</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Die printer bestaat niet.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Wachten op antwoord van de printserver…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>De vorige keer: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>De printserver antwoordt niet. De vorige keer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(standaard)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>Klasse van: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opties, voorbeeld en samenvatting</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Pagina&amp;voorbeeld</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Samenvatting</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Taa&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>Te ver&amp;zenden</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opties</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>&quot;%1&quot; heeft minstens %n teken nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
+            <numerusform>&quot;%1&quot; heeft minstens %n tekens nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>De printserver &quot;%1&quot; heeft geen bestemming om op af te drukken</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>&quot;%1&quot; kan samen met de andere snijopties niet &quot;%2&quot; zijn en wordt als &quot;%3&quot; afgedrukt</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>Dit zou helpen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Tijdstip van afdrukken</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Standaard van de wachtrij</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>Van 1 tot 100; taken met een hogere prioriteit worden vóór andere afgedrukt</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Taak&amp;naam</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Afdr&amp;ukstand</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Wanneer</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>Pr&amp;ioriteit</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Standaard van de printer</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Staand</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Liggend</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Liggend omgekeerd</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Staand omgekeerd</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Als ik de taak vrijgeef</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Op een tijdstip</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Overdag</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>&apos;s Avonds</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>&apos;s Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Tijdens de tweede dienst</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Tijdens de derde dienst</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>In het weekend</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>De taak is verzonden.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 op %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Taak %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>&amp;Taak annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>inch</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Groepen opties</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Deze printer heeft geen andere opties.</translation>
     </message>
 </context>
 <context>
@@ -78,11 +504,11 @@
     </message>
     <message>
         <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>Eerst alle pagina's één keer, dan opnieuw; anders alle exemplaren van een pagina bij elkaar</translation>
+        <translation>Eerst alle pagina&apos;s één keer, dan opnieuw; anders alle exemplaren van een pagina bij elkaar</translation>
     </message>
     <message>
         <source>all, or for example 1-3, 5</source>
-        <translation>alle, of bijvoorbeeld 1-3, 5</translation>
+        <translation>alle, of bijv. 1-3, 5</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
@@ -90,15 +516,11 @@
     </message>
     <message>
         <source>Pa&amp;ges</source>
-        <translation>Pa&amp;gina's</translation>
+        <translation>Pa&amp;gina&apos;s</translation>
     </message>
     <message>
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>Zoveel labels kunnen niet tegelijk worden afgedrukt: een taak heeft er hoogstens %1</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>alle</translation>
     </message>
 </context>
 <context>
@@ -123,10 +545,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 breed, %2 lang</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>P&amp;apier</translation>
     </message>
@@ -138,16 +556,64 @@
         <source>Search papers</source>
         <translation>Papier zoeken</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Aangepast, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Documentgrootte gebruiken: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Een aangepast formaat</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 breed</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 breed, %2 lang</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Aangepast formaat…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Wachtwoord voor de printserver</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>&amp;Gebruikersnaam</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Wachtwoord</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>%1 afdrukken</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opties, voorbeeld en samenvatting</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +624,109 @@
         <translation>Printer: %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>&amp;Samenvatting</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>"%1" kan de instellingen niet opslaan: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>"%1" laat de taak met deze instellingen niet afdrukken.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Afdrukken</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Document</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Printer</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pagina's</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Exemplaren</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Labelstrook</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Labels</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Stukken</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Tape</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Sneden</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Pagina&amp;voorbeeld</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuleren</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 en nog %2</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>Het PPD-bestand "%1" heeft geen papier "%2"; wel: %3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>Het PPD-bestand "%1" noemt geen papier om op af te drukken</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>De snijopties kunnen niet worden getoond. %1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>De bundel "%1" kon zijn paneel niet maken</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>De printer heeft geen beschrijving; het papier en de sneden zijn hier daarom niet bekend.</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>Het paneel van de bundel "%1" kan niet worden getoond: het opmaakbestand is onbruikbaar</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Wachten op de beschrijving van de printer…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Er is geen printer gekozen.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Wachten op antwoord van de printserver…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>De printer kan dit niet allemaal tegelijk.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Toch afdrukken</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>Het PPD-bestand &quot;%1&quot; heeft geen papier &quot;%2&quot;; wel: %3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>Het PPD-bestand &quot;%1&quot; noemt geen papier om op af te drukken</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>De labelstrook staat in:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Verzenden stoppen</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; wordt verzonden</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Optie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Herkomst</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Verzonden</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opties van de taak</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>Dezelfde taak op de o&amp;pdrachtregel</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Kop&amp;iëren</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>De opdracht kopiëren</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nee</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +749,82 @@
     <message>
         <source>Summary</source>
         <translation>Samenvatting</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Het PPD-bestand noemt geen papier om op af te drukken</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>De printer &quot;%1&quot; heeft geen optie &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>De printer &quot;%1&quot; heeft geen papier &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>De optie &quot;%1&quot; van de printer &quot;%2&quot; heeft geen keuze &quot;%3&quot;; wel: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>&quot;%1: %2&quot;</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Deze printer kan %1 niet aan.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 en %2 sluiten elkaar uit.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>zet &quot;%1&quot; op &quot;%2&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>Op verzoek afgebroken.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>De printserver &quot;%1&quot; antwoordt niet.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Kan geen verbinding maken met de printserver &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>De verbinding met de printserver &quot;%1&quot; is verbroken.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>De printserver &quot;%1&quot; meldt: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>De printserver &quot;%1&quot; levert &quot;%2&quot; niet: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>het bestand is groter dan %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>de verbinding werd halverwege verbroken</translation>
     </message>
 </context>
 <context>
@@ -332,10 +884,191 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Kan het document &quot;%1&quot; niet lezen: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het is leeg</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>het is tijdens het lezen korter geworden</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>De taak moet opnieuw worden afgedrukt, maar wordt vastgehouden. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>Taak %1 is niet gewijzigd. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>standaard van de printer</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>standaard van de wachtrij</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>uw standaard (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>voorinstelling</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>snijopties</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>door u ingesteld</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Taak &quot;%1&quot; voor &quot;%2&quot; op %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opties die worden verzonden:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Vastgehouden tot de taak wordt vrijgegeven.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Vastgehouden tot %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>Staat in de wachtrij.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Wordt afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Gestopt; de taak gaat verder als de printer weer gereed is.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Geannuleerd.</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>Door de printserver afgebroken.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Afgedrukt.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>De server meldt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplaren</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Labelstrook</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Stukken</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Tape</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Sneden</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt: %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Er is geen document om af te drukken.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
-        <translation>Kan het document "%1" niet openen: %2</translation>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Kan het document &quot;%1&quot; niet openen: %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -358,12 +1091,8 @@
         <translation>het is op een onbekende manier versleuteld</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>het is geen PDF, of een beschadigde</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
-        <translation>het heeft geen pagina's</translation>
+        <translation>het heeft geen pagina&apos;s</translation>
     </message>
     <message>
         <source>page %1 has no area</source>
@@ -373,12 +1102,95 @@
         <source>page %1 is longer than %2 m</source>
         <translation>pagina %1 is langer dan %2 m</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Kan het document van de standaardinvoer niet openen: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>het is een beschadigde afbeelding</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>het heeft %1 × %2 pixels, meer dan kan worden afgedrukt</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>het is een afbeelding waarvan het einde ontbreekt</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Er is geen document opgegeven</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>die kan maar één keer worden gelezen</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standaardinvoer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 en nog %n</numerusform>
+            <numerusform>%1 en nog %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>het is groter dan %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>het is geen PDF, PNG, JPEG of SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>het is een beschadigde PDF</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>het kan niet in &quot;%1&quot; worden bewaard: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>het is een beschadigde SVG</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>het verwijst naar &quot;%1&quot;, en alleen wat in de SVG zelf staat wordt afgedrukt</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>regel %1 van de SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>het is een SVG met meer onderdelen dan kunnen worden getekend</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>het bevat een afbeelding die geen PNG of JPEG is</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>het bevat een beschadigde afbeelding</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>het bevat afbeeldingen met meer pixels dan kunnen worden afgedrukt</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
-        <translation>Kan de bundel "%1" niet gebruiken: %2</translation>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Kan de bundel &quot;%1&quot; niet gebruiken: %2</translation>
     </message>
     <message>
         <source>its library is no library of panels</source>
@@ -414,17 +1226,28 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>De bundel &quot;%1&quot; kon zijn paneel niet maken</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Het paneel van de bundel &quot;%1&quot; kan niet worden getoond: het opmaakbestand is onbruikbaar</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
-        <translation>Kan het PPD-bestand "%1" niet openen: %2</translation>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Kan het PPD-bestand &quot;%1&quot; niet openen: %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
         <translation>regel %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>het is groter dan %1 MB, meer dan enige printerbeschrijving</translation>
     </message>
     <message>
@@ -449,14 +1272,206 @@
     </message>
 </context>
 <context>
-    <name>host::PrintOrder</name>
+    <name>host::PpdOptions</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
-        <translation>De pagina's "%1" zijn onbegrijpelijk: schrijf getallen en bereiken zoals 1-3, 5</translation>
+        <source>General</source>
+        <translation>Algemeen</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
-        <translation>Kan de pagina's "%1" niet afdrukken: de laatste pagina van het document is %2</translation>
+        <source>Printer control</source>
+        <translation>Printerbesturing</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>De pagina&apos;s &quot;%1&quot; zijn onbegrijpelijk: schrijf getallen en bereiken zoals 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Kan de pagina&apos;s &quot;%1&quot; niet afdrukken: de laatste pagina van het document is %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; heeft geen wachtrij of klasse &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>De printer wacht op labels of tape.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Labels of tape zijn vastgelopen.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>De labelrol of tape is bijna op.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>De labelrol of tape is op.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>De printer wordt zo gepauzeerd.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>De wachtrij is gepauzeerd; taken wachten.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>De printer is uitgeschakeld.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Verbinding met de printer wordt gemaakt.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>De printer reageert niet.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>De printer stopt.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Enkele printers van de klasse zijn gestopt.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>De toner is bijna op.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>De toner is op.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>De printserver heeft geen ruimte meer.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>De klep van de printer staat open.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Een vergrendeling van de printer staat open.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>De deur van de printer staat open.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>De cassette of rolhouder ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>De uitvoerlade ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>De uitvoerlade is bijna vol.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>De uitvoerlade is vol.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>De inkt of het lint is bijna op.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>De inkt of het lint is op.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>De afvalbak is bijna vol.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>De afvalbak is vol.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>De printer is te heet.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>De printer warmt op.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>De printer is offline.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Nieuwe taken worden vastgehouden.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>De printer is door de beheerder uitgeschakeld.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Een deel van het printerstuurprogramma ontbreekt.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Een deel van het printerstuurprogramma is niet veilig geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Wachten tot de printer de taak heeft voltooid.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>De printer houdt zich niet aan zijn protocol.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Gereed.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Bezig met afdrukken.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Op het netwerk gevonden.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Toestand onbekend.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>De wachtrij accepteert geen taken.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>De server meldt: %1</translation>
     </message>
 </context>
 <context>
@@ -484,8 +1499,8 @@
         <translation>de map kan niet worden gemaakt: %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
-        <translation>Kan "%1" niet schrijven: %2</translation>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Kan &quot;%1&quot; niet schrijven: %2</translation>
     </message>
     <message>
         <source>it is a folder</source>

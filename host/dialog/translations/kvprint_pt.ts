@@ -2,72 +2,508 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>não definido</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>Experimente &quot;kvprint --help&quot;.</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation>Uso: kvprint [OPÇÃO]... [--] [DOCUMENTO]...
+     kvprint -i [FILA-]TRABALHO [OPÇÃO]...
+     kvprint --list | --summary | --dry-run [OPÇÃO]... [--] [DOCUMENTO]...
+</translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation>Imprime documentos em impressoras de etiquetas, com uma janela para papel, páginas e cortes que mostra a tira de etiquetas tal como vai sair. Sem ecrã imprime de imediato. PDF, PNG, JPEG e SVG; &quot;-&quot; ou nada é a entrada padrão.</translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation>Opções:
+</translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation>Termina as opções: o que se segue são documentos.</translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation>Estado de saída:
+  0  impresso, ou mostrado o que foi pedido
+  1  algo não pôde ser aberto, usado, enviado ou escrito; nada foi impresso
+  2  a linha de comandos não foi entendida
+  3  impresso, mas sem o painel de opções de corte
+  4  cancelado na janela
+</translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>A opção &quot;%1&quot; não existe</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>A opção &quot;%1&quot; não aceita valores</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>A opção &quot;%1&quot; precisa de um valor: %2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>A opção &quot;%1&quot; é para a impressora virtual e precisa de &quot;--ppd&quot;</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H: &quot;%1&quot; refere-se a um trabalho já enviado e precisa de &quot;-i&quot;</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>&quot;%1&quot; não aceita documentos e foi indicado &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>A entrada padrão (&quot;-&quot;) só pode ser impressa uma vez</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>A opção &quot;%1&quot; não é compatível com &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>A opção &quot;%1&quot; só é aceite em conjunto com uma destas: %2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>Não foi indicado nenhum documento; indique um ficheiro, ou &quot;-&quot; para o escrever</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>o valor está vazio</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>&quot;%1&quot; não é uma hora de impressão; escreva HH:MM ou HH:MM:SS (UTC), ou uma destas palavras: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>&quot;%1&quot; não é possível; tem de ser um destes valores: %2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>não indica nenhum papel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>&quot;%1&quot; não é um número de cópias; tem de estar entre 1 e %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>&quot;%1&quot; não é uma prioridade; tem de estar entre 1 (último) e 100 (primeiro)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>&quot;%1&quot; não indica nenhuma fila; escreva FILA ou FILA/INSTÂNCIA</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>&quot;%1&quot; não é um trabalho; escreva o seu número, ou FILA-NÚMERO como foi mostrado ao enviá-lo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>&quot;%1&quot; não indica nenhuma opção; escreva NOME=VALOR</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>de %1 a %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>Largura do papel</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>Nenhuma impressora indicada: falta --ppd FICHEIRO</translation>
+        <source>Paper length</source>
+        <translation>Comprimento do papel</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>Nenhum documento indicado</translation>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Largura</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>Só é possível imprimir um documento de cada vez e foram indicados %1</translation>
+        <source>&amp;Length</source>
+        <translation>Comprimen&amp;to</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Classe de impressoras: %1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>Experimente "kvprint --help".</translation>
+        <source>P&amp;rinter</source>
+        <translation>I&amp;mpressora</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impressora</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Essa impressora não existe.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>A aguardar a resposta do servidor de impressão…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>Da última vez: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>O servidor de impressão não responde. Da última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(predefinida)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>Classe composta por: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opções, pré-visualização e resumo</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Pré-&amp;visualização</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Re&amp;sumo</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Tra&amp;balho</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>O que s&amp;erá enviado</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opções</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>&quot;%1&quot; precisa de, pelo menos, %n carácter. Até lá, a definição fica como estava.</numerusform>
+            <numerusform>&quot;%1&quot; precisa de, pelo menos, %n caracteres. Até lá, a definição fica como estava.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>O servidor de impressão &quot;%1&quot; não tem nenhum destino onde imprimir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>&quot;%1&quot; não pode ser &quot;%2&quot; com as outras opções de corte e é impresso como &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>Solução possível: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Hora de impressão</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Conforme a fila</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>De 1 a 100; os trabalhos com maior prioridade são impressos antes dos outros</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Nome do trabal&amp;ho</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Orie&amp;ntação</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Quando imprimir</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Prioridade</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Conforme a impressora</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Horizontal invertida</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Vertical invertida</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Quando eu o libertar</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A uma hora determinada</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante o dia</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Ao fim do dia</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Durante a noite</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>No segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>No terceiro turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>No fim de semana</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>O trabalho foi enviado.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 em %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Trabalho %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Cancelar o &amp;trabalho</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>pol.</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Grupos de opções</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Esta impressora não tem outras opções.</translation>
     </message>
 </context>
 <context>
@@ -96,10 +532,6 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>Não é possível imprimir tantas etiquetas de uma vez: um trabalho tem no máximo %1</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>todas</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
@@ -123,10 +555,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 de largura, %2 de comprimento</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>P&amp;apel</translation>
     </message>
@@ -138,16 +566,64 @@
         <source>Search papers</source>
         <translation>Procurar papéis</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personalizado, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Usar o tamanho do documento: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Um tamanho personalizado</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 de largura</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 de largura, %2 de comprimento</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Tamanho personalizado…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Palavra-passe do servidor de impressão</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nome de &amp;utilizador</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Palavra-passe</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>Imprimir %1</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opções, pré-visualização e resumo</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +634,109 @@
         <translation>Impressora: %1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>Re&amp;sumo</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>"%1" não consegue guardar as definições: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>"%1" não permite imprimir o trabalho com estas definições.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impressão</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Impressora</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papel</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Páginas</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Cópias</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Tira de etiquetas</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etiquetas</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Peças</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Fita</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Cortes</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Pré-&amp;visualização</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 e mais %2</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>O ficheiro PPD "%1" não tem o papel "%2"; tem: %3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>O ficheiro PPD "%1" não indica nenhum papel</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>Não é possível mostrar as opções de corte. %1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>O pacote "%1" não conseguiu criar o seu painel</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>A impressora não tem descrição, pelo que os seus papéis e cortes não são conhecidos.</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>Não é possível mostrar o painel do pacote "%1": o ficheiro de disposição não serve</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>A aguardar a descrição da impressora…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Não foi escolhida nenhuma impressora.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>A aguardar a resposta do servidor de impressão…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>A impressora não consegue fazer tudo isto em conjunto.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Imprimir mesmo assim</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>O ficheiro PPD &quot;%1&quot; não tem o papel &quot;%2&quot;; tem: %3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>O ficheiro PPD &quot;%1&quot; não indica nenhum papel</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>A tira de etiquetas está em:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Parar o envio</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>A enviar &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Opção</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origem</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opções do trabalho</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>O mesmo trabalho na li&amp;nha de comandos</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copiar o comando</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sim</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>não</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp não consegue exprimir estas opções tal como são enviadas: %1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +759,82 @@
     <message>
         <source>Summary</source>
         <translation>Resumo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>O ficheiro PPD não indica nenhum papel</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>A impressora &quot;%1&quot; não tem a opção &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>A impressora &quot;%1&quot; não tem o papel &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>A opção &quot;%1&quot; da impressora &quot;%2&quot; não tem a escolha &quot;%3&quot;; tem: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>&quot;%1: %2&quot;</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Esta impressora não permite %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 e %2 excluem-se mutuamente.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>definir &quot;%1&quot; como &quot;%2&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>Interrompido a pedido.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>O servidor de impressão &quot;%1&quot; não responde.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Não é possível ligar ao servidor de impressão &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>A ligação ao servidor de impressão &quot;%1&quot; foi interrompida.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>O servidor de impressão &quot;%1&quot; indica: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>O servidor de impressão &quot;%1&quot; não fornece &quot;%2&quot;: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>tem mais de %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>a ligação foi interrompida a meio</translation>
     </message>
 </context>
 <context>
@@ -332,10 +894,191 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Não é possível ler o documento &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>não é um ficheiro</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vazio</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>ficou mais curto enquanto era lido</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Vai ser impresso de novo, mas está retido. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>O trabalho %1 não foi alterado. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Nenhum servidor de impressão consegue transmitir a escolha &quot;%1&quot; da opção &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>predefinido da impressora</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>predefinido da fila</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>predefinido do utilizador (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>predefinição</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>opções de corte</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>escolhido pelo utilizador</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Trabalho &quot;%1&quot; para &quot;%2&quot; em %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opções que são enviadas:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Retido até ser libertado.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Retido até: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>A aguardar a sua vez.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>A imprimir.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Parado; continua quando a impressora estiver de novo pronta.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>Interrompido pelo servidor de impressão.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Impresso.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>O servidor indica: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impressão</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impressora</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todas</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Cópias</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Tira de etiquetas</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Peças</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Fita</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Cortes</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 Não foi possível retirar o trabalho %2-%3; verifique a fila antes de voltar a imprimir: %4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Não há nenhum documento para imprimir.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Nenhum servidor de impressão consegue transmitir a escolha &quot;%1&quot; da opção &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
-        <translation>Não é possível abrir o documento "%1": %2</translation>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Não é possível abrir o documento &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -358,10 +1101,6 @@
         <translation>está cifrado de um modo desconhecido</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>não é um PDF ou está danificado</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>não tem páginas</translation>
     </message>
@@ -373,12 +1112,95 @@
         <source>page %1 is longer than %2 m</source>
         <translation>a página %1 tem mais de %2 m</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Não é possível abrir o documento da entrada padrão: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>é uma imagem danificada</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>tem %1 × %2 píxeis, mais do que se pode imprimir</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>é uma imagem a que falta o fim</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Não é indicado nenhum documento</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>só pode ser lido uma vez</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrada padrão</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e mais %n</numerusform>
+            <numerusform>%1 e mais %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>ultrapassa %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>não é PDF, PNG, JPEG nem SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>o ficheiro mudou desde que foi aberto; abra-o de novo</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>é um PDF danificado</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>não é possível guardar em &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>é um SVG danificado</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>refere-se a &quot;%1&quot;, e só se imprime o que está no próprio SVG</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>linha %1 do SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>é um SVG com mais partes do que se pode desenhar</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>contém uma imagem que não é PNG nem JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>contém uma imagem danificada</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>contém imagens com mais píxeis do que se pode imprimir</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
-        <translation>Não é possível usar o pacote "%1": %2</translation>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Não é possível usar o pacote &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>its library is no library of panels</source>
@@ -414,17 +1236,28 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>O pacote &quot;%1&quot; não conseguiu criar o seu painel</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Não é possível mostrar o painel do pacote &quot;%1&quot;: o ficheiro de disposição não serve</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
-        <translation>Não é possível abrir o ficheiro PPD "%1": %2</translation>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Não é possível abrir o ficheiro PPD &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
         <translation>linha %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>tem mais de %1 MB, mais do que qualquer descrição de impressora</translation>
     </message>
     <message>
@@ -449,14 +1282,206 @@
     </message>
 </context>
 <context>
-    <name>host::PrintOrder</name>
+    <name>host::PpdOptions</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
-        <translation>Não se entendem as páginas "%1": escreva números e intervalos como 1-3, 5</translation>
+        <source>General</source>
+        <translation>Geral</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
-        <translation>Não é possível imprimir as páginas "%1": a última página do documento é %2</translation>
+        <source>Printer control</source>
+        <translation>Controlo da impressora</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>Não se entendem as páginas &quot;%1&quot;: escreva números e intervalos como 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Não é possível imprimir as páginas &quot;%1&quot;: a última página do documento é %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; não consegue guardar as definições: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>&quot;%1&quot; não permite imprimir o trabalho com estas definições.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>O servidor de impressão &quot;%1&quot; não tem nenhuma fila ou classe &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>A impressora aguarda etiquetas ou fita.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Etiquetas ou fita encravadas.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>O rolo de etiquetas ou a fita está quase a acabar.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>O rolo de etiquetas ou a fita acabou.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>A impressora está prestes a entrar em pausa.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>A fila está em pausa; os trabalhos aguardam.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>A impressora está desligada.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>A ligar à impressora.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>A impressora não responde.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>A impressora está a parar.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Algumas impressoras da classe estão paradas.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>O toner está quase a acabar.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>O toner acabou.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>O servidor de impressão não tem espaço livre.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>A tampa da impressora está aberta.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Um fecho da impressora está aberto.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>A porta da impressora está aberta.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Falta a cassete ou o suporte do rolo.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Falta o tabuleiro de saída.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>O tabuleiro de saída está quase cheio.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>O tabuleiro de saída está cheio.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>A tinta ou a fita de tinta está quase a acabar.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>A tinta ou a fita de tinta acabou.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>O depósito de resíduos está quase cheio.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>O depósito de resíduos está cheio.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>A impressora está demasiado quente.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>A impressora está a aquecer.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>A impressora está offline.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Os novos trabalhos ficam retidos.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>A impressora foi desativada pelo administrador.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Falta uma parte do controlador da impressora.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Uma parte do controlador da impressora não está instalada de forma segura.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>A aguardar que a impressora termine o trabalho.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>A impressora não cumpre o seu protocolo.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Pronta.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>A imprimir.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Encontrada na rede.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Estado desconhecido.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>A fila não aceita trabalhos.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>O servidor indica: %1</translation>
     </message>
 </context>
 <context>
@@ -484,8 +1509,8 @@
         <translation>não é possível criar a pasta: %1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
-        <translation>Não é possível escrever "%1": %2</translation>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Não é possível escrever &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>it is a folder</source>

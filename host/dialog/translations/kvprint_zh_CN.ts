@@ -2,72 +2,507 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>dialog::ChoiceControl</name>
+    <message>
+        <source>not set</source>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <comment>a choice whose value is still to be given</comment>
+        <translation>%1…</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
+        <source>Try &quot;kvprint --help&quot;.</source>
+        <translation>请尝试“kvprint --help”。</translation>
+    </message>
+    <message>
+        <source>Usage: kvprint [OPTION]... [--] [DOCUMENT]...
+       kvprint -i [QUEUE-]JOB [OPTION]...
+       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</source>
+        <translation>用法: kvprint [选项]... [--] [文档]...
+      kvprint -i [队列-]作业 [选项]...
+      kvprint --list | --summary | --dry-run [选项]... [--] [文档]...
+</translation>
+    </message>
+    <message>
+        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <translation>在标签打印机上打印文档，并提供选择纸张、页面和裁切的对话框，按实际输出显示标签带。没有显示器时直接打印。支持 PDF、PNG、JPEG 和 SVG；“-”或不指定文档表示标准输入。</translation>
+    </message>
+    <message>
+        <source>Options:
+</source>
+        <translation>选项：
+</translation>
+    </message>
+    <message>
+        <source>Ends the options: what follows are documents.</source>
+        <translation>选项到此结束：其后均为文档。</translation>
+    </message>
+    <message>
         <source>Exit status:
-  0  printed
-  1  something could not be opened, used or written; nothing was printed
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed
   2  the command line was not understood
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished" />
+        <translation>退出状态：
+  0  已打印，或已显示所请求的内容
+  1  某项无法打开、使用、发送或写入；未打印任何内容
+  2  无法理解命令行
+  3  已打印，但没有裁切选项面板
+  4  已在对话框中取消
+</translation>
     </message>
     <message>
-        <source>Prints the pages of a PDF as labels, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once.</source>
-        <translation type="unfinished" />
+        <source>There is no option &quot;%1&quot;</source>
+        <translation>没有选项“%1”</translation>
     </message>
     <message>
-        <source>The printer's PPD file, plain or gzip. Required.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; takes no value</source>
+        <translation>选项“%1”不带值</translation>
     </message>
     <message>
-        <source>The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes. The PPD's default without it.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <translation>选项“%1”需要一个值：%2</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished" />
+        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <translation>选项“%1”用于虚拟打印机，需要“--ppd”</translation>
     </message>
     <message>
-        <source>The folder for strip.pdf and job.json, made when it is not there. A new folder among the user's data without it.</source>
-        <translation type="unfinished" />
+        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <translation>-H：“%1”用于已发送的作业，需要“-i”</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished" />
+        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <translation>“%1”不接受文档，却指定了“%2”</translation>
+    </message>
+    <message>
+        <source>Standard input (&quot;-&quot;) can be printed only once</source>
+        <translation>标准输入（“-”）只能打印一次</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <translation>选项“%1”不能与“%2”一起使用</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <translation>选项“%1”只能与下列之一一起使用：%2</translation>
+    </message>
+    <message>
+        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <translation>未指定文档；请指定文件，或用“-”直接输入</translation>
+    </message>
+    <message>
+        <source>the value is empty</source>
+        <translation>值为空</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <translation>“%1”不是打印时间；请输入 HH:MM 或 HH:MM:SS (UTC)，或下列之一：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <translation>“%1”不可用；必须是下列之一：%2</translation>
+    </message>
+    <message>
+        <source>it names no paper</source>
+        <translation>未指定纸张</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <translation>“%1”不是份数；必须在 1 到 %2 之间</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <translation>“%1”不是优先级；必须在 1（最后）到 100（最先）之间</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <translation>“%1”未指定队列；请输入“队列”或“队列/实例”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <translation>“%1”不是作业；请输入作业编号，或发送时显示的“队列-编号”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <translation>“%1”未指定选项；请输入“名称=值”</translation>
+    </message>
+    <message>
+        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user for whom is printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypts the connection to the print server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages to print, as in 1-3,5,8-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s name in the queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The job&apos;s priority, from 1 to 100 (first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not tell the job&apos;s number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes a job that was sent before.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the queues and how they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does everything but sending, and tells what would be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished" />
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 至 %2</translation>
     </message>
     <message>
-        <source>The labels, one a page.</source>
-        <translation type="unfinished" />
+        <source>Paper width</source>
+        <translation>纸张宽度</translation>
     </message>
     <message>
-        <source>No printer was named: --ppd FILE is missing</source>
-        <translation>未指定打印机：缺少 --ppd 文件</translation>
+        <source>Paper length</source>
+        <translation>纸张长度</translation>
     </message>
     <message>
-        <source>No document was named</source>
-        <translation>未指定文档</translation>
+        <source>Wi&amp;dth</source>
+        <translation>宽度(&amp;W)</translation>
     </message>
     <message>
-        <source>Only one document can be printed at a time, and %1 were named</source>
-        <translation>一次只能打印一个文档，但指定了 %1 个</translation>
+        <source>&amp;Length</source>
+        <translation>长度(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>打印机类：%1</translation>
     </message>
     <message>
-        <source>Try "kvprint --help".</source>
-        <translation>请尝试“kvprint --help”。</translation>
+        <source>P&amp;rinter</source>
+        <translation>打印机(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>没有此打印机。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>正在等待打印服务器响应…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>上次状态：%1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>打印服务器没有响应。上次状态：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DestinationReport</name>
+    <message>
+        <source>(default)</source>
+        <translation>(默认)</translation>
+    </message>
+    <message>
+        <source>Class of: %1</source>
+        <translation>打印机类，成员：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>选项、预览和摘要</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>页面预览(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>摘要(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>作业(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>发送内容(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>选项(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>“%1”至少需要 %n 个字符。在此之前，设置保持原样。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::HeadlessRun</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <translation>打印服务器“%1”没有可用的打印目标</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
+        <translation>“%1”在其他裁切选项下不能为“%2”，将按“%3”打印</translation>
+    </message>
+    <message>
+        <source>This would help: %1</source>
+        <translation>解决办法：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>打印时刻</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>按队列设置</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>1 到 100；优先级较高的作业先打印</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>作业名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>方向(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>打印时间(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>优先级(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>按打印机设置</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>反向横向</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>反向纵向</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>立即</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>手动释放时</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>指定时刻</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>傍晚</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第二班</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第三班</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>周末</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>作业已发送。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>作业 %1：%2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>取消作业(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>选项组</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>此打印机没有其他选项。</translation>
     </message>
 </context>
 <context>
@@ -96,10 +531,6 @@
         <source>Cannot print so many labels at once: a job has at most %1</source>
         <translation>无法一次打印这么多标签：每个作业最多 %1 张</translation>
     </message>
-    <message>
-        <source>all</source>
-        <translation>全部</translation>
-    </message>
 </context>
 <context>
     <name>dialog::PagePreview</name>
@@ -123,10 +554,6 @@
 <context>
     <name>dialog::PaperChooser</name>
     <message>
-        <source>%1 wide, %2 long</source>
-        <translation>宽 %1，长 %2</translation>
-    </message>
-    <message>
         <source>P&amp;aper</source>
         <translation>纸张(&amp;A)</translation>
     </message>
@@ -138,16 +565,64 @@
         <source>Search papers</source>
         <translation>搜索纸张</translation>
     </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>自定义，%1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>使用文档尺寸：%1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>自定义尺寸</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>宽 %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>宽 %1，长 %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>自定义尺寸…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>打印服务器密码</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>用户名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>密码(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
         <translation>打印 %1</translation>
-    </message>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>选项、预览和摘要</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -158,99 +633,109 @@
         <translation>打印机：%1</translation>
     </message>
     <message>
-        <source>&amp;Summary</source>
-        <translation>摘要(&amp;S)</translation>
-    </message>
-    <message>
-        <source>"%1" cannot save its settings: %2</source>
-        <translation>“%1”无法保存设置：%2</translation>
-    </message>
-    <message>
-        <source>"%1" does not let the job be printed with these settings.</source>
-        <translation>“%1”不允许用这些设置打印作业。</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>打印</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>文档</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>打印机</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>纸张</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>页面</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>份数</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>标签带</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>标签</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>段数</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>标签带用量</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>裁切</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>页面预览(&amp;V)</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>取消</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 及另外 %2 种</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" has no paper "%2"; it has: %3</source>
-        <translation>PPD 文件“%1”没有纸张“%2”；可用：%3</translation>
-    </message>
-    <message>
-        <source>The PPD file "%1" names no paper to print on</source>
-        <translation>PPD 文件“%1”未列出任何纸张</translation>
     </message>
     <message>
         <source>The cut options cannot be shown. %1</source>
         <translation>无法显示裁切选项。%1</translation>
     </message>
     <message>
-        <source>The panel bundle "%1" could not make its panel</source>
-        <translation>插件包“%1”无法创建面板</translation>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>打印机没有描述文件，因此其纸张和裁切方式未知。</translation>
     </message>
     <message>
-        <source>The panel of the bundle "%1" cannot be shown: its layout file cannot be used</source>
-        <translation>无法显示插件包“%1”的面板：布局文件不可用</translation>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>正在等待打印机描述文件…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>未选择打印机。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>正在等待打印服务器响应…</translation>
+    </message>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>打印机无法同时执行这些设置。</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>仍然打印</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PrintRun</name>
+    <message>
+        <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
+        <translation>PPD 文件“%1”没有纸张“%2”；可用：%3</translation>
+    </message>
+    <message>
+        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <translation>PPD 文件“%1”未列出任何纸张</translation>
     </message>
     <message>
         <source>The label strip is in:</source>
         <translation>标签带保存在：</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>停止发送</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>正在发送“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>作业选项</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>命令行中的同一作业(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>复制(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>复制命令</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
     </message>
 </context>
 <context>
@@ -273,6 +758,82 @@
     <message>
         <source>Summary</source>
         <translation>摘要</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>PPD 文件未列出任何纸张</translation>
+    </message>
+</context>
+<context>
+    <name>host::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>打印机“%1”没有选项“%2”。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>打印机“%1”没有纸张“%2”。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>打印机“%2”的选项“%1”没有选择项“%3”；可用：%4</translation>
+    </message>
+</context>
+<context>
+    <name>host::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>“%1：%2”</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>此打印机不支持%1。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 与 %2 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>将“%1”设为“%2”</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsConnection</name>
+    <message>
+        <source>Given up on request.</source>
+        <translation>已按要求中止。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>打印服务器“%1”没有响应。</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>无法连接到打印服务器“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>与打印服务器“%1”的连接已中断。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>打印服务器“%1”返回：%2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>打印服务器“%1”未提供“%2”：%3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>大于 %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>连接中途断开</translation>
     </message>
 </context>
 <context>
@@ -332,9 +893,190 @@
     </message>
 </context>
 <context>
+    <name>host::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>无法读取文档“%1”：%2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>读取过程中变短了</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>作业将重新打印，但已被保留。%1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>作业 %1 未更改。%2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>打印机默认值</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>队列默认值</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>您的默认值 (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>裁切选项</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>由您设置</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>作业“%1”，目标“%2”，服务器 %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>发送的选项：
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>已保留，等待释放。</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>保留至：%1。</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>正在排队等待。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>正在打印。</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>已停止；打印机再次就绪后继续。</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>Given up by the print server.</source>
+        <translation>已被打印服务器中止。</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>已打印。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>服务器返回：%1</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>标签带</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>段数</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>标签带用量</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>裁切</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobUpload</name>
+    <message>
+        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列：%4</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>没有要打印的文档。</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>host::LabelDocument</name>
     <message>
-        <source>Cannot open the document "%1": %2</source>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
         <translation>无法打开文档“%1”：%2</translation>
     </message>
     <message>
@@ -358,10 +1100,6 @@
         <translation>以未知方式加密</translation>
     </message>
     <message>
-        <source>it is no PDF, or a damaged one</source>
-        <translation>不是 PDF 或已损坏</translation>
-    </message>
-    <message>
         <source>it has no pages</source>
         <translation>没有页面</translation>
     </message>
@@ -373,11 +1111,93 @@
         <source>page %1 is longer than %2 m</source>
         <translation>第 %1 页长于 %2 米</translation>
     </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>无法打开标准输入中的文档：%1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>图像已损坏</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>有 %1 × %2 像素，超过可打印的范围</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>图像末尾缺失</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>未指定文档</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>只能读取一次</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>超过 %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>不是 PDF、PNG、JPEG 或 SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>文件打开后已更改；请重新打开</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>PDF 已损坏</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>无法保存到“%1”：%2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>SVG 已损坏</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>引用了“%1”，而只打印 SVG 自身包含的内容</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>SVG 第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>SVG 的组成部分过多，无法绘制</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>其中的图片既不是 PNG 也不是 JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>其中的图片已损坏</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>其中的图片像素过多，无法打印</translation>
+    </message>
 </context>
 <context>
     <name>host::PanelBundle</name>
     <message>
-        <source>Cannot use the panel bundle "%1": %2</source>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
         <translation>无法使用插件包“%1”：%2</translation>
     </message>
     <message>
@@ -414,9 +1234,20 @@
     </message>
 </context>
 <context>
+    <name>host::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>插件包“%1”无法创建面板</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>无法显示插件包“%1”的面板：布局文件不可用</translation>
+    </message>
+</context>
+<context>
     <name>host::PpdFile</name>
     <message>
-        <source>Cannot open the PPD file "%1": %2</source>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
         <translation>无法打开 PPD 文件“%1”：%2</translation>
     </message>
     <message>
@@ -424,7 +1255,7 @@
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer's description</source>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
         <translation>大于 %1 MB，超过任何打印机描述文件</translation>
     </message>
     <message>
@@ -449,14 +1280,206 @@
     </message>
 </context>
 <context>
+    <name>host::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>打印机控制</translation>
+    </message>
+</context>
+<context>
     <name>host::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages "%1": write numbers and ranges such as 1-3, 5</source>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
         <translation>无法理解页面“%1”：请输入数字和范围，例如 1-3, 5</translation>
     </message>
     <message>
-        <source>Cannot print the pages "%1": the document's last page is %2</source>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>无法打印页面“%1”：文档最后一页是 %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>“%1”无法保存设置：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>“%1”不允许用这些设置打印作业。</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”没有队列或打印机类“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>打印机正在等待标签或标签带。</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>标签或标签带卡住。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>标签卷或标签带即将用完。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>标签卷或标签带已用完。</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>打印机即将暂停。</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>队列已暂停；作业等待中。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>打印机已关闭。</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>正在连接打印机。</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>打印机没有响应。</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>打印机正在停止。</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>打印机类中的部分打印机已停止。</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>墨粉即将用完。</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>墨粉已用完。</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>打印服务器空间不足。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>打印机盖已打开。</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>打印机的锁扣未锁好。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>打印机门已打开。</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>缺少标签带盒或卷筒架。</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>缺少出纸盒。</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>出纸盒即将装满。</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>出纸盒已满。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>墨水或色带即将用完。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>墨水或色带已用完。</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>废料盒即将装满。</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>废料盒已满。</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>打印机过热。</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>打印机正在预热。</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>打印机已脱机。</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>新作业将被保留。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>打印机已被管理员停用。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>打印机驱动程序缺少组件。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>打印机驱动程序的某个组件安装不安全。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>正在等待打印机完成作业。</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>打印机未遵循其协议。</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>就绪。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>正在打印。</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>在网络上找到。</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>状态未知。</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>队列不接受作业。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>服务器返回：%1</translation>
     </message>
 </context>
 <context>
@@ -484,7 +1507,7 @@
         <translation>无法创建文件夹：%1</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2</source>
+        <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>无法写入“%1”：%2</translation>
     </message>
     <message>

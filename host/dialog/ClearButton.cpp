@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ClearButton.h"
+
+#include <QLineEdit>
+
+namespace dialog {
+
+void addClearButton(QLineEdit *field)
+{
+    const auto addWhenNeeded = [field] {
+        if (!field->text().isEmpty())
+            field->setClearButtonEnabled(true);
+    };
+    addWhenNeeded();
+    QObject::connect(field, &QLineEdit::textChanged, field, addWhenNeeded);
+}
+
+} // namespace dialog

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Screenshot.h"
+
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QWidget>
+
+namespace dialog {
+
+std::optional<host::OutputError> saveScreenshot(QWidget &window, const QString &path)
+{
+    const QFileInfo target(path);
+    host::OutputFiles files(target.path());
+    files.write(target.fileName(), [&](QIODevice *device) {
+        return QImageWriter(device, "png").write(window.grab().toImage());
+    });
+    return files.commit();
+}
+
+} // namespace dialog
