@@ -65,8 +65,8 @@ DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *par
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
     m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    // Room for two lines, so that the papers do not jump when a state comes and goes.
-    m_state->setMinimumHeight(2 * m_state->fontMetrics().lineSpacing());
+    // Room for what a paused queue says, so that the papers do not jump when a state comes and goes.
+    m_state->setMinimumHeight(3 * m_state->fontMetrics().lineSpacing());
     m_state->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     m_icon->setAlignment(Qt::AlignTop);
 
@@ -108,6 +108,8 @@ void DestinationChooser::showChosen()
         index = 0;
     }
     m_list->setCurrentIndex(index);
+    // Descriptions may be longer than the list is wide.
+    m_list->setToolTip(m_list->currentText());
     showState();
 }
 

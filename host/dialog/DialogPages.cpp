@@ -26,6 +26,11 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     m_sentPage = new SentPage(this);
     insertTab(0, m_jobPage, tr("&Job"));
     addTab(m_sentPage, tr("&What will be sent"));
+    // A printer's pages mostly come later; the window has their room from the beginning, so that it does not
+    // jump under the mouse.
+    constexpr int lines = 20;
+    makeRoom(tabBar()->sizeHint().width() * 3 / 2);
+    setMinimumHeight(lines * fontMetrics().lineSpacing());
     connect(m_jobPage, &JobPage::changed, this, &DialogPages::chosen);
 }
 
@@ -44,9 +49,14 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
         addOptions();
     if (PDEPanel *const panel = setup.panel())
         addPanel(*panel);
+    makeRoom(tabBar()->sizeHint().width());
+}
+
+void DialogPages::makeRoom(int titleWidth)
+{
     // All titles are in sight, as long as no language makes novels of them.
     const int widest = 120 * fontMetrics().averageCharWidth();
-    setMinimumWidth(qMin(tabBar()->sizeHint().width() + tabBar()->fontMetrics().height(), widest));
+    setMinimumWidth(qMin(titleWidth + tabBar()->fontMetrics().height(), widest));
 }
 
 void DialogPages::addPanel(PDEPanel &panel)

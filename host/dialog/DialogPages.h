@@ -59,6 +59,7 @@ Q_SIGNALS:
 private:
     void addPanel(PDEPanel &panel);
     void addOptions();
+    void makeRoom(int titleWidth);
 
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;

@@ -102,11 +102,12 @@ void PaperList::dressHeadings()
 {
     QFont bold = font();
     bold.setBold(true);
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     for (int row = 0; row < count(); ++row) {
         if (!isHeading(*item(row)))
             continue;
         item(row)->setFont(bold);
-        item(row)->setForeground(palette().brush(QPalette::Active, QPalette::Text));
+        item(row)->setForeground(palette().brush(group, QPalette::Text));
     }
 }
 
@@ -156,7 +157,8 @@ void PaperList::showEvent(QShowEvent *event)
 void PaperList::changeEvent(QEvent *event)
 {
     QListWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+    const QEvent::Type changes[] = {QEvent::PaletteChange, QEvent::FontChange, QEvent::EnabledChange};
+    if (std::ranges::find(changes, event->type()) != std::end(changes))
         dressHeadings();
 }
 
