@@ -47,6 +47,9 @@ void QueueDialogTest::SetUp()
     std::vector<SamplePage> pages;
     for (int page = 0; page < 3; ++page)
         pages.push_back({QSizeF(60, 24) * host::pointsPerMillimetre, [page](QPainter &painter) {
+                             QFont font;
+                             font.setPixelSize(20);
+                             painter.setFont(font);
                              painter.drawText(20, 40, QStringLiteral("Label %1").arg(page + 1));
                          }});
     documentPath = writePdf(sandbox, QStringLiteral("labels.pdf"), pages);

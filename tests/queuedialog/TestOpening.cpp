@@ -164,7 +164,11 @@ TEST_F(OpeningTest, LargePpdsDoNotStallTheWindow)
     for (int i = 0; i < 199; ++i)
         constrained += "*UIConstraints: *Option" + QByteArray::number(i) + " C1 *Option" +
                        QByteArray::number(i + 1) + " C2\n";
-    const std::pair<const char *, QByteArray> rows[] = {{"papers", papers}, {"options", constrained}};
+    // As large as they come: larger than what is read before the window is shown.
+    const QByteArray huge = largeOptionsPpd(100, 500);
+    EXPECT_GT(huge.size(), 1'000'000);
+    const std::pair<const char *, QByteArray> rows[] = {
+        {"papers", papers}, {"options", constrained}, {"huge", huge}};
     for (const auto &[name, ppd] : rows) {
         SCOPED_TRACE(name);
         cupsd->addQueue(QLatin1String(name), ppd);
