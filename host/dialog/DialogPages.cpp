@@ -28,7 +28,7 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     addTab(m_sentPage, tr("&What will be sent"));
     // A printer's pages mostly come later; the window has their room from the beginning, so that it does not
     // jump under the mouse.
-    constexpr int lines = 20;
+    constexpr int lines = 23;
     makeRoom(tabBar()->sizeHint().width() * 3 / 2);
     setMinimumHeight(lines * fontMetrics().lineSpacing());
     connect(m_jobPage, &JobPage::changed, this, &DialogPages::chosen);
