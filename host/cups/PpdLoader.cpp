@@ -12,7 +12,7 @@ namespace host {
 namespace {
 
 /// Reading so much takes some tens of milliseconds. Hardly any printer's PPD is larger.
-constexpr qint64 mostAtOnce = 512 * 1024;
+constexpr qint64 mostAtOnce = qint64{512} * 1024;
 
 bool isLarge(const QString &path)
 {
