@@ -225,3 +225,21 @@ TEST_F(OpeningTest, PpdsThatAreNoneAreToldAndTheQueuePrints)
         cupsd->removeQueue(QStringLiteral("odd"));
     }
 }
+
+TEST_F(OpeningTest, AServerThatComesBackIsNoticed)
+{
+    fillCache(QStringLiteral("tape"));
+    for (const bool isKnown : {true, false}) {
+        SCOPED_TRACE(isKnown);
+        if (!isKnown)
+            SetUp();
+        cupsd->kill();
+        open(QStringLiteral("tape"));
+        EXPECT_TRUE(waitUntil([this] { return !told().isEmpty() && session->isSettled(); }));
+        cupsd->restart();
+        EXPECT_TRUE(waitUntil([this] { return isSettled() && state() == QStringLiteral("Ready."); }))
+            << state().toStdString();
+        EXPECT_TRUE(waitUntil([this] { return told().isEmpty(); })) << told().toStdString();
+        EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+    }
+}
