@@ -63,7 +63,7 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     m_isAsking = true;
     lock.unlock();
     task.deliver([ask, request] { ask(request); });
-    const std::optional<PasswordRequest::Credentials> answer = request.wait(task);
+    std::optional<PasswordRequest::Credentials> answer = request.wait(task);
     lock.lock();
     m_isAsking = false;
     // A task that is cancelled has not been refused anything.

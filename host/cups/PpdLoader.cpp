@@ -5,7 +5,28 @@
 #include "DiscoveredQueue.h"
 #include "QueueCache.h"
 
+#include <QFileInfo>
+
 namespace host {
+
+namespace {
+
+/// Reading so much takes some tens of milliseconds. Hardly any printer's PPD is larger.
+constexpr qint64 mostAtOnce = qint64{512} * 1024;
+
+bool isLarge(const QString &path)
+{
+    return QFileInfo(path).size() > mostAtOnce;
+}
+
+/// The PPD; nothing when it cannot be used.
+std::optional<PpdFile> openQuietly(const QString &path)
+{
+    Result<PpdFile, PpdError> ppd = PpdFile::open(path);
+    return ppd ? std::optional(std::move(ppd).value()) : std::nullopt;
+}
+
+} // namespace
 
 /// What came of asking: exactly one of a PPD, an error, "there is none", or nothing new.
 struct PpdLoader::Outcome {
@@ -23,19 +44,22 @@ PpdLoader::PpdLoader(CupsServer server, QObject *parent)
 std::optional<PpdFile> PpdLoader::cached(const QString &queue) const
 {
     const std::optional<QString> path = QueueCache(m_server).ppdPath(queue);
-    if (!path)
-        return std::nullopt;
-    Result<PpdFile, PpdError> ppd = PpdFile::open(*path);
-    if (!ppd)
-        return std::nullopt;
-    return std::move(ppd).value();
+    return path && !isLarge(*path) ? openQuietly(*path) : std::nullopt;
 }
 
-void PpdLoader::load(const Destination &destination)
+void PpdLoader::load(const Destination &destination, LargeCached largeCached)
 {
     if (m_task)
         m_task->cancel();
-    m_task = m_background.start([this, server = m_server, destination](BackgroundTask &task) {
+    m_task = m_background.start([this, server = m_server, destination, largeCached](BackgroundTask &task) {
+        const std::optional<QString> path = QueueCache(server).ppdPath(destination.queue);
+        if (largeCached == LargeCached::Wanted && path && isLarge(*path)) {
+            if (std::optional<PpdFile> ppd = openQuietly(*path))
+                task.deliver(
+                    [this, queue = destination.queue, known = std::make_shared<PpdFile>(*std::move(ppd))] {
+                        Q_EMIT remembered(queue, known);
+                    });
+        }
         const Outcome outcome = ask(server, destination, task);
         if (!task.isCancelled()) // "this" is only used on the main thread, while it is there
             task.deliver([this, queue = destination.queue, outcome] { report(queue, outcome); });

@@ -21,15 +21,19 @@ class PpdLoader : public QObject {
 public:
     explicit PpdLoader(CupsServer server, QObject *parent = nullptr);
 
-    /// The queue's PPD as it was last time; nothing when none was kept or it cannot be read. Does not ask
-    /// the server.
+    /// The queue's PPD as it was last time; nothing when none was kept, it cannot be read, or it is so large
+    /// that reading it would hold up a window: then load() brings it. Does not ask the server.
     std::optional<PpdFile> cached(const QString &queue) const;
 
+    /// Whether load() is to bring the PPD of last time too, when cached() has left it out.
+    enum class LargeCached { Known, Wanted };
     /// Asks the server for the queue's PPD, or whether it has changed; one of the signals tells the outcome.
     /// An earlier request that has not been answered yet is given up.
-    void load(const Destination &destination);
+    void load(const Destination &destination, LargeCached largeCached = LargeCached::Known);
 
 Q_SIGNALS:
+    /// The PPD of last time, which was too large for cached(). The server is still being asked.
+    void remembered(const QString &queue, const std::shared_ptr<host::PpdFile> &ppd);
     /// The PPD is another than the cached one, or none was cached. Defaults are not marked yet. The receiver
     /// may take the PPD out.
     void loaded(const QString &queue, const std::shared_ptr<host::PpdFile> &ppd);

@@ -42,6 +42,11 @@ QueueSession::QueueSession(CupsServer server, std::optional<QString> wanted, QOb
                 m_ppd.emplace(std::move(*ppd));
                 setKnowledge(PpdKnowledge::Current);
             });
+    connect(&m_loader, &PpdLoader::remembered, this,
+            [this](const QString &, const std::shared_ptr<PpdFile> &ppd) {
+                m_ppd.emplace(std::move(*ppd));
+                setKnowledge(PpdKnowledge::Cached);
+            });
     connect(&m_loader, &PpdLoader::unchanged, this, [this] { setKnowledge(PpdKnowledge::Current); });
     connect(&m_loader, &PpdLoader::absent, this, [this] {
         m_ppd.reset();
@@ -174,6 +179,8 @@ void QueueSession::takeState(const Destination &destination)
     m_ppd = m_loader.cached(destination.queue);
     if (m_ppd)
         Q_EMIT ppdChanged();
+    else if (m_hasStarted && !isAskedFor)
+        m_loader.load(destination, PpdLoader::LargeCached::Wanted);
 }
 
 void QueueSession::takeNews(Destination news)
@@ -196,7 +203,9 @@ void QueueSession::setChosen(const Destination &destination)
         m_destinations.remember(destination.name());
     }
     if (m_hasStarted) {
-        m_loader.load(destination);
+        const bool isUnknown = m_knowledge == PpdKnowledge::Asked;
+        m_loader.load(destination,
+                      isUnknown ? PpdLoader::LargeCached::Wanted : PpdLoader::LargeCached::Known);
         m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
         connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
         connect(m_monitor.get(), &QueueMonitor::failed, this, [this](const CupsError &error) {

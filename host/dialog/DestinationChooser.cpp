@@ -65,8 +65,6 @@ DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *par
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
     m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    // Room for two lines, so that the papers do not jump when a state comes and goes.
-    m_state->setMinimumHeight(2 * m_state->fontMetrics().lineSpacing());
     m_state->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     m_icon->setAlignment(Qt::AlignTop);
 
@@ -108,6 +106,8 @@ void DestinationChooser::showChosen()
         index = 0;
     }
     m_list->setCurrentIndex(index);
+    // Descriptions may be longer than the list is wide.
+    m_list->setToolTip(m_list->currentText());
     showState();
 }
 
@@ -124,10 +124,27 @@ QString DestinationChooser::stateText() const
     return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
 }
 
+void DestinationChooser::fitState()
+{
+    // Room for what a paused queue says, so that the papers do not jump when a state comes and goes; more
+    // when it is needed, but not for novels.
+    const int line = m_state->fontMetrics().lineSpacing();
+    const int needed = m_state->heightForWidth(m_state->width());
+    m_state->setMinimumHeight(qBound(3 * line, needed, 6 * line));
+}
+
+void DestinationChooser::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitState();
+}
+
 void DestinationChooser::showState()
 {
     const QString text = stateText();
     m_state->setText(text);
+    m_state->setToolTip(text);
+    fitState();
     m_list->setAccessibleDescription(text);
     const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();
     const host::StateSeverity severity =

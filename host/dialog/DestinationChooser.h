@@ -19,10 +19,14 @@ public:
     /// The session is borrowed.
     DestinationChooser(host::QueueSession &session, QWidget *parent);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void showDestinations();
     void showChosen();
     void showState();
+    void fitState();
     QString stateText() const;
 
     host::QueueSession &m_session;

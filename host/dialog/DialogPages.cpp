@@ -23,9 +23,15 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     addTab(m_pagePreview, tr("Page pre&view"));
     addTab(new LazyPage([this](QWidget *page) { return m_summaryPage = new SummaryPage(page); }, this),
            tr("&Summary"));
-    if (m_server)
-        addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
-               tr("&What will be sent"));
+    if (!m_server)
+        return;
+    addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
+           tr("&What will be sent"));
+    // A printer's pages mostly come later; the window has their room from the beginning, so that it does not
+    // jump under the mouse.
+    constexpr int lines = 23;
+    makeRoom(tabBar()->sizeHint().width() * 3 / 2);
+    setMinimumHeight(lines * fontMetrics().lineSpacing());
 }
 
 QWidget *DialogPages::makeJobPage(QWidget *parent)
@@ -52,9 +58,14 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
         addOptions();
     if (PDEPanel *const panel = setup.panel())
         addPanel(*panel);
+    makeRoom(tabBar()->sizeHint().width());
+}
+
+void DialogPages::makeRoom(int titleWidth)
+{
     // All titles are in sight, as long as no language makes novels of them.
     const int widest = 120 * fontMetrics().averageCharWidth();
-    setMinimumWidth(qMin(tabBar()->sizeHint().width() + tabBar()->fontMetrics().height(), widest));
+    setMinimumWidth(qMin(titleWidth + tabBar()->fontMetrics().height(), widest));
 }
 
 void DialogPages::addPanel(PDEPanel &panel)
@@ -132,6 +143,10 @@ void DialogPages::announceFront()
 {
     if (m_panelPage && currentWidget() == m_panelPage)
         m_setup->announcePanel();
+    // A panel hands its settings over before the job is printed; whoever looks at what will be sent must see
+    // them already. Whether the panel lets the job pass is told when it is printed.
+    if (m_setup && m_sentPage && currentWidget() == m_sentPage)
+        m_setup->savePanel();
 }
 
 void DialogPages::announceClosing(QWidget *window)

@@ -47,7 +47,8 @@ public:
     void setTicket(std::function<std::optional<host::JobTicket>()> ticket) { m_ticket = std::move(ticket); }
     /// Refreshes the page in front.
     void refresh();
-    /// Tells the panel that its page comes to the front, if it does.
+    /// Tells the panel that its page comes to the front, if it does, and has it hand over its settings when
+    /// the page of what will be sent does.
     void announceFront();
     /// The dialog is about to close.
     void announceClosing(QWidget *window);
@@ -61,6 +62,7 @@ private:
     void addOptions();
     QWidget *makeOptionsPage(QWidget *parent);
     QWidget *makeJobPage(QWidget *parent);
+    void makeRoom(int titleWidth);
 
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;

@@ -200,7 +200,7 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::JobD
                     host::ticketInPlainText(m_server, ticket, setup.conflicts()));
     }
     if (m_command.task == Task::Summary) {
-        const host::LabelRenderer renderer(*m_document, host::shownPaper(setup, *m_document));
+        const host::LabelRenderer renderer(*m_document, host::shownPaper(&setup, *m_document));
         const std::unique_ptr<host::PrintJob> strip = makeStrip(setup, *m_document, renderer, draft);
         const auto summary = host::summarize(setup, *m_document, draft, strip.get());
         return tell(host::summaryJson(summary), host::summaryInPlainText(summary));

@@ -23,7 +23,6 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     name->setWordWrap(true);
     m_words->setWordWrap(true);
     m_words->setTextFormat(Qt::PlainText);
-    m_words->setMinimumHeight(3 * m_words->fontMetrics().lineSpacing());
     m_words->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     auto *const buttons = new QDialogButtonBox(this);
     m_cancel = buttons->addButton(tr("Cancel the &job"), QDialogButtonBox::DestructiveRole);
@@ -33,6 +32,7 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     layout->addWidget(name);
     layout->addWidget(m_words, 1);
     layout->addWidget(buttons);
+    showWords(m_words->text());
     setMinimumWidth(40 * fontMetrics().averageCharWidth());
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -42,18 +42,25 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     });
     connect(&m_monitor, &host::JobMonitor::changed, this, &JobWindow::showStatus);
     connect(&m_monitor, &host::JobMonitor::failed, this, [this](const host::CupsError &error) {
-        m_words->setText(error.message);
-        m_words->setAccessibleName(error.message);
+        showWords(error.message);
         // A job that could not be taken back may still be, unless the server knows of none.
         m_cancel->setEnabled(error.kind != host::CupsFailure::NotFound);
     });
 }
 
+void JobWindow::showWords(const QString &words)
+{
+    m_words->setText(words);
+    m_words->setAccessibleName(words);
+    // Room for a few lines always, so that the window seldom grows.
+    const int reserve = 3 * m_words->fontMetrics().lineSpacing();
+    m_words->setMinimumHeight(qMax(reserve, m_words->heightForWidth(m_words->width())));
+}
+
 void JobWindow::showStatus(const host::JobStatus &status)
 {
     m_status = status;
-    m_words->setText(status.sentences().join(u'\n'));
-    m_words->setAccessibleName(m_words->text());
+    showWords(status.sentences().join(u'\n'));
     m_cancel->setEnabled(!status.isOver());
     if (status.state == host::JobState::Completed)
         accept();

@@ -101,11 +101,12 @@ void PaperList::addPaper(const std::vector<host::PpdPaper> &papers, std::size_t 
 void PaperList::dressHeadings()
 {
     // Set off by their ground: bold letters would need a second font, loaded for this alone.
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     for (int row = 0; row < count(); ++row) {
         if (!isHeading(*item(row)))
             continue;
-        item(row)->setBackground(palette().brush(QPalette::Active, QPalette::Window));
-        item(row)->setForeground(palette().brush(QPalette::Active, QPalette::WindowText));
+        item(row)->setBackground(palette().brush(group, QPalette::Window));
+        item(row)->setForeground(palette().brush(group, QPalette::WindowText));
     }
 }
 
@@ -158,7 +159,8 @@ void PaperList::showEvent(QShowEvent *event)
 void PaperList::changeEvent(QEvent *event)
 {
     QListWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+    const QEvent::Type changes[] = {QEvent::PaletteChange, QEvent::FontChange, QEvent::EnabledChange};
+    if (std::ranges::find(changes, event->type()) != std::end(changes))
         dressHeadings();
 }
 

@@ -93,6 +93,8 @@ QWidget *PrintDialog::buildChoices(const DialogWishes &wishes)
     layout->addWidget(buildPrinter(choices));
     layout->addLayout(m_paperPlace, 1);
     layout->addWidget(m_pageOptions);
+    // Without papers, what is left stays together at the top.
+    layout->addStretch();
     return choices;
 }
 
@@ -207,7 +209,7 @@ void PrintDialog::applyPaper()
     m_stripPreview->clear();
     m_strip.reset();
     const host::PrinterSetup *const setup = m_keeper.setup();
-    const QSizeF paper = setup ? host::shownPaper(*setup, *m_document) : m_document->pageSize(0);
+    const QSizeF paper = host::shownPaper(setup, *m_document);
     auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper);
     m_pages->setRenderer(*renderer);
     m_renderer = std::move(renderer);

@@ -2,6 +2,7 @@
 #include "SendBar.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -9,11 +10,14 @@ namespace dialog {
 
 SendBar::SendBar(QWidget *parent)
     : QWidget(parent)
+    , m_title(new QLabel(this))
     , m_bar(new QProgressBar(this))
 {
+    m_title->setTextFormat(Qt::PlainText);
     auto *const cancel = new QPushButton(tr("Stop sending"), this);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
+    layout->addWidget(m_title);
     layout->addWidget(m_bar, 1);
     layout->addWidget(cancel);
     connect(cancel, &QPushButton::clicked, this, &SendBar::cancelled);
@@ -22,8 +26,12 @@ SendBar::SendBar(QWidget *parent)
 
 void SendBar::begin(const QString &title)
 {
-    m_bar->setFormat(tr("Sending \"%1\"").arg(title));
-    m_bar->setAccessibleName(m_bar->format());
+    // Beside the bar: most styles show no text in a bar that does not know how far it is.
+    const QString text = tr("Sending \"%1\"").arg(title);
+    const int widest = 40 * fontMetrics().averageCharWidth();
+    m_title->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, widest));
+    m_title->setToolTip(text);
+    m_bar->setAccessibleName(text);
     setProgress(-1);
     show();
 }

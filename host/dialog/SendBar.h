@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QProgressBar;
 
 namespace dialog {
@@ -23,6 +24,7 @@ Q_SIGNALS:
     void cancelled();
 
 private:
+    QLabel *m_title;
     QProgressBar *m_bar;
 };
 

@@ -45,7 +45,9 @@ void StripPreview::clear()
     m_plan = nullptr;
     m_layout.reset();
     setAccessibleDescription(QString());
-    layOut();
+    viewport()->update();
+    // Mostly another plan follows at once, and the strip stays where it is scrolled to.
+    QMetaObject::invokeMethod(this, &StripPreview::layOut, Qt::QueuedConnection);
 }
 
 QSize StripPreview::sizeHint() const
@@ -66,8 +68,10 @@ void StripPreview::layOut()
         return;
     }
     const double tapeWidth = m_renderer->labelSize().height();
-    // The layout needs 18 units above and below the tape, and a little air.
-    const double room = viewport()->height() - 19.0 * unitPixels();
+    // The layout needs 18 units above and below the tape, and a little air. The scroll bar's room is never
+    // used: a strip that grew into it when it goes would need it again.
+    const int height = maximumViewportSize().height() - horizontalScrollBar()->sizeHint().height();
+    const double room = height - 19.0 * unitPixels();
     m_pixelsPerMillimetre = qBound(smallestScale, room / tapeWidth, largestScale);
     m_layout.emplace(*m_plan, tapeWidth, unitPixels() / m_pixelsPerMillimetre);
     const int length = qRound(m_layout->bounds().width() * m_pixelsPerMillimetre);

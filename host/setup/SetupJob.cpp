@@ -23,9 +23,10 @@ QString defaultTitle(const LabelDocument &document)
                                                   : QFileInfo(document.path()).fileName();
 }
 
-QSizeF shownPaper(const PrinterSetup &setup, const LabelDocument &document)
+QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document)
 {
-    return setup.paper() ? setup.paper()->size : document.pageSize(0);
+    // Labels are drawn as they lie on the tape, their length from left to right.
+    return setup && setup->paper() ? setup->paper()->size : document.pageSize(0).transposed();
 }
 
 } // namespace host

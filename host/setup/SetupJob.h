@@ -24,7 +24,8 @@ JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, co
 /// The name that lp gives a job: that of its first document.
 QString defaultTitle(const LabelDocument &document);
 
-/// The paper on which the labels are shown: the printer's, or without one the first page as it is.
-QSizeF shownPaper(const PrinterSetup &setup, const LabelDocument &document);
+/// The paper on which the labels are shown, in points: the printer's, or without one (or with null, while the
+/// printer is not known) one on which the first page stands as it is read.
+QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document);
 
 } // namespace host

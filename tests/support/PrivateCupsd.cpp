@@ -18,6 +18,7 @@
 #include <grp.h>
 #include <pwd.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -168,7 +169,11 @@ void PrivateCupsd::start()
 {
     const QString program = QStandardPaths::findExecutable(
         QStringLiteral("cupsd"), {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin")});
-    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    m_process.setChildProcessModifier([] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        // See setSpoolFull(): writing fails, as it does on a full disk, and kills nobody.
+        std::signal(SIGXFSZ, SIG_IGN);
+    });
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setStandardOutputFile(path(QStringLiteral("log/output")), QIODevice::Append);
     m_process.start(program,
@@ -269,6 +274,13 @@ void PrivateCupsd::setMediaEmpty(bool empty)
         write(file, {});
     else
         QFile::remove(file);
+}
+
+void PrivateCupsd::setSpoolFull(bool full)
+{
+    constexpr rlim_t fullAt = 400'000;
+    const rlimit limit{full ? fullAt : RLIM_INFINITY, RLIM_INFINITY};
+    EXPECT_EQ(prlimit(static_cast<pid_t>(m_process.processId()), RLIMIT_FSIZE, &limit, nullptr), 0);
 }
 
 std::vector<RecordedDocument> PrivateCupsd::documents() const

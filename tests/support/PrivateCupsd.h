@@ -63,6 +63,9 @@ public:
     /// While it is on, filters report an empty roll and wait.
     void setMediaEmpty(bool empty);
 
+    /// While it is on, the server can write no file of more than some hundred kilobytes, as on a full disk.
+    void setSpoolFull(bool full);
+
     /// What filters were given so far, in the order in which they finished.
     std::vector<RecordedDocument> documents() const;
     /// Waits until so many documents have passed the filters. Fails the test when they do not.

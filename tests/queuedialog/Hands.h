@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QTest>
+
+/// What a person does with mouse and keys. Everything goes to the window, at the place where the control is
+/// seen: what is covered, disabled or outside gets nothing.
+class Hands {
+public:
+    /// Clicks in the middle of the control; on a check box on its sign.
+    static void click(QWidget *target);
+    /// Types into whatever has the focus.
+    static void type(QWidget *window, const QString &text);
+    static void press(QWidget *window, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    /// Replaces what stands in the field.
+    static void typeInto(QWidget *field, const QString &text);
+    /// Opens the list with the mouse and picks the entry with that text.
+    static void pick(QComboBox *list, const QString &text);
+};
+
+/// Lets events come in until the condition holds. False when it does not in time.
+template<typename Condition>
+bool waitUntil(Condition condition, int milliseconds = 15000)
+{
+    return QTest::qWaitFor(condition, milliseconds);
+}

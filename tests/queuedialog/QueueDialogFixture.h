@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Hands.h"
+#include "Sandbox.h"
+#include "StallWatch.h"
+
+#include <host/dialog/PrintDialog.h>
+#include <host/dialog/QueueSender.h>
+#include <tests/support/PrivateCupsd.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+/// The print dialog as kvprint opens it, on the queues of a private cupsd that all tests of a suite share.
+class QueueDialogTest : public testing::Test {
+protected:
+    static void SetUpTestSuite();
+    static void TearDownTestSuite();
+    /// Begins without anything kept of the server.
+    void SetUp() override;
+    /// Ends the dialog, and all jobs and records of the server.
+    void TearDown() override;
+
+    /// Opens the dialog on the server; nothing for the shared one. wanted as kvprint takes it after -d.
+    void open(const std::optional<QString> &wanted, const host::CupsServer &server = {},
+              const host::SetupWishes &wishes = {});
+    /// Opens it and waits until the server has told everything about the queue.
+    void openAndSettle(const QString &wanted, const host::CupsServer &server = {},
+                       const host::SetupWishes &wishes = {});
+    void close();
+    /// Opens the dialog once and closes it, so that the queue is known from last time.
+    void fillCache(const QString &queue);
+    bool isSettled() const;
+    static host::CupsServer sharedServer();
+
+    /// The control of that accessible name that is to be seen; null when there is none.
+    template<typename Widget>
+    Widget *find(const QString &accessibleName) const
+    {
+        for (Widget *const widget : window->findChildren<Widget *>()) {
+            if (widget->accessibleName() == accessibleName && widget->isVisible())
+                return widget;
+        }
+        return nullptr;
+    }
+    /// The field that the label with this text leads to.
+    QWidget *fieldOf(const QString &labelText) const;
+    template<typename Widget>
+    Widget *field(const QString &labelText) const
+    {
+        return qobject_cast<Widget *>(fieldOf(labelText));
+    }
+    static QPushButton *button(const QWidget *parent, const QString &text);
+    QPushButton *button(const QString &text) const { return button(window.get(), text); }
+    QCheckBox *panelBox(const char *name) const;
+    QComboBox *destinations() const { return find<QComboBox>(QStringLiteral("Printer")); }
+    QListWidget *papers() const { return find<QListWidget>(QStringLiteral("Paper")); }
+    /// What the line below the destinations says.
+    QString state() const { return destinations()->accessibleDescription(); }
+    /// All that the dialog's banners say.
+    QString told() const;
+    /// Whether any label that is to be seen contains the text.
+    bool isSeen(const QString &text) const;
+    void chooseTab(const QString &title) const;
+    QStringList tabs() const;
+    void choosePaper(const QString &text) const;
+
+    /// Presses Print and waits until the server has the job.
+    void print();
+    /// Prints and answers what the filter was given for the only document.
+    test_support::RecordedDocument printed();
+    /// "lpstat -o", empty when no job waits.
+    static QString waitingJobs();
+    /// Runs it on another thread, while the window goes on.
+    static void meanwhile(const std::function<void()> &work);
+
+    inline static std::unique_ptr<test_support::PrivateCupsd> cupsd;
+    Sandbox sandbox;
+    QString documentPath;
+    std::unique_ptr<host::QueueSession> session;
+    std::unique_ptr<host::SetupKeeper> keeper;
+    std::unique_ptr<dialog::QueueSender> sender;
+    std::unique_ptr<dialog::PrintDialog> window;
+
+private:
+    std::size_t m_documentsBefore = 0;
+};
+
+/// Checks that the event loop has never stalled while the watch stood.
+#define EXPECT_NO_STALL(watch)                                                                               \
+    EXPECT_LE((watch).worst().count(), StallWatch::limit().count()) << "milliseconds"

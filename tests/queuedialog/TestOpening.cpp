@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: Apache-2.0
+// The dialog is there before the server has answered, and no server can make it stop.
+#include "QueueDialogFixture.h"
+
+#include "FaultyServer.h"
+#include "OptionsPpd.h"
+#include "SamplePpd.h"
+
+#include <host/cups/QueueCache.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTcpServer>
+
+namespace {
+
+class OpeningTest : public QueueDialogTest {
+protected:
+    static void SetUpTestSuite()
+    {
+        QueueDialogTest::SetUpTestSuite();
+        cupsd->addQueue(QStringLiteral("tape"), tapePpd());
+    }
+
+    /// A server at the address of which as much is known as of the shared one.
+    static host::CupsServer knownServer(const QString &address)
+    {
+        host::CupsServer server;
+        server.address = address;
+        const host::QueueCache from(sharedServer());
+        const host::QueueCache to(server);
+        to.storeDestinations(from.destinations());
+        QFile ppd(from.ppdPath(QStringLiteral("tape")).value());
+        EXPECT_TRUE(ppd.open(QIODevice::ReadOnly));
+        to.storePpd(QStringLiteral("tape"), ppd.readAll(), 1);
+        return server;
+    }
+
+    static QString closedAddress()
+    {
+        QTcpServer server;
+        EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+        return QStringLiteral("127.0.0.1:%1").arg(server.serverPort());
+    }
+};
+
+} // namespace
+
+TEST_F(OpeningTest, WhatIsKnownFromLastTimeIsShownWhileTheServerIsSilent)
+{
+    fillCache(QStringLiteral("tape"));
+    const FaultyServer silent(0, {.silent = true});
+    const host::CupsServer server = knownServer(silent.address());
+    open(QStringLiteral("tape"), server);
+    const StallWatch watch;
+    EXPECT_EQ(tabs().first(), QStringLiteral("Cut Options"));
+    EXPECT_TRUE(panelBox("mHalfCutChkBx")->isVisible());
+    ASSERT_TRUE(papers());
+    EXPECT_EQ(papers()->currentItem()->text(), QStringLiteral("Tape 24 mm x 60 mm"));
+    EXPECT_EQ(state(), QStringLiteral("Last time: Ready."));
+    EXPECT_EQ(destinations()->currentText(), QStringLiteral("tape"));
+    EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+    // It can be used all the while.
+    Hands::click(panelBox("mMirrorPrintChkBx"));
+    EXPECT_TRUE(panelBox("mMirrorPrintChkBx")->isChecked());
+    choosePaper(QStringLiteral("Labels 52 mm x 75 mm"));
+    QTest::qWait(500);
+    EXPECT_EQ(told(), QString());
+    EXPECT_NO_STALL(watch);
+}
+
+TEST_F(OpeningTest, WithNothingKnownItWaitsInWordsAndBecomesUsable)
+{
+    const FaultyServer slow(cupsd->port(), {.delay = 500});
+    host::CupsServer server;
+    server.address = slow.address();
+    open(QStringLiteral("tape"), server);
+    const StallWatch watch;
+    EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
+    EXPECT_EQ(state(), QStringLiteral("Waiting for the print server's answer…"));
+    EXPECT_TRUE(isSeen(QStringLiteral("Waiting for the print server's answer…")));
+    EXPECT_EQ(destinations()->currentText(), QStringLiteral("tape"));
+    EXPECT_FALSE(papers());
+    ASSERT_TRUE(waitUntil([this] { return isSettled(); }));
+    QApplication::processEvents();
+    EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+    EXPECT_EQ(tabs().first(), QStringLiteral("Cut Options"));
+    EXPECT_EQ(state(), QStringLiteral("Ready."));
+    EXPECT_NO_STALL(watch);
+}
+
+TEST_F(OpeningTest, AServerThatIsAbsentSilentOrDeadIsToldAndTheDialogStays)
+{
+    fillCache(QStringLiteral("tape"));
+    const FaultyServer silent(0, {.silent = true});
+    const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
+    struct Row {
+        const char *name;
+        QString address;
+        const char *words;
+    };
+    for (const Row &row :
+         {Row{"absent", closedAddress(), "Cannot connect to the print server"},
+          Row{"silent", silent.address(), "does not answer"}, Row{"breaking", breaking.address(), "broke"}}) {
+        SCOPED_TRACE(row.name);
+        host::CupsServer server = knownServer(row.address);
+        server.patience = std::chrono::milliseconds(300);
+        open(QStringLiteral("tape"), server);
+        const StallWatch watch;
+        EXPECT_TRUE(waitUntil([this] { return !told().isEmpty(); }));
+        EXPECT_TRUE(told().contains(QLatin1String(row.words))) << told().toStdString();
+        EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
+        EXPECT_TRUE(state().contains(QStringLiteral("Last time: Ready."))) << state().toStdString();
+        EXPECT_TRUE(panelBox("mHalfCutChkBx")->isVisible());
+        Hands::click(panelBox("mMirrorPrintChkBx"));
+        EXPECT_NO_STALL(watch);
+    }
+}
+
+TEST_F(OpeningTest, NothingKnownAndNobodyThereIsToldToo)
+{
+    host::CupsServer server;
+    server.address = closedAddress();
+    open(std::nullopt, server);
+    EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
+    QApplication::processEvents();
+    EXPECT_TRUE(told().contains(QStringLiteral("Cannot connect"))) << told().toStdString();
+    EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
+    // The window does not go on to say that it waits.
+    EXPECT_FALSE(isSeen(QStringLiteral("Waiting"))) << state().toStdString();
+}
+
+TEST_F(OpeningTest, ManyQueuesOpenAsFastAsOne)
+{
+    fillCache(QStringLiteral("tape"));
+    const host::QueueCache cache(sharedServer());
+    std::vector<host::Destination> destinations = cache.destinations();
+    for (int i = 0; i < 1000; ++i) {
+        host::Destination more = destinations.front();
+        more.queue = QStringLiteral("queue-%1").arg(i);
+        more.description = QStringLiteral("Label printer in room %1").arg(i);
+        more.isDefault = false;
+        destinations.push_back(more);
+    }
+    cache.storeDestinations(destinations);
+    QElapsedTimer timer;
+    timer.start();
+    open(QStringLiteral("tape"));
+    const qint64 opening = timer.elapsed();
+    EXPECT_LT(opening, 3 * StallWatch::limit().count());
+    const StallWatch watch;
+    ASSERT_TRUE(waitUntil([this] { return isSettled(); }));
+    EXPECT_NO_STALL(watch);
+}
+
+TEST_F(OpeningTest, LargePpdsDoNotStallTheWindow)
+{
+    QByteArray papers = tapePpd();
+    for (int i = 0; i < 300; ++i) {
+        const QByteArray name = "Extra" + QByteArray::number(i);
+        papers += "*PaperDimension " + name + ": \"" + QByteArray::number(100 + i) + " 200\"\n";
+    }
+    QByteArray constrained = largeOptionsPpd(200, 50);
+    for (int i = 0; i < 199; ++i)
+        constrained += "*UIConstraints: *Option" + QByteArray::number(i) + " C1 *Option" +
+                       QByteArray::number(i + 1) + " C2\n";
+    // As large as they come: larger than what is read before the window is shown.
+    const QByteArray huge = largeOptionsPpd(100, 500);
+    EXPECT_GT(huge.size(), 1'000'000);
+    const std::pair<const char *, QByteArray> rows[] = {
+        {"papers", papers}, {"options", constrained}, {"huge", huge}};
+    for (const auto &[name, ppd] : rows) {
+        SCOPED_TRACE(name);
+        cupsd->addQueue(QLatin1String(name), ppd);
+        // The first time it comes from the server, the second time from the cache, then it is replaced.
+        for (int time = 0; time < 2; ++time) {
+            open(QLatin1String(name));
+            const StallWatch watch;
+            ASSERT_TRUE(waitUntil([this] { return isSettled(); }));
+            if (tabs().contains(QStringLiteral("Options"))) {
+                chooseTab(QStringLiteral("Options"));
+                chooseTab(QStringLiteral("What will be sent"));
+                chooseTab(QStringLiteral("Summary"));
+            }
+            QTest::qWait(50);
+            EXPECT_NO_STALL(watch);
+        }
+        meanwhile([&] { cupsd->addQueue(QLatin1String(name), ppd + "*% another\n"); });
+        const StallWatch watch;
+        session->start(host::Discovery::No);
+        EXPECT_TRUE(waitUntil([this] { return isSettled(); }));
+        QTest::qWait(50);
+        EXPECT_NO_STALL(watch);
+        close();
+        cupsd->removeQueue(QLatin1String(name));
+    }
+}
+
+TEST_F(OpeningTest, PpdsThatAreNoneAreToldAndTheQueuePrints)
+{
+    const QByteArray good = tapePpd();
+    const QByteArray rows[] = {
+        QByteArray("*PPD-Adobe: \"4.3\"\n") + QByteArray(50 * 1024 * 1024, '%'),
+        good.left(good.indexOf("*KvMirror ON") + 5),
+        QByteArray("\0\xff\xfe*PPD", 8) + QByteArray(2000, '\x80'),
+        "*PPD-Adobe: \"4.3\"\n*OpenUI *A: PickOne\n*OpenUI *B: PickOne\n" + QByteArray(100000, '"'),
+    };
+    for (const QByteArray &ppd : rows) {
+        SCOPED_TRACE(ppd.size());
+        cupsd->addQueue(QStringLiteral("odd"), good);
+        QFile file(cupsd->path(QStringLiteral("etc/ppd/odd.ppd")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(ppd);
+        file.close();
+        open(QStringLiteral("odd"));
+        const StallWatch watch;
+        ASSERT_TRUE(waitUntil([this] { return session->ppdKnowledge() == host::PpdKnowledge::Failed; }));
+        QApplication::processEvents();
+        EXPECT_NE(told(), QString());
+        EXPECT_TRUE(keeper->setup());
+        EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+        EXPECT_FALSE(tabs().contains(QStringLiteral("Cut Options")));
+        EXPECT_NO_STALL(watch);
+        close();
+        cupsd->removeQueue(QStringLiteral("odd"));
+    }
+}
+
+TEST_F(OpeningTest, AServerThatComesBackIsNoticed)
+{
+    fillCache(QStringLiteral("tape"));
+    for (const bool isKnown : {true, false}) {
+        SCOPED_TRACE(isKnown);
+        if (!isKnown)
+            SetUp();
+        cupsd->kill();
+        open(QStringLiteral("tape"));
+        EXPECT_TRUE(waitUntil([this] { return !told().isEmpty() && session->isSettled(); }));
+        cupsd->restart();
+        EXPECT_TRUE(waitUntil([this] { return isSettled() && state() == QStringLiteral("Ready."); }))
+            << state().toStdString();
+        EXPECT_TRUE(waitUntil([this] { return told().isEmpty(); })) << told().toStdString();
+        EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+    }
+}

@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: Apache-2.0
+// What becomes of the dialog and the job when the sending does not go well, and the job's way to its end.
+#include "FaultyServer.h"
+#include "QueueDialogFixture.h"
+#include "SamplePpd.h"
+
+#include <host/cups/QueueCache.h>
+#include <host/dialog/JobWindow.h>
+
+#include <QApplication>
+
+using test_support::RecordedDocument;
+
+namespace {
+
+class SendingTest : public QueueDialogTest {
+protected:
+    static void SetUpTestSuite()
+    {
+        QueueDialogTest::SetUpTestSuite();
+        cupsd->addQueue(QStringLiteral("tape"), tapePpd());
+    }
+
+    void SetUp() override
+    {
+        if (!cupsd->isRunning())
+            cupsd->restart();
+        QueueDialogTest::SetUp();
+    }
+
+    /// The labels with as many bytes behind them as a large document has.
+    void makeLarge(qsizetype bytes)
+    {
+        QFile file(documentPath);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        const QByteArray pdf = file.readAll();
+        // In front of the last lines, which tell where everything is.
+        const QByteArray filler = "\n%" + QByteArray(bytes, 'x') + '\n';
+        const qsizetype tail = pdf.lastIndexOf("startxref");
+        file.seek(tail);
+        file.write(filler + pdf.mid(tail));
+    }
+
+    /// What the user has set, and that it is all still there.
+    void set() const
+    {
+        Hands::click(panelBox("mMirrorPrintChkBx"));
+        choosePaper(QStringLiteral("Tape 12 mm x 60 mm"));
+    }
+    void expectAllSet() const
+    {
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_FALSE(window->isSending());
+        EXPECT_TRUE(panelBox("mMirrorPrintChkBx")->isChecked());
+        EXPECT_EQ(papers()->currentItem()->text(), QStringLiteral("Tape 12 mm x 60 mm"));
+        EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+    }
+
+    /// Presses Print and waits for the failure.
+    void printInVain() const
+    {
+        Hands::click(button(QStringLiteral("Print")));
+        EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
+    }
+
+    void expectPrintsOnce(std::size_t before)
+    {
+        Hands::click(button(QStringLiteral("Print")));
+        EXPECT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
+        EXPECT_TRUE(waitUntil([] { return waitingJobs().isEmpty(); }));
+        EXPECT_EQ(cupsd->documents().size(), before + 1);
+        EXPECT_EQ(cupsd->documents().back().option("KvMirror"), "ON");
+        EXPECT_EQ(cupsd->documents().back().option("PageSize"), "W12H60");
+    }
+
+    static std::unique_ptr<dialog::JobWindow> follow(int jobId)
+    {
+        auto job = std::make_unique<dialog::JobWindow>(sharedServer(), QStringLiteral("tape"), jobId,
+                                                       QStringLiteral("labels.pdf"));
+        job->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(job.get()));
+        return job;
+    }
+
+    static bool says(const QWidget &job, const QString &words)
+    {
+        return waitUntil([&] {
+            const auto labels = job.findChildren<QLabel *>();
+            return std::ranges::any_of(labels,
+                                       [&](const QLabel *label) { return label->text().contains(words); });
+        });
+    }
+
+    int submit()
+    {
+        openAndSettle(QStringLiteral("tape"));
+        print();
+        return sender->jobId();
+    }
+};
+
+} // namespace
+
+TEST_F(SendingTest, ARefusalIsToldInTheServersWordsAndTheNextTimePrintsOnce)
+{
+    openAndSettle(QStringLiteral("tape"));
+    set();
+    const std::size_t before = cupsd->documents().size();
+    cupsd->reject(QStringLiteral("tape"), QStringLiteral("closed for lunch"));
+    const StallWatch watch;
+    printInVain();
+    EXPECT_TRUE(told().contains(QStringLiteral("not accepting jobs"))) << told().toStdString();
+    expectAllSet();
+    meanwhile([] { cupsd->run(QStringLiteral("cupsaccept"), {QStringLiteral("tape")}); });
+    EXPECT_NO_STALL(watch);
+    expectPrintsOnce(before);
+}
+
+TEST_F(SendingTest, AConnectionThatBreaksLeavesNothingAndTheNextTimePrintsOnce)
+{
+    makeLarge(3'000'000);
+    const FaultyServer breaking(cupsd->port(), {.breakAfter = 1'000'000});
+    host::CupsServer server;
+    server.address = breaking.address();
+    openAndSettle(QStringLiteral("tape"), server);
+    set();
+    const std::size_t before = cupsd->documents().size();
+    const StallWatch watch;
+    printInVain();
+    EXPECT_TRUE(told().contains(QStringLiteral("broke"))) << told().toStdString();
+    EXPECT_FALSE(told().contains(QStringLiteral("taken back"))) << told().toStdString();
+    expectAllSet();
+    EXPECT_NO_STALL(watch);
+    EXPECT_EQ(waitingJobs(), QString());
+    EXPECT_EQ(cupsd->documents().size(), before);
+}
+
+TEST_F(SendingTest, AServerThatDiesIsToldAndTheNextTimePrintsOnce)
+{
+    openAndSettle(QStringLiteral("tape"));
+    set();
+    const std::size_t before = cupsd->documents().size();
+    cupsd->kill();
+    {
+        const StallWatch watch;
+        printInVain();
+        EXPECT_TRUE(told().contains(QStringLiteral("Cannot connect"))) << told().toStdString();
+        expectAllSet();
+        EXPECT_NO_STALL(watch);
+    }
+    cupsd->restart();
+    expectPrintsOnce(before);
+}
+
+TEST_F(SendingTest, AFullSpoolIsToldAndLeavesNoJob)
+{
+    makeLarge(3'000'000);
+    openAndSettle(QStringLiteral("tape"));
+    set();
+    const std::size_t before = cupsd->documents().size();
+    cupsd->setSpoolFull(true);
+    const StallWatch watch;
+    printInVain();
+    EXPECT_NE(told(), QString());
+    expectAllSet();
+    EXPECT_NO_STALL(watch);
+    cupsd->setSpoolFull(false);
+    EXPECT_EQ(waitingJobs(), QString()) << told().toStdString();
+    expectPrintsOnce(before);
+}
+
+TEST_F(SendingTest, StopSendingTakesTheJobBack)
+{
+    makeLarge(80'000'000);
+    openAndSettle(QStringLiteral("tape"));
+    set();
+    const StallWatch watch;
+    const std::size_t before = cupsd->documents().size();
+    Hands::click(button(QStringLiteral("Print")));
+    ASSERT_TRUE(window->isSending());
+    QPushButton *const stop = button(QStringLiteral("Stop sending"));
+    ASSERT_TRUE(stop);
+    EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
+    QTest::qWait(30);
+    Hands::click(stop);
+    EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
+    expectAllSet();
+    EXPECT_EQ(told(), QString());
+    EXPECT_NO_STALL(watch);
+    EXPECT_EQ(waitingJobs(), QString());
+    EXPECT_EQ(cupsd->documents().size(), before);
+}
+
+TEST_F(SendingTest, ClosingTheWindowWhileSendingTakesTheJobBack)
+{
+    const FaultyServer slow(cupsd->port(), {.delay = 500});
+    host::CupsServer server;
+    server.address = slow.address();
+    // Early while the server has not even answered that there is a job, and later.
+    for (const int pause : {100, 700}) {
+        SCOPED_TRACE(pause);
+        openAndSettle(QStringLiteral("tape"), server);
+        const StallWatch watch;
+        const std::size_t before = cupsd->documents().size();
+        cupsd->pause(QStringLiteral("tape"));
+        Hands::click(button(QStringLiteral("Print")));
+        QTest::qWait(pause);
+        ASSERT_TRUE(window->isSending());
+        window->close();
+        EXPECT_TRUE(waitUntil([this] { return !window->isVisible(); }));
+        EXPECT_EQ(window->result(), QDialog::Rejected);
+        EXPECT_TRUE(waitUntil([] { return waitingJobs().isEmpty(); }, 3000)) << waitingJobs().toStdString();
+        cupsd->resume(QStringLiteral("tape"));
+        EXPECT_EQ(cupsd->documents().size(), before);
+    }
+}
+
+TEST_F(SendingTest, ASilentServerWhileSendingCanBeLeft)
+{
+    openAndSettle(QStringLiteral("tape"));
+    close();
+    const FaultyServer silent(0, {.silent = true});
+    host::CupsServer server;
+    server.address = silent.address();
+    server.patience = std::chrono::milliseconds(1500);
+    const host::QueueCache from(sharedServer());
+    const host::QueueCache to(server);
+    to.storeDestinations(from.destinations());
+    QFile ppd(from.ppdPath(QStringLiteral("tape")).value());
+    ASSERT_TRUE(ppd.open(QIODevice::ReadOnly));
+    to.storePpd(QStringLiteral("tape"), ppd.readAll(), 1);
+    open(QStringLiteral("tape"), server);
+    const StallWatch watch;
+    set();
+    Hands::click(button(QStringLiteral("Print")));
+    EXPECT_TRUE(window->isSending());
+    EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
+    EXPECT_TRUE(told().contains(QStringLiteral("does not answer"))) << told().toStdString();
+    expectAllSet();
+    EXPECT_NO_STALL(watch);
+}
+
+TEST_F(SendingTest, TheJobWindowFollowsTheJobToItsEnd)
+{
+    cupsd->setMediaEmpty(true);
+    const int jobId = submit();
+    const auto job = follow(jobId);
+    const StallWatch watch;
+    EXPECT_TRUE(says(*job, QStringLiteral("The label roll or tape is empty.")));
+    cupsd->setMediaEmpty(false);
+    EXPECT_TRUE(waitUntil([&] { return !job->isVisible(); }));
+    EXPECT_EQ(job->result(), QDialog::Accepted);
+    EXPECT_EQ(job->status()->state, host::JobState::Completed);
+    EXPECT_NO_STALL(watch);
+}
+
+TEST_F(SendingTest, TheJobWindowTellsOfAHeldJobAndTakesItBack)
+{
+    cupsd->pause(QStringLiteral("tape"));
+    const int jobId = submit();
+    const auto job = follow(jobId);
+    EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
+    cupsd->run(QStringLiteral("lp"), {QStringLiteral("-i"), QStringLiteral("tape-%1").arg(jobId),
+                                      QStringLiteral("-H"), QStringLiteral("hold")});
+    EXPECT_TRUE(says(*job, QStringLiteral("Held until it is released.")));
+    Hands::click(button(job.get(), QStringLiteral("Cancel the job")));
+    EXPECT_TRUE(says(*job, QStringLiteral("Cancelled.")));
+    EXPECT_EQ(job->status()->state, host::JobState::Cancelled);
+    EXPECT_TRUE(job->isVisible());
+    EXPECT_FALSE(button(job.get(), QStringLiteral("Cancel the job"))->isEnabled());
+    EXPECT_EQ(waitingJobs(), QString());
+    cupsd->resume(QStringLiteral("tape"));
+}
+
+TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
+{
+    cupsd->pause(QStringLiteral("tape"));
+    const int jobId = submit();
+    const auto job = follow(jobId);
+    EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
+    cupsd->kill();
+    {
+        const StallWatch watch;
+        EXPECT_TRUE(says(*job, QStringLiteral("Cannot connect")));
+        // What cannot be done now can be tried again.
+        Hands::click(button(job.get(), QStringLiteral("Cancel the job")));
+        QTest::qWait(300);
+        EXPECT_TRUE(button(job.get(), QStringLiteral("Cancel the job"))->isEnabled());
+        EXPECT_NO_STALL(watch);
+    }
+    cupsd->restart();
+    EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
+    cupsd->resume(QStringLiteral("tape"));
+    EXPECT_TRUE(waitUntil([&] { return !job->isVisible(); }));
+}
