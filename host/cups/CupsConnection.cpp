@@ -103,12 +103,13 @@ const char *CupsConnection::password(const char *prompt, http_t *, const char *,
     const std::optional<PasswordRequest::Credentials> known = state.server.passwords->recall();
     if (known && !std::exchange(state.triedMemory, true))
         return use(*known);
-    if (!state.server.askPassword || state.wasRefused)
+    state.lacksPassword = !state.server.askPassword || state.wasRefused;
+    if (state.lacksPassword)
         return nullptr;
     const PasswordRequest request(QString::fromUtf8(prompt), QString::fromUtf8(cupsUser()));
     state.task->deliver([ask = state.server.askPassword, request] { ask(request); });
     const std::optional<PasswordRequest::Credentials> answer = request.wait(*state.task);
-    state.wasRefused = !answer;
+    state.wasRefused = state.lacksPassword = !answer;
     if (!answer)
         return nullptr;
     state.triedMemory = true;
@@ -137,8 +138,17 @@ CupsError CupsConnection::lastError() const
     return answerError();
 }
 
+CupsError CupsConnection::passwordError() const
+{
+    return {CupsFailure::NotAuthorized,
+            Text::tr("The print server \"%1\" wants a password for the user \"%2\", and none was given.")
+                .arg(server().displayName(), QString::fromUtf8(cupsUser()))};
+}
+
 CupsError CupsConnection::answerError() const
 {
+    if (m_state->lacksPassword && failureForStatus(cupsLastError()) == CupsFailure::NotAuthorized)
+        return passwordError();
     return {failureForStatus(cupsLastError()),
             Text::tr("The print server \"%1\" says: %2")
                 .arg(server().displayName(), QString::fromUtf8(cupsLastErrorString()))};
@@ -219,6 +229,8 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
         httpFlush(m_http.get());
         const bool wantsPassword = status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN ||
                                    status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+        if (wantsPassword && m_state->lacksPassword)
+            return passwordError();
         return failure(status == HTTP_STATUS_NOT_FOUND ? CupsFailure::NotFound
                        : wantsPassword                 ? CupsFailure::NotAuthorized
                                                        : CupsFailure::Refused,

@@ -69,6 +69,8 @@ private:
         bool wasSilent = false;
         bool triedMemory = false;
         bool wasRefused = false;
+        /// The server was not told the password that it wanted.
+        bool lacksPassword = false;
         PasswordRequest::Credentials credentials;
     };
 
@@ -78,6 +80,7 @@ private:
     }
 
     CupsError answerError() const;
+    CupsError passwordError() const;
     bool connect();
     http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);
     static int mayWaitOn(http_t *http, void *state);

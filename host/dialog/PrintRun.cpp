@@ -7,6 +7,7 @@
 #include "PasswordDialog.h"
 #include "QueueSender.h"
 #include "ServerRun.h"
+#include "TerminalPassword.h"
 #include "VirtualSender.h"
 
 #include <host/OutputFiles.h>
@@ -138,8 +139,10 @@ ExitStatus PrintRun::runOnQueue()
     if (!document)
         return ExitStatus::Failed;
     host::CupsServer server = cupsServer(m_command);
-    if (m_command.noDialog || m_command.task != Task::Print)
+    if (m_command.noDialog || m_command.task != Task::Print) {
+        server.askPassword = askOnTerminal();
         return HeadlessRun(m_command, m_console, server, *document).run();
+    }
 
     PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
@@ -199,8 +202,11 @@ void PrintRun::tellSummary(const std::vector<SummarySection> &summary)
 
 ExitStatus PrintRun::run()
 {
-    if (m_command.task == Task::List || m_command.task == Task::ChangeJob)
-        return ServerRun(m_command, m_console, cupsServer(m_command)).run();
+    if (m_command.task == Task::List || m_command.task == Task::ChangeJob) {
+        host::CupsServer server = cupsServer(m_command);
+        server.askPassword = askOnTerminal();
+        return ServerRun(m_command, m_console, server).run();
+    }
     return m_command.ppd ? runVirtual() : runOnQueue();
 }
 
