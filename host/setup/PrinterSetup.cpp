@@ -204,10 +204,12 @@ QString PrinterSetup::printerText() const
 void PrinterSetup::record(const QByteArray &name, const QByteArray &value, Origin origin)
 {
     const auto known = std::ranges::find(m_choices, name, &JobChoice::name);
+    const bool isPanels = origin == Origin::Panel;
     if (known == m_choices.end()) {
-        m_choices.push_back({name, value, origin});
+        m_choices.push_back({name, value, origin, isPanels});
         return;
     }
+    known->isPanels = known->isPanels || isPanels;
     // A panel that hands over what the user has asked for has not chosen anything.
     if (known->value == value)
         return;
