@@ -69,7 +69,7 @@ void SetupKeeper::end()
     if (!m_setup)
         return;
     Q_EMIT setupAboutToEnd();
-    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choices();
+    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choicesAndRefusedWishes();
     m_setup.reset();
 }
 
