@@ -68,6 +68,7 @@ std::vector<NamedValue> namedValues(const QByteArray &collection)
     cups_option_t *parsed = nullptr;
     const int count = cupsParseOptions(collection.constData(), 0, &parsed);
     std::vector<NamedValue> values;
+    values.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         values.push_back({parsed[i].name, parsed[i].value});
     cupsFreeOptions(count, parsed);
