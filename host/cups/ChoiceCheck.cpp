@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ChoiceCheck.h"
 
+#include "FreeChoiceCheck.h"
+
+#include <host/PpdOptions.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -84,26 +88,28 @@ bool isServerOption(const QByteArray &name)
     return std::find(std::begin(serverOptions), std::end(serverOptions), name) != std::end(serverOptions);
 }
 
-/// "Custom.36x50mm", "Custom.12" or "{Width=12 Height=5}" for an option that takes free values.
-bool isFreeValue(const PpdFile &ppd, const JobChoice &choice)
+/// The entry that stands for values of its own, and is no choice without one.
+bool isFreeEntry(const PpdFile &ppd, const ppd_option_t &option, const char *choice)
 {
-    const bool looksFree = choice.value.startsWith("Custom.") || choice.value.startsWith('{');
-    return looksFree && ppdFindCustomOption(ppd.handle(), choice.name.constData()) != nullptr;
+    return qstrcmp(choice, PpdOptions::freeChoice) == 0 &&
+           ppdFindCustomOption(ppd.handle(), option.keyword) != nullptr;
 }
 
-bool hasChoice(const ppd_option_t &option, const QByteArray &wanted)
+bool hasChoice(const PpdFile &ppd, const ppd_option_t &option, const QByteArray &wanted)
 {
-    return std::any_of(option.choices, option.choices + option.num_choices,
-                       [&](const ppd_choice_t &each) { return wanted == each.choice; });
+    return std::any_of(option.choices, option.choices + option.num_choices, [&](const ppd_choice_t &each) {
+        return wanted == each.choice && !isFreeEntry(ppd, option, each.choice);
+    });
 }
 
-QString choiceList(const ppd_option_t &option)
+QString choiceList(const PpdFile &ppd, const ppd_option_t &option)
 {
     // A list that nobody would read helps nobody.
     constexpr int mostChoices = 12;
     QStringList names;
     for (int i = 0; i < qMin(option.num_choices, mostChoices); ++i)
-        names.append(QString::fromUtf8(option.choices[i].choice));
+        names.append(QString::fromUtf8(option.choices[i].choice) +
+                     (isFreeEntry(ppd, option, option.choices[i].choice) ? QStringLiteral(".…") : QString()));
     if (option.num_choices > mostChoices)
         names.append(QStringLiteral("…"));
     return names.join(QStringLiteral(", "));
@@ -135,12 +141,12 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
         return std::nullopt;
     const QByteArrayList values = takesSeveral ? choice.value.split(',') : QByteArrayList{choice.value};
     const bool isKnown = std::all_of(values.begin(), values.end(),
-                                     [&](const QByteArray &each) { return hasChoice(*option, each); });
-    if (isKnown || isFreeValue(ppd, choice))
+                                     [&](const QByteArray &each) { return hasChoice(ppd, *option, each); });
+    if (isKnown || isFreeChoice(ppd, {choice.name, choice.value}))
         return std::nullopt;
     return ChoiceError{ChoiceFailure::UnknownChoice,
                        Text::tr("The option \"%1\" of the printer \"%2\" has no choice \"%3\"; it has: %4")
-                           .arg(name, ppd.printerName(), value, choiceList(*option))};
+                           .arg(name, ppd.printerName(), value, choiceList(ppd, *option))};
 }
 
 CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &ppd)

@@ -96,6 +96,7 @@ const char *CupsConnection::password(const char *prompt, http_t *, const char *,
     const PasswordRequest request(QString::fromUtf8(prompt), QString::fromUtf8(cupsUser()));
     const std::optional<PasswordRequest::Credentials> answer =
         state.server.passwords->get(request, *state.task, state.server.askPassword, state.triedPasswords);
+    state.lacksPassword = !answer;
     if (!answer)
         return nullptr;
     // libcups keeps no copy.
@@ -126,8 +127,17 @@ CupsError CupsConnection::lastError() const
     return answerError();
 }
 
+CupsError CupsConnection::passwordError() const
+{
+    return {CupsFailure::NotAuthorized,
+            Text::tr("The print server \"%1\" wants a password for the user \"%2\", and none was given.")
+                .arg(server().displayName(), QString::fromUtf8(cupsUser()))};
+}
+
 CupsError CupsConnection::answerError() const
 {
+    if (m_state->lacksPassword && failureForStatus(cupsLastError()) == CupsFailure::NotAuthorized)
+        return passwordError();
     return {failureForStatus(cupsLastError()),
             Text::tr("The print server \"%1\" says: %2")
                 .arg(server().displayName(), QString::fromUtf8(cupsLastErrorString()))};
@@ -216,6 +226,8 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
         httpFlush(m_http.get());
         const bool wantsPassword = status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN ||
                                    status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+        if (wantsPassword && m_state->lacksPassword)
+            return passwordError();
         return failure(status == HTTP_STATUS_NOT_FOUND ? CupsFailure::NotFound
                        : wantsPassword                 ? CupsFailure::NotAuthorized
                                                        : CupsFailure::Refused,

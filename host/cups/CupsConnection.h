@@ -74,6 +74,8 @@ private:
         /// What is on its way is waited for even when the task is cancelled.
         bool finishesFirst = false;
         int triedPasswords = 0;
+        /// The server was not told the password that it wanted.
+        bool lacksPassword = false;
         PasswordRequest::Credentials credentials;
     };
 
@@ -83,6 +85,7 @@ private:
     }
 
     CupsError answerError() const;
+    CupsError passwordError() const;
     bool connect();
     http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);
     static int mayWaitOn(http_t *http, void *state);

@@ -43,9 +43,9 @@ public:
         option.value = value;
         option.origin = origin;
     }
+    void send(const QByteArray &name) { at(name).isSent = true; }
     std::vector<JobOption> take() && { return std::move(m_options); }
     bool has(const QByteArray &name) const { return find(name) != m_options.end(); }
-    void send(const QByteArray &name) { at(name).isSent = true; }
 
 private:
     std::vector<JobOption>::const_iterator find(const QByteArray &name) const
@@ -140,8 +140,11 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
         if (!hasPaper || !namesPaperLoosely(option.name))
             layers.set(option.name, option.value, Origin::UserDefault);
     }
-    for (const JobChoice &choice : choices)
+    for (const JobChoice &choice : choices) {
         layers.set(choice.name, choice.value, choice.origin);
+        if (choice.isPanels)
+            layers.send(choice.name);
+    }
     for (const NamedValue &setting : settingValues(settings))
         layers.set(setting.name, setting.value, Origin::You);
     if (hasPaper)

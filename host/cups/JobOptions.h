@@ -20,6 +20,8 @@ struct JobChoice {
     QByteArray value;
     /// Preset, Panel or You.
     Origin origin = Origin::You;
+    /// A panel hands it over, whoever has chosen it; the job carries it even where the queue does the same.
+    bool isPanels = false;
 };
 
 /// IPP's numbers.

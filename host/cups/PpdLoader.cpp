@@ -5,7 +5,9 @@
 #include "DiscoveredQueue.h"
 #include "QueueCache.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 namespace host {
 
@@ -33,7 +35,28 @@ struct PpdLoader::Outcome {
     std::shared_ptr<PpdFile> ppd;
     std::optional<CupsError> error;
     bool isAbsent = false;
+    /// The PPD's.
+    QByteArray stamp = {};
 };
+
+namespace {
+
+/// The PPD from its bytes, by way of a file, which libcups needs. The cache's is as good as any, unless the
+/// cache cannot be written or another program has put another PPD there.
+Result<PpdFile, PpdError> openContent(const QByteArray &content, const std::optional<QString> &cachePath)
+{
+    if (cachePath) {
+        QFile file(*cachePath);
+        if (file.open(QIODevice::ReadOnly) && file.readAll() == content)
+            return PpdFile::open(*cachePath);
+    }
+    QTemporaryFile file;
+    if (!file.open() || file.write(content) != content.size() || !file.flush())
+        return PpdError{PpdFailure::Unreadable, file.errorString()};
+    return PpdFile::open(file.fileName());
+}
+
+} // namespace
 
 PpdLoader::PpdLoader(CupsServer server, QObject *parent)
     : QObject(parent)
@@ -41,33 +64,59 @@ PpdLoader::PpdLoader(CupsServer server, QObject *parent)
 {
 }
 
-std::optional<PpdFile> PpdLoader::cached(const QString &queue) const
+std::optional<PpdFile> PpdLoader::cached(const QString &queue)
 {
-    const std::optional<QString> path = QueueCache(m_server).ppdPath(queue);
-    return path && !isLarge(*path) ? openQuietly(*path) : std::nullopt;
+    const QueueCache cache(m_server);
+    m_given.erase(queue);
+    const std::optional<QString> path = cache.ppdPath(queue);
+    if (!path || isLarge(*path))
+        return std::nullopt;
+    // First the stamp: if the file is replaced in between, the server gives the new one once more.
+    const QByteArray stamp = cache.ppdStamp(queue);
+    std::optional<PpdFile> ppd = openQuietly(*path);
+    if (ppd)
+        m_given[queue] = stamp;
+    return ppd;
 }
 
 void PpdLoader::load(const Destination &destination, LargeCached largeCached)
 {
     if (m_task)
         m_task->cancel();
-    m_task = m_background.start([this, server = m_server, destination, largeCached](BackgroundTask &task) {
-        const std::optional<QString> path = QueueCache(server).ppdPath(destination.queue);
-        if (largeCached == LargeCached::Wanted && path && isLarge(*path)) {
-            if (std::optional<PpdFile> ppd = openQuietly(*path))
-                task.deliver(
-                    [this, queue = destination.queue, known = std::make_shared<PpdFile>(*std::move(ppd))] {
-                        Q_EMIT remembered(queue, known);
-                    });
-        }
-        const Outcome outcome = ask(server, destination, task);
-        if (!task.isCancelled()) // "this" is only used on the main thread, while it is there
-            task.deliver([this, queue = destination.queue, outcome] { report(queue, outcome); });
+    const auto known = m_given.find(destination.queue);
+    const QByteArray given = known == m_given.end() ? QByteArray() : known->second;
+    m_task =
+        m_background.start([this, server = m_server, destination, given, largeCached](BackgroundTask &task) {
+            std::optional<QByteArray> remembered;
+            if (largeCached == LargeCached::Wanted)
+                remembered = bringLarge(server, destination.queue, task);
+            const Outcome outcome = ask(server, destination, remembered.value_or(given), task);
+            if (!task.isCancelled()) // "this" is only used on the main thread, while it is there
+                task.deliver([this, queue = destination.queue, outcome] { report(queue, outcome); });
+        });
+}
+
+std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const QString &queue,
+                                                BackgroundTask &task)
+{
+    const QueueCache cache(server);
+    const std::optional<QString> path = cache.ppdPath(queue);
+    if (!path || !isLarge(*path))
+        return std::nullopt;
+    const QByteArray stamp = cache.ppdStamp(queue);
+    std::optional<PpdFile> ppd = openQuietly(*path);
+    if (!ppd)
+        return std::nullopt;
+    // "this" is only used on the main thread, while it is there
+    task.deliver([this, queue, stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
+        m_given[queue] = stamp;
+        Q_EMIT remembered(queue, known);
     });
+    return stamp;
 }
 
 PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &destination,
-                                  BackgroundTask &task)
+                                  const QByteArray &given, BackgroundTask &task)
 {
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
@@ -77,8 +126,7 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
 
     const QueueCache cache(server);
     const QString &queue = destination.queue;
-    const auto file =
-        connection.value().fetch(queueResource(queue) + ".ppd", cache.ppdStamp(queue), PpdFile::largestText);
+    const auto file = connection.value().fetch(queueResource(queue) + ".ppd", given, PpdFile::largestText);
     if (!file && file.error().kind == CupsFailure::NotFound) {
         cache.removePpd(queue);
         return {nullptr, std::nullopt, true};
@@ -87,19 +135,24 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
         return {nullptr, file.error(), false};
     if (!file.value())
         return {};
-    cache.storePpd(queue, file.value()->content, file.value()->modified);
-    const std::optional<QString> path = cache.ppdPath(queue);
-    Result<PpdFile, PpdError> ppd = PpdFile::open(path.value_or(queue));
+    const QByteArray &content = file.value()->content;
+    cache.storePpd(queue, content, file.value()->modified);
+    Result<PpdFile, PpdError> ppd = openContent(content, cache.ppdPath(queue));
     if (!ppd) {
         // Not kept: next time the server may have a better one that looks as old.
         cache.removePpd(queue);
         return {nullptr, CupsError{CupsFailure::Refused, ppd.error().message}, false};
     }
-    return {std::make_shared<PpdFile>(std::move(ppd).value()), std::nullopt, false};
+    return {std::make_shared<PpdFile>(std::move(ppd).value()), std::nullopt, false,
+            QueueCache::stamp(file.value()->modified, content.size())};
 }
 
 void PpdLoader::report(const QString &queue, const Outcome &outcome)
 {
+    if (outcome.ppd)
+        m_given[queue] = outcome.stamp;
+    else if (outcome.isAbsent)
+        m_given.erase(queue);
     if (outcome.ppd)
         Q_EMIT loaded(queue, outcome.ppd);
     else if (outcome.error)

@@ -111,10 +111,14 @@ QByteArray QueueCache::ppdStamp(const QString &queue) const
     const QFileInfo file(ppdFileName(queue));
     if (!file.exists())
         return {};
-    const time_t modified = static_cast<time_t>(file.lastModified().toSecsSinceEpoch());
+    return stamp(file.lastModified().toSecsSinceEpoch(), file.size());
+}
+
+QByteArray QueueCache::stamp(qint64 modified, qint64 length)
+{
     std::array<char, 64> date = {};
-    httpGetDateString2(modified, date.data(), static_cast<int>(date.size()));
-    return QByteArray(date.data()) + "; length=" + QByteArray::number(file.size());
+    httpGetDateString2(static_cast<time_t>(modified), date.data(), static_cast<int>(date.size()));
+    return QByteArray(date.data()) + "; length=" + QByteArray::number(length);
 }
 
 void QueueCache::storePpd(const QString &queue, const QByteArray &content, qint64 modified) const

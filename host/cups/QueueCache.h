@@ -29,6 +29,8 @@ public:
     /// What a server is asked to compare its PPD with, as an "If-Modified-Since" field; empty when none is
     /// kept. The length is part of it: a PPD may be replaced twice in a second.
     QByteArray ppdStamp(const QString &queue) const;
+    /// The same of a PPD that was fetched: when it was modified, in seconds since 1970, and its bytes.
+    static QByteArray stamp(qint64 modified, qint64 length);
     /// Keeps the PPD; modified in seconds since 1970.
     void storePpd(const QString &queue, const QByteArray &content, qint64 modified) const;
     void removePpd(const QString &queue) const;

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CommandWishes.h"
 
+#include <host/cups/MailRecipient.h>
+
 #include <QLocale>
+
+#include <algorithm>
 
 namespace dialog {
 
@@ -17,7 +21,13 @@ host::CupsServer cupsServer(const CommandLine &command)
 
 host::SetupWishes setupWishes(const CommandLine &command)
 {
-    return {command.options, command.paper, QLocale().name(), command.force};
+    host::SetupWishes wishes{command.options, command.paper, QLocale().name(), command.force};
+    constexpr const char *recipient = "notify-recipient-uri";
+    const bool isNamed = std::ranges::find(wishes.choices, QByteArray(recipient), &host::JobChoice::name) !=
+                         wishes.choices.end();
+    if (command.mail && !isNamed)
+        wishes.choices.push_back({recipient, host::mailRecipient(command.user)});
+    return wishes;
 }
 
 host::PanelSource panelSource(const CommandLine &command)

@@ -6,6 +6,7 @@
 #include "QueueSender.h"
 #include "Screenshot.h"
 
+#include <host/cups/LpOptions.h>
 #include <host/setup/JobReport.h>
 #include <host/setup/JobSummary.h>
 
@@ -91,6 +92,15 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
         failure = host::CupsError{
             host::CupsFailure::NotFound,
             Text::tr("The print server \"%1\" has no destination to print on").arg(m_server.displayName())};
+    // The dialog shows any other queue then; without it, nobody would see where the labels go.
+    const bool isAnyQueue = !m_command.destination && !host::LpOptions::read().defaultName() &&
+                            !session.destinations().defaultDestination();
+    if (!failure && isAnyQueue)
+        failure =
+            host::CupsError{host::CupsFailure::NotFound,
+                            Text::tr("There is no default destination on the print server \"%1\"; name one "
+                                     "with \"-d\"")
+                                .arg(m_server.displayName())};
     if (failure)
         m_console.complain(failure->message);
     // A PPD that cannot be used says nothing of what would come out.

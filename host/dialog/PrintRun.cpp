@@ -8,6 +8,7 @@
 #include "QueueSender.h"
 #include "Screenshot.h"
 #include "ServerRun.h"
+#include "TerminalPassword.h"
 #include "VirtualSender.h"
 
 #include <QApplication>
@@ -151,8 +152,10 @@ ExitStatus PrintRun::runOnQueue()
     if (!document)
         return ExitStatus::Failed;
     host::CupsServer server = cupsServer(m_command);
-    if (m_command.noDialog || m_command.task != Task::Print)
+    if (m_command.noDialog || m_command.task != Task::Print) {
+        server.askPassword = askOnTerminal();
         return HeadlessRun(m_command, m_console, server, std::move(document)).run();
+    }
 
     PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
@@ -209,8 +212,11 @@ void PrintRun::tellSummary(const std::vector<SummarySection> &summary)
 
 ExitStatus PrintRun::run()
 {
-    if (m_command.task == Task::List || m_command.task == Task::ChangeJob)
-        return ServerRun(m_command, m_console, cupsServer(m_command)).run();
+    if (m_command.task == Task::List || m_command.task == Task::ChangeJob) {
+        host::CupsServer server = cupsServer(m_command);
+        server.askPassword = askOnTerminal();
+        return ServerRun(m_command, m_console, server).run();
+    }
     return m_command.ppd ? runVirtual() : runOnQueue();
 }
 

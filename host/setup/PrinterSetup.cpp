@@ -65,6 +65,20 @@ void PrinterSetup::markWishes(const SetupWishes &wishes)
     CarriedChoices carried = carryOverChoices(choices, m_state->ppd());
     m_choices = std::move(carried.kept);
     m_refusals = std::move(carried.lost);
+    for (const JobChoice &wish : choices) {
+        if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
+            m_refusedWishes.push_back(wish);
+    }
+}
+
+std::vector<JobChoice> PrinterSetup::choicesAndRefusedWishes() const
+{
+    std::vector<JobChoice> all = m_choices;
+    for (const JobChoice &wish : m_refusedWishes) {
+        if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
+            all.push_back(wish);
+    }
+    return all;
 }
 
 std::optional<QByteArray> PrinterSetup::wishedPaper(const SetupWishes &wishes)
@@ -93,10 +107,13 @@ void PrinterSetup::takePaper(const SetupWishes &wishes)
 {
     if (const std::optional<QByteArray> wished = wishedPaper(wishes)) {
         m_paper = m_state->ppd().paper(*wished);
-        if (m_paper)
+        const JobChoice wish{paperKeyword, *wished, Origin::You};
+        if (m_paper) {
             record(paperKeyword, m_paper->name, Origin::You);
-        else
-            m_refusals.push_back(*checkChoice(m_state->ppd(), {paperKeyword, *wished, Origin::You}));
+        } else {
+            m_refusals.push_back(*checkChoice(m_state->ppd(), wish));
+            m_refusedWishes.push_back(wish);
+        }
     }
     if (!m_paper)
         m_paper = defaultPaper();
@@ -204,10 +221,12 @@ QString PrinterSetup::printerText() const
 void PrinterSetup::record(const QByteArray &name, const QByteArray &value, Origin origin)
 {
     const auto known = std::ranges::find(m_choices, name, &JobChoice::name);
+    const bool isPanels = origin == Origin::Panel;
     if (known == m_choices.end()) {
-        m_choices.push_back({name, value, origin});
+        m_choices.push_back({name, value, origin, isPanels});
         return;
     }
+    known->isPanels = known->isPanels || isPanels;
     // A panel that hands over what the user has asked for has not chosen anything.
     if (known->value == value)
         return;

@@ -67,6 +67,10 @@ public:
     const std::vector<JobChoice> &choices() const { return m_choices; }
     /// Wishes that the printer cannot fulfil, one sentence each.
     const std::vector<ChoiceError> &refusals() const { return m_refusals; }
+    /// What is wanted of the printer all in all: the choices, and of the wishes that it cannot fulfil those
+    /// that nothing else was chosen for. To be carried over to another setup, which may fulfil them or says
+    /// again that it cannot.
+    std::vector<JobChoice> choicesAndRefusedWishes() const;
 
     std::vector<Conflict> conflicts() const;
     /// Ends all conflicts without touching the paper; nothing when there is none or no way.
@@ -100,6 +104,8 @@ private:
     std::optional<PpdPaper> m_paper;
     std::vector<JobChoice> m_choices;
     std::vector<ChoiceError> m_refusals;
+    /// What the refusals are about.
+    std::vector<JobChoice> m_refusedWishes;
     /// The option that was chosen last, which a remedy leaves as it is if it can.
     QString m_lastChosen;
 };

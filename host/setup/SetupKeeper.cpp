@@ -46,11 +46,11 @@ void SetupKeeper::changePpd()
     if (!ppd && !lostIts && (m_setup || !isUsableWithoutPpd()))
         return;
     const bool isReplacement = m_setup != nullptr;
+    const QStringList refusedBefore = m_refused;
     end();
     replace(std::move(ppd));
-    QStringList lost;
-    for (const ChoiceError &refusal : m_setup->refusals())
-        lost.append(refusal.message);
+    QStringList lost = m_refused;
+    lost.removeIf([&](const QString &sentence) { return refusedBefore.contains(sentence); });
     if (isReplacement && !lost.isEmpty())
         Q_EMIT choicesLost(lost);
 }
@@ -69,7 +69,7 @@ void SetupKeeper::end()
     if (!m_setup)
         return;
     Q_EMIT setupAboutToEnd();
-    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choices();
+    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choicesAndRefusedWishes();
     m_setup.reset();
 }
 
@@ -82,6 +82,9 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
         wishes.paper.reset();
     }
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
+    m_refused.clear();
+    for (const ChoiceError &refusal : m_setup->refusals())
+        m_refused.append(refusal.message);
     Q_EMIT setupChanged();
 }
 

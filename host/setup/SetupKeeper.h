@@ -33,7 +33,8 @@ Q_SIGNALS:
     void setupAboutToEnd();
     /// setup() is another, or null now.
     void setupChanged();
-    /// The queue has another PPD, which lacks these choices; one sentence each.
+    /// The queue has another PPD, which lacks these choices; one sentence each. They are not forgotten: a PPD
+    /// that has them brings them back.
     void choicesLost(const QStringList &sentences);
 
 private:
@@ -48,6 +49,8 @@ private:
     SetupWishes m_wishes;
     std::unique_ptr<PrinterSetup> m_setup;
     std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
+    /// What the setup, or the one before it, cannot fulfil; told once.
+    QStringList m_refused;
 };
 
 } // namespace host

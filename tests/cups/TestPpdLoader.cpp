@@ -51,6 +51,7 @@ protected:
     static Outcome load(const QString &queue, const CupsServer &from)
     {
         PpdLoader loader(from);
+        loader.cached(queue);
         Outcome outcome;
         QObject::connect(&loader, &PpdLoader::loaded, [&](const QString &name, const auto &ppd) {
             EXPECT_EQ(name, queue);

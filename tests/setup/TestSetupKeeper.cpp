@@ -137,6 +137,29 @@ TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
     EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
     ASSERT_EQ(lost.size(), 1);
     EXPECT_TRUE(lost.first().contains(QStringLiteral("KvCutMark"))) << lost.first().toStdString();
+
+    // What was lost comes back with the PPD that has it.
+    const int endedBefore = ended;
+    cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().allOptions().ppd());
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([&] { return ended > endedBefore && keeper->setup() && knows(); }));
+    EXPECT_EQ(chosen("KvCutMark"), QByteArray("ON"));
+    EXPECT_EQ(lost.size(), 1);
+}
+
+TEST_F(SetupKeeperTest, ARefusedWishIsNotForgottenWhenThePpdComesAgain)
+{
+    host::SetupWishes wishes{{{"KvCutMark", "ON"}, {"KvMirror", "ON"}}, "36mm-wide"};
+    cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvMirror"}).ppd());
+    openAndSettle(QStringLiteral("tape"), wishes);
+    ASSERT_EQ(keeper->setup()->refusals().size(), 2U);
+    cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvMirror", "KvHalfCut"}).ppd());
+    int ended = 0;
+    QObject::connect(keeper.get(), &SetupKeeper::setupAboutToEnd, [&] { ++ended; });
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([&] { return ended > 0 && keeper->setup(); }));
+    EXPECT_EQ(keeper->setup()->refusals().size(), 2U);
+    EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
 }
 
 TEST_F(SetupKeeperTest, EachQueueKeepsItsChoices)

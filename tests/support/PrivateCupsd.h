@@ -71,6 +71,9 @@ public:
     /// Waits until so many documents have passed the filters. Fails the test when they do not.
     std::vector<RecordedDocument> waitForDocuments(std::size_t count);
 
+    /// Starts the server anew with these lines at the end of its configuration, in place of earlier ones.
+    void configure(const QByteArray &lines);
+
     /// Ends the server at once, as a crash would.
     void kill();
     /// Starts it again on the same port, with all its queues and jobs.

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "TerminalPassword.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace dialog {
+
+namespace {
+
+/// While it lives, the terminal shows nothing of what is typed and hands over each key at once; also those
+/// that would end the program and leave the terminal like that.
+class UnseenTyping {
+public:
+    explicit UnseenTyping(int terminal)
+        : m_terminal(terminal)
+        , m_works(tcgetattr(terminal, &m_usual) == 0)
+    {
+        termios unseen = m_usual;
+        unseen.c_lflag &= ~static_cast<tcflag_t>(ECHO | ICANON | IEXTEN | ISIG);
+        unseen.c_cc[VMIN] = 1;
+        unseen.c_cc[VTIME] = 0;
+        m_works = m_works && tcsetattr(terminal, TCSAFLUSH, &unseen) == 0;
+    }
+    ~UnseenTyping()
+    {
+        if (m_works)
+            tcsetattr(m_terminal, TCSAFLUSH, &m_usual);
+    }
+    UnseenTyping(const UnseenTyping &) = delete;
+    UnseenTyping &operator=(const UnseenTyping &) = delete;
+
+    /// A password is never typed where it can be read.
+    bool works() const { return m_works; }
+    bool isKey(char typed, int key) const { return static_cast<cc_t>(typed) == m_usual.c_cc[key]; }
+
+private:
+    int m_terminal;
+    termios m_usual = {};
+    bool m_works;
+};
+
+void removeLastCharacter(QByteArray &line)
+{
+    // One character may be several bytes of UTF-8.
+    while (!line.isEmpty() && (line.back() & 0xC0) == 0x80)
+        line.chop(1);
+    if (!line.isEmpty())
+        line.chop(1);
+}
+
+} // namespace
+
+TerminalPassword::TerminalPassword()
+    : m_terminal(::open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY)) // NOLINT
+{
+}
+
+TerminalPassword::~TerminalPassword()
+{
+    if (isThere())
+        ::close(m_terminal);
+}
+
+std::optional<QString> TerminalPassword::ask(const QString &prompt) const
+{
+    if (!isThere())
+        return std::nullopt;
+    const std::optional<QByteArray> line = readLine(prompt.toLocal8Bit() + ' ');
+    say("\n");
+    return line ? std::optional(QString::fromLocal8Bit(*line)) : std::nullopt;
+}
+
+void TerminalPassword::say(const QByteArray &text) const
+{
+    // Who does not see the prompt can answer all the same.
+    [[maybe_unused]] const ssize_t written =
+        ::write(m_terminal, text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt) const
+{
+    const UnseenTyping typing(m_terminal);
+    // Not before: somebody quick would see the first letters, and they would be lost.
+    say(prompt);
+    QByteArray line;
+    while (typing.works()) {
+        char typed = 0;
+        const ssize_t length = ::read(m_terminal, &typed, 1);
+        if (length < 0 && errno == EINTR)
+            continue;
+        if (length <= 0 || typing.isKey(typed, VINTR) || typing.isKey(typed, VEOF))
+            return std::nullopt;
+        if (typed == '\n' || typed == '\r')
+            return line;
+        if (typing.isKey(typed, VERASE))
+            removeLastCharacter(line);
+        else if (typing.isKey(typed, VKILL))
+            line.clear();
+        else
+            line += typed;
+    }
+    return std::nullopt;
+}
+
+host::PasswordHandler askOnTerminal()
+{
+    return [](const host::PasswordRequest &request) {
+        const TerminalPassword terminal;
+        if (const std::optional<QString> password = terminal.ask(request.prompt()))
+            request.answer(request.user(), *password);
+        else
+            request.refuse();
+    };
+}
+
+} // namespace dialog

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kvprint.h"
+
+#include <tests/support/PpdBuilder.h>
+#include <tests/support/PrivateCupsd.h>
+
+#include <QMap>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// A real server, the program, and documents to print.
+class KvprintTest : public testing::Test {
+protected:
+    KvprintTest();
+
+    /// Adds a queue with one of the sample PPDs, "kvelland-lx900".
+    void addSampleQueue(const QString &name, const QString &ppd);
+    /// The bytes of a sample PPD.
+    static QByteArray samplePpd(const QString &name);
+
+    /// Makes the file in the folder and answers its path.
+    QString file(const QString &name, const QByteArray &content) const;
+    /// A picture of one label, by its file's ending.
+    QString picture(const QString &name = QStringLiteral("label.png")) const;
+
+    /// Prints without a dialog: the words and a picture behind them.
+    Outcome print(const QStringList &words) const;
+    /// As print(), which must go well; answers the document that the filter was given.
+    test_support::RecordedDocument printed(const QStringList &words);
+    /// Runs the program, which must end with status 1, say the words on standard error and nothing on
+    /// standard output, and leave nothing of the document on the server.
+    void expectRefusal(const QStringList &words, const QStringList &messageParts,
+                       const QByteArray &input = {});
+
+    /// The documents of jobs by their numbers, as soon as there are so many.
+    QMap<int, test_support::RecordedDocument> recorded(std::size_t count) const;
+    /// The states of all jobs that the server knows of, by number; IPP's numbers.
+    QMap<int, int> jobStates() const;
+    /// All that the server tells of a job, as text.
+    QMap<QByteArray, QByteArray> jobAttributes(int jobId) const;
+    /// All that the server tells of a queue, its defaults for jobs among them.
+    QMap<QByteArray, QByteArray> queueAttributes(const QString &queue) const;
+
+    /// A small document of several pages.
+    static QString samplePdf() { return QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"); }
+
+    test_support::PrivateCupsd cupsd;
+    QTemporaryDir folder;
+    Kvprint kvprint;
+
+private:
+    QMap<QByteArray, QByteArray> attributes(int operation, const char *addressName,
+                                            const QByteArray &address) const;
+};

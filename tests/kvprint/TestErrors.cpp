@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "KvprintTest.h"
+
+#include <QFile>
+
+using test_support::PpdBuilder;
+using test_support::RecordedDocument;
+
+namespace {
+
+const QString tape = QStringLiteral("tape");
+
+QString word(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
+class KvprintErrors : public KvprintTest {
+protected:
+    KvprintErrors() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
+
+    /// On the queue, a picture behind the words.
+    void expectRefusalOnTape(const QStringList &words, const QStringList &messageParts)
+    {
+        expectRefusal(QStringList{QStringLiteral("-d"), tape} + words + QStringList{picture()}, messageParts);
+    }
+};
+
+TEST_F(KvprintErrors, NameWhatThePrinterDoesNotHave)
+{
+    const struct {
+        const char *option;
+        QStringList messageParts;
+    } rows[] = {
+        {"Colour=Red", {word("Colour"), word("no option")}},
+        {"Colour", {word("Colour"), word("no option")}},
+        {"kvmirror=ON", {word("kvmirror"), word("no option")}},
+        {"PrintDensity=Black", {word("PrintDensity"), word("Black"), word("Dark")}},
+        {"PrintDensity=dark", {word("PrintDensity"), word("dark")}},
+        {"PrintDensity=Custom.99", {word("PrintDensity"), word("99")}},
+        {"PrintDensity=Custom.x", {word("PrintDensity"), word("Custom.x")}},
+        {"KvMirror=Custom.1", {word("KvMirror"), word("Custom.1")}},
+        {"KvCutLabel=100", {word("KvCutLabel"), word("100")}},
+        {"KvMirror=true", {word("KvMirror"), word("true")}},
+        {"BeepWhen=JobDone,Never", {word("BeepWhen"), word("Never")}},
+        {"PageSize=A4", {word("A4"), word("no paper")}},
+        {"media=A4", {word("A4"), word("no paper")}},
+    };
+    for (const auto &row : rows)
+        expectRefusalOnTape({QStringLiteral("-o"), word(row.option)}, row.messageParts);
+    const RecordedDocument job =
+        printed({QStringLiteral("--force"), QStringLiteral("-d"), tape, QStringLiteral("-o"),
+                 QStringLiteral("Colour=Red PrintDensity=Black")});
+    EXPECT_EQ(job.option("Colour"), "Red");
+    EXPECT_EQ(job.option("PrintDensity"), "Black");
+}
+
+TEST_F(KvprintErrors, NameBothSidesOfAConflict)
+{
+    cupsd.addQueue(QStringLiteral("roll"), samplePpd(QStringLiteral("kvelland-dz500")));
+    const QStringList words{QStringLiteral("-d"), QStringLiteral("roll"), QStringLiteral("-o"),
+                            QStringLiteral("MediaType=Film PrintPriority=Speed")};
+    expectRefusal(words + QStringList{picture()}, {word("Film"), word("Speed"), word("This would help")});
+    const RecordedDocument job = printed(words + QStringList{QStringLiteral("--force")});
+    EXPECT_EQ(job.option("MediaType"), "Film");
+    EXPECT_EQ(job.option("PrintPriority"), "Speed");
+    // Only told, nothing is sent.
+    const Outcome dryRun =
+        kvprint.run(words + QStringList{QStringLiteral("--dry-run"), QStringLiteral("--force"), picture()});
+    EXPECT_EQ(dryRun.status, 0) << dryRun;
+}
+
+TEST_F(KvprintErrors, NameDocumentsThatCannotBePrinted)
+{
+    const QString folderOfDocuments = word(KV_SOURCE_DIR "/tests/data/documents/");
+    const QString text = file(word("text.png"), "no picture\n");
+    const QString empty = file(word("empty.png"), {});
+    const struct {
+        QString document;
+        QString messagePart;
+    } rows[] = {
+        {word("/nowhere/label.pdf"), word("/nowhere/label.pdf")},
+        {folderOfDocuments + word("empty.pdf"), word("empty.pdf")},
+        {folderOfDocuments + word("encrypted.pdf"), word("encrypted.pdf")},
+        {folderOfDocuments + word("notpdf.pdf"), word("notpdf.pdf")},
+        {folderOfDocuments + word("zero-pages.pdf"), word("zero-pages.pdf")},
+        {text, word("text.png")},
+        {empty, word("empty.png")},
+        {folder.path(), folder.path()},
+        {word("/dev/zero"), word("/dev/zero")},
+    };
+    for (const auto &row : rows) {
+        // A good one before it must not be printed either.
+        expectRefusal({QStringLiteral("-d"), tape, picture(), row.document}, {row.messagePart});
+    }
+    expectRefusal({QStringLiteral("-d"), tape, QStringLiteral("-")}, {QStringLiteral("standard input")});
+    expectRefusal({QStringLiteral("-d"), tape, QStringLiteral("-")}, {QStringLiteral("standard input")},
+                  "nothing good");
+    for (const char *pages : {"2", "5-", "1,3"})
+        expectRefusalOnTape({QStringLiteral("-P"), word(pages)}, {QStringLiteral("page")});
+}
+
+TEST_F(KvprintErrors, NameQueuesThatCannotBePrintedOn)
+{
+    expectRefusal({QStringLiteral("-d"), QStringLiteral("nowhere"), picture()},
+                  {QStringLiteral("\"nowhere\"")});
+    cupsd.reject(tape, QStringLiteral("Blade is being changed"));
+    expectRefusalOnTape({}, {tape});
+    cupsd.removeQueue(tape);
+    expectRefusalOnTape({}, {QStringLiteral("\"tape\"")});
+}
+
+TEST_F(KvprintErrors, LookAtThePpdThatTheServerHasNow)
+{
+    EXPECT_EQ(printed({QStringLiteral("-d"), tape, QStringLiteral("-o"), QStringLiteral("KvCutMark=ON")})
+                  .option("KvCutMark"),
+              "ON");
+    cupsd.addQueue(tape, PpdBuilder().options({"KvMirror"}).paper("other", 100, 200).ppd());
+    expectRefusalOnTape({QStringLiteral("-o"), QStringLiteral("KvCutMark=ON")},
+                        {QStringLiteral("KvCutMark")});
+    expectRefusalOnTape({QStringLiteral("--paper"), QStringLiteral("12x50mm")}, {QStringLiteral("12x50mm")});
+    EXPECT_EQ(printed({QStringLiteral("-d"), tape, QStringLiteral("--paper"), QStringLiteral("other")})
+                  .option("PageSize"),
+              "other");
+}
+
+TEST_F(KvprintErrors, RefusePpdsThatSayNothing)
+{
+    cupsd.addQueue(QStringLiteral("bad"), PpdBuilder().allOptions().ppd());
+    const QString kept = cupsd.path(QStringLiteral("etc/ppd/bad.ppd"));
+    const QByteArray good = samplePpd(QStringLiteral("kvelland-lx900"));
+    const QByteArray rows[] = {
+        good.left(2000),
+        good.left(good.size() / 2),
+        good + QByteArray(50 << 20, '*'),
+        good + QByteArray("*% comment\n").repeated(5 << 20),
+        QByteArray(100000, '\0'),
+        "*PPD-Adobe: \"4.3\"\n" + QByteArray("*OpenGroup: A/A\n").repeated(100000),
+        QByteArray("\xff\xfe\x00*", 4),
+    };
+    for (const QByteArray &ppd : rows) {
+        SCOPED_TRACE("PPD of " + std::to_string(ppd.size()) + " bytes: " + ppd.left(40).toStdString());
+        QFile file(kept);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(ppd);
+        file.close();
+        const QMap<int, int> before = jobStates();
+        const Outcome outcome = print({QStringLiteral("-d"), QStringLiteral("bad")});
+        EXPECT_EQ(outcome.status, 1) << outcome;
+        EXPECT_EQ(outcome.out, QByteArray());
+        EXPECT_TRUE(outcome.error.startsWith("kvprint: ")) << outcome;
+        EXPECT_EQ(jobStates(), before);
+    }
+}
+
+TEST_F(KvprintErrors, OfTheCommandLineHaveAStatusOfTheirOwn)
+{
+    for (const QStringList &words :
+         {QStringList{word("--what")}, QStringList{word("-n"), word("0")},
+          QStringList{word("-n"), word("many")}, QStringList{word("-q"), word("101")},
+          QStringList{word("-P"), word("3-1")}, QStringList{word("-d"), word("")},
+          QStringList{word("-H"), word("sometime")}, QStringList{word("--json")}, QStringList{word("-o")}}) {
+        const Outcome outcome = kvprint.run(words);
+        EXPECT_EQ(outcome.status, 2) << qPrintable(words.join(u' ')) << "\n" << outcome;
+        EXPECT_EQ(outcome.out, QByteArray());
+        EXPECT_TRUE(outcome.error.startsWith("kvprint: ")) << outcome;
+    }
+}

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "KvprintTest.h"
+
+#include <FaultyServer.h>
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QProcess>
+
+#include <random>
+
+namespace {
+
+const QString tape = QStringLiteral("tape");
+
+bool isOver(int state)
+{
+    return state >= 7;
+}
+
+} // namespace
+
+class KvprintFaults : public KvprintTest {
+protected:
+    KvprintFaults() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
+
+    /// A picture that no packing makes smaller than some hundred thousand bytes.
+    QString largePicture() const
+    {
+        QImage noise(300, 600, QImage::Format_RGB32);
+        std::minstd_rand random(1); // NOLINT: the same picture every time
+        for (int y = 0; y < noise.height(); ++y) {
+            for (int x = 0; x < noise.width(); ++x)
+                noise.setPixel(x, y, static_cast<uint>(random()));
+        }
+        const QString path = folder.filePath(QStringLiteral("noise.png"));
+        EXPECT_TRUE(noise.save(path));
+        return path;
+    }
+
+    /// Runs against another address than the server's; must fail and say the words.
+    void expectFailureAt(const QString &address, const QString &document, const char *messagePart) const
+    {
+        const Outcome outcome = kvprint.run({QStringLiteral("--no-dialog"), QStringLiteral("-h"), address,
+                                             QStringLiteral("-d"), tape, document});
+        EXPECT_EQ(outcome.status, 1) << outcome;
+        EXPECT_EQ(outcome.out, QByteArray()) << outcome;
+        EXPECT_TRUE(outcome.error.contains(messagePart)) << outcome;
+    }
+
+    /// All jobs have been taken back, and no filter was given anything.
+    void expectNothingPrinted() const
+    {
+        for (const int state : jobStates())
+            EXPECT_TRUE(isOver(state)) << state;
+        EXPECT_TRUE(cupsd.documents().empty());
+    }
+};
+
+TEST_F(KvprintFaults, AServerThatIsNotThere)
+{
+    expectFailureAt(QStringLiteral("127.0.0.1:1"), picture(), "127.0.0.1:1");
+    expectFailureAt(folder.filePath(QStringLiteral("no.sock")), picture(), "no.sock");
+    expectFailureAt(QStringLiteral("host.invalid"), picture(), "host.invalid");
+    for (const QStringList &words :
+         {QStringList{QStringLiteral("--list")}, QStringList{QStringLiteral("-i"), QStringLiteral("7"),
+                                                             QStringLiteral("-n"), QStringLiteral("2")}}) {
+        const Outcome outcome =
+            kvprint.run(words + QStringList{QStringLiteral("-h"), QStringLiteral("127.0.0.1:1")});
+        EXPECT_EQ(outcome.status, 1) << outcome;
+        EXPECT_EQ(outcome.out, QByteArray());
+        EXPECT_TRUE(outcome.error.contains("127.0.0.1:1")) << outcome;
+    }
+}
+
+TEST_F(KvprintFaults, AServerThatIsSilent)
+{
+    const FaultyServer silent(cupsd.port(), {.silent = true});
+    QElapsedTimer timer;
+    timer.start();
+    expectFailureAt(silent.address(), picture(), "does not answer");
+    EXPECT_LT(timer.elapsed(), 20000);
+    expectNothingPrinted();
+}
+
+TEST_F(KvprintFaults, AServerThatIsSlowPrintsOnce)
+{
+    const FaultyServer slow(cupsd.port(), {.delay = 500});
+    const Outcome outcome = kvprint.run({QStringLiteral("--no-dialog"), QStringLiteral("-h"), slow.address(),
+                                         QStringLiteral("-d"), tape, picture()});
+    EXPECT_EQ(outcome.status, 0) << outcome;
+    recorded(1);
+    EXPECT_EQ(jobStates().size(), 1);
+}
+
+TEST_F(KvprintFaults, AConnectionThatBreaksWhileTheDocumentIsSent)
+{
+    const FaultyServer breaking(cupsd.port(), {.breakAfter = 100000});
+    expectFailureAt(breaking.address(), largePicture(), "kvprint: ");
+    EXPECT_EQ(jobStates().size(), 1);
+    expectNothingPrinted();
+}
+
+TEST_F(KvprintFaults, AServerThatEndsBeforeAndWhileAJobIsMade)
+{
+    const FaultyServer slow(cupsd.port(), {.delay = 500});
+    const QString document = largePicture();
+    QProcess program;
+    program.setProcessEnvironment(kvprint.environment);
+    program.start(QStringLiteral(KV_PROGRAM), {QStringLiteral("--no-dialog"), QStringLiteral("-h"),
+                                               slow.address(), QStringLiteral("-d"), tape, document});
+    // The program has not heard of its job yet.
+    while (jobStates().isEmpty() && !program.waitForFinished(1))
+        ;
+    cupsd.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.readAllStandardOutput(), QByteArray());
+    const QByteArray error = program.readAllStandardError();
+    EXPECT_TRUE(error.startsWith("kvprint: ")) << error.toStdString();
+    expectFailureAt(cupsd.address(), picture(), "Cannot connect");
+    cupsd.restart();
+    EXPECT_TRUE(cupsd.documents().empty());
+    // Printing again prints once.
+    EXPECT_EQ(print({QStringLiteral("-d"), tape}).status, 0);
+    EXPECT_EQ(recorded(1).size(), 1);
+}
+
+TEST_F(KvprintFaults, ASpoolThatIsFull)
+{
+    // The server answers as it does when it cannot write.
+    cupsd.configure("MaxRequestSize 100k\n");
+    expectFailureAt(cupsd.address(), largePicture(), "kvprint: ");
+    expectNothingPrinted();
+    cupsd.configure("MaxJobs 1\n");
+    cupsd.pause(tape);
+    EXPECT_EQ(print({QStringLiteral("-d"), tape}).status, 0);
+    const QMap<int, int> jobs = jobStates();
+    expectFailureAt(cupsd.address(), picture(), "Too many active jobs");
+    EXPECT_EQ(jobStates(), jobs);
+}
