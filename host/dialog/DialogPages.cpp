@@ -145,7 +145,7 @@ void DialogPages::announceFront()
         m_setup->announcePanel();
     // A panel hands its settings over before the job is printed; whoever looks at what will be sent must see
     // them already. Whether the panel lets the job pass is told when it is printed.
-    if (m_setup && m_sentPage && currentWidget() == m_sentPage)
+    if (m_setup && m_sentPage && m_sentPage->isVisible())
         m_setup->savePanel();
 }
 

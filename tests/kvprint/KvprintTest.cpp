@@ -67,14 +67,15 @@ void KvprintTest::expectRefusal(const QStringList &words, const QStringList &mes
                                 const QByteArray &input)
 {
     SCOPED_TRACE(qPrintable(words.join(u' ')));
-    const QMap<int, int> before = jobStates();
+    // Only which jobs there are: earlier ones may just be coming to their end.
+    const QList<int> before = jobStates().keys();
     const Outcome outcome = kvprint.run(QStringList{QStringLiteral("--no-dialog")} + words, input);
     EXPECT_EQ(outcome.status, 1) << outcome;
     EXPECT_EQ(outcome.out, QByteArray()) << outcome;
     EXPECT_TRUE(outcome.error.startsWith("kvprint: ")) << outcome;
     for (const QString &part : messageParts)
         EXPECT_TRUE(outcome.error.contains(part.toUtf8())) << qPrintable(part) << "\n" << outcome;
-    EXPECT_EQ(jobStates(), before) << outcome;
+    EXPECT_EQ(jobStates().keys(), before) << outcome;
 }
 
 QMap<int, RecordedDocument> KvprintTest::recorded(std::size_t count) const
