@@ -303,6 +303,10 @@
         <source>The print server does not answer. Last time: %1</source>
         <translation>Il server di stampa non risponde. L&apos;ultima volta: %1</translation>
     </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -365,6 +369,10 @@
     <message>
         <source>This would help: %1</source>
         <translation>Soluzione possibile: %1</translation>
+    </message>
+    <message>
+        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -666,6 +674,10 @@
         <source>Print anyway</source>
         <translation>Stampa comunque</translation>
     </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintRun</name>
@@ -836,6 +848,10 @@
     <message>
         <source>the connection broke in the middle</source>
         <translation>la connessione si è interrotta a metà</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

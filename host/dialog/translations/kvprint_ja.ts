@@ -292,6 +292,10 @@
         <source>The print server does not answer. Last time: %1</source>
         <translation>プリントサーバーが応答しません。前回: %1</translation>
     </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -353,6 +357,10 @@
     <message>
         <source>This would help: %1</source>
         <translation>解決方法: %1</translation>
+    </message>
+    <message>
+        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -654,6 +662,10 @@
         <source>Print anyway</source>
         <translation>このまま印刷</translation>
     </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintRun</name>
@@ -824,6 +836,10 @@
     <message>
         <source>the connection broke in the middle</source>
         <translation>途中で接続が切れました</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -292,6 +292,10 @@
         <source>The print server does not answer. Last time: %1</source>
         <translation>De printserver antwoordt niet. De vorige keer: %1</translation>
     </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -354,6 +358,10 @@
     <message>
         <source>This would help: %1</source>
         <translation>Dit zou helpen: %1</translation>
+    </message>
+    <message>
+        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -655,6 +663,10 @@
         <source>Print anyway</source>
         <translation>Toch afdrukken</translation>
     </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintRun</name>
@@ -825,6 +837,10 @@
     <message>
         <source>the connection broke in the middle</source>
         <translation>de verbinding werd halverwege verbroken</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,10 @@
         <source>The print server does not answer. Last time: %1</source>
         <translation>O servidor de impressão não responde. Da última vez: %1</translation>
     </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -364,6 +368,10 @@
     <message>
         <source>This would help: %1</source>
         <translation>Solução possível: %1</translation>
+    </message>
+    <message>
+        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -665,6 +673,10 @@
         <source>Print anyway</source>
         <translation>Imprimir mesmo assim</translation>
     </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintRun</name>
@@ -835,6 +847,10 @@
     <message>
         <source>the connection broke in the middle</source>
         <translation>a ligação foi interrompida a meio</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

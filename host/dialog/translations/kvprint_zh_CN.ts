@@ -302,6 +302,10 @@
         <source>The print server does not answer. Last time: %1</source>
         <translation>打印服务器没有响应。上次状态：%1</translation>
     </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -363,6 +367,10 @@
     <message>
         <source>This would help: %1</source>
         <translation>解决办法：%1</translation>
+    </message>
+    <message>
+        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,6 +672,10 @@
         <source>Print anyway</source>
         <translation>仍然打印</translation>
     </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dialog::PrintRun</name>
@@ -834,6 +846,10 @@
     <message>
         <source>the connection broke in the middle</source>
         <translation>连接中途断开</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
