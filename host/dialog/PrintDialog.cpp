@@ -2,6 +2,7 @@
 #include "PrintDialog.h"
 
 #include "Banner.h"
+#include "ConflictQuestion.h"
 #include "DestinationChooser.h"
 #include "DialogPages.h"
 #include "PageOptions.h"
@@ -14,7 +15,6 @@
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QTimer>
@@ -350,22 +350,12 @@ void PrintDialog::finishSending()
     m_printButton->setEnabled(m_keeper.setup() != nullptr);
 }
 
-bool PrintDialog::confirmsConflicts()
-{
-    if (m_conflictBanner->message().isEmpty())
-        return true;
-    QMessageBox question(QMessageBox::Warning, windowTitle(),
-                         tr("The printer cannot do all of these together."), QMessageBox::NoButton, this);
-    question.setInformativeText(m_conflictBanner->message());
-    const QPushButton *const print = question.addButton(tr("Print anyway"), QMessageBox::AcceptRole);
-    question.setDefaultButton(question.addButton(QMessageBox::Cancel));
-    question.exec();
-    return question.clickedButton() == print;
-}
-
 void PrintDialog::accept()
 {
-    if (!m_isSending && m_printButton->isEnabled() && confirmsConflicts())
+    if (m_isSending || !m_printButton->isEnabled())
+        return;
+    const QString conflicts = m_conflictBanner->message();
+    if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
         print();
 }
 

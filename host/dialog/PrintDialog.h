@@ -81,7 +81,6 @@ private:
     void setFigures(const QString &text);
     QString waitingText() const;
     void pageShown();
-    bool confirmsConflicts();
     void finishSending();
     void showProblem(const QString &problem);
 

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ConflictQuestion.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace dialog {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::PrintDialog)
+};
+
+} // namespace
+
+bool sendsInSpiteOf(const QString &sentences, QWidget *parent)
+{
+    QMessageBox question(QMessageBox::Warning, parent->windowTitle(),
+                         Text::tr("The printer cannot do all of these together."), QMessageBox::NoButton,
+                         parent);
+    question.setInformativeText(sentences);
+    const QPushButton *const print = question.addButton(Text::tr("Print anyway"), QMessageBox::AcceptRole);
+    question.setDefaultButton(question.addButton(Text::tr("Cancel"), QMessageBox::RejectRole));
+    question.exec();
+    return question.clickedButton() == print;
+}
+
+} // namespace dialog
