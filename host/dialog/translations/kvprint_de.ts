@@ -28,20 +28,24 @@
        kvprint -i [QUEUE-]JOB [OPTION]...
        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: kvprint [OPTION]... [--] [DOKUMENT]...
+        kvprint -i [QUEUE-]JOB [OPTION]...
+        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOKUMENT]...
+</translation>
     </message>
     <message>
         <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt Dokumente auf Etikettendruckern, mit einem Dialog für Papier, Seiten und Schnitte, der den Etikettenstreifen zeigt, wie er herauskommt. Ohne Bildschirm wird sofort gedruckt. PDF, PNG, JPEG und SVG; „-“ oder nichts ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>Options:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen:
+</translation>
     </message>
     <message>
         <source>Ends the options: what follows are documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet die Optionen: Was folgt, sind Dokumente.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -51,7 +55,14 @@
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert:
+  0  gedruckt, oder das Gewünschte gezeigt
+  1  etwas ließ sich nicht öffnen, verwenden, senden oder schreiben;
+     nichts wurde gedruckt
+  2  die Befehlszeile wurde nicht verstanden
+  3  gedruckt, aber ohne die Seite mit den Schneideoptionen
+  4  im Dialog abgebrochen
+</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
@@ -131,111 +142,111 @@
     </message>
     <message>
         <source>The queue to print on, with a named set of options. The default queue without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Warteschlange, auf der gedruckt wird, mit einem benannten Satz von Optionen. Ohne die Angabe die Standardwarteschlange.</translation>
     </message>
     <message>
         <source>The print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver.</translation>
     </message>
     <message>
         <source>The user for whom is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzer, für den gedruckt wird.</translation>
     </message>
     <message>
         <source>Encrypts the connection to the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschlüsselt die Verbindung zum Druckserver.</translation>
     </message>
     <message>
         <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Papiers in der PPD, oder Custom.BREITExLÄNGEmm, wo der Drucker freie Größen annimmt.</translation>
     </message>
     <message>
         <source>The number of copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl der Kopien.</translation>
     </message>
     <message>
         <source>The pages to print, as in 1-3,5,8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zu druckenden Seiten, zum Beispiel 1-3,5,8-.</translation>
     </message>
     <message>
         <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Option der PPD oder des Druckservers; mehrere auf einmal, durch Leerzeichen getrennt, oder einzeln.</translation>
     </message>
     <message>
         <source>The job&apos;s name in the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Auftrags in der Warteschlange.</translation>
     </message>
     <message>
         <source>The job&apos;s priority, from 1 to 100 (first).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Priorität des Auftrags, von 1 bis 100 (zuerst).</translation>
     </message>
     <message>
         <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann gedruckt wird: hold, immediate, HH:MM (UTC), night, weekend und andere; bei einem früher gesendeten Auftrag auch resume und restart.</translation>
     </message>
     <message>
         <source>Sends a mail when the job is over; -s is part of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sendet eine E-Mail, wenn der Auftrag beendet ist; schließt -s ein.</translation>
     </message>
     <message>
         <source>Does not tell the job&apos;s number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldet die Nummer des Auftrags nicht.</translation>
     </message>
     <message>
         <source>Accepted for lp&apos;s sake: documents are always copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für lp zugelassen: Dokumente werden immer kopiert.</translation>
     </message>
     <message>
         <source>Changes a job that was sent before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändert einen früher gesendeten Auftrag.</translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt sofort, mit den Einstellungen, mit denen der Dialog geöffnet würde.</translation>
     </message>
     <message>
         <source>Lists the queues and how they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listet die Warteschlangen und ihren Zustand auf.</translation>
     </message>
     <message>
         <source>Tells the settings that the dialog would open with, and prints nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Einstellungen, mit denen der Dialog geöffnet würde, und druckt nichts.</translation>
     </message>
     <message>
         <source>Does everything but sending, and tells what would be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tut alles außer dem Senden und zeigt, was gesendet würde.</translation>
     </message>
     <message>
         <source>Tells it as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt dies als JSON aus.</translation>
     </message>
     <message>
         <source>Sends even what the printer does not have, and what conflicts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sendet auch, was der Drucker nicht hat und was sich nicht miteinander verträgt.</translation>
     </message>
     <message>
         <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert ein Bild des Dialogs, wie er sich öffnet, in einer PNG-Datei.</translation>
     </message>
     <message>
         <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bundle mit den Schneideoptionen, oder der Ordner, in dem es liegt.</translation>
     </message>
     <message>
         <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine PPD-Datei, unkomprimiert oder gzip: druckt auf einem virtuellen Drucker statt auf einer Warteschlange.</translation>
     </message>
     <message>
         <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner für strip.pdf und job.json des virtuellen Druckers; er wird angelegt, wenn es ihn nicht gibt. Ohne die Angabe ein neuer Ordner bei den Daten des Benutzers.</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt diese Hilfe.</translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Version.</translation>
     </message>
 </context>
 <context>
@@ -294,7 +305,7 @@
     </message>
     <message>
         <source>The print server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver antwortet nicht.</translation>
     </message>
 </context>
 <context>
@@ -361,7 +372,7 @@
     </message>
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Druckserver „%1“ gibt es kein Standardziel; nennen Sie eines mit „-d“</translation>
     </message>
 </context>
 <context>
@@ -665,7 +676,7 @@
     </message>
     <message>
         <source>The printer&apos;s description is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Beschreibung des Druckers ist nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +851,7 @@
     </message>
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“, und es wurde keines angegeben.</translation>
     </message>
 </context>
 <context>

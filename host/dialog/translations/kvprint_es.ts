@@ -141,111 +141,111 @@
     </message>
     <message>
         <source>The queue to print on, with a named set of options. The default queue without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cola en la que se imprime, con un conjunto de opciones con nombre. Sin esta opción, la cola predeterminada.</translation>
     </message>
     <message>
         <source>The print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión.</translation>
     </message>
     <message>
         <source>The user for whom is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>El usuario para el que se imprime.</translation>
     </message>
     <message>
         <source>Encrypts the connection to the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra la conexión con el servidor de impresión.</translation>
     </message>
     <message>
         <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre del papel en el PPD, o Custom.ANCHOxLARGOmm si la impresora admite tamaños personalizados.</translation>
     </message>
     <message>
         <source>The number of copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>El número de copias.</translation>
     </message>
     <message>
         <source>The pages to print, as in 1-3,5,8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las páginas que imprimir, por ejemplo 1-3,5,8-.</translation>
     </message>
     <message>
         <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una opción del PPD o del servidor de impresión; varias a la vez, separadas por espacios, o una por una.</translation>
     </message>
     <message>
         <source>The job&apos;s name in the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre del trabajo en la cola.</translation>
     </message>
     <message>
         <source>The job&apos;s priority, from 1 to 100 (first).</source>
-        <translation type="unfinished"></translation>
+        <translation>La prioridad del trabajo, de 1 a 100 (primero).</translation>
     </message>
     <message>
         <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo imprimir: hold, immediate, HH:MM (UTC), night, weekend y otros; para un trabajo ya enviado, también resume y restart.</translation>
     </message>
     <message>
         <source>Sends a mail when the job is over; -s is part of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envía un correo cuando termina el trabajo; incluye -s.</translation>
     </message>
     <message>
         <source>Does not tell the job&apos;s number.</source>
-        <translation type="unfinished"></translation>
+        <translation>No muestra el número del trabajo.</translation>
     </message>
     <message>
         <source>Accepted for lp&apos;s sake: documents are always copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se admite por compatibilidad con lp: los documentos siempre se copian.</translation>
     </message>
     <message>
         <source>Changes a job that was sent before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica un trabajo ya enviado.</translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime directamente, con los ajustes con los que se abriría el diálogo.</translation>
     </message>
     <message>
         <source>Lists the queues and how they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra las colas y su estado.</translation>
     </message>
     <message>
         <source>Tells the settings that the dialog would open with, and prints nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra los ajustes con los que se abriría el diálogo y no imprime nada.</translation>
     </message>
     <message>
         <source>Does everything but sending, and tells what would be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hace todo menos enviar y muestra lo que se enviaría.</translation>
     </message>
     <message>
         <source>Tells it as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo muestra como JSON.</translation>
     </message>
     <message>
         <source>Sends even what the printer does not have, and what conflicts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envía incluso lo que la impresora no tiene y lo que es incompatible entre sí.</translation>
     </message>
     <message>
         <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda una imagen del diálogo, tal como se abre, en un archivo PNG.</translation>
     </message>
     <message>
         <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete con el panel de opciones de corte, o la carpeta en la que está.</translation>
     </message>
     <message>
         <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo PPD, sin comprimir o gzip: imprime en una impresora virtual en lugar de en una cola.</translation>
     </message>
     <message>
         <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta para strip.pdf y job.json de la impresora virtual; se crea si no existe. Sin esta opción, una carpeta nueva entre los datos del usuario.</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra esta ayuda.</translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra la versión.</translation>
     </message>
 </context>
 <context>
@@ -304,7 +304,7 @@
     </message>
     <message>
         <source>The print server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no responde.</translation>
     </message>
 </context>
 <context>
@@ -371,7 +371,7 @@
     </message>
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» no tiene ningún destino predeterminado; indique uno con «-d»</translation>
     </message>
 </context>
 <context>
@@ -675,7 +675,7 @@
     </message>
     <message>
         <source>The printer&apos;s description is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce la descripción de la impresora.</translation>
     </message>
 </context>
 <context>
@@ -850,7 +850,7 @@
     </message>
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2» y no se indicó ninguna.</translation>
     </message>
 </context>
 <context>

@@ -28,20 +28,24 @@
        kvprint -i [QUEUE-]JOB [OPTION]...
        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Usage : kvprint [OPTION]... [--] [DOCUMENT]...
+        kvprint -i [QUEUE-]JOB [OPTION]...
+        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
+</translation>
     </message>
     <message>
         <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime des documents sur des imprimantes d’étiquettes, avec une boîte de dialogue pour le papier, les pages et les coupes qui montre la bande d’étiquettes telle qu’elle sortira. Sans écran, imprime aussitôt. PDF, PNG, JPEG et SVG&#xa0;; «&#xa0;-&#xa0;» ou rien désigne l’entrée standard.</translation>
     </message>
     <message>
         <source>Options:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Options :
+</translation>
     </message>
     <message>
         <source>Ends the options: what follows are documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Termine les options&#xa0;: ce qui suit est un document.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -51,7 +55,14 @@
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Code de retour :
+  0  imprimé, ou affiché ce qui était demandé
+  1  quelque chose n’a pas pu être ouvert, utilisé, envoyé ou écrit ;
+     rien n’a été imprimé
+  2  la ligne de commande n’a pas été comprise
+  3  imprimé, mais sans le panneau des options de coupe
+  4  annulé dans la boîte de dialogue
+</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
@@ -131,111 +142,111 @@
     </message>
     <message>
         <source>The queue to print on, with a named set of options. The default queue without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La file d’attente où imprimer, avec un jeu d’options nommé. Sans cette option, la file d’attente par défaut.</translation>
     </message>
     <message>
         <source>The print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression.</translation>
     </message>
     <message>
         <source>The user for whom is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’utilisateur pour qui l’impression est faite.</translation>
     </message>
     <message>
         <source>Encrypts the connection to the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre la connexion au serveur d’impression.</translation>
     </message>
     <message>
         <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du papier dans le PPD, ou Custom.LARGEURxLONGUEURmm si l’imprimante accepte des tailles libres.</translation>
     </message>
     <message>
         <source>The number of copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de copies.</translation>
     </message>
     <message>
         <source>The pages to print, as in 1-3,5,8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pages à imprimer, par exemple 1-3,5,8-.</translation>
     </message>
     <message>
         <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une option du PPD ou du serveur d’impression&#xa0;; plusieurs à la fois, séparées par des espaces, ou une par une.</translation>
     </message>
     <message>
         <source>The job&apos;s name in the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de la tâche dans la file d’attente.</translation>
     </message>
     <message>
         <source>The job&apos;s priority, from 1 to 100 (first).</source>
-        <translation type="unfinished"></translation>
+        <translation>La priorité de la tâche, de 1 à 100 (première).</translation>
     </message>
     <message>
         <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand imprimer&#xa0;: hold, immediate, HH:MM (UTC), night, weekend et d’autres&#xa0;; pour une tâche déjà envoyée, aussi resume et restart.</translation>
     </message>
     <message>
         <source>Sends a mail when the job is over; -s is part of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoie un courriel quand la tâche est terminée&#xa0;; inclut -s.</translation>
     </message>
     <message>
         <source>Does not tell the job&apos;s number.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’annonce pas le numéro de la tâche.</translation>
     </message>
     <message>
         <source>Accepted for lp&apos;s sake: documents are always copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceptée par compatibilité avec lp&#xa0;: les documents sont toujours copiés.</translation>
     </message>
     <message>
         <source>Changes a job that was sent before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie une tâche déjà envoyée.</translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime aussitôt, avec les réglages qu’aurait la boîte de dialogue à l’ouverture.</translation>
     </message>
     <message>
         <source>Lists the queues and how they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste les files d’attente et leur état.</translation>
     </message>
     <message>
         <source>Tells the settings that the dialog would open with, and prints nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les réglages qu’aurait la boîte de dialogue à l’ouverture, et n’imprime rien.</translation>
     </message>
     <message>
         <source>Does everything but sending, and tells what would be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait tout sauf l’envoi, et affiche ce qui serait envoyé.</translation>
     </message>
     <message>
         <source>Tells it as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’affiche en JSON.</translation>
     </message>
     <message>
         <source>Sends even what the printer does not have, and what conflicts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoie même ce que l’imprimante n’a pas, et ce qui est incompatible.</translation>
     </message>
     <message>
         <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre une image de la boîte de dialogue, telle qu’elle s’ouvre, dans un fichier PNG.</translation>
     </message>
     <message>
         <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet du panneau des options de coupe, ou le dossier où il se trouve.</translation>
     </message>
     <message>
         <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier PPD, non compressé ou gzip&#xa0;: imprime sur une imprimante virtuelle au lieu d’une file d’attente.</translation>
     </message>
     <message>
         <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier pour les fichiers strip.pdf et job.json de l’imprimante virtuelle, créé s’il n’existe pas. Sans cette option, un nouveau dossier parmi les données de l’utilisateur.</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche cette aide.</translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche la version.</translation>
     </message>
 </context>
 <context>
@@ -294,7 +305,7 @@
     </message>
     <message>
         <source>The print server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression ne répond pas.</translation>
     </message>
 </context>
 <context>
@@ -361,7 +372,7 @@
     </message>
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » n’a pas de destination par défaut ; indiquez-en une avec « -d »</translation>
     </message>
 </context>
 <context>
@@ -665,7 +676,7 @@
     </message>
     <message>
         <source>The printer&apos;s description is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>La description de l’imprimante n’est pas connue.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +851,7 @@
     </message>
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 », et aucun n’a été donné.</translation>
     </message>
 </context>
 <context>

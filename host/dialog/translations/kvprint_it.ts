@@ -142,111 +142,111 @@
     </message>
     <message>
         <source>The queue to print on, with a named set of options. The default queue without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coda su cui stampare, con un insieme di opzioni con nome. Senza questa opzione, la coda predefinita.</translation>
     </message>
     <message>
         <source>The print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa.</translation>
     </message>
     <message>
         <source>The user for whom is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;utente per cui si stampa.</translation>
     </message>
     <message>
         <source>Encrypts the connection to the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra la connessione al server di stampa.</translation>
     </message>
     <message>
         <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome della carta nel PPD, o Custom.LARGHEZZAxLUNGHEZZAmm se la stampante accetta dimensioni libere.</translation>
     </message>
     <message>
         <source>The number of copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il numero di copie.</translation>
     </message>
     <message>
         <source>The pages to print, as in 1-3,5,8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pagine da stampare, per esempio 1-3,5,8-.</translation>
     </message>
     <message>
         <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;opzione del PPD o del server di stampa; più d&apos;una insieme, separate da spazi, o una alla volta.</translation>
     </message>
     <message>
         <source>The job&apos;s name in the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome del lavoro nella coda.</translation>
     </message>
     <message>
         <source>The job&apos;s priority, from 1 to 100 (first).</source>
-        <translation type="unfinished"></translation>
+        <translation>La priorità del lavoro, da 1 a 100 (primo).</translation>
     </message>
     <message>
         <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quando stampare: hold, immediate, HH:MM (UTC), night, weekend e altri; per un lavoro già inviato anche resume e restart.</translation>
     </message>
     <message>
         <source>Sends a mail when the job is over; -s is part of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia un messaggio di posta alla fine del lavoro; comprende -s.</translation>
     </message>
     <message>
         <source>Does not tell the job&apos;s number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non mostra il numero del lavoro.</translation>
     </message>
     <message>
         <source>Accepted for lp&apos;s sake: documents are always copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ammessa per compatibilità con lp: i documenti vengono sempre copiati.</translation>
     </message>
     <message>
         <source>Changes a job that was sent before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica un lavoro già inviato.</translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa subito, con le impostazioni con cui si aprirebbe la finestra.</translation>
     </message>
     <message>
         <source>Lists the queues and how they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenca le code e il loro stato.</translation>
     </message>
     <message>
         <source>Tells the settings that the dialog would open with, and prints nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le impostazioni con cui si aprirebbe la finestra e non stampa nulla.</translation>
     </message>
     <message>
         <source>Does everything but sending, and tells what would be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fa tutto tranne inviare e mostra ciò che verrebbe inviato.</translation>
     </message>
     <message>
         <source>Tells it as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo mostra come JSON.</translation>
     </message>
     <message>
         <source>Sends even what the printer does not have, and what conflicts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia anche ciò che la stampante non ha e ciò che è incompatibile.</translation>
     </message>
     <message>
         <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva un&apos;immagine della finestra, così come si apre, in un file PNG.</translation>
     </message>
     <message>
         <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il bundle con il pannello delle opzioni di taglio, o la cartella in cui si trova.</translation>
     </message>
     <message>
         <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file PPD, non compresso o gzip: stampa su una stampante virtuale invece che su una coda.</translation>
     </message>
     <message>
         <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella per strip.pdf e job.json della stampante virtuale, creata se non esiste. Senza questa opzione, una nuova cartella tra i dati dell&apos;utente.</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra questo aiuto.</translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la versione.</translation>
     </message>
 </context>
 <context>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>The print server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa non risponde.</translation>
     </message>
 </context>
 <context>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; non ha una destinazione predefinita; indicarne una con &quot;-d&quot;</translation>
     </message>
 </context>
 <context>
@@ -676,7 +676,7 @@
     </message>
     <message>
         <source>The printer&apos;s description is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descrizione della stampante non è nota.</translation>
     </message>
 </context>
 <context>
@@ -851,7 +851,7 @@
     </message>
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot; e non ne è stata indicata alcuna.</translation>
     </message>
 </context>
 <context>

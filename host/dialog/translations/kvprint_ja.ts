@@ -28,20 +28,24 @@
        kvprint -i [QUEUE-]JOB [OPTION]...
        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
 </source>
-        <translation type="unfinished"></translation>
+        <translation>使い方: kvprint [オプション]... [--] [文書]...
+        kvprint -i [QUEUE-]JOB [オプション]...
+        kvprint --list | --summary | --dry-run [オプション]... [--] [文書]...
+</translation>
     </message>
     <message>
         <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルプリンターで文書を印刷します。用紙、ページ、カットを選ぶダイアログに、出てくるとおりのラベルの帯を表示します。画面がない場合はすぐに印刷します。PDF、PNG、JPEG、SVG に対応。「-」または指定なしは標準入力です。</translation>
     </message>
     <message>
         <source>Options:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>オプション:
+</translation>
     </message>
     <message>
         <source>Ends the options: what follows are documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>オプションの終わり。以降はすべて文書です。</translation>
     </message>
     <message>
         <source>Exit status:
@@ -51,7 +55,13 @@
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished"></translation>
+        <translation>終了ステータス:
+  0  印刷した、または求められた情報を表示した
+  1  開く、使う、送る、書くのいずれかに失敗し、何も印刷されなかった
+  2  コマンドラインを解釈できなかった
+  3  印刷したが、カットオプションのパネルがなかった
+  4  ダイアログでキャンセルされた
+</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
@@ -131,111 +141,111 @@
     </message>
     <message>
         <source>The queue to print on, with a named set of options. The default queue without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷先のキューと、名前付きのオプションの組。省略すると既定のキュー。</translation>
     </message>
     <message>
         <source>The print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー。</translation>
     </message>
     <message>
         <source>The user for whom is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷を依頼するユーザー。</translation>
     </message>
     <message>
         <source>Encrypts the connection to the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーとの接続を暗号化します。</translation>
     </message>
     <message>
         <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD での用紙名。カスタムサイズを使えるプリンターでは Custom.幅x長さmm も可。</translation>
     </message>
     <message>
         <source>The number of copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>部数。</translation>
     </message>
     <message>
         <source>The pages to print, as in 1-3,5,8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷するページ。例: 1-3,5,8-</translation>
     </message>
     <message>
         <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD またはプリントサーバーのオプション。空白で区切って複数まとめても、1 つずつでも可。</translation>
     </message>
     <message>
         <source>The job&apos;s name in the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>キューでのジョブ名。</translation>
     </message>
     <message>
         <source>The job&apos;s priority, from 1 to 100 (first).</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの優先度。1 から 100 (最初) まで。</translation>
     </message>
     <message>
         <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷する時刻: hold、immediate、HH:MM (UTC)、night、weekend など。送信済みのジョブには resume と restart も可。</translation>
     </message>
     <message>
         <source>Sends a mail when the job is over; -s is part of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブが終わるとメールを送ります。-s を含みます。</translation>
     </message>
     <message>
         <source>Does not tell the job&apos;s number.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ番号を表示しません。</translation>
     </message>
     <message>
         <source>Accepted for lp&apos;s sake: documents are always copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>lp との互換用。文書は常にコピーされます。</translation>
     </message>
     <message>
         <source>Changes a job that was sent before.</source>
-        <translation type="unfinished"></translation>
+        <translation>送信済みのジョブを変更します。</translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイアログを開いたときの設定で、すぐに印刷します。</translation>
     </message>
     <message>
         <source>Lists the queues and how they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>キューとその状態を一覧表示します。</translation>
     </message>
     <message>
         <source>Tells the settings that the dialog would open with, and prints nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイアログを開いたときの設定を表示し、何も印刷しません。</translation>
     </message>
     <message>
         <source>Does everything but sending, and tells what would be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>送信以外のすべてを行い、送信される内容を表示します。</translation>
     </message>
     <message>
         <source>Tells it as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON 形式で表示します。</translation>
     </message>
     <message>
         <source>Sends even what the printer does not have, and what conflicts.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターにない設定や、両立しない設定でも送信します。</translation>
     </message>
     <message>
         <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished"></translation>
+        <translation>開いたときのダイアログの画像を PNG ファイルに保存します。</translation>
     </message>
     <message>
         <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished"></translation>
+        <translation>カットオプションのパネルのバンドル、またはそれがあるフォルダー。</translation>
     </message>
     <message>
         <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD ファイル (非圧縮または gzip)。キューの代わりに仮想プリンターで印刷します。</translation>
     </message>
     <message>
         <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>仮想プリンターの strip.pdf と job.json を保存するフォルダー。なければ作成します。省略するとユーザーデータ内の新しいフォルダー。</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>このヘルプを表示します。</translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョンを表示します。</translation>
     </message>
 </context>
 <context>
@@ -294,7 +304,7 @@
     </message>
     <message>
         <source>The print server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーが応答しません。</translation>
     </message>
 </context>
 <context>
@@ -360,7 +370,7 @@
     </message>
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」に既定の印刷先がありません。「-d」で指定してください</translation>
     </message>
 </context>
 <context>
@@ -664,7 +674,7 @@
     </message>
     <message>
         <source>The printer&apos;s description is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの記述がわかりません。</translation>
     </message>
 </context>
 <context>
@@ -839,7 +849,7 @@
     </message>
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めていますが、入力されていません。</translation>
     </message>
 </context>
 <context>

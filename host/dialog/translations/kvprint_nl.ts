@@ -28,20 +28,24 @@
        kvprint -i [QUEUE-]JOB [OPTION]...
        kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruik: kvprint [OPTIE]... [--] [DOCUMENT]...
+         kvprint -i [QUEUE-]JOB [OPTIE]...
+         kvprint --list | --summary | --dry-run [OPTIE]... [--] [DOCUMENT]...
+</translation>
     </message>
     <message>
         <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukt documenten af op labelprinters, met een dialoogvenster voor papier, pagina&apos;s en sneden dat de labelstrook toont zoals die eruit komt. Zonder beeldscherm wordt meteen afgedrukt. PDF, PNG, JPEG en SVG; &quot;-&quot; of niets is de standaardinvoer.</translation>
     </message>
     <message>
         <source>Options:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Opties:
+</translation>
     </message>
     <message>
         <source>Ends the options: what follows are documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beëindigt de opties: wat volgt, zijn documenten.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -51,7 +55,14 @@
   3  printed, but without the cut-options panel
   4  cancelled in the dialog
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Afsluitstatus:
+  0  afgedrukt, of getoond wat gevraagd werd
+  1  iets kon niet worden geopend, gebruikt, verzonden of geschreven;
+     er is niets afgedrukt
+  2  de opdrachtregel is niet begrepen
+  3  afgedrukt, maar zonder het paneel met snijopties
+  4  in het dialoogvenster geannuleerd
+</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;</source>
@@ -131,111 +142,111 @@
     </message>
     <message>
         <source>The queue to print on, with a named set of options. The default queue without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>De wachtrij om op af te drukken, met een benoemde set opties. Zonder deze optie de standaardwachtrij.</translation>
     </message>
     <message>
         <source>The print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>De printserver.</translation>
     </message>
     <message>
         <source>The user for whom is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>De gebruiker voor wie wordt afgedrukt.</translation>
     </message>
     <message>
         <source>Encrypts the connection to the print server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versleutelt de verbinding met de printserver.</translation>
     </message>
     <message>
         <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>De naam van het papier in de PPD, of Custom.BREEDTExLENGTEmm waar de printer vrije formaten toelaat.</translation>
     </message>
     <message>
         <source>The number of copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het aantal exemplaren.</translation>
     </message>
     <message>
         <source>The pages to print, as in 1-3,5,8-.</source>
-        <translation type="unfinished"></translation>
+        <translation>De pagina&apos;s om af te drukken, bijvoorbeeld 1-3,5,8-.</translation>
     </message>
     <message>
         <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Een optie van de PPD of van de printserver; meerdere tegelijk, met spaties ertussen, of een voor een.</translation>
     </message>
     <message>
         <source>The job&apos;s name in the queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>De naam van de taak in de wachtrij.</translation>
     </message>
     <message>
         <source>The job&apos;s priority, from 1 to 100 (first).</source>
-        <translation type="unfinished"></translation>
+        <translation>De prioriteit van de taak, van 1 tot 100 (eerst).</translation>
     </message>
     <message>
         <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wanneer wordt afgedrukt: hold, immediate, HH:MM (UTC), night, weekend en andere; voor een eerder verzonden taak ook resume en restart.</translation>
     </message>
     <message>
         <source>Sends a mail when the job is over; -s is part of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stuurt een e-mail als de taak is voltooid; -s hoort daarbij.</translation>
     </message>
     <message>
         <source>Does not tell the job&apos;s number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldt het nummer van de taak niet.</translation>
     </message>
     <message>
         <source>Accepted for lp&apos;s sake: documents are always copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toegelaten omwille van lp: documenten worden altijd gekopieerd.</translation>
     </message>
     <message>
         <source>Changes a job that was sent before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wijzigt een eerder verzonden taak.</translation>
     </message>
     <message>
         <source>Prints at once, with the settings that the dialog would open with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukt meteen af, met de instellingen waarmee het dialoogvenster zou openen.</translation>
     </message>
     <message>
         <source>Lists the queues and how they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont de wachtrijen en hun toestand.</translation>
     </message>
     <message>
         <source>Tells the settings that the dialog would open with, and prints nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont de instellingen waarmee het dialoogvenster zou openen, en drukt niets af.</translation>
     </message>
     <message>
         <source>Does everything but sending, and tells what would be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doet alles behalve verzenden, en toont wat zou worden verzonden.</translation>
     </message>
     <message>
         <source>Tells it as JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont dit als JSON.</translation>
     </message>
     <message>
         <source>Sends even what the printer does not have, and what conflicts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzendt ook wat de printer niet heeft en wat niet samengaat.</translation>
     </message>
     <message>
         <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Slaat een afbeelding van het dialoogvenster, zoals het opent, op in een PNG-bestand.</translation>
     </message>
     <message>
         <source>The bundle with the cut-options panel, or the folder it is in.</source>
-        <translation type="unfinished"></translation>
+        <translation>De bundel met het paneel met snijopties, of de map waarin die staat.</translation>
     </message>
     <message>
         <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Een PPD-bestand, ongecomprimeerd of gzip: drukt af op een virtuele printer in plaats van op een wachtrij.</translation>
     </message>
     <message>
         <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>De map voor strip.pdf en job.json van de virtuele printer; die wordt gemaakt als hij er niet is. Zonder deze optie een nieuwe map bij de gegevens van de gebruiker.</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont deze hulp.</translation>
     </message>
     <message>
         <source>Shows the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont de versie.</translation>
     </message>
 </context>
 <context>
@@ -294,7 +305,7 @@
     </message>
     <message>
         <source>The print server does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>De printserver antwoordt niet.</translation>
     </message>
 </context>
 <context>
@@ -361,7 +372,7 @@
     </message>
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>De printserver &quot;%1&quot; heeft geen standaardbestemming; noem er een met &quot;-d&quot;</translation>
     </message>
 </context>
 <context>
@@ -665,7 +676,7 @@
     </message>
     <message>
         <source>The printer&apos;s description is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>De beschrijving van de printer is niet bekend.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +851,7 @@
     </message>
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation type="unfinished"></translation>
+        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;, maar er is geen opgegeven.</translation>
     </message>
 </context>
 <context>
