@@ -144,10 +144,6 @@ TEST(Translations, SayEverythingThatAWindowOrAMessageSays)
     ASSERT_EQ(catalogues().size(), 8);
     for (const QString &path : catalogues()) {
         for (const Message &message : readCatalogue(path)) {
-            // The help on the command line is read in English with the man page.
-            if (message.translations == QStringList{QString()} &&
-                message.context == QStringLiteral("dialog::CommandLine"))
-                continue;
             const std::string where = path.toStdString() + ": " + message.source.toStdString();
             EXPECT_TRUE(message.isFinished) << where;
             for (const QString &translation : message.translations) {
