@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CutSettings.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace host {
@@ -40,6 +41,13 @@ constexpr std::pair<const char *, bool CutSettings::*> switches[] = {
 };
 
 } // namespace
+
+bool CutSettings::areKnownTo(const PpdFile &ppd)
+{
+    return ppd.hasOption(QStringLiteral("KvCutLabel")) ||
+           std::any_of(std::begin(switches), std::end(switches),
+                       [&](const auto &each) { return ppd.hasOption(QLatin1String(each.first)); });
+}
 
 CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &recorded)
 {

@@ -21,6 +21,9 @@ struct CutSettings {
     bool removeBlank = false;
     bool cutMark = false;
 
+    /// Whether the PPD has any option of these.
+    static bool areKnownTo(const PpdFile &ppd);
+
     bool operator==(const CutSettings &) const = default;
 
     /// The settings of a job: its recorded choices; where it has none, what is marked in the PPD; where

@@ -88,6 +88,13 @@ void DestinationList::takeKnown(const std::vector<Destination> &destinations)
 void DestinationList::take(std::vector<Destination> destinations)
 {
     m_isStale = false;
+    // Discovered printers are no news from the server.
+    for (const Destination &known : m_destinations) {
+        const bool isListed = std::any_of(destinations.begin(), destinations.end(),
+                                          [&](const Destination &each) { return each.queue == known.queue; });
+        if (known.isDiscovered && !isListed)
+            destinations.push_back(known);
+    }
     if (m_destinations != destinations) {
         m_destinations = std::move(destinations);
         Q_EMIT changed();

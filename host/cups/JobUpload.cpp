@@ -101,14 +101,19 @@ CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, C
 {
     // The task may be cancelled, and the connection is in the middle of a document: both anew.
     BackgroundTask task;
-    if (const std::optional<CupsError> error = cancelJob(server, queue, jobId, task))
-        reason.message =
+    CupsServer quiet = server;
+    // Nobody hears this task's questions; a password that was given before still counts.
+    quiet.askPassword = nullptr;
+    const std::optional<CupsError> error = cancelJob(quiet, queue, jobId, task);
+    if (!error)
+        return reason;
+    // Not what was asked for, even if giving up was.
+    return {error->kind,
             Text::tr("%1 Job %2-%3 could not be taken back; look into the queue before you print "
                      "again: %4")
                 .arg(reason.message, queue)
                 .arg(jobId)
-                .arg(error->message);
-    return reason;
+                .arg(error->message)};
 }
 
 } // namespace

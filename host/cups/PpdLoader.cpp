@@ -85,18 +85,22 @@ void PpdLoader::load(const Destination &destination, LargeCached largeCached)
         m_task->cancel();
     const auto known = m_given.find(destination.queue);
     const QByteArray given = known == m_given.end() ? QByteArray() : known->second;
-    m_task =
-        m_background.start([this, server = m_server, destination, given, largeCached](BackgroundTask &task) {
+    const int turn = ++m_turn;
+    m_task = m_background.start(
+        [this, server = m_server, destination, given, turn, largeCached](BackgroundTask &task) {
             std::optional<QByteArray> remembered;
             if (largeCached == LargeCached::Wanted)
-                remembered = bringLarge(server, destination.queue, task);
+                remembered = bringLarge(server, destination.queue, turn, task);
             const Outcome outcome = ask(server, destination, remembered.value_or(given), task);
             if (!task.isCancelled()) // "this" is only used on the main thread, while it is there
-                task.deliver([this, queue = destination.queue, outcome] { report(queue, outcome); });
+                task.deliver([this, turn, queue = destination.queue, outcome] {
+                    if (turn == m_turn)
+                        report(queue, outcome);
+                });
         });
 }
 
-std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const QString &queue,
+std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const QString &queue, int turn,
                                                 BackgroundTask &task)
 {
     const QueueCache cache(server);
@@ -108,7 +112,9 @@ std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const 
     if (!ppd)
         return std::nullopt;
     // "this" is only used on the main thread, while it is there
-    task.deliver([this, queue, stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
+    task.deliver([this, turn, queue, stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
+        if (turn != m_turn)
+            return;
         m_given[queue] = stamp;
         Q_EMIT remembered(queue, known);
     });

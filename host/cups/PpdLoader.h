@@ -50,7 +50,7 @@ private:
     struct Outcome;
     /// Brings the PPD of last time if it is a large one. Its stamp; nothing when there is none. In the
     /// background.
-    std::optional<QByteArray> bringLarge(const CupsServer &server, const QString &queue,
+    std::optional<QByteArray> bringLarge(const CupsServer &server, const QString &queue, int turn,
                                          BackgroundTask &task);
     static Outcome ask(const CupsServer &server, const Destination &destination, const QByteArray &given,
                        BackgroundTask &task);
@@ -59,6 +59,8 @@ private:
     CupsServer m_server;
     Background m_background;
     std::shared_ptr<BackgroundTask> m_task;
+    /// Counts the requests: an answer to an earlier one may be on its way when the next is made.
+    int m_turn = 0;
     /// The stamp of the PPD that was given last, by queue. Not that of the cache's file, which another
     /// program may have replaced meanwhile.
     std::map<QString, QByteArray> m_given;

@@ -64,6 +64,7 @@ void QueueSession::start(Discovery discovery)
     m_hasStarted = true;
     m_isSettled = false;
     m_server.passwords->forgetRefusal();
+    m_discovery = discovery;
     m_destinations.refresh(discovery);
     if (m_chosen)
         setChosen(*m_chosen);
@@ -119,7 +120,7 @@ void QueueSession::listFailed(const CupsError &error)
     Q_EMIT settled();
     // A chosen queue is asked for its state all the time, which tells when the server is back.
     if (!m_chosen && isOutOfReach(error))
-        QTimer::singleShot(retryInterval, this, [this] { m_destinations.refresh(); });
+        QTimer::singleShot(retryInterval, this, [this] { m_destinations.refresh(m_discovery); });
 }
 
 void QueueSession::recover()
@@ -127,7 +128,7 @@ void QueueSession::recover()
     if (!std::exchange(m_isOutOfReach, false))
         return;
     if (m_destinations.isStale())
-        m_destinations.refresh();
+        m_destinations.refresh(m_discovery);
     if (mayLackPpd())
         m_loader.load(*m_chosen);
     Q_EMIT recovered();
@@ -143,7 +144,8 @@ void QueueSession::takeList()
 void QueueSession::settle()
 {
     m_isSettled = true;
-    const bool isGone = m_chosen && !m_destinations.find(m_chosen->name());
+    // The server has no queue for a discovered printer before something is printed.
+    const bool isGone = m_chosen && !m_chosen->isDiscovered && !m_destinations.find(m_chosen->name());
     if (isGone || (!m_chosen && m_wanted))
         Q_EMIT failed(noSuchDestination());
     // Without a default anywhere, the first one is as good a beginning as any.

@@ -94,6 +94,7 @@ private:
     std::optional<PpdFile> m_ppd;
     PpdKnowledge m_knowledge = PpdKnowledge::Asked;
     std::optional<CupsError> m_ppdError;
+    Discovery m_discovery = Discovery::No;
     bool m_hasStarted = false;
     bool m_isSettled = false;
     bool m_userHasChosen = false;

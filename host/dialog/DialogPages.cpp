@@ -74,7 +74,8 @@ void DialogPages::addPanel(PDEPanel &panel)
     m_setup->panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
     QString title = panel.panelName();
     insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
-    setCurrentIndex(0);
+    if (m_panelComesToFront)
+        setCurrentIndex(0);
 }
 
 void DialogPages::addOptions()
@@ -116,11 +117,13 @@ void DialogPages::dropSetup()
     if (m_setup && m_setup->panelHost())
         m_setup->panelHost()->setPanelViewDidResizeHook({});
     const QSignalBlocker quiet(this);
-    delete m_panelPage;
-    m_panelPage = nullptr;
+    m_panelComesToFront = !m_panelPage || currentWidget() == m_panelPage;
+    // The options first: else they would be made, to be shown in the panel's place.
     delete m_optionsPlace;
     m_optionsPlace = nullptr;
     m_optionsPage = nullptr;
+    delete m_panelPage;
+    m_panelPage = nullptr;
     m_setup = nullptr;
 }
 
@@ -135,7 +138,10 @@ void DialogPages::refresh()
         m_summaryPage->setSections(m_summary());
     if (!m_sentPage || !m_ticket || !m_sentPage->isVisible())
         return;
-    if (const std::optional<host::JobTicket> ticket = m_ticket())
+    const std::optional<host::JobTicket> ticket = m_ticket();
+    // While another printer is awaited, what is shown is not true.
+    m_sentPage->setEnabled(ticket.has_value());
+    if (ticket)
         m_sentPage->setTicket(*m_server, *ticket);
 }
 

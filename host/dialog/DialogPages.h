@@ -68,6 +68,8 @@ private:
     host::PrinterSetup *m_setup = nullptr;
     PanelPage *m_panelPage = nullptr;
     LazyPage *m_optionsPlace = nullptr;
+    /// Whoever looks at another page stays there when the printer's pages are replaced.
+    bool m_panelComesToFront = true;
     PagePreview *m_pagePreview;
     // Null until they are shown.
     OptionsPage *m_optionsPage = nullptr;

@@ -191,6 +191,8 @@ ExitStatus HeadlessRun::run()
     host::QueueSession session(m_server, m_command.destination);
     host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
     host::PrinterSetup *const setup = waitForSetup(session, keeper);
+    // From here on the printer stays as it was found, whatever the server tells meanwhile.
+    QObject::disconnect(&session, nullptr, &keeper, nullptr);
     if (!setup || !accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
     const ExitStatus status = finish(*setup, *draft);

@@ -35,6 +35,11 @@ PasswordDialog::PasswordDialog(const host::PasswordRequest &request, QWidget *pa
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
+PasswordDialog::~PasswordDialog()
+{
+    m_request.refuse();
+}
+
 void PasswordDialog::done(int result)
 {
     if (result == Accepted)

@@ -17,6 +17,9 @@ class PasswordDialog : public QDialog {
 public:
     PasswordDialog(const host::PasswordRequest &request, QWidget *parent);
 
+    /// Refuses when nothing was answered.
+    ~PasswordDialog() override;
+
     void done(int result) override;
 
 private:

@@ -130,19 +130,20 @@ void PrintDialog::connectAll()
     });
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
     connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
-    connect(&m_keeper, &host::SetupKeeper::choicesLost, this,
-            [this](const QStringList &sentences) { showProblem(sentences.join(u' ')); });
     if (host::QueueSession *const session = m_keeper.session()) {
         connect(session, &host::QueueSession::failed, this, [this](const host::CupsError &error) {
             m_serverProblem = error.message;
-            showProblem(error.message);
+            showProblems();
         });
         connect(session, &host::QueueSession::recovered, this, [this] {
-            if (m_problem == m_serverProblem)
-                showProblem(QString());
+            m_serverProblem.clear();
+            showProblems();
         });
         // What was wrong with another printer is no concern of this one.
-        connect(session, &host::QueueSession::chosenChanged, this, [this] { showProblem(QString()); });
+        connect(session, &host::QueueSession::chosenChanged, this, [this] {
+            m_serverProblem.clear();
+            showProblem(QString());
+        });
         connect(session, &host::QueueSession::settled, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::ppdChanged, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
@@ -154,9 +155,11 @@ void PrintDialog::connectAll()
         QDialog::accept();
     });
     connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
+        // Something to say keeps the window open: a job that could not be taken back, for instance.
+        const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
         finishSending();
         showProblem(problem);
-        if (m_closesAfterSending)
+        if (closes)
             QDialog::reject();
     });
 }
@@ -164,11 +167,12 @@ void PrintDialog::connectAll()
 void PrintDialog::takeSetup()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
+    const bool hasProblem = setup && setup->panelProblem();
+    m_panelBanner->setMessage(
+        hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
+                   : QString());
     if (setup) {
-        const bool hasProblem = setup->panelProblem().has_value();
-        m_panelBanner->setMessage(
-            hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
-                       : QString());
+        tellRefusals(*setup);
         m_pages->takeSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
     }
@@ -182,6 +186,15 @@ void PrintDialog::takeSetup()
     if (isVisible())
         m_pages->announceFront();
     refresh();
+}
+
+void PrintDialog::tellRefusals(const host::PrinterSetup &setup)
+{
+    QStringList sentences;
+    for (const host::ChoiceError &refusal : setup.refusals())
+        sentences.append(refusal.message);
+    m_choicesProblem = sentences.join(u' ');
+    showProblems();
 }
 
 void PrintDialog::dropSetup()
@@ -299,6 +312,16 @@ void PrintDialog::pageShown()
     refresh();
 }
 
+bool PrintDialog::event(QEvent *event)
+{
+    // A question about the printer is about the one that is shown.
+    if (event->type() == QEvent::WindowBlocked)
+        m_keeper.hold();
+    if (event->type() == QEvent::WindowUnblocked)
+        QTimer::singleShot(0, this, [this] { m_keeper.release(); });
+    return QDialog::event(event);
+}
+
 void PrintDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
@@ -379,7 +402,16 @@ void PrintDialog::done(int result)
 void PrintDialog::showProblem(const QString &problem)
 {
     m_problem = problem;
-    m_problemBanner->setMessage(problem);
+    showProblems();
+}
+
+void PrintDialog::showProblems()
+{
+    // None hides another: that a job may be printed must not vanish because the server is gone as well.
+    QStringList problems{m_problem, m_serverProblem, m_choicesProblem};
+    problems.removeAll(QString());
+    problems.removeDuplicates();
+    m_problemBanner->setMessage(problems.join(u'\n'));
 }
 
 bool PrintDialog::hasPanelProblem() const

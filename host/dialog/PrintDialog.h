@@ -62,6 +62,7 @@ public:
     void done(int result) override;
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -83,6 +84,8 @@ private:
     void pageShown();
     void finishSending();
     void showProblem(const QString &problem);
+    void showProblems();
+    void tellRefusals(const host::PrinterSetup &setup);
 
     std::shared_ptr<const host::LabelDocument> m_document;
     host::SetupKeeper &m_keeper;
@@ -90,6 +93,8 @@ private:
     QString m_problem;
     /// What the server said last when it could not be asked.
     QString m_serverProblem;
+    /// What was wished for and the printer cannot do.
+    QString m_choicesProblem;
     bool m_refreshPending = false;
     bool m_isSending = false;
     bool m_closesAfterSending = false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrinterSetup.h"
 
+#include <host/CutSettings.h>
+
 #include <QCheckBox>
 #include <QCoreApplication>
 
@@ -136,6 +138,9 @@ void PrinterSetup::keepRefused(const SetupWishes &wishes)
 
 void PrinterSetup::loadPanels(const PanelSource &source)
 {
+    // Whether a bundle is there and whole is no concern of printers that cannot cut.
+    if (!CutSettings::areKnownTo(ppd()))
+        return;
     Result<ClaimedPanels, PanelError> panels = source.panelsFor(m_state);
     if (!panels) {
         m_panelProblem = panels.error();

@@ -3,7 +3,25 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace host {
+
+namespace {
+
+/// What is shown is what is sent: a paper that the user's lpoptions name in another way ("media"), or the one
+/// that stands in for a default that the PPD does not have.
+void sendShownPaper(const PrinterSetup &setup, std::vector<JobOption> &options)
+{
+    const auto paper = std::ranges::find(options, QByteArray("PageSize"), &JobOption::name);
+    const bool isChosen = std::ranges::any_of(
+        setup.choices(), [](const JobChoice &choice) { return choice.name == "PageSize"; });
+    if (!setup.paper() || isChosen || paper == options.end() || paper->value == setup.paper()->name)
+        return;
+    *paper = {paper->name, setup.paper()->name, Origin::UserDefault, true};
+}
+
+} // namespace
 
 JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft)
 {
@@ -11,6 +29,7 @@ JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, co
     ticket.destination = setup.destination();
     ticket.title = draft.title;
     ticket.options = makeJobOptions(setup.destination(), setup.ppdOrNull(), setup.choices(), draft.settings);
+    sendShownPaper(setup, ticket.options);
     for (const DocumentFile &file : document.files())
         ticket.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name});
     return ticket;

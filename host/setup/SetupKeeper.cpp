@@ -18,7 +18,7 @@ SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWi
     connect(&session, &QueueSession::chosenChanged, this, &SetupKeeper::changeQueue);
     connect(&session, &QueueSession::ppdChanged, this, &SetupKeeper::changePpd);
     connect(&session, &QueueSession::stateChanged, this, [this] {
-        if (m_setup)
+        if (m_setup && m_setup->destination().name() == m_session->chosen()->name())
             m_setup->setDestination(*m_session->chosen());
     });
     if (session.chosen())
@@ -27,8 +27,22 @@ SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWi
 
 SetupKeeper::~SetupKeeper() = default;
 
+void SetupKeeper::release()
+{
+    m_isHeld = false;
+    const bool ppdIsLate = std::exchange(m_ppdIsLate, false);
+    if (std::exchange(m_queueIsLate, false))
+        changeQueue();
+    else if (ppdIsLate)
+        changePpd();
+}
+
 void SetupKeeper::changeQueue()
 {
+    if (m_isHeld) {
+        m_queueIsLate = true;
+        return;
+    }
     end();
     if (std::optional<PpdFile> ppd = m_session->takePpd())
         replace(std::move(ppd));
@@ -40,6 +54,10 @@ void SetupKeeper::changeQueue()
 
 void SetupKeeper::changePpd()
 {
+    if (m_isHeld) {
+        m_ppdIsLate = true;
+        return;
+    }
     std::optional<PpdFile> ppd = m_session->takePpd();
     // "The same as before" brings no PPD, and a failure leaves the one that is there.
     const bool lostIts = m_session->ppdKnowledge() == PpdKnowledge::Absent && m_setup && m_setup->hasPpd();

@@ -28,6 +28,11 @@ public:
     /// The setup of the chosen printer; null while its PPD is not known.
     PrinterSetup *setup() const { return m_setup.get(); }
 
+    /// From now on the setup stays, while somebody is asked about it; what changes meanwhile waits for
+    /// release().
+    void hold() { m_isHeld = true; }
+    void release();
+
 Q_SIGNALS:
     /// The setup is about to end, and with it its panels; whoever shows them takes them off now.
     void setupAboutToEnd();
@@ -49,6 +54,9 @@ private:
     SetupWishes m_wishes;
     std::unique_ptr<PrinterSetup> m_setup;
     std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
+    bool m_isHeld = false;
+    bool m_queueIsLate = false;
+    bool m_ppdIsLate = false;
     /// What the setup, or the one before it, cannot fulfil; told once.
     QStringList m_refused;
 };
