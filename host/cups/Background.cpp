@@ -31,6 +31,17 @@ void BackgroundTask::pause(std::chrono::milliseconds time) const
         std::this_thread::sleep_for(std::min(step, time));
 }
 
+namespace {
+
+std::atomic<bool> anythingStarted = false;
+
+} // namespace
+
+bool Background::wasUsed()
+{
+    return anythingStarted;
+}
+
 Background::Background()
     : m_mailbox(std::make_shared<BackgroundTask::Mailbox>())
 {
@@ -52,6 +63,7 @@ std::shared_ptr<BackgroundTask> Background::start(std::function<void(BackgroundT
     std::erase_if(m_tasks, [](const std::weak_ptr<BackgroundTask> &task) { return task.expired(); });
     std::shared_ptr<BackgroundTask> task(new BackgroundTask(m_mailbox));
     m_tasks.push_back(task);
+    anythingStarted = true;
     std::thread([task, run = std::move(work)] { run(*task); }).detach();
     return task;
 }

@@ -65,6 +65,10 @@ public:
     /// Runs the work on a thread of its own.
     std::shared_ptr<BackgroundTask> start(std::function<void(BackgroundTask &)> work);
 
+    /// Whether anything was ever started in this program. Its threads may be at work to the very end, when a
+    /// server is silent, and must not find what a usual end of the program has taken down by then.
+    static bool wasUsed();
+
 private:
     QObject m_receiver;
     std::shared_ptr<BackgroundTask::Mailbox> m_mailbox;

@@ -2,11 +2,14 @@
 #include "PrintRun.h"
 #include "Translations.h"
 
+#include <host/cups/Background.h>
+
 #include <QApplication>
 
 #include <fontconfig/fontconfig.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <thread>
 
 #include <unistd.h>
@@ -101,5 +104,8 @@ int main(int argc, char **argv)
     command.value().noDialog = command.value().noDialog || !attended;
     const dialog::Console console{[](const QString &text) { write(stdout, text); },
                                   [](const QString &text) { write(stderr, text); }};
-    return status(dialog::PrintRun(std::move(command).value(), console).run());
+    const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run());
+    if (host::Background::wasUsed())
+        std::_Exit(outcome);
+    return outcome;
 }
