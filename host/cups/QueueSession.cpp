@@ -24,10 +24,10 @@ bool isOutOfReach(const CupsError &error)
 
 } // namespace
 
-QueueSession::QueueSession(CupsServer server, std::optional<QString> wanted, QObject *parent)
+QueueSession::QueueSession(CupsServer server, const std::optional<QString> &wanted, QObject *parent)
     : QObject(parent)
     , m_server(std::move(server))
-    , m_wanted(wanted ? std::move(wanted) : LpOptions::read().defaultName())
+    , m_wanted(wanted ? wanted : LpOptions::read().defaultName())
     , m_destinations(m_server, m_wanted)
     , m_loader(m_server)
 {

@@ -29,7 +29,7 @@ class QueueSession : public QObject {
 public:
     /// wanted is "queue" or "queue/instance"; nothing for the default: that of LPDEST, PRINTER, lpoptions or
     /// the server. Chooses from what is kept of last time; asks nobody yet.
-    QueueSession(CupsServer server, std::optional<QString> wanted, QObject *parent = nullptr);
+    QueueSession(CupsServer server, const std::optional<QString> &wanted, QObject *parent = nullptr);
 
     /// Asks the server for everything.
     void start(Discovery discovery);
