@@ -122,9 +122,14 @@ CupsError CupsConnection::lastError() const
     // connection, or leaves the outcome of the request before.
     const ipp_status_t status = cupsLastError();
     if (status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_INTERNAL)
-        return {CupsFailure::Unreachable,
-                Text::tr("The connection to the print server \"%1\" broke.").arg(name)};
+        return brokenError();
     return answerError();
+}
+
+CupsError CupsConnection::brokenError() const
+{
+    return {CupsFailure::Unreachable,
+            Text::tr("The connection to the print server \"%1\" broke.").arg(server().displayName())};
 }
 
 CupsError CupsConnection::passwordError() const
@@ -218,6 +223,8 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     const http_status_t status = get(resource, unlessModifiedSince);
     if (m_state->wasSilent || m_state->task->isCancelled())
         return lastError();
+    if (status == HTTP_STATUS_ERROR)
+        return brokenError();
     if (status == HTTP_STATUS_NOT_MODIFIED) {
         httpFlush(m_http.get());
         return std::optional<File>();

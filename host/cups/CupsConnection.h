@@ -85,6 +85,7 @@ private:
     }
 
     CupsError answerError() const;
+    CupsError brokenError() const;
     CupsError passwordError() const;
     bool connect();
     http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);

@@ -129,6 +129,22 @@ TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
     cupsd->restart();
 }
 
+TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdStays)
+{
+    ASSERT_TRUE(load(tape).ppd);
+    const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
+    CupsServer through;
+    through.address = breaking.address();
+    const host::QueueCache cache(through);
+    cache.storePpd(tape, PpdBuilder().allOptions().ppd(), 1);
+    const Outcome outcome = load(tape, through);
+    ASSERT_TRUE(outcome.error);
+    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable);
+    EXPECT_EQ(outcome.error->message,
+              QStringLiteral("The connection to the print server \"%1\" broke.").arg(breaking.address()));
+    EXPECT_TRUE(PpdLoader(through).cached(tape));
+}
+
 TEST_F(PpdLoaderTest, ADamagedPpdIsToldAndNotKept)
 {
     // Put in place behind the server's back: it would not take such a PPD.
