@@ -7,9 +7,9 @@
 #include <host/cups/QueueMonitor.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/StallWatch.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTcpServer>
 
@@ -22,6 +22,7 @@ using host::DestinationList;
 using host::QueueState;
 using test_support::PpdBuilder;
 using test_support::PrivateCupsd;
+using test_support::StallWatch;
 
 namespace {
 
@@ -231,15 +232,14 @@ TEST_F(DestinationListTest, NothingWaitsForASilentServer)
 {
     const FaultyServer silent(0, {.silent = true});
     server.address = silent.address();
-    QElapsedTimer timer;
-    timer.start();
+    const StallWatch watch;
     {
         DestinationList list(server);
         list.refresh();
         host::QueueMonitor monitor(server, QStringLiteral("narrow"), std::nullopt);
         EXPECT_TRUE(waitFor([&] { return silent.connectionCount() >= 2; }));
     }
-    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_NO_STALL(watch);
 }
 
 TEST_F(DestinationListTest, ASlowServerTakesItsTimeAndNoMore)
@@ -247,28 +247,15 @@ TEST_F(DestinationListTest, ASlowServerTakesItsTimeAndNoMore)
     const FaultyServer slow(cupsd->port(), {.delay = 500});
     server.address = slow.address();
     DestinationList list(server);
-    QElapsedTimer timer;
-    timer.start();
-    list.refresh();
-    EXPECT_LT(timer.elapsed(), 50);
-    // Event loop turns go on all the while.
-    qint64 longest = 0;
     bool refreshed = false;
     QObject::connect(&list, &DestinationList::refreshed, [&] { refreshed = true; });
-    QElapsedTimer turn;
-    while (!refreshed && timer.elapsed() < 10000) {
-        turn.start();
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        longest = std::max(longest, turn.elapsed());
-        QThread::msleep(1);
-    }
-    EXPECT_TRUE(refreshed);
+    const StallWatch watch;
+    list.refresh();
+    EXPECT_TRUE(waitFor([&] { return refreshed; }));
     EXPECT_EQ(list.destinations().size(), 4U);
-    EXPECT_LT(longest, 100);
+    EXPECT_NO_STALL(watch);
     // One question: a dialog on a slow line cannot afford more.
     EXPECT_EQ(slow.requestCount(), 1);
-    EXPECT_GE(timer.elapsed(), 500);
-    EXPECT_LT(timer.elapsed(), 1500);
 }
 
 TEST_F(DestinationListTest, APasswordIsAskedForOnceAndRemembered)

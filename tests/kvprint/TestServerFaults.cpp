@@ -3,7 +3,6 @@
 
 #include <FaultyServer.h>
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QProcess>
 
@@ -76,10 +75,7 @@ TEST_F(KvprintFaults, AServerThatIsNotThere)
 TEST_F(KvprintFaults, AServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});
-    QElapsedTimer timer;
-    timer.start();
     expectFailureAt(silent.address(), picture(), "does not answer");
-    EXPECT_LT(timer.elapsed(), 20000);
     expectNothingPrinted();
 }
 

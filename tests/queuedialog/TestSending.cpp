@@ -4,7 +4,6 @@
 #include "QueueDialogFixture.h"
 #include "SamplePpd.h"
 
-#include <host/cups/QueueCache.h>
 #include <host/dialog/JobWindow.h>
 
 #include <QApplication>
@@ -217,18 +216,10 @@ TEST_F(SendingTest, ClosingTheWindowWhileSendingTakesTheJobBack)
 
 TEST_F(SendingTest, ASilentServerWhileSendingCanBeLeft)
 {
-    openAndSettle(QStringLiteral("tape"));
-    close();
+    fillCache(QStringLiteral("tape"));
     const FaultyServer silent(0, {.silent = true});
-    host::CupsServer server;
-    server.address = silent.address();
+    host::CupsServer server = knownServer(silent.address());
     server.patience = std::chrono::milliseconds(1500);
-    const host::QueueCache from(sharedServer());
-    const host::QueueCache to(server);
-    to.storeDestinations(from.destinations());
-    QFile ppd(from.ppdPath(QStringLiteral("tape")).value());
-    ASSERT_TRUE(ppd.open(QIODevice::ReadOnly));
-    to.storePpd(QStringLiteral("tape"), ppd.readAll(), 1);
     open(QStringLiteral("tape"), server);
     const StallWatch watch;
     set();
