@@ -3,6 +3,7 @@
 
 #include "DocumentError.h"
 
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QSizeF>
 #include <QStringList>
@@ -57,8 +58,11 @@ public:
 
     /// Checks what opening leaves out so as to be quick: pages far behind in long documents, and whether the
     /// files are still what was opened. To be asked before anything is sent; takes seconds for tens of
-    /// thousands of pages, and no time when asked again.
+    /// thousands of pages, and no time for those that checkAhead() has done.
     std::optional<DocumentError> checkForPrinting() const;
+    /// Does some of that work, until the time is over: a window that calls it when it has nothing else to do
+    /// need not wait later. False while there is more to do.
+    bool checkAhead(const QDeadlineTimer &until) const;
 
 private:
     LabelDocument();

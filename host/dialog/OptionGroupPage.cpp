@@ -6,8 +6,6 @@
 #include <QFormLayout>
 #include <QLabel>
 
-#include <algorithm>
-
 namespace dialog {
 
 OptionGroupPage::OptionGroupPage(const host::PpdFile &ppd, std::vector<QByteArray> keywords, QWidget *parent)
@@ -61,22 +59,6 @@ void OptionGroupPage::addControl(QFormLayout *form, const host::PpdOption &optio
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(labelled);
     form->addRow(label, control);
-}
-
-bool OptionGroupPage::hasOption(const QByteArray &keyword) const
-{
-    return std::ranges::find(m_keywords, keyword) != m_keywords.end();
-}
-
-void OptionGroupPage::showOption(const QByteArray &keyword)
-{
-    build();
-    for (OptionControl *const control : m_controls) {
-        if (control->keyword() != keyword)
-            continue;
-        control->setFocus();
-        ensureWidgetVisible(control);
-    }
 }
 
 void OptionGroupPage::refresh()

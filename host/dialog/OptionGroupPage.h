@@ -21,9 +21,6 @@ public:
     /// The options are shown in the given order. The PPD is borrowed.
     OptionGroupPage(const host::PpdFile &ppd, std::vector<QByteArray> keywords, QWidget *parent);
 
-    bool hasOption(const QByteArray &keyword) const;
-    /// Scrolls to the option's control and gives it the focus. Nothing for an option of another group.
-    void showOption(const QByteArray &keyword);
     /// Shows what is marked now, quietly.
     void refresh();
     /// Shows each conflict at the options that it involves.

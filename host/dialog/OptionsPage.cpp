@@ -120,16 +120,4 @@ void OptionsPage::setConflicts(const std::vector<host::Conflict> &conflicts)
     }
 }
 
-bool OptionsPage::showOption(const QByteArray &keyword)
-{
-    for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        if (m_pages[i]->hasOption(keyword)) {
-            m_groups->setCurrentRow(static_cast<int>(i));
-            m_pages[i]->showOption(keyword);
-            return true;
-        }
-    }
-    return false;
-}
-
 } // namespace dialog

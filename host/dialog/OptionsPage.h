@@ -29,16 +29,11 @@ public:
 
     /// Whether such a page would have anything to choose.
     static bool hasOptions(const host::PpdFile &ppd, const QStringList &claimedKeywords);
-    /// Whether there is nothing to choose, so that the page need not be shown.
-    bool isEmpty() const { return m_pages.empty(); }
 
     /// Shows what the PPD has marked now, quietly.
     void refresh();
     /// Shows the conflicts at their options and at the groups that hold these; an empty list clears them.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
-    /// Brings the option's group to the front and its control into view; false when the page has no such
-    /// option.
-    bool showOption(const QByteArray &keyword);
 
 Q_SIGNALS:
     /// The user chose this: a choice by its PPD name, for options with several a list with commas, or a free

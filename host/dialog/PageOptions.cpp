@@ -56,8 +56,10 @@ host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() con
 
 void PageOptions::setSettings(const host::JobSettings &settings)
 {
-    setChoices(settings.copies.value_or(1), settings.collate.value_or(host::Collate::Yes),
-               settings.pageRanges);
+    const QSignalBlocker quiet(this);
+    m_copies->setValue(settings.copies.value_or(1));
+    m_collate->setChecked(settings.collate != host::Collate::No);
+    m_pages->setText(settings.pageRanges);
     m_setsCopies = settings.copies.has_value();
 }
 
@@ -66,24 +68,6 @@ void PageOptions::writeTo(host::JobSettings &settings) const
     settings.copies = m_setsCopies || m_copies->value() > 1 ? std::optional(m_copies->value()) : std::nullopt;
     settings.collate = m_collate->isChecked() ? host::Collate::Yes : host::Collate::No;
     settings.pageRanges = m_pages->text();
-}
-
-QString PageOptions::rangesText() const
-{
-    return m_pages->text();
-}
-
-bool PageOptions::collateIsOffered() const
-{
-    return m_copies->value() > 1;
-}
-
-void PageOptions::setChoices(int copies, host::Collate collate, const QString &ranges)
-{
-    const QSignalBlocker quiet(this);
-    m_copies->setValue(copies);
-    m_collate->setChecked(collate == host::Collate::Yes);
-    m_pages->setText(ranges);
 }
 
 } // namespace dialog

@@ -22,20 +22,13 @@ public:
 
     /// The choices as they stand, or why they cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
-    /// Shows copies, order and pages of the settings; nothing stands for one copy of all pages, set by set.
+    /// Shows copies, order and pages of the settings, quietly; nothing stands for one copy of all pages, set
+    /// by set. Copies are brought within 1 to host::mostCopies; the text of the pages is taken as it is, and
+    /// checked by choices().
     void setSettings(const host::JobSettings &settings);
     /// Puts copies, order and pages into the settings, the others stay. What nobody has set is left to the
     /// queue.
     void writeTo(host::JobSettings &settings) const;
-
-    /// The pages as the user wrote them; empty for all.
-    QString rangesText() const;
-    /// Whether there are copies whose order can be chosen. Otherwise collating makes no difference.
-    bool collateIsOffered() const;
-
-    /// Shows these as if the user had chosen them, quietly. Copies are brought within 1 to host::mostCopies;
-    /// the text of the pages is taken as it is, and checked by choices().
-    void setChoices(int copies, host::Collate collate, const QString &ranges);
 
 Q_SIGNALS:
     void changed();

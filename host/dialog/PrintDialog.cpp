@@ -7,11 +7,13 @@
 #include "DialogPages.h"
 #include "PageOptions.h"
 #include "PaperChooser.h"
+#include "ProblemBanner.h"
 #include "SendBar.h"
 #include "StripPreview.h"
 
 #include <host/CutPlanWords.h>
 
+#include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,7 +38,7 @@ PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, ho
     m_pages->showJob(m_draft);
     connectAll();
     takeSetup();
-    showProblem(wishes.problem);
+    m_problemBanner->setSendingProblem(wishes.problem);
 }
 
 PrintDialog::~PrintDialog()
@@ -50,7 +52,7 @@ void PrintDialog::build(const DialogWishes &wishes)
     m_content = new QWidget(this);
     m_panelBanner = new Banner(this);
     m_conflictBanner = new Banner(this);
-    m_problemBanner = new Banner(this);
+    m_problemBanner = new ProblemBanner(this);
     const host::QueueSession *const session = m_keeper.session();
     m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
     m_stripPreview = new StripPreview(m_content);
@@ -131,19 +133,7 @@ void PrintDialog::connectAll()
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
     connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
     if (host::QueueSession *const session = m_keeper.session()) {
-        connect(session, &host::QueueSession::failed, this, [this](const host::CupsError &error) {
-            m_serverProblem = error.message;
-            showProblems();
-        });
-        connect(session, &host::QueueSession::recovered, this, [this] {
-            m_serverProblem.clear();
-            showProblems();
-        });
-        // What was wrong with another printer is no concern of this one.
-        connect(session, &host::QueueSession::chosenChanged, this, [this] {
-            m_serverProblem.clear();
-            showProblem(QString());
-        });
+        m_problemBanner->follow(*session);
         connect(session, &host::QueueSession::settled, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::ppdChanged, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
@@ -158,7 +148,7 @@ void PrintDialog::connectAll()
         // Something to say keeps the window open: a job that could not be taken back, for instance.
         const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
         finishSending();
-        showProblem(problem);
+        m_problemBanner->setSendingProblem(problem);
         if (closes)
             QDialog::reject();
     });
@@ -172,7 +162,7 @@ void PrintDialog::takeSetup()
         hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
                    : QString());
     if (setup) {
-        tellRefusals(*setup);
+        m_problemBanner->setRefusals(setup->refusals());
         m_pages->takeSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
     }
@@ -186,15 +176,6 @@ void PrintDialog::takeSetup()
     if (isVisible())
         m_pages->announceFront();
     refresh();
-}
-
-void PrintDialog::tellRefusals(const host::PrinterSetup &setup)
-{
-    QStringList sentences;
-    for (const host::ChoiceError &refusal : setup.refusals())
-        sentences.append(refusal.message);
-    m_choicesProblem = sentences.join(u' ');
-    showProblems();
 }
 
 void PrintDialog::dropSetup()
@@ -325,8 +306,17 @@ bool PrintDialog::event(QEvent *event)
 void PrintDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (!event->spontaneous())
-        pageShown();
+    if (event->spontaneous())
+        return;
+    pageShown();
+    QTimer::singleShot(0, this, &PrintDialog::checkAhead);
+}
+
+void PrintDialog::checkAhead()
+{
+    constexpr std::chrono::milliseconds slice{5};
+    if (!m_document->checkAhead(QDeadlineTimer(slice)))
+        QTimer::singleShot(0, this, &PrintDialog::checkAhead);
 }
 
 void PrintDialog::showAtOnce()
@@ -335,34 +325,31 @@ void PrintDialog::showAtOnce()
     show();
 }
 
-void PrintDialog::print()
+std::optional<QString> PrintDialog::prepare()
 {
-    showProblem(QString());
     host::PrinterSetup *const setup = m_keeper.setup();
-    if (!setup) {
-        showProblem(waitingText());
-        return;
-    }
-    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting()) {
-        showProblem(error->message);
-        return;
-    }
-    if (const std::optional<QString> refusal = setup->savePanel()) {
-        showProblem(*refusal);
-        return;
-    }
+    if (!setup)
+        return waitingText();
+    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
+        return error->message;
+    if (const std::optional<QString> refusal = setup->savePanel())
+        return refusal;
     // Saving may have changed what is recorded.
     refresh();
     const auto choices = m_pageOptions->choices();
-    if (!choices) {
-        showProblem(choices.error().message);
+    return choices ? std::nullopt : std::optional(choices.error().message);
+}
+
+void PrintDialog::print()
+{
+    m_problemBanner->setSendingProblem(prepare().value_or(QString()));
+    if (!problem().isEmpty())
         return;
-    }
     m_isSending = true;
     m_content->setEnabled(false);
     m_printButton->setEnabled(false);
     m_sendBar->begin(m_draft.title);
-    m_sender.send({*setup, *m_document, m_draft, m_strip.get()});
+    m_sender.send({*m_keeper.setup(), *m_document, m_draft, m_strip.get()});
 }
 
 void PrintDialog::finishSending()
@@ -399,19 +386,9 @@ void PrintDialog::done(int result)
     QDialog::done(result);
 }
 
-void PrintDialog::showProblem(const QString &problem)
+const QString &PrintDialog::problem() const
 {
-    m_problem = problem;
-    showProblems();
-}
-
-void PrintDialog::showProblems()
-{
-    // None hides another: that a job may be printed must not vanish because the server is gone as well.
-    QStringList problems{m_problem, m_serverProblem, m_choicesProblem};
-    problems.removeAll(QString());
-    problems.removeDuplicates();
-    m_problemBanner->setMessage(problems.join(u'\n'));
+    return m_problemBanner->sendingProblem();
 }
 
 bool PrintDialog::hasPanelProblem() const

@@ -18,6 +18,7 @@ class Banner;
 class DialogPages;
 class PageOptions;
 class PaperChooser;
+class ProblemBanner;
 class SendBar;
 class StripPreview;
 
@@ -48,7 +49,7 @@ public:
     /// set. Conflicts are not asked about.
     void print();
     /// Why the last print() failed; empty when it did not.
-    const QString &problem() const { return m_problem; }
+    const QString &problem() const;
     bool isSending() const { return m_isSending; }
     /// The job's name.
     const QString &title() const { return m_draft.title; }
@@ -82,19 +83,14 @@ private:
     void setFigures(const QString &text);
     QString waitingText() const;
     void pageShown();
+    void checkAhead();
+    /// Readies the job for sending; why that cannot be done, or nothing.
+    std::optional<QString> prepare();
     void finishSending();
-    void showProblem(const QString &problem);
-    void showProblems();
-    void tellRefusals(const host::PrinterSetup &setup);
 
     std::shared_ptr<const host::LabelDocument> m_document;
     host::SetupKeeper &m_keeper;
     JobSender &m_sender;
-    QString m_problem;
-    /// What the server said last when it could not be asked.
-    QString m_serverProblem;
-    /// What was wished for and the printer cannot do.
-    QString m_choicesProblem;
     bool m_refreshPending = false;
     bool m_isSending = false;
     bool m_closesAfterSending = false;
@@ -105,7 +101,7 @@ private:
     QWidget *m_content = nullptr;
     Banner *m_panelBanner = nullptr;
     Banner *m_conflictBanner = nullptr;
-    Banner *m_problemBanner = nullptr;
+    ProblemBanner *m_problemBanner = nullptr;
     QVBoxLayout *m_paperPlace = nullptr;
     PaperChooser *m_papers = nullptr;
     PageOptions *m_pageOptions = nullptr;

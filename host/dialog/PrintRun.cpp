@@ -128,7 +128,6 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
         tellSummary(dialog.summary());
         return ExitStatus::Printed;
     }
-    std::vector<SummarySection> summary;
     if (m_command.noDialog) {
         sender.setPictureTaker([&] { return dialog.grab().toImage(); });
         dialog.print();

@@ -63,14 +63,8 @@ void SetupKeeper::changePpd()
     const bool lostIts = m_session->ppdKnowledge() == PpdKnowledge::Absent && m_setup && m_setup->hasPpd();
     if (!ppd && !lostIts && (m_setup || !isUsableWithoutPpd()))
         return;
-    const bool isReplacement = m_setup != nullptr;
-    const QStringList refusedBefore = m_refused;
     end();
     replace(std::move(ppd));
-    QStringList lost = m_refused;
-    lost.removeIf([&](const QString &sentence) { return refusedBefore.contains(sentence); });
-    if (isReplacement && !lost.isEmpty())
-        Q_EMIT choicesLost(lost);
 }
 
 bool SetupKeeper::isUsableWithoutPpd() const
@@ -100,9 +94,6 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
         wishes.paper.reset();
     }
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
-    m_refused.clear();
-    for (const ChoiceError &refusal : m_setup->refusals())
-        m_refused.append(refusal.message);
     Q_EMIT setupChanged();
 }
 

@@ -11,7 +11,8 @@ namespace host {
 
 /// Keeps the setup of the printer that is chosen now. As a server's answers come in, or the user chooses
 /// another queue, one setup takes the place of another, and what was chosen moves along as far as the new PPD
-/// has it. Each queue's choices are kept while the program runs, so that going back to it finds them.
+/// has it; what it lacks is told by the setup's refusals(), and comes back with a PPD that has it. Each
+/// queue's choices are kept while the program runs, so that going back to it finds them.
 class SetupKeeper : public QObject {
     Q_OBJECT
 
@@ -38,9 +39,6 @@ Q_SIGNALS:
     void setupAboutToEnd();
     /// setup() is another, or null now.
     void setupChanged();
-    /// The queue has another PPD, which lacks these choices; one sentence each. They are not forgotten: a PPD
-    /// that has them brings them back.
-    void choicesLost(const QStringList &sentences);
 
 private:
     void changeQueue();
@@ -57,8 +55,6 @@ private:
     bool m_isHeld = false;
     bool m_queueIsLate = false;
     bool m_ppdIsLate = false;
-    /// What the setup, or the one before it, cannot fulfil; told once.
-    QStringList m_refused;
 };
 
 } // namespace host

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QSpinBox>
 
@@ -11,33 +12,46 @@
 using dialog::PageOptions;
 using host::Collate;
 
+namespace {
+
+host::JobSettings settings(int copies, Collate collate, const QString &ranges)
+{
+    host::JobSettings settings;
+    settings.copies = copies;
+    settings.collate = collate;
+    settings.pageRanges = ranges;
+    return settings;
+}
+
+} // namespace
+
 TEST(PageOptions, ShowsQuietlyWhatIsSet)
 {
     PageOptions options({9}, nullptr);
     const QSignalSpy spy(&options, &PageOptions::changed);
-    EXPECT_FALSE(options.collateIsOffered());
-    options.setChoices(3, Collate::No, QStringLiteral("2-4, 7-"));
-    EXPECT_TRUE(options.collateIsOffered());
+    EXPECT_FALSE(options.findChild<QCheckBox *>()->isEnabled());
+    options.setSettings(settings(3, Collate::No, QStringLiteral("2-4, 7-")));
     EXPECT_TRUE(options.findChild<QCheckBox *>()->isEnabled());
-    EXPECT_EQ(options.rangesText(), QStringLiteral("2-4, 7-"));
+    EXPECT_EQ(options.findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)->text(),
+              QStringLiteral("2-4, 7-"));
     const auto choices = options.choices();
     ASSERT_TRUE(choices);
     EXPECT_EQ(choices.value().pages, (std::vector<int>{1, 2, 3, 6, 7, 8}));
     EXPECT_EQ(choices.value().copies, 3);
     EXPECT_EQ(choices.value().collate, Collate::No);
-    options.setChoices(1, Collate::Yes, {});
-    EXPECT_FALSE(options.collateIsOffered());
+    options.setSettings({});
     EXPECT_FALSE(options.findChild<QCheckBox *>()->isEnabled());
-    EXPECT_EQ(options.rangesText(), QString());
+    EXPECT_EQ(options.findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)->text(), QString());
     EXPECT_EQ(spy.count(), 0);
 }
 
 TEST(PageOptions, TakesWhatItCannotPrintAndSaysSo)
 {
     PageOptions options({3}, nullptr);
-    options.setChoices(0, Collate::Yes, QStringLiteral("9"));
-    EXPECT_EQ(options.rangesText(), QStringLiteral("9"));
+    options.setSettings(settings(0, Collate::Yes, QStringLiteral("9")));
+    EXPECT_EQ(options.findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)->text(),
+              QStringLiteral("9"));
     EXPECT_FALSE(options.choices());
-    options.setChoices(host::mostCopies + 1, Collate::Yes, {});
+    options.setSettings(settings(host::mostCopies + 1, Collate::Yes, {}));
     EXPECT_EQ(options.findChild<QSpinBox *>()->value(), host::mostCopies);
 }

@@ -42,6 +42,19 @@ TEST_F(PrintDialogTest, AClickOnThePanelIsSeenOnTheStripAtOnce)
     EXPECT_TRUE(stripInWords().contains(QStringLiteral("Tape: 62."))) << stripInWords().toStdString();
 }
 
+TEST_F(PrintDialogTest, ThePagesOfALongDocumentAreCheckedBeforeAnybodyWaitsForIt)
+{
+    const std::vector<QByteArray> pages(5'000, "[0 0 170 68]");
+    auto opened = host::LabelDocument::open(sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages)));
+    ASSERT_TRUE(opened) << opened.error().message.toStdString();
+    const std::shared_ptr<const host::LabelDocument> document = std::move(opened).value();
+    host::SetupKeeper printer(makeSetup({}));
+    dialog::PrintDialog print(document, printer, sender, dialog::DialogWishes());
+    print.show();
+    // Asking checks a page itself, but would not get through so many.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return document->checkAhead(QDeadlineTimer(0)); }, 15000));
+}
+
 TEST_F(PrintDialogTest, AnotherPaperIsMarkedAnnouncedAndShown)
 {
     open();
