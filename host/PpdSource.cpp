@@ -108,7 +108,7 @@ std::optional<PpdError> PpdSource::check(qint64 largestText, int descriptor)
 
 Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)
 {
-    std::vector<char> piece(65536);
+    std::vector<char> piece(16384);
     qint64 length = 0;
     ssize_t read = 0;
     // libcups answers -1 both for the end of a file and for a stream that cannot be unpacked.

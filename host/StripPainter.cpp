@@ -88,6 +88,18 @@ void StripPainter::paint(QPainter &painter, double left, double right) const
     painter.restore();
 }
 
+void StripPainter::paintDraft(QPainter &painter, double left, double right) const
+{
+    for (std::size_t i = 0; i < m_layout.plan().pieces().size(); ++i) {
+        const QRectF piece = m_layout.piece(i);
+        if (piece.right() >= left && piece.left() <= right)
+            painter.fillRect(backing(piece), backingColor);
+    }
+    const auto [first, end] = m_layout.labelsBetween(left, right);
+    for (std::size_t i = first; i < end; ++i)
+        painter.fillRect(m_layout.label(i), Qt::white);
+}
+
 QRectF StripPainter::backing(const QRectF &tape) const
 {
     return tape.adjusted(0.0, -units(0.6), 0.0, units(0.6));
@@ -142,10 +154,7 @@ void StripPainter::paintLabel(QPainter &painter, std::size_t index) const
     }
     // The whole image, clipped, so that a PDF holds it once however often the label is printed.
     const QRectF whole(QPointF(label.left() - planned.trimmedBefore, 0.0), m_renderer.labelSize());
-    if (m_labelsAreBlank)
-        painter.fillRect(whole, Qt::white);
-    else
-        painter.drawImage(whole, m_renderer.render(planned.page, m_resolution));
+    painter.drawImage(whole, m_renderer.render(planned.page, m_resolution));
     painter.restore();
     const QRectF number(label.left(), -units(8.5), label.width(), units(3.6));
     if (label.width() > units(5.0))

@@ -31,11 +31,12 @@ public:
     StripPainter(const StripLayout &layout, const LabelRenderer &renderer, const StripColors &colors,
                  double pixelsPerMillimetre);
 
-    /// Leaves the labels white: their pictures take longer than all the rest.
-    void setLabelsBlank(bool blank) { m_labelsAreBlank = blank; }
     /// Draws what lies between left and right, in the layout's millimetres, which must be the painter's
     /// coordinates.
     void paint(QPainter &painter, double left, double right) const;
+    /// Draws where the labels lie on the tape and nothing else, for a first look: pictures, texts and cuts
+    /// take their time.
+    void paintDraft(QPainter &painter, double left, double right) const;
 
 private:
     void paintBacking(QPainter &painter, double left, double right) const;
@@ -57,7 +58,6 @@ private:
     const LabelRenderer &m_renderer;
     StripColors m_colors;
     double m_resolution;
-    bool m_labelsAreBlank = false;
 };
 
 } // namespace host

@@ -2,8 +2,6 @@
 #include "Image.h"
 
 #include <QFileInfo>
-#include <QGuiApplication>
-#include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
 #include <QPalette>
@@ -17,38 +15,6 @@ bool isDark(const QPalette &palette)
 {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
-
-class ImageIconEngine : public QIconEngine {
-public:
-    explicit ImageIconEngine(std::shared_ptr<const Image> image)
-        : m_image(std::move(image))
-    {
-    }
-
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
-    {
-        constexpr double disabledOpacity = 0.35;
-        painter->save();
-        if (mode == QIcon::Disabled)
-            painter->setOpacity(disabledOpacity);
-        m_image->drawInRect(*painter, rect, QGuiApplication::palette());
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap canvas(size);
-        canvas.fill(Qt::transparent);
-        QPainter painter(&canvas);
-        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-        return canvas;
-    }
-
-    QIconEngine *clone() const override { return new ImageIconEngine(m_image); }
-
-private:
-    std::shared_ptr<const Image> m_image;
-};
 
 } // namespace
 
@@ -105,7 +71,9 @@ void Image::drawAtPoint(QPainter &painter, QPointF origin, const QPalette &palet
 void Image::drawInRect(QPainter &painter, const QRectF &rect, const QPalette &palette) const
 {
     const QSizeF fitted = QSizeF(m_size).scaled(rect.size(), Qt::KeepAspectRatio);
-    const QPixmap pixels = pixmap(2.0, palette);
+    // Pixels as dense as the place has them: reading more takes four times as long.
+    const double scale = fitted.width() / m_size.width();
+    const QPixmap pixels = pixmap(scale * painter.device()->devicePixelRatioF(), palette);
     if (pixels.isNull())
         return;
     QRectF target(QPointF(), fitted);
@@ -114,11 +82,6 @@ void Image::drawInRect(QPainter &painter, const QRectF &rect, const QPalette &pa
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(target, pixels, QRectF(pixels.rect()));
     painter.restore();
-}
-
-QIcon iconFromImage(std::shared_ptr<const Image> image)
-{
-    return QIcon(new ImageIconEngine(std::move(image)));
 }
 
 } // namespace platform

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QIcon>
+#include <QPixmap>
 #include <QPointF>
 #include <QSize>
 #include <QString>
@@ -44,8 +44,5 @@ private:
     QString m_path;
     QSize m_size;
 };
-
-/// An icon that draws the picture, always in the variant that suits the application's theme.
-QIcon iconFromImage(std::shared_ptr<const Image> image);
 
 } // namespace platform

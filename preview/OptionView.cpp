@@ -31,10 +31,9 @@ bool isOn(const QAbstractButton *box)
     return box && !box->isHidden() && box->isChecked();
 }
 
-std::shared_ptr<const platform::Image> pictureFromBundle(const platform::Bundle &bundle, const char *name)
+platform::LazyImage pictureFromBundle(const platform::Bundle &bundle, const char *name)
 {
-    const std::optional<QString> path = bundle.pathForImageResource(QLatin1String(name));
-    return path ? platform::Image::initWithContentsOfFile(*path) : nullptr;
+    return platform::LazyImage(bundle.pathForImageResource(QLatin1String(name)).value_or(QString()));
 }
 
 } // namespace

@@ -2,12 +2,11 @@
 #pragma once
 
 #include <platform/Bundle.h>
-#include <platform/Image.h>
+#include <platform/LazyImage.h>
 
 #include <QWidget>
 
 #include <array>
-#include <memory>
 
 class QAbstractButton;
 class QPainter;
@@ -74,8 +73,8 @@ private:
     std::size_t slotDZ() const;
     std::size_t slotLX() const;
 
-    std::array<std::shared_ptr<const platform::Image>, DZPictureCount> mOptionImgDZ;
-    std::array<std::shared_ptr<const platform::Image>, LXPictureCount> mOptionImgLX;
+    std::array<platform::LazyImage, DZPictureCount> mOptionImgDZ;
+    std::array<platform::LazyImage, LXPictureCount> mOptionImgLX;
     bool mIsDZ = false;
     const QAbstractButton *mCutEveryChkBx = nullptr;
     const QAbstractButton *mCutAndEndChkBx = nullptr;

@@ -20,7 +20,6 @@ Banner::Banner(QWidget *parent)
     m_text->setForegroundRole(QPalette::ToolTipText);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(m_icon);
     layout->addWidget(m_text, 1);
@@ -30,9 +29,11 @@ Banner::Banner(QWidget *parent)
     setVisible(false);
 }
 
-void Banner::showIcon()
+void Banner::prepare()
 {
-    // Only now: looking through the icon themes takes longer than building the rest of the dialog.
+    // Only now: looking through the icon themes takes longer than building the rest of the dialog, and a text
+    // that can be selected needs a text engine.
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
 }
@@ -40,7 +41,7 @@ void Banner::showIcon()
 void Banner::setMessage(const QString &message, const QString &remedy)
 {
     if (!message.isEmpty() && m_icon->pixmap().isNull())
-        showIcon();
+        prepare();
     m_text->setText(message);
     // An ampersand in a PPD's text is no shortcut.
     m_remedy->setText(QString(remedy).replace(u'&', QStringLiteral("&&")));

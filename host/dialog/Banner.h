@@ -24,7 +24,7 @@ Q_SIGNALS:
     void remedyClicked();
 
 private:
-    void showIcon();
+    void prepare();
 
     QLabel *m_icon;
     QLabel *m_text;

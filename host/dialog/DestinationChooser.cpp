@@ -64,7 +64,6 @@ DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *par
     m_list->setMinimumContentsLength(20);
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
-    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_state->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     m_icon->setAlignment(Qt::AlignTop);
 
@@ -137,6 +136,14 @@ void DestinationChooser::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     fitState();
+}
+
+void DestinationChooser::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    // So that the server's words can be copied. Not before there is a mouse to do it: laying out a text that
+    // can be selected takes many times as long.
+    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
 void DestinationChooser::showState()

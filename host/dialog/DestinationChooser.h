@@ -20,6 +20,7 @@ public:
     DestinationChooser(host::QueueSession &session, QWidget *parent);
 
 protected:
+    void enterEvent(QEnterEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

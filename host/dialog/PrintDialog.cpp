@@ -321,7 +321,7 @@ void PrintDialog::checkAhead()
 
 void PrintDialog::showAtOnce()
 {
-    m_stripPreview->paintOutlinesFirst();
+    m_stripPreview->paintDraftFirst();
     show();
 }
 

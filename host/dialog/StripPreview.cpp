@@ -92,13 +92,14 @@ void StripPreview::paintEvent(QPaintEvent *)
     painter.translate(-bounds.topLeft());
     const double left = bounds.left() + horizontalScrollBar()->value() / m_pixelsPerMillimetre;
     const double right = left + viewport()->width() / m_pixelsPerMillimetre;
-    host::StripPainter strip(*m_layout, *m_renderer, host::StripColors::forPalette(palette()),
-                             m_pixelsPerMillimetre * devicePixelRatioF());
-    const bool outlinesOnly = std::exchange(m_outlinesFirst, false);
-    strip.setLabelsBlank(outlinesOnly);
-    strip.paint(painter, left, right);
-    if (outlinesOnly)
+    const host::StripPainter strip(*m_layout, *m_renderer, host::StripColors::forPalette(palette()),
+                                   m_pixelsPerMillimetre * devicePixelRatioF());
+    if (std::exchange(m_draftFirst, false)) {
+        strip.paintDraft(painter, left, right);
         QTimer::singleShot(0, viewport(), [this] { viewport()->update(); });
+    } else {
+        strip.paint(painter, left, right);
+    }
 }
 
 void StripPreview::resizeEvent(QResizeEvent *)

@@ -22,9 +22,9 @@ public:
     /// Shows nothing.
     void clear();
 
-    /// Paints the labels without their content the next time, and all of it right afterwards, so that the
+    /// Paints only where the labels lie the next time, and all of it right afterwards, so that the
     /// window need not wait for the document's pages.
-    void paintOutlinesFirst() { m_outlinesFirst = true; }
+    void paintDraftFirst() { m_draftFirst = true; }
 
     QSize sizeHint() const override;
 
@@ -43,7 +43,7 @@ private:
     const host::LabelRenderer *m_renderer = nullptr;
     std::optional<host::StripLayout> m_layout;
     double m_pixelsPerMillimetre = 1.0;
-    bool m_outlinesFirst = false;
+    bool m_draftFirst = false;
 };
 
 } // namespace dialog

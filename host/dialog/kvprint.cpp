@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <thread>
 
+#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -85,6 +86,8 @@ int main(int argc, char **argv)
     const bool attended = chooseScreen(arguments);
     if (!attended)
         usualHandler = qInstallMessageHandler(passOnMessage);
+    // One heap for all threads: they allocate little, and each would keep a heap of its own.
+    mallopt(M_ARENA_MAX, 1);
     // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it
     // done, having been busy with the display meanwhile.
     const std::jthread fonts = attended ? std::jthread(FcInit) : std::jthread();

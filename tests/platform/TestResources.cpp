@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Bundles, pictures and layout files.
 #include <platform/Bundle.h>
-#include <platform/Image.h>
 #include <platform/LayoutLoader.h>
+#include <platform/LazyImage.h>
 #include <platform/Stepper.h>
 
 #include <QDir>
@@ -18,6 +18,7 @@
 using platform::Bundle;
 using platform::Image;
 using platform::LayoutLoader;
+using platform::LazyImage;
 
 namespace {
 
@@ -104,6 +105,35 @@ TEST(Image, ChoosesTheVariantForScreenAndTheme)
     EXPECT_EQ(drawn(*image, 1.0, dark), QColor(Qt::blue));
     EXPECT_EQ(drawn(*image, 2.0, dark), QColor(Qt::blue))
         << "a dark picture of half the density beats a light one";
+}
+
+TEST(LazyImage, IsReadWhenItIsAskedForAndOnce)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("p.png"));
+    const LazyImage late(path);
+    writePicture(path, {4, 2}, Qt::red);
+    ASSERT_TRUE(late.get());
+    EXPECT_EQ(late.get()->size(), QSize(4, 2));
+    writePicture(path, {8, 8}, Qt::red);
+    EXPECT_EQ(late.get()->size(), QSize(4, 2));
+
+    EXPECT_EQ(LazyImage().get(), nullptr);
+    const QString text = folder.filePath(QStringLiteral("text.png"));
+    writeFile(text, "not a picture");
+    EXPECT_EQ(LazyImage(text).get(), nullptr);
+}
+
+TEST(LazyImage, AsAnIconDrawsThePictureOrNothing)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("p.png"));
+    writePicture(path, {40, 20}, Qt::red);
+    const auto middle = [](const QIcon &icon) {
+        return icon.pixmap(QSize(20, 10)).toImage().pixelColor(10, 5);
+    };
+    EXPECT_EQ(middle(iconFromImage(LazyImage(path))), QColor(Qt::red));
+    EXPECT_EQ(middle(iconFromImage(LazyImage(folder.filePath(QStringLiteral("absent.png"))))).alpha(), 0);
 }
 
 TEST(LayoutLoader, TellsWhatIsWrongWithTheFile)
