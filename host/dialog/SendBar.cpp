@@ -12,15 +12,19 @@ SendBar::SendBar(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLabel(this))
     , m_bar(new QProgressBar(this))
+    , m_cancel(new QPushButton(tr("Stop sending"), this))
 {
     m_title->setTextFormat(Qt::PlainText);
-    auto *const cancel = new QPushButton(tr("Stop sending"), this);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_title);
     layout->addWidget(m_bar, 1);
-    layout->addWidget(cancel);
-    connect(cancel, &QPushButton::clicked, this, &SendBar::cancelled);
+    layout->addWidget(m_cancel);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        // Shows that it was heard: taking a job back from a slow server takes a while.
+        m_cancel->setEnabled(false);
+        Q_EMIT cancelled();
+    });
     hide();
 }
 
@@ -32,6 +36,7 @@ void SendBar::begin(const QString &title)
     m_title->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, widest));
     m_title->setToolTip(text);
     m_bar->setAccessibleName(text);
+    m_cancel->setEnabled(true);
     setProgress(-1);
     show();
 }

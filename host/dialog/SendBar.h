@@ -5,6 +5,7 @@
 
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 namespace dialog {
 
@@ -26,6 +27,7 @@ Q_SIGNALS:
 private:
     QLabel *m_title;
     QProgressBar *m_bar;
+    QPushButton *m_cancel;
 };
 
 } // namespace dialog

@@ -181,7 +181,9 @@ TEST_F(SendingTest, StopSendingTakesTheJobBack)
     ASSERT_TRUE(stop);
     EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
     QTest::qWait(30);
+    EXPECT_TRUE(stop->isEnabled());
     Hands::click(stop);
+    EXPECT_FALSE(stop->isEnabled()) << "the click was heard, though the job is not back yet";
     EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
     expectAllSet();
     EXPECT_EQ(told(), QString());
