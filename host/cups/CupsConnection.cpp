@@ -16,7 +16,7 @@ struct Text {
 /// How often the task is looked at while the server is silent, in seconds.
 constexpr double lookInterval = 0.1;
 
-CupsFailure failureForStatus(ipp_status_t status)
+CupsFailure failureFor(ipp_status_t status)
 {
     switch (status) {
     case IPP_STATUS_ERROR_NOT_FOUND:
@@ -29,6 +29,25 @@ CupsFailure failureForStatus(ipp_status_t status)
         return CupsFailure::NotAuthorized;
     case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
     case IPP_STATUS_ERROR_CUPS_PKI:
+        return CupsFailure::Unreachable;
+    default:
+        return CupsFailure::Refused;
+    }
+}
+
+CupsFailure failureFor(http_status_t status)
+{
+    switch (status) {
+    case HTTP_STATUS_NOT_FOUND:
+    case HTTP_STATUS_GONE:
+        return CupsFailure::NotFound;
+    case HTTP_STATUS_UNAUTHORIZED:
+    case HTTP_STATUS_FORBIDDEN:
+    case HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED:
+        return CupsFailure::NotAuthorized;
+    case HTTP_STATUS_SERVICE_UNAVAILABLE:
+    case HTTP_STATUS_UPGRADE_REQUIRED:
+    case HTTP_STATUS_CUPS_PKI_ERROR:
         return CupsFailure::Unreachable;
     default:
         return CupsFailure::Refused;
@@ -70,8 +89,7 @@ bool CupsConnection::connect()
     errno = 0;
     // Encryption is switched on afterwards, when the limits on silence hold already.
     m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
-                              static_cast<int>(m_state->server.patience.count()),
-                              m_state->task->cancelFlag()));
+                              static_cast<int>(patience()), m_state->task->cancelFlag()));
     if (!m_http)
         return false;
     httpSetTimeout(m_http.get(), lookInterval, mayWaitOn, m_state.get());
@@ -106,30 +124,29 @@ const char *CupsConnection::password(const char *prompt, http_t *, const char *,
     return state.credentials.password.constData();
 }
 
-CupsError CupsConnection::lastError() const
+bool CupsConnection::wasGivenUp() const
 {
-    const QString name = m_state->server.displayName();
-    if (m_state->task->isCancelled())
-        return {CupsFailure::Cancelled, Text::tr("Given up on request.")};
-    if (m_state->wasSilent || (!m_http && m_state->silence.hasExpired(m_state->server.patience.count())))
-        return {CupsFailure::Silent, Text::tr("The print server \"%1\" does not answer.").arg(name)};
-    if (!m_http) {
-        const QString reason = QString::fromUtf8(cupsLastErrorString());
-        return {CupsFailure::Unreachable,
-                Text::tr("Cannot connect to the print server \"%1\": %2").arg(name, reason)};
-    }
-    // A server's own internal error comes with an answer, see answerError(). Without one, libcups means the
-    // connection, or leaves the outcome of the request before.
-    const ipp_status_t status = cupsLastError();
-    if (status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_INTERNAL)
-        return brokenError();
-    return answerError();
+    return m_state->wasSilent || (m_state->task->isCancelled() && !m_state->finishesFirst);
 }
 
-CupsError CupsConnection::brokenError() const
+CupsError CupsConnection::lastError() const
 {
-    return {CupsFailure::Unreachable,
-            Text::tr("The connection to the print server \"%1\" broke.").arg(server().displayName())};
+    const QString name = server().displayName();
+    if (m_state->task->isCancelled())
+        return {CupsFailure::Cancelled, Text::tr("Given up on request.")};
+    if (m_state->wasSilent || (!m_http && m_state->silence.hasExpired(patience())))
+        return {CupsFailure::Silent, Text::tr("The print server \"%1\" does not answer.").arg(name)};
+    const QString reason = QString::fromUtf8(cupsLastErrorString());
+    if (!m_http)
+        return {CupsFailure::Unreachable,
+                Text::tr("Cannot connect to the print server \"%1\": %2").arg(name, reason)};
+    // Without an answer, libcups means the connection by an internal error, or leaves the outcome of the
+    // request before.
+    const ipp_status_t status = cupsLastError();
+    if (status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_INTERNAL)
+        return {CupsFailure::Unreachable,
+                Text::tr("The connection to the print server \"%1\" broke.").arg(name)};
+    return refusal(failureFor(status), reason);
 }
 
 CupsError CupsConnection::passwordError() const
@@ -139,21 +156,11 @@ CupsError CupsConnection::passwordError() const
                 .arg(server().displayName(), QString::fromUtf8(cupsUser()))};
 }
 
-CupsError CupsConnection::answerError() const
+CupsError CupsConnection::refusal(CupsFailure kind, const QString &reason) const
 {
-    if (m_state->lacksPassword && failureForStatus(cupsLastError()) == CupsFailure::NotAuthorized)
+    if (m_state->lacksPassword && kind == CupsFailure::NotAuthorized)
         return passwordError();
-    return {failureForStatus(cupsLastError()),
-            Text::tr("The print server \"%1\" says: %2")
-                .arg(server().displayName(), QString::fromUtf8(cupsLastErrorString()))};
-}
-
-std::optional<CupsError> CupsConnection::checkAnswer(ipp_t *answer) const
-{
-    if (!answer || m_state->wasSilent)
-        return lastError();
-    const bool isGood = ippGetStatusCode(answer) < IPP_STATUS_REDIRECTION_OTHER_SITE;
-    return isGood ? std::nullopt : std::optional(answerError());
+    return {kind, Text::tr("The print server \"%1\" says: %2").arg(server().displayName(), reason)};
 }
 
 IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue) const
@@ -168,11 +175,67 @@ IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue) 
 
 Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const QByteArray &resource)
 {
+    const http_status_t status = askUntilAllowed("POST", resource, [&] {
+        const http_status_t sent =
+            cupsSendRequest(m_http.get(), request.get(), resource.constData(), ippLength(request.get()));
+        return sent == HTTP_STATUS_CONTINUE || sent == HTTP_STATUS_OK ? awaitAnswer() : sent;
+    });
+    return readAnswer(status);
+}
+
+Result<IppPointer, CupsError> CupsConnection::finishDocument()
+{
     beginWaiting();
-    IppPointer answer(cupsDoRequest(m_http.get(), request.release(), resource.constData()));
-    if (const std::optional<CupsError> error = checkAnswer(answer.get()))
-        return *error;
-    return answer;
+    // What ends a document of unknown length. If it does not get through, the server has something to say.
+    httpWrite2(m_http.get(), "", 0);
+    return readAnswer(awaitAnswer());
+}
+
+http_status_t CupsConnection::awaitAnswer()
+{
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE)
+        status = httpUpdate(m_http.get());
+    return status;
+}
+
+ssize_t CupsConnection::readPiece(void *connection, ipp_uchar_t *buffer, std::size_t length)
+{
+    const CupsConnection &self = *static_cast<CupsConnection *>(connection);
+    std::size_t known = 0;
+    while (known < length) {
+        const ssize_t read = httpRead2(self.http(), reinterpret_cast<char *>(buffer) + known, length - known);
+        if (read <= 0)
+            return -1;
+        self.beginWaiting();
+        known += static_cast<std::size_t>(read);
+    }
+    return static_cast<ssize_t>(known);
+}
+
+Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
+{
+    if (status != HTTP_STATUS_OK) {
+        if (status == HTTP_STATUS_ERROR || wasGivenUp())
+            return lastError();
+        httpFlush(m_http.get());
+        return refusal(failureFor(status), QString::fromUtf8(httpStatus(status)));
+    }
+    // Not ippRead(): it takes the first pause between two pieces of an answer for its end, when there is a
+    // limit on silence.
+    IppPointer answer(ippNew());
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
+    if (state == IPP_STATE_ERROR)
+        return lastError();
+    httpFlush(m_http.get());
+    const ipp_status_t outcome = ippGetStatusCode(answer.get());
+    if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE)
+        return answer;
+    const char *const words =
+        ippGetString(ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT), 0, nullptr);
+    return refusal(failureFor(outcome), QString::fromUtf8(words ? words : ippErrorString(outcome)));
 }
 
 Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer request, const QByteArray &resource)
@@ -183,33 +246,38 @@ Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer reques
     return answer;
 }
 
-http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &unlessModifiedSince)
+http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArray &resource,
+                                              const std::function<http_status_t()> &ask)
 {
+    http_status_t status = HTTP_STATUS_UNAUTHORIZED;
     // An authorization or an encryption may be asked for, once each.
     for (int attempt = 0; attempt < 4; ++attempt) {
-        httpClearFields(m_http.get());
-        if (!unlessModifiedSince.isEmpty())
-            httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, unlessModifiedSince.constData());
-        httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, httpGetAuthString(m_http.get()));
-        if (httpGet(m_http.get(), resource.constData()) != 0)
-            return HTTP_STATUS_ERROR;
-        http_status_t status = HTTP_STATUS_CONTINUE;
-        while (status == HTTP_STATUS_CONTINUE)
-            status = httpUpdate(m_http.get());
-        if (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_UPGRADE_REQUIRED)
+        beginWaiting();
+        status = ask();
+        if (wasGivenUp() || (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_UPGRADE_REQUIRED))
             return status;
         httpFlush(m_http.get());
         if (status == HTTP_STATUS_UNAUTHORIZED &&
-            cupsDoAuthentication(m_http.get(), "GET", resource.constData()))
+            cupsDoAuthentication(m_http.get(), method, resource.constData()))
             return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
         beginWaiting();
-        if (httpReconnect2(m_http.get(), static_cast<int>(server().patience.count()),
-                           m_state->task->cancelFlag()))
+        if (httpReconnect2(m_http.get(), static_cast<int>(patience()), m_state->task->cancelFlag()))
             return HTTP_STATUS_ERROR;
         if (status == HTTP_STATUS_UPGRADE_REQUIRED && httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED))
             return HTTP_STATUS_ERROR;
     }
-    return HTTP_STATUS_UNAUTHORIZED;
+    return status;
+}
+
+http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &unlessModifiedSince)
+{
+    return askUntilAllowed("GET", resource, [&] {
+        httpClearFields(m_http.get());
+        if (!unlessModifiedSince.isEmpty())
+            httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, unlessModifiedSince.constData());
+        httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, httpGetAuthString(m_http.get()));
+        return httpGet(m_http.get(), resource.constData()) == 0 ? awaitAnswer() : HTTP_STATUS_ERROR;
+    });
 }
 
 Result<std::optional<CupsConnection::File>, CupsError>
@@ -219,26 +287,19 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
         return {kind, Text::tr("The print server \"%1\" does not give \"%2\": %3")
                           .arg(server().displayName(), QString::fromUtf8(resource), reason)};
     };
-    beginWaiting();
     const http_status_t status = get(resource, unlessModifiedSince);
-    if (m_state->wasSilent || m_state->task->isCancelled())
+    if (wasGivenUp() || status == HTTP_STATUS_ERROR)
         return lastError();
-    if (status == HTTP_STATUS_ERROR)
-        return brokenError();
     if (status == HTTP_STATUS_NOT_MODIFIED) {
         httpFlush(m_http.get());
         return std::optional<File>();
     }
     if (status != HTTP_STATUS_OK) {
         httpFlush(m_http.get());
-        const bool wantsPassword = status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN ||
-                                   status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-        if (wantsPassword && m_state->lacksPassword)
+        const CupsFailure kind = failureFor(status);
+        if (kind == CupsFailure::NotAuthorized && m_state->lacksPassword)
             return passwordError();
-        return failure(status == HTTP_STATUS_NOT_FOUND ? CupsFailure::NotFound
-                       : wantsPassword                 ? CupsFailure::NotAuthorized
-                                                       : CupsFailure::Refused,
-                       QString::fromUtf8(httpStatus(status)));
+        return failure(kind, QString::fromUtf8(httpStatus(status)));
     }
     File file;
     const char *const modified = httpGetField(m_http.get(), HTTP_FIELD_LAST_MODIFIED);
@@ -252,7 +313,7 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
         if (file.content.size() > mostBytes)
             return failure(CupsFailure::Refused, Text::tr("it is larger than %1 MB").arg(mostBytes >> 20));
     }
-    if (m_state->wasSilent || m_state->task->isCancelled())
+    if (wasGivenUp())
         return lastError();
     if (length < 0 || (announced > 0 && file.content.size() != announced))
         return failure(CupsFailure::Unreachable, Text::tr("the connection broke in the middle"));

@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 
+#include <functional>
 #include <memory>
 
 namespace host {
@@ -42,6 +43,10 @@ public:
     /// cancelled, since only the answer tells what there is to be taken back.
     Result<IppPointer, CupsError> exchangeToTheEnd(IppPointer request, const QByteArray &resource);
 
+    /// Ends a document that was sent in pieces (cupsStartDocument(), cupsWriteRequestData()) and waits for
+    /// the answer.
+    Result<IppPointer, CupsError> finishDocument();
+
     /// Fetches a file of the server into memory. Not more than that many bytes; what is longer is refused.
     /// Nothing when it has not changed since the date and length, as they stand in a "If-Modified-Since"
     /// field.
@@ -55,11 +60,9 @@ public:
 
     /// Starts counting the server's silence anew.
     void beginWaiting() const { m_state->silence.start(); }
-    /// Why the last call of libcups failed without an answer: given up, silent, broken, or refused by the
-    /// server before it looked at the request.
+    /// Why the last call of libcups failed: given up, silent, broken, or refused by the server before it
+    /// looked at the request.
     CupsError lastError() const;
-    /// What is wrong with the answer (null when there is none); nothing when it is good.
-    std::optional<CupsError> checkAnswer(ipp_t *answer) const;
 
 private:
     struct Close {
@@ -84,10 +87,17 @@ private:
     {
     }
 
-    CupsError answerError() const;
-    CupsError brokenError() const;
+    /// In milliseconds.
+    qint64 patience() const { return server().patience.count(); }
+    bool wasGivenUp() const;
+    CupsError refusal(CupsFailure kind, const QString &reason) const;
     CupsError passwordError() const;
     bool connect();
+    http_status_t askUntilAllowed(const char *method, const QByteArray &resource,
+                                  const std::function<http_status_t()> &ask);
+    http_status_t awaitAnswer();
+    Result<IppPointer, CupsError> readAnswer(http_status_t status);
+    static ssize_t readPiece(void *connection, ipp_uchar_t *buffer, std::size_t length);
     http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);
     static int mayWaitOn(http_t *http, void *state);
     static const char *password(const char *prompt, http_t *http, const char *method, const char *resource,

@@ -61,7 +61,6 @@ private:
     {
         const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
         const QByteArray queue = m_ticket.destination.queue.toUtf8();
-        const QByteArray resource = queueResource(m_ticket.destination.queue);
         const QByteArray name = QFileInfo(document.shownName()).fileName().toUtf8();
         const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
         if (m_task.isCancelled())
@@ -81,13 +80,12 @@ private:
             now.sent += piece.value().size();
             progress(now);
         }
-        m_connection.beginWaiting();
-        if (m_task.isCancelled() || status != HTTP_STATUS_CONTINUE)
+        // A server that has heard enough answers before the end, and says why.
+        const bool answers = status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK;
+        if (m_task.isCancelled() || !answers)
             return m_connection.lastError();
-        // Not cupsFinishDocument(): when the connection breaks here, it answers the outcome of the request
-        // before, which was good.
-        const IppPointer answer(cupsGetResponse(m_connection.http(), resource.constData()));
-        return m_connection.checkAnswer(answer.get());
+        const Result<IppPointer, CupsError> answer = m_connection.finishDocument();
+        return answer ? std::nullopt : std::optional(answer.error());
     }
 
     CupsConnection &m_connection;

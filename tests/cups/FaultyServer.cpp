@@ -7,6 +7,12 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+const QByteArray encouragement = "HTTP/1.1 100 Continue\r\n\r\n";
+
+}
+
 FaultyServer::FaultyServer(quint16 realPort, const Faults &faults)
     : m_realPort(realPort)
     , m_faults(faults)
@@ -46,19 +52,35 @@ void FaultyServer::serve(QTcpSocket *client)
     QObject::connect(real, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::errorOccurred, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::readyRead, client, [this, client, real] {
-        const auto pass = [client, real] {
-            client->setProperty("holding", false);
-            client->write(real->readAll());
-        };
-        if (client->property("asked").toBool() && m_faults.delay > 0) {
+        if (client->property("holding").toBool())
+            return;
+        // The encouragement to go on with a request is no answer yet.
+        const bool isEncouragement = real->bytesAvailable() == encouragement.size();
+        const bool isFirst = client->property("asked").toBool() && !isEncouragement;
+        if (isFirst)
             client->setProperty("asked", false);
-            client->setProperty("holding", true);
-            QTimer::singleShot(m_faults.delay, client, pass);
-        } else if (!client->property("holding").toBool()) {
-            pass();
-        }
+        client->setProperty("holding", isFirst);
+        if (isFirst)
+            QTimer::singleShot(m_faults.delay, client, [this, client, real] { passInPieces(client, real); });
+        else
+            client->write(real->readAll());
     });
     real->connectToHost(QHostAddress(QHostAddress::LocalHost), m_realPort);
+}
+
+void FaultyServer::passInPieces(QTcpSocket *client, QTcpSocket *real) const
+{
+    const QByteArray bytes = real->readAll();
+    const qsizetype content = m_faults.gap > 0 ? bytes.lastIndexOf("\r\n\r\n") + 4 : bytes.size();
+    client->write(bytes.first(content));
+    const qsizetype half = (bytes.size() - content) / 2;
+    const auto pass = [=](qsizetype from, qsizetype length) { client->write(bytes.sliced(from, length)); };
+    QTimer::singleShot(m_faults.gap, client, [=] { pass(content, half); });
+    QTimer::singleShot(2 * m_faults.gap, client, [=] {
+        pass(content + half, bytes.size() - content - half);
+        client->write(real->readAll());
+        client->setProperty("holding", false);
+    });
 }
 
 void FaultyServer::takeFromClient(QTcpSocket *client, QTcpSocket *real)

@@ -17,6 +17,8 @@ struct Faults {
     bool silent = false;
     /// Waits before each answer, in milliseconds.
     int delay = 0;
+    /// Pauses between an answer's header and its content and in the middle of the content, in milliseconds.
+    int gap = 0;
     /// Breaks every connection when so many bytes of one have come from the client; 0 never.
     qint64 breakAfter = 0;
     /// Wants "user:password" before anything else; empty wants none.
@@ -42,6 +44,7 @@ public:
 
 private:
     void serve(QTcpSocket *client);
+    void passInPieces(QTcpSocket *client, QTcpSocket *real) const;
     void takeFromClient(QTcpSocket *client, QTcpSocket *real);
 
     const quint16 m_realPort;

@@ -258,6 +258,17 @@ TEST_F(DestinationListTest, ASlowServerTakesItsTimeAndNoMore)
     EXPECT_EQ(slow.requestCount(), 1);
 }
 
+TEST_F(DestinationListTest, AnAnswerMayComeInPieces)
+{
+    const FaultyServer halting(cupsd->port(), {.gap = 300});
+    server.address = halting.address();
+    DestinationList list(server);
+    const Outcome outcome = refresh(list);
+    EXPECT_TRUE(outcome.refreshed) << qPrintable(outcome.error->message);
+    EXPECT_EQ(list.destinations().size(), 4U);
+    EXPECT_EQ(halting.requestCount(), 1);
+}
+
 TEST_F(DestinationListTest, APasswordIsAskedForOnceAndRemembered)
 {
     const FaultyServer guarded(cupsd->port(), {.credentials = "anna:secret"});

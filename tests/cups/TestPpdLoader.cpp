@@ -145,6 +145,15 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
     EXPECT_TRUE(PpdLoader(through).cached(tape));
 }
 
+TEST_F(PpdLoaderTest, APpdMayComeInPieces)
+{
+    const FaultyServer halting(cupsd->port(), {.gap = 300});
+    CupsServer through;
+    through.address = halting.address();
+    const Outcome outcome = load(tape, through);
+    EXPECT_TRUE(outcome.ppd) << qPrintable(outcome.error->message);
+}
+
 TEST_F(PpdLoaderTest, ADamagedPpdIsToldAndNotKept)
 {
     // Put in place behind the server's back: it would not take such a PPD.

@@ -98,6 +98,20 @@ TEST_F(PrintingFaultsTest, ASlowServerPrintsOnce)
     EXPECT_EQ(slow.requestCount(), 2);
 }
 
+TEST_F(PrintingFaultsTest, AnswersThatComeInPiecesAreWholeAnswers)
+{
+    const FaultyServer halting(cupsd.port(), {.gap = 300});
+    const Outcome outcome = print(ticket(), impatient(halting.address()));
+    ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
+    EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, *outcome.jobId);
+    EXPECT_EQ(halting.requestCount(), 2);
+
+    const FaultyServer tooHalting(cupsd.port(), {.gap = 1500});
+    const Outcome none = print(ticket(), impatient(tooHalting.address()));
+    ASSERT_TRUE(none.error);
+    EXPECT_EQ(none.error->kind, CupsFailure::Silent) << qPrintable(none.error->message);
+}
+
 TEST_F(PrintingFaultsTest, AJobWhoseDocumentBreaksOffIsTakenBack)
 {
     JobTicket job = ticket();
