@@ -26,8 +26,8 @@ CutPlan planFor(const DialogState &state, const LabelRenderer &renderer, const L
     std::optional<double> leadingMargin;
     if (paper.margins)
         leadingMargin = paper.margins->top() * millimetresPerPoint;
-    const std::vector<int> order =
-        printOrder(pagesByDocument(choices.pages, document.pageCounts()), choices.copies, choices.collate);
+    const std::vector<int> order = printOrder(pagesByDocument(choices.pages, document.pageCounts()),
+                                              choices.copies, choices.collate, choices.order);
     return CutPlan::make(settings, order, extents, leadingMargin);
 }
 

@@ -14,6 +14,7 @@ struct PageChoices {
     std::vector<int> pages;
     int copies = 1;
     Collate collate = Collate::Yes;
+    PageOrder order = PageOrder::FirstFirst;
 };
 
 /// Documents, about to be printed on a printer's paper with the choices made in a dialog. Made anew from

@@ -74,9 +74,43 @@ std::optional<PageRangeError> checkPageRanges(const QString &text)
     return std::nullopt;
 }
 
-Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
-                                                         const std::vector<int> &pageCounts)
+QString canonicalPageRanges(const QString &text)
 {
+    constexpr int end = std::numeric_limits<int>::max();
+    std::vector<Range> ranges;
+    for (const QString &part : rangeTexts(text)) {
+        const std::optional<Range> range = parseRange(part, end);
+        if (!range)
+            return QString(text).remove(u' ');
+        ranges.push_back(*range);
+    }
+    std::ranges::sort(ranges, {}, &Range::first);
+    std::vector<Range> merged;
+    for (const Range &range : ranges) {
+        const bool touches =
+            !merged.empty() && (merged.back().last == end || range.first <= merged.back().last + 1);
+        if (touches)
+            merged.back().last = std::max(merged.back().last, range.last);
+        else
+            merged.push_back(range);
+    }
+    QStringList texts;
+    for (const Range &range : merged) {
+        const QString first = QString::number(range.first);
+        texts.append(range.last == range.first ? first
+                     : range.last == end       ? first + u'-'
+                                               : first + u'-' + QString::number(range.last));
+    }
+    return texts.join(u',');
+}
+
+Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
+                                                         const std::vector<int> &pageCounts, PageSet set)
+{
+    const auto isInSet = [&](int page) {
+        const bool isOdd = page % 2 == 0; // counted from 0 here, from 1 by people
+        return set == PageSet::All || isOdd == (set == PageSet::Odd);
+    };
     const int longest = pageCounts.empty() ? 0 : std::ranges::max(pageCounts);
     const auto chosen = parseChosen(text, longest);
     if (!chosen)
@@ -85,7 +119,7 @@ Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
     int first = 0;
     for (const int count : pageCounts) {
         for (int page = 0; page < count; ++page) {
-            if (chosen.value()[static_cast<std::size_t>(page)])
+            if (chosen.value()[static_cast<std::size_t>(page)] && isInSet(page))
                 pages.push_back(first + page);
         }
         first += count;
@@ -108,10 +142,13 @@ std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
     return documents;
 }
 
-std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate)
+std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
+                            PageOrder pageOrder)
 {
     std::vector<int> order;
-    for (const std::vector<int> &pages : pagesByDocument) {
+    for (std::vector<int> pages : pagesByDocument) {
+        if (pageOrder == PageOrder::LastFirst)
+            std::ranges::reverse(pages);
         if (collate == Collate::Yes) {
             for (int copy = 0; copy < copies; ++copy)
                 order.insert(order.end(), pages.begin(), pages.end());

@@ -20,6 +20,12 @@ using PageRangeError = Failure<PageRangeFailure>;
 /// Whether copies come out label by label (1 1 2 2) or set by set (1 2 1 2).
 enum class Collate { No, Yes };
 
+/// Which of the chosen pages are printed, by their numbers.
+enum class PageSet { All, Odd, Even };
+
+/// Which page comes out first. People whose tape is wound up want the last one.
+enum class PageOrder { FirstFirst, LastFirst };
+
 /// The largest number of copies of one job.
 inline constexpr int mostCopies = 9999;
 /// The largest number of labels of one job: some kilometres of tape.
@@ -29,9 +35,14 @@ inline constexpr int mostLabels = 100'000;
 /// one after the other. The text applies to every document by itself, as lp's -P does: "1" is the first page
 /// of each. Pages in the text count from 1 and "8-" goes on to the last; a page that no document has is an
 /// error. A blank text names all pages. The answer counts from 0 through all documents, each page once and
-/// in order.
-Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
-                                                         const std::vector<int> &pageCounts);
+/// in order, and of the pages only those of the set.
+Result<std::vector<int>, PageRangeError>
+parsePageRanges(const QString &text, const std::vector<int> &pageCounts, PageSet set = PageSet::All);
+
+/// The same pages as IPP wants them (RFC 8011, 5.2.7): in ascending order, no page twice. "5,1-3,2" is
+/// "1-3,5". Empty for all pages; a text that checkPageRanges() refuses is given back as it is, without
+/// blanks.
+QString canonicalPageRanges(const QString &text);
 
 /// What is wrong with such a text whatever the document; nothing when some document has the pages.
 std::optional<PageRangeError> checkPageRanges(const QString &text);
@@ -41,8 +52,9 @@ std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
                                               const std::vector<int> &pageCounts);
 
 /// The pages in the order in which they are printed. Copies are made of each document by itself, as a print
-/// server makes them: all copies of the first document come before the second.
-std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies,
-                            Collate collate);
+/// server makes them: all copies of the first document come before the second, whatever the order of the
+/// pages.
+std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
+                            PageOrder pageOrder = PageOrder::FirstFirst);
 
 } // namespace host

@@ -35,9 +35,6 @@ std::vector<JobOption> changedOptions(const JobChange &change)
     if (isRestart(change) || !holdUntil(change).isEmpty())
         settings.hold.reset();
     std::vector<JobChoice> choices = change.options;
-    // How many copies the job has, if it is not told here, only the server knows.
-    if (settings.collate)
-        choices.push_back({"collate", *settings.collate == Collate::Yes ? "true" : "false"});
     if (change.title)
         choices.push_back({"job-name", change.title->toUtf8()});
     return makeJobOptions({}, nullptr, choices, settings);

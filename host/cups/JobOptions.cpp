@@ -76,34 +76,6 @@ void addPpdDefaults(Layers &layers, const PpdFile &ppd)
     }
 }
 
-/// The settings under their IPP names, with the values that lp gives them.
-std::vector<NamedValue> settingValues(const JobSettings &settings)
-{
-    std::vector<NamedValue> values;
-    const auto add = [&](const char *name, const QByteArray &value) { values.push_back({name, value}); };
-    if (settings.copies)
-        add("copies", QByteArray::number(*settings.copies));
-    if (settings.collate && settings.copies.value_or(1) > 1)
-        add("collate", *settings.collate == Collate::Yes ? "true" : "false");
-    if (QString ranges = settings.pageRanges; !ranges.trimmed().isEmpty())
-        add("page-ranges", ranges.remove(u' ').toUtf8());
-    if (settings.orientation)
-        add("orientation-requested", QByteArray::number(static_cast<int>(*settings.orientation)));
-    const bool isImmediate = settings.hold == QStringLiteral("immediate");
-    if (settings.hold == QStringLiteral("hold"))
-        add("job-hold-until", "indefinite");
-    else if (isImmediate || settings.hold == QStringLiteral("resume") ||
-             settings.hold == QStringLiteral("release"))
-        add("job-hold-until", "no-hold");
-    else if (settings.hold)
-        add("job-hold-until", settings.hold->toUtf8());
-    if (isImmediate)
-        add("job-priority", "100");
-    else if (settings.priority)
-        add("job-priority", QByteArray::number(*settings.priority));
-    return values;
-}
-
 } // namespace
 
 QString originText(Origin origin)
@@ -145,8 +117,12 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
         if (choice.isPanels)
             layers.send(choice.name);
     }
-    for (const NamedValue &setting : settingValues(settings))
-        layers.set(setting.name, setting.value, Origin::You);
+    for (const NamedValue &setting : settingValues(settings)) {
+        // All pages come out by themselves.
+        const bool saysNothing = setting.value == "1-" && !layers.has(setting.name);
+        if (!saysNothing)
+            layers.set(setting.name, setting.value, Origin::You);
+    }
     if (hasPaper)
         layers.send(paperKeyword);
     return std::move(layers).take();

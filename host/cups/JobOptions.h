@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Destination.h"
+#include "JobSettings.h"
 
 #include <host/PpdFile.h>
-#include <host/PrintOrder.h>
 
 namespace host {
 
@@ -22,22 +21,6 @@ struct JobChoice {
     Origin origin = Origin::You;
     /// A panel hands it over, whoever has chosen it; the job carries it even where the queue does the same.
     bool isPanels = false;
-};
-
-/// IPP's numbers.
-enum class Orientation { Portrait = 3, Landscape = 4, ReverseLandscape = 5, ReversePortrait = 6 };
-
-/// What the job says beside the printer's options; nothing stands for the queue's own setting.
-struct JobSettings {
-    std::optional<int> copies = {};
-    std::optional<Collate> collate = {};
-    /// "1-3, 5, 8-"; empty for all pages.
-    QString pageRanges = {};
-    std::optional<Orientation> orientation = {};
-    /// As lp takes it after -H: "hold", "resume", "immediate", "HH:MM" in UTC, "night" and so on.
-    std::optional<QString> hold = {};
-    /// 1 to 100.
-    std::optional<int> priority = {};
 };
 
 /// An option of a job, with where it comes from.

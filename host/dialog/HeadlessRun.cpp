@@ -150,23 +150,28 @@ bool HeadlessRun::hasConflicts(const host::PrinterSetup &setup) const
     return !conflicts.empty();
 }
 
-std::optional<host::JobDraft> HeadlessRun::makeDraft() const
+bool HeadlessRun::canPrintDocument() const
 {
-    auto pages = host::parsePageRanges(m_command.settings.pageRanges, m_document->pageCounts());
+    const auto pages = host::choosePages(m_command.settings, m_document->pageCounts());
+    if (!pages)
+        m_console.complain(pages.error().message);
+    const auto error = pages ? m_document->checkForPrinting() : std::nullopt;
+    if (error)
+        m_console.complain(error->message);
+    return pages && !error;
+}
+
+std::optional<host::JobDraft> HeadlessRun::makeDraft(const host::PrinterSetup &setup) const
+{
+    const host::JobSettings settings =
+        withDefaults(m_command.settings, defaultPageSettings(setup.destination()));
+    auto pages = host::choosePages(settings, m_document->pageCounts());
     if (!pages) {
         m_console.complain(pages.error().message);
         return std::nullopt;
     }
-    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting()) {
-        m_console.complain(error->message);
-        return std::nullopt;
-    }
-    host::JobDraft draft;
-    draft.settings = m_command.settings;
-    draft.title = m_command.title.value_or(host::defaultTitle(*m_document));
-    draft.pages = {std::move(pages).value(), m_command.settings.copies.value_or(1),
-                   m_command.settings.collate.value_or(host::Collate::Yes)};
-    return draft;
+    return host::JobDraft{m_command.settings, m_command.title.value_or(host::defaultTitle(*m_document)),
+                          std::move(pages).value()};
 }
 
 bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
@@ -185,8 +190,8 @@ bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
 
 ExitStatus HeadlessRun::run()
 {
-    const std::optional<host::JobDraft> draft = makeDraft();
-    if (!draft)
+    // What cannot be printed anywhere needs no server to say so.
+    if (!canPrintDocument())
         return ExitStatus::Failed;
     host::QueueSession session(m_server, m_command.destination);
     host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
@@ -195,7 +200,8 @@ ExitStatus HeadlessRun::run()
     QObject::disconnect(&session, nullptr, &keeper, nullptr);
     if (!setup || !accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
-    const ExitStatus status = finish(*setup, *draft);
+    const std::optional<host::JobDraft> draft = makeDraft(*setup);
+    const ExitStatus status = draft ? finish(*setup, *draft) : ExitStatus::Failed;
     const bool withoutPanel = setup->panelProblem().has_value();
     return status == ExitStatus::Printed && withoutPanel ? ExitStatus::PrintedWithoutPanel : status;
 }

@@ -26,7 +26,8 @@ private:
     bool accepts(host::PrinterSetup &setup);
     void tellChangesByPanel(const host::PrinterSetup &setup) const;
     bool hasConflicts(const host::PrinterSetup &setup) const;
-    std::optional<host::JobDraft> makeDraft() const;
+    bool canPrintDocument() const;
+    std::optional<host::JobDraft> makeDraft(const host::PrinterSetup &setup) const;
     /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be
     /// saved.
     bool takeScreenshot(host::SetupKeeper &keeper) const;

@@ -131,7 +131,7 @@ void JobPage::setSettings(const host::JobSettings &settings)
     showHold(settings.hold.value_or(QString()));
     // lp prints at once what is to be printed "immediate", before all others.
     const bool isFirst = settings.hold == QStringLiteral("immediate");
-    m_priority->setValue(isFirst ? highestPriority : settings.priority.value_or(0));
+    m_priority->setValue(settings.priority.value_or(isFirst ? highestPriority : 0));
 }
 
 void JobPage::showHold(const QString &hold)

@@ -32,7 +32,7 @@ constexpr HoldWord holdWords[] = {
     {"day-time", HoldWord::Anywhere},    {"evening", HoldWord::Anywhere},
     {"night", HoldWord::Anywhere},       {"second-shift", HoldWord::Anywhere},
     {"third-shift", HoldWord::Anywhere}, {"weekend", HoldWord::Anywhere},
-    {"resume", HoldWord::WithJobOnly},   {"release", HoldWord::WithJobOnly},
+    {"resume", HoldWord::LetterOnly},    {"release", HoldWord::LetterOnly},
     {"restart", HoldWord::WithJobOnly},
 };
 
@@ -55,6 +55,9 @@ Complaint readHold(CommandLine &command, const QString &value, bool isLetter)
         return Text::tr("\"%1\" is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2")
             .arg(value, accepted.join(QStringLiteral(", ")));
     command.settings.hold = value;
+    // Before all others; a priority that is named later counts.
+    if (value == QStringLiteral("immediate"))
+        command.settings.priority = 100;
     return std::nullopt;
 }
 
@@ -103,6 +106,20 @@ Complaint takeHandling(CommandLine &command, const QString &value)
                              command.settings.collate);
 }
 
+Complaint takePageSet(CommandLine &command, const QString &value)
+{
+    using host::PageSet;
+    return takeWord<PageSet>(value, {{"all", PageSet::All}, {"odd", PageSet::Odd}, {"even", PageSet::Even}},
+                             command.settings.pageSet);
+}
+
+Complaint takeOrder(CommandLine &command, const QString &value)
+{
+    using host::PageOrder;
+    return takeWord<PageOrder>(value, {{"normal", PageOrder::FirstFirst}, {"reverse", PageOrder::LastFirst}},
+                               command.settings.order);
+}
+
 Complaint takeOrientation(CommandLine &command, const QString &value)
 {
     using host::Orientation;
@@ -144,6 +161,8 @@ Complaint takeTitle(CommandLine &command, const QString &value)
 constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)> settingOptions[] = {
     {"copies", takeCopies},
     {"page-ranges", takePages},
+    {"page-set", takePageSet},
+    {"outputorder", takeOrder},
     {"job-priority", takePriority},
     {"job-hold-until", takeHoldOption},
     {"job-name", takeTitle},

@@ -11,63 +11,97 @@
 
 namespace dialog {
 
+using host::Collate;
+using host::PageOrder;
+
 PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     : QWidget(parent)
     , m_pageCounts(std::move(pageCounts))
     , m_copies(new QSpinBox(this))
     , m_collate(new QCheckBox(tr("Set &by set"), this))
     , m_pages(new QLineEdit(this))
+    , m_lastFirst(new QCheckBox(tr("&Last page first"), this))
+{
+    build();
+    show();
+    connectAll();
+}
+
+void PageOptions::build()
 {
     m_copies->setRange(1, host::mostCopies);
     m_copies->setAccelerated(true);
-    m_collate->setChecked(true);
-    m_collate->setEnabled(false);
     m_collate->setToolTip(
         tr("All pages once, then all pages again; otherwise all copies of a page together"));
     m_pages->setPlaceholderText(tr("all, or for example 1-3, 5"));
     addClearButton(m_pages);
-
     auto *const layout = new QFormLayout(this);
     layout->setContentsMargins({});
     layout->addRow(tr("&Copies"), m_copies);
     layout->addRow(QString(), m_collate);
     layout->addRow(tr("Pa&ges"), m_pages);
+    layout->addRow(QString(), m_lastFirst);
+}
+
+void PageOptions::connectAll()
+{
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
-        m_setsCopies = true;
+        m_wishes.copies = copies;
         m_collate->setEnabled(copies > 1);
         Q_EMIT changed();
     });
-    connect(m_collate, &QCheckBox::toggled, this, &PageOptions::changed);
-    connect(m_pages, &QLineEdit::textChanged, this, &PageOptions::changed);
+    connect(m_collate, &QCheckBox::toggled, this, [this](bool isOn) {
+        m_wishes.collate = isOn ? Collate::Yes : Collate::No;
+        Q_EMIT changed();
+    });
+    connect(m_pages, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_wishes.pageRanges = text;
+        Q_EMIT changed();
+    });
+    connect(m_lastFirst, &QCheckBox::toggled, this, [this](bool isOn) {
+        m_wishes.order = isOn ? PageOrder::LastFirst : PageOrder::FirstFirst;
+        Q_EMIT changed();
+    });
+}
+
+void PageOptions::show()
+{
+    const QSignalBlocker quiet[] = {QSignalBlocker(m_copies), QSignalBlocker(m_collate),
+                                    QSignalBlocker(m_pages), QSignalBlocker(m_lastFirst)};
+    const host::JobSettings shown = withDefaults(m_wishes, m_defaults);
+    m_copies->setValue(shown.copies.value_or(1));
+    m_collate->setChecked(shown.collate == Collate::Yes);
+    m_collate->setEnabled(m_copies->value() > 1);
+    m_pages->setText(shown.pageRanges.value_or(QString()));
+    m_lastFirst->setChecked(shown.order == PageOrder::LastFirst);
 }
 
 host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
 {
-    auto pages = host::parsePageRanges(m_pages->text(), m_pageCounts);
-    if (!pages)
-        return pages.error();
-    if (pages.value().size() * static_cast<std::size_t>(m_copies->value()) > host::mostLabels)
-        return host::PageRangeError{
-            host::PageRangeFailure::TooMany,
-            tr("Cannot print so many labels at once: a job has at most %1").arg(host::mostLabels)};
-    return host::PageChoices{std::move(pages).value(), m_copies->value(),
-                             m_collate->isChecked() ? host::Collate::Yes : host::Collate::No};
+    return host::choosePages(withDefaults(m_wishes, m_defaults), m_pageCounts);
 }
 
 void PageOptions::setSettings(const host::JobSettings &settings)
 {
-    const QSignalBlocker quiet(this);
-    m_copies->setValue(settings.copies.value_or(1));
-    m_collate->setChecked(settings.collate != host::Collate::No);
-    m_pages->setText(settings.pageRanges);
-    m_setsCopies = settings.copies.has_value();
+    m_wishes = settings;
+    show();
+}
+
+void PageOptions::setDefaults(const host::JobSettings &defaults)
+{
+    if (m_defaults == defaults)
+        return;
+    m_defaults = defaults;
+    show();
 }
 
 void PageOptions::writeTo(host::JobSettings &settings) const
 {
-    settings.copies = m_setsCopies || m_copies->value() > 1 ? std::optional(m_copies->value()) : std::nullopt;
-    settings.collate = m_collate->isChecked() ? host::Collate::Yes : host::Collate::No;
-    settings.pageRanges = m_pages->text();
+    settings.copies = m_wishes.copies;
+    settings.collate = m_wishes.collate;
+    settings.pageRanges = m_wishes.pageRanges;
+    settings.pageSet = m_wishes.pageSet;
+    settings.order = m_wishes.order;
 }
 
 } // namespace dialog

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/PrintJob.h>
-#include <host/cups/JobOptions.h>
+#include <host/cups/JobSettings.h>
 
 #include <QWidget>
 
@@ -20,25 +19,32 @@ public:
     /// The documents' page counts, in the order in which they are printed.
     PageOptions(std::vector<int> pageCounts, QWidget *parent);
 
-    /// The choices as they stand, or why they cannot be printed.
+    /// What will come out, or why it cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
-    /// Shows copies, order and pages of the settings, quietly; nothing stands for one copy of all pages, set
-    /// by set. Copies are brought within 1 to host::mostCopies; the text of the pages is taken as it is, and
-    /// checked by choices().
+    /// Shows what is wished, quietly; nothing stands for what the printer does by itself. Copies are brought
+    /// within 1 to host::mostCopies; the text of the pages is taken as it is, and checked by choices().
     void setSettings(const host::JobSettings &settings);
-    /// Puts copies, order and pages into the settings, the others stay. What nobody has set is left to the
-    /// queue.
+    /// Shows, quietly, what another printer does by itself with all that nobody has set.
+    void setDefaults(const host::JobSettings &defaults);
+    /// Puts what is wished of pages, copies and order into the settings, the others stay. What nobody has set
+    /// is left to the printer.
     void writeTo(host::JobSettings &settings) const;
 
 Q_SIGNALS:
     void changed();
 
 private:
-    bool m_setsCopies = false;
+    void build();
+    void connectAll();
+    void show();
+
     std::vector<int> m_pageCounts;
+    host::JobSettings m_wishes;
+    host::JobSettings m_defaults;
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QLineEdit *m_pages;
+    QCheckBox *m_lastFirst;
 };
 
 } // namespace dialog

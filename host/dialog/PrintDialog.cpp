@@ -222,6 +222,8 @@ void PrintDialog::refresh()
     m_refreshPending = false;
     m_stripPreview->clear();
     m_strip.reset();
+    if (m_keeper.setup())
+        m_pageOptions->setDefaults(host::defaultPageSettings(m_keeper.setup()->destination()));
     auto choices = m_pageOptions->choices();
     const bool isReady = m_keeper.setup() && choices;
     m_printButton->setEnabled(isReady && !m_isSending);

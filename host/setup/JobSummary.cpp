@@ -28,9 +28,12 @@ SummarySection printingSection(const PrinterSetup &setup, const LabelDocument &d
     section.lines.emplace_back(Text::tr("Printer"), setup.printerText());
     if (setup.paper())
         section.lines.emplace_back(Text::tr("Paper"), setup.paper()->text);
-    const QString ranges = draft.settings.pageRanges.simplified();
+    const JobSettings settings = withDefaults(draft.settings, defaultPageSettings(setup.destination()));
+    const QString ranges = settings.pageRanges.value_or(QString()).simplified();
     section.lines.emplace_back(Text::tr("Pages"), ranges.isEmpty() ? Text::tr("all") : ranges);
     section.lines.emplace_back(Text::tr("Copies"), QLocale().toString(draft.pages.copies));
+    if (draft.pages.order == PageOrder::LastFirst)
+        section.lines.emplace_back(Text::tr("Order"), Text::tr("last page first"));
     return section;
 }
 

@@ -131,22 +131,42 @@ TEST(JobOptions, SettingsGetTheNamesAndValuesOfLp)
         {{.copies = 1}, {}},
         {{.copies = 3, .collate = Collate::No}, list({"collate=false you*", "copies=3 you*"})},
         {{.copies = 3, .collate = Collate::Yes}, list({"collate=true you*", "copies=3 you*"})},
-        {{.copies = 1, .collate = Collate::Yes}, {}},
+        {{.collate = Collate::Yes}, list({"collate=true you*"})},
         {{.pageRanges = QStringLiteral("1-3, 5, 8-")}, list({"page-ranges=1-3,5,8- you*"})},
+        {{.pageRanges = QStringLiteral("5,1-3,2")}, list({"page-ranges=1-3,5 you*"})},
         {{.pageRanges = QStringLiteral("  ")}, {}},
+        {{.pageSet = host::PageSet::Odd}, list({"page-set=odd you*"})},
+        {{.pageSet = host::PageSet::Even}, list({"page-set=even you*"})},
+        {{.order = host::PageOrder::LastFirst}, list({"outputorder=reverse you*"})},
+        {{.order = host::PageOrder::FirstFirst}, list({"outputorder=normal you*"})},
         {{.orientation = Orientation::Landscape}, list({"orientation-requested=4 you*"})},
         {{.priority = 99}, list({"job-priority=99 you*"})},
         {{.priority = 50}, {}},
         {hold("hold"), list({"job-hold-until=indefinite you*"})},
         {hold("22:30"), list({"job-hold-until=22:30 you*"})},
         {hold("resume"), {}},
+        {hold("release"), {}},
         {hold("immediate"), list({"job-priority=100 you*"})},
+        {{.hold = QStringLiteral("immediate"), .priority = 60}, list({"job-priority=60 you*"})},
     };
     for (const Row &row : rows) {
         QStringList sent = described(makeJobOptions(destination, nullptr, {}, row.settings));
         sent.removeIf([](const QString &each) { return !each.endsWith(u'*'); });
         EXPECT_EQ(sent, row.expected);
     }
+}
+
+TEST(JobOptions, SettingsStandOverTheUsersDefaults)
+{
+    Destination destination;
+    destination.queueOptions = {{"copies", "2"}};
+    destination.userOptions = {{"copies", "3"}, {"page-ranges", "2-3"}, {"collate", "true"}};
+    const auto sent = [&](const JobSettings &settings) {
+        return described(makeJobOptions(destination, nullptr, {}, settings));
+    };
+    EXPECT_EQ(sent({}), list({"collate=true user*", "copies=3 user*", "page-ranges=2-3 user*"}));
+    EXPECT_EQ(sent({.copies = 2, .collate = host::Collate::No, .pageRanges = QString()}),
+              list({"collate=false you*", "copies=2 you*", "page-ranges=1- you*"}));
 }
 
 TEST(JobOptions, MarksWhatAJobWouldHaveWithoutAnyChoice)

@@ -50,6 +50,18 @@ TEST(PageRanges, RefuseWithAReason)
     }
 }
 
+TEST(PageRanges, AreSentInAscendingOrder)
+{
+    const std::pair<const char *, const char *> rows[] = {
+        {"", ""},           {" ", ""},        {"1", "1"},         {"5,1", "1,5"},
+        {"5,1-3", "1-3,5"}, {"1,1-3", "1-3"}, {"1-3,3", "1-3"},   {"1-3, 4", "1-4"},
+        {"2-,1", "1-"},     {"3-,7", "3-"},   {"4-6,1-9", "1-9"}, {"8-,2-3", "2-3,8-"},
+        {"7-7", "7"},
+    };
+    for (const auto &[text, expected] : rows)
+        EXPECT_EQ(host::canonicalPageRanges(QLatin1String(text)), QLatin1String(expected)) << text;
+}
+
 TEST(PageRanges, CanBeCheckedBeforeThereIsADocument)
 {
     for (const char *good : {"", "  ", "1", "1-3, 5", "8-", "999999999", "7-7"})
@@ -67,6 +79,11 @@ TEST(PrintOrder, GoesSetBySetOrLabelByLabel)
     EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 0, 2}));
     EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
     EXPECT_TRUE(host::printOrder({}, 3, Collate::Yes).empty());
+    using host::PageOrder;
+    EXPECT_EQ(host::printOrder({{0, 2}, {3, 4}}, 2, Collate::Yes, PageOrder::LastFirst),
+              (std::vector<int>{2, 0, 2, 0, 4, 3, 4, 3}));
+    EXPECT_EQ(host::printOrder({{0, 2}}, 2, Collate::No, PageOrder::LastFirst),
+              (std::vector<int>{2, 2, 0, 0}));
 }
 
 TEST(PageRanges, ApplyToEveryDocumentByItself)

@@ -89,7 +89,7 @@ TEST(CommandLine, LeavesOutWhatIsNotGiven)
                  command.json);
     EXPECT_FALSE(command.settings.copies || command.settings.priority || command.settings.hold ||
                  command.settings.collate || command.settings.orientation);
-    EXPECT_EQ(command.settings.pageRanges, QString());
+    EXPECT_FALSE(command.settings.pageRanges || command.settings.pageSet || command.settings.order);
 }
 
 TEST(CommandLine, LettersStandTogetherAndValuesMayBeAttached)
@@ -143,6 +143,11 @@ TEST(CommandLine, OptionsThatMeanALetterAreTakenForIt)
     EXPECT_EQ(read("-o job-priority=9").settings.priority, 9);
     EXPECT_EQ(read("-o job-hold-until=no-hold").settings.hold, QStringLiteral("no-hold"));
     EXPECT_EQ(read("-o job-name=Jars").title, QStringLiteral("Jars"));
+    EXPECT_EQ(read("-o page-set=even").settings.pageSet, host::PageSet::Even);
+    EXPECT_EQ(read("-o outputorder=reverse").settings.order, host::PageOrder::LastFirst);
+    // Before all others, unless a later letter says how much before.
+    EXPECT_EQ(read("-q 50 -H immediate").settings.priority, 100);
+    EXPECT_EQ(read("-H immediate -q 50").settings.priority, 50);
     EXPECT_EQ(read("-o collate=true").settings.collate, Collate::Yes);
     EXPECT_EQ(read("-o nocollate").settings.collate, Collate::No);
     EXPECT_EQ(read("-o multiple-document-handling=separate-documents-uncollated-copies").settings.collate,
@@ -173,8 +178,9 @@ TEST(CommandLine, KnowsItsTasks)
 
 TEST(CommandLine, AcceptsEveryTimeToPrintAt)
 {
-    for (const char *when : {"hold", "immediate", "indefinite", "9:05", "09:05", "23:59:59", "night",
-                             "evening", "day-time", "second-shift", "third-shift", "weekend"})
+    for (const char *when :
+         {"hold", "immediate", "resume", "release", "indefinite", "9:05", "09:05", "23:59:59", "night",
+          "evening", "day-time", "second-shift", "third-shift", "weekend"})
         EXPECT_EQ(read(("-H " + QByteArray(when)).constData()).settings.hold, QLatin1String(when));
 }
 
@@ -196,7 +202,8 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
         {"-H 12:60", {"-H", "12:60"}},
         {"-H 12", {"-H", "\"12\""}},
         {"-H tomorrow", {"-H", "tomorrow"}},
-        {"-H resume a.pdf", {"-H", "resume", "-i"}},
+        {"-o page-set=none", {"-o", "page-set", "none"}},
+        {"-o outputorder=up", {"-o", "outputorder", "up"}},
         {"-H restart", {"-H", "restart", "-i"}},
         {"-H no-hold", {"-H", "no-hold"}},
         {"-P 3-1", {"-P", "3-1"}},

@@ -90,7 +90,7 @@ TEST_F(JobPageTest, NothingStandsForTheQueuesOwnSettings)
     const JobSettings settings = page.settings();
     EXPECT_FALSE(settings.orientation || settings.hold || settings.priority || settings.copies ||
                  settings.collate);
-    EXPECT_TRUE(settings.pageRanges.isEmpty());
+    EXPECT_FALSE(settings.pageRanges);
     EXPECT_EQ(at<QSpinBox>("Priority")->text(), QStringLiteral("As the queue is set"));
 }
 

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobSettings.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::JobSettings)
+};
+
+constexpr int highestPriority = 100;
+
+/// The value as lp(1) and the server's filters take it for a switch.
+std::optional<Collate> collateFrom(const QByteArray &value)
+{
+    for (const char *yes : {"true", "yes", "on", "separate-documents-collated-copies"}) {
+        if (qstricmp(value.constData(), yes) == 0)
+            return Collate::Yes;
+    }
+    return Collate::No;
+}
+
+void takeDefault(JobSettings &settings, const NamedValue &option)
+{
+    if (option.name == "copies") {
+        bool isNumber = false;
+        const int copies = option.value.toInt(&isNumber);
+        settings.copies = isNumber ? std::optional(copies) : std::nullopt;
+    } else if (option.name == "collate" || option.name == "multiple-document-handling") {
+        settings.collate = collateFrom(option.value);
+    } else if (option.name == "page-ranges") {
+        settings.pageRanges = QString::fromUtf8(option.value);
+    } else if (option.name == "page-set") {
+        settings.pageSet = option.value == "odd"    ? PageSet::Odd
+                           : option.value == "even" ? PageSet::Even
+                                                    : PageSet::All;
+    } else if (option.name == "outputorder") {
+        settings.order = option.value == "reverse" ? PageOrder::LastFirst : PageOrder::FirstFirst;
+    }
+}
+
+QByteArray rangesValue(const QString &text)
+{
+    const QString ranges = canonicalPageRanges(text);
+    // All pages have no name of their own.
+    return ranges.isEmpty() ? "1-" : ranges.toUtf8();
+}
+
+QByteArray holdValue(const QString &hold)
+{
+    if (hold == QStringLiteral("hold"))
+        return "indefinite";
+    for (const char *now : {"immediate", "resume", "release"}) {
+        if (hold == QLatin1String(now))
+            return "no-hold";
+    }
+    return hold.toUtf8();
+}
+
+template<typename Value>
+void fill(std::optional<Value> &wish, const std::optional<Value> &byDefault)
+{
+    if (!wish)
+        wish = byDefault;
+}
+
+} // namespace
+
+std::vector<NamedValue> settingValues(const JobSettings &settings)
+{
+    std::vector<NamedValue> values;
+    const auto add = [&](const char *name, const QByteArray &value) { values.push_back({name, value}); };
+    if (settings.copies)
+        add("copies", QByteArray::number(*settings.copies));
+    if (settings.collate)
+        add("collate", *settings.collate == Collate::Yes ? "true" : "false");
+    if (settings.pageRanges)
+        add("page-ranges", rangesValue(*settings.pageRanges));
+    if (settings.pageSet)
+        add("page-set", *settings.pageSet == PageSet::Odd    ? "odd"
+                        : *settings.pageSet == PageSet::Even ? "even"
+                                                             : "all");
+    if (settings.order)
+        add("outputorder", *settings.order == PageOrder::LastFirst ? "reverse" : "normal");
+    if (settings.orientation)
+        add("orientation-requested", QByteArray::number(static_cast<int>(*settings.orientation)));
+    if (settings.hold)
+        add("job-hold-until", holdValue(*settings.hold));
+    if (settings.priority || settings.hold == QStringLiteral("immediate"))
+        add("job-priority", QByteArray::number(settings.priority.value_or(highestPriority)));
+    return values;
+}
+
+JobSettings defaultPageSettings(const Destination &destination)
+{
+    JobSettings settings;
+    for (const std::vector<NamedValue> *layer : {&destination.queueOptions, &destination.userOptions}) {
+        for (const NamedValue &option : *layer)
+            takeDefault(settings, option);
+    }
+    return settings;
+}
+
+JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults)
+{
+    fill(wishes.copies, defaults.copies);
+    fill(wishes.collate, defaults.collate);
+    fill(wishes.pageRanges, defaults.pageRanges);
+    fill(wishes.pageSet, defaults.pageSet);
+    fill(wishes.order, defaults.order);
+    return wishes;
+}
+
+Result<PageChoices, PageRangeError> choosePages(const JobSettings &settings,
+                                                const std::vector<int> &pageCounts)
+{
+    auto pages = parsePageRanges(settings.pageRanges.value_or(QString()), pageCounts,
+                                 settings.pageSet.value_or(PageSet::All));
+    if (!pages)
+        return pages.error();
+    const int copies = std::clamp(settings.copies.value_or(1), 1, mostCopies);
+    if (pages.value().size() * static_cast<std::size_t>(copies) > mostLabels)
+        return PageRangeError{
+            PageRangeFailure::TooMany,
+            Text::tr("Cannot print so many labels at once: a job has at most %1").arg(mostLabels)};
+    return PageChoices{std::move(pages).value(), copies, settings.collate.value_or(Collate::No),
+                       settings.order.value_or(PageOrder::FirstFirst)};
+}
+
+} // namespace host
