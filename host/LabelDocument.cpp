@@ -46,7 +46,7 @@ Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const 
 void LabelDocument::append(const QString &name, std::unique_ptr<OpenedDocument> document)
 {
     m_files.push_back({name, m_files.empty() ? 0 : pageCount(), document->pages().pageCount(),
-                       document->path(), QStringLiteral("application/pdf")});
+                       document->path(), document->stamp(), QStringLiteral("application/pdf")});
     m_documents.push_back(std::move(document));
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DocumentError.h"
+#include "RegularFile.h"
 
 #include <QDeadlineTimer>
 #include <QImage>
@@ -26,6 +27,8 @@ struct DocumentFile {
     /// A file to read and what it holds: the named file itself, or a temporary one that lives as long as the
     /// LabelDocument does.
     QString pathToSend;
+    /// In which state its pages were read.
+    FileStamp stamp;
     QString mimeType;
 };
 

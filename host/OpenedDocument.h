@@ -25,6 +25,8 @@ public:
     const PdfPages &pages() const { return *m_pages; }
     /// The path of the PDF to send.
     const QString &path() const { return m_path; }
+    /// In which state it was read.
+    const FileStamp &stamp() const { return m_stamp; }
     /// Checks what opening leaves out: the pages beyond the first hundreds, and whether the file at the path
     /// is still the one that was opened.
     std::optional<DocumentProblem> checkForPrinting() const;

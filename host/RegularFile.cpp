@@ -70,4 +70,12 @@ std::optional<FileStamp> fileStamp(const QString &path)
     return stampOf(status);
 }
 
+std::optional<FileStamp> fileStamp(int descriptor)
+{
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0)
+        return std::nullopt;
+    return stampOf(status);
+}
+
 } // namespace host

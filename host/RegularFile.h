@@ -33,5 +33,7 @@ Result<RegularFile, DocumentProblem> openRegularFile(const QString &path);
 
 /// What lies at the path now; nothing when there is nothing.
 std::optional<FileStamp> fileStamp(const QString &path);
+/// The state of a file that is open.
+std::optional<FileStamp> fileStamp(int descriptor);
 
 } // namespace host

@@ -40,6 +40,7 @@ DocumentSource::DocumentSource(DocumentSource &&other) noexcept
     , m_descriptor(std::exchange(other.m_descriptor, -1))
     , m_size(other.m_size)
     , m_taken(other.m_taken)
+    , m_stamp(other.m_stamp)
 {
 }
 
@@ -49,7 +50,8 @@ DocumentSource::~DocumentSource()
         ::close(m_descriptor);
 }
 
-Result<DocumentSource, CupsError> DocumentSource::open(const QString &path)
+Result<DocumentSource, CupsError> DocumentSource::open(const QString &path,
+                                                       const std::optional<FileStamp> &expected)
 {
     if (path == QStringLiteral("-"))
         return DocumentSource(path, STDIN_FILENO, -1);
@@ -67,6 +69,9 @@ Result<DocumentSource, CupsError> DocumentSource::open(const QString &path)
     if (status.st_size == 0)
         return source.failure(Text::tr("it is empty"));
     source.m_size = status.st_size;
+    source.m_stamp = fileStamp(descriptor);
+    if (expected && source.m_stamp != expected)
+        return source.failure(Text::tr("the file has changed since it was opened; open it again"));
     return source;
 }
 
@@ -79,6 +84,8 @@ Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
 {
     const bool isInput = m_size < 0;
     const qint64 wanted = isInput ? pieceSize : qMin(pieceSize, m_size - m_taken);
+    if (wanted == 0 && fileStamp(m_descriptor) != m_stamp)
+        return failure(Text::tr("it has changed while it was read"));
     if (wanted == 0)
         return QByteArray();
     pollfd input = {m_descriptor, POLLIN, 0};

@@ -23,6 +23,12 @@ bool namesPaperLoosely(const QByteArray &name)
     return name == "media" || name == "PageRegion";
 }
 
+/// What is said of the documents' format is said with each of them.
+bool namesFormat(const QByteArray &name)
+{
+    return name == "raw" || name == "document-format";
+}
+
 /// The options of a job while its layers are put over each other.
 class Layers {
 public:
@@ -109,7 +115,7 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
     }
     const bool hasPaper = layers.has(paperKeyword);
     for (const NamedValue &option : destination.userOptions) {
-        if (!hasPaper || !namesPaperLoosely(option.name))
+        if (!namesFormat(option.name) && (!hasPaper || !namesPaperLoosely(option.name)))
             layers.set(option.name, option.value, Origin::UserDefault);
     }
     for (const JobChoice &choice : choices) {

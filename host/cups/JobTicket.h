@@ -3,6 +3,8 @@
 
 #include "JobOptions.h"
 
+#include <host/RegularFile.h>
+
 struct _ipp_s;
 
 namespace host {
@@ -15,6 +17,9 @@ struct JobDocument {
     QByteArray format = {};
     /// What the user calls it, when a file made of it is sent; else empty.
     QString name = {};
+    /// In which state the file was shown to the user, who wants that printed and nothing else; nothing when
+    /// nobody has looked at it.
+    std::optional<FileStamp> stamp = {};
 
     const QString &shownName() const { return name.isEmpty() ? path : name; }
 };

@@ -133,7 +133,7 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
 {
     std::vector<DocumentSource> sources;
     for (const JobDocument &document : ticket.documents) {
-        Result<DocumentSource, CupsError> source = DocumentSource::open(document.path);
+        Result<DocumentSource, CupsError> source = DocumentSource::open(document.path, document.stamp);
         if (!source)
             return source.error();
         sources.push_back(std::move(source).value());

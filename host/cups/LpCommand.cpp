@@ -42,6 +42,12 @@ QString fileWord(const QString &path)
     return path == QStringLiteral("-") ? path : path.startsWith(u'-') ? QStringLiteral("./") + path : path;
 }
 
+/// lp would send the image itself.
+bool isMadeOfAnother(const JobDocument &document)
+{
+    return document.shownName() != document.path && document.shownName() != QStringLiteral("-");
+}
+
 } // namespace
 
 QString shellWord(const QString &word)
@@ -86,6 +92,8 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
     words += QStringLiteral("--");
     for (const JobDocument &document : ticket.documents)
         words += fileWord(document.shownName());
+    if (std::ranges::any_of(ticket.documents, isMadeOfAnother))
+        command.differences += QStringLiteral("document-format");
     for (QString &word : words)
         word = shellWord(word);
     command.line = words.join(u' ');

@@ -11,6 +11,7 @@ struct LpCommand {
     /// To be copied into a terminal.
     QString line;
     /// The names of options that lp would send otherwise, since its words cannot say them; mostly empty.
+    /// "document-format" when a PDF is sent that was made of the named document.
     QStringList differences;
 };
 

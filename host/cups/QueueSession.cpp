@@ -94,7 +94,7 @@ void QueueSession::chooseWanted()
         if (same && same->name() == m_chosen->name())
             takeState(*same);
     }
-    if (m_userHasChosen)
+    if (m_userHasChosen || (m_chosen && m_isInUse()))
         return;
     const Destination *const found =
         m_wanted ? m_destinations.find(*m_wanted) : m_destinations.defaultDestination();

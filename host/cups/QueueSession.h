@@ -42,6 +42,9 @@ public:
     QString chosenName() const;
     /// Chooses another destination of the list; a name that is not in it is passed over.
     void choose(const QString &name);
+    /// Has the session ask, before it chooses another destination by itself, whether the user has set
+    /// something for the chosen one already; then that one stays.
+    void setIsInUse(std::function<bool()> isInUse) { m_isInUse = std::move(isInUse); }
 
     PpdKnowledge ppdKnowledge() const { return m_knowledge; }
     /// Why the PPD could not be had or used; only with PpdKnowledge::Failed.
@@ -98,6 +101,7 @@ private:
     bool m_hasStarted = false;
     bool m_isSettled = false;
     bool m_userHasChosen = false;
+    std::function<bool()> m_isInUse = [] { return false; };
     /// The server could not be asked the last time.
     bool m_isOutOfReach = false;
 };

@@ -5,6 +5,7 @@
 #include "PrintDialog.h"
 #include "QueueSender.h"
 #include "Screenshot.h"
+#include "SetupComplaints.h"
 
 #include <host/cups/LpOptions.h>
 #include <host/setup/JobReport.h>
@@ -14,8 +15,6 @@
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QTimer>
-
-#include <algorithm>
 
 namespace dialog {
 
@@ -123,31 +122,8 @@ bool HeadlessRun::accepts(host::PrinterSetup &setup)
         m_console.complain(*refusal);
         return false;
     }
-    tellChangesByPanel(setup);
-    return !hasConflicts(setup) || m_command.force;
-}
-
-void HeadlessRun::tellChangesByPanel(const host::PrinterSetup &setup) const
-{
-    for (const host::JobChoice &wish : m_command.options) {
-        const auto now = std::ranges::find(setup.choices(), wish.name, &host::JobChoice::name);
-        if (now != setup.choices().end() && now->value != wish.value)
-            m_console.complain(Text::tr("\"%1\" cannot be \"%2\" together with the other cut options and is "
-                                        "printed as \"%3\"")
-                                   .arg(QString::fromUtf8(wish.name), QString::fromUtf8(wish.value),
-                                        QString::fromUtf8(now->value)));
-    }
-}
-
-bool HeadlessRun::hasConflicts(const host::PrinterSetup &setup) const
-{
-    const std::vector<host::Conflict> conflicts = setup.conflicts();
-    for (const host::Conflict &conflict : conflicts)
-        m_console.complain(conflict.sentence());
-    const std::optional<host::Remedy> remedy = conflicts.empty() ? std::nullopt : setup.remedy();
-    if (remedy)
-        m_console.complain(Text::tr("This would help: %1").arg(remedy->sentence()));
-    return !conflicts.empty();
+    tellChangesByPanel(m_console, setup, m_command.options);
+    return !tellConflicts(m_console, setup) || m_command.force;
 }
 
 bool HeadlessRun::canPrintDocument() const

@@ -24,8 +24,6 @@ private:
     host::PrinterSetup *waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper);
     /// Whether the printer can do what is asked for; tells what it cannot.
     bool accepts(host::PrinterSetup &setup);
-    void tellChangesByPanel(const host::PrinterSetup &setup) const;
-    bool hasConflicts(const host::PrinterSetup &setup) const;
     bool canPrintDocument() const;
     std::optional<host::JobDraft> makeDraft(const host::PrinterSetup &setup) const;
     /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be

@@ -157,6 +157,14 @@ Complaint takeTitle(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
+/// What lp says of a file's content. Labels are shown and sent as PDF, and told to the server as that.
+Complaint refuseFormat(CommandLine &, const QString &value)
+{
+    if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
+        return std::nullopt;
+    return Text::tr("\"%1\" is not possible; documents are sent as PDF").arg(value);
+}
+
 /// Options that mean the same as a letter or a name of the command line.
 constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)> settingOptions[] = {
     {"copies", takeCopies},
@@ -171,6 +179,8 @@ constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)>
     {"orientation-requested", takeOrientation},
     {"orientation", takeOrientation},
     {"landscape", takeLandscape},
+    {"raw", refuseFormat},
+    {"document-format", refuseFormat},
     {"PageSize", takePaper},
     {"PageRegion", takePaper},
     {"media", takePaper},

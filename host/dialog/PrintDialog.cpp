@@ -24,6 +24,13 @@
 
 namespace dialog {
 
+namespace {
+
+/// For how long documents are checked at a time.
+constexpr std::chrono::milliseconds checkSlice{5};
+
+} // namespace
+
 PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
                          JobSender &sender, const DialogWishes &wishes, QWidget *parent)
     : QDialog(parent)
@@ -139,6 +146,10 @@ void PrintDialog::connectAll()
         connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
     }
     connect(m_sendBar, &SendBar::cancelled, &m_sender, &JobSender::cancel);
+    connect(m_sendBar, &SendBar::cancelled, this, [this] {
+        if (std::exchange(m_printsWhenChecked, false))
+            m_sendBar->end();
+    });
     connect(&m_sender, &JobSender::progressed, m_sendBar, &SendBar::setProgress);
     connect(&m_sender, &JobSender::sent, this, [this] {
         finishSending();
@@ -316,9 +327,10 @@ void PrintDialog::showEvent(QShowEvent *event)
 
 void PrintDialog::checkAhead()
 {
-    constexpr std::chrono::milliseconds slice{5};
-    if (!m_document->checkAhead(QDeadlineTimer(slice)))
+    if (!m_document->checkAhead(QDeadlineTimer(checkSlice)))
         QTimer::singleShot(0, this, &PrintDialog::checkAhead);
+    else if (std::exchange(m_printsWhenChecked, false))
+        accept();
 }
 
 void PrintDialog::showAtOnce()
@@ -345,8 +357,10 @@ std::optional<QString> PrintDialog::prepare()
 void PrintDialog::print()
 {
     m_problemBanner->setSendingProblem(prepare().value_or(QString()));
-    if (!problem().isEmpty())
+    if (!problem().isEmpty()) {
+        m_sendBar->end();
         return;
+    }
     m_isSending = true;
     m_content->setEnabled(false);
     m_printButton->setEnabled(false);
@@ -366,13 +380,22 @@ void PrintDialog::accept()
 {
     if (m_isSending || !m_printButton->isEnabled())
         return;
+    if (isVisible() && !m_document->checkAhead(QDeadlineTimer(checkSlice))) {
+        // It has thousands of pages; checkAhead() goes on, and the window stays alive meanwhile.
+        m_printsWhenChecked = true;
+        m_sendBar->begin(m_draft.title);
+        return;
+    }
     const QString conflicts = m_conflictBanner->message();
     if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
         print();
+    else
+        m_sendBar->end();
 }
 
 void PrintDialog::reject()
 {
+    m_printsWhenChecked = false;
     if (!m_isSending) {
         QDialog::reject();
         return;

@@ -48,9 +48,12 @@ public:
     /// that has sent it, the dialog is accepted; otherwise problem() says why not, and everything stays as
     /// set. Conflicts are not asked about.
     void print();
+    /// Readies the job for sending without sending it; why that cannot be done, or nothing.
+    std::optional<QString> prepare();
     /// Why the last print() failed; empty when it did not.
     const QString &problem() const;
-    bool isSending() const { return m_isSending; }
+    /// Whether a job is on its way, or will be as soon as its document is checked.
+    bool isSending() const { return m_isSending || m_printsWhenChecked; }
     /// The job's name.
     const QString &title() const { return m_draft.title; }
     /// Whether the printer has cut options, but there is no panel for them.
@@ -84,8 +87,6 @@ private:
     QString waitingText() const;
     void pageShown();
     void checkAhead();
-    /// Readies the job for sending; why that cannot be done, or nothing.
-    std::optional<QString> prepare();
     void finishSending();
 
     std::shared_ptr<const host::LabelDocument> m_document;
@@ -94,6 +95,7 @@ private:
     bool m_refreshPending = false;
     bool m_isSending = false;
     bool m_closesAfterSending = false;
+    bool m_printsWhenChecked = false;
     host::JobDraft m_draft;
     std::unique_ptr<host::LabelRenderer> m_renderer;
     std::unique_ptr<host::PrintJob> m_strip;

@@ -8,6 +8,7 @@
 #include "QueueSender.h"
 #include "Screenshot.h"
 #include "ServerRun.h"
+#include "SetupComplaints.h"
 #include "TerminalPassword.h"
 #include "VirtualSender.h"
 
@@ -113,22 +114,35 @@ ExitStatus PrintRun::runVirtual()
     host::SetupKeeper keeper(std::move(setup));
     VirtualSender sender(m_command.output);
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
-    const ExitStatus status = showVirtual(dialog, sender);
+    const ExitStatus status = showVirtual(dialog, sender, *keeper.setup());
     return status == ExitStatus::Printed && withoutPanel ? ExitStatus::PrintedWithoutPanel : status;
 }
 
-ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
+bool PrintRun::canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const
+{
+    if (const std::optional<QString> problem = dialog.prepare()) {
+        m_console.complain(*problem);
+        return false;
+    }
+    tellChangesByPanel(m_console, setup, m_command.options);
+    return !tellConflicts(m_console, setup) || m_command.force;
+}
+
+ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, const host::PrinterSetup &setup)
 {
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
     QApplication::processEvents();
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
-    if (m_command.task == Task::Summary) {
+    const bool printsAtOnce = m_command.noDialog && m_command.task == Task::Print;
+    if ((printsAtOnce || m_command.task == Task::DryRun) && !canPrintAtOnce(dialog, setup))
+        return ExitStatus::Failed;
+    if (m_command.task != Task::Print) {
         tellSummary(dialog.summary());
         return ExitStatus::Printed;
     }
-    if (m_command.noDialog) {
+    if (printsAtOnce) {
         sender.setPictureTaker([&] { return dialog.grab().toImage(); });
         dialog.print();
         if (!dialog.problem().isEmpty()) {

@@ -31,7 +31,7 @@ JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, co
     ticket.options = makeJobOptions(setup.destination(), setup.ppdOrNull(), setup.choices(), draft.settings);
     sendShownPaper(setup, ticket.options);
     for (const DocumentFile &file : document.files())
-        ticket.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name});
+        ticket.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp});
     return ticket;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SetupKeeper.h"
 
+#include <algorithm>
+
 namespace host {
 
 SetupKeeper::SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent)
@@ -21,11 +23,24 @@ SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWi
         if (m_setup && m_setup->destination().name() == m_session->chosen()->name())
             m_setup->setDestination(*m_session->chosen());
     });
+    session.setIsInUse([this] { return userHasSet(); });
     if (session.chosen())
         changeQueue();
 }
 
-SetupKeeper::~SetupKeeper() = default;
+SetupKeeper::~SetupKeeper()
+{
+    if (m_session)
+        m_session->setIsInUse([] { return false; });
+}
+
+bool SetupKeeper::userHasSet() const
+{
+    const auto isSame = [](const JobChoice &one, const JobChoice &other) {
+        return one.name == other.name && one.value == other.value;
+    };
+    return m_setup && !std::ranges::equal(m_setup->choices(), m_firstChoices, isSame);
+}
 
 void SetupKeeper::release()
 {
@@ -93,8 +108,12 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
         wishes.choices = before->second;
         wishes.paper.reset();
     }
+    const bool isAnother = before == m_choicesOfQueues.end();
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
     Q_EMIT setupChanged();
+    // Taken when the panels have been shown: they record what they find.
+    if (isAnother)
+        m_firstChoices = m_setup->choices();
 }
 
 } // namespace host

@@ -46,12 +46,15 @@ private:
     void replace(std::optional<PpdFile> ppd);
     void end();
     bool isUsableWithoutPpd() const;
+    bool userHasSet() const;
 
     QueueSession *m_session = nullptr;
     PanelSource m_panelSource;
     SetupWishes m_wishes;
     std::unique_ptr<PrinterSetup> m_setup;
     std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
+    /// As they were when the setup was new.
+    std::vector<JobChoice> m_firstChoices;
     bool m_isHeld = false;
     bool m_queueIsLate = false;
     bool m_ppdIsLate = false;

@@ -156,6 +156,13 @@ TEST(JobOptions, SettingsGetTheNamesAndValuesOfLp)
     }
 }
 
+TEST(JobOptions, TheDocumentsFormatIsNoOptionOfTheJob)
+{
+    Destination destination;
+    destination.userOptions = {{"raw", "true"}, {"document-format", "text/plain"}, {"fold", "true"}};
+    EXPECT_EQ(described(makeJobOptions(destination, nullptr, {}, {})), list({"fold=true user*"}));
+}
+
 TEST(JobOptions, SettingsStandOverTheUsersDefaults)
 {
     Destination destination;
@@ -224,6 +231,17 @@ TEST(LpCommand, SaysAllThatIsSentAndNothingElse)
                                            "-o 'PageSize=A\\'\\''B\\,C' -n 2 -q 70 -H night -P 1-3,5 "
                                            "-- '/tmp/a b.pdf' ./-n.pdf"));
     EXPECT_TRUE(command.differences.isEmpty());
+}
+
+TEST(LpCommand, TellsThatLpWouldSendAnImageItself)
+{
+    host::JobTicket ticket;
+    ticket.documents = {{QStringLiteral("/tmp/made.pdf"), "application/pdf", QStringLiteral("-")},
+                        {QStringLiteral("/tmp/a.pdf"), "application/pdf", QStringLiteral("/tmp/a.pdf")}};
+    EXPECT_TRUE(lpCommand({}, ticket).differences.isEmpty());
+    ticket.documents.push_back(
+        {QStringLiteral("/tmp/made.pdf"), "application/pdf", QStringLiteral("/tmp/a.svg")});
+    EXPECT_EQ(lpCommand({}, ticket).differences, list({"document-format"}));
 }
 
 TEST(LpCommand, TellsWhatLpCannotSay)

@@ -57,6 +57,46 @@ TEST_F(PrintingFaultsTest, DocumentsThatCannotBeReadLeaveNoJob)
     expectNothingWaits();
 }
 
+TEST_F(PrintingFaultsTest, AFileThatIsAnotherThanWasShownIsNotPrinted)
+{
+    JobTicket job = ticket();
+    const QString path = document(QStringLiteral("labels.txt"), "what was shown\n");
+    job.documents = {{path, {}, {}, host::fileStamp(path)}};
+    document(QStringLiteral("labels.txt"), "something else\n");
+    const Outcome outcome = print(job);
+    ASSERT_TRUE(outcome.error);
+    EXPECT_EQ(outcome.error->kind, CupsFailure::BadDocument);
+    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("has changed since it was opened")))
+        << qPrintable(outcome.error->message);
+    expectNothingWaits();
+}
+
+TEST_F(PrintingFaultsTest, AFileThatChangesWhileItIsSentIsTakenBack)
+{
+    JobTicket job = ticket();
+    const QString path = document(QStringLiteral("large.txt"), QByteArray(30000000, 'a'));
+    job.documents = {{path}};
+    JobSubmission submission(server);
+    std::optional<host::CupsError> error;
+    std::optional<int> jobId;
+    QObject::connect(&submission, &JobSubmission::failed, [&](const host::CupsError &now) { error = now; });
+    QObject::connect(&submission, &JobSubmission::submitted, [&](int id) { jobId = id; });
+    bool isRewritten = false;
+    QObject::connect(&submission, &JobSubmission::progressed, [&] {
+        QFile file(path);
+        // As long as before, and the same file.
+        if (!std::exchange(isRewritten, true) && file.open(QIODevice::ReadWrite))
+            file.write("b");
+    });
+    submission.submit(job);
+    EXPECT_TRUE(waitFor([&] { return error || jobId; }));
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->kind, CupsFailure::BadDocument) << qPrintable(error->message);
+    EXPECT_TRUE(error->message.contains(QStringLiteral("changed while it was read")))
+        << qPrintable(error->message);
+    expectNothingWaits();
+}
+
 TEST_F(PrintingFaultsTest, TheServersRefusalIsToldInItsWords)
 {
     cupsd.reject(QStringLiteral("tape"), QStringLiteral("closed"));

@@ -2,6 +2,7 @@
 // What becomes of the dialog and the job when the sending does not go well, and the job's way to its end.
 #include "FaultyServer.h"
 #include "QueueDialogFixture.h"
+#include "SamplePdf.h"
 #include "SamplePpd.h"
 
 #include <host/dialog/JobWindow.h>
@@ -190,6 +191,25 @@ TEST_F(SendingTest, StopSendingTakesTheJobBack)
     EXPECT_NO_STALL(watch);
     EXPECT_EQ(waitingJobs(), QString());
     EXPECT_EQ(cupsd->documents().size(), before);
+}
+
+TEST_F(SendingTest, ALongDocumentIsCheckedWhileTheWindowLives)
+{
+    const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
+    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+    open(QStringLiteral("tape"));
+    ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
+    const std::size_t before = cupsd->documents().size();
+    Hands::click(button(QStringLiteral("Print")));
+    // The click is over long before so many pages are.
+    EXPECT_TRUE(window->isSending());
+    EXPECT_TRUE(window->isVisible());
+    Hands::click(button(QStringLiteral("Stop sending")));
+    EXPECT_FALSE(window->isSending());
+    Hands::click(button(QStringLiteral("Print")));
+    EXPECT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
+    EXPECT_TRUE(waitUntil([] { return waitingJobs().isEmpty(); }));
+    EXPECT_EQ(cupsd->documents().size(), before + 1);
 }
 
 TEST_F(SendingTest, ClosingTheWindowWhileSendingTakesTheJobBack)

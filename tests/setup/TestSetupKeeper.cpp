@@ -219,6 +219,28 @@ TEST_F(SetupKeeperTest, TheDefaultQueueIsChosenAndWithoutOneTheFirst)
     EXPECT_EQ(session->chosen()->queue, QStringLiteral("tape"));
 }
 
+TEST_F(SetupKeeperTest, AnotherDefaultTakesNoPrinterFromUnderTheUser)
+{
+    const auto makeDefault = [](const char *queue) {
+        cupsd->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QString::fromLatin1(queue)});
+    };
+    for (const bool sets : {false, true}) {
+        SCOPED_TRACE(sets);
+        makeDefault("tape");
+        openAndSettle(std::nullopt);
+        ASSERT_EQ(session->chosen()->queue, QStringLiteral("tape"));
+        open(std::nullopt);
+        ASSERT_TRUE(keeper->setup());
+        if (sets)
+            keeper->setup()->choose("KvMirror", "ON");
+        makeDefault("labels");
+        session->start(host::Discovery::No);
+        ASSERT_TRUE(waitFor([this] { return session->isSettled() && knows() && keeper->setup(); }));
+        EXPECT_EQ(session->chosen()->queue, sets ? QStringLiteral("tape") : QStringLiteral("labels"));
+        EXPECT_EQ(chosen("KvMirror"), sets ? QByteArray("ON") : QByteArray("(none)"));
+    }
+}
+
 TEST_F(SetupKeeperTest, TheLastDestinationIsKnownAtOnceAndTheOthersFollow)
 {
     openAndSettle(QStringLiteral("tape"));

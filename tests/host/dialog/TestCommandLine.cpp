@@ -202,6 +202,8 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
         {"-H 12:60", {"-H", "12:60"}},
         {"-H 12", {"-H", "\"12\""}},
         {"-H tomorrow", {"-H", "tomorrow"}},
+        {"-o raw", {"-o", "raw", "PDF"}},
+        {"-o document-format=text/plain", {"-o", "document-format", "text/plain"}},
         {"-o page-set=none", {"-o", "page-set", "none"}},
         {"-o outputorder=up", {"-o", "outputorder", "up"}},
         {"-H restart", {"-H", "restart", "-i"}},

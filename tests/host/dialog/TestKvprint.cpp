@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
 #include <QProcess>
 
 #include <gtest/gtest.h>
@@ -79,6 +80,30 @@ TEST_F(KvprintTest, TakesThePaperByItsExactName)
     QFile job(output + QStringLiteral("/job.json"));
     ASSERT_TRUE(job.open(QIODevice::ReadOnly));
     EXPECT_TRUE(job.readAll().contains("\"name\": \"DC52x75R\""));
+}
+
+TEST_F(KvprintTest, OnlyTellsWhatWouldBePrinted)
+{
+    const Outcome outcome =
+        run({QStringLiteral("--dry-run"), QStringLiteral("--json"), QStringLiteral("--ppd"), ppd, document});
+    EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
+    EXPECT_TRUE(QJsonDocument::fromJson(outcome.out.toUtf8()).isArray()) << outcome.out.toStdString();
+    EXPECT_EQ(written(), QStringList());
+    EXPECT_FALSE(outcome.out.contains(QStringLiteral("strip.pdf")));
+}
+
+TEST_F(KvprintTest, AConflictIsAnErrorUnlessForced)
+{
+    ppd = QStringLiteral(KV_SOURCE_DIR "/resources/ppd/kvelland-dz500.ppd");
+    const QStringList conflict{QStringLiteral("-o"), QStringLiteral("MediaType=Film PrintPriority=Speed")};
+    const Outcome outcome = print(conflict);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, QString());
+    for (const char *part : {"Film", "Speed", "exclude each other", "This would help"})
+        EXPECT_TRUE(outcome.error.contains(QLatin1String(part))) << part << outcome.error.toStdString();
+    EXPECT_EQ(written(), QStringList());
+    EXPECT_EQ(print(conflict + QStringList{QStringLiteral("--force")}).status, 0);
+    EXPECT_EQ(written(), allFiles);
 }
 
 TEST_F(KvprintTest, BadInputIsNamedAndNothingIsWritten)
