@@ -237,8 +237,8 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
         return ExitStatus::Failed;
     }
     if (!m_command.quiet)
-        m_console.out(
-            requestIdLine(sender.queue(), sender.jobId(), qMax(qsizetype(1), m_command.documents.size())));
+        m_console.tellRequestId(sender.queue(), sender.jobId(),
+                                qMax(qsizetype(1), m_command.documents.size()));
     return ExitStatus::Printed;
 }
 

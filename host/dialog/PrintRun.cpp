@@ -179,8 +179,8 @@ ExitStatus PrintRun::runOnQueue()
 ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
 {
     if (!m_command.quiet)
-        m_console.out(
-            requestIdLine(sender.queue(), sender.jobId(), qMax(qsizetype(1), m_command.documents.size())));
+        m_console.tellRequestId(sender.queue(), sender.jobId(),
+                                qMax(qsizetype(1), m_command.documents.size()));
     JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
     window.exec();
     if (const auto &status = window.status()) {
