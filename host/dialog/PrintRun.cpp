@@ -188,6 +188,9 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
             m_console.complain(status->sentences().join(u' '));
             return ExitStatus::Failed;
         }
+        // The window has closed too soon to be read, as after any job that was printed.
+        if (status->isForgotten && status->state == host::JobState::Completed)
+            m_console.complain(status->sentences().join(u' '));
         if (status->state == host::JobState::Cancelled)
             return ExitStatus::Cancelled;
     }

@@ -108,6 +108,37 @@ TEST_F(PrintingTest, AJobIsFollowedThroughAnEmptyRollToItsEnd)
     EXPECT_EQ(last.sentences(), QStringList{QStringLiteral("Printed.")});
 }
 
+TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
+{
+    cupsd.configure("PreserveJobHistory No\n");
+    for (const bool isTakenBack : {false, true}) {
+        cupsd.pause(QStringLiteral("tape"));
+        const Outcome outcome = print(ticket());
+        ASSERT_TRUE(outcome.jobId);
+        host::JobMonitor monitor(server, QStringLiteral("tape"), *outcome.jobId,
+                                 std::chrono::milliseconds(10));
+        JobStatus last;
+        QStringList problems;
+        QObject::connect(&monitor, &host::JobMonitor::changed,
+                         [&](const JobStatus &status) { last = status; });
+        QObject::connect(&monitor, &host::JobMonitor::failed,
+                         [&](const host::CupsError &error) { problems.append(error.message); });
+        EXPECT_TRUE(waitFor([&] { return last.jobId != 0; }));
+        if (isTakenBack)
+            monitor.cancelJob();
+        else
+            cupsd.resume(QStringLiteral("tape"));
+        EXPECT_TRUE(waitFor([&] { return last.isOver(); }));
+        EXPECT_EQ(last.state, isTakenBack ? JobState::Cancelled : JobState::Completed);
+        EXPECT_EQ(last.sentences(),
+                  QStringList{isTakenBack ? QStringLiteral("Cancelled.")
+                                          : QStringLiteral(
+                                                "The job is over; the print server keeps no record of it.")});
+        EXPECT_EQ(problems, QStringList());
+    }
+    EXPECT_EQ(cupsd.waitForDocuments(1).size(), 1U);
+}
+
 TEST_F(PrintingTest, AJobCanBeTakenBackAfterIt)
 {
     cupsd.pause(QStringLiteral("tape"));
