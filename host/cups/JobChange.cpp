@@ -39,7 +39,7 @@ std::vector<JobOption> changedOptions(const JobChange &change)
     if (settings.collate)
         choices.push_back({"collate", *settings.collate == Collate::Yes ? "true" : "false"});
     if (change.title)
-        choices.push_back({"job-name", change.title->toUtf8()});
+        choices.push_back({"job-name", sendableTitle(*change.title).toUtf8()});
     return makeJobOptions({}, nullptr, choices, settings);
 }
 

@@ -2,6 +2,7 @@
 #include "Attributes.h"
 #include "PrintingTest.h"
 
+#include <host/cups/JobChange.h>
 #include <host/cups/JobMonitor.h>
 #include <host/cups/LpCommand.h>
 
@@ -106,6 +107,37 @@ TEST_F(PrintingTest, AJobIsFollowedThroughAnEmptyRollToItsEnd)
     cupsd.setMediaEmpty(false);
     EXPECT_TRUE(waitFor([&] { return last.isOver(); }));
     EXPECT_EQ(last.sentences(), QStringList{QStringLiteral("Printed.")});
+}
+
+TEST_F(PrintingTest, ATitleThatIsTooLongIsCutBetweenCharacters)
+{
+    cupsd.pause(QStringLiteral("tape"));
+    const struct {
+        QString title;
+        QString sent;
+    } rows[] = {
+        {QString(255, u'x'), QString(255, u'x')},
+        {QString(256, u'x'), QString(255, u'x')},
+        {QString(200, u'ä'), QString(127, u'ä')},
+        {QStringLiteral("x") + QStringLiteral("😀").repeated(80),
+         QStringLiteral("x") + QStringLiteral("😀").repeated(63)},
+        // A letter with its accent: three bytes that are one character.
+        {QStringLiteral("xx") + QStringLiteral("e\u0301").repeated(100),
+         QStringLiteral("xx") + QStringLiteral("e\u0301").repeated(84)},
+        {QStringLiteral("e") + QString(300, QChar(0x0301)),
+         QStringLiteral("e") + QString(127, QChar(0x0301))},
+    };
+    for (const auto &row : rows) {
+        JobTicket job = ticket();
+        job.title = row.title;
+        const Outcome outcome = print(job);
+        ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
+        EXPECT_EQ(jobAttributes(server, *outcome.jobId).value("job-name"), row.sent.toUtf8());
+        host::BackgroundTask task;
+        EXPECT_FALSE(changeJob(server, {.jobId = *outcome.jobId, .title = u'y' + row.title}, task));
+        const QByteArray changed = jobAttributes(server, *outcome.jobId).value("job-name");
+        EXPECT_TRUE(changed.startsWith('y') && changed.size() <= 255) << changed.toStdString();
+    }
 }
 
 TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
