@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QImage>
 
+#include <random>
+
 using test_support::RecordedDocument;
 
 KvprintTest::KvprintTest()
@@ -46,6 +48,19 @@ QString KvprintTest::picture(const QString &name) const
     image.fill(Qt::white);
     image.setPixel(1, 1, 0);
     EXPECT_TRUE(image.save(path)) << qPrintable(path);
+    return path;
+}
+
+QString KvprintTest::largePicture() const
+{
+    QImage noise(300, 600, QImage::Format_RGB32);
+    std::minstd_rand random(1); // NOLINT: the same picture every time
+    for (int y = 0; y < noise.height(); ++y) {
+        for (int x = 0; x < noise.width(); ++x)
+            noise.setPixel(x, y, static_cast<uint>(random()));
+    }
+    const QString path = folder.filePath(QStringLiteral("noise.png"));
+    EXPECT_TRUE(noise.save(path));
     return path;
 }
 

@@ -3,10 +3,7 @@
 
 #include <FaultyServer.h>
 
-#include <QImage>
 #include <QProcess>
-
-#include <random>
 
 namespace {
 
@@ -22,20 +19,6 @@ bool isOver(int state)
 class KvprintFaults : public KvprintTest {
 protected:
     KvprintFaults() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
-
-    /// A picture that no packing makes smaller than some hundred thousand bytes.
-    QString largePicture() const
-    {
-        QImage noise(300, 600, QImage::Format_RGB32);
-        std::minstd_rand random(1); // NOLINT: the same picture every time
-        for (int y = 0; y < noise.height(); ++y) {
-            for (int x = 0; x < noise.width(); ++x)
-                noise.setPixel(x, y, static_cast<uint>(random()));
-        }
-        const QString path = folder.filePath(QStringLiteral("noise.png"));
-        EXPECT_TRUE(noise.save(path));
-        return path;
-    }
 
     /// Runs against another address than the server's; must fail and say the words.
     void expectFailureAt(const QString &address, const QString &document, const char *messagePart) const
