@@ -66,7 +66,9 @@ void FaultyServer::serve(QTcpSocket *client)
     QObject::connect(real, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::errorOccurred, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::readyRead, client, [this, client, real] {
-        if (client->property("holding").toBool())
+        const bool isSilent =
+            m_faults.silentAfter > 0 && client->property("taken").toLongLong() > m_faults.silentAfter;
+        if (isSilent || client->property("holding").toBool())
             return;
         // The encouragement to go on with a request is no answer yet.
         const bool isEncouragement = real->bytesAvailable() == encouragement.size();

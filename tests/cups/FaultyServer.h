@@ -15,6 +15,9 @@ class QTcpSocket;
 struct Faults {
     /// Accepts connections and never says a word.
     bool silent = false;
+    /// Passes on all that the client says but none of the answers to it, on every connection on which more
+    /// bytes than these have come; 0 never.
+    qint64 silentAfter = 0;
     /// Waits before each answer, in milliseconds.
     int delay = 0;
     /// Pauses between an answer's header and its content and in the middle of the content, in milliseconds.

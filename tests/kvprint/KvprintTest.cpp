@@ -107,7 +107,9 @@ QMap<int, int> KvprintTest::jobStates() const
     http_t *const http = httpConnect2("127.0.0.1", cupsd.port(), nullptr, AF_UNSPEC,
                                       HTTP_ENCRYPTION_IF_REQUESTED, 1, 10000, nullptr);
     cups_job_t *jobs = nullptr;
-    const int count = http ? cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL) : 0;
+    const int count = http ? cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL) : -1;
+    // Two answers of a server that is gone would be equal, and without a job.
+    EXPECT_GE(count, 0) << "the server tells nothing of its jobs";
     for (int i = 0; i < count; ++i)
         states.insert(jobs[i].id, jobs[i].state);
     cupsFreeJobs(qMax(count, 0), jobs);

@@ -59,7 +59,21 @@ TEST_F(KvprintFaults, AServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});
     expectFailureAt(silent.address(), picture(), "does not answer");
+    EXPECT_GT(silent.connectionCount(), 0);
+}
+
+TEST_F(KvprintFaults, AServerThatFallsSilentWhenItHasTheDocument)
+{
+    cupsd.pause(tape);
+    const FaultyServer silent(cupsd.port(), {.silentAfter = 100000});
+    expectFailureAt(silent.address(), largePicture(), "does not answer");
+    // It has the whole document and would print it.
+    EXPECT_EQ(jobAttributes(1).value("number-of-documents"), "1");
+    cupsd.resume(tape);
     expectNothingPrinted();
+    // Nor would it have been printed since: what comes later is done.
+    const int next = print({QStringLiteral("-d"), tape}).jobId();
+    EXPECT_EQ(recorded(1).firstKey(), next);
 }
 
 TEST_F(KvprintFaults, AServerThatIsSlowPrintsOnce)
