@@ -5,6 +5,9 @@
 
 #include <array>
 
+#include <linux/sockios.h>
+#include <sys/ioctl.h>
+
 namespace host {
 
 namespace {
@@ -15,6 +18,13 @@ struct Text {
 
 /// How often the task is looked at while the server is silent, in seconds.
 constexpr double lookInterval = 0.1;
+
+/// How many bytes the system still holds that were written to the server and have not reached it.
+int unsentBytes(http_t *http)
+{
+    int bytes = 0;
+    return ioctl(httpGetFd(http), SIOCOUTQ, &bytes) == 0 ? bytes : 0;
+}
 
 CupsFailure failureFor(ipp_status_t status)
 {
@@ -101,9 +111,15 @@ bool CupsConnection::connect()
     return true;
 }
 
-int CupsConnection::mayWaitOn(http_t *, void *data)
+int CupsConnection::mayWaitOn(http_t *http, void *data)
 {
     State &state = *static_cast<State *>(data);
+    // The system takes megabytes at once that a slow link carries for a long time; a server that takes them
+    // up is not silent.
+    const int unsent = unsentBytes(http);
+    if (unsent < state.unsent)
+        state.silence.start();
+    state.unsent = unsent;
     state.wasSilent = state.silence.hasExpired(state.server.patience.count());
     return !state.wasSilent && (state.finishesFirst || !state.task->isCancelled());
 }

@@ -20,8 +20,8 @@ struct IppDelete {
 using IppPointer = std::unique_ptr<ipp_t, IppDelete>;
 
 /// A connection to a CUPS server for one task in the background. It gives up as soon as the task is
-/// cancelled, or when the server has been silent for longer than the server's patience; libcups alone
-/// would wait for a minute and more.
+/// cancelled, or when the server has been silent for longer than the server's patience, neither saying nor
+/// taking anything; libcups alone would wait for a minute and more.
 class CupsConnection {
 public:
     /// Connects; must be called on the task's thread, whose libcups settings it sets. The task must outlive
@@ -73,6 +73,8 @@ private:
         CupsServer server;
         BackgroundTask *task = nullptr;
         QElapsedTimer silence;
+        /// The bytes on their way to the server when it was last looked at.
+        int unsent = 0;
         bool wasSilent = false;
         /// What is on its way is waited for even when the task is cancelled.
         bool finishesFirst = false;

@@ -4,6 +4,7 @@
 #include "JobTicket.h"
 
 #include <QCoreApplication>
+#include <QUrl>
 
 namespace host {
 
@@ -36,8 +37,14 @@ std::vector<JobOption> changedOptions(const JobChange &change)
         settings.hold.reset();
     std::vector<JobChoice> choices = change.options;
     if (change.title)
-        choices.push_back({"job-name", change.title->toUtf8()});
+        choices.push_back({"job-name", sendableTitle(*change.title).toUtf8()});
     return makeJobOptions({}, nullptr, choices, settings);
+}
+
+/// The job's own address, by which one that was moved to another queue is found too.
+QByteArray jobUri(int jobId)
+{
+    return "ipp://localhost/jobs/" + QByteArray::number(jobId);
 }
 
 /// Requests about one job over one connection.
@@ -54,9 +61,8 @@ public:
                                   const QByteArray &hold)
     {
         IppPointer request = m_connection.newRequest(operation);
-        // By the job's own address, so that one that was moved to another queue is found too.
-        const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(m_jobId);
-        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
+                     jobUri(m_jobId).constData());
         encodeJobOptions(request.get(), options);
         // To RFC 8011 a time of day is no keyword but a name, and here the server insists on that.
         if (!hold.isEmpty())
@@ -101,14 +107,35 @@ bool JobChange::isEmpty() const
     return !isRestart(*this) && holdUntil(*this).isEmpty() && changedOptions(*this).empty();
 }
 
+CupsError notChanged(int jobId, CupsError reason)
+{
+    reason.message = Text::tr("Job %1 was not changed. %2").arg(jobId).arg(reason.message);
+    return reason;
+}
+
+Result<QString, CupsError> queueOfJob(const CupsServer &server, int jobId, BackgroundTask &task)
+{
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return connection.error();
+    IppPointer request = connection.value().newRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
+                 jobUri(jobId).constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "job-printer-uri");
+    const Result<IppPointer, CupsError> answer = connection.value().exchange(std::move(request), "/jobs");
+    if (!answer)
+        return answer.error();
+    const char *const uri =
+        ippGetString(ippFindAttribute(answer.value().get(), "job-printer-uri", IPP_TAG_URI), 0, nullptr);
+    return QUrl(QString::fromUtf8(uri)).fileName();
+}
+
 std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task)
 {
     if (change.isEmpty())
         return std::nullopt;
-    const auto told = [&](CupsError error) {
-        error.message = Text::tr("Job %1 was not changed. %2").arg(change.jobId).arg(error.message);
-        return error;
-    };
+    const auto told = [&](const CupsError &error) { return notChanged(change.jobId, error); };
     const std::vector<JobOption> options = changedOptions(change);
     if (const JobOption *const option = findUnsendable(options))
         return told({CupsFailure::Refused,

@@ -28,4 +28,10 @@ struct JobChange {
 /// the job is printed; if they are refused, it is held.
 std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task);
 
+/// The queue or class that the job is in now, or why nobody knows. For tasks in the background.
+Result<QString, CupsError> queueOfJob(const CupsServer &server, int jobId, BackgroundTask &task);
+
+/// The reason with what it means for the job: that it was not changed.
+CupsError notChanged(int jobId, CupsError reason);
+
 } // namespace host

@@ -15,14 +15,17 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
     m_background.start([this, server, queue, jobId, pause](BackgroundTask &task) {
         std::optional<JobStatus> last;
         std::optional<CupsFailure> lastFailure;
-        const auto isDone = [&] {
-            return task.isCancelled() || (last && last->isOver()) || lastFailure == CupsFailure::NotFound;
-        };
+        const auto isDone = [&] { return task.isCancelled() || (last && last->isOver()); };
         for (; !isDone(); task.pause(isDone() ? std::chrono::milliseconds(0) : pause)) {
             Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
             const Result<JobStatus, CupsError> now =
                 connection ? queryJob(connection.value(), queue, jobId) : connection.error();
-            if (now && (last != now.value() || lastFailure)) {
+            if (!now && now.error().kind == CupsFailure::NotFound) {
+                // It was there, since the server gave it its number.
+                last = JobStatus{
+                    .jobId = jobId, .queue = queue, .state = JobState::Completed, .isForgotten = true};
+                task.deliver([this, status = *last] { tellForgotten(status); });
+            } else if (now && (last != now.value() || lastFailure)) {
                 last = now.value();
                 lastFailure.reset();
                 task.deliver([this, status = *last] { Q_EMIT changed(status); });
@@ -34,12 +37,23 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
     });
 }
 
+void JobMonitor::tellForgotten(JobStatus status)
+{
+    if (m_isTakingBack)
+        status.state = JobState::Cancelled;
+    Q_EMIT changed(status);
+}
+
 void JobMonitor::cancelJob()
 {
+    m_isTakingBack = true;
     m_server.passwords->forgetRefusal();
     m_background.start([this, server = m_server, queue = m_queue, jobId = m_jobId](BackgroundTask &task) {
         if (const std::optional<CupsError> error = host::cancelJob(server, queue, jobId, task))
-            task.deliver([this, error = *error] { Q_EMIT failed(error); });
+            task.deliver([this, error = *error] {
+                m_isTakingBack = false;
+                Q_EMIT failed(error);
+            });
     });
 }
 

@@ -6,7 +6,7 @@
 
 namespace host {
 
-/// Follows a job to its end, for as long as it lives.
+/// Follows a job that the server has taken to its end, for as long as it lives.
 class JobMonitor : public QObject {
     Q_OBJECT
 
@@ -19,16 +19,20 @@ public:
     void cancelJob();
 
 Q_SIGNALS:
-    /// The job as it is now; the first answer, and whenever something is different. The last one is over.
+    /// The job as it is now; the first answer, and whenever something is different. The last one is over; a
+    /// job of which the server keeps no record is completed, or cancelled after cancelJob().
     void changed(const host::JobStatus &status);
-    /// The server cannot be asked, or has forgotten the job. Told once; the monitor goes on asking, unless
-    /// the job is forgotten.
+    /// The server cannot be asked, or the job cannot be taken back. Told once; the monitor goes on asking.
     void failed(const host::CupsError &error);
 
 private:
+    void tellForgotten(JobStatus status);
+
     CupsServer m_server;
     QString m_queue;
     int m_jobId;
+    /// cancelJob() was called and has not failed.
+    bool m_isTakingBack = false;
     Background m_background;
 };
 

@@ -54,6 +54,8 @@ QString stateSentence(const JobStatus &job)
     case JobState::Aborted:
         return Text::tr("Given up by the print server.");
     case JobState::Completed:
+        if (job.isForgotten)
+            return Text::tr("The job is over; the print server keeps no record of it.");
         return Text::tr("Printed.");
     }
     return {};

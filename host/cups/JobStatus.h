@@ -24,15 +24,18 @@ struct JobStatus {
     QString queue;
     JobState state = JobState::Waiting;
     /// IPP's keywords, "job-hold-until-specified"; never "none".
-    QStringList reasons;
+    QStringList reasons = {};
     /// The printer's, "media-empty-error".
-    QStringList printerReasons;
+    QStringList printerReasons = {};
     /// The server's own words.
-    QString message;
+    QString message = {};
     /// Until when the job is held, as in "job-hold-until".
-    QString heldUntil;
+    QString heldUntil = {};
     /// Labels that have come out, as far as the printer tells.
     int sheetsCompleted = 0;
+    /// The server has had the job and knows nothing of it any more, as servers do that keep no history. How
+    /// it came to its end nobody can tell.
+    bool isForgotten = false;
 
     /// Nothing will happen to the job any more.
     bool isOver() const { return state >= JobState::Cancelled; }

@@ -1,9 +1,35 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobTicket.h"
 
+#include <QTextBoundaryFinder>
+
 #include <cups/cups.h>
 
 namespace host {
+
+QString sendableTitle(const QString &title)
+{
+    constexpr qsizetype mostBytes = 255;
+    const QByteArray all = title.toUtf8();
+    if (all.size() <= mostBytes)
+        return title;
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, title);
+    qsizetype end = 0;
+    qsizetype bytes = 0;
+    for (qsizetype next = characters.toNextBoundary(); next > 0; next = characters.toNextBoundary()) {
+        bytes += QStringView(title).sliced(end, next - end).toUtf8().size();
+        if (bytes > mostBytes)
+            break;
+        end = next;
+    }
+    if (end > 0)
+        return title.first(end);
+    // Marks without end on one letter: then between two of them.
+    qsizetype length = mostBytes;
+    while ((all[length] & 0xC0) == 0x80)
+        --length;
+    return QString::fromUtf8(all.first(length));
+}
 
 bool isSentAsName(const JobOption &option)
 {

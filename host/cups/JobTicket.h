@@ -27,13 +27,17 @@ struct JobDocument {
 /// A job, ready to be sent.
 struct JobTicket {
     Destination destination;
-    /// The job's name, as it is shown in the queue.
+    /// The job's name, as it is shown in the queue: see sendableTitle().
     QString title;
     /// As makeJobOptions() made them; only those marked as sent are.
     std::vector<JobOption> options;
     /// Printed in this order.
     std::vector<JobDocument> documents;
 };
+
+/// The job's name, or as much of its beginning as print servers take: 255 bytes of UTF-8. Of a longer one
+/// they would keep nothing at all. Never cut within what is read as one character.
+QString sendableTitle(const QString &title);
 
 /// Puts the options that are sent into a Create-Job request, with the syntax that lp gives them; except where
 /// that would not arrive at the printer's filters: see isSentAsName().

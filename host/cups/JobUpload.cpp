@@ -29,7 +29,7 @@ public:
     {
         IppPointer request = m_connection.newRequest(IPP_OP_CREATE_JOB, m_ticket.destination.queue);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                     m_ticket.title.toUtf8().constData());
+                     sendableTitle(m_ticket.title).toUtf8().constData());
         encodeJobOptions(request.get(), m_ticket.options);
         const Result<IppPointer, CupsError> answer =
             m_connection.exchangeToTheEnd(std::move(request), queueResource(m_ticket.destination.queue));

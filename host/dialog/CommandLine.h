@@ -25,6 +25,10 @@ enum class ExitStatus {
     WrongUsage = 2,
     PrintedWithoutPanel = 3,
     Cancelled = 4,
+    /// Ended by a signal: 128 and its number, as shells say it.
+    HungUp = 129,
+    Interrupted = 130,
+    Terminated = 143,
 };
 
 /// What a run of the program is for.

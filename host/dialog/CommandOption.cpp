@@ -151,7 +151,7 @@ constexpr CommandOption options[] = {
     {0, "force", nullptr,
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "Sends even what the printer does not have, and what conflicts."),
-     sending, Any, takeFlag<&CommandLine::force>},
+     sending | bit(Task::ChangeJob), Any, takeFlag<&CommandLine::force>},
     {0, "screenshot", "OUT.png",
      QT_TRANSLATE_NOOP("dialog::CommandLine", "Saves a picture of the dialog, as it opens, in a PNG file."),
      documents, Any, takeText<&CommandLine::screenshot>},

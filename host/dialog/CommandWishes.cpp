@@ -35,10 +35,4 @@ host::PanelSource panelSource(const CommandLine &command)
     return {command.bundle, QLocale().uiLanguages()};
 }
 
-QString requestIdLine(const QString &queue, int jobId, qsizetype documents)
-{
-    // Not translated: scripts read it.
-    return QStringLiteral("request id is %1-%2 (%3 file(s))\n").arg(queue).arg(jobId).arg(documents);
-}
-
 } // namespace dialog

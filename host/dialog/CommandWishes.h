@@ -17,7 +17,4 @@ host::SetupWishes setupWishes(const CommandLine &command);
 /// Where the panel is looked for.
 host::PanelSource panelSource(const CommandLine &command);
 
-/// The line that lp writes when a job is sent: programs that start lp look for it.
-QString requestIdLine(const QString &queue, int jobId, qsizetype documents);
-
 } // namespace dialog

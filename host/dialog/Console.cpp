@@ -5,9 +5,26 @@
 
 namespace dialog {
 
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::Console)
+};
+
+} // namespace
+
 void Console::complain(const QString &message) const
 {
     error(QCoreApplication::applicationName() + QStringLiteral(": ") + message + u'\n');
+}
+
+void Console::tellRequestId(const QString &queue, int jobId, qsizetype documents) const
+{
+    // lp's line, for programs that start lp look for it; not translated.
+    const QString line =
+        QStringLiteral("request id is %1-%2 (%3 file(s))\n").arg(queue).arg(jobId).arg(documents);
+    if (!out(line))
+        complain(Text::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
 }
 
 } // namespace dialog

@@ -9,13 +9,16 @@ namespace dialog {
 
 /// Where a run of the program writes what it has to say.
 struct Console {
-    /// Data and results.
-    std::function<void(const QString &)> out;
+    /// Data and results. False when they cannot be written; that has been told then.
+    std::function<bool(const QString &)> out;
     /// Messages for people.
     std::function<void(const QString &)> error;
 
     /// Writes the message as a line of the program's.
     void complain(const QString &message) const;
+    /// Writes the line by which scripts know a job that was sent; among the messages where it cannot be
+    /// written, lest somebody print once more.
+    void tellRequestId(const QString &queue, int jobId, qsizetype documents) const;
 };
 
 } // namespace dialog

@@ -33,8 +33,9 @@ bool isPpdKnown(const host::QueueSession &session)
            session.ppdKnowledge() != host::PpdKnowledge::Cached;
 }
 
-/// Runs the event loop until the condition holds, or as long as the patience lasts; answers whether it holds.
-bool waitUntil(host::QueueSession &session, const std::function<bool()> &holds,
+/// Runs the event loop until the condition holds or a signal comes, or as long as the patience lasts; answers
+/// whether it holds.
+bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::function<bool()> &holds,
                std::optional<std::chrono::milliseconds> patience = std::nullopt)
 {
     QEventLoop loop;
@@ -45,11 +46,17 @@ bool waitUntil(host::QueueSession &session, const std::function<bool()> &holds,
     QObject::connect(&session, &host::QueueSession::settled, &loop, look);
     QObject::connect(&session, &host::QueueSession::chosenChanged, &loop, look);
     QObject::connect(&session, &host::QueueSession::ppdChanged, &loop, look);
+    QObject::connect(&watch, &SignalWatch::caught, &loop, &QEventLoop::quit);
     if (patience)
         QTimer::singleShot(*patience, &loop, &QEventLoop::quit);
-    if (!holds())
+    if (!holds() && !watch.signal())
         loop.exec();
     return holds();
+}
+
+ExitStatus statusOf(int signal)
+{
+    return static_cast<ExitStatus>(128 + signal);
 }
 
 /// The strip for the summary; null where nobody knows of cuts.
@@ -79,14 +86,17 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     QObject::connect(&session, &host::QueueSession::failed, &keeper,
                      [&](const host::CupsError &error) { failure = error; });
     session.start(host::Discovery::No);
-    waitUntil(session, [&] { return session.isSettled() && (!session.chosen() || isPpdKnown(session)); });
+    waitUntil(session, m_signals,
+              [&] { return session.isSettled() && (!session.chosen() || isPpdKnown(session)); });
     const bool mayBeDiscovered = !session.chosen() && failure && failure->kind == host::CupsFailure::NotFound;
     if (mayBeDiscovered) {
         session.start(host::Discovery::Yes);
         const auto isThere = [&] { return session.chosen() && isPpdKnown(session); };
-        if (waitUntil(session, isThere, discoveryPatience))
+        if (waitUntil(session, m_signals, isThere, discoveryPatience))
             failure.reset();
     }
+    if (m_signals.signal())
+        return nullptr;
     if (!failure && !session.chosen())
         failure = host::CupsError{
             host::CupsFailure::NotFound,
@@ -174,6 +184,8 @@ ExitStatus HeadlessRun::run()
     host::PrinterSetup *const setup = waitForSetup(session, keeper);
     // From here on the printer stays as it was found, whatever the server tells meanwhile.
     QObject::disconnect(&session, nullptr, &keeper, nullptr);
+    if (const std::optional<int> signal = m_signals.signal())
+        return endedBy(*signal);
     if (!setup || !accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
     const std::optional<host::JobDraft> draft = makeDraft(*setup);
@@ -202,6 +214,12 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::JobD
     return send(setup, draft);
 }
 
+ExitStatus HeadlessRun::endedBy(int signal) const
+{
+    m_console.complain(Text::tr("Stopped by a signal; nothing was printed."));
+    return statusOf(signal);
+}
+
 ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDraft &draft)
 {
     QueueSender sender(m_server);
@@ -212,15 +230,22 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
         problem = text;
         loop.quit();
     });
+    QObject::connect(&m_signals, &SignalWatch::caught, &sender, &JobSender::cancel);
+    if (const std::optional<int> signal = m_signals.signal())
+        return endedBy(*signal);
     sender.send({setup, *m_document, draft, nullptr});
     loop.exec();
+    const std::optional<int> signal = m_signals.signal();
+    // Nothing is said of what was given up on request, by the signal.
+    if (problem && signal && problem->isEmpty())
+        return endedBy(*signal);
     if (problem) {
         m_console.complain(*problem);
-        return ExitStatus::Failed;
+        return signal ? statusOf(*signal) : ExitStatus::Failed;
     }
     if (!m_command.quiet)
-        m_console.out(
-            requestIdLine(sender.queue(), sender.jobId(), qMax(qsizetype(1), m_command.documents.size())));
+        m_console.tellRequestId(sender.queue(), sender.jobId(),
+                                qMax(qsizetype(1), m_command.documents.size()));
     return ExitStatus::Printed;
 }
 

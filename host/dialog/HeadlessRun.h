@@ -3,6 +3,7 @@
 
 #include "CommandLine.h"
 #include "Console.h"
+#include "SignalWatch.h"
 
 #include <host/cups/CupsServer.h>
 #include <host/setup/SetupJob.h>
@@ -29,6 +30,8 @@ private:
     /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be
     /// saved.
     bool takeScreenshot(host::SetupKeeper &keeper) const;
+    /// What the signal makes of the run; tells it.
+    ExitStatus endedBy(int signal) const;
     ExitStatus finish(const host::PrinterSetup &setup, const host::JobDraft &draft);
     ExitStatus send(const host::PrinterSetup &setup, const host::JobDraft &draft);
 
@@ -36,6 +39,8 @@ private:
     const Console &m_console;
     host::CupsServer m_server;
     std::shared_ptr<const host::LabelDocument> m_document;
+    /// Half a job must not be left on the server, nor files among the system's temporary ones.
+    SignalWatch m_signals;
 };
 
 } // namespace dialog

@@ -193,8 +193,8 @@ ExitStatus PrintRun::runOnQueue()
 ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
 {
     if (!m_command.quiet)
-        m_console.out(
-            requestIdLine(sender.queue(), sender.jobId(), qMax(qsizetype(1), m_command.documents.size())));
+        m_console.tellRequestId(sender.queue(), sender.jobId(),
+                                qMax(qsizetype(1), m_command.documents.size()));
     JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
     window.exec();
     if (const auto &status = window.status()) {
@@ -202,6 +202,9 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
             m_console.complain(status->sentences().join(u' '));
             return ExitStatus::Failed;
         }
+        // The window has closed too soon to be read, as after any job that was printed.
+        if (status->isForgotten && status->state == host::JobState::Completed)
+            m_console.complain(status->sentences().join(u' '));
         if (status->state == host::JobState::Cancelled)
             return ExitStatus::Cancelled;
     }

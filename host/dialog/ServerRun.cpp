@@ -3,12 +3,34 @@
 
 #include "DestinationReport.h"
 
+#include <host/cups/ChoiceCheck.h>
 #include <host/cups/DestinationList.h>
-#include <host/cups/JobChange.h>
+#include <host/cups/PpdLoader.h>
 
 #include <QEventLoop>
 
 namespace dialog {
+
+namespace {
+
+/// Runs the work in the background and the event loop meanwhile; answers what came of it.
+template<typename Work>
+auto outcomeOf(Work work)
+{
+    host::Background background;
+    QEventLoop loop;
+    std::optional<decltype(work(std::declval<host::BackgroundTask &>()))> outcome;
+    background.start([&, work](host::BackgroundTask &task) {
+        task.deliver([&, now = work(task)] {
+            outcome = now;
+            loop.quit();
+        });
+    });
+    loop.exec();
+    return *outcome;
+}
+
+} // namespace
 
 ServerRun::ServerRun(const CommandLine &command, const Console &console, host::CupsServer server)
     : m_command(command)
@@ -43,22 +65,63 @@ ExitStatus ServerRun::tellDestinations()
     return ExitStatus::Printed;
 }
 
+host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ServerRun::ppdOfJob(int jobId)
+{
+    const auto queue = outcomeOf([server = m_server, jobId](host::BackgroundTask &task) {
+        return host::queueOfJob(server, jobId, task);
+    });
+    if (!queue)
+        return queue.error();
+    host::Destination destination;
+    destination.queue = queue.value();
+    host::PpdLoader loader(m_server);
+    QEventLoop loop;
+    std::shared_ptr<host::PpdFile> ppd;
+    std::optional<host::CupsError> failure;
+    QObject::connect(&loader, &host::PpdLoader::loaded, &loop, [&](const QString &, const auto &loaded) {
+        ppd = loaded;
+        loop.quit();
+    });
+    QObject::connect(&loader, &host::PpdLoader::absent, &loop, &QEventLoop::quit);
+    QObject::connect(&loader, &host::PpdLoader::failed, &loop,
+                     [&](const QString &, const host::CupsError &error) {
+                         failure = error;
+                         loop.quit();
+                     });
+    loader.load(destination);
+    loop.exec();
+    if (failure)
+        return *failure;
+    return ppd;
+}
+
+bool ServerRun::printerHas(const host::JobChange &change)
+{
+    const auto ppd = ppdOfJob(change.jobId);
+    if (!ppd) {
+        m_console.complain(host::notChanged(change.jobId, ppd.error()).message);
+        return false;
+    }
+    bool hasAll = true;
+    for (const host::JobChoice &choice : change.options) {
+        const auto refusal = ppd.value() ? host::checkChoice(*ppd.value(), choice) : std::nullopt;
+        if (refusal)
+            m_console.complain(refusal->message);
+        hasAll = hasAll && !refusal;
+    }
+    return hasAll;
+}
+
 ExitStatus ServerRun::changeJob()
 {
     host::JobChange change{*m_command.jobToChange, m_command.title, m_command.options, m_command.settings};
     if (m_command.paper)
         change.options.push_back({"PageSize", *m_command.paper});
-    host::Background background;
-    QEventLoop loop;
-    std::optional<host::CupsError> failure;
-    background.start([&, server = m_server, change](host::BackgroundTask &task) {
-        const std::optional<host::CupsError> error = host::changeJob(server, change, task);
-        task.deliver([&, error] {
-            failure = error;
-            loop.quit();
-        });
+    if (!m_command.force && !change.options.empty() && !printerHas(change))
+        return ExitStatus::Failed;
+    const auto failure = outcomeOf([server = m_server, change](host::BackgroundTask &task) {
+        return host::changeJob(server, change, task);
     });
-    loop.exec();
     if (!failure)
         return ExitStatus::Printed;
     m_console.complain(failure->message);

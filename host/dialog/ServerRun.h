@@ -4,7 +4,10 @@
 #include "CommandLine.h"
 #include "Console.h"
 
-#include <host/cups/CupsServer.h>
+#include <host/PpdFile.h>
+#include <host/cups/JobChange.h>
+
+#include <memory>
 
 namespace dialog {
 
@@ -18,6 +21,11 @@ public:
 private:
     ExitStatus tellDestinations();
     ExitStatus changeJob();
+    /// Whether the job's printer has all that is to be changed, or nobody can tell because it has no PPD;
+    /// tells what it does not have.
+    bool printerHas(const host::JobChange &change);
+    /// Of the queue that the job is in; null when that has none.
+    host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ppdOfJob(int jobId);
 
     const CommandLine &m_command;
     const Console &m_console;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintRun.h"
+#include "StandardStreams.h"
 #include "Translations.h"
 
 #include <host/cups/Background.h>
@@ -8,7 +9,6 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <thread>
 
@@ -51,28 +51,25 @@ void passOnMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         usualHandler(type, context, message);
 }
 
-void write(std::FILE *stream, const QString &text)
+/// Nobody may take a part of the output for all of it.
+int status(dialog::ExitStatus status, const dialog::StandardStreams &streams)
 {
-    const QByteArray bytes = text.toLocal8Bit();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
-    std::fflush(stream);
+    const bool seemsGood =
+        status == dialog::ExitStatus::Printed || status == dialog::ExitStatus::PrintedWithoutPanel;
+    return static_cast<int>(seemsGood && streams.isOutputIncomplete() ? dialog::ExitStatus::Failed : status);
 }
 
-int status(dialog::ExitStatus status)
-{
-    return static_cast<int>(status);
-}
-
-int refuse(const dialog::UsageError &error)
+dialog::ExitStatus refuse(const dialog::UsageError &error, dialog::StandardStreams &streams)
 {
     if (error.kind != dialog::UsageProblem::Wrong) {
-        write(stdout, error.message);
-        return status(dialog::ExitStatus::Printed);
+        streams.out(error.message);
+        return dialog::ExitStatus::Printed;
     }
-    write(stderr, QStringLiteral("kvprint: %1\n%2\n")
-                      .arg(error.message,
-                           QCoreApplication::translate("dialog::CommandLine", "Try \"kvprint --help\".")));
-    return status(dialog::ExitStatus::WrongUsage);
+    dialog::StandardStreams::error(
+        QStringLiteral("kvprint: %1\n%2\n")
+            .arg(error.message,
+                 QCoreApplication::translate("dialog::CommandLine", "Try \"kvprint --help\".")));
+    return dialog::ExitStatus::WrongUsage;
 }
 
 } // namespace
@@ -80,6 +77,7 @@ int refuse(const dialog::UsageError &error)
 // NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program either way
 int main(int argc, char **argv)
 {
+    dialog::StandardStreams streams;
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
@@ -101,13 +99,13 @@ int main(int argc, char **argv)
 
     auto command = dialog::CommandLine::parse(arguments);
     if (!command)
-        return refuse(command.error());
+        return status(refuse(command.error(), streams), streams);
     if (const auto error = command.value().checkInput(isatty(STDIN_FILENO) == 1))
-        return refuse(*error);
+        return status(refuse(*error, streams), streams);
     command.value().noDialog = command.value().noDialog || !attended;
-    const dialog::Console console{[](const QString &text) { write(stdout, text); },
-                                  [](const QString &text) { write(stderr, text); }};
-    const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run());
+    const dialog::Console console{[&](const QString &text) { return streams.out(text); },
+                                  dialog::StandardStreams::error};
+    const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run(), streams);
     if (host::Background::wasUsed())
         std::_Exit(outcome);
     return outcome;

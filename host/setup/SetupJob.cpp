@@ -27,7 +27,7 @@ JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, co
 {
     JobTicket ticket;
     ticket.destination = setup.destination();
-    ticket.title = draft.title;
+    ticket.title = sendableTitle(draft.title);
     ticket.options = makeJobOptions(setup.destination(), setup.ppdOrNull(), setup.choices(), draft.settings);
     sendShownPaper(setup, ticket.options);
     for (const DocumentFile &file : document.files())

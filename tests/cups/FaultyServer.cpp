@@ -7,11 +7,15 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/socket.h>
+
 namespace {
 
 const QByteArray encouragement = "HTTP/1.1 100 Continue\r\n\r\n";
+/// How often a slow server takes something, in a second.
+constexpr int takesPerSecond = 50;
 
-}
+} // namespace
 
 FaultyServer::FaultyServer(quint16 realPort, const Faults &faults)
     : m_realPort(realPort)
@@ -19,6 +23,13 @@ FaultyServer::FaultyServer(quint16 realPort, const Faults &faults)
     , m_server(new QTcpServer) // ends with its thread, below
 {
     EXPECT_TRUE(m_server->listen(QHostAddress::LocalHost));
+    if (m_faults.bytesPerSecond > 0) {
+        // The system's own room for what comes would hide how slowly it is read.
+        const int room = 32768;
+        EXPECT_EQ(setsockopt(static_cast<int>(m_server->socketDescriptor()), SOL_SOCKET, SO_RCVBUF, &room,
+                             sizeof room),
+                  0);
+    }
     m_port = m_server->serverPort();
     QObject::connect(m_server, &QTcpServer::newConnection, m_server, [this] {
         while (QTcpSocket *const client = m_server->nextPendingConnection())
@@ -46,13 +57,18 @@ void FaultyServer::serve(QTcpSocket *client)
     if (m_faults.silent)
         return;
     auto *const real = new QTcpSocket(client);
-    QObject::connect(client, &QTcpSocket::readyRead, real,
-                     [this, client, real] { takeFromClient(client, real); });
+    if (m_faults.bytesPerSecond > 0)
+        takeSlowly(client, real);
+    else
+        QObject::connect(client, &QTcpSocket::readyRead, real,
+                         [this, client, real] { take(client->readAll(), client, real); });
     QObject::connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
     QObject::connect(real, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::errorOccurred, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::readyRead, client, [this, client, real] {
-        if (client->property("holding").toBool())
+        const bool isSilent =
+            m_faults.silentAfter > 0 && client->property("taken").toLongLong() > m_faults.silentAfter;
+        if (isSilent || client->property("holding").toBool())
             return;
         // The encouragement to go on with a request is no answer yet.
         const bool isEncouragement = real->bytesAvailable() == encouragement.size();
@@ -83,9 +99,22 @@ void FaultyServer::passInPieces(QTcpSocket *client, QTcpSocket *real) const
     });
 }
 
-void FaultyServer::takeFromClient(QTcpSocket *client, QTcpSocket *real)
+void FaultyServer::takeSlowly(QTcpSocket *client, QTcpSocket *real)
 {
-    const QByteArray bytes = client->readAll();
+    const int most = m_faults.bytesPerSecond / takesPerSecond;
+    client->setReadBufferSize(most);
+    auto *const pace = new QTimer(client);
+    QObject::connect(pace, &QTimer::timeout, real, [this, most, client, real] {
+        const bool stalls =
+            m_faults.stallAfter > 0 && client->property("taken").toLongLong() > m_faults.stallAfter;
+        if (!stalls && client->bytesAvailable() > 0)
+            take(client->read(most), client, real);
+    });
+    pace->start(1000 / takesPerSecond);
+}
+
+void FaultyServer::take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real)
+{
     if (bytes.startsWith("POST ") || bytes.startsWith("GET ")) {
         ++m_requestCount;
         client->setProperty("asked", true);

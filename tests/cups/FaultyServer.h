@@ -15,12 +15,20 @@ class QTcpSocket;
 struct Faults {
     /// Accepts connections and never says a word.
     bool silent = false;
+    /// Passes on all that the client says but none of the answers to it, on every connection on which more
+    /// bytes than these have come; 0 never.
+    qint64 silentAfter = 0;
     /// Waits before each answer, in milliseconds.
     int delay = 0;
     /// Pauses between an answer's header and its content and in the middle of the content, in milliseconds.
     int gap = 0;
     /// Breaks every connection when so many bytes of one have come from the client; 0 never.
     qint64 breakAfter = 0;
+    /// Takes no more than so many bytes in a second from each client, and leaves the rest in the client's
+    /// system, as a slow link does; 0 takes all at once.
+    int bytesPerSecond = 0;
+    /// Takes nothing more from a connection when so many bytes of it have come slowly; 0 never.
+    qint64 stallAfter = 0;
     /// Wants "user:password" before anything else; empty wants none.
     QByteArray credentials = {};
 };
@@ -45,7 +53,8 @@ public:
 private:
     void serve(QTcpSocket *client);
     void passInPieces(QTcpSocket *client, QTcpSocket *real) const;
-    void takeFromClient(QTcpSocket *client, QTcpSocket *real);
+    void takeSlowly(QTcpSocket *client, QTcpSocket *real);
+    void take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real);
 
     const quint16 m_realPort;
     const Faults m_faults;

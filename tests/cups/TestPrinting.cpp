@@ -2,6 +2,7 @@
 #include "Attributes.h"
 #include "PrintingTest.h"
 
+#include <host/cups/JobChange.h>
 #include <host/cups/JobMonitor.h>
 #include <host/cups/LpCommand.h>
 
@@ -106,6 +107,68 @@ TEST_F(PrintingTest, AJobIsFollowedThroughAnEmptyRollToItsEnd)
     cupsd.setMediaEmpty(false);
     EXPECT_TRUE(waitFor([&] { return last.isOver(); }));
     EXPECT_EQ(last.sentences(), QStringList{QStringLiteral("Printed.")});
+}
+
+TEST_F(PrintingTest, ATitleThatIsTooLongIsCutBetweenCharacters)
+{
+    cupsd.pause(QStringLiteral("tape"));
+    const struct {
+        QString title;
+        QString sent;
+    } rows[] = {
+        {QString(255, u'x'), QString(255, u'x')},
+        {QString(256, u'x'), QString(255, u'x')},
+        {QString(200, u'ä'), QString(127, u'ä')},
+        {QStringLiteral("x") + QStringLiteral("😀").repeated(80),
+         QStringLiteral("x") + QStringLiteral("😀").repeated(63)},
+        // A letter with its accent: three bytes that are one character.
+        {QStringLiteral("xx") + QStringLiteral("e\u0301").repeated(100),
+         QStringLiteral("xx") + QStringLiteral("e\u0301").repeated(84)},
+        {QStringLiteral("e") + QString(300, QChar(0x0301)),
+         QStringLiteral("e") + QString(127, QChar(0x0301))},
+    };
+    for (const auto &row : rows) {
+        JobTicket job = ticket();
+        job.title = row.title;
+        const Outcome outcome = print(job);
+        ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
+        EXPECT_EQ(jobAttributes(server, *outcome.jobId).value("job-name"), row.sent.toUtf8());
+        host::BackgroundTask task;
+        EXPECT_FALSE(changeJob(server, {.jobId = *outcome.jobId, .title = u'y' + row.title}, task));
+        const QByteArray changed = jobAttributes(server, *outcome.jobId).value("job-name");
+        EXPECT_TRUE(changed.startsWith('y') && changed.size() <= 255) << changed.toStdString();
+    }
+}
+
+TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
+{
+    cupsd.configure("PreserveJobHistory No\n");
+    for (const bool isTakenBack : {false, true}) {
+        cupsd.pause(QStringLiteral("tape"));
+        const Outcome outcome = print(ticket());
+        ASSERT_TRUE(outcome.jobId);
+        host::JobMonitor monitor(server, QStringLiteral("tape"), *outcome.jobId,
+                                 std::chrono::milliseconds(10));
+        JobStatus last;
+        QStringList problems;
+        QObject::connect(&monitor, &host::JobMonitor::changed,
+                         [&](const JobStatus &status) { last = status; });
+        QObject::connect(&monitor, &host::JobMonitor::failed,
+                         [&](const host::CupsError &error) { problems.append(error.message); });
+        EXPECT_TRUE(waitFor([&] { return last.jobId != 0; }));
+        if (isTakenBack)
+            monitor.cancelJob();
+        else
+            cupsd.resume(QStringLiteral("tape"));
+        EXPECT_TRUE(waitFor([&] { return last.isOver(); }));
+        EXPECT_EQ(last.state, isTakenBack ? JobState::Cancelled : JobState::Completed);
+        EXPECT_EQ(last.sentences(),
+                  QStringList{isTakenBack ? QStringLiteral("Cancelled.")
+                                          : QStringLiteral(
+                                                "The job is over; the print server keeps no record of it.")});
+        EXPECT_EQ(problems, QStringList());
+    }
+    EXPECT_EQ(cupsd.waitForDocuments(1).size(), 1U);
 }
 
 TEST_F(PrintingTest, AJobCanBeTakenBackAfterIt)

@@ -152,6 +152,23 @@ TEST_F(PrintingFaultsTest, AnswersThatComeInPiecesAreWholeAnswers)
     EXPECT_EQ(none.error->kind, CupsFailure::Silent) << qPrintable(none.error->message);
 }
 
+TEST_F(PrintingFaultsTest, ASlowLinkIsWaitedForAsLongAsItTakesSomething)
+{
+    // Our system takes all of it at once; the link carries it for much longer than the patience lasts.
+    JobTicket job = ticket();
+    job.documents = {{document(QStringLiteral("large.txt"), QByteArray(1500000, 'b'))}};
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 500000});
+    const Outcome outcome = print(job, impatient(slow.address()));
+    ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
+    EXPECT_EQ(cupsd.waitForDocuments(1)[0].content.size(), 1500000);
+
+    const FaultyServer stalling(cupsd.port(), {.bytesPerSecond = 500000, .stallAfter = 500000});
+    const Outcome none = print(job, impatient(stalling.address()));
+    ASSERT_TRUE(none.error);
+    EXPECT_EQ(none.error->kind, CupsFailure::Silent) << qPrintable(none.error->message);
+    EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");
+}
+
 TEST_F(PrintingFaultsTest, AJobWhoseDocumentBreaksOffIsTakenBack)
 {
     JobTicket job = ticket();

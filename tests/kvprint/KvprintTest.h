@@ -25,6 +25,8 @@ protected:
     QString file(const QString &name, const QByteArray &content) const;
     /// A picture of one label, by its file's ending.
     QString picture(const QString &name = QStringLiteral("label.png")) const;
+    /// A picture that no packing makes smaller than some hundred thousand bytes.
+    QString largePicture() const;
 
     /// Prints without a dialog: the words and a picture behind them.
     Outcome print(const QStringList &words) const;

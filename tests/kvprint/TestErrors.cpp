@@ -155,6 +155,51 @@ TEST_F(KvprintErrors, RefusePpdsThatSayNothing)
     }
 }
 
+TEST_F(KvprintErrors, NameChangesOfAJobThatItsPrinterDoesNotHave)
+{
+    cupsd.addRawQueue(word("raw"));
+    const QStringList hold{word("-H"), word("hold"), word("-d")};
+    const int onTape = print(hold + QStringList{tape}).jobId();
+    const int onRaw = print(hold + QStringList{word("raw")}).jobId();
+    ASSERT_TRUE(onTape > 0 && onRaw > 0);
+    const QMap<QByteArray, QByteArray> before = jobAttributes(onTape);
+    const auto change = [&](int jobId, const QStringList &words) {
+        return kvprint.run(QStringList{word("-i"), QString::number(jobId)} + words);
+    };
+    const struct {
+        QStringList words;
+        QStringList messageParts;
+    } rows[] = {
+        {{word("-o"), word("KvHalfCut=MAYBE"), word("-o"), word("Foo=1")},
+         {word("KvHalfCut"), word("MAYBE"), word("\"Foo\"")}},
+        {{word("-t"), word("Other"), word("-o"), word("Foo=1")}, {word("\"Foo\"")}},
+        {{word("--paper"), word("A4")}, {word("A4"), word("no paper")}},
+        {{word("-o"), word("media=A4")}, {word("A4"), word("no paper")}},
+    };
+    for (const auto &row : rows) {
+        const Outcome outcome = change(onTape, row.words);
+        EXPECT_EQ(outcome.status, 1) << outcome;
+        EXPECT_EQ(outcome.out, QByteArray());
+        for (const QString &part : row.messageParts)
+            EXPECT_TRUE(outcome.error.contains(part.toUtf8())) << qPrintable(part) << "\n" << outcome;
+    }
+    for (const char *name : {"KvHalfCut", "Foo", "PageSize", "job-name"})
+        EXPECT_EQ(jobAttributes(onTape).value(name), before.value(name)) << name;
+
+    const QStringList unknown{word("-o"), word("KvHalfCut=MAYBE Foo=1")};
+    EXPECT_EQ(change(onTape, unknown + QStringList{word("--force")}).status, 0);
+    EXPECT_EQ(jobAttributes(onTape).value("KvHalfCut"), "MAYBE");
+    EXPECT_EQ(change(onTape, {word("-o"), word("KvHalfCut=ON job-priority=7")}).status, 0);
+    EXPECT_EQ(jobAttributes(onTape).value("KvHalfCut"), "ON");
+    // Nobody knows what a queue without a PPD has.
+    EXPECT_EQ(change(onRaw, unknown).status, 0);
+    EXPECT_EQ(jobAttributes(onRaw).value("Foo"), "1");
+
+    const Outcome absent = change(4711, unknown);
+    EXPECT_EQ(absent.status, 1) << absent;
+    EXPECT_TRUE(absent.error.startsWith("kvprint: Job 4711 was not changed. ")) << absent;
+}
+
 TEST_F(KvprintErrors, OfTheCommandLineHaveAStatusOfTheirOwn)
 {
     for (const QStringList &words :

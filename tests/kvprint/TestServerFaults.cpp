@@ -3,10 +3,7 @@
 
 #include <FaultyServer.h>
 
-#include <QImage>
 #include <QProcess>
-
-#include <random>
 
 namespace {
 
@@ -22,20 +19,6 @@ bool isOver(int state)
 class KvprintFaults : public KvprintTest {
 protected:
     KvprintFaults() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
-
-    /// A picture that no packing makes smaller than some hundred thousand bytes.
-    QString largePicture() const
-    {
-        QImage noise(300, 600, QImage::Format_RGB32);
-        std::minstd_rand random(1); // NOLINT: the same picture every time
-        for (int y = 0; y < noise.height(); ++y) {
-            for (int x = 0; x < noise.width(); ++x)
-                noise.setPixel(x, y, static_cast<uint>(random()));
-        }
-        const QString path = folder.filePath(QStringLiteral("noise.png"));
-        EXPECT_TRUE(noise.save(path));
-        return path;
-    }
 
     /// Runs against another address than the server's; must fail and say the words.
     void expectFailureAt(const QString &address, const QString &document, const char *messagePart) const
@@ -76,7 +59,21 @@ TEST_F(KvprintFaults, AServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});
     expectFailureAt(silent.address(), picture(), "does not answer");
+    EXPECT_GT(silent.connectionCount(), 0);
+}
+
+TEST_F(KvprintFaults, AServerThatFallsSilentWhenItHasTheDocument)
+{
+    cupsd.pause(tape);
+    const FaultyServer silent(cupsd.port(), {.silentAfter = 100000});
+    expectFailureAt(silent.address(), largePicture(), "does not answer");
+    // It has the whole document and would print it.
+    EXPECT_EQ(jobAttributes(1).value("number-of-documents"), "1");
+    cupsd.resume(tape);
     expectNothingPrinted();
+    // Nor would it have been printed since: what comes later is done.
+    const int next = print({QStringLiteral("-d"), tape}).jobId();
+    EXPECT_EQ(recorded(1).firstKey(), next);
 }
 
 TEST_F(KvprintFaults, AServerThatIsSlowPrintsOnce)

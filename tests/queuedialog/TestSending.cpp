@@ -285,6 +285,21 @@ TEST_F(SendingTest, TheJobWindowTellsOfAHeldJobAndTakesItBack)
     cupsd->resume(QStringLiteral("tape"));
 }
 
+TEST_F(SendingTest, TheJobWindowEndsWithAJobOfWhichTheServerKeepsNoRecord)
+{
+    cupsd->configure("PreserveJobHistory No\n");
+    cupsd->setMediaEmpty(true);
+    const int jobId = submit();
+    const auto job = follow(jobId);
+    EXPECT_TRUE(says(*job, QStringLiteral("The label roll or tape is empty.")));
+    cupsd->setMediaEmpty(false);
+    EXPECT_TRUE(waitUntil([&] { return !job->isVisible(); }));
+    EXPECT_EQ(job->result(), QDialog::Accepted);
+    EXPECT_EQ(job->status()->state, host::JobState::Completed);
+    EXPECT_TRUE(job->status()->isForgotten);
+    cupsd->configure({});
+}
+
 TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
 {
     cupsd->pause(QStringLiteral("tape"));

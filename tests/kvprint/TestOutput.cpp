@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "KvprintTest.h"
+
+namespace {
+
+const QString tape = QStringLiteral("tape");
+
+} // namespace
+
+class KvprintOutput : public KvprintTest {
+protected:
+    KvprintOutput() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
+
+    /// Runs the program with its streams as the shell is told, ">/dev/full".
+    Outcome runRedirected(const char *streams, const QStringList &words) const
+    {
+        return kvprint.runOther(QStringLiteral("sh"),
+                                QStringList{QStringLiteral("-c"),
+                                            QStringLiteral("exec \"$0\" \"$@\" ") + QLatin1String(streams),
+                                            QStringLiteral(KV_PROGRAM)} +
+                                    words);
+    }
+};
+
+TEST_F(KvprintOutput, WhatCannotBeWrittenIsToldAndNoSuccess)
+{
+    const QStringList onTape{QStringLiteral("-d"), tape, picture()};
+    const QStringList rows[] = {
+        {QStringLiteral("--list")},
+        {QStringLiteral("--list"), QStringLiteral("--json")},
+        QStringList{QStringLiteral("--summary")} + onTape,
+        QStringList{QStringLiteral("--dry-run")} + onTape,
+        {QStringLiteral("--help")},
+        {QStringLiteral("--version")},
+    };
+    for (const QStringList &words : rows) {
+        for (const char *const streams : {">/dev/full", ">&-", "<&- >&-"}) {
+            const Outcome outcome = runRedirected(streams, words);
+            EXPECT_EQ(outcome.status, 1) << qPrintable(words.join(u' ')) << streams << "\n" << outcome;
+            EXPECT_EQ(outcome.error.count("kvprint: Cannot write to standard output: "), 1) << outcome;
+        }
+        // Complaints that nobody can read are no reason to fail.
+        EXPECT_EQ(runRedirected("2>&-", words).status, 0) << qPrintable(words.join(u' '));
+    }
+}
+
+TEST_F(KvprintOutput, AJobWhoseNumberCannotBeWrittenIsToldAmongTheMessages)
+{
+    const QStringList words{QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape, picture()};
+    const Outcome outcome = runRedirected(">/dev/full", words);
+    EXPECT_EQ(outcome.status, 1) << outcome;
+    EXPECT_TRUE(outcome.error.contains("The job was sent all the same, as tape-1.")) << outcome;
+    EXPECT_EQ(recorded(1).firstKey(), 1);
+    // Who does not want to be told the number misses nothing.
+    EXPECT_EQ(runRedirected(">/dev/full", words + QStringList{QStringLiteral("-s")}).status, 0);
+    EXPECT_EQ(recorded(2).size(), 2);
+}
+
+TEST_F(KvprintOutput, AClosedInputIsNoDocument)
+{
+    const Outcome outcome = runRedirected("<&-", {QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape});
+    EXPECT_EQ(outcome.status, 1) << outcome;
+    EXPECT_TRUE(outcome.error.contains("standard input")) << outcome;
+    EXPECT_TRUE(jobStates().isEmpty());
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "KvprintTest.h"
+
+#include <FaultyServer.h>
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
+
+#include <csignal>
+
+namespace {
+
+const QString tape = QStringLiteral("tape");
+constexpr int mostMilliseconds = 20000;
+
+} // namespace
+
+class KvprintSignals : public KvprintTest {
+protected:
+    KvprintSignals()
+    {
+        addSampleQueue(tape, QStringLiteral("kvelland-lx900"));
+        QDir(folder.path()).mkpath(QStringLiteral("temporary"));
+        kvprint.environment.insert(QStringLiteral("TMPDIR"), folder.filePath(QStringLiteral("temporary")));
+    }
+
+    /// Starts printing a small and a large picture without a dialog, by way of the server.
+    void start(QProcess &program, const FaultyServer &server, const char *before = "") const
+    {
+        program.setProcessEnvironment(kvprint.environment);
+        program.start(QStringLiteral("sh"),
+                      {QStringLiteral("-c"), QLatin1String(before) + QStringLiteral("exec \"$0\" \"$@\""),
+                       QStringLiteral(KV_PROGRAM), QStringLiteral("--no-dialog"), QStringLiteral("-h"),
+                       server.address(), QStringLiteral("-d"), tape, picture(), largePicture()});
+        ASSERT_TRUE(program.waitForStarted());
+    }
+
+    /// Waits until the job is on its way: the server has its first document.
+    void waitUntilSending(int jobId) const
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!jobStates().contains(jobId) ||
+               jobAttributes(jobId).value("number-of-documents").toInt() == 0) {
+            ASSERT_LT(timer.elapsed(), mostMilliseconds) << "the job does not begin";
+            QThread::msleep(10);
+        }
+    }
+
+    QStringList temporaryFiles() const
+    {
+        return QDir(folder.filePath(QStringLiteral("temporary")))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+};
+
+TEST_F(KvprintSignals, TakeBackTheJobThatIsBeingSent)
+{
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 100000});
+    int jobId = 0;
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        SCOPED_TRACE(strsignal(signal));
+        QProcess program;
+        start(program, slow);
+        waitUntilSending(++jobId);
+        EXPECT_FALSE(temporaryFiles().isEmpty());
+        ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), signal), 0);
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(program.exitCode(), 128 + signal);
+        EXPECT_EQ(program.readAllStandardOutput(), QByteArray());
+        EXPECT_EQ(program.readAllStandardError(), "kvprint: Stopped by a signal; nothing was printed.\n");
+        EXPECT_EQ(jobStates().value(jobId), 7);
+        EXPECT_EQ(temporaryFiles(), QStringList());
+    }
+    EXPECT_TRUE(cupsd.documents().empty());
+}
+
+TEST_F(KvprintSignals, EndTheWaitForAServerThatIsSilent)
+{
+    const FaultyServer silent(cupsd.port(), {.silent = true});
+    QProcess program;
+    start(program, silent);
+    while (silent.connectionCount() == 0 && !program.waitForFinished(10))
+        ;
+    ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), SIGINT), 0);
+    EXPECT_TRUE(program.waitForFinished(3000));
+    EXPECT_EQ(program.exitCode(), 128 + SIGINT);
+    EXPECT_EQ(temporaryFiles(), QStringList());
+}
+
+TEST_F(KvprintSignals, AreIgnoredWhereWhoeverStartedTheProgramIgnoresThem)
+{
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 200000});
+    QProcess program;
+    start(program, slow, "trap '' HUP; ");
+    waitUntilSending(1);
+    ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), SIGHUP), 0);
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+    EXPECT_EQ(program.readAllStandardOutput(), "request id is tape-1 (2 file(s))\n");
+    EXPECT_EQ(cupsd.waitForDocuments(2).size(), 2U);
+}
