@@ -3,6 +3,7 @@
 #include <host/cups/Constraints.h>
 #include <tests/support/PpdBuilder.h>
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <cups/cups.h>
@@ -150,6 +151,28 @@ TEST(Constraints, ConstraintsOfCupsMayHaveAnyNumberOfSides)
     ASSERT_EQ(Constraints(ppd).conflicts().size(), 1U);
     EXPECT_EQ(Constraints(ppd).conflicts()[0].sides.size(), 3U);
     EXPECT_EQ(Constraints(ppd).remedy()->changes.size(), 1U);
+}
+
+// A PPD may name every pair of its papers and settings; reading them must not keep a window waiting.
+TEST(Constraints, AreReadInTimeThatGrowsWithTheirNumberOnly)
+{
+    constexpr int choices = 250;
+    PpdBuilder builder = PpdBuilder().foreignOptions(2, choices);
+    QByteArray lines;
+    for (int first = 2; first <= choices; ++first) {
+        for (int second = 2; second <= choices; ++second)
+            lines += "*UIConstraints: *Foreign1 Choice" + QByteArray::number(first) + " *Foreign2 Choice" +
+                     QByteArray::number(second) + '\n';
+    }
+    PpdFile ppd = openMarked(builder.raw(lines));
+    mark(ppd, {{"Foreign1", "Choice200"}, {"Foreign2", "Choice100"}});
+    QElapsedTimer timer;
+    timer.start();
+    const Constraints constraints(ppd);
+    EXPECT_EQ(constraints.conflicts().size(), 1U);
+    EXPECT_EQ(constraints.remedy()->sentence(), QStringLiteral("Set \"Foreign1\" to \"Choice1\""));
+    // A hundredth of what comparing each with all others takes.
+    EXPECT_LT(timer.elapsed(), 2000);
 }
 
 TEST(Constraints, WhatIsInstalledIsNotChangedByARemedy)

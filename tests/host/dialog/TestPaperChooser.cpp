@@ -8,8 +8,10 @@
 #include <host/dialog/LinkButton.h>
 #include <host/dialog/PaperChooser.h>
 #include <host/dialog/PaperGroups.h>
+#include <host/dialog/PaperList.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalSpy>
@@ -159,6 +161,24 @@ TEST_F(PaperChooserTest, PapersOfOneTextAreToldApartByName)
     open(tapePpd().replace("DC52x75R/Removable 52 mm", "DC52x75R/Labels 52 mm"));
     EXPECT_TRUE(shown().contains(QStringLiteral("Labels 52 mm x 75 mm (DC52x75R)")));
     EXPECT_TRUE(shown().contains(QStringLiteral("Labels 52 mm x 75 mm (DC52x75)")));
+}
+
+TEST(PaperList, OfManyPapersIsThereAtOnce)
+{
+    std::vector<host::PpdPaper> papers;
+    for (int i = 0; i < 30'000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        papers.push_back(
+            {'W' + number, QStringLiteral("Tape of number %1").arg(i / 2), QSizeF(68.0, 170.0), {}});
+    }
+    dialog::PaperList list(nullptr);
+    QElapsedTimer timer;
+    timer.start();
+    list.setPapers(papers, false);
+    // Comparing the text of each with all others takes many times as long.
+    EXPECT_LT(timer.elapsed(), 2000);
+    ASSERT_EQ(list.count(), 30'000);
+    EXPECT_EQ(list.item(29'999)->text(), QStringLiteral("Tape of number 14999 (W29999)"));
 }
 
 TEST_F(PaperChooserTest, ASearchKeepsTheHeadingsOfWhatItFinds)
