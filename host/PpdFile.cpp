@@ -230,7 +230,7 @@ std::optional<PpdPaper> PpdFile::paper(const QByteArray &name) const
 std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
 {
     const std::optional<PpdCustomLimits> limits = customLimits();
-    if (!limits || !name.startsWith("Custom."))
+    if (!limits || !customPaperSize(name))
         return std::nullopt;
     const ppd_size_t *const size = ppdPageSize(m_ppd.get(), name.constData());
     if (!size)

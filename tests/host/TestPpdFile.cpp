@@ -177,6 +177,50 @@ TEST(PpdFile, TakesFreeSizesWithinItsLimits)
     EXPECT_FALSE(ppd.paper("Custom.rubbish"));
 }
 
+TEST(PpdFile, TakesFreeSizesOnlyAsTheServersFiltersReadThem)
+{
+    const std::pair<const char *, std::optional<QSizeF>> rows[] = {
+        {"Custom.24x60mm", QSizeF(68.031, 170.079)},
+        {"Custom.2.4x6cm", QSizeF(68.031, 170.079)},
+        {"Custom..024x.06m", QSizeF(68.031, 170.079)},
+        {"Custom.0.5x2in", QSizeF(36.0, 144.0)},
+        {"Custom.0.05x0.1ft", QSizeF(43.2, 86.4)},
+        {"Custom.68x170", QSizeF(68.0, 170.0)},
+        {"Custom.68x170pt", QSizeF(68.0, 170.0)},
+        {"Custom.24x60nm", {}},
+        {"Custom.24x60furlong", {}},
+        {"Custom.24x60mmJUNK", {}},
+        {"Custom.24x60mm,foo", {}},
+        {"Custom.24x60mmx3", {}},
+        {"Custom.24x60x3mm", {}},
+        {"Custom.24mmx60mm", {}},
+        {"Custom. 24x60mm", {}},
+        {"Custom.24x 60mm", {}},
+        {"Custom.24x60 mm", {}},
+        {"Custom.24x60mm ", {}},
+        {"Custom.24X60mm", {}},
+        {"Custom.2.4e1x60mm", {}},
+        {"Custom.24x0x60mm", {}},
+        {"Custom.-24x-60mm", {}},
+        {"Custom.24,5x60mm", {}},
+        {"Custom.nanxnan", {}},
+        {"Custom.24x", {}},
+        {"Custom.x60mm", {}},
+        {"Custom.", {}},
+        {"custom.24x60mm", {}},
+    };
+    const Sandbox sandbox;
+    const PpdFile ppd = openTapePpd(sandbox);
+    for (const auto &[name, size] : rows) {
+        const auto paper = ppd.paper(name);
+        ASSERT_EQ(paper.has_value(), size.has_value()) << name;
+        if (!paper)
+            continue;
+        EXPECT_NEAR(paper->size.width(), size->width(), 0.01) << name;
+        EXPECT_NEAR(paper->size.height(), size->height(), 0.01) << name;
+    }
+}
+
 TEST(PpdFile, MarksAndReadsChoices)
 {
     const Sandbox sandbox;
