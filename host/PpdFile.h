@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "PpdPaperSizes.h"
 #include "PpdTranslations.h"
 #include "Result.h"
 
@@ -16,6 +17,8 @@
 #include <vector>
 
 namespace host {
+
+class PpdText;
 
 enum class PpdFailure {
     Missing,    ///< there is no such file
@@ -77,8 +80,9 @@ public:
 
     /// Marks the choice that the PPD names as default, for every option.
     void markDefaults();
-    /// Marks a choice, as the user's or a panel's. An unknown keyword or choice is no error. For an option
-    /// that may have several, exactly the choices of a list with commas are marked; none for an empty one.
+    /// Marks a choice, as the user's or a panel's, by its exact name or else in any case of letters. An
+    /// unknown keyword or choice is no error. For an option that may have several, exactly the choices of a
+    /// list with commas are marked; none for an empty one.
     void mark(const QString &keyword, const QString &choice);
     /// The marked choice; nothing when none is marked or the PPD lacks the keyword.
     std::optional<QString> markedChoice(const QString &keyword) const;
@@ -92,7 +96,8 @@ public:
     /// The choice's text for people; the choice itself when the PPD lacks it.
     QString choiceText(const QString &keyword, const QString &choice) const;
 
-    /// The papers in the PPD's order, without the entry that stands for free sizes.
+    /// The choices of PageSize that the PPD names a size for, in its order, without the entry that stands for
+    /// free sizes.
     std::vector<PpdPaper> papers() const;
     /// The paper of that name, compared byte for byte. "Custom.WIDTHxLENGTH" with a unit (pt, in, cm, mm)
     /// gives a free size, where the PPD has them and within its limits.
@@ -103,14 +108,15 @@ public:
     std::optional<PpdCustomLimits> customLimits() const;
 
 private:
-    PpdFile(QString path, PpdHandle ppd, PpdTranslations translations);
+    PpdFile(QString path, PpdHandle ppd, const PpdText &text);
 
-    PpdPaper paperFromSize(const ppd_size_t &size) const;
+    std::optional<PpdPaper> fixedPaper(const QByteArray &name, const QString &text) const;
     std::optional<PpdPaper> customPaper(const QByteArray &name) const;
 
     QString m_path;
     PpdHandle m_ppd;
     PpdTranslations m_translations;
+    PpdPaperSizes m_paperSizes;
 };
 
 } // namespace host

@@ -161,6 +161,50 @@ TEST(PpdFile, GivesPapersExactlyAsThePpdHasThem)
     EXPECT_EQ(ppd.markedPaper()->name, "W24H60");
 }
 
+// To libcups such papers are one, of the last one's size.
+TEST(PpdFile, KeepsPapersApartWhoseNamesDifferInTheCaseOfLettersOnly)
+{
+    const QByteArray head = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*LanguageVersion: English\n"
+                            "*NickName: \"Kvelland Tape\"\n";
+    const QByteArray choices = "*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: TAPE\n"
+                               "*PageSize tape/Small: \"\"\n*PageSize TAPE/Large: \"\"\n"
+                               "*PageSize Tape/Long: \"\"\n*PageSize Sizeless/None: \"\"\n"
+                               "*PageSize plain: \"\"\n*CloseUI: *PageSize\n";
+    const QByteArray sizes = "*PaperDimension tape/Small: \"34 100\"\n*PaperDimension TAPE: \"68.5 200\"\n"
+                             "*PaperDimension  Tape/Long:  \"34 800\"\n*PaperDimension plain: \"20 30\"\n"
+                             "*PaperDimension Choiceless: \"50 60\"\n"
+                             "*ImageableArea TAPE/Large: \"1 2 67.5 197\"\n";
+    const Sandbox sandbox;
+    auto opened = PpdFile::open(sandbox.write(QStringLiteral("twins.ppd"), head + choices + sizes));
+    ASSERT_TRUE(opened) << opened.error().message.toStdString();
+    PpdFile ppd = std::move(opened).value();
+    const std::tuple<const char *, const char *, QSizeF> rows[] = {
+        {"tape", "Small", QSizeF(34.0, 100.0)},
+        {"TAPE", "Large", QSizeF(68.5, 200.0)},
+        {"Tape", "Long", QSizeF(34.0, 800.0)},
+        {"plain", "plain", QSizeF(20.0, 30.0)},
+    };
+    const std::vector<host::PpdPaper> papers = ppd.papers();
+    ASSERT_EQ(papers.size(), std::size(rows));
+    ppd.markDefaults();
+    EXPECT_EQ(ppd.markedPaper()->name, "TAPE");
+    for (std::size_t i = 0; i < papers.size(); ++i) {
+        const auto &[name, text, size] = rows[i];
+        EXPECT_EQ(papers[i].name, name);
+        EXPECT_EQ(papers[i].text, QString::fromUtf8(text));
+        EXPECT_EQ(papers[i].size, size);
+        ASSERT_TRUE(ppd.paper(name)) << name;
+        EXPECT_EQ(ppd.paper(name)->size, size);
+        EXPECT_EQ(ppd.paper(name)->text, QString::fromUtf8(text));
+        ppd.mark(QStringLiteral("PageSize"), QString::fromUtf8(name));
+        EXPECT_EQ(ppd.markedPaper()->name, name);
+    }
+    ASSERT_TRUE(papers[1].margins);
+    EXPECT_EQ(*papers[1].margins, QMarginsF(1.0, 3.0, 1.0, 2.0));
+    for (const char *const absent : {"Sizeless", "Choiceless", "TaPe", "PLAIN"})
+        EXPECT_FALSE(ppd.paper(absent)) << absent;
+}
+
 TEST(PpdFile, TakesFreeSizesWithinItsLimits)
 {
     const Sandbox sandbox;

@@ -184,8 +184,12 @@ TEST(PaperList, OfManyPapersIsThereAtOnce)
 TEST_F(PaperChooserTest, ASearchKeepsTheHeadingsOfWhatItFinds)
 {
     QByteArray text = tapePpd();
-    for (int i = 10; i < 20; ++i)
+    QByteArray choices;
+    for (int i = 10; i < 20; ++i) {
+        choices += "*PageSize X" + QByteArray::number(i) + ": \"\"\n";
         text += "*PaperDimension X" + QByteArray::number(i) + ": \"100 200\"\n";
+    }
+    text.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
     open(text);
     ASSERT_TRUE(search() && search()->isVisible());
     QTest::keyClicks(search(), QStringLiteral("52 remov"));
