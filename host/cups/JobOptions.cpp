@@ -108,6 +108,9 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
             layers.setByServer(option.name, option.value, Origin::Queue);
     }
     const bool hasPaper = layers.has(paperKeyword);
+    const auto ownPaper = hasPaper && ppd ? queuePaper(destination, *ppd) : std::nullopt;
+    if (ownPaper)
+        layers.setByServer(paperKeyword, *ownPaper, Origin::Queue);
     for (const NamedValue &option : destination.userOptions) {
         if (!hasPaper || !namesPaperLoosely(option.name))
             layers.set(option.name, option.value, Origin::UserDefault);
@@ -128,6 +131,16 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
     return std::move(layers).take();
 }
 
+std::optional<QByteArray> queuePaper(const Destination &destination, const PpdFile &ppd)
+{
+    for (const char *const name : {paperKeyword, "media"}) {
+        const QByteArray *const paper = findValue(destination.queueOptions, name);
+        if (paper && ppd.paper(*paper))
+            return *paper;
+    }
+    return std::nullopt;
+}
+
 void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
 {
     ppd.markDefaults();
@@ -139,8 +152,11 @@ void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
         }
     };
     markNamed(destination.queueOptions);
+    if (const std::optional<QByteArray> paper = queuePaper(destination, ppd))
+        ppd.mark(QString::fromLatin1(paperKeyword), QString::fromUtf8(*paper));
     // Users may say "media" and "sides"; libcups finds the PPD's options for them. For the queue's own
-    // "media" it must not: the server has it from the PPD, and of two papers of one size it may be the other.
+    // "media" it must not, where that is a name of IPP: the server has it from the PPD, and of two papers of
+    // one size it may be the other.
     cups_option_t *options = nullptr;
     int count = 0;
     for (const NamedValue &option : destination.userOptions)

@@ -93,12 +93,13 @@ std::optional<QByteArray> PrinterSetup::wishedPaper(const SetupWishes &wishes)
 std::optional<PpdPaper> PrinterSetup::defaultPaper() const
 {
     // A free size is marked as such, without its measures, so the options are asked first.
-    for (const std::vector<NamedValue> *const options :
-         {&m_destination.userOptions, &m_destination.queueOptions}) {
-        const QByteArray *const name = findValue(*options, paperKeyword);
-        if (std::optional<PpdPaper> paper = name ? m_state->ppd().paper(*name) : std::nullopt)
-            return paper;
-    }
+    const QByteArray *const users = findValue(m_destination.userOptions, paperKeyword);
+    if (std::optional<PpdPaper> paper = users ? m_state->ppd().paper(*users) : std::nullopt)
+        return paper;
+    const bool isNamedOtherwise = findValue(m_destination.userOptions, "media") != nullptr;
+    const std::optional<QByteArray> queues = queuePaper(m_destination, m_state->ppd());
+    if (queues && !isNamedOtherwise)
+        return m_state->ppd().paper(*queues);
     if (std::optional<PpdPaper> marked = m_state->ppd().markedPaper())
         return marked;
     const std::vector<PpdPaper> papers = m_state->ppd().papers();

@@ -169,6 +169,23 @@ TEST_F(PrinterSetupTest, TheUsersDefaultsAreMarkedAndAFreePaperIsAmongThem)
     EXPECT_TRUE(setup->choices().empty());
 }
 
+TEST_F(PrinterSetupTest, TheQueuesPaperIsShownUnlessTheUserHasAnother)
+{
+    const std::pair<const char *, const char *> rows[] = {
+        {"sides", "36mm"},
+        {"PageSize", "62mm"},
+        {"media", "62mm"},
+    };
+    for (const auto &[users, expected] : rows) {
+        host::Destination destination;
+        destination.queueOptions = {{"media", "36mm"}};
+        destination.userOptions = {{users, "62mm"}};
+        const auto setup = make(PpdBuilder().options({"KvMirror"}), {}, destination);
+        EXPECT_EQ(setup->paper()->name, expected);
+        EXPECT_EQ(marked(*setup, "PageSize"), QLatin1String(expected));
+    }
+}
+
 TEST_F(PrinterSetupTest, ThePrintersChoicesAnnounceAPaperToThePanel)
 {
     const auto setup = make(PpdBuilder().allOptions());
