@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+#include <cups/cups.h>
+
 #include <algorithm>
 
 namespace host {
@@ -176,6 +178,16 @@ void PpdFile::mark(const QString &keyword, const QString &choice)
     unmark(m_ppd.get(), *option);
     for (const QByteArray &each : value.split(','))
         ppdMarkOption(m_ppd.get(), name.constData(), each.constData());
+}
+
+void PpdFile::markJobOptions(const std::vector<std::pair<QByteArray, QByteArray>> &options)
+{
+    cups_option_t *list = nullptr;
+    int count = 0;
+    for (const auto &[name, value] : options)
+        count = cupsAddOption(name.constData(), value.constData(), count, &list);
+    cupsMarkOptions(m_ppd.get(), count, list);
+    cupsFreeOptions(count, list);
 }
 
 std::optional<QString> PpdFile::markedChoice(const QString &keyword) const

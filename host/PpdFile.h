@@ -54,8 +54,8 @@ struct PpdCustomLimits {
     QSizeF largest;
 };
 
-/// A printer's PPD, open and marked. All that the host knows of a PPD it knows through this class; only
-/// panels are handed the libcups handle, as their protocol says.
+/// A printer's PPD, open and marked. All that the host knows of a PPD it knows through this class and
+/// PpdOptions, as values; only panels are handed what libcups opened (PpdForPanels), as their protocol says.
 ///
 /// Move-only; the file on disk is not needed any more once it is open.
 class PpdFile {
@@ -66,9 +66,6 @@ public:
     /// Opens a PPD, plain or gzip. Nothing is marked yet. Reads no more than largestText of it, and never
     /// waits on a pipe.
     static Result<PpdFile, PpdError> open(const QString &path);
-
-    /// The libcups handle, for the panel protocol; lives as long as this object. Never null.
-    ppd_file_t *handle() const { return m_ppd.get(); }
 
     const QString &path() const { return m_path; }
     /// The printer's name for people: the PPD's NickName, else its model, else the file's name.
@@ -84,6 +81,9 @@ public:
     /// unknown keyword or choice is no error. For an option that may have several, exactly the choices of a
     /// list with commas are marked; none for an empty one.
     void mark(const QString &keyword, const QString &choice);
+    /// Marks what the options of a job ask for, by name and value, as the server's filters read them: "media"
+    /// and "sides" too. Others that the PPD lacks are passed over.
+    void markJobOptions(const std::vector<std::pair<QByteArray, QByteArray>> &options);
     /// The marked choice; nothing when none is marked or the PPD lacks the keyword.
     std::optional<QString> markedChoice(const QString &keyword) const;
     /// The choice that the PPD names as default; nothing when the PPD lacks the keyword.
@@ -108,8 +108,12 @@ public:
     std::optional<PpdCustomLimits> customLimits() const;
 
 private:
+    friend class PpdForPanels;
+    friend class PpdOptions;
+
     PpdFile(QString path, PpdHandle ppd, const PpdText &text);
 
+    ppd_file_t *handle() const { return m_ppd.get(); }
     std::optional<PpdPaper> fixedPaper(const QByteArray &name, const QString &text) const;
     std::optional<PpdPaper> customPaper(const QByteArray &name) const;
 

@@ -218,6 +218,12 @@ std::vector<PpdParameter> PpdOptions::parameters(const QByteArray &keyword) cons
     return parameters;
 }
 
+QByteArray PpdOptions::defaultChoice(const QByteArray &keyword) const
+{
+    const ppd_option_t *const option = ppdFindOption(m_ppd.handle(), keyword.constData());
+    return option ? QByteArray(option->defchoice) : QByteArray();
+}
+
 std::vector<QByteArray> PpdOptions::markedChoices(const QByteArray &keyword) const
 {
     const ppd_option_t *const option = ppdFindOption(m_ppd.handle(), keyword.constData());

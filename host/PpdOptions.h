@@ -88,6 +88,9 @@ public:
     bool canBeChanged(const QByteArray &keyword) const;
     /// The parameters of the option's free choice, in the PPD's order; empty when it has none.
     std::vector<PpdParameter> parameters(const QByteArray &keyword) const;
+    /// The choice that the PPD names as default, which need not be one that it has; empty when the PPD lacks
+    /// the option.
+    QByteArray defaultChoice(const QByteArray &keyword) const;
     /// What is marked, in the PPD's order: for most options one choice, or none where the PPD's default is
     /// no choice that it has.
     std::vector<QByteArray> markedChoices(const QByteArray &keyword) const;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobOptions.h"
 
-#include <QCoreApplication>
+#include <host/PpdOptions.h>
 
-#include <cups/cups.h>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -66,12 +66,11 @@ private:
 
 void addPpdDefaults(Layers &layers, const PpdFile &ppd)
 {
-    for (int i = 0; i < ppd.handle()->num_groups; ++i) {
-        const ppd_group_t &group = ppd.handle()->groups[i];
-        for (int j = 0; j < group.num_options; ++j) {
-            const ppd_option_t &option = group.options[j];
-            if (!namesPaperLoosely(option.keyword))
-                layers.setByServer(option.keyword, option.defchoice, Origin::Ppd);
+    const PpdOptions options(ppd);
+    for (const PpdGroup &group : options.groups()) {
+        for (const QByteArray &keyword : group.keywords) {
+            if (!namesPaperLoosely(keyword))
+                layers.setByServer(keyword, options.defaultChoice(keyword), Origin::Ppd);
         }
     }
 }
@@ -157,12 +156,10 @@ void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
     // Users may say "media" and "sides"; libcups finds the PPD's options for them. For the queue's own
     // "media" it must not, where that is a name of IPP: the server has it from the PPD, and of two papers of
     // one size it may be the other.
-    cups_option_t *options = nullptr;
-    int count = 0;
+    std::vector<std::pair<QByteArray, QByteArray>> options;
     for (const NamedValue &option : destination.userOptions)
-        count = cupsAddOption(option.name.constData(), option.value.constData(), count, &options);
-    cupsMarkOptions(ppd.handle(), count, options);
-    cupsFreeOptions(count, options);
+        options.emplace_back(option.name, option.value);
+    ppd.markJobOptions(options);
     markNamed(destination.userOptions);
 }
 
