@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DialogState.h"
+#include "PpdForPanels.h"
 
 #include <plugin/protocol/PDEPlugIn.h>
 
@@ -39,7 +40,7 @@ public:
     PMPrintSettings printSettings() const override { return m_state->settings(); }
     PMPageFormat pageFormat() const override { return m_state->pageFormat(); }
     ::PMPrinter PMPrinter() const override { return m_state->printer(); }
-    ppd_file_t *ppdFile() const override { return m_state->ppd().handle(); }
+    ppd_file_t *ppdFile() const override { return PpdForPanels::handle(m_state->ppd()); }
     void willChangePPDOptionKeyValue(const QString &key, const std::optional<QString> &choice) override;
     bool respondsToPanelViewDidResize() const override { return static_cast<bool>(m_didResize); }
     void panelViewDidResize() override;

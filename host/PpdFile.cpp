@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdFile.h"
 
-#include "PpdNumber.h"
 #include "PpdSource.h"
 
 #include <QFileInfo>
+
+#include <cups/cups.h>
+
+#include <algorithm>
 
 namespace host {
 
 namespace {
 
-/// The entry that stands for papers of free size.
-constexpr const char *customSizeName = "Custom";
+/// The entry that stands for a free choice.
+constexpr const char *freeChoice = "Custom";
 
 /// Puts the text of a translation into a record of libcups, cut at the end of a character.
 template<std::size_t Size>
@@ -57,7 +60,7 @@ private:
     {
         const QByteArray choice = QByteArray("Custom") + option.keyword;
         for (int i = 0; i < option.num_choices; ++i) {
-            if (qstricmp(option.choices[i].choice, customSizeName) == 0)
+            if (qstricmp(option.choices[i].choice, freeChoice) == 0)
                 localize(option.choices[i].text, choice.constData(), "True");
         }
         const QByteArray parameters = "Param" + choice;
@@ -89,12 +92,35 @@ void unmark(ppd_file_t *ppd, ppd_option_t &option)
     }
 }
 
+/// The choice of that name, compared byte for byte; libcups ignores upper and lower case. Null when the
+/// option lacks it.
+ppd_choice_t *exactChoice(ppd_option_t &option, const QByteArray &name)
+{
+    ppd_choice_t *const end = option.choices + option.num_choices;
+    ppd_choice_t *const found =
+        std::find_if(option.choices, end, [&](const ppd_choice_t &each) { return name == each.choice; });
+    return found == end ? nullptr : found;
+}
+
+/// Where libcups has marked a choice whose name differs in the case of letters, marks the one that was meant.
+void correctMark(ppd_file_t *ppd, ppd_option_t &option, const QByteArray &meant)
+{
+    ppd_choice_t *const exact = exactChoice(option, meant);
+    const ppd_choice_t *const marked = ppdFindMarkedChoice(ppd, option.keyword);
+    if (!exact || !marked || exact == marked || meant.compare(marked->choice, Qt::CaseInsensitive) != 0)
+        return;
+    unmark(ppd, option);
+    exact->marked = 1;
+    cupsArrayAdd(ppd->marked, exact);
+}
+
 } // namespace
 
-PpdFile::PpdFile(QString path, PpdHandle ppd, PpdTranslations translations)
+PpdFile::PpdFile(QString path, PpdHandle ppd, const PpdText &text)
     : m_path(std::move(path))
     , m_ppd(std::move(ppd))
-    , m_translations(std::move(translations))
+    , m_translations(text.translations())
+    , m_paperSizes(text.paperSizes())
 {
 }
 
@@ -106,7 +132,7 @@ Result<PpdFile, PpdError> PpdFile::open(const QString &path)
     Result<PpdHandle, PpdError> ppd = source.value().parse();
     if (!ppd)
         return ppd.error();
-    return PpdFile(path, std::move(ppd).value(), source.value().text().translations());
+    return PpdFile(path, std::move(ppd).value(), source.value().text());
 }
 
 QString PpdFile::printerName() const
@@ -132,6 +158,10 @@ void PpdFile::markDefaults()
             unmark(m_ppd.get(), *option);
     }
     ppdMarkDefaults(m_ppd.get());
+    for (ppd_option_t *option = ppdFirstOption(m_ppd.get()); option; option = ppdNextOption(m_ppd.get())) {
+        if (option->ui != PPD_UI_PICKMANY)
+            correctMark(m_ppd.get(), *option, option->defchoice);
+    }
 }
 
 void PpdFile::mark(const QString &keyword, const QString &choice)
@@ -141,11 +171,23 @@ void PpdFile::mark(const QString &keyword, const QString &choice)
     ppd_option_t *const option = ppdFindOption(m_ppd.get(), name.constData());
     if (!option || option->ui != PPD_UI_PICKMANY) {
         ppdMarkOption(m_ppd.get(), name.constData(), value.constData());
+        if (option)
+            correctMark(m_ppd.get(), *option, value);
         return;
     }
     unmark(m_ppd.get(), *option);
     for (const QByteArray &each : value.split(','))
         ppdMarkOption(m_ppd.get(), name.constData(), each.constData());
+}
+
+void PpdFile::markJobOptions(const std::vector<std::pair<QByteArray, QByteArray>> &options)
+{
+    cups_option_t *list = nullptr;
+    int count = 0;
+    for (const auto &[name, value] : options)
+        count = cupsAddOption(name.constData(), value.constData(), count, &list);
+    cupsMarkOptions(m_ppd.get(), count, list);
+    cupsFreeOptions(count, list);
 }
 
 std::optional<QString> PpdFile::markedChoice(const QString &keyword) const
@@ -189,83 +231,11 @@ QString PpdFile::optionText(const QString &keyword) const
 QString PpdFile::choiceText(const QString &keyword, const QString &choice) const
 {
     ppd_option_t *const option = ppdFindOption(m_ppd.get(), keyword.toUtf8().constData());
-    const ppd_choice_t *const found = option ? ppdFindChoice(option, choice.toUtf8().constData()) : nullptr;
+    const QByteArray name = choice.toUtf8();
+    const ppd_choice_t *found = option ? exactChoice(*option, name) : nullptr;
+    if (option && !found)
+        found = ppdFindChoice(option, name.constData());
     return found && found->text[0] ? QString::fromUtf8(found->text) : choice;
-}
-
-PpdPaper PpdFile::paperFromSize(const ppd_size_t &size) const
-{
-    const QString name = QString::fromUtf8(size.name);
-    PpdPaper paper{size.name, choiceText(QStringLiteral("PageSize"), name),
-                   QSizeF(double{size.width}, double{size.length}), std::nullopt};
-    // libcups leaves the area empty when the PPD has no ImageableArea for the paper.
-    if (size.right > size.left && size.top > size.bottom) {
-        paper.margins = QMarginsF(double{size.left}, double{size.length} - double{size.top},
-                                  double{size.width} - double{size.right}, double{size.bottom});
-    }
-    return paper;
-}
-
-std::vector<PpdPaper> PpdFile::papers() const
-{
-    std::vector<PpdPaper> papers;
-    for (int i = 0; i < m_ppd->num_sizes; ++i) {
-        const ppd_size_t &size = m_ppd->sizes[i];
-        if (qstrcmp(size.name, customSizeName) != 0)
-            papers.push_back(paperFromSize(size));
-    }
-    return papers;
-}
-
-std::optional<PpdPaper> PpdFile::paper(const QByteArray &name) const
-{
-    // Not ppdPageSize(): it ignores upper and lower case.
-    for (int i = 0; i < m_ppd->num_sizes; ++i) {
-        if (name == m_ppd->sizes[i].name && name != customSizeName)
-            return paperFromSize(m_ppd->sizes[i]);
-    }
-    return customPaper(name);
-}
-
-std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
-{
-    const std::optional<PpdCustomLimits> limits = customLimits();
-    if (!limits || !name.startsWith("Custom."))
-        return std::nullopt;
-    const ppd_size_t *const size = ppdPageSize(m_ppd.get(), name.constData());
-    if (!size)
-        return std::nullopt;
-    PpdPaper paper = paperFromSize(*size);
-    // A free size given in millimetres may miss a limit by its rounding to floats.
-    constexpr double tolerance = 0.01;
-    const bool fits = paper.size.width() >= limits->smallest.width() - tolerance &&
-                      paper.size.height() >= limits->smallest.height() - tolerance &&
-                      paper.size.width() <= limits->largest.width() + tolerance &&
-                      paper.size.height() <= limits->largest.height() + tolerance;
-    if (!fits)
-        return std::nullopt;
-    paper.name = name;
-    paper.text = QString::fromUtf8(name);
-    return paper;
-}
-
-std::optional<PpdPaper> PpdFile::markedPaper() const
-{
-    const std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
-    if (name != QLatin1String(customSizeName))
-        return name ? paper(name->toUtf8()) : std::nullopt;
-    const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
-    if (!size)
-        return std::nullopt;
-    return paper(customPaperName(QSizeF(double{size->width}, double{size->length})));
-}
-
-std::optional<PpdCustomLimits> PpdFile::customLimits() const
-{
-    if (!m_ppd->variable_sizes)
-        return std::nullopt;
-    return PpdCustomLimits{QSizeF(double{m_ppd->custom_min[0]}, double{m_ppd->custom_min[1]}),
-                           QSizeF(double{m_ppd->custom_max[0]}, double{m_ppd->custom_max[1]})};
 }
 
 } // namespace host

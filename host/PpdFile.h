@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "PpdPaperSizes.h"
 #include "PpdTranslations.h"
 #include "Result.h"
 
@@ -16,6 +17,8 @@
 #include <vector>
 
 namespace host {
+
+class PpdText;
 
 enum class PpdFailure {
     Missing,    ///< there is no such file
@@ -51,8 +54,8 @@ struct PpdCustomLimits {
     QSizeF largest;
 };
 
-/// A printer's PPD, open and marked. All that the host knows of a PPD it knows through this class; only
-/// panels are handed the libcups handle, as their protocol says.
+/// A printer's PPD, open and marked. All that the host knows of a PPD it knows through this class and
+/// PpdOptions, as values; only panels are handed what libcups opened (PpdForPanels), as their protocol says.
 ///
 /// Move-only; the file on disk is not needed any more once it is open.
 class PpdFile {
@@ -64,9 +67,6 @@ public:
     /// waits on a pipe.
     static Result<PpdFile, PpdError> open(const QString &path);
 
-    /// The libcups handle, for the panel protocol; lives as long as this object. Never null.
-    ppd_file_t *handle() const { return m_ppd.get(); }
-
     const QString &path() const { return m_path; }
     /// The printer's name for people: the PPD's NickName, else its model, else the file's name.
     QString printerName() const;
@@ -77,9 +77,13 @@ public:
 
     /// Marks the choice that the PPD names as default, for every option.
     void markDefaults();
-    /// Marks a choice, as the user's or a panel's. An unknown keyword or choice is no error. For an option
-    /// that may have several, exactly the choices of a list with commas are marked; none for an empty one.
+    /// Marks a choice, as the user's or a panel's, by its exact name or else in any case of letters. An
+    /// unknown keyword or choice is no error. For an option that may have several, exactly the choices of a
+    /// list with commas are marked; none for an empty one.
     void mark(const QString &keyword, const QString &choice);
+    /// Marks what the options of a job ask for, by name and value, as the server's filters read them: "media"
+    /// and "sides" too. Others that the PPD lacks are passed over.
+    void markJobOptions(const std::vector<std::pair<QByteArray, QByteArray>> &options);
     /// The marked choice; nothing when none is marked or the PPD lacks the keyword.
     std::optional<QString> markedChoice(const QString &keyword) const;
     /// The choice that the PPD names as default; nothing when the PPD lacks the keyword.
@@ -92,7 +96,8 @@ public:
     /// The choice's text for people; the choice itself when the PPD lacks it.
     QString choiceText(const QString &keyword, const QString &choice) const;
 
-    /// The papers in the PPD's order, without the entry that stands for free sizes.
+    /// The choices of PageSize that the PPD names a size for, in its order, without the entry that stands for
+    /// free sizes.
     std::vector<PpdPaper> papers() const;
     /// The paper of that name, compared byte for byte. "Custom.WIDTHxLENGTH" with a unit (pt, in, cm, mm)
     /// gives a free size, where the PPD has them and within its limits.
@@ -103,14 +108,19 @@ public:
     std::optional<PpdCustomLimits> customLimits() const;
 
 private:
-    PpdFile(QString path, PpdHandle ppd, PpdTranslations translations);
+    friend class PpdForPanels;
+    friend class PpdOptions;
 
-    PpdPaper paperFromSize(const ppd_size_t &size) const;
+    PpdFile(QString path, PpdHandle ppd, const PpdText &text);
+
+    ppd_file_t *handle() const { return m_ppd.get(); }
+    std::optional<PpdPaper> fixedPaper(const QByteArray &name, const QString &text) const;
     std::optional<PpdPaper> customPaper(const QByteArray &name) const;
 
     QString m_path;
     PpdHandle m_ppd;
     PpdTranslations m_translations;
+    PpdPaperSizes m_paperSizes;
 };
 
 } // namespace host

@@ -112,6 +112,21 @@ QByteArray plainValue(const PpdParameter &parameter)
     return parameter.isNumber() ? ppdNumber(parameter.number) : parameter.characters.toUtf8();
 }
 
+/// "*Option Choice *Option *Option Choice ..."
+PpdConstraint constraintFrom(const QByteArray &text)
+{
+    PpdConstraint constraint;
+    QByteArrayList words = text.simplified().split(' ');
+    while (!words.isEmpty()) {
+        const QByteArray word = words.takeFirst();
+        if (!word.startsWith('*'))
+            continue;
+        const bool hasChoice = !words.isEmpty() && !words.first().startsWith('*');
+        constraint.push_back({word.mid(1), hasChoice ? words.takeFirst() : QByteArray()});
+    }
+    return constraint;
+}
+
 bool needsQuotes(const QByteArray &value)
 {
     constexpr std::string_view special = " \t\\'\",{}";
@@ -163,6 +178,7 @@ std::optional<PpdOption> PpdOptions::option(const QByteArray &keyword) const
     if (!source)
         return std::nullopt;
     PpdOption option{source->keyword, textOr(source->text, source->keyword), PpdOptionKind::PickOne, {}, {}};
+    option.defaultChoice = source->defchoice;
     if (source->ui == PPD_UI_BOOLEAN)
         option.kind = PpdOptionKind::Boolean;
     else if (source->ui == PPD_UI_PICKMANY)
@@ -202,6 +218,12 @@ std::vector<PpdParameter> PpdOptions::parameters(const QByteArray &keyword) cons
     return parameters;
 }
 
+QByteArray PpdOptions::defaultChoice(const QByteArray &keyword) const
+{
+    const ppd_option_t *const option = ppdFindOption(m_ppd.handle(), keyword.constData());
+    return option ? QByteArray(option->defchoice) : QByteArray();
+}
+
 std::vector<QByteArray> PpdOptions::markedChoices(const QByteArray &keyword) const
 {
     const ppd_option_t *const option = ppdFindOption(m_ppd.handle(), keyword.constData());
@@ -211,6 +233,22 @@ std::vector<QByteArray> PpdOptions::markedChoices(const QByteArray &keyword) con
             marked.emplace_back(option->choices[i].choice);
     }
     return marked;
+}
+
+std::vector<PpdConstraint> PpdOptions::constraints() const
+{
+    ppd_file_t *const ppd = m_ppd.handle();
+    std::vector<PpdConstraint> constraints;
+    for (int i = 0; i < ppd->num_consts; ++i) {
+        const ppd_const_t &pair = ppd->consts[i];
+        constraints.push_back({{pair.option1, pair.choice1}, {pair.option2, pair.choice2}});
+    }
+    for (const ppd_attr_t *each = ppdFindAttr(ppd, "cupsUIConstraints", nullptr); each;
+         each = ppdFindNextAttr(ppd, "cupsUIConstraints", nullptr)) {
+        if (each->value)
+            constraints.push_back(constraintFrom(each->value));
+    }
+    return constraints;
 }
 
 QByteArray freeChoiceValue(const std::vector<PpdParameter> &parameters)

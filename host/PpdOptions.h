@@ -50,6 +50,8 @@ struct PpdOption {
     std::vector<PpdChoice> choices;
     /// The text of the entry for a free choice; nothing when the option has none.
     std::optional<QString> freeText;
+    /// The choice that the PPD names as default, which need not be one that it has.
+    QByteArray defaultChoice = {};
 };
 
 /// A group of options, in the PPD's order.
@@ -60,6 +62,14 @@ struct PpdGroup {
     bool isInstallable = false;
     std::vector<QByteArray> keywords;
 };
+
+/// One side of a constraint as the PPD spells it; an empty choice stands for every choice but the "off" one.
+struct PpdConstraintSide {
+    QByteArray keyword;
+    QByteArray choice;
+};
+/// Choices that exclude each other; mostly two.
+using PpdConstraint = std::vector<PpdConstraintSide>;
 
 /// Reads the options of a PPD, in the language that it is localized to, and what is marked in it. Cheap to
 /// make; the PPD is borrowed.
@@ -78,9 +88,15 @@ public:
     bool canBeChanged(const QByteArray &keyword) const;
     /// The parameters of the option's free choice, in the PPD's order; empty when it has none.
     std::vector<PpdParameter> parameters(const QByteArray &keyword) const;
+    /// The choice that the PPD names as default, which need not be one that it has; empty when the PPD lacks
+    /// the option.
+    QByteArray defaultChoice(const QByteArray &keyword) const;
     /// What is marked, in the PPD's order: for most options one choice, or none where the PPD's default is
     /// no choice that it has.
     std::vector<QByteArray> markedChoices(const QByteArray &keyword) const;
+    /// The UIConstraints, NonUIConstraints and cupsUIConstraints, in the PPD's order, whether or not it has
+    /// the options and choices that they name.
+    std::vector<PpdConstraint> constraints() const;
 
 private:
     const PpdFile &m_ppd;

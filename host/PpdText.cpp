@@ -7,6 +7,8 @@ namespace {
 
 /// libcups refuses lines that are longer than this before their value.
 constexpr std::size_t longestHead = 255;
+/// Longer than four numbers.
+constexpr std::size_t longestValue = 255;
 
 } // namespace
 
@@ -37,11 +39,19 @@ void PpdText::addCharacter(char character)
         return;
     }
     if (m_colon)
-        m_quoted = m_quoted != (character == '"');
+        addToValue(character);
     else if (character == ':' && !m_head.starts_with("*%"))
         m_colon = true;
     else if (m_head.size() < longestHead)
         m_head += character;
+}
+
+void PpdText::addToValue(char character)
+{
+    if (character == '"')
+        m_quoted = !m_quoted;
+    else if (m_value.size() < longestValue)
+        m_value += character;
 }
 
 void PpdText::endLine()
@@ -50,9 +60,12 @@ void PpdText::endLine()
         m_insideOption = true;
     else if (m_head.starts_with("*CloseUI") || m_head.starts_with("*JCLCloseUI"))
         m_insideOption = false;
-    else if (m_colon)
+    else if (m_colon) {
         m_translations.addStatement(m_head);
+        m_paperSizes.addStatement(m_head, m_value);
+    }
     m_head.clear();
+    m_value.clear();
     m_colon = false;
 }
 

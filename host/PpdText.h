@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "PpdPaperSizes.h"
 #include "PpdTranslations.h"
 
 #include <string>
@@ -11,9 +12,10 @@ namespace host {
 /// Follows the text of a PPD, piece by piece, for what libcups does not tell.
 ///
 /// It tells whether the text could end where it does: libcups takes a file that ends inside a value or an
-/// option for a whole one, so a half-downloaded PPD would open with options missing. And it collects
+/// option for a whole one, so a half-downloaded PPD would open with options missing. It collects
 /// the translations: libcups keeps those of one language only, the one of the process's locale,
-/// which need not be the one that the dialog is shown in.
+/// which need not be the one that the dialog is shown in. And it collects the sizes of papers by their exact
+/// names, which libcups does not keep apart.
 class PpdText {
 public:
     /// The next piece; pieces may break anywhere.
@@ -29,9 +31,12 @@ public:
     bool isInsideOption() const { return m_insideOption; }
     /// The translations met so far.
     const PpdTranslations &translations() const { return m_translations; }
+    /// The sizes of papers met so far.
+    const PpdPaperSizes &paperSizes() const { return m_paperSizes; }
 
 private:
     void addCharacter(char character);
+    void addToValue(char character);
     void endLine();
 
     int m_line = 1;
@@ -41,7 +46,10 @@ private:
     bool m_insideOption = false;
     /// The line up to its colon, as far as libcups would read it.
     std::string m_head;
+    /// What follows the colon, without quotes, as far as any value that is looked into.
+    std::string m_value;
     PpdTranslations m_translations;
+    PpdPaperSizes m_paperSizes;
 };
 
 } // namespace host

@@ -5,6 +5,7 @@
 
 #include <host/DialogState.h>
 #include <host/PanelSession.h>
+#include <host/PpdForPanels.h>
 #include <platform/NotificationCenter.h>
 #include <plugin/protocol/PDEPanelInspection.h>
 
@@ -136,7 +137,7 @@ QJsonObject PanelDriver::tapeInfo(const DriverRequest &request)
         if (const std::optional<QString> ticket = request.textOrNull("ticket"))
             settings.setValue(host::DialogState::ticketKey, ticket->toUtf8());
     }
-    return inspection().tapeInfo(&settings, &format, m_dialog->ppd().handle());
+    return inspection().tapeInfo(&settings, &format, host::PpdForPanels::handle(m_dialog->ppd()));
 }
 
 QJsonObject PanelDriver::formatter(const DriverRequest &request)

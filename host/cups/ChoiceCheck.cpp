@@ -88,30 +88,17 @@ bool isServerOption(const QByteArray &name)
     return std::find(std::begin(serverOptions), std::end(serverOptions), name) != std::end(serverOptions);
 }
 
-/// The entry that stands for values of its own, and is no choice without one.
-bool isFreeEntry(const PpdFile &ppd, const ppd_option_t &option, const char *choice)
-{
-    return qstrcmp(choice, PpdOptions::freeChoice) == 0 &&
-           ppdFindCustomOption(ppd.handle(), option.keyword) != nullptr;
-}
-
-bool hasChoice(const PpdFile &ppd, const ppd_option_t &option, const QByteArray &wanted)
-{
-    return std::any_of(option.choices, option.choices + option.num_choices, [&](const ppd_choice_t &each) {
-        return wanted == each.choice && !isFreeEntry(ppd, option, each.choice);
-    });
-}
-
-QString choiceList(const PpdFile &ppd, const ppd_option_t &option)
+QString choiceList(const PpdOption &option)
 {
     // A list that nobody would read helps nobody.
-    constexpr int mostChoices = 12;
+    constexpr qsizetype mostChoices = 12;
     QStringList names;
-    for (int i = 0; i < qMin(option.num_choices, mostChoices); ++i)
-        names.append(QString::fromUtf8(option.choices[i].choice) +
-                     (isFreeEntry(ppd, option, option.choices[i].choice) ? QStringLiteral(".…") : QString()));
-    if (option.num_choices > mostChoices)
-        names.append(QStringLiteral("…"));
+    for (const PpdChoice &choice : option.choices)
+        names.append(QString::fromUtf8(choice.name));
+    if (option.freeText)
+        names.append(QLatin1String(PpdOptions::freeChoice) + QStringLiteral(".…"));
+    if (names.size() > mostChoices)
+        names = names.first(mostChoices) << QStringLiteral("…");
     return names.join(QStringLiteral(", "));
 }
 
@@ -121,7 +108,7 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
 {
     const QString name = QString::fromUtf8(choice.name);
     const QString value = QString::fromUtf8(choice.value);
-    ppd_option_t *const option = ppdFindOption(ppd.handle(), choice.name.constData());
+    const std::optional<PpdOption> option = PpdOptions(ppd).option(choice.name);
     // libcups finds options in any case of letters; to filters they are others.
     if (!option || choice.name != option->keyword) {
         if (isServerOption(choice.name))
@@ -135,18 +122,19 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
         return ChoiceError{ChoiceFailure::UnknownPaper,
                            Text::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};
     }
-    const bool takesSeveral = option->ui == PPD_UI_PICKMANY;
+    const bool takesSeveral = option->kind == PpdOptionKind::PickMany;
     // Of several, none may be chosen.
     if (takesSeveral && choice.value.isEmpty())
         return std::nullopt;
     const QByteArrayList values = takesSeveral ? choice.value.split(',') : QByteArrayList{choice.value};
-    const bool isKnown = std::all_of(values.begin(), values.end(),
-                                     [&](const QByteArray &each) { return hasChoice(ppd, *option, each); });
+    const bool isKnown = std::ranges::all_of(values, [&](const QByteArray &each) {
+        return std::ranges::find(option->choices, each, &PpdChoice::name) != option->choices.end();
+    });
     if (isKnown || isFreeChoice(ppd, {choice.name, choice.value}))
         return std::nullopt;
     return ChoiceError{ChoiceFailure::UnknownChoice,
                        Text::tr("The option \"%1\" of the printer \"%2\" has no choice \"%3\"; it has: %4")
-                           .arg(name, ppd.printerName(), value, choiceList(ppd, *option))};
+                           .arg(name, ppd.printerName(), value, choiceList(*option))};
 }
 
 CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &ppd)

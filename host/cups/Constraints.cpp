@@ -13,31 +13,9 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(host::Constraints)
 };
 
-bool isPaper(const ppd_option_t *option)
-{
-    return qstricmp(option->keyword, "PageSize") == 0 || qstricmp(option->keyword, "PageRegion") == 0;
-}
-
-/// The choices that a constraint without a choice does not mean.
-bool isOff(const ppd_choice_t &choice)
-{
-    return qstricmp(choice.choice, "None") == 0 || qstricmp(choice.choice, "Off") == 0 ||
-           qstricmp(choice.choice, "False") == 0;
-}
-
 QString quoted(const ConflictSide &side)
 {
     return Text::tr("\"%1: %2\"").arg(side.optionText, side.choiceText);
-}
-
-/// The marked choice, the last for options that may have several; null when none is.
-const ppd_choice_t *markedChoice(const ppd_option_t *option)
-{
-    for (int i = option->num_choices; i > 0; --i) {
-        if (option->choices[i - 1].marked)
-            return &option->choices[i - 1];
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -45,9 +23,12 @@ const ppd_choice_t *markedChoice(const ppd_option_t *option)
 /// Looks for changes that end all conflicts, one conflict after the other.
 class Constraints::Search {
 public:
-    Search(const Constraints &constraints, std::set<QString> fixed)
-        : m_constraints(constraints)
+    Search(const Constraints &constraints, const ConstraintTerms::Marks &marks, std::set<QString> fixed)
+        : m_constraints(constraints.m_constraints)
+        , m_terms(constraints.m_terms)
+        , m_marks(marks)
         , m_fixed(std::move(fixed))
+        , m_looks(looksFor(constraints.m_constraints.size()))
     {
     }
 
@@ -63,20 +44,31 @@ public:
     }
 
 private:
+    /// So that no PPD, however tangled or large, keeps the user waiting.
+    static int looksFor(std::size_t constraints)
+    {
+        constexpr std::size_t most = 20'000;
+        constexpr std::size_t mostInAll = 20'000'000;
+        return static_cast<int>(std::min(most, mostInAll / std::max<std::size_t>(constraints, 1)));
+    }
+
     bool solve(Changes &changes, int depth)
     {
-        const Constraint *const conflict = m_constraints.firstConflict(changes);
+        const Constraint *const conflict = firstConflict(changes);
         if (!conflict)
             return true;
         // At least one side of the conflict must change.
-        for (const Term &term : *conflict) {
-            if (depth == 0 || !mayChange(term.option, changes))
+        for (const int term : *conflict) {
+            const int option = m_terms.term(term).option;
+            if (depth == 0 || !mayChange(option, changes))
                 continue;
-            for (const int choice : choicesToTry(term)) {
+            for (const int choice : choicesToTry(option)) {
+                if (m_terms.holdsWith(term, choice))
+                    continue;
                 if (--m_looks < 0)
                     return false;
-                changes.emplace_back(term.option, choice);
-                if (!m_constraints.holds(term, changes) && solve(changes, depth - 1))
+                changes.emplace_back(option, choice);
+                if (solve(changes, depth - 1))
                     return true;
                 changes.pop_back();
             }
@@ -84,35 +76,55 @@ private:
         return false;
     }
 
-    bool mayChange(const ppd_option_t *option, const Changes &changes) const
+    const Constraint *firstConflict(const Changes &changes) const
     {
-        const bool changed = std::any_of(changes.begin(), changes.end(),
-                                         [&](const auto &change) { return change.first == option; });
-        return !changed && !isPaper(option) && !m_constraints.isInstallable(option) &&
-               !m_fixed.contains(QString::fromUtf8(option->keyword));
+        const auto found = std::ranges::find_if(m_constraints, [&](const Constraint &each) {
+            return std::ranges::all_of(each, [&](int term) { return holds(term, changes); });
+        });
+        return found == m_constraints.end() ? nullptr : &*found;
+    }
+
+    bool holds(int term, const Changes &changes) const
+    {
+        const auto change =
+            std::ranges::find(changes, m_terms.term(term).option, &Changes::value_type::first);
+        return change == changes.end() ? m_marks.holds[static_cast<std::size_t>(term)]
+                                       : m_terms.holdsWith(term, change->second);
+    }
+
+    bool mayChange(int position, const Changes &changes) const
+    {
+        const ConstraintTerms::Option &option = m_terms.option(position);
+        const bool isChanged =
+            std::ranges::find(changes, position, &Changes::value_type::first) != changes.end();
+        return !isChanged && !option.isPaper && !option.isInstallable &&
+               !m_fixed.contains(QString::fromUtf8(option.keyword));
     }
 
     /// The default first, then what switches off, then the others in the PPD's order; never free values.
-    static std::vector<int> choicesToTry(const Term &term)
+    std::vector<int> choicesToTry(int position) const
     {
-        const ppd_option_t &option = *term.option;
+        const ConstraintTerms::Option &option = m_terms.option(position);
+        const QSet<int> &marked = m_marks.choices[static_cast<std::size_t>(position)];
+        const auto name = [&](int choice) { return option.choices[static_cast<std::size_t>(choice)]; };
         std::vector<int> choices;
-        for (int i = 0; i < option.num_choices; ++i) {
-            if (!option.choices[i].marked && qstricmp(option.choices[i].choice, "Custom") != 0)
+        for (int i = 0; i < static_cast<int>(option.choices.size()); ++i) {
+            const bool isFree = name(i).compare(PpdOptions::freeChoice, Qt::CaseInsensitive) == 0;
+            if (!marked.contains(i) && !isFree)
                 choices.push_back(i);
         }
-        const auto rank = [&](int index) {
-            const ppd_choice_t &choice = option.choices[index];
-            return qstrcmp(choice.choice, option.defchoice) == 0 ? 0 : isOff(choice) ? 1 : 2;
+        const auto rank = [&](int choice) {
+            return name(choice) == option.defaultChoice ? 0 : ConstraintTerms::isOff(name(choice)) ? 1 : 2;
         };
-        std::stable_sort(choices.begin(), choices.end(), [&](int a, int b) { return rank(a) < rank(b); });
+        std::ranges::stable_sort(choices, {}, rank);
         return choices;
     }
 
-    const Constraints &m_constraints;
+    const std::vector<Constraint> &m_constraints;
+    const ConstraintTerms &m_terms;
+    const ConstraintTerms::Marks &m_marks;
     std::set<QString> m_fixed;
-    /// So that no PPD, however tangled, keeps the user waiting.
-    int m_looks = 20000;
+    int m_looks;
 };
 
 QString Conflict::sentence() const
@@ -145,126 +157,69 @@ QString Remedy::sentence() const
 
 Constraints::Constraints(const PpdFile &ppd)
     : m_ppd(ppd)
+    , m_terms(ppd)
 {
-    readPairs();
-    readLists();
+    read(PpdOptions(ppd).constraints());
 }
 
-void Constraints::add(Constraint constraint)
+void Constraints::read(const std::vector<PpdConstraint> &constraints)
 {
     // PPDs must say "A B" and "B A"; to people that is one thing.
-    const auto isSame = [&](const Constraint &other) {
-        return std::is_permutation(other.begin(), other.end(), constraint.begin(), constraint.end());
-    };
-    if (!constraint.empty() && std::none_of(m_constraints.begin(), m_constraints.end(), isSame))
-        m_constraints.push_back(std::move(constraint));
-}
-
-std::optional<Constraints::Term> Constraints::term(const QByteArray &keyword, const QByteArray &choice) const
-{
-    const bool isCustom =
-        qstrnicmp(keyword.constData(), "Custom", 6) == 0 && qstricmp(choice.constData(), "True") == 0;
-    const QByteArray wanted = isCustom ? QByteArray("Custom") : choice;
-    ppd_option_t *const option =
-        ppdFindOption(m_ppd.handle(), isCustom ? keyword.constData() + 6 : keyword.constData());
-    const ppd_choice_t *const found =
-        option && !wanted.isEmpty() ? ppdFindChoice(option, wanted.constData()) : nullptr;
-    if (!option || (!found && !wanted.isEmpty()))
-        return std::nullopt;
-    return Term{option, found};
-}
-
-void Constraints::readPairs()
-{
-    for (int i = 0; i < m_ppd.handle()->num_consts; ++i) {
-        const ppd_const_t &pair = m_ppd.handle()->consts[i];
-        const std::optional<Term> first = term(pair.option1, pair.choice1);
-        const std::optional<Term> second = term(pair.option2, pair.choice2);
-        if (first && second)
-            add({*first, *second});
-    }
-}
-
-void Constraints::readLists()
-{
-    for (const ppd_attr_t *each = ppdFindAttr(m_ppd.handle(), "cupsUIConstraints", nullptr); each;
-         each = ppdFindNextAttr(m_ppd.handle(), "cupsUIConstraints", nullptr)) {
-        // "*Option Choice *Option *Option Choice ..."
-        Constraint constraint;
-        bool isKnown = each->value != nullptr;
-        QByteArrayList words = QByteArray(each->value).simplified().split(' ');
-        while (isKnown && !words.isEmpty()) {
-            const QByteArray word = words.takeFirst();
-            if (!word.startsWith('*'))
-                continue;
-            const bool hasChoice = !words.isEmpty() && !words.first().startsWith('*');
-            const std::optional<Term> read = term(word.mid(1), hasChoice ? words.takeFirst() : QByteArray());
-            isKnown = read.has_value();
-            if (read)
-                constraint.push_back(*read);
-        }
-        if (isKnown)
-            add(std::move(constraint));
-    }
-}
-
-bool Constraints::holds(const Term &term, const Changes &changes) const
-{
-    for (const auto &[option, index] : changes) {
-        if (option != term.option)
+    QSet<Constraint> known;
+    for (const PpdConstraint &each : constraints) {
+        const std::optional<Constraint> constraint = numbered(each);
+        if (!constraint || constraint->isEmpty())
             continue;
-        const ppd_choice_t &choice = option->choices[index];
-        return term.choice ? &choice == term.choice : !isOff(choice);
+        Constraint sorted = *constraint;
+        std::ranges::sort(sorted);
+        const qsizetype before = known.size();
+        known.insert(sorted);
+        if (known.size() > before)
+            m_constraints.push_back(*constraint);
     }
-    if (term.choice && isPaper(term.option)) {
-        // PageRegion follows PageSize, whatever is marked for it.
-        const ppd_size_t *const size = ppdPageSize(m_ppd.handle(), nullptr);
-        return size && qstricmp(size->name, term.choice->choice) == 0;
-    }
-    if (term.choice)
-        return term.choice->marked != 0;
-    const ppd_choice_t *const marked = markedChoice(term.option);
-    return marked && !isOff(*marked);
 }
 
-const Constraints::Constraint *Constraints::firstConflict(const Changes &changes) const
+std::optional<Constraints::Constraint> Constraints::numbered(const PpdConstraint &constraint)
 {
-    const auto found = std::find_if(m_constraints.begin(), m_constraints.end(), [&](const Constraint &each) {
-        return std::all_of(each.begin(), each.end(), [&](const Term &term) { return holds(term, changes); });
-    });
-    return found == m_constraints.end() ? nullptr : &*found;
-}
-
-bool Constraints::isInstallable(const ppd_option_t *option) const
-{
-    for (int i = 0; i < m_ppd.handle()->num_groups; ++i) {
-        const ppd_group_t &group = m_ppd.handle()->groups[i];
-        const bool holdsOption = option >= group.options && option < group.options + group.num_options;
-        if (holdsOption)
-            return qstricmp(group.name, "InstallableOptions") == 0;
+    Constraint numbers;
+    for (const PpdConstraintSide &side : constraint) {
+        const std::optional<int> number = m_terms.add(side);
+        if (!number)
+            return std::nullopt;
+        numbers.append(*number);
     }
-    return false;
+    return numbers;
 }
 
-ConflictSide Constraints::side(const Term &term) const
+ConflictSide Constraints::side(int option, int choice) const
 {
-    const QString keyword = QString::fromUtf8(term.option->keyword);
-    const ppd_choice_t *const choice = term.choice ? term.choice : markedChoice(term.option);
-    return {keyword, m_ppd.optionText(keyword), m_ppd.choiceText(keyword, QString::fromUtf8(choice->choice))};
+    const ConstraintTerms::Option &source = m_terms.option(option);
+    const QString keyword = QString::fromUtf8(source.keyword);
+    const QString name = QString::fromUtf8(source.choices[static_cast<std::size_t>(choice)]);
+    return {keyword, m_ppd.optionText(keyword), m_ppd.choiceText(keyword, name)};
 }
 
 std::vector<Conflict> Constraints::conflicts() const
 {
+    const ConstraintTerms::Marks marks = m_terms.marks();
+    const auto holds = [&](int number) { return marks.holds[static_cast<std::size_t>(number)]; };
     std::vector<Conflict> conflicts;
+    QSet<QStringList> told;
     for (const Constraint &constraint : m_constraints) {
-        if (!std::all_of(constraint.begin(), constraint.end(),
-                         [&](const Term &term) { return holds(term, {}); }))
+        if (!std::ranges::all_of(constraint, holds))
             continue;
         Conflict conflict;
-        for (const Term &term : constraint)
-            conflict.sides.push_back(side(term));
-        const auto isSame = [&](const Conflict &other) { return other.sides == conflict.sides; };
-        if (std::none_of(conflicts.begin(), conflicts.end(), isSame))
+        QStringList words;
+        for (const int number : constraint) {
+            const auto &[option, choice] = m_terms.term(number);
+            const int shown =
+                choice == ConstraintTerms::anyChoice ? *marks.last[static_cast<std::size_t>(option)] : choice;
+            const ConflictSide &added = conflict.sides.emplace_back(side(option, shown));
+            words << added.keyword << added.choiceText;
+        }
+        const qsizetype before = told.size();
+        told.insert(words);
+        if (told.size() > before)
             conflicts.push_back(std::move(conflict));
     }
     return conflicts;
@@ -272,18 +227,17 @@ std::vector<Conflict> Constraints::conflicts() const
 
 std::optional<Remedy> Constraints::remedy(const std::set<QString> &keep) const
 {
-    if (!firstConflict({}))
-        return std::nullopt;
-    std::optional<Changes> changes = Search(*this, keep).run();
+    const ConstraintTerms::Marks marks = m_terms.marks();
+    std::optional<Changes> changes = Search(*this, marks, keep).run();
     if (!changes && !keep.empty())
-        changes = Search(*this, {}).run();
-    if (!changes)
+        changes = Search(*this, marks, {}).run();
+    if (!changes || changes->empty())
         return std::nullopt;
     Remedy remedy;
-    for (const auto &[option, index] : *changes) {
-        const ConflictSide now = side({option, &option->choices[index]});
-        remedy.changes.push_back(
-            {now.keyword, QString::fromUtf8(option->choices[index].choice), now.optionText, now.choiceText});
+    for (const auto &[option, choice] : *changes) {
+        const ConflictSide now = side(option, choice);
+        const QByteArray &name = m_terms.option(option).choices[static_cast<std::size_t>(choice)];
+        remedy.changes.push_back({now.keyword, QString::fromUtf8(name), now.optionText, now.choiceText});
     }
     return remedy;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/PpdFile.h>
+#include "ConstraintTerms.h"
 
 #include <set>
 
@@ -57,28 +57,18 @@ public:
     std::optional<Remedy> remedy(const std::set<QString> &keep = {}) const;
 
 private:
-    /// An option with one of its choices; with null, any choice but "off".
-    struct Term {
-        const ppd_option_t *option = nullptr;
-        const ppd_choice_t *choice = nullptr;
-
-        bool operator==(const Term &) const = default;
-    };
-    using Constraint = std::vector<Term>;
+    /// The numbers of its terms, in the PPD's order.
+    using Constraint = QList<int>;
     /// A choice by position, for each option that is to be changed.
-    using Changes = std::vector<std::pair<const ppd_option_t *, int>>;
+    using Changes = std::vector<std::pair<int, int>>;
     class Search;
 
-    void add(Constraint constraint);
-    void readPairs();
-    void readLists();
-    std::optional<Term> term(const QByteArray &keyword, const QByteArray &choice) const;
-    bool holds(const Term &term, const Changes &changes) const;
-    const Constraint *firstConflict(const Changes &changes) const;
-    bool isInstallable(const ppd_option_t *option) const;
-    ConflictSide side(const Term &term) const;
+    void read(const std::vector<PpdConstraint> &constraints);
+    std::optional<Constraint> numbered(const PpdConstraint &constraint);
+    ConflictSide side(int option, int choice) const;
 
     const PpdFile &m_ppd;
+    ConstraintTerms m_terms;
     std::vector<Constraint> m_constraints;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FreeChoiceCheck.h"
 
+#include <host/PpdNumber.h>
 #include <host/PpdOptions.h>
 
 #include <cups/cups.h>
@@ -10,27 +11,6 @@
 namespace host {
 
 namespace {
-
-/// Points in one of each unit that the server's filters know.
-constexpr std::pair<const char *, double> units[] = {
-    {"", 1.0},           {"pt", 1.0},         {"in", 72.0},         {"ft", 864.0},
-    {"cm", 72.0 / 2.54}, {"mm", 72.0 / 25.4}, {"m", 72.0 / 0.0254},
-};
-
-std::optional<double> lengthInPoints(const QByteArray &value)
-{
-    qsizetype end = value.size();
-    while (end > 0 && value[end - 1] >= 'a' && value[end - 1] <= 'z')
-        --end;
-    const QByteArray unit = value.mid(end);
-    const auto *const found =
-        std::ranges::find_if(units, [&](const auto &each) { return unit == each.first; });
-    bool isNumber = false;
-    const double number = value.left(end).toDouble(&isNumber);
-    if (!isNumber || found == std::end(units))
-        return std::nullopt;
-    return number * found->second;
-}
 
 bool fitsNumber(const PpdParameter &parameter, const QByteArray &value)
 {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobOptions.h"
 
-#include <QCoreApplication>
+#include <host/PpdOptions.h>
 
-#include <cups/cups.h>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -72,12 +72,11 @@ private:
 
 void addPpdDefaults(Layers &layers, const PpdFile &ppd)
 {
-    for (int i = 0; i < ppd.handle()->num_groups; ++i) {
-        const ppd_group_t &group = ppd.handle()->groups[i];
-        for (int j = 0; j < group.num_options; ++j) {
-            const ppd_option_t &option = group.options[j];
-            if (!namesPaperLoosely(option.keyword))
-                layers.setByServer(option.keyword, option.defchoice, Origin::Ppd);
+    const PpdOptions options(ppd);
+    for (const PpdGroup &group : options.groups()) {
+        for (const QByteArray &keyword : group.keywords) {
+            if (!namesPaperLoosely(keyword))
+                layers.setByServer(keyword, options.defaultChoice(keyword), Origin::Ppd);
         }
     }
 }
@@ -114,6 +113,9 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
             layers.setByServer(option.name, option.value, Origin::Queue);
     }
     const bool hasPaper = layers.has(paperKeyword);
+    const auto ownPaper = hasPaper && ppd ? queuePaper(destination, *ppd) : std::nullopt;
+    if (ownPaper)
+        layers.setByServer(paperKeyword, *ownPaper, Origin::Queue);
     for (const NamedValue &option : destination.userOptions) {
         if (!namesFormat(option.name) && (!hasPaper || !namesPaperLoosely(option.name)))
             layers.set(option.name, option.value, Origin::UserDefault);
@@ -134,6 +136,16 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
     return std::move(layers).take();
 }
 
+std::optional<QByteArray> queuePaper(const Destination &destination, const PpdFile &ppd)
+{
+    for (const char *const name : {paperKeyword, "media"}) {
+        const QByteArray *const paper = findValue(destination.queueOptions, name);
+        if (paper && ppd.paper(*paper))
+            return *paper;
+    }
+    return std::nullopt;
+}
+
 void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
 {
     ppd.markDefaults();
@@ -145,14 +157,15 @@ void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
         }
     };
     markNamed(destination.queueOptions);
+    if (const std::optional<QByteArray> paper = queuePaper(destination, ppd))
+        ppd.mark(QString::fromLatin1(paperKeyword), QString::fromUtf8(*paper));
     // Users may say "media" and "sides"; libcups finds the PPD's options for them. For the queue's own
-    // "media" it must not: the server has it from the PPD, and of two papers of one size it may be the other.
-    cups_option_t *options = nullptr;
-    int count = 0;
+    // "media" it must not, where that is a name of IPP: the server has it from the PPD, and of two papers of
+    // one size it may be the other.
+    std::vector<std::pair<QByteArray, QByteArray>> options;
     for (const NamedValue &option : destination.userOptions)
-        count = cupsAddOption(option.name.constData(), option.value.constData(), count, &options);
-    cupsMarkOptions(ppd.handle(), count, options);
-    cupsFreeOptions(count, options);
+        options.emplace_back(option.name, option.value);
+    ppd.markJobOptions(options);
     markNamed(destination.userOptions);
 }
 

@@ -42,6 +42,11 @@ struct JobOption {
 std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
                                       const std::vector<JobChoice> &choices, const JobSettings &settings);
 
+/// The paper that the queue is set to use, instead of the PPD's default: of its "PageSize", else of its
+/// "media", which the server takes for any name. Nothing when it names none of the PPD's papers byte for
+/// byte: the names of IPP ("om_24mm_24x60mm") the server has made itself, from the PPD's default.
+std::optional<QByteArray> queuePaper(const Destination &destination, const PpdFile &ppd);
+
 /// Marks in the PPD what a job to the destination would have without any choice: the PPD's defaults and over
 /// them what the queue and the user's lpoptions say.
 void markEffectiveDefaults(PpdFile &ppd, const Destination &destination);

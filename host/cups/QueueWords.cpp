@@ -106,6 +106,9 @@ QString stateReasonSentence(const QString &reason)
 
 StateSeverity stateReasonSeverity(const QString &reason)
 {
+    // CUPS only ever reports that a printer cannot be reached, which people take for more than a remark.
+    if (reason == QStringLiteral("offline-report"))
+        return StateSeverity::Warning;
     for (const auto &[suffix, severity] : severities) {
         if (reason.endsWith(QLatin1String(suffix)))
             return severity;

@@ -5,6 +5,7 @@
 #include "PaperGroups.h"
 
 #include <QEvent>
+#include <QHash>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -39,13 +40,20 @@ QString toolTipText(const host::PpdPaper &paper)
             .arg(exactLength(paper.size.width()), exactLength(paper.size.height())));
 }
 
-/// The paper's text; with its name where another paper has the same text.
-QString entryText(const std::vector<host::PpdPaper> &papers, const host::PpdPaper &paper)
+/// The papers' texts; with their names where several have the same text.
+QStringList entryTexts(const std::vector<host::PpdPaper> &papers)
 {
-    if (std::ranges::count(papers, paper.text, &host::PpdPaper::text) == 1)
-        return paper.text;
-    return PaperList::tr("%1 (%2)", "a paper's text and its name")
-        .arg(paper.text, QString::fromUtf8(paper.name));
+    QHash<QString, int> counts;
+    for (const host::PpdPaper &paper : papers)
+        ++counts[paper.text];
+    QStringList texts;
+    for (const host::PpdPaper &paper : papers) {
+        const bool isUnique = counts.value(paper.text) == 1;
+        texts.append(isUnique ? paper.text
+                              : PaperList::tr("%1 (%2)", "a paper's text and its name")
+                                    .arg(paper.text, QString::fromUtf8(paper.name)));
+    }
+    return texts;
 }
 
 } // namespace
@@ -70,14 +78,19 @@ void PaperList::setPapers(const std::vector<host::PpdPaper> &papers, bool takesC
         auto *const item = new QListWidgetItem(tr("Custom size\u2026"), this);
         item->setData(EntryRole, customEntry);
     }
+    const QStringList texts = entryTexts(papers);
+    const auto add = [&](std::size_t index, const QString &heading) {
+        const auto entry = static_cast<int>(index);
+        addPaper(papers[index], texts[entry], entry, heading);
+    };
     const std::vector<PaperGroup> groups = groupPapers(papers);
     for (const PaperGroup &group : groups) {
         addHeading(group.title);
         for (const std::size_t index : group.papers)
-            addPaper(papers, index, group.title);
+            add(index, group.title);
     }
     for (std::size_t index = 0; groups.empty() && index < papers.size(); ++index)
-        addPaper(papers, index, {});
+        add(index, {});
     dressHeadings();
     fitWidth();
 }
@@ -89,11 +102,10 @@ void PaperList::addHeading(const QString &title)
     item->setFlags(Qt::NoItemFlags);
 }
 
-void PaperList::addPaper(const std::vector<host::PpdPaper> &papers, std::size_t index, const QString &heading)
+void PaperList::addPaper(const host::PpdPaper &paper, const QString &text, int entry, const QString &heading)
 {
-    const host::PpdPaper &paper = papers[index];
-    auto *const item = new QListWidgetItem(entryText(papers, paper), this);
-    item->setData(EntryRole, static_cast<int>(index));
+    auto *const item = new QListWidgetItem(text, this);
+    item->setData(EntryRole, entry);
     item->setData(SearchRole, QStringList{paper.text, QString::fromUtf8(paper.name), heading}.join(u' '));
     item->setToolTip(toolTipText(paper));
 }

@@ -35,7 +35,7 @@ protected:
 
 private:
     void addHeading(const QString &title);
-    void addPaper(const std::vector<host::PpdPaper> &papers, std::size_t index, const QString &heading);
+    void addPaper(const host::PpdPaper &paper, const QString &text, int entry, const QString &heading);
     void dressHeadings();
     void fitWidth();
 };

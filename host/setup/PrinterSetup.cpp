@@ -90,15 +90,23 @@ std::optional<QByteArray> PrinterSetup::wishedPaper(const SetupWishes &wishes)
     return isAmongChoices ? chosen->value : wishes.paper;
 }
 
+std::optional<QByteArray> PrinterSetup::lackingUserPaper() const
+{
+    const QByteArray *const users = findValue(m_destination.userOptions, paperKeyword);
+    const bool isLacking = users && m_state && !m_state->ppd().paper(*users);
+    return isLacking ? std::optional(*users) : std::nullopt;
+}
+
 std::optional<PpdPaper> PrinterSetup::defaultPaper() const
 {
     // A free size is marked as such, without its measures, so the options are asked first.
-    for (const std::vector<NamedValue> *const options :
-         {&m_destination.userOptions, &m_destination.queueOptions}) {
-        const QByteArray *const name = findValue(*options, paperKeyword);
-        if (std::optional<PpdPaper> paper = name ? m_state->ppd().paper(*name) : std::nullopt)
-            return paper;
-    }
+    const QByteArray *const users = findValue(m_destination.userOptions, paperKeyword);
+    if (std::optional<PpdPaper> paper = users ? m_state->ppd().paper(*users) : std::nullopt)
+        return paper;
+    const bool isNamedOtherwise = findValue(m_destination.userOptions, "media") != nullptr;
+    const std::optional<QByteArray> queues = queuePaper(m_destination, m_state->ppd());
+    if (queues && !isNamedOtherwise)
+        return m_state->ppd().paper(*queues);
     if (std::optional<PpdPaper> marked = m_state->ppd().markedPaper())
         return marked;
     const std::vector<PpdPaper> papers = m_state->ppd().papers();
@@ -116,6 +124,11 @@ void PrinterSetup::takePaper(const SetupWishes &wishes)
             m_refusals.push_back(*checkChoice(m_state->ppd(), wish));
             m_refusedWishes.push_back(wish);
         }
+    } else if (const std::optional<QByteArray> lacking = lackingUserPaper()) {
+        m_refusals.push_back(
+            {ChoiceFailure::UnknownPaper,
+             Text::tr("The printer \"%1\" has no paper \"%2\", which is your default (lpoptions).")
+                 .arg(ppd().printerName(), QString::fromUtf8(*lacking))});
     }
     if (!m_paper)
         m_paper = defaultPaper();
@@ -134,6 +147,8 @@ void PrinterSetup::keepRefused(const SetupWishes &wishes)
     }
     if (const std::optional<QByteArray> wished = wishedPaper(wishes))
         record(paperKeyword, *wished, Origin::You);
+    else if (const std::optional<QByteArray> lacking = lackingUserPaper())
+        record(paperKeyword, *lacking, Origin::UserDefault);
 }
 
 void PrinterSetup::loadPanels(const PanelSource &source)

@@ -63,9 +63,13 @@ public:
     /// Makes a choice for the user and tells the panels.
     void choose(const QByteArray &keyword, const QByteArray &value);
 
+    /// The paper of the user's lpoptions when the PPD does not have it; nothing otherwise.
+    std::optional<QByteArray> lackingUserPaper() const;
+
     /// All that was chosen, each option once, in the order of the first choosing.
     const std::vector<JobChoice> &choices() const { return m_choices; }
-    /// Wishes that the printer cannot fulfil, one sentence each.
+    /// Wishes that the printer cannot fulfil, one sentence each; the paper of the user's lpoptions among
+    /// them, where no other is wished for.
     const std::vector<ChoiceError> &refusals() const { return m_refusals; }
     /// What is wanted of the printer all in all: the choices, and of the wishes that it cannot fulfil those
     /// that nothing else was chosen for. To be carried over to another setup, which may fulfil them or says

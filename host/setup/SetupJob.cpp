@@ -28,7 +28,11 @@ JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, co
     JobTicket ticket;
     ticket.destination = setup.destination();
     ticket.title = sendableTitle(draft.title);
-    ticket.options = makeJobOptions(setup.destination(), setup.ppdOrNull(), setup.choices(), draft.settings);
+    Destination known = setup.destination();
+    // Another paper stands in for the one that the printer does not have, and is not the user's default.
+    if (setup.lackingUserPaper())
+        std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == "PageSize"; });
+    ticket.options = makeJobOptions(known, setup.ppdOrNull(), setup.choices(), draft.settings);
     sendShownPaper(setup, ticket.options);
     for (const DocumentFile &file : document.files())
         ticket.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp});

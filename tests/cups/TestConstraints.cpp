@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <host/PpdForPanels.h>
 #include <host/cups/ChoiceCheck.h>
 #include <host/cups/Constraints.h>
 #include <tests/support/PpdBuilder.h>
@@ -97,7 +98,7 @@ TEST(Constraints, TheRemedyNeverChangesThePaper)
     ASSERT_TRUE(remedy);
     EXPECT_EQ(remedy->sentence(), QStringLiteral("Set \"Mirror\" to \"No\", set \"Chain\" to \"Off\""));
     apply(ppd, *remedy);
-    EXPECT_EQ(ppdConflicts(ppd.handle()), 0);
+    EXPECT_EQ(ppdConflicts(host::PpdForPanels::handle(ppd)), 0);
     EXPECT_EQ(ppd.markedPaper()->name, "24mm");
     EXPECT_FALSE(Constraints(ppd).remedy());
 }
@@ -152,6 +153,24 @@ TEST(Constraints, ConstraintsOfCupsMayHaveAnyNumberOfSides)
     EXPECT_EQ(Constraints(ppd).remedy()->changes.size(), 1U);
 }
 
+// A PPD may name every pair of its papers and settings.
+TEST(Constraints, OfTensOfThousandsFindTheOneThatIsBroken)
+{
+    constexpr int choices = 250;
+    PpdBuilder builder = PpdBuilder().foreignOptions(2, choices);
+    QByteArray lines;
+    for (int first = 2; first <= choices; ++first) {
+        for (int second = 2; second <= choices; ++second)
+            lines += "*UIConstraints: *Foreign1 Choice" + QByteArray::number(first) + " *Foreign2 Choice" +
+                     QByteArray::number(second) + '\n';
+    }
+    PpdFile ppd = openMarked(builder.raw(lines));
+    mark(ppd, {{"Foreign1", "Choice200"}, {"Foreign2", "Choice100"}});
+    const Constraints constraints(ppd);
+    EXPECT_EQ(constraints.conflicts().size(), 1U);
+    EXPECT_EQ(constraints.remedy()->sentence(), QStringLiteral("Set \"Foreign1\" to \"Choice1\""));
+}
+
 TEST(Constraints, WhatIsInstalledIsNotChangedByARemedy)
 {
     PpdFile ppd = openMarked(PpdBuilder()
@@ -183,7 +202,8 @@ TEST(Constraints, AgreeWithLibcups)
         const QByteArrayList names{"Foreign1", "Foreign2",  "Foreign3", "Foreign4", "Foreign5",
                                    "Foreign6", "KvHalfCut", "KvMirror", "PageSize"};
         const auto choice = [&](const QByteArray &name) {
-            const ppd_option_t *const option = ppdFindOption(plain.handle(), name.constData());
+            const ppd_option_t *const option =
+                ppdFindOption(host::PpdForPanels::handle(plain), name.constData());
             return QByteArray(option->choices[roll(option->num_choices)].choice);
         };
         for (int i = roll(12); i > 0; --i) {
@@ -197,7 +217,7 @@ TEST(Constraints, AgreeWithLibcups)
             ppd.mark(QString::fromLatin1(name), QString::fromLatin1(choice(name)));
         const QByteArray paper = ppd.markedPaper()->name;
         const Constraints constraints(ppd);
-        const bool conflicts = ppdConflicts(ppd.handle()) > 0;
+        const bool conflicts = ppdConflicts(host::PpdForPanels::handle(ppd)) > 0;
         EXPECT_EQ(!constraints.conflicts().empty(), conflicts) << "seed " << seed << " round " << round;
         withConflicts += conflicts;
         const auto remedy = constraints.remedy();
@@ -206,7 +226,7 @@ TEST(Constraints, AgreeWithLibcups)
             continue;
         ++withRemedy;
         apply(ppd, *remedy);
-        EXPECT_EQ(ppdConflicts(ppd.handle()), 0) << "seed " << seed << " round " << round;
+        EXPECT_EQ(ppdConflicts(host::PpdForPanels::handle(ppd)), 0) << "seed " << seed << " round " << round;
         EXPECT_EQ(ppd.markedPaper()->name, paper);
     }
     EXPECT_GT(withConflicts, 20) << "seed " << seed;

@@ -115,6 +115,37 @@ TEST(JobOptions, NothingNamesAnotherPaperBesideTheExactOne)
               list({"PageRegion=36mm user*", "media=A4 user*"}));
 }
 
+// As "lpadmin -o media-default=36mm" sets it: lp prints on that paper.
+TEST(JobOptions, TheQueuesOwnPaperStandsOverThePpds)
+{
+    struct Row {
+        std::vector<host::NamedValue> queue;
+        std::vector<host::NamedValue> user;
+        const char *expected;
+        const char *marked;
+    };
+    const Row rows[] = {
+        {{{"media", "36mm"}}, {}, "PageSize=36mm queue*", "36mm"},
+        {{{"media", "24mm"}}, {}, "PageSize=24mm queue*", "24mm"},
+        {{{"media", "36MM"}}, {}, "PageSize=24mm ppd*", "24mm"},
+        {{{"media", "om_36mm_36x100mm"}}, {}, "PageSize=24mm ppd*", "24mm"},
+        {{{"media", "nonsense"}}, {}, "PageSize=24mm ppd*", "24mm"},
+        {{{"media", "36mm"}, {"PageSize", "62mm"}}, {}, "PageSize=62mm queue*", "62mm"},
+        {{{"media", "36mm"}}, {{"PageSize", "62mm"}}, "PageSize=62mm user*", "62mm"},
+        {{{"media", "36mm"}}, {{"PageSize", "24mm"}}, "PageSize=24mm user*", "24mm"},
+    };
+    for (const Row &row : rows) {
+        PpdFile ppd = tape();
+        Destination destination;
+        destination.queueOptions = row.queue;
+        destination.userOptions = row.user;
+        const QStringList options = described(makeJobOptions(destination, &ppd, {}, {}));
+        EXPECT_EQ(options, list({"KvHalfCut=ON ppd", "KvMirror=OFF ppd", row.expected}));
+        markEffectiveDefaults(ppd, destination);
+        EXPECT_EQ(ppd.markedPaper()->name, row.marked) << row.expected;
+    }
+}
+
 TEST(JobOptions, SettingsGetTheNamesAndValuesOfLp)
 {
     struct Row {

@@ -161,6 +161,50 @@ TEST(PpdFile, GivesPapersExactlyAsThePpdHasThem)
     EXPECT_EQ(ppd.markedPaper()->name, "W24H60");
 }
 
+// To libcups such papers are one, of the last one's size.
+TEST(PpdFile, KeepsPapersApartWhoseNamesDifferInTheCaseOfLettersOnly)
+{
+    const QByteArray head = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*LanguageVersion: English\n"
+                            "*NickName: \"Kvelland Tape\"\n";
+    const QByteArray choices = "*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: TAPE\n"
+                               "*PageSize tape/Small: \"\"\n*PageSize TAPE/Large: \"\"\n"
+                               "*PageSize Tape/Long: \"\"\n*PageSize Sizeless/None: \"\"\n"
+                               "*PageSize plain: \"\"\n*CloseUI: *PageSize\n";
+    const QByteArray sizes = "*PaperDimension tape/Small: \"34 100\"\n*PaperDimension TAPE: \"68.5 200\"\n"
+                             "*PaperDimension  Tape/Long:  \"34 800\"\n*PaperDimension plain: \"20 30\"\n"
+                             "*PaperDimension Choiceless: \"50 60\"\n"
+                             "*ImageableArea TAPE/Large: \"1 2 67.5 197\"\n";
+    const Sandbox sandbox;
+    auto opened = PpdFile::open(sandbox.write(QStringLiteral("twins.ppd"), head + choices + sizes));
+    ASSERT_TRUE(opened) << opened.error().message.toStdString();
+    PpdFile ppd = std::move(opened).value();
+    const std::tuple<const char *, const char *, QSizeF> rows[] = {
+        {"tape", "Small", QSizeF(34.0, 100.0)},
+        {"TAPE", "Large", QSizeF(68.5, 200.0)},
+        {"Tape", "Long", QSizeF(34.0, 800.0)},
+        {"plain", "plain", QSizeF(20.0, 30.0)},
+    };
+    const std::vector<host::PpdPaper> papers = ppd.papers();
+    ASSERT_EQ(papers.size(), std::size(rows));
+    ppd.markDefaults();
+    EXPECT_EQ(ppd.markedPaper()->name, "TAPE");
+    for (std::size_t i = 0; i < papers.size(); ++i) {
+        const auto &[name, text, size] = rows[i];
+        EXPECT_EQ(papers[i].name, name);
+        EXPECT_EQ(papers[i].text, QString::fromUtf8(text));
+        EXPECT_EQ(papers[i].size, size);
+        ASSERT_TRUE(ppd.paper(name)) << name;
+        EXPECT_EQ(ppd.paper(name)->size, size);
+        EXPECT_EQ(ppd.paper(name)->text, QString::fromUtf8(text));
+        ppd.mark(QStringLiteral("PageSize"), QString::fromUtf8(name));
+        EXPECT_EQ(ppd.markedPaper()->name, name);
+    }
+    ASSERT_TRUE(papers[1].margins);
+    EXPECT_EQ(*papers[1].margins, QMarginsF(1.0, 3.0, 1.0, 2.0));
+    for (const char *const absent : {"Sizeless", "Choiceless", "TaPe", "PLAIN"})
+        EXPECT_FALSE(ppd.paper(absent)) << absent;
+}
+
 TEST(PpdFile, TakesFreeSizesWithinItsLimits)
 {
     const Sandbox sandbox;
@@ -175,6 +219,50 @@ TEST(PpdFile, TakesFreeSizesWithinItsLimits)
     EXPECT_FALSE(ppd.paper("Custom.30x100mm"));
     EXPECT_FALSE(ppd.paper("Custom.24x5mm"));
     EXPECT_FALSE(ppd.paper("Custom.rubbish"));
+}
+
+TEST(PpdFile, TakesFreeSizesOnlyAsTheServersFiltersReadThem)
+{
+    const std::pair<const char *, std::optional<QSizeF>> rows[] = {
+        {"Custom.24x60mm", QSizeF(68.031, 170.079)},
+        {"Custom.2.4x6cm", QSizeF(68.031, 170.079)},
+        {"Custom..024x.06m", QSizeF(68.031, 170.079)},
+        {"Custom.0.5x2in", QSizeF(36.0, 144.0)},
+        {"Custom.0.05x0.1ft", QSizeF(43.2, 86.4)},
+        {"Custom.68x170", QSizeF(68.0, 170.0)},
+        {"Custom.68x170pt", QSizeF(68.0, 170.0)},
+        {"Custom.24x60nm", {}},
+        {"Custom.24x60furlong", {}},
+        {"Custom.24x60mmJUNK", {}},
+        {"Custom.24x60mm,foo", {}},
+        {"Custom.24x60mmx3", {}},
+        {"Custom.24x60x3mm", {}},
+        {"Custom.24mmx60mm", {}},
+        {"Custom. 24x60mm", {}},
+        {"Custom.24x 60mm", {}},
+        {"Custom.24x60 mm", {}},
+        {"Custom.24x60mm ", {}},
+        {"Custom.24X60mm", {}},
+        {"Custom.2.4e1x60mm", {}},
+        {"Custom.24x0x60mm", {}},
+        {"Custom.-24x-60mm", {}},
+        {"Custom.24,5x60mm", {}},
+        {"Custom.nanxnan", {}},
+        {"Custom.24x", {}},
+        {"Custom.x60mm", {}},
+        {"Custom.", {}},
+        {"custom.24x60mm", {}},
+    };
+    const Sandbox sandbox;
+    const PpdFile ppd = openTapePpd(sandbox);
+    for (const auto &[name, size] : rows) {
+        const auto paper = ppd.paper(name);
+        ASSERT_EQ(paper.has_value(), size.has_value()) << name;
+        if (!paper)
+            continue;
+        EXPECT_NEAR(paper->size.width(), size->width(), 0.01) << name;
+        EXPECT_NEAR(paper->size.height(), size->height(), 0.01) << name;
+    }
 }
 
 TEST(PpdFile, MarksAndReadsChoices)

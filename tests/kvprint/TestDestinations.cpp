@@ -53,6 +53,22 @@ TEST_F(KvprintDestinations, AreFoundAsLpFindsThem)
     recorded(6);
 }
 
+TEST_F(KvprintDestinations, HaveAPaperOfTheirOwn)
+{
+    const QStringList words{QStringLiteral("-d"), QStringLiteral("tape")};
+    cupsd.run(QStringLiteral("lpadmin"), {QStringLiteral("-p"), QStringLiteral("tape"), QStringLiteral("-o"),
+                                          QStringLiteral("media-default=18x60mm")});
+    EXPECT_EQ(printed(words).option("PageSize"), "18x60mm");
+    writeLpOptions("Dest tape PageSize=24x60mm\n");
+    EXPECT_EQ(printed(words).option("PageSize"), "24x60mm");
+    writeLpOptions("Dest tape PageSize=Bogus\n");
+    expectRefusal(words + QStringList{picture()},
+                  {QStringLiteral("Bogus"), QStringLiteral("no paper"), QStringLiteral("lpoptions")});
+    EXPECT_EQ(
+        printed(words + QStringList{QStringLiteral("--paper"), QStringLiteral("24x60mm")}).option("PageSize"),
+        "24x60mm");
+}
+
 TEST_F(KvprintDestinations, AreOnTheServerThatIsNamed)
 {
     kvprint.environment.insert(QStringLiteral("CUPS_SERVER"), QStringLiteral("127.0.0.1:1"));

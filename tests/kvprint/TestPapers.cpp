@@ -108,10 +108,13 @@ TEST_F(KvprintPapers, ArriveByTheirExactNames)
     paper("true", 20, 40);
     paper("FALSE", 20, 40);
     paper("none", 20, 40);
+    paper("tape", 18, 60);
+    paper("TAPE", 24, 80);
+    paper("Tape", 18, 90);
     paper("w72h100", 72 / pointsPerMm, 100 / pointsPerMm);
     cupsd.addQueue(QStringLiteral("tape"), ppd.ppd());
     expectExactly({"Twin24", "Twin24-again", "52x75", "A8", "52x74.01", "36x100", "100x36",
-                   "100x36.Transverse", "true", "FALSE", "none", "w72h100"});
+                   "100x36.Transverse", "true", "FALSE", "none", "tape", "TAPE", "Tape", "w72h100"});
 }
 
 TEST_F(KvprintPapers, MayHoldEveryCharacterOfAKeyword)
@@ -129,7 +132,8 @@ TEST_F(KvprintPapers, OfFreeSizeArriveAsTheyWereNamed)
 {
     addSampleQueue(QStringLiteral("tape"), QStringLiteral("kvelland-lx900"));
     expectExactly({"Custom.24x70mm", "Custom.12.5x99.99mm", "Custom.1x2in", "Custom.68x170"});
-    for (const char *wrong : {"Custom.1000x70mm", "Custom.24x1mm", "Custom.24", "Custom.x", "24X60MM"}) {
+    for (const char *wrong : {"Custom.1000x70mm", "Custom.24x1mm", "Custom.24", "Custom.x", "24X60MM",
+                              "Custom.24x60furlong", "Custom.24x60mmJUNK", "Custom.24x60mmx3"}) {
         for (const QStringList &way : waysToName(wrong))
             expectRefusal(QStringList{QStringLiteral("-d"), QStringLiteral("tape")} + way +
                               QStringList{picture()},

@@ -137,10 +137,13 @@ TEST_F(OpeningTest, ManyQueuesDoNotStallTheWindow)
 TEST_F(OpeningTest, LargePpdsDoNotStallTheWindow)
 {
     QByteArray papers = tapePpd();
+    QByteArray choices;
     for (int i = 0; i < 300; ++i) {
         const QByteArray name = "Extra" + QByteArray::number(i);
+        choices += "*PageSize " + name + ": \"\"\n";
         papers += "*PaperDimension " + name + ": \"" + QByteArray::number(100 + i) + " 200\"\n";
     }
+    papers.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
     QByteArray constrained = largeOptionsPpd(200, 50);
     for (int i = 0; i < 199; ++i)
         constrained += "*UIConstraints: *Option" + QByteArray::number(i) + " C1 *Option" +

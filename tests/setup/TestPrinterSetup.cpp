@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <host/setup/PrinterSetup.h>
+#include <host/setup/SetupJob.h>
 #include <tests/support/PpdBuilder.h>
 
 #include <QCheckBox>
@@ -167,6 +167,61 @@ TEST_F(PrinterSetupTest, TheUsersDefaultsAreMarkedAndAFreePaperIsAmongThem)
     EXPECT_EQ(setup->paper()->name, QByteArray("Custom.30x40mm"));
     // Nobody has chosen anything for this job.
     EXPECT_TRUE(setup->choices().empty());
+}
+
+TEST_F(PrinterSetupTest, TheQueuesPaperIsShownUnlessTheUserHasAnother)
+{
+    const std::pair<const char *, const char *> rows[] = {
+        {"sides", "36mm"},
+        {"PageSize", "62mm"},
+        {"media", "62mm"},
+    };
+    for (const auto &[users, expected] : rows) {
+        host::Destination destination;
+        destination.queueOptions = {{"media", "36mm"}};
+        destination.userOptions = {{users, "62mm"}};
+        const auto setup = make(PpdBuilder().options({"KvMirror"}), {}, destination);
+        EXPECT_EQ(setup->paper()->name, expected);
+        EXPECT_EQ(marked(*setup, "PageSize"), QLatin1String(expected));
+    }
+}
+
+TEST_F(PrinterSetupTest, ADefaultPaperOfTheUsersThatThePrinterLacksIsRefused)
+{
+    host::Destination destination;
+    destination.queueOptions = {{"media", "36mm"}};
+    destination.userOptions = {{"PageSize", "Bogus"}};
+    struct Row {
+        SetupWishes wishes;
+        QStringList refused;
+        const char *sent;
+        Origin origin;
+    };
+    SetupWishes forced;
+    forced.force = true;
+    const QString bogus = QStringLiteral("\"Bogus\", which is your default (lpoptions)");
+    const Row rows[] = {
+        {{}, {bogus}, "36mm", Origin::Queue},
+        {{{}, "62mm"}, {}, "62mm", Origin::You},
+        {{{}, "A4"}, {QStringLiteral("\"A4\"")}, "36mm", Origin::Queue},
+        {forced, {bogus}, "Bogus", Origin::UserDefault},
+    };
+    const auto document =
+        host::LabelDocument::open(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"));
+    ASSERT_TRUE(document);
+    for (const Row &row : rows) {
+        const auto setup = make(PpdBuilder().options({"KvMirror"}), row.wishes, destination);
+        ASSERT_EQ(setup->refusals().size(), static_cast<std::size_t>(row.refused.size())) << row.sent;
+        for (const QString &words : row.refused) {
+            EXPECT_EQ(setup->refusals()[0].kind, ChoiceFailure::UnknownPaper);
+            EXPECT_TRUE(setup->refusals()[0].message.contains(words))
+                << setup->refusals()[0].message.toStdString();
+        }
+        const host::JobTicket ticket = ticketFor(*setup, *document.value(), {});
+        const auto paper = std::ranges::find(ticket.options, QByteArray("PageSize"), &host::JobOption::name);
+        ASSERT_NE(paper, ticket.options.end());
+        EXPECT_EQ(*paper, (host::JobOption{"PageSize", row.sent, row.origin, true})) << row.sent;
+    }
 }
 
 TEST_F(PrinterSetupTest, ThePrintersChoicesAnnounceAPaperToThePanel)

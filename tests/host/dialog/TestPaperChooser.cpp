@@ -8,6 +8,7 @@
 #include <host/dialog/LinkButton.h>
 #include <host/dialog/PaperChooser.h>
 #include <host/dialog/PaperGroups.h>
+#include <host/dialog/PaperList.h>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -161,11 +162,29 @@ TEST_F(PaperChooserTest, PapersOfOneTextAreToldApartByName)
     EXPECT_TRUE(shown().contains(QStringLiteral("Labels 52 mm x 75 mm (DC52x75)")));
 }
 
+TEST(PaperList, TellsTensOfThousandsOfPapersApart)
+{
+    std::vector<host::PpdPaper> papers;
+    for (int i = 0; i < 30'000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        papers.push_back(
+            {'W' + number, QStringLiteral("Tape of number %1").arg(i / 2), QSizeF(68.0, 170.0), {}});
+    }
+    dialog::PaperList list(nullptr);
+    list.setPapers(papers, false);
+    ASSERT_EQ(list.count(), 30'000);
+    EXPECT_EQ(list.item(29'999)->text(), QStringLiteral("Tape of number 14999 (W29999)"));
+}
+
 TEST_F(PaperChooserTest, ASearchKeepsTheHeadingsOfWhatItFinds)
 {
     QByteArray text = tapePpd();
-    for (int i = 10; i < 20; ++i)
+    QByteArray choices;
+    for (int i = 10; i < 20; ++i) {
+        choices += "*PageSize X" + QByteArray::number(i) + ": \"\"\n";
         text += "*PaperDimension X" + QByteArray::number(i) + ": \"100 200\"\n";
+    }
+    text.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
     open(text);
     ASSERT_TRUE(search() && search()->isVisible());
     QTest::keyClicks(search(), QStringLiteral("52 remov"));

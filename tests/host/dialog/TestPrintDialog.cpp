@@ -184,10 +184,13 @@ TEST_F(PrintDialogTest, TheSummaryHasThePanelsLinesInTheirOrderBesideTheDialogsO
 TEST_F(PrintDialogTest, ASearchFindsPapersAndChangesNothing)
 {
     QByteArray text = tapePpd();
+    QByteArray choices;
     for (int i = 10; i < 20; ++i) {
         const QByteArray name = "X" + QByteArray::number(i);
+        choices += "*PageSize " + name + "/Extra " + name + ": \"\"\n";
         text += "*PaperDimension " + name + "/Extra " + name + ": \"100 200\"\n";
     }
+    text.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
     sandbox.write(QStringLiteral("many.ppd"), text);
     auto ppd = host::PpdFile::open(sandbox.path(QStringLiteral("many.ppd")));
     ASSERT_TRUE(ppd) << ppd.error().message.toStdString();

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PpdFile.h"
+
+#include "PpdNumber.h"
+
+#include <QSet>
+
+namespace host {
+
+namespace {
+
+/// The entry that stands for papers of free size.
+constexpr const char *customSizeName = "Custom";
+
+} // namespace
+
+std::optional<PpdPaper> PpdFile::fixedPaper(const QByteArray &name, const QString &text) const
+{
+    const std::optional<QSizeF> size = m_paperSizes.size(name);
+    if (!size || name == customSizeName)
+        return std::nullopt;
+    return PpdPaper{name, text.isEmpty() ? QString::fromUtf8(name) : text, *size, m_paperSizes.margins(name)};
+}
+
+std::vector<PpdPaper> PpdFile::papers() const
+{
+    const ppd_option_t *const option = ppdFindOption(m_ppd.get(), "PageSize");
+    std::vector<PpdPaper> papers;
+    QSet<QByteArray> names;
+    for (int i = 0; option && i < option->num_choices; ++i) {
+        const ppd_choice_t &choice = option->choices[i];
+        std::optional<PpdPaper> paper = fixedPaper(choice.choice, QString::fromUtf8(choice.text));
+        if (!paper || names.contains(paper->name))
+            continue;
+        names.insert(paper->name);
+        papers.push_back(*std::move(paper));
+    }
+    return papers;
+}
+
+std::optional<PpdPaper> PpdFile::paper(const QByteArray &name) const
+{
+    const QString pageSize = QStringLiteral("PageSize");
+    const QString choice = QString::fromUtf8(name);
+    if (choiceIndex(pageSize, choice)) {
+        if (std::optional<PpdPaper> fixed = fixedPaper(name, choiceText(pageSize, choice)))
+            return fixed;
+    }
+    return customPaper(name);
+}
+
+std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
+{
+    const std::optional<PpdCustomLimits> limits = customLimits();
+    if (!limits || !customPaperSize(name))
+        return std::nullopt;
+    const ppd_size_t *const record = ppdPageSize(m_ppd.get(), name.constData());
+    if (!record)
+        return std::nullopt;
+    const QSizeF size(double{record->width}, double{record->length});
+    // A free size given in millimetres may miss a limit by its rounding to floats.
+    constexpr double tolerance = 0.01;
+    const bool fits = size.width() >= limits->smallest.width() - tolerance &&
+                      size.height() >= limits->smallest.height() - tolerance &&
+                      size.width() <= limits->largest.width() + tolerance &&
+                      size.height() <= limits->largest.height() + tolerance;
+    if (!fits)
+        return std::nullopt;
+    PpdPaper paper{name, QString::fromUtf8(name), size, std::nullopt};
+    if (record->right > record->left && record->top > record->bottom) {
+        paper.margins = QMarginsF(double{record->left}, size.height() - double{record->top},
+                                  size.width() - double{record->right}, double{record->bottom});
+    }
+    return paper;
+}
+
+std::optional<PpdPaper> PpdFile::markedPaper() const
+{
+    const std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
+    if (name != QLatin1String(customSizeName))
+        return name ? paper(name->toUtf8()) : std::nullopt;
+    const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
+    if (!size)
+        return std::nullopt;
+    return paper(customPaperName(QSizeF(double{size->width}, double{size->length})));
+}
+
+std::optional<PpdCustomLimits> PpdFile::customLimits() const
+{
+    if (!m_ppd->variable_sizes)
+        return std::nullopt;
+    return PpdCustomLimits{QSizeF(double{m_ppd->custom_min[0]}, double{m_ppd->custom_min[1]}),
+                           QSizeF(double{m_ppd->custom_max[0]}, double{m_ppd->custom_max[1]})};
+}
+
+} // namespace host

@@ -1,0 +1,30 @@
+#!/bin/sh
+# SPDX-License-Identifier: Apache-2.0
+# libcups's types and functions for PPDs are used by host/Ppd*.{h,cpp} only: a later libcups does not have them.
+# The panel's side of the protocol (plugin, ppd, options and what they stand on) is made of them and not looked at.
+#   check-ppd.sh SOURCE-DIRECTORY
+set -eu
+cd -- "$1"
+
+functions='Close|Collect|Conflicts|Emit|ErrorString|Find|First|InstallableConflict|IsMarked|LastError|Localize'
+functions="$functions|Mark|Next|Open|Page(Length|Size|Width)|SetConformance"
+names="\\bppd_[a-z]+_[te]\\b|\\bPPD_[A-Z]|\\bppd($functions)[A-Za-z0-9]*\\(|cups/ppd\\.h"
+names="$names|\\bcups(MarkOptions|GetConflicts|ResolveConflicts|GetPPD|GetServerPPD)"
+
+# What a line says after "//" nobody compiles.
+uses() {
+    find "$@" -name '*.h' -o -name '*.cpp' | sort | while IFS= read -r file; do
+        sed 's|//.*||' "$file" | grep -nE "$names" | sed "s|^|$file:|" || true
+    done
+}
+
+failures=$(uses host tools | grep -vE '^host/Ppd[A-Za-z]*\.(h|cpp):' |
+    # The protocol's own way of asking for it.
+    grep -vF 'ppd_file_t *ppdFile() const override' || true)
+if [ -n "$failures" ]; then
+    echo "PPDs are read through host/PpdFile and host/PpdOptions:"
+    echo "$failures"
+    exit 1
+fi
+# The words that are looked for are those that are there.
+[ "$(uses host | grep -c '^host/Ppd')" -gt 20 ]
