@@ -106,6 +106,8 @@ void DialogPages::writeJobTo(host::JobDraft &draft) const
 
 void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
 {
+    if (m_panelPage)
+        m_panelPage->setConflicts(host::sentencesAbout(m_setup->claimedKeywords(), conflicts));
     if (!m_optionsPage)
         return;
     m_optionsPage->refresh();

@@ -40,7 +40,8 @@ public:
     /// are.
     void showJob(const host::JobDraft &draft) { m_job = draft; }
     void writeJobTo(host::JobDraft &draft) const;
-    /// Shows the conflicts at the options that they are about.
+    /// Shows the conflicts at the options that they are about, and above the panel those that its options
+    /// are part of.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
     /// What the summary and the page of what will be sent show when they are in front.
     void setSummary(std::function<std::vector<SummarySection>()> summary) { m_summary = std::move(summary); }

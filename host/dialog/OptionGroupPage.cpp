@@ -76,12 +76,7 @@ void OptionGroupPage::setConflicts(const std::vector<host::Conflict> &conflicts)
 
 QStringList OptionGroupPage::sentencesAbout(const QByteArray &keyword) const
 {
-    QStringList sentences;
-    for (const host::Conflict &conflict : m_conflicts) {
-        if (conflict.involves(QString::fromUtf8(keyword)))
-            sentences.append(conflict.sentence());
-    }
-    return sentences;
+    return host::sentencesAbout({QString::fromUtf8(keyword)}, m_conflicts);
 }
 
 QStringList OptionGroupPage::conflictSentences() const

@@ -2,6 +2,7 @@
 #include "PaperChooser.h"
 
 #include "ClearButton.h"
+#include "ConflictNote.h"
 #include "CustomPaperFields.h"
 #include "LengthUnit.h"
 #include "LinkButton.h"
@@ -47,6 +48,7 @@ PaperChooser::PaperChooser(const host::PpdFile &ppd, const host::PpdPaper &chose
     , m_ppd(&ppd)
     , m_search(new QLineEdit(this))
     , m_list(new PaperList(this))
+    , m_note(new ConflictNote(this))
     , m_documentButton(new LinkButton(this))
 {
     build();
@@ -68,6 +70,7 @@ void PaperChooser::build()
     layout->addWidget(label);
     layout->addWidget(m_search);
     layout->addWidget(m_list, 1);
+    layout->addWidget(m_note);
     layout->addWidget(m_documentButton, 0, Qt::AlignLeading);
     connect(m_search, &QLineEdit::textChanged, m_list, &PaperList::filter);
     connect(m_list, &PaperList::entryChosen, this, &PaperChooser::chooseEntry);
@@ -110,6 +113,14 @@ void PaperChooser::setDocumentPage(const QSizeF &points)
 {
     m_documentPage = points;
     updateDocumentButton();
+}
+
+void PaperChooser::setConflicts(const std::vector<host::Conflict> &conflicts)
+{
+    const QStringList sentences =
+        host::sentencesAbout({QStringLiteral("PageSize"), QStringLiteral("PageRegion")}, conflicts);
+    m_note->setSentences(sentences);
+    m_list->setAccessibleDescription(sentences.join(u' '));
 }
 
 bool PaperChooser::choose(const QByteArray &name)

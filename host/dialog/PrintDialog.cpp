@@ -261,6 +261,8 @@ void PrintDialog::refreshConflicts()
     const host::PrinterSetup *const setup = m_keeper.setup();
     const std::vector<host::Conflict> conflicts = setup ? setup->conflicts() : std::vector<host::Conflict>();
     m_pages->setConflicts(conflicts);
+    if (m_papers)
+        m_papers->setConflicts(conflicts);
     QStringList sentences;
     for (const host::Conflict &conflict : conflicts)
         sentences.append(conflict.sentence());
