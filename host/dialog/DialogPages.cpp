@@ -8,9 +8,43 @@
 #include "PanelPage.h"
 #include "SentPage.h"
 
+#include <QApplication>
+#include <QStyle>
+#include <QStyleOptionTabWidgetFrame>
 #include <QTabBar>
 
 namespace dialog {
+
+namespace {
+
+/// The control with the focus, by the name of it or of what it is part of; empty when none within has it.
+QString nameOfFocus(const QWidget *within)
+{
+    const QWidget *each = QApplication::focusWidget();
+    if (!within || !within->isAncestorOf(each))
+        return {};
+    // Qt names the parts of its own widgets.
+    while (each != within && (each->objectName().isEmpty() || each->objectName().startsWith(u"qt_")))
+        each = each->parentWidget();
+    return each == within ? QString() : each->objectName();
+}
+
+void focusByName(const QWidget *within, const QString &name)
+{
+    auto *const named = name.isEmpty() ? nullptr : within->findChild<QWidget *>(name);
+    if (!named)
+        return;
+    QList<QWidget *> candidates = named->findChildren<QWidget *>();
+    candidates.prepend(named);
+    for (QWidget *const each : candidates) {
+        if (each->focusPolicy() & Qt::TabFocus && each->isVisibleTo(within) && each->isEnabled()) {
+            each->setFocus();
+            return;
+        }
+    }
+}
+
+} // namespace
 
 DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent)
     : QTabWidget(parent)
@@ -59,6 +93,7 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
     if (PDEPanel *const panel = setup.panel())
         addPanel(*panel);
     makeRoom(tabBar()->sizeHint().width());
+    restoreUse();
 }
 
 void DialogPages::makeRoom(int titleWidth)
@@ -74,8 +109,6 @@ void DialogPages::addPanel(PDEPanel &panel)
     m_setup->panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
     QString title = panel.panelName();
     insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
-    if (m_panelComesToFront)
-        setCurrentIndex(0);
 }
 
 void DialogPages::addOptions()
@@ -119,7 +152,8 @@ void DialogPages::dropSetup()
     if (m_setup && m_setup->panelHost())
         m_setup->panelHost()->setPanelViewDidResizeHook({});
     const QSignalBlocker quiet(this);
-    m_panelComesToFront = !m_panelPage || currentWidget() == m_panelPage;
+    if (m_setup)
+        rememberUse();
     // The options first: else they would be made, to be shown in the panel's place.
     delete m_optionsPlace;
     m_optionsPlace = nullptr;
@@ -127,6 +161,29 @@ void DialogPages::dropSetup()
     delete m_panelPage;
     m_panelPage = nullptr;
     m_setup = nullptr;
+}
+
+void DialogPages::rememberUse()
+{
+    m_group = m_optionsPage ? m_optionsPage->shownGroup() : QString();
+    m_focused = nameOfFocus(currentWidget());
+    if (m_optionsPlace && currentWidget() == m_optionsPlace)
+        m_front = Front::Options;
+    else
+        m_front = !m_panelPage || currentWidget() == m_panelPage ? Front::Panel : Front::Other;
+}
+
+void DialogPages::restoreUse()
+{
+    if (m_front == Front::Panel && m_panelPage)
+        setCurrentWidget(m_panelPage);
+    if (m_front == Front::Options && m_optionsPlace) {
+        setCurrentWidget(m_optionsPlace);
+        if (m_optionsPage)
+            m_optionsPage->showGroup(m_group);
+    }
+    if (m_front != Front::Other)
+        focusByName(currentWidget(), m_focused);
 }
 
 void DialogPages::setRenderer(const host::LabelRenderer &renderer)
