@@ -154,6 +154,41 @@ TEST_F(PaperChooserTest, KeysPassOverHeadingsAndTwinsStayTwo)
     EXPECT_EQ(spy->count(), 2);
 }
 
+TEST_F(PaperChooserTest, TheChosenPaperStaysHighlightedWhereverOneClicks)
+{
+    open();
+    chooser->resize(320, 700);
+    QApplication::processEvents();
+    const auto isHighlighted = [this](const char *text) {
+        return list()->currentItem()->text() == QLatin1String(text) && list()->currentItem()->isSelected() &&
+               list()->selectedItems().size() == 1;
+    };
+    const auto press = [this](const QPoint &place, Qt::KeyboardModifiers modifiers) {
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, place);
+        QApplication::processEvents();
+    };
+    const QPoint empty(20, list()->viewport()->height() - 5);
+    ASSERT_FALSE(list()->itemAt(empty));
+    const auto placeOf = [this](const char *text) {
+        return list()
+            ->visualItemRect(list()->findItems(QLatin1String(text), Qt::MatchExactly).value(0))
+            .center();
+    };
+    for (const Qt::KeyboardModifiers modifiers : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+        for (const QPoint &place : {empty, placeOf("Tape 24 mm x 60 mm"), placeOf("12 mm wide")}) {
+            press(place, modifiers);
+            EXPECT_TRUE(isHighlighted("Tape 24 mm x 60 mm")) << modifiers << " " << place.y();
+        }
+    }
+    EXPECT_EQ(spy->count(), 0);
+    press(placeOf("Tape 12 mm x 60 mm"), Qt::ControlModifier);
+    EXPECT_TRUE(isHighlighted("Tape 12 mm x 60 mm"));
+    EXPECT_EQ(chooser->chosen().name, QByteArray("W12H60"));
+    QTest::keyClick(list(), Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_TRUE(isHighlighted("Tape 24 mm x 60 mm"));
+    EXPECT_EQ(chooser->chosen().name, QByteArray("W24H60"));
+}
+
 TEST_F(PaperChooserTest, PapersOfOneTextAreToldApartByName)
 {
     open(tapePpd().replace("DC52x75R/Removable 52 mm", "DC52x75R/Labels 52 mm"));
