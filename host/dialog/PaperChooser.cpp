@@ -4,6 +4,7 @@
 #include "ClearButton.h"
 #include "ConflictNote.h"
 #include "CustomPaperFields.h"
+#include "DocumentPaper.h"
 #include "LengthUnit.h"
 #include "LinkButton.h"
 #include "PaperList.h"
@@ -15,20 +16,10 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace dialog {
 
 namespace {
-
-/// Documents round their pages to whole points or to tenths of millimetres.
-constexpr double sameSize = 0.5;
-
-bool isSameSize(const QSizeF &one, const QSizeF &other)
-{
-    return std::abs(one.width() - other.width()) <= sameSize &&
-           std::abs(one.height() - other.height()) <= sameSize;
-}
 
 bool isWithin(const QSizeF &size, const host::PpdCustomLimits &limits)
 {
@@ -192,27 +183,18 @@ std::optional<host::PpdPaper> PaperChooser::customPaper(const QByteArray &name) 
 
 std::optional<host::PpdPaper> PaperChooser::paperForDocument() const
 {
-    if (m_documentPage.isEmpty())
-        return std::nullopt;
-    const QSizeF sizes[] = {m_documentPage, m_documentPage.transposed()};
-    for (const QSizeF &size : sizes) {
-        const auto found = std::ranges::find_if(
-            m_papers, [&](const host::PpdPaper &paper) { return isSameSize(paper.size, size); });
-        if (found != m_papers.end())
-            return *found;
-    }
-    for (const QSizeF &size : sizes) {
-        if (m_fields && isWithin(size, *m_limits))
-            return customPaper(host::customPaperName(size));
-    }
-    return std::nullopt;
+    return paperForPage(m_papers, m_documentPage, [this](const QSizeF &size) {
+        const bool isFree = m_fields && isWithin(size, *m_limits);
+        return isFree ? customPaper(host::customPaperName(size)) : std::nullopt;
+    });
 }
 
 void PaperChooser::updateDocumentButton()
 {
-    const bool isChosen =
-        isSameSize(m_documentPage, m_chosen.size) || isSameSize(m_documentPage.transposed(), m_chosen.size);
-    const auto paper = isChosen ? std::nullopt : paperForDocument();
+    auto paper = paperForDocument();
+    // Of papers of one size, the chosen one is as good as the first.
+    if (paper && (fitsExactly(m_chosen, m_documentPage) || fitsExactly(m_chosen, paper->size)))
+        paper.reset();
     m_documentButton->setVisible(paper.has_value());
     if (!paper)
         return;

@@ -332,12 +332,22 @@ TEST_F(PaperChooserTest, OffersTheDocumentsSizeWhereItFits)
         const char *offered; ///< null when nothing is
     };
     const Row rows[] = {
-        {QSizeF(12, 60) * mm, true, "W12H60"},         {QSizeF(60, 12) * mm, true, "W12H60"},
-        {QSizeF(34.4, 170.5), true, "W12H60"},         {QSizeF(75, 52) * mm, true, "DC52x75"},
+        {QSizeF(12, 60) * mm, true, "W12H60"},
+        {QSizeF(60, 12) * mm, true, "W12H60"},
+        {QSizeF(34, 170), true, "W12H60"},
+        {QSizeF(75, 52) * mm, true, "DC52x75"},
+        {QSizeF(34.4, 170.5), false, "W12H60"}, // as near as it gets
+        {QSizeF(34.4, 170.5), true, "Custom.12.1356x60.1486mm"},
+        {QSizeF(24.15, 60) * mm, true, "Custom.24.15x60mm"},
+        {QSizeF(24.15, 60) * mm, false, nullptr}, // as near as it gets is chosen already
+        {QSizeF(68, 170), true, nullptr},
         {QSizeF(24, 60) * mm, true, nullptr}, // chosen already
-        {QSizeF(60, 24) * mm, true, nullptr},          {QSizeF(18, 50) * mm, true, "Custom.18x50mm"},
-        {QSizeF(50, 18) * mm, true, "Custom.18x50mm"}, {QSizeF(18, 50) * mm, false, nullptr},
-        {QSizeF(210, 297) * mm, true, nullptr},        {QSizeF(), true, nullptr},
+        {QSizeF(60, 24) * mm, true, nullptr},
+        {QSizeF(18, 50) * mm, true, "Custom.18x50mm"},
+        {QSizeF(50, 18) * mm, true, "Custom.18x50mm"},
+        {QSizeF(18, 50) * mm, false, nullptr},
+        {QSizeF(210, 297) * mm, true, nullptr},
+        {QSizeF(), true, nullptr},
     };
     for (const Row &row : rows) {
         open(row.freeSizes ? tapePpd() : withoutFreeSizes(tapePpd()));
