@@ -100,13 +100,22 @@ void DialogPages::makeRoom(int titleWidth)
 {
     // All titles are in sight, as long as no language makes novels of them.
     const int widest = 120 * fontMetrics().averageCharWidth();
-    setMinimumWidth(qMin(titleWidth + tabBar()->fontMetrics().height(), widest));
+    const int titles = qMin(titleWidth + tabBar()->fontMetrics().height(), widest);
+    // So is the whole panel, which is laid out for its own width.
+    QStyleOptionTabWidgetFrame frame;
+    initStyleOption(&frame);
+    const QSize panel = m_panelPage ? m_panelPage->minimumSizeHint() : QSize(0, 0);
+    const int around = style()->sizeFromContents(QStyle::CT_TabWidget, &frame, panel, this).width();
+    setMinimumWidth(qMax(titles, around));
 }
 
 void DialogPages::addPanel(PDEPanel &panel)
 {
     m_panelPage = new PanelPage(panel, this);
-    m_setup->panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
+    m_setup->panelHost()->setPanelViewDidResizeHook([this] {
+        m_panelPage->fitView();
+        makeRoom(tabBar()->sizeHint().width());
+    });
     QString title = panel.panelName();
     insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
 }
