@@ -138,6 +138,17 @@ QString Conflict::sentence() const
     return Text::tr("%1 and %2 exclude each other.").arg(texts.join(QStringLiteral(", ")), last);
 }
 
+QStringList sentencesAbout(const QStringList &keywords, const std::vector<Conflict> &conflicts)
+{
+    QStringList sentences;
+    for (const Conflict &conflict : conflicts) {
+        if (std::ranges::any_of(keywords, [&](const QString &each) { return conflict.involves(each); }))
+            sentences.append(conflict.sentence());
+    }
+    sentences.removeDuplicates();
+    return sentences;
+}
+
 bool Conflict::involves(const QString &keyword) const
 {
     return std::any_of(sides.begin(), sides.end(),

@@ -25,6 +25,9 @@ struct Conflict {
     bool involves(const QString &keyword) const;
 };
 
+/// The sentences of the conflicts that involve one of the options, each once.
+QStringList sentencesAbout(const QStringList &keywords, const std::vector<Conflict> &conflicts);
+
 /// Changes that end all conflicts and leave the paper as it is.
 struct Remedy {
     struct Change {

@@ -63,11 +63,18 @@ void QueueSession::start(Discovery discovery)
 {
     m_hasStarted = true;
     m_isSettled = false;
+    m_listError.reset();
     m_server.passwords->forgetRefusal();
     m_discovery = discovery;
     m_destinations.refresh(discovery);
     if (m_chosen)
         setChosen(*m_chosen);
+}
+
+void QueueSession::tryAgain()
+{
+    start(m_discovery);
+    Q_EMIT stateChanged();
 }
 
 QString QueueSession::chosenName() const
@@ -116,6 +123,7 @@ void QueueSession::tell(const CupsError &error)
 void QueueSession::listFailed(const CupsError &error)
 {
     m_isSettled = true;
+    m_listError = error;
     tell(error);
     Q_EMIT settled();
     // A chosen queue is asked for its state all the time, which tells when the server is back.
@@ -136,6 +144,7 @@ void QueueSession::recover()
 
 void QueueSession::takeList()
 {
+    m_listError.reset();
     settle();
     if (!m_chosen && std::exchange(m_isOutOfReach, false))
         Q_EMIT recovered();

@@ -33,9 +33,13 @@ public:
 
     /// Asks the server for everything.
     void start(Discovery discovery);
+    /// Asks for everything once more; a user who has refused a password is asked for it again.
+    void tryAgain();
 
     const CupsServer &server() const { return m_server; }
     const DestinationList &destinations() const { return m_destinations; }
+    /// Why the server's destinations are not known; nothing while it is being asked or has answered.
+    const std::optional<CupsError> &listError() const { return m_listError; }
     /// The chosen destination; nothing while it is not known.
     const std::optional<Destination> &chosen() const { return m_chosen; }
     /// The name that is waited for or chosen; empty when not even that is known.
@@ -60,7 +64,7 @@ Q_SIGNALS:
     void destinationsChanged();
     /// Another destination is chosen; its PPD may be at hand already.
     void chosenChanged();
-    /// The chosen destination is in another state.
+    /// The chosen destination is in another state, or the server is being asked for everything once more.
     void stateChanged();
     /// ppdKnowledge() is another; takePpd() has a new PPD when the server's is not the one given before.
     void ppdChanged();
@@ -95,6 +99,7 @@ private:
     std::unique_ptr<QueueMonitor> m_monitor;
     std::optional<Destination> m_chosen;
     std::optional<PpdFile> m_ppd;
+    std::optional<CupsError> m_listError;
     PpdKnowledge m_knowledge = PpdKnowledge::Asked;
     std::optional<CupsError> m_ppdError;
     Discovery m_discovery = Discovery::No;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Banner.h"
 
-#include <QHBoxLayout>
+#include "ElidedButton.h"
+
+#include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 
 namespace dialog {
@@ -11,22 +14,38 @@ namespace dialog {
 Banner::Banner(QWidget *parent)
     : QFrame(parent)
     , m_icon(new QLabel(this))
-    , m_text(new QLabel(this))
-    , m_remedy(new QPushButton(this))
+    , m_text(new QLabel)
+    , m_view(new QScrollArea(this))
+    , m_remedy(new ElidedButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
     m_text->setForegroundRole(QPalette::ToolTipText);
+    m_text->setBackgroundRole(QPalette::ToolTipBase);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
-    auto *const layout = new QHBoxLayout(this);
-    layout->addWidget(m_icon);
-    layout->addWidget(m_text, 1);
-    layout->addWidget(m_remedy);
+    m_text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    build();
     m_remedy->setAutoDefault(false);
     connect(m_remedy, &QPushButton::clicked, this, &Banner::remedyClicked);
     setVisible(false);
+}
+
+void Banner::build()
+{
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setWidget(m_text);
+    m_view->setWidgetResizable(true);
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_view->viewport()->setBackgroundRole(QPalette::ToolTipBase);
+    auto *const layout = new QGridLayout(this);
+    layout->addWidget(m_icon, 0, 0, Qt::AlignTop);
+    layout->addWidget(m_view, 0, 1);
+    // Below the text: beside it, a long remedy would leave the text no room.
+    layout->addWidget(m_remedy, 1, 1, Qt::AlignLeading);
+    layout->setColumnStretch(1, 1);
+    fitText();
 }
 
 void Banner::prepare()
@@ -42,17 +61,39 @@ void Banner::setMessage(const QString &message, const QString &remedy)
 {
     if (!message.isEmpty() && m_icon->pixmap().isNull())
         prepare();
+    if (message != m_text->text())
+        m_view->verticalScrollBar()->setValue(0);
     m_text->setText(message);
     // An ampersand in a PPD's text is no shortcut.
     m_remedy->setText(QString(remedy).replace(u'&', QStringLiteral("&&")));
     m_remedy->setVisible(!remedy.isEmpty());
     setAccessibleName(message);
+    m_view->setAccessibleName(message);
     setVisible(!message.isEmpty());
+    fitText();
 }
 
 QString Banner::message() const
 {
     return m_text->text();
+}
+
+void Banner::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    fitText();
+}
+
+void Banner::fitText()
+{
+    // A window takes no notice of what a wrapped text needs, so its height is told.
+    constexpr int mostLines = 4;
+    const int line = m_text->fontMetrics().lineSpacing();
+    // As long as the banner has no place in the window, its width is not known.
+    const int needed = isVisible() ? m_text->heightForWidth(m_view->width()) : line;
+    m_view->setFixedHeight(qBound(line, needed, mostLines * line));
+    // Who has no mouse scrolls with keys, where there is something to scroll.
+    m_view->setFocusPolicy(needed > mostLines * line ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 } // namespace dialog

@@ -4,12 +4,15 @@
 #include <QFrame>
 
 class QLabel;
-class QPushButton;
+class QScrollArea;
 
 namespace dialog {
 
+class ElidedButton;
+
 /// A message across the dialog that stays until it is settled, with a button to settle it where there is one.
-/// Hidden while there is no message.
+/// Hidden while there is no message. A long message is scrolled, so that no message makes the window larger
+/// than a screen.
 class Banner : public QFrame {
     Q_OBJECT
 
@@ -23,12 +26,19 @@ public:
 Q_SIGNALS:
     void remedyClicked();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void build();
     void prepare();
+    void fitText();
 
     QLabel *m_icon;
     QLabel *m_text;
-    QPushButton *m_remedy;
+    /// Where the text is scrolled.
+    QScrollArea *m_view;
+    ElidedButton *m_remedy;
 };
 
 } // namespace dialog

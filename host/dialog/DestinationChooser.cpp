@@ -113,13 +113,18 @@ void DestinationChooser::showChosen()
 QString DestinationChooser::stateText() const
 {
     const bool isFromLastTime = m_session.destinations().isStale();
+    const std::optional<host::CupsError> &error = m_session.listError();
+    const bool wantsPassword = error && error->kind == host::CupsFailure::NotAuthorized;
     if (!m_session.chosen())
         return !m_session.isSettled() ? tr("Waiting for the print server's answer…")
+               : wantsPassword        ? tr("The print server wants a password.")
                : isFromLastTime       ? tr("The print server does not answer.")
                                       : tr("There is no such printer.");
     const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
     if (isFromLastTime && !m_session.isSettled())
         return tr("Last time: %1").arg(sentences);
+    if (isFromLastTime && wantsPassword)
+        return tr("The print server wants a password. Last time: %1").arg(sentences);
     return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
 }
 

@@ -8,9 +8,43 @@
 #include "PanelPage.h"
 #include "SentPage.h"
 
+#include <QApplication>
+#include <QStyle>
+#include <QStyleOptionTabWidgetFrame>
 #include <QTabBar>
 
 namespace dialog {
+
+namespace {
+
+/// The control with the focus, by the name of it or of what it is part of; empty when none within has it.
+QString nameOfFocus(const QWidget *within)
+{
+    const QWidget *each = QApplication::focusWidget();
+    if (!within || !within->isAncestorOf(each))
+        return {};
+    // Qt names the parts of its own widgets.
+    while (each != within && (each->objectName().isEmpty() || each->objectName().startsWith(u"qt_")))
+        each = each->parentWidget();
+    return each == within ? QString() : each->objectName();
+}
+
+void focusByName(const QWidget *within, const QString &name)
+{
+    auto *const named = name.isEmpty() ? nullptr : within->findChild<QWidget *>(name);
+    if (!named)
+        return;
+    QList<QWidget *> candidates = named->findChildren<QWidget *>();
+    candidates.prepend(named);
+    for (QWidget *const each : candidates) {
+        if (each->focusPolicy() & Qt::TabFocus && each->isVisibleTo(within) && each->isEnabled()) {
+            each->setFocus();
+            return;
+        }
+    }
+}
+
+} // namespace
 
 DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent)
     : QTabWidget(parent)
@@ -59,23 +93,31 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
     if (PDEPanel *const panel = setup.panel())
         addPanel(*panel);
     makeRoom(tabBar()->sizeHint().width());
+    restoreUse();
 }
 
 void DialogPages::makeRoom(int titleWidth)
 {
     // All titles are in sight, as long as no language makes novels of them.
     const int widest = 120 * fontMetrics().averageCharWidth();
-    setMinimumWidth(qMin(titleWidth + tabBar()->fontMetrics().height(), widest));
+    const int titles = qMin(titleWidth + tabBar()->fontMetrics().height(), widest);
+    // So is the whole panel, which is laid out for its own width.
+    QStyleOptionTabWidgetFrame frame;
+    initStyleOption(&frame);
+    const QSize panel = m_panelPage ? m_panelPage->minimumSizeHint() : QSize(0, 0);
+    const int around = style()->sizeFromContents(QStyle::CT_TabWidget, &frame, panel, this).width();
+    setMinimumWidth(qMax(titles, around));
 }
 
 void DialogPages::addPanel(PDEPanel &panel)
 {
     m_panelPage = new PanelPage(panel, this);
-    m_setup->panelHost()->setPanelViewDidResizeHook([this] { m_panelPage->fitView(); });
+    m_setup->panelHost()->setPanelViewDidResizeHook([this] {
+        m_panelPage->fitView();
+        makeRoom(tabBar()->sizeHint().width());
+    });
     QString title = panel.panelName();
     insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
-    if (m_panelComesToFront)
-        setCurrentIndex(0);
 }
 
 void DialogPages::addOptions()
@@ -106,6 +148,8 @@ void DialogPages::writeJobTo(host::JobDraft &draft) const
 
 void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
 {
+    if (m_panelPage)
+        m_panelPage->setConflicts(host::sentencesAbout(m_setup->claimedKeywords(), conflicts));
     if (!m_optionsPage)
         return;
     m_optionsPage->refresh();
@@ -117,7 +161,8 @@ void DialogPages::dropSetup()
     if (m_setup && m_setup->panelHost())
         m_setup->panelHost()->setPanelViewDidResizeHook({});
     const QSignalBlocker quiet(this);
-    m_panelComesToFront = !m_panelPage || currentWidget() == m_panelPage;
+    if (m_setup)
+        rememberUse();
     // The options first: else they would be made, to be shown in the panel's place.
     delete m_optionsPlace;
     m_optionsPlace = nullptr;
@@ -125,6 +170,29 @@ void DialogPages::dropSetup()
     delete m_panelPage;
     m_panelPage = nullptr;
     m_setup = nullptr;
+}
+
+void DialogPages::rememberUse()
+{
+    m_group = m_optionsPage ? m_optionsPage->shownGroup() : QString();
+    m_focused = nameOfFocus(currentWidget());
+    if (m_optionsPlace && currentWidget() == m_optionsPlace)
+        m_front = Front::Options;
+    else
+        m_front = !m_panelPage || currentWidget() == m_panelPage ? Front::Panel : Front::Other;
+}
+
+void DialogPages::restoreUse()
+{
+    if (m_front == Front::Panel && m_panelPage)
+        setCurrentWidget(m_panelPage);
+    if (m_front == Front::Options && m_optionsPlace) {
+        setCurrentWidget(m_optionsPlace);
+        if (m_optionsPage)
+            m_optionsPage->showGroup(m_group);
+    }
+    if (m_front != Front::Other)
+        focusByName(currentWidget(), m_focused);
 }
 
 void DialogPages::setRenderer(const host::LabelRenderer &renderer)

@@ -40,7 +40,8 @@ public:
     /// are.
     void showJob(const host::JobDraft &draft) { m_job = draft; }
     void writeJobTo(host::JobDraft &draft) const;
-    /// Shows the conflicts at the options that they are about.
+    /// Shows the conflicts at the options that they are about, and above the panel those that its options
+    /// are part of.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
     /// What the summary and the page of what will be sent show when they are in front.
     void setSummary(std::function<std::vector<SummarySection>()> summary) { m_summary = std::move(summary); }
@@ -63,13 +64,20 @@ private:
     QWidget *makeOptionsPage(QWidget *parent);
     QWidget *makeJobPage(QWidget *parent);
     void makeRoom(int titleWidth);
+    void rememberUse();
+    void restoreUse();
 
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;
     PanelPage *m_panelPage = nullptr;
     LazyPage *m_optionsPlace = nullptr;
-    /// Whoever looks at another page stays there when the printer's pages are replaced.
-    bool m_panelComesToFront = true;
+    /// Which page comes to the front with a printer's pages: whoever looks at one stays there when they are
+    /// replaced.
+    enum class Front { Panel, Options, Other };
+    Front m_front = Front::Panel;
+    /// The group of options and the control that were in use.
+    QString m_group;
+    QString m_focused;
     PagePreview *m_pagePreview;
     // Null until they are shown.
     OptionsPage *m_optionsPage = nullptr;

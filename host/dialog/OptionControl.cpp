@@ -2,12 +2,11 @@
 #include "OptionControl.h"
 
 #include "ChoiceControl.h"
+#include "ConflictNote.h"
 #include "ManyControl.h"
 #include "SwitchControl.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QStyle>
+#include <QVBoxLayout>
 
 namespace dialog {
 
@@ -29,32 +28,15 @@ OptionControl::OptionControl(const host::PpdOption &option, QWidget *parent)
     m_column->setContentsMargins({});
 }
 
-void OptionControl::makeWarning()
-{
-    m_warning = new QWidget(this);
-    auto *const icon = new QLabel(m_warning);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    icon->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(size, size), devicePixelRatioF()));
-    m_warningText = new QLabel(m_warning);
-    m_warningText->setWordWrap(true);
-    m_warningText->setTextFormat(Qt::PlainText);
-    auto *const row = new QHBoxLayout(m_warning);
-    row->setContentsMargins({});
-    row->addWidget(icon, 0, Qt::AlignTop);
-    row->addWidget(m_warningText, 1);
-    m_column->addWidget(m_warning);
-}
-
 void OptionControl::setConflicts(const QStringList &sentences)
 {
-    // Most options never have a conflict.
-    if (!m_warning && sentences.isEmpty())
+    if (!m_note && sentences.isEmpty())
         return;
-    if (!m_warning)
-        makeWarning();
-    m_warningText->setText(sentences.join(u'\n'));
-    m_warning->setVisible(!sentences.isEmpty());
+    if (!m_note) {
+        m_note = new ConflictNote(this);
+        m_column->addWidget(m_note);
+    }
+    m_note->setSentences(sentences);
     const QString spokenText = sentences.join(u' ');
     for (QWidget *const widget : spoken())
         widget->setAccessibleDescription(spokenText);

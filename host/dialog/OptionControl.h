@@ -5,10 +5,11 @@
 
 #include <QWidget>
 
-class QLabel;
 class QVBoxLayout;
 
 namespace dialog {
+
+class ConflictNote;
 
 /// What the user sets an option of the PPD with, and below it what is wrong with the choice. It shows what is
 /// marked and tells what the user chose; it marks nothing.
@@ -41,12 +42,10 @@ protected:
     virtual QList<QWidget *> spoken() const = 0;
 
 private:
-    void makeWarning();
-
     QByteArray m_keyword;
     QVBoxLayout *m_column;
-    QWidget *m_warning = nullptr;
-    QLabel *m_warningText = nullptr;
+    /// Null until there is a conflict: most options never have one.
+    ConflictNote *m_note = nullptr;
 };
 
 } // namespace dialog

@@ -6,14 +6,18 @@
 
 #include <QScrollArea>
 
+#include <chrono>
+
 class QFormLayout;
+class QVBoxLayout;
 
 namespace dialog {
 
 class OptionControl;
 
 /// The controls of one group of options, one below the other. They are made when the page is first shown:
-/// there are PPDs with thousands of choices in groups that hardly anybody opens.
+/// there are PPDs with thousands of choices in groups that hardly anybody opens. Those that take longer than
+/// a moment follow in slices, in their order, so that the window never stalls.
 class OptionGroupPage : public QScrollArea {
     Q_OBJECT
 
@@ -37,7 +41,10 @@ protected:
 
 private:
     void build();
-    void addControl(QFormLayout *form, const host::PpdOption &option);
+    void buildSlice(std::chrono::milliseconds duration);
+    void addForm();
+    int labelWidth() const;
+    OptionControl *addControl(const host::PpdOption &option);
     QStringList sentencesAbout(const QByteArray &keyword) const;
     void showConflicts();
 
@@ -45,7 +52,14 @@ private:
     std::vector<QByteArray> m_keywords;
     std::vector<OptionControl *> m_controls;
     std::vector<host::Conflict> m_conflicts;
-    bool m_isBuilt = false;
+    /// The forms, one below the other; null until the page is shown.
+    QVBoxLayout *m_column = nullptr;
+    /// Where controls are being added.
+    QFormLayout *m_form = nullptr;
+    /// So that the fields of all forms begin at one place; 0 while there is only one.
+    int m_labelWidth = 0;
+    /// The option that is built next.
+    std::size_t m_next = 0;
 };
 
 } // namespace dialog

@@ -102,6 +102,19 @@ void OptionsPage::fitGroups()
     m_groups->setFixedWidth(qMin(names + sign + fontMetrics().height(), widest));
 }
 
+QString OptionsPage::shownGroup() const
+{
+    const QListWidgetItem *const item = m_groups->currentItem();
+    return item ? item->text() : QString();
+}
+
+void OptionsPage::showGroup(const QString &text)
+{
+    const QList<QListWidgetItem *> found = m_groups->findItems(text, Qt::MatchExactly);
+    if (!found.isEmpty())
+        m_groups->setCurrentItem(found.first());
+}
+
 void OptionsPage::refresh()
 {
     for (OptionGroupPage *const page : m_pages)

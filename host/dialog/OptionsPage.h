@@ -35,6 +35,11 @@ public:
     /// Shows the conflicts at their options and at the groups that hold these; an empty list clears them.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
 
+    /// The text of the group that is shown; empty when there is none.
+    QString shownGroup() const;
+    /// Shows the group of that text, if there is one.
+    void showGroup(const QString &text);
+
 Q_SIGNALS:
     /// The user chose this: a choice by its PPD name, for options with several a list with commas, or a free
     /// value as host::freeChoiceValue() writes it. Empty when of several none is chosen and the PPD has no

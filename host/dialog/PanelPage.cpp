@@ -1,22 +1,36 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PanelPage.h"
 
-#include <QLayout>
+#include "ConflictNote.h"
+
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
 
 namespace dialog {
 
 PanelPage::PanelPage(PDEPanel &panel, QWidget *parent)
-    : QScrollArea(parent)
+    : QWidget(parent)
     , m_panel(panel)
     , m_view(panel.panelView())
     , m_frame(new QWidget)
+    , m_scrolled(new QScrollArea(this))
+    , m_note(new ConflictNote(this))
 {
-    setFrameShape(QFrame::NoFrame);
     m_view->setParent(m_frame);
     m_view->move(0, 0);
     m_view->show();
-    setWidget(m_frame);
-    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_scrolled->setFrameShape(QFrame::NoFrame);
+    m_scrolled->setWidget(m_frame);
+    m_scrolled->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    // One ground, for the note too.
+    setAutoFillBackground(true);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this);
+    m_note->setContentsMargins(margin, margin, margin, 0);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_note);
+    layout->addWidget(m_scrolled, 1);
     fitView();
 }
 
@@ -30,7 +44,13 @@ void PanelPage::fitView()
 {
     // The panel lays its view out itself; the page only gives it the room it has taken.
     m_frame->setFixedSize(m_view->size());
-    setMinimumSize(m_view->size() + QSize(2 * frameWidth(), 2 * frameWidth()));
+    const int frame = 2 * m_scrolled->frameWidth();
+    m_scrolled->setMinimumSize(m_view->size() + QSize(frame, frame));
+}
+
+void PanelPage::setConflicts(const QStringList &sentences)
+{
+    m_note->setSentences(sentences);
 }
 
 } // namespace dialog

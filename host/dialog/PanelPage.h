@@ -3,12 +3,16 @@
 
 #include <host/PanelSession.h>
 
-#include <QScrollArea>
+#include <QWidget>
+
+class QScrollArea;
 
 namespace dialog {
 
-/// The page that shows a bundle's panel.
-class PanelPage : public QScrollArea {
+class ConflictNote;
+
+/// The page that shows a bundle's panel, and above it what is wrong with the panel's settings.
+class PanelPage : public QWidget {
     Q_OBJECT
 
 public:
@@ -20,11 +24,15 @@ public:
     PDEPanel &panel() const { return m_panel; }
     /// Makes room for the view as it is now.
     void fitView();
+    /// Shows these sentences above the panel; none takes them away.
+    void setConflicts(const QStringList &sentences);
 
 private:
     PDEPanel &m_panel;
     QWidget *m_view;
     QWidget *m_frame;
+    QScrollArea *m_scrolled;
+    ConflictNote *m_note;
 };
 
 } // namespace dialog

@@ -2,7 +2,9 @@
 #include "PaperChooser.h"
 
 #include "ClearButton.h"
+#include "ConflictNote.h"
 #include "CustomPaperFields.h"
+#include "DocumentPaper.h"
 #include "LengthUnit.h"
 #include "LinkButton.h"
 #include "PaperList.h"
@@ -14,20 +16,10 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace dialog {
 
 namespace {
-
-/// Documents round their pages to whole points or to tenths of millimetres.
-constexpr double sameSize = 0.5;
-
-bool isSameSize(const QSizeF &one, const QSizeF &other)
-{
-    return std::abs(one.width() - other.width()) <= sameSize &&
-           std::abs(one.height() - other.height()) <= sameSize;
-}
 
 bool isWithin(const QSizeF &size, const host::PpdCustomLimits &limits)
 {
@@ -47,6 +39,7 @@ PaperChooser::PaperChooser(const host::PpdFile &ppd, const host::PpdPaper &chose
     , m_ppd(&ppd)
     , m_search(new QLineEdit(this))
     , m_list(new PaperList(this))
+    , m_note(new ConflictNote(this))
     , m_documentButton(new LinkButton(this))
 {
     build();
@@ -68,6 +61,7 @@ void PaperChooser::build()
     layout->addWidget(label);
     layout->addWidget(m_search);
     layout->addWidget(m_list, 1);
+    layout->addWidget(m_note);
     layout->addWidget(m_documentButton, 0, Qt::AlignLeading);
     connect(m_search, &QLineEdit::textChanged, m_list, &PaperList::filter);
     connect(m_list, &PaperList::entryChosen, this, &PaperChooser::chooseEntry);
@@ -110,6 +104,14 @@ void PaperChooser::setDocumentPage(const QSizeF &points)
 {
     m_documentPage = points;
     updateDocumentButton();
+}
+
+void PaperChooser::setConflicts(const std::vector<host::Conflict> &conflicts)
+{
+    const QStringList sentences =
+        host::sentencesAbout({QStringLiteral("PageSize"), QStringLiteral("PageRegion")}, conflicts);
+    m_note->setSentences(sentences);
+    m_list->setAccessibleDescription(sentences.join(u' '));
 }
 
 bool PaperChooser::choose(const QByteArray &name)
@@ -181,27 +183,18 @@ std::optional<host::PpdPaper> PaperChooser::customPaper(const QByteArray &name) 
 
 std::optional<host::PpdPaper> PaperChooser::paperForDocument() const
 {
-    if (m_documentPage.isEmpty())
-        return std::nullopt;
-    const QSizeF sizes[] = {m_documentPage, m_documentPage.transposed()};
-    for (const QSizeF &size : sizes) {
-        const auto found = std::ranges::find_if(
-            m_papers, [&](const host::PpdPaper &paper) { return isSameSize(paper.size, size); });
-        if (found != m_papers.end())
-            return *found;
-    }
-    for (const QSizeF &size : sizes) {
-        if (m_fields && isWithin(size, *m_limits))
-            return customPaper(host::customPaperName(size));
-    }
-    return std::nullopt;
+    return paperForPage(m_papers, m_documentPage, [this](const QSizeF &size) {
+        const bool isFree = m_fields && isWithin(size, *m_limits);
+        return isFree ? customPaper(host::customPaperName(size)) : std::nullopt;
+    });
 }
 
 void PaperChooser::updateDocumentButton()
 {
-    const bool isChosen =
-        isSameSize(m_documentPage, m_chosen.size) || isSameSize(m_documentPage.transposed(), m_chosen.size);
-    const auto paper = isChosen ? std::nullopt : paperForDocument();
+    auto paper = paperForDocument();
+    // Of papers of one size, the chosen one is as good as the first.
+    if (paper && (fitsExactly(m_chosen, m_documentPage) || fitsExactly(m_chosen, paper->size)))
+        paper.reset();
     m_documentButton->setVisible(paper.has_value());
     if (!paper)
         return;

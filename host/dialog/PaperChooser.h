@@ -2,6 +2,7 @@
 #pragma once
 
 #include <host/PpdFile.h>
+#include <host/cups/Constraints.h>
 
 #include <QWidget>
 
@@ -10,6 +11,7 @@ class QPushButton;
 
 namespace dialog {
 
+class ConflictNote;
 class CustomPaperFields;
 class PaperList;
 
@@ -32,6 +34,8 @@ public:
     /// Chooses a paper by its name, byte for byte, or a free size such as "Custom.36x50mm"; quietly. False,
     /// and nothing is changed, when the printer does not have it.
     bool choose(const QByteArray &name);
+    /// Tells below the papers which of these the chosen paper is part of.
+    void setConflicts(const std::vector<host::Conflict> &conflicts);
 
 Q_SIGNALS:
     /// The user chose another paper.
@@ -55,6 +59,7 @@ private:
     QSizeF m_documentPage;
     QLineEdit *m_search;
     PaperList *m_list;
+    ConflictNote *m_note;
     /// Null where the printer takes no free sizes.
     CustomPaperFields *m_fields = nullptr;
     QPushButton *m_documentButton;

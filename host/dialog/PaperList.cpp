@@ -161,6 +161,16 @@ void PaperList::filter(const QString &search)
     }
 }
 
+QItemSelectionModel::SelectionFlags PaperList::selectionCommand(const QModelIndex &index,
+                                                                const QEvent *) const
+{
+    // One paper is always chosen. Qt would take the highlight off it at clicks beside the papers, and at
+    // Ctrl-clicks, and leave it behind when Ctrl and a key choose another.
+    const Qt::ItemFlags usable = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    const bool isPaper = index.isValid() && (index.flags() & usable) == usable;
+    return isPaper ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
 void PaperList::showEvent(QShowEvent *event)
 {
     QListWidget::showEvent(event);

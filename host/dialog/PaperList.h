@@ -30,6 +30,8 @@ Q_SIGNALS:
     void entryChosen(int entry);
 
 protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 

@@ -177,12 +177,18 @@ void PrintDialog::takeSetup()
         m_pages->takeSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
     }
-    if (setup && setup->paper()) {
+    const bool hasPapers = setup && setup->paper();
+    if (hasPapers && m_papers) {
+        // The same one, so that a search and the focus stay while a PPD is replaced.
+        m_papers->setPpd(setup->ppd(), *setup->paper());
+    } else if (hasPapers) {
         m_papers = new PaperChooser(setup->ppd(), *setup->paper(), m_content);
         m_papers->setDocumentPage(m_document->pageSize(0));
         m_paperPlace->addWidget(m_papers);
         connect(m_papers, &PaperChooser::paperChosen, this, &PrintDialog::changePaper);
     }
+    if (m_papers)
+        m_papers->setVisible(hasPapers);
     applyPaper();
     if (isVisible())
         m_pages->announceFront();
@@ -196,8 +202,6 @@ void PrintDialog::dropSetup()
     if (m_keeper.setup())
         m_keeper.setup()->setDidChangeHook({});
     m_pages->dropSetup();
-    delete m_papers;
-    m_papers = nullptr;
     m_conflictBanner->setMessage(QString());
 }
 
@@ -272,6 +276,8 @@ void PrintDialog::refreshConflicts()
     const host::PrinterSetup *const setup = m_keeper.setup();
     const std::vector<host::Conflict> conflicts = setup ? setup->conflicts() : std::vector<host::Conflict>();
     m_pages->setConflicts(conflicts);
+    if (m_papers)
+        m_papers->setConflicts(conflicts);
     QStringList sentences;
     for (const host::Conflict &conflict : conflicts)
         sentences.append(conflict.sentence());

@@ -5,15 +5,19 @@
 
 namespace dialog {
 
-void ProblemBanner::follow(const host::QueueSession &session)
+void ProblemBanner::follow(host::QueueSession &session)
 {
     connect(&session, &host::QueueSession::failed, this,
-            [this](const host::CupsError &error) { setServerProblem(error.message); });
+            [this](const host::CupsError &error) { setServerProblem(error); });
     connect(&session, &host::QueueSession::recovered, this, [this] { setServerProblem({}); });
     // What was wrong with another printer is no concern of this one.
     connect(&session, &host::QueueSession::chosenChanged, this, [this] {
         m_sending.clear();
         setServerProblem({});
+    });
+    connect(this, &Banner::remedyClicked, &session, [this, &session] {
+        setServerProblem({});
+        session.tryAgain();
     });
 }
 
@@ -23,7 +27,7 @@ void ProblemBanner::setSendingProblem(const QString &problem)
     refresh();
 }
 
-void ProblemBanner::setServerProblem(const QString &problem)
+void ProblemBanner::setServerProblem(const std::optional<host::CupsError> &problem)
 {
     m_server = problem;
     refresh();
@@ -40,10 +44,12 @@ void ProblemBanner::setRefusals(const std::vector<host::ChoiceError> &refusals)
 
 void ProblemBanner::refresh()
 {
-    QStringList problems{m_sending, m_server, m_refusals};
+    QStringList problems{m_sending, m_server ? m_server->message : QString(), m_refusals};
     problems.removeAll(QString());
     problems.removeDuplicates();
-    setMessage(problems.join(u'\n'));
+    // A server that is out of reach is asked again and again; for a password only the user can be asked.
+    const bool wantsPassword = m_server && m_server->kind == host::CupsFailure::NotAuthorized;
+    setMessage(problems.join(u'\n'), wantsPassword ? tr("Try again") : QString());
 }
 
 } // namespace dialog

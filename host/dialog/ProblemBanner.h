@@ -4,6 +4,7 @@
 #include "Banner.h"
 
 #include <host/cups/ChoiceCheck.h>
+#include <host/cups/CupsServer.h>
 
 namespace host {
 class QueueSession;
@@ -22,9 +23,9 @@ public:
     {
     }
 
-    /// Tells from now on what goes wrong between the session and its server, until it goes well again. The
-    /// session must outlive the banner.
-    void follow(const host::QueueSession &session);
+    /// Tells from now on what goes wrong between the session and its server, until it goes well again, and
+    /// offers to try again what nobody tries by itself. The session must outlive the banner.
+    void follow(host::QueueSession &session);
     /// Why the job was not sent; empty when there is nothing to say about it.
     void setSendingProblem(const QString &problem);
     const QString &sendingProblem() const { return m_sending; }
@@ -32,12 +33,12 @@ public:
     void setRefusals(const std::vector<host::ChoiceError> &refusals);
 
 private:
-    void setServerProblem(const QString &problem);
+    void setServerProblem(const std::optional<host::CupsError> &problem);
     void refresh();
 
     QString m_sending;
     /// What the server said last when it could not be asked.
-    QString m_server;
+    std::optional<host::CupsError> m_server;
     QString m_refusals;
 };
 

@@ -192,6 +192,32 @@ TEST_F(DestinationsTest, APasswordIsAskedForOnceWrongThenRight)
     EXPECT_EQ(job.user, "ann");
 }
 
+TEST_F(DestinationsTest, WithNothingKnownARefusedPasswordCanBeGivenAfterAll)
+{
+    const FaultyServer guarded(cupsd->port(), {.credentials = "ann:secret"});
+    host::CupsServer server;
+    server.address = guarded.address();
+    open(QStringLiteral("tape"), server);
+    for (int refusals = 0; refusals < 2; ++refusals) {
+        dialog::PasswordDialog *const question = passwordDialog();
+        ASSERT_TRUE(question);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(question));
+        Hands::press(question, Qt::Key_Escape);
+        EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
+        EXPECT_EQ(state(), QStringLiteral("The print server wants a password."));
+        EXPECT_NE(told(), QString());
+        EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
+        Hands::click(button(QStringLiteral("Try again")));
+        EXPECT_EQ(told(), QString());
+        EXPECT_EQ(state(), QStringLiteral("Waiting for the print server's answer…"));
+    }
+    answer(passwordDialog(), QStringLiteral("secret"));
+    ASSERT_TRUE(isChosen(QStringLiteral("tape")));
+    EXPECT_EQ(state(), QStringLiteral("Ready."));
+    EXPECT_EQ(told(), QString());
+    EXPECT_EQ(printed().option("PageSize"), "W24H60");
+}
+
 TEST_F(DestinationsTest, ARefusedPasswordIsNotAskedForAgainAndAgain)
 {
     fillCache(QStringLiteral("tape"));

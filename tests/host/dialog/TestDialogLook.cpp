@@ -31,7 +31,8 @@ TEST_F(DialogLookTest, EveryFieldHasANameForScreenReaders)
 
 TEST_F(DialogLookTest, TheStripScrollsByKeysAndWheel)
 {
-    open();
+    // Without the panel, which the window is never narrower than.
+    open(QStringLiteral("/nowhere"));
     auto *const strip = qobject_cast<QAbstractScrollArea *>(find<QWidget>(QStringLiteral("Label strip")));
     window->resize(500, 500);
     QApplication::processEvents();
@@ -44,6 +45,20 @@ TEST_F(DialogLookTest, TheStripScrollsByKeysAndWheel)
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(strip->viewport(), &wheel);
     EXPECT_GT(strip->horizontalScrollBar()->value(), afterKey);
+}
+
+TEST_F(DialogLookTest, ThePanelIsWholeThoughThereAreNoOtherOptions)
+{
+    // All of this printer's options are the panel's.
+    open();
+    const QWidget *const view = keeper->setup()->panel()->panelView();
+    const auto *const pages = window->findChild<QTabWidget *>();
+    ASSERT_EQ(pages->count(), 3);
+    EXPECT_TRUE(window->rect().contains(QRect(view->mapTo(window.get(), QPoint()), view->size())));
+    EXPECT_TRUE(pages->rect().contains(QRect(view->mapTo(pages, QPoint()), view->size())));
+    window->resize(window->minimumSize());
+    QApplication::processEvents();
+    EXPECT_GE(pages->currentWidget()->width(), view->width());
 }
 
 TEST_F(DialogLookTest, IsDrawnInLightAndDarkAndRightToLeft)

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OptionsPageFixture.h"
 
+#include <tests/support/StallWatch.h>
+
 #include <host/dialog/LengthField.h>
+#include <host/dialog/OptionControl.h>
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -220,8 +223,40 @@ TEST_F(OptionsPageTest, OnlyTheGroupThatIsSeenIsBuilt)
     page = std::make_unique<OptionsPage>(*ppd, QStringList(), nullptr);
     EXPECT_TRUE(page->findChildren<QComboBox *>().isEmpty());
     page->show();
-    QApplication::processEvents();
+    const auto isBuilt = [this] { return page->findChildren<QComboBox *>().size() >= 100; };
+    EXPECT_TRUE(QTest::qWaitFor(isBuilt));
+    QTest::qWait(50);
     EXPECT_EQ(page->findChildren<QComboBox *>().size(), 100);
+}
+
+TEST_F(OptionsPageTest, ManyOptionsDoNotStallTheWindow)
+{
+    ppd = std::make_unique<host::PpdFile>(openPpd(sandbox, largeOptionsPpd(3000, 4)));
+    page = std::make_unique<OptionsPage>(*ppd, QStringList(), nullptr);
+    page->resize(520, 420);
+    {
+        const test_support::StallWatch watch;
+        page->show();
+        const auto areBuilt = [this] {
+            return page->findChild<QWidget *>(QStringLiteral("Option1499")) != nullptr;
+        };
+        EXPECT_TRUE(QTest::qWaitFor(areBuilt, 30000));
+        QTest::qWait(200);
+        EXPECT_NO_STALL(watch);
+    }
+    int before = -1;
+    const int left = page->findChild<QWidget *>(QStringLiteral("Option0"))->mapTo(page.get(), QPoint()).x();
+    // In the order in which they were made: looking each up by its name takes longer than making them.
+    int option = 0;
+    for (const dialog::OptionControl *const each : page->findChildren<dialog::OptionControl *>()) {
+        const QPoint place = each->mapTo(page.get(), QPoint());
+        ASSERT_EQ(each->keyword(), "Option" + QByteArray::number(option++));
+        ASSERT_TRUE(each->isVisible());
+        ASSERT_GT(place.y(), before) << option;
+        ASSERT_EQ(place.x(), left) << option;
+        before = place.y();
+    }
+    EXPECT_EQ(option, 1500);
 }
 
 TEST_F(OptionsPageTest, LongTextsFitWithoutScrollingSideways)

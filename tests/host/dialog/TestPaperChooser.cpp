@@ -155,6 +155,41 @@ TEST_F(PaperChooserTest, KeysPassOverHeadingsAndTwinsStayTwo)
     EXPECT_EQ(spy->count(), 2);
 }
 
+TEST_F(PaperChooserTest, TheChosenPaperStaysHighlightedWhereverOneClicks)
+{
+    open();
+    chooser->resize(320, 700);
+    QApplication::processEvents();
+    const auto isHighlighted = [this](const char *text) {
+        return list()->currentItem()->text() == QLatin1String(text) && list()->currentItem()->isSelected() &&
+               list()->selectedItems().size() == 1;
+    };
+    const auto press = [this](const QPoint &place, Qt::KeyboardModifiers modifiers) {
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, place);
+        QApplication::processEvents();
+    };
+    const QPoint empty(20, list()->viewport()->height() - 5);
+    ASSERT_FALSE(list()->itemAt(empty));
+    const auto placeOf = [this](const char *text) {
+        return list()
+            ->visualItemRect(list()->findItems(QLatin1String(text), Qt::MatchExactly).value(0))
+            .center();
+    };
+    for (const Qt::KeyboardModifiers modifiers : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+        for (const QPoint &place : {empty, placeOf("Tape 24 mm x 60 mm"), placeOf("12 mm wide")}) {
+            press(place, modifiers);
+            EXPECT_TRUE(isHighlighted("Tape 24 mm x 60 mm")) << modifiers << " " << place.y();
+        }
+    }
+    EXPECT_EQ(spy->count(), 0);
+    press(placeOf("Tape 12 mm x 60 mm"), Qt::ControlModifier);
+    EXPECT_TRUE(isHighlighted("Tape 12 mm x 60 mm"));
+    EXPECT_EQ(chooser->chosen().name, QByteArray("W12H60"));
+    QTest::keyClick(list(), Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_TRUE(isHighlighted("Tape 24 mm x 60 mm"));
+    EXPECT_EQ(chooser->chosen().name, QByteArray("W24H60"));
+}
+
 TEST_F(PaperChooserTest, PapersOfOneTextAreToldApartByName)
 {
     open(tapePpd().replace("DC52x75R/Removable 52 mm", "DC52x75R/Labels 52 mm"));
@@ -316,12 +351,22 @@ TEST_F(PaperChooserTest, OffersTheDocumentsSizeWhereItFits)
         const char *offered; ///< null when nothing is
     };
     const Row rows[] = {
-        {QSizeF(12, 60) * mm, true, "W12H60"},         {QSizeF(60, 12) * mm, true, "W12H60"},
-        {QSizeF(34.4, 170.5), true, "W12H60"},         {QSizeF(75, 52) * mm, true, "DC52x75"},
+        {QSizeF(12, 60) * mm, true, "W12H60"},
+        {QSizeF(60, 12) * mm, true, "W12H60"},
+        {QSizeF(34, 170), true, "W12H60"},
+        {QSizeF(75, 52) * mm, true, "DC52x75"},
+        {QSizeF(34.4, 170.5), false, "W12H60"}, // as near as it gets
+        {QSizeF(34.4, 170.5), true, "Custom.12.1356x60.1486mm"},
+        {QSizeF(24.15, 60) * mm, true, "Custom.24.15x60mm"},
+        {QSizeF(24.15, 60) * mm, false, nullptr}, // as near as it gets is chosen already
+        {QSizeF(68, 170), true, nullptr},
         {QSizeF(24, 60) * mm, true, nullptr}, // chosen already
-        {QSizeF(60, 24) * mm, true, nullptr},          {QSizeF(18, 50) * mm, true, "Custom.18x50mm"},
-        {QSizeF(50, 18) * mm, true, "Custom.18x50mm"}, {QSizeF(18, 50) * mm, false, nullptr},
-        {QSizeF(210, 297) * mm, true, nullptr},        {QSizeF(), true, nullptr},
+        {QSizeF(60, 24) * mm, true, nullptr},
+        {QSizeF(18, 50) * mm, true, "Custom.18x50mm"},
+        {QSizeF(50, 18) * mm, true, "Custom.18x50mm"},
+        {QSizeF(18, 50) * mm, false, nullptr},
+        {QSizeF(210, 297) * mm, true, nullptr},
+        {QSizeF(), true, nullptr},
     };
     for (const Row &row : rows) {
         open(row.freeSizes ? tapePpd() : withoutFreeSizes(tapePpd()));
