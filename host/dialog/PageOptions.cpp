@@ -20,7 +20,7 @@ PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     , m_copies(new QSpinBox(this))
     , m_collate(new QCheckBox(tr("Set &by set"), this))
     , m_pages(new QLineEdit(this))
-    , m_lastFirst(new QCheckBox(tr("&Last page first"), this))
+    , m_lastFirst(new QCheckBox(tr("Last page first"), this))
 {
     build();
     show();

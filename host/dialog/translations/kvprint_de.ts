@@ -248,6 +248,17 @@
         <source>Shows the version.</source>
         <translation>Zeigt die Version.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>„%1“ ist nicht möglich; Dokumente werden als PDF gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>Der Auftrag wurde trotzdem gesendet, als %1-%2.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -306,6 +317,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>Der Druckserver antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>Der Druckserver verlangt ein Kennwort.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>Der Druckserver verlangt ein Kennwort. Zuletzt: %1</translation>
     </message>
 </context>
 <context>
@@ -373,6 +392,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>Auf dem Druckserver „%1“ gibt es kein Standardziel; nennen Sie eines mit „-d“</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>Durch ein Signal abgebrochen; es wurde nichts gedruckt.</translation>
     </message>
 </context>
 <context>
@@ -538,8 +561,8 @@
         <translation>S&amp;eiten</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>So viele Etiketten auf einmal gehen nicht: Ein Auftrag hat höchstens %1</translation>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
     </message>
 </context>
 <context>
@@ -695,6 +718,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -750,6 +780,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>Die Standardausgabe lässt sich nicht schreiben: %1</translation>
     </message>
 </context>
 <context>
@@ -928,6 +965,14 @@
         <source>it has become shorter while it was read</source>
         <translation>die Datei wurde kürzer, während sie gelesen wurde</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>sie hat sich verändert, während sie gelesen wurde</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -987,6 +1032,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>So viele Etiketten auf einmal gehen nicht: Ein Auftrag hat höchstens %1</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1023,6 +1075,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>Der Server meldet: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>Der Auftrag ist zu Ende; der Druckserver behält nichts davon.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1130,14 @@
     <message>
         <source>Cuts</source>
         <translation>Schnitte</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>letzte Seite zuerst</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1393,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>Der Drucker „%1“ hat kein Papier „%2“, das Ihre Vorgabe ist (lpoptions).</translation>
     </message>
 </context>
 <context>

@@ -247,6 +247,17 @@
         <source>Shows the version.</source>
         <translation>Muestra la versión.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>«%1» no es posible; los documentos se envían como PDF</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>El trabajo se ha enviado de todos modos, como %1-%2.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -305,6 +316,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>El servidor de impresión no responde.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>El servidor de impresión pide una contraseña.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>El servidor de impresión pide una contraseña. La última vez: %1</translation>
     </message>
 </context>
 <context>
@@ -372,6 +391,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>El servidor de impresión «%1» no tiene ningún destino predeterminado; indique uno con «-d»</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>Detenido por una señal; no se ha impreso nada.</translation>
     </message>
 </context>
 <context>
@@ -537,8 +560,8 @@
         <translation>Pá&amp;ginas</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>No se pueden imprimir tantas etiquetas a la vez: un trabajo tiene como máximo %1</translation>
+        <source>Last page first</source>
+        <translation>Última página primero</translation>
     </message>
 </context>
 <context>
@@ -694,6 +717,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -749,6 +779,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>No se puede escribir en la salida estándar: %1</translation>
     </message>
 </context>
 <context>
@@ -927,6 +964,14 @@
         <source>it has become shorter while it was read</source>
         <translation>se ha acortado mientras se leía</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>ha cambiado mientras se leía</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -986,6 +1031,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>No se pueden imprimir tantas etiquetas a la vez: un trabajo tiene como máximo %1</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1022,6 +1074,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>El servidor dice: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>El trabajo ha terminado; el servidor de impresión no guarda registro de él.</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1129,14 @@
     <message>
         <source>Cuts</source>
         <translation>Cortes</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>última página primero</translation>
     </message>
 </context>
 <context>
@@ -1328,6 +1392,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>La impresora «%1» no tiene el papel «%2», que es su valor predeterminado (lpoptions).</translation>
     </message>
 </context>
 <context>

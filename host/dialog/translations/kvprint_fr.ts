@@ -248,6 +248,17 @@
         <source>Shows the version.</source>
         <translation>Affiche la version.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>« %1 » n’est pas possible ; les documents sont envoyés en PDF</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>La tâche a tout de même été envoyée, sous le nom %1-%2.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -306,6 +317,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>Le serveur d’impression ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>Le serveur d’impression demande un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>Le serveur d’impression demande un mot de passe. La dernière fois : %1</translation>
     </message>
 </context>
 <context>
@@ -373,6 +392,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>Le serveur d’impression « %1 » n’a pas de destination par défaut ; indiquez-en une avec « -d »</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>Arrêté par un signal ; rien n’a été imprimé.</translation>
     </message>
 </context>
 <context>
@@ -538,8 +561,8 @@
         <translation>Pa&amp;ges</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Impossible d’imprimer autant d’étiquettes à la fois : une tâche en a au plus %1</translation>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
     </message>
 </context>
 <context>
@@ -695,6 +718,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -750,6 +780,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>Impossible d’écrire sur la sortie standard : %1</translation>
     </message>
 </context>
 <context>
@@ -928,6 +965,14 @@
         <source>it has become shorter while it was read</source>
         <translation>il a raccourci pendant la lecture</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>il a changé pendant la lecture</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -987,6 +1032,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Impossible d’imprimer autant d’étiquettes à la fois : une tâche en a au plus %1</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1023,6 +1075,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>Le serveur indique : %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>La tâche est terminée ; le serveur d’impression n’en garde pas trace.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1130,14 @@
     <message>
         <source>Cuts</source>
         <translation>Coupes</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>dernière page en premier</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1393,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>L’imprimante « %1 » n’a pas de papier « %2 », qui est votre défaut (lpoptions).</translation>
     </message>
 </context>
 <context>

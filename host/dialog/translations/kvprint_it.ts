@@ -248,6 +248,17 @@
         <source>Shows the version.</source>
         <translation>Mostra la versione.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>&quot;%1&quot; non è possibile; i documenti vengono inviati come PDF</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>Il lavoro è stato inviato comunque, come %1-%2.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -306,6 +317,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>Il server di stampa non risponde.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>Il server di stampa richiede una password.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>Il server di stampa richiede una password. L&apos;ultima volta: %1</translation>
     </message>
 </context>
 <context>
@@ -373,6 +392,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>Il server di stampa &quot;%1&quot; non ha una destinazione predefinita; indicarne una con &quot;-d&quot;</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>Interrotto da un segnale; non è stato stampato nulla.</translation>
     </message>
 </context>
 <context>
@@ -538,8 +561,8 @@
         <translation>Pa&amp;gine</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Impossibile stampare tante etichette insieme: un lavoro ne ha al massimo %1</translation>
+        <source>Last page first</source>
+        <translation>Ultima pagina per prima</translation>
     </message>
 </context>
 <context>
@@ -695,6 +718,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -750,6 +780,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>Impossibile scrivere sullo standard output: %1</translation>
     </message>
 </context>
 <context>
@@ -928,6 +965,14 @@
         <source>it has become shorter while it was read</source>
         <translation>si è accorciato durante la lettura</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>è cambiato durante la lettura</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -987,6 +1032,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Impossibile stampare tante etichette insieme: un lavoro ne ha al massimo %1</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1023,6 +1075,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>Il server comunica: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>Il lavoro è terminato; il server di stampa non ne conserva traccia.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1130,14 @@
     <message>
         <source>Cuts</source>
         <translation>Tagli</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>ultima pagina per prima</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1393,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;, che è il predefinito personale (lpoptions).</translation>
     </message>
 </context>
 <context>

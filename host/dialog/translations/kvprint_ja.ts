@@ -247,6 +247,17 @@
         <source>Shows the version.</source>
         <translation>バージョンを表示します。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>「%1」は使えません。文書は PDF として送信されます</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>ジョブは %1-%2 として送信されています。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -305,6 +316,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>プリントサーバーが応答しません。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>プリントサーバーがパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>プリントサーバーがパスワードを求めています。前回: %1</translation>
     </message>
 </context>
 <context>
@@ -371,6 +390,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>プリントサーバー「%1」に既定の印刷先がありません。「-d」で指定してください</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>シグナルで中断されました。何も印刷されていません。</translation>
     </message>
 </context>
 <context>
@@ -536,8 +559,8 @@
         <translation>ページ(&amp;G)</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>一度に印刷できるラベルは %1 枚までです</translation>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
     </message>
 </context>
 <context>
@@ -693,6 +716,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -748,6 +778,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>標準出力に書き込めません: %1</translation>
     </message>
 </context>
 <context>
@@ -926,6 +963,14 @@
         <source>it has become shorter while it was read</source>
         <translation>読み込み中に短くなりました</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>読み込み中に変更されました</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -985,6 +1030,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>一度に印刷できるラベルは %1 枚までです</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1021,6 +1073,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>サーバーからのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>ジョブは終了しました。プリントサーバーに記録は残っていません。</translation>
     </message>
 </context>
 <context>
@@ -1072,6 +1128,14 @@
     <message>
         <source>Cuts</source>
         <translation>カット</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>最後のページから</translation>
     </message>
 </context>
 <context>
@@ -1326,6 +1390,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>「%1」はこの設定での印刷を許可していません。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>プリンター「%1」に、ユーザーの既定値 (lpoptions) である用紙「%2」はありません。</translation>
     </message>
 </context>
 <context>

@@ -248,6 +248,17 @@
         <source>Shows the version.</source>
         <translation>Toont de versie.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>&quot;%1&quot; is niet mogelijk; documenten worden als PDF verzonden</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>De taak is toch verzonden, als %1-%2.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -306,6 +317,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>De printserver antwoordt niet.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>De printserver vraagt een wachtwoord.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>De printserver vraagt een wachtwoord. De vorige keer: %1</translation>
     </message>
 </context>
 <context>
@@ -373,6 +392,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>De printserver &quot;%1&quot; heeft geen standaardbestemming; noem er een met &quot;-d&quot;</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>Door een signaal gestopt; er is niets afgedrukt.</translation>
     </message>
 </context>
 <context>
@@ -538,8 +561,8 @@
         <translation>Pa&amp;gina&apos;s</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Zoveel labels kunnen niet tegelijk worden afgedrukt: een taak heeft er hoogstens %1</translation>
+        <source>Last page first</source>
+        <translation>Laatste pagina eerst</translation>
     </message>
 </context>
 <context>
@@ -695,6 +718,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -750,6 +780,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>Kan niet naar de standaarduitvoer schrijven: %1</translation>
     </message>
 </context>
 <context>
@@ -928,6 +965,14 @@
         <source>it has become shorter while it was read</source>
         <translation>het is tijdens het lezen korter geworden</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>het is tijdens het lezen gewijzigd</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -987,6 +1032,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Zoveel labels kunnen niet tegelijk worden afgedrukt: een taak heeft er hoogstens %1</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1023,6 +1075,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>De server meldt: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>De taak is klaar; de printserver bewaart er niets van.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1130,14 @@
     <message>
         <source>Cuts</source>
         <translation>Sneden</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Volgorde</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>laatste pagina eerst</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1393,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>De printer &quot;%1&quot; heeft geen papier &quot;%2&quot;, dat uw standaard is (lpoptions).</translation>
     </message>
 </context>
 <context>

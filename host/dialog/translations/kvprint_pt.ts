@@ -247,6 +247,17 @@
         <source>Shows the version.</source>
         <translation>Mostra a versão.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>&quot;%1&quot; não é possível; os documentos são enviados como PDF</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>O trabalho foi enviado na mesma, como %1-%2.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -305,6 +316,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>O servidor de impressão não responde.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>O servidor de impressão pede uma palavra-passe.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>O servidor de impressão pede uma palavra-passe. Da última vez: %1</translation>
     </message>
 </context>
 <context>
@@ -372,6 +391,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>O servidor de impressão &quot;%1&quot; não tem nenhum destino predefinido; indique um com &quot;-d&quot;</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>Interrompido por um sinal; nada foi impresso.</translation>
     </message>
 </context>
 <context>
@@ -537,8 +560,8 @@
         <translation>Pá&amp;ginas</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Não é possível imprimir tantas etiquetas de uma vez: um trabalho tem no máximo %1</translation>
+        <source>Last page first</source>
+        <translation>Última página primeiro</translation>
     </message>
 </context>
 <context>
@@ -694,6 +717,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Tentar de novo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -749,6 +779,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp não consegue exprimir estas opções tal como são enviadas: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>Não é possível escrever na saída padrão: %1</translation>
     </message>
 </context>
 <context>
@@ -927,6 +964,14 @@
         <source>it has become shorter while it was read</source>
         <translation>ficou mais curto enquanto era lido</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>o ficheiro mudou desde que foi aberto; abra-o de novo</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>mudou enquanto era lido</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -986,6 +1031,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Não é possível imprimir tantas etiquetas de uma vez: um trabalho tem no máximo %1</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1022,6 +1074,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>O servidor indica: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>O trabalho terminou; o servidor de impressão não guarda registo dele.</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1129,14 @@
     <message>
         <source>Cuts</source>
         <translation>Cortes</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordem</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>última página primeiro</translation>
     </message>
 </context>
 <context>
@@ -1328,6 +1392,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>&quot;%1&quot; não permite imprimir o trabalho com estas definições.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>A impressora &quot;%1&quot; não tem o papel &quot;%2&quot;, que é o predefinido do utilizador (lpoptions).</translation>
     </message>
 </context>
 <context>

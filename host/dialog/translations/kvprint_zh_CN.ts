@@ -247,6 +247,17 @@
         <source>Shows the version.</source>
         <translation>显示版本。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <translation>“%1”不可用；文档以 PDF 格式发送</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::Console</name>
+    <message>
+        <source>The job was sent all the same, as %1-%2.</source>
+        <translation>作业仍已发送，编号为 %1-%2。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CustomPaperFields</name>
@@ -305,6 +316,14 @@
     <message>
         <source>The print server does not answer.</source>
         <translation>打印服务器没有响应。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>打印服务器要求密码。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>打印服务器要求密码。上次状态：%1</translation>
     </message>
 </context>
 <context>
@@ -371,6 +390,10 @@
     <message>
         <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
         <translation>打印服务器“%1”没有默认打印目标；请用“-d”指定</translation>
+    </message>
+    <message>
+        <source>Stopped by a signal; nothing was printed.</source>
+        <translation>已被信号中断；未打印任何内容。</translation>
     </message>
 </context>
 <context>
@@ -536,8 +559,8 @@
         <translation>页面(&amp;G)</translation>
     </message>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>无法一次打印这么多标签：每个作业最多 %1 张</translation>
+        <source>Last page first</source>
+        <translation>从最后一页开始</translation>
     </message>
 </context>
 <context>
@@ -693,6 +716,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SendBar</name>
     <message>
         <source>Stop sending</source>
@@ -748,6 +778,13 @@
     <message>
         <source>lp cannot say these options as they are sent: %1</source>
         <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::StandardStreams</name>
+    <message>
+        <source>Cannot write to standard output: %1</source>
+        <translation>无法写入标准输出：%1</translation>
     </message>
 </context>
 <context>
@@ -926,6 +963,14 @@
         <source>it has become shorter while it was read</source>
         <translation>读取过程中变短了</translation>
     </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>文件打开后已更改；请重新打开</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>读取过程中发生了更改</translation>
+    </message>
 </context>
 <context>
     <name>host::JobChange</name>
@@ -985,6 +1030,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>无法一次打印这么多标签：每个作业最多 %1 张</translation>
+    </message>
+</context>
+<context>
     <name>host::JobStatus</name>
     <message>
         <source>Held until it is released.</source>
@@ -1021,6 +1073,10 @@
     <message>
         <source>The server says: %1</source>
         <translation>服务器返回：%1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>作业已结束；打印服务器不保留其记录。</translation>
     </message>
 </context>
 <context>
@@ -1072,6 +1128,14 @@
     <message>
         <source>Cuts</source>
         <translation>裁切</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>顺序</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>从最后一页开始</translation>
     </message>
 </context>
 <context>
@@ -1326,6 +1390,10 @@
     <message>
         <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
         <translation>“%1”不允许用这些设置打印作业。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>打印机“%1”没有纸张“%2”，而它是您的默认值 (lpoptions)。</translation>
     </message>
 </context>
 <context>
