@@ -16,9 +16,13 @@ protected:
     static QByteArray manyPapers(int from)
     {
         QByteArray text = fullPpd();
-        for (int i = from; i < from + 10; ++i)
-            text += "*PaperDimension X" + QByteArray::number(i) + ": \"100 200\"\n";
-        return text;
+        QByteArray choices;
+        for (int i = from; i < from + 10; ++i) {
+            const QByteArray name = 'X' + QByteArray::number(i);
+            choices += "*PageSize " + name + ": \"\"\n";
+            text += "*PaperDimension " + name + ": \"100 200\"\n";
+        }
+        return text.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
     }
 
     void SetUp() override
@@ -39,7 +43,7 @@ protected:
         QTest::qWait(1100);
         m_firstPaper += 10;
         meanwhile([this] { cupsd->addQueue(QStringLiteral("full"), manyPapers(m_firstPaper)); });
-        ASSERT_TRUE(waitUntil([&] { return replacements > 0; }, 8000));
+        ASSERT_TRUE(waitUntil([&] { return replacements > 0; }));
         EXPECT_TRUE(waitUntil([this] { return isSettled(); }));
         QApplication::processEvents();
     }
