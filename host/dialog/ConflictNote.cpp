@@ -22,9 +22,9 @@ ConflictNote::ConflictNote(QWidget *parent)
 
 void ConflictNote::build()
 {
-    auto *const icon = new QLabel(this);
+    m_icon = new QLabel(this);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    icon->setPixmap(
+    m_icon->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(size, size), devicePixelRatioF()));
     m_text = new QLabel(this);
     m_text->setWordWrap(true);
@@ -34,7 +34,7 @@ void ConflictNote::build()
     m_text->setMinimumWidth(1);
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins({});
-    row->addWidget(icon, 0, Qt::AlignTop);
+    row->addWidget(m_icon, 0, Qt::AlignTop);
     row->addWidget(m_text, 1);
 }
 
@@ -60,6 +60,12 @@ void ConflictNote::resizeEvent(QResizeEvent *event)
     fitText();
 }
 
+void ConflictNote::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    fitText();
+}
+
 void ConflictNote::fitText()
 {
     // A window takes no notice of what a wrapped text needs, so its height is told; but not for novels.
@@ -67,7 +73,12 @@ void ConflictNote::fitText()
     if (!m_text)
         return;
     const int line = m_text->fontMetrics().lineSpacing();
-    const int needed = isVisible() ? m_text->heightForWidth(m_text->width()) : line;
+    // The text's own width follows only after this widget's.
+    const QMargins margins = layout()->contentsMargins();
+    const int beside = m_icon->sizeHint().width() + layout()->spacing() + margins.left() + margins.right();
+    const int width = qMax(1, contentsRect().width() - beside);
+    // Before it is shown, the width is no width that it will have.
+    const int needed = isVisible() ? m_text->heightForWidth(width) : line;
     m_text->setFixedHeight(qBound(line, needed, mostLines * line));
 }
 

@@ -23,12 +23,14 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void build();
     void fitText();
 
     // Null until there is something to tell.
+    QLabel *m_icon = nullptr;
     QLabel *m_text = nullptr;
 };
 

@@ -102,3 +102,17 @@ TEST_F(ConflictNotesTest, TheNoteIsWholeAndThePanelTooAndOfManySentencesTheFirst
     // The panel is not scrolled because of it.
     EXPECT_TRUE(page->rect().contains(QRect(box("mHalfCutChkBx")->mapTo(page, QPoint()), QSize(1, 1))));
 }
+
+TEST_F(ConflictNotesTest, TheNoteFitsFromTheBeginning)
+{
+    openWith({});
+    const QByteArray paper = state->paper()->name.value().toUtf8();
+    openWith("*UIConstraints: *PageSize " + paper + " *KvAutoTapeCut ON\n");
+    ASSERT_NE(toldAtPanel(), QString());
+    for (const QLabel *const label : window->findChildren<QLabel *>()) {
+        const bool isNote = label->isVisible() && told(label->parentWidget()) == label->text();
+        EXPECT_TRUE(!isNote || label->text().isEmpty() ||
+                    label->height() == label->heightForWidth(label->width()))
+            << label->height() << " " << label->text().toStdString();
+    }
+}
