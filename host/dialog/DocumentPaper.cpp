@@ -67,7 +67,7 @@ std::optional<host::PpdPaper> paperForPage(const std::vector<host::PpdPaper> &pa
     if (nearest && (isRounded || fitsExactly(*nearest, page)))
         return *nearest;
     for (const QSizeF &size : {page, page.transposed()}) {
-        if (const std::optional<host::PpdPaper> paper = freeSize(size))
+        if (std::optional<host::PpdPaper> paper = freeSize(size))
             return paper;
     }
     return nearest ? std::optional(*nearest) : std::nullopt;

@@ -66,7 +66,7 @@ void OptionGroupPage::buildSlice(std::chrono::milliseconds duration)
         control->showMarked(options);
         control->setConflicts(sentencesAbout(control->keyword()));
     }
-    constexpr std::chrono::milliseconds slice{10};
+    static constexpr std::chrono::milliseconds slice{10};
     if (m_next < m_keywords.size())
         QTimer::singleShot(0, this, [this] { buildSlice(slice); });
 }
