@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the dialog looks and sounds like, and how it is reached.
 #include "DialogFixture.h"
+#include "Spoken.h"
 
 #include <QAccessible>
 #include <QDir>
@@ -21,7 +22,7 @@ TEST_F(DialogLookTest, EveryFieldHasANameForScreenReaders)
         const bool own = !box("mCutEveryChkBx")->parentWidget()->isAncestorOf(widget);
         if (!reachable || !own || widget->parentWidget()->inherits("QAbstractSpinBox"))
             continue;
-        const QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(widget);
+        const QAccessibleInterface *const spoken = spokenOf(widget);
         ASSERT_TRUE(spoken) << widget->metaObject()->className();
         const bool named = !spoken->text(QAccessible::Name).isEmpty();
         EXPECT_TRUE(named || widget->inherits("QTabBar") || widget->inherits("QScrollArea"))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OptionsPpd.h"
 #include "SamplePpd.h"
+#include "Spoken.h"
 
 #include <host/dialog/JobPage.h>
 #include <host/dialog/OptionsPage.h>
@@ -26,7 +27,7 @@ void expectNames(const QWidget &page)
         if (!(widget->focusPolicy() & Qt::TabFocus) || isPart)
             continue;
         ++fields;
-        QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(widget);
+        QAccessibleInterface *const spoken = spokenOf(widget);
         ASSERT_TRUE(spoken) << widget->metaObject()->className();
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
             << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
