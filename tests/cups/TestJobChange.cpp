@@ -2,12 +2,16 @@
 #include "Attributes.h"
 #include "PrintingTest.h"
 
+#include <tests/support/LaterHold.h>
+
 #include <host/cups/JobChange.h>
 #include <host/cups/JobStatus.h>
 
 using host::CupsFailure;
 using host::JobChange;
 using host::JobState;
+using test_support::holdPeriodHoursAway;
+using test_support::holdTimeHoursAway;
 
 namespace {
 
@@ -69,8 +73,9 @@ TEST_F(JobChangeTest, ChangesWhatIsNamedAndLeavesTheRest)
 
 TEST_F(JobChangeTest, ChangesAsLpDoes)
 {
+    const QString period = holdPeriodHoursAway();
     const QStringList lp{QStringLiteral("-q"),          QStringLiteral("7"),     QStringLiteral("-n"),
-                         QStringLiteral("2"),           QStringLiteral("-H"),    QStringLiteral("night"),
+                         QStringLiteral("2"),           QStringLiteral("-H"),    period,
                          QStringLiteral("-o"),          QStringLiteral("a=b c"), QStringLiteral("-o"),
                          QStringLiteral("collate=true")};
     const int ours = sendHeld();
@@ -78,14 +83,14 @@ TEST_F(JobChangeTest, ChangesAsLpDoes)
     cupsd.run(QStringLiteral("lp"), QStringList{QStringLiteral("-i"), QString::number(theirs)} + lp);
     JobChange wanted;
     wanted.jobId = ours;
-    wanted.settings = {.copies = 2, .collate = host::Collate::Yes, .hold = QStringLiteral("night")};
+    wanted.settings = {.copies = 2, .collate = host::Collate::Yes, .hold = period};
     wanted.settings.priority = 7;
     wanted.options = {{"a", "b"}, {"c", "true"}};
     ASSERT_FALSE(change(wanted));
     auto mine = jobAttributes(server, ours);
     auto lps = jobAttributes(server, theirs);
     // lp leaves what is told of the time as it was.
-    EXPECT_EQ(mine.take("job-hold-until"), "night");
+    EXPECT_EQ(mine.take("job-hold-until"), period.toUtf8());
     lps.remove("job-hold-until");
     EXPECT_EQ(mine, lps);
     EXPECT_EQ(state(ours), state(theirs));
@@ -130,11 +135,11 @@ TEST_F(JobChangeTest, HoldsUntilATimeOfDay)
     cupsd.pause(QStringLiteral("tape"));
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
-    for (const char *time : {"23:59", "3:59:01"}) {
-        const auto error =
-            change({.jobId = *outcome.jobId, .settings = {.hold = QString::fromLatin1(time), .priority = 3}});
+    for (const char *format : {"hh:mm", "h:mm:ss"}) {
+        const QString time = holdTimeHoursAway(6, QString::fromLatin1(format));
+        const auto error = change({.jobId = *outcome.jobId, .settings = {.hold = time, .priority = 3}});
         EXPECT_FALSE(error) << qPrintable(error->message);
-        EXPECT_EQ(jobAttributes(server, *outcome.jobId).value("job-hold-until"), time);
+        EXPECT_EQ(jobAttributes(server, *outcome.jobId).value("job-hold-until"), time.toUtf8());
         EXPECT_EQ(state(*outcome.jobId), JobState::Held);
     }
 }

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "KvprintTest.h"
 
+#include <tests/support/LaterHold.h>
+
 #include <QFile>
 
+using test_support::holdTimeHoursAway;
 using test_support::RecordedDocument;
 
 namespace {
@@ -25,10 +28,11 @@ protected:
 
 TEST_F(KvprintLetters, MeanWhatTheyMeanToLp)
 {
+    const QString later = holdTimeHoursAway(6, QStringLiteral("hh:mm"));
     const struct {
         QStringList words;
         const char *attribute;
-        const char *value;
+        QByteArray value;
     } rows[] = {
         {{QStringLiteral("-n"), QStringLiteral("3")}, "copies", "3"},
         {{QStringLiteral("-n3")}, "copies", "3"},
@@ -36,7 +40,7 @@ TEST_F(KvprintLetters, MeanWhatTheyMeanToLp)
         {{QStringLiteral("-q"), QStringLiteral("70")}, "job-priority", "70"},
         {{QStringLiteral("-o"), QStringLiteral("job-priority=1")}, "job-priority", "1"},
         {{QStringLiteral("-H"), QStringLiteral("hold")}, "job-hold-until", "indefinite"},
-        {{QStringLiteral("-H"), QStringLiteral("23:59")}, "job-hold-until", "23:59"},
+        {{QStringLiteral("-H"), later}, "job-hold-until", later.toUtf8()},
         {{QStringLiteral("-H"), QStringLiteral("immediate")}, "job-priority", "100"},
         {{QStringLiteral("-P"), QStringLiteral("1")}, "page-ranges", "1-1"},
         {{QStringLiteral("-t"), QStringLiteral("Jars & 'lids' ÄÖ")}, "job-name", "Jars & 'lids' ÄÖ"},
@@ -60,7 +64,7 @@ TEST_F(KvprintLetters, MeanWhatTheyMeanToLp)
         EXPECT_EQ(outcome.out,
                   "request id is tape-" + QByteArray::number(outcome.jobId()) + " (1 file(s))\n");
         EXPECT_EQ(outcome.error, QByteArray());
-        EXPECT_EQ(jobAttributes(outcome.jobId()).value(row.attribute), QByteArray(row.value));
+        EXPECT_EQ(jobAttributes(outcome.jobId()).value(row.attribute), row.value);
     }
 }
 

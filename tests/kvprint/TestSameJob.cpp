@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "KvprintTest.h"
 
+#include <tests/support/LaterHold.h>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -8,6 +10,8 @@
 
 #include <cups/cups.h>
 
+using test_support::holdPeriodHoursAway;
+using test_support::holdTimeHoursAway;
 using test_support::RecordedDocument;
 
 namespace {
@@ -101,8 +105,8 @@ TEST_F(KvprintSameJob, ComesOfTheLpLineThatIsTold)
         {word("-d"), word("tape"), word("-n"), word("3"), word("-q"), word("70"), word("-t"),
          word("Jars & 'lids' \\ \"ä\"")},
         {word("-d"), word("tape"), word("-H"), word("hold")},
-        {word("-d"), word("tape"), word("-H"), word("23:59:59")},
-        {word("-d"), word("tape"), word("-H"), word("night"), word("-P"), word("1")},
+        {word("-d"), word("tape"), word("-H"), holdTimeHoursAway(6, word("hh:mm:ss"))},
+        {word("-d"), word("tape"), word("-H"), holdPeriodHoursAway(), word("-P"), word("1")},
         {word("-d"), word("tape"), word("-H"), word("immediate")},
         {word("-d"), word("tape"), word("-o"),
          word("KvSpecialTape=ON PrintDensity=Custom.3 BeepWhen=JobDone\\,TapeEnd")},

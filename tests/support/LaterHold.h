@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+namespace test_support {
+
+/// A period that servers have a word for, "night", "third-shift", and that begins hours from now:
+/// in its own period a job is not held at all.
+inline QString holdPeriodHoursAway(const QDateTime &now = QDateTime::currentDateTime())
+{
+    const int hour = now.toLocalTime().time().hour();
+    if (hour < 8)
+        return QStringLiteral("second-shift"); // 16:00 to 24:00
+    if (hour < 18)
+        return QStringLiteral("third-shift"); // 0:00 to 8:00
+    return QStringLiteral("day-time");        // 6:00 to 18:00
+}
+
+/// The time of day some hours from now as servers understand it, which is in UTC.
+inline QString holdTimeHoursAway(int hours, const QString &format)
+{
+    return QDateTime::currentDateTimeUtc().addSecs(qint64{hours} * 60 * 60).toString(format);
+}
+
+} // namespace test_support
