@@ -80,7 +80,7 @@ QWidget *DialogPages::makeJobPage(QWidget *parent)
 DialogPages::~DialogPages()
 {
     // The panel's view must leave before its panel goes, and taking its page away changes the front page.
-    disconnect();
+    const QSignalBlocker quiet(this);
     dropSetup();
 }
 

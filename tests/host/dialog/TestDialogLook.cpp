@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the dialog looks and sounds like, and how it is reached.
 #include "DialogFixture.h"
-#include "Spoken.h"
 
 #include <QAccessible>
 #include <QDir>
+#include <QPointer>
 #include <QScrollBar>
 
 namespace {
@@ -22,12 +22,37 @@ TEST_F(DialogLookTest, EveryFieldHasANameForScreenReaders)
         const bool own = !box("mCutEveryChkBx")->parentWidget()->isAncestorOf(widget);
         if (!reachable || !own || widget->parentWidget()->inherits("QAbstractSpinBox"))
             continue;
-        const QAccessibleInterface *const spoken = spokenOf(widget);
+        const QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(widget);
         ASSERT_TRUE(spoken) << widget->metaObject()->className();
         const bool named = !spoken->text(QAccessible::Name).isEmpty();
         EXPECT_TRUE(named || widget->inherits("QTabBar") || widget->inherits("QScrollArea"))
             << widget->metaObject()->className() << " " << widget->objectName().toStdString();
     }
+}
+
+TEST_F(DialogLookTest, AClosedWindowIsForgottenByScreenReaders)
+{
+    open();
+    struct Spoken {
+        QPointer<QWidget> widget;
+        QAccessible::Id id;
+        QByteArray kind;
+    };
+    std::vector<Spoken> all;
+    for (QWidget *const widget : window->findChildren<QWidget *>()) {
+        if (QAccessibleInterface *const known = QAccessible::queryAccessibleInterface(widget))
+            all.push_back({widget, QAccessible::uniqueId(known), widget->metaObject()->className()});
+    }
+    window.reset();
+    int gone = 0;
+    for (const Spoken &spoken : all) {
+        // The panel keeps its view.
+        if (spoken.widget)
+            continue;
+        ++gone;
+        EXPECT_FALSE(QAccessible::accessibleInterface(spoken.id)) << spoken.kind.constData();
+    }
+    EXPECT_GT(gone, 20);
 }
 
 TEST_F(DialogLookTest, TheStripScrollsByKeysAndWheel)

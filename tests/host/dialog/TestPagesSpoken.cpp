@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OptionsPpd.h"
 #include "SamplePpd.h"
-#include "Spoken.h"
 
 #include <host/dialog/JobPage.h>
 #include <host/dialog/OptionsPage.h>
@@ -27,7 +26,7 @@ void expectNames(const QWidget &page)
         if (!(widget->focusPolicy() & Qt::TabFocus) || isPart)
             continue;
         ++fields;
-        QAccessibleInterface *const spoken = spokenOf(widget);
+        QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(widget);
         ASSERT_TRUE(spoken) << widget->metaObject()->className();
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
             << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
