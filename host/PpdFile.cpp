@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdFile.h"
 
+#include "PpdOptions.h"
 #include "PpdSource.h"
 
 #include <QFileInfo>
@@ -12,9 +13,6 @@
 namespace host {
 
 namespace {
-
-/// The entry that stands for a free choice.
-constexpr const char *freeChoice = "Custom";
 
 /// Puts the text of a translation into a record of libcups, cut at the end of a character.
 template<std::size_t Size>
@@ -58,9 +56,9 @@ private:
     /// A free choice has its texts under keywords of its own.
     void localizeFreeChoice(ppd_option_t &option, const ppd_coption_t &free) const
     {
-        const QByteArray choice = QByteArray("Custom") + option.keyword;
+        const QByteArray choice = PpdOptions::freeChoice + QByteArray(option.keyword);
         for (int i = 0; i < option.num_choices; ++i) {
-            if (qstricmp(option.choices[i].choice, freeChoice) == 0)
+            if (qstricmp(option.choices[i].choice, PpdOptions::freeChoice) == 0)
                 localize(option.choices[i].text, choice.constData(), "True");
         }
         const QByteArray parameters = "Param" + choice;

@@ -2,22 +2,16 @@
 #include "PpdFile.h"
 
 #include "PpdNumber.h"
+#include "PpdOptions.h"
 
 #include <QSet>
 
 namespace host {
 
-namespace {
-
-/// The entry that stands for papers of free size.
-constexpr const char *customSizeName = "Custom";
-
-} // namespace
-
 std::optional<PpdPaper> PpdFile::fixedPaper(const QByteArray &name, const QString &text) const
 {
     const std::optional<QSizeF> size = m_paperSizes.size(name);
-    if (!size || name == customSizeName)
+    if (!size || name == PpdOptions::freeChoice)
         return std::nullopt;
     return PpdPaper{name, text.isEmpty() ? QString::fromUtf8(name) : text, *size, m_paperSizes.margins(name)};
 }
@@ -77,7 +71,7 @@ std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
 std::optional<PpdPaper> PpdFile::markedPaper() const
 {
     const std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
-    if (name != QLatin1String(customSizeName))
+    if (name != QLatin1String(PpdOptions::freeChoice))
         return name ? paper(name->toUtf8()) : std::nullopt;
     const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
     if (!size)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DestinationChooser.h"
 
+#include "FittedLabel.h"
+
 #include <host/cups/QueueWords.h>
 
 #include <QComboBox>
@@ -54,7 +56,8 @@ DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *par
     , m_session(session)
     , m_list(new QComboBox(this))
     , m_icon(new QLabel(this))
-    , m_state(new QLabel(this))
+    // With room for what a paused queue says, papers do not jump when a state comes and goes.
+    , m_state(new FittedLabel(3, 6, this))
 {
     auto *const label = new QLabel(tr("P&rinter"), this);
     label->setBuddy(m_list);
@@ -62,9 +65,6 @@ DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *par
     // As wide as the papers below it, however long the printers' descriptions are.
     m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_list->setMinimumContentsLength(20);
-    m_state->setWordWrap(true);
-    m_state->setTextFormat(Qt::PlainText);
-    m_state->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     m_icon->setAlignment(Qt::AlignTop);
 
     auto *const state = new QHBoxLayout;
@@ -128,21 +128,6 @@ QString DestinationChooser::stateText() const
     return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
 }
 
-void DestinationChooser::fitState()
-{
-    // Room for what a paused queue says, so that the papers do not jump when a state comes and goes; more
-    // when it is needed, but not for novels.
-    const int line = m_state->fontMetrics().lineSpacing();
-    const int needed = m_state->heightForWidth(m_state->width());
-    m_state->setMinimumHeight(qBound(3 * line, needed, 6 * line));
-}
-
-void DestinationChooser::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    fitState();
-}
-
 void DestinationChooser::enterEvent(QEnterEvent *event)
 {
     QWidget::enterEvent(event);
@@ -154,9 +139,8 @@ void DestinationChooser::enterEvent(QEnterEvent *event)
 void DestinationChooser::showState()
 {
     const QString text = stateText();
-    m_state->setText(text);
+    m_state->setWords(text);
     m_state->setToolTip(text);
-    fitState();
     m_list->setAccessibleDescription(text);
     const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();
     const host::StateSeverity severity =

@@ -10,6 +10,8 @@ class QLabel;
 
 namespace dialog {
 
+class FittedLabel;
+
 /// The choice of the printer: queues, classes and instances of the server, and how the chosen one is. What is
 /// known only from last time is shown as such.
 class DestinationChooser : public QWidget {
@@ -21,19 +23,17 @@ public:
 
 protected:
     void enterEvent(QEnterEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void showDestinations();
     void showChosen();
     void showState();
-    void fitState();
     QString stateText() const;
 
     host::QueueSession &m_session;
     QComboBox *m_list;
     QLabel *m_icon;
-    QLabel *m_state;
+    FittedLabel *m_state;
 };
 
 } // namespace dialog

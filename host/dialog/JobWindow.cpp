@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobWindow.h"
 
+#include "FittedLabel.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
@@ -12,7 +14,7 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
                      QWidget *parent)
     : QDialog(parent)
     , m_monitor(server, queue, jobId)
-    , m_words(new QLabel(tr("The job is sent."), this))
+    , m_words(new FittedLabel(3, 20, this))
 {
     setWindowTitle(tr("%1 on %2").arg(title, queue));
     auto *const name = new QLabel(tr("Job %1: %2").arg(jobId).arg(title), this);
@@ -21,18 +23,16 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     bold.setBold(true);
     name->setFont(bold);
     name->setWordWrap(true);
-    m_words->setWordWrap(true);
-    m_words->setTextFormat(Qt::PlainText);
-    m_words->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     auto *const buttons = new QDialogButtonBox(this);
     m_cancel = buttons->addButton(tr("Cancel the &job"), QDialogButtonBox::DestructiveRole);
     QPushButton *const close = buttons->addButton(QDialogButtonBox::Close);
     close->setDefault(true);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(name);
-    layout->addWidget(m_words, 1);
+    layout->addWidget(m_words);
+    layout->addStretch(1);
     layout->addWidget(buttons);
-    showWords(m_words->text());
+    showWords(tr("The job is sent."));
     setMinimumWidth(40 * fontMetrics().averageCharWidth());
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -50,11 +50,8 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
 
 void JobWindow::showWords(const QString &words)
 {
-    m_words->setText(words);
+    m_words->setWords(words);
     m_words->setAccessibleName(words);
-    // Room for a few lines always, so that the window seldom grows.
-    const int reserve = 3 * m_words->fontMetrics().lineSpacing();
-    m_words->setMinimumHeight(qMax(reserve, m_words->heightForWidth(m_words->width())));
 }
 
 void JobWindow::showStatus(const host::JobStatus &status)

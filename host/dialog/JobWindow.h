@@ -5,10 +5,11 @@
 
 #include <QDialog>
 
-class QLabel;
 class QPushButton;
 
 namespace dialog {
+
+class FittedLabel;
 
 /// Follows a job that has been sent until nothing more will happen to it, with a button to take it back.
 /// Closes by itself when the job is printed.
@@ -28,7 +29,7 @@ private:
 
     host::JobMonitor m_monitor;
     std::optional<host::JobStatus> m_status;
-    QLabel *m_words;
+    FittedLabel *m_words;
     QPushButton *m_cancel;
 };
 

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintDialog.h"
 
-#include "Banner.h"
+#include "ConflictBanner.h"
 #include "ConflictQuestion.h"
 #include "DestinationChooser.h"
 #include "DialogPages.h"
+#include "FittedLabel.h"
 #include "PageOptions.h"
 #include "PaperChooser.h"
 #include "ProblemBanner.h"
 #include "SendBar.h"
 #include "StripPreview.h"
+#include "WaitingWords.h"
 
 #include <host/CutPlanWords.h>
 
@@ -58,14 +60,13 @@ void PrintDialog::build(const DialogWishes &wishes)
 {
     m_content = new QWidget(this);
     m_panelBanner = new Banner(this);
-    m_conflictBanner = new Banner(this);
+    m_conflictBanner = new ConflictBanner(m_keeper, this);
     m_problemBanner = new ProblemBanner(this);
     const host::QueueSession *const session = m_keeper.session();
     m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
     m_stripPreview = new StripPreview(m_content);
-    m_figures = new QLabel(this);
-    m_figures->setWordWrap(true);
-    m_figures->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    // With lines in reserve, the window does not grow at every click.
+    m_figures = new FittedLabel(3, 20, this);
     m_sendBar = new SendBar(this);
     auto *const buttons = new QDialogButtonBox(this);
     m_printButton = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
@@ -132,11 +133,7 @@ void PrintDialog::connectAll()
             return std::nullopt;
         return host::ticketFor(*m_keeper.setup(), *m_document, m_draft);
     });
-    connect(m_conflictBanner, &Banner::remedyClicked, this, [this] {
-        if (const std::optional<host::Remedy> remedy = m_keeper.setup()->remedy())
-            m_keeper.setup()->apply(*remedy);
-        refresh();
-    });
+    connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
     connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
     if (host::QueueSession *const session = m_keeper.session()) {
@@ -202,7 +199,7 @@ void PrintDialog::dropSetup()
     if (m_keeper.setup())
         m_keeper.setup()->setDidChangeHook({});
     m_pages->dropSetup();
-    m_conflictBanner->setMessage(QString());
+    m_conflictBanner->setConflicts({});
 }
 
 void PrintDialog::changePaper()
@@ -243,9 +240,9 @@ void PrintDialog::refresh()
     const bool isReady = m_keeper.setup() && choices;
     m_printButton->setEnabled(isReady && !m_isSending);
     if (!choices)
-        setFigures(choices.error().message);
+        m_figures->setWords(choices.error().message);
     else if (!m_keeper.setup())
-        setFigures(waitingText());
+        m_figures->setWords(waitingWords(m_keeper.session()));
     else
         refreshJob(choices.value());
     refreshConflicts();
@@ -261,14 +258,14 @@ void PrintDialog::refreshJob(const host::PageChoices &choices)
     const bool hasStrip = setup.hasPpd() && setup.paper();
     m_stripPreview->setVisible(hasStrip);
     if (!hasStrip) {
-        setFigures(tr("The printer has no description, so its papers and cuts are not known here."));
+        m_figures->setWords(tr("The printer has no description, so its papers and cuts are not known here."));
         return;
     }
     m_strip =
         std::make_unique<host::PrintJob>(setup.state(), *m_document, *m_renderer, *setup.paper(), choices);
     m_stripPreview->setPlan(m_strip->plan(), *m_renderer);
-    setFigures(host::cutPlanFigures(m_strip->plan()) + u'\n' +
-               host::cutPlanSentences(m_strip->plan()).join(u' '));
+    m_figures->setWords(host::cutPlanFigures(m_strip->plan()) + u'\n' +
+                        host::cutPlanSentences(m_strip->plan()).join(u' '));
 }
 
 void PrintDialog::refreshConflicts()
@@ -278,32 +275,7 @@ void PrintDialog::refreshConflicts()
     m_pages->setConflicts(conflicts);
     if (m_papers)
         m_papers->setConflicts(conflicts);
-    QStringList sentences;
-    for (const host::Conflict &conflict : conflicts)
-        sentences.append(conflict.sentence());
-    const std::optional<host::Remedy> remedy = sentences.isEmpty() ? std::nullopt : setup->remedy();
-    m_conflictBanner->setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
-}
-
-QString PrintDialog::waitingText() const
-{
-    const host::QueueSession *const session = m_keeper.session();
-    if (session && session->ppdError())
-        return tr("The printer's description is not known.");
-    if (!session || session->isSettled())
-        return session && session->chosen() ? tr("Waiting for the printer's description…")
-                                            : tr("No printer is chosen.");
-    return tr("Waiting for the print server's answer…");
-}
-
-void PrintDialog::setFigures(const QString &text)
-{
-    m_figures->setText(text);
-    // A window does not grow by itself when a text takes another line; a line in reserve keeps it from
-    // growing at every click.
-    const int reserve = 3 * m_figures->fontMetrics().lineSpacing();
-    const int needed = isVisible() ? m_figures->heightForWidth(m_figures->width()) : 0;
-    m_figures->setMinimumHeight(qMax(reserve, needed));
+    m_conflictBanner->setConflicts(conflicts);
 }
 
 void PrintDialog::pageShown()
@@ -349,7 +321,7 @@ std::optional<QString> PrintDialog::prepare()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
     if (!setup)
-        return waitingText();
+        return waitingWords(m_keeper.session());
     if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
         return error->message;
     if (const std::optional<QString> refusal = setup->savePanel())

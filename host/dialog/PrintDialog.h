@@ -8,14 +8,15 @@
 
 #include <QDialog>
 
-class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
 namespace dialog {
 
 class Banner;
+class ConflictBanner;
 class DialogPages;
+class FittedLabel;
 class PageOptions;
 class PaperChooser;
 class ProblemBanner;
@@ -83,8 +84,6 @@ private:
     void refresh();
     void refreshJob(const host::PageChoices &choices);
     void refreshConflicts();
-    void setFigures(const QString &text);
-    QString waitingText() const;
     void pageShown();
     void checkAhead();
     void finishSending();
@@ -102,14 +101,14 @@ private:
 
     QWidget *m_content = nullptr;
     Banner *m_panelBanner = nullptr;
-    Banner *m_conflictBanner = nullptr;
+    ConflictBanner *m_conflictBanner = nullptr;
     ProblemBanner *m_problemBanner = nullptr;
     QVBoxLayout *m_paperPlace = nullptr;
     PaperChooser *m_papers = nullptr;
     PageOptions *m_pageOptions = nullptr;
     DialogPages *m_pages = nullptr;
     StripPreview *m_stripPreview = nullptr;
-    QLabel *m_figures = nullptr;
+    FittedLabel *m_figures = nullptr;
     SendBar *m_sendBar = nullptr;
     QPushButton *m_printButton = nullptr;
 };

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FittedLabel.h"
+
+namespace dialog {
+
+FittedLabel::FittedLabel(int fewestLines, int mostLines, QWidget *parent)
+    : QLabel(parent)
+    , m_fewestLines(fewestLines)
+    , m_mostLines(mostLines)
+{
+    setWordWrap(true);
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    // A long word makes nothing wider.
+    setMinimumWidth(1);
+    fit();
+}
+
+void FittedLabel::setWords(const QString &words)
+{
+    setText(words);
+    fit();
+}
+
+void FittedLabel::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    fit();
+}
+
+void FittedLabel::showEvent(QShowEvent *event)
+{
+    QLabel::showEvent(event);
+    fit();
+}
+
+void FittedLabel::fit()
+{
+    const int line = fontMetrics().lineSpacing();
+    // Before it is shown, the width is no width that it will have.
+    const int needed = isVisible() ? heightForWidth(width()) : 0;
+    setFixedHeight(qBound(m_fewestLines * line, needed, m_mostLines * line));
+}
+
+} // namespace dialog
