@@ -4,6 +4,8 @@
 #include <atomic>
 #include <thread>
 
+#include <pthread.h>
+
 namespace host {
 
 bool BackgroundTask::isCancelled() const
@@ -63,9 +65,16 @@ std::shared_ptr<BackgroundTask> Background::start(std::function<void(BackgroundT
     std::erase_if(m_tasks, [](const std::weak_ptr<BackgroundTask> &task) { return task.expired(); });
     std::shared_ptr<BackgroundTask> task(new BackgroundTask(m_mailbox));
     m_tasks.push_back(task);
-    anythingStarted = true;
-    std::thread([task, run = std::move(work)] { run(*task); }).detach();
+    detach([task, run = std::move(work)] { run(*task); });
     return task;
+}
+
+void Background::detach(std::function<void()> work)
+{
+    anythingStarted = true;
+    std::thread thread(std::move(work));
+    pthread_setname_np(thread.native_handle(), "kv-background");
+    thread.detach();
 }
 
 } // namespace host

@@ -65,6 +65,10 @@ public:
     /// Runs the work on a thread of its own.
     std::shared_ptr<BackgroundTask> start(std::function<void(BackgroundTask &)> work);
 
+    /// Runs work that nothing can interrupt, and whose outcome nobody may want by then. Its thread, like all
+    /// threads of this class, is named "kv-background" for debuggers and for those who wait for its end.
+    static void detach(std::function<void()> work);
+
     /// Whether anything was ever started in this program. Its threads may be at work to the very end, when a
     /// server is silent, and must not find what a usual end of the program has taken down by then.
     static bool wasUsed();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MailRecipient.h"
 
+#include "Background.h"
+
 #include <QSysInfo>
 
 #include <cups/cups.h>
@@ -9,7 +11,6 @@
 #include <chrono>
 #include <future>
 #include <memory>
-#include <thread>
 
 namespace host {
 
@@ -23,10 +24,10 @@ QByteArray fullHostName()
     // On a thread of its own, since nobody can interrupt the look-up of a name.
     auto found = std::make_shared<std::promise<QByteArray>>();
     std::future<QByteArray> name = found->get_future();
-    std::thread([found] {
+    Background::detach([found] {
         std::array<char, HTTP_MAX_HOST> text = {};
         found->set_value(httpGetHostname(nullptr, text.data(), static_cast<int>(text.size())));
-    }).detach();
+    });
     if (name.wait_for(patience) == std::future_status::ready)
         return name.get();
     return QSysInfo::machineHostName().toUtf8();
