@@ -52,6 +52,8 @@ struct PpdPaper {
 struct PpdCustomLimits {
     QSizeF smallest;
     QSizeF largest;
+
+    bool operator==(const PpdCustomLimits &) const = default;
 };
 
 /// A printer's PPD, open and marked. All that the host knows of a PPD it knows through this class and
@@ -99,7 +101,7 @@ public:
     /// The choices of PageSize that the PPD names a size for, in its order, without the entry that stands for
     /// free sizes.
     std::vector<PpdPaper> papers() const;
-    /// The paper of that name, compared byte for byte. "Custom.WIDTHxLENGTH" with a unit (pt, in, cm, mm)
+    /// The paper of that name, compared byte for byte. "Custom.WIDTHxLENGTH", as customPaperSize() reads it,
     /// gives a free size, where the PPD has them and within its limits.
     std::optional<PpdPaper> paper(const QByteArray &name) const;
     /// The paper that is marked; nothing when none is.

@@ -70,7 +70,10 @@ std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
 
 std::optional<PpdPaper> PpdFile::markedPaper() const
 {
-    const std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
+    std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
+    // Of the two keywords for one thing, libcups keeps the mark that came last.
+    if (!name)
+        name = markedChoice(QStringLiteral("PageRegion"));
     if (name != QLatin1String(PpdOptions::freeChoice))
         return name ? paper(name->toUtf8()) : std::nullopt;
     const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);

@@ -8,16 +8,17 @@ namespace host {
 namespace {
 
 /// The numbers of a value such as "68.03 170.08", as exact as libcups keeps them, so that a size is the same
-/// wherever it is read; empty when one is none.
+/// wherever it is read. Nothing that stands behind them matters.
 QList<double> numbers(std::string_view value)
 {
     const QByteArray words(value.data(), static_cast<qsizetype>(value.size()));
     QList<double> numbers;
     for (const QByteArray &word : words.simplified().split(' ')) {
         bool isNumber = false;
-        numbers.append(double{word.toFloat(&isNumber)});
+        const float number = word.toFloat(&isNumber);
         if (!isNumber)
-            return {};
+            break;
+        numbers.append(double{number});
     }
     return numbers;
 }

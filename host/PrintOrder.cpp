@@ -22,14 +22,20 @@ struct Range {
 
 std::optional<Range> parseRange(const QString &text, int pageCount)
 {
-    static const QRegularExpression form(QStringLiteral("^\\s*(\\d{1,9})\\s*(?:(-)\\s*(\\d{1,9})?\\s*)?$"));
+    static const QRegularExpression form(QStringLiteral("^\\s*(\\d{1,10})\\s*(?:(-)\\s*(\\d{1,10})?\\s*)?$"));
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
-    const int first = match.captured(1).toInt();
+    // IPP's way of saying "to the last page", and as good as any larger number.
+    constexpr qint64 end = std::numeric_limits<int>::max();
+    const auto number = [&](int group) {
+        return static_cast<int>(qMin(match.captured(group).toLongLong(), end));
+    };
+    const int first = number(1);
     if (match.capturedLength(2) == 0)
         return Range{first, first};
-    return Range{first, match.capturedLength(3) == 0 ? qMax(first, pageCount) : match.captured(3).toInt()};
+    const bool isOpen = match.capturedLength(3) == 0 || number(3) == end;
+    return Range{first, isOpen ? qMax(first, pageCount) : number(3)};
 }
 
 PageRangeError notUnderstood(const QString &text)
@@ -45,19 +51,22 @@ QStringList rangeTexts(const QString &text)
 }
 
 /// Which pages of a document of so many pages are named.
-Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int pageCount)
+Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int pageCount, PagesBeyond beyond)
 {
     std::vector<bool> chosen(static_cast<std::size_t>(pageCount), text.trimmed().isEmpty());
     for (const QString &part : rangeTexts(text)) {
-        const std::optional<Range> range = parseRange(part, pageCount);
+        std::optional<Range> range = parseRange(part, pageCount);
         if (!range || range->first > range->last)
             return notUnderstood(text);
+        if (beyond == PagesBeyond::AreLeftOut)
+            range = Range{qBound(1, range->first, pageCount + 1), qMin(range->last, pageCount)};
         if (range->first < 1 || range->last > pageCount)
             return PageRangeError{PageRangeFailure::OutOfDocument,
                                   Text::tr("Cannot print the pages \"%1\": the document's last page is %2")
                                       .arg(text)
                                       .arg(pageCount)};
-        std::fill(chosen.begin() + (range->first - 1), chosen.begin() + range->last, true);
+        for (int page = range->first; page <= range->last; ++page)
+            chosen[static_cast<std::size_t>(page) - 1] = true;
     }
     return chosen;
 }
@@ -104,15 +113,15 @@ QString canonicalPageRanges(const QString &text)
     return texts.join(u',');
 }
 
-Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
-                                                         const std::vector<int> &pageCounts, PageSet set)
+Result<std::vector<int>, PageRangeError>
+parsePageRanges(const QString &text, const std::vector<int> &pageCounts, PageSet set, PagesBeyond beyond)
 {
     const auto isInSet = [&](int page) {
         const bool isOdd = page % 2 == 0; // counted from 0 here, from 1 by people
         return set == PageSet::All || isOdd == (set == PageSet::Odd);
     };
     const int longest = pageCounts.empty() ? 0 : std::ranges::max(pageCounts);
-    const auto chosen = parseChosen(text, longest);
+    const auto chosen = parseChosen(text, longest, beyond);
     if (!chosen)
         return chosen.error();
     std::vector<int> pages;
@@ -124,6 +133,9 @@ Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
         }
         first += count;
     }
+    if (pages.empty() && first > 0)
+        return PageRangeError{PageRangeFailure::NoPage,
+                              Text::tr("Nothing would be printed: no page of the document is chosen")};
     return pages;
 }
 

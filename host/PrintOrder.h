@@ -13,6 +13,7 @@ namespace host {
 enum class PageRangeFailure {
     NotUnderstood, ///< something else than numbers and ranges
     OutOfDocument, ///< a page that no document has
+    NoPage,        ///< no page is left to be printed
     TooMany,       ///< more labels than mostLabels
 };
 using PageRangeError = Failure<PageRangeFailure>;
@@ -22,6 +23,10 @@ enum class Collate { No, Yes };
 
 /// Which of the chosen pages are printed, by their numbers.
 enum class PageSet { All, Odd, Even };
+
+/// What becomes of named pages that no document has. People are told of them; what a queue or lpoptions name
+/// for all documents is left out, as print servers do it.
+enum class PagesBeyond { AreErrors, AreLeftOut };
 
 /// Which page comes out first. People whose tape is wound up want the last one.
 enum class PageOrder { FirstFirst, LastFirst };
@@ -33,11 +38,13 @@ inline constexpr int mostLabels = 100'000;
 
 /// The pages that a text such as "1-3, 5, 8-" names, of documents with so many pages each, which are printed
 /// one after the other. The text applies to every document by itself, as lp's -P does: "1" is the first page
-/// of each. Pages in the text count from 1 and "8-" goes on to the last; a page that no document has is an
-/// error. A blank text names all pages. The answer counts from 0 through all documents, each page once and
-/// in order, and of the pages only those of the set.
-Result<std::vector<int>, PageRangeError>
-parsePageRanges(const QString &text, const std::vector<int> &pageCounts, PageSet set = PageSet::All);
+/// of each. Pages in the text count from 1 and "8-" goes on to the last, as does "8-2147483647". A blank text
+/// names all pages. The answer counts from 0 through all documents, each page once and
+/// in order, and of the pages only those of the set. An error when no page is left.
+Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
+                                                         const std::vector<int> &pageCounts,
+                                                         PageSet set = PageSet::All,
+                                                         PagesBeyond beyond = PagesBeyond::AreErrors);
 
 /// The same pages as IPP wants them (RFC 8011, 5.2.7): in ascending order, no page twice. "5,1-3,2" is
 /// "1-3,5". Empty for all pages; a text that checkPageRanges() refuses is given back as it is, without

@@ -58,11 +58,11 @@ QJsonObject previewState(const OptionView13_v400_ *preview)
             {"picture", picture ? QJsonValue(picture->name()) : QJsonValue()}};
 }
 
-QJsonObject countWordState(const QLabel *word)
+QJsonObject countWordState(const QLabel &word)
 {
-    const auto *const text = dynamic_cast<const platform::StaticText *>(word);
+    const auto *const text = dynamic_cast<const platform::StaticText *>(&word);
     const bool greyed = text && text->textColor() == platform::ControlTextColor::Disabled;
-    return with(with(controlState(word), "title", word->text()), "textColor",
+    return with(with(controlState(&word), "title", word.text()), "textColor",
                 greyed ? QStringLiteral("disabled") : QStringLiteral("enabled"));
 }
 
@@ -89,7 +89,7 @@ QJsonObject OptionPDE13_v400_::inspection() const
                          with(controlState(mCutEveryTxBx), "text", mCutEveryTxBx->text()));
     controlStates.insert(QStringLiteral("mCutEveryStpr"),
                          with(controlState(mCutEveryStpr), "value", mCutEveryStpr->value()));
-    controlStates.insert(QStringLiteral("mCutEveryStr"), countWordState(mCutEveryStr));
+    controlStates.insert(QStringLiteral("mCutEveryStr"), countWordState(*mCutEveryStr));
     return {
         {"view", QJsonObject{{"width", kPDEView->width()}, {"height", kPDEView->height()}}},
         {"controls", controlStates},

@@ -69,7 +69,7 @@ QString Bundle::localizedStringForKey(const QString &key) const
         return key;
     const QByteArray utf8 = key.toUtf8();
     for (const std::unique_ptr<QTranslator> &catalogue : m_catalogues) {
-        const QString text = catalogue->translate("Localizable", utf8.constData());
+        QString text = catalogue->translate("Localizable", utf8.constData());
         if (!text.isEmpty())
             return text;
     }

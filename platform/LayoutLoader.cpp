@@ -74,14 +74,14 @@ void mirror(QWidget *view)
 
 } // namespace
 
-void LayoutLoader::registerWidgetClass(const QString &className, Factory factory)
+void LayoutLoader::registerWidgetClass(const QString &className, const Factory &factory)
 {
-    factories().insert(className, std::move(factory));
+    factories().insert(className, factory);
 }
 
-void LayoutLoader::registerHook(const QString &name, Hook hook)
+void LayoutLoader::registerHook(const QString &name, const Hook &hook)
 {
-    hooks().insert(name, std::move(hook));
+    hooks().insert(name, hook);
 }
 
 LayoutLoader::Result LayoutLoader::load(const QString &path)

@@ -26,10 +26,10 @@ public:
     };
 
     /// Makes widgets of that class name by the factory; a later registration of the name replaces it.
-    static void registerWidgetClass(const QString &className, Factory factory);
+    static void registerWidgetClass(const QString &className, const Factory &factory);
 
     /// Calls the hook for every widget of a loaded layout, once its properties are set.
-    static void registerHook(const QString &name, Hook hook);
+    static void registerHook(const QString &name, const Hook &hook);
 
     /// Loads the file at path.
     static Result load(const QString &path);

@@ -156,7 +156,8 @@ void Stepper::paintEvent(QPaintEvent *)
     const QColor line = hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Dark);
     painter.setPen(QPen(isEnabled() ? line : palette().color(QPalette::Mid), 1.0));
     painter.drawPath(outline);
-    const double middle = height() / 2 + 0.5;
+    const int half = height() / 2;
+    const double middle = half + 0.5;
     painter.drawLine(QPointF(1, middle), QPointF(width() - 1, middle));
 }
 

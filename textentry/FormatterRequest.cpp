@@ -61,7 +61,7 @@ PDETextRange rangeOf(const QString &member, const QJsonValue &value)
 
 QDateTime dateOf(const QString &member, const QJsonValue &value)
 {
-    const QDateTime date = QDateTime::fromString(textOf(member, value), Qt::ISODateWithMs);
+    QDateTime date = QDateTime::fromString(textOf(member, value), Qt::ISODateWithMs);
     if (!date.isValid())
         refuse(member, "an ISO 8601 date");
     return date;
@@ -95,7 +95,8 @@ void addInvalid(PDEFormatter &formatter, const QString &name, const QJsonValue &
 {
     if (!value.isArray())
         refuse(name, "a list of texts");
-    for (const QJsonValue &text : value.toArray())
+    const QJsonArray texts = value.toArray();
+    for (const auto &text : texts)
         formatter.addInvalidCharacter(textOf(name, text));
 }
 
@@ -126,7 +127,7 @@ std::unique_ptr<PDEFormatter> formatterOf(const QJsonObject &request)
 FormatterRequest::Edit editOf(const QJsonObject &object)
 {
     const auto member = [&](const char *name) {
-        const QJsonValue value = object.value(QLatin1StringView(name));
+        QJsonValue value = object.value(QLatin1StringView(name));
         if (value.isUndefined())
             throw Fault{QStringLiteral("an edit lacks \"%1\"").arg(QLatin1StringView(name))};
         return value;
@@ -166,7 +167,8 @@ std::variant<FormatterRequest, QString> FormatterRequest::read(const QJsonObject
         const QJsonValue edits = request.value(QLatin1StringView("edits"));
         if (!edits.isArray())
             refuse(QStringLiteral("edits"), "a list");
-        for (const QJsonValue &value : edits.toArray())
+        const QJsonArray trials = edits.toArray();
+        for (const auto &value : trials)
             read.trials.push_back(trialOf(value));
         return read;
     } catch (const Fault &fault) {

@@ -142,7 +142,7 @@ QJsonObject PanelDriver::tapeInfo(const DriverRequest &request)
 
 QJsonObject PanelDriver::formatter(const DriverRequest &request)
 {
-    const QJsonObject reply = inspection().tryFormatter(request.members());
+    QJsonObject reply = inspection().tryFormatter(request.members());
     if (reply.contains(QLatin1String("error")))
         throw RequestError(reply.value(QLatin1String("error")).toString());
     return reply;

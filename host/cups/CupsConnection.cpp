@@ -89,7 +89,7 @@ Result<CupsConnection, CupsError> CupsConnection::open(const CupsServer &server,
     cupsSetPasswordCB2(password, state.get());
     CupsConnection connection(std::move(state));
     if (!connection.connect())
-        return connection.lastError();
+        return connection.noAnswer();
     return connection;
 }
 
@@ -130,7 +130,8 @@ const char *CupsConnection::password(const char *prompt, http_t *, const char *,
     const PasswordRequest request(QString::fromUtf8(prompt), QString::fromUtf8(cupsUser()));
     const std::optional<PasswordRequest::Credentials> answer =
         state.server.passwords->get(request, *state.task, state.server.askPassword, state.triedPasswords);
-    state.lacksPassword = !answer;
+    // Who gives up has not kept a password back.
+    state.lacksPassword = !answer && !state.task->isCancelled();
     if (!answer)
         return nullptr;
     // libcups keeps no copy.
@@ -145,24 +146,28 @@ bool CupsConnection::wasGivenUp() const
     return m_state->wasSilent || (m_state->task->isCancelled() && !m_state->finishesFirst);
 }
 
-CupsError CupsConnection::lastError() const
+CupsError CupsConnection::noAnswer() const
 {
     const QString name = server().displayName();
     if (m_state->task->isCancelled())
         return {CupsFailure::Cancelled, Text::tr("Given up on request.")};
     if (m_state->wasSilent || (!m_http && m_state->silence.hasExpired(patience())))
         return {CupsFailure::Silent, Text::tr("The print server \"%1\" does not answer.").arg(name)};
-    const QString reason = QString::fromUtf8(cupsLastErrorString());
     if (!m_http)
-        return {CupsFailure::Unreachable,
-                Text::tr("Cannot connect to the print server \"%1\": %2").arg(name, reason)};
+        return {CupsFailure::Unreachable, Text::tr("Cannot connect to the print server \"%1\": %2")
+                                              .arg(name, QString::fromUtf8(cupsLastErrorString()))};
+    return {CupsFailure::Unreachable, Text::tr("The connection to the print server \"%1\" broke.").arg(name)};
+}
+
+CupsError CupsConnection::lastError() const
+{
     // Without an answer, libcups means the connection by an internal error, or leaves the outcome of the
     // request before.
     const ipp_status_t status = cupsLastError();
-    if (status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_INTERNAL)
-        return {CupsFailure::Unreachable,
-                Text::tr("The connection to the print server \"%1\" broke.").arg(name)};
-    return refusal(failureFor(status), reason);
+    const bool isRefusal = status >= IPP_STATUS_REDIRECTION_OTHER_SITE && status != IPP_STATUS_ERROR_INTERNAL;
+    if (!m_http || m_state->wasSilent || m_state->task->isCancelled() || !isRefusal)
+        return noAnswer();
+    return refusal(failureFor(status), QString::fromUtf8(cupsLastErrorString()));
 }
 
 CupsError CupsConnection::passwordError() const
@@ -199,6 +204,12 @@ Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const
     return readAnswer(status);
 }
 
+Result<IppPointer, CupsError> CupsConnection::earlyAnswer()
+{
+    beginWaiting();
+    return readAnswer(awaitAnswer());
+}
+
 Result<IppPointer, CupsError> CupsConnection::finishDocument()
 {
     beginWaiting();
@@ -232,8 +243,9 @@ ssize_t CupsConnection::readPiece(void *connection, ipp_uchar_t *buffer, std::si
 Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
 {
     if (status != HTTP_STATUS_OK) {
-        if (status == HTTP_STATUS_ERROR || wasGivenUp())
-            return lastError();
+        // What was refused has made nothing that there is to be taken back.
+        if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
+            return noAnswer();
         httpFlush(m_http.get());
         return refusal(failureFor(status), QString::fromUtf8(httpStatus(status)));
     }
@@ -244,7 +256,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
     while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
         state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
     if (state == IPP_STATE_ERROR)
-        return lastError();
+        return noAnswer();
     httpFlush(m_http.get());
     const ipp_status_t outcome = ippGetStatusCode(answer.get());
     if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE)
@@ -265,12 +277,13 @@ Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer reques
 http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArray &resource,
                                               const std::function<http_status_t()> &ask)
 {
-    http_status_t status = HTTP_STATUS_UNAUTHORIZED;
-    // An authorization or an encryption may be asked for, once each.
-    for (int attempt = 0; attempt < 4; ++attempt) {
+    // Encryption may be asked for, and a password more than once: the first one may be wrong.
+    constexpr int mostAttempts = 4;
+    for (int attempt = 1;; ++attempt) {
         beginWaiting();
-        status = ask();
-        if (wasGivenUp() || (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_UPGRADE_REQUIRED))
+        const http_status_t status = ask();
+        const bool isRefused = status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_UPGRADE_REQUIRED;
+        if (wasGivenUp() || !isRefused || attempt == mostAttempts)
             return status;
         httpFlush(m_http.get());
         if (status == HTTP_STATUS_UNAUTHORIZED &&
@@ -282,7 +295,6 @@ http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArr
         if (status == HTTP_STATUS_UPGRADE_REQUIRED && httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED))
             return HTTP_STATUS_ERROR;
     }
-    return status;
 }
 
 http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &unlessModifiedSince)
@@ -305,7 +317,7 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     };
     const http_status_t status = get(resource, unlessModifiedSince);
     if (wasGivenUp() || status == HTTP_STATUS_ERROR)
-        return lastError();
+        return noAnswer();
     if (status == HTTP_STATUS_NOT_MODIFIED) {
         httpFlush(m_http.get());
         return std::optional<File>();
@@ -330,7 +342,7 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
             return failure(CupsFailure::Refused, Text::tr("it is larger than %1 MB").arg(mostBytes >> 20));
     }
     if (wasGivenUp())
-        return lastError();
+        return noAnswer();
     if (length < 0 || (announced > 0 && file.content.size() != announced))
         return failure(CupsFailure::Unreachable, Text::tr("the connection broke in the middle"));
     return std::optional(file);

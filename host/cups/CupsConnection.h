@@ -46,6 +46,9 @@ public:
     /// Ends a document that was sent in pieces (cupsStartDocument(), cupsWriteRequestData()) and waits for
     /// the answer.
     Result<IppPointer, CupsError> finishDocument();
+    /// The answer that came, or may have come, before the whole document was sent. No end of the document is
+    /// sent first, lest the server prints the half of it.
+    Result<IppPointer, CupsError> earlyAnswer();
 
     /// Fetches a file of the server into memory. Not more than that many bytes; what is longer is refused.
     /// Nothing when it has not changed since the date and length, as they stand in a "If-Modified-Since"
@@ -59,10 +62,16 @@ public:
                                                  const QByteArray &unlessModifiedSince, qint64 mostBytes);
 
     /// Starts counting the server's silence anew.
-    void beginWaiting() const { m_state->silence.start(); }
-    /// Why the last call of libcups failed: given up, silent, broken, or refused by the server before it
-    /// looked at the request.
+    void beginWaiting() const
+    {
+        m_state->silence.start();
+        m_state->wasSilent = false;
+    }
+    /// Why a call of libcups failed that has just told so itself: given up, silent, broken, or refused by the
+    /// server before it looked at the request.
     CupsError lastError() const;
+    /// Why there was no answer: given up, silent, broken, or never connected.
+    CupsError noAnswer() const;
 
 private:
     struct Close {

@@ -185,7 +185,8 @@ Result<Destination, CupsError> queryDestination(CupsConnection &connection, cons
         return answer.error();
     std::vector<Destination> found = readDestinations(answer.value().get());
     if (found.empty())
-        return CupsError{CupsFailure::NotFound, connection.lastError().message};
+        return CupsError{CupsFailure::NotFound,
+                         QString::fromUtf8(ippErrorString(IPP_STATUS_ERROR_NOT_FOUND))};
     const LpOptions lpOptions = LpOptions::read();
     Destination destination = std::move(found.front());
     destination.instance = instance;

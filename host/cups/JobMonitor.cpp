@@ -39,21 +39,32 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
 
 void JobMonitor::tellForgotten(JobStatus status)
 {
-    if (m_isTakingBack)
+    // Whether it was printed or taken back is what the answer to the taking back tells.
+    if (m_takingBack == TakingBack::Asked) {
+        m_forgotten = status;
+        return;
+    }
+    if (m_takingBack == TakingBack::Done)
         status.state = JobState::Cancelled;
     Q_EMIT changed(status);
 }
 
+void JobMonitor::takeCancelled(const std::optional<CupsError> &error)
+{
+    m_takingBack = error ? TakingBack::No : TakingBack::Done;
+    if (m_forgotten)
+        tellForgotten(*m_forgotten);
+    else if (error)
+        Q_EMIT failed(*error);
+}
+
 void JobMonitor::cancelJob()
 {
-    m_isTakingBack = true;
+    m_takingBack = TakingBack::Asked;
     m_server.passwords->forgetRefusal();
     m_background.start([this, server = m_server, queue = m_queue, jobId = m_jobId](BackgroundTask &task) {
-        if (const std::optional<CupsError> error = host::cancelJob(server, queue, jobId, task))
-            task.deliver([this, error = *error] {
-                m_isTakingBack = false;
-                Q_EMIT failed(error);
-            });
+        const std::optional<CupsError> error = host::cancelJob(server, queue, jobId, task);
+        task.deliver([this, error] { takeCancelled(error); });
     });
 }
 

@@ -26,13 +26,17 @@ Q_SIGNALS:
     void failed(const host::CupsError &error);
 
 private:
+    enum class TakingBack { No, Asked, Done };
+
     void tellForgotten(JobStatus status);
+    void takeCancelled(const std::optional<CupsError> &error);
 
     CupsServer m_server;
     QString m_queue;
     int m_jobId;
-    /// cancelJob() was called and has not failed.
-    bool m_isTakingBack = false;
+    TakingBack m_takingBack = TakingBack::No;
+    /// Told when the server has answered whether it took the job back.
+    std::optional<JobStatus> m_forgotten;
     Background m_background;
 };
 

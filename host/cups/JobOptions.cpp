@@ -43,9 +43,11 @@ public:
     /// A layer that the server does not know; a sent option stays one, lest what lies below show through.
     void set(const QByteArray &name, const QByteArray &value, Origin origin)
     {
+        const bool isNew = !has(name);
         JobOption &option = at(name);
         const bool isRemembered = origin == Origin::UserDefault || origin == Origin::Panel;
-        option.isSent = option.isSent || isRemembered || option.value != value || name == paperKeyword;
+        option.isSent =
+            option.isSent || isNew || isRemembered || option.value != value || name == paperKeyword;
         option.value = value;
         option.origin = origin;
     }

@@ -116,11 +116,13 @@ JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults)
     return wishes;
 }
 
-Result<PageChoices, PageRangeError> choosePages(const JobSettings &settings,
+Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const JobSettings &defaults,
                                                 const std::vector<int> &pageCounts)
 {
+    const JobSettings settings = withDefaults(wishes, defaults);
     auto pages = parsePageRanges(settings.pageRanges.value_or(QString()), pageCounts,
-                                 settings.pageSet.value_or(PageSet::All));
+                                 settings.pageSet.value_or(PageSet::All),
+                                 wishes.pageRanges ? PagesBeyond::AreErrors : PagesBeyond::AreLeftOut);
     if (!pages)
         return pages.error();
     const int copies = std::clamp(settings.copies.value_or(1), 1, mostCopies);

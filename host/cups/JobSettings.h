@@ -37,11 +37,12 @@ JobSettings defaultPageSettings(const Destination &destination);
 /// The wishes, and where they say nothing of pages and copies, the defaults.
 JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults);
 
-/// The pages of documents of so many pages each that come out with the settings, where nothing stands for
-/// what print servers do by themselves: one copy of all pages, and of several copies all of one page
-/// together. Copies are brought within 1 to mostCopies. An error when a page is named that no document has,
-/// and when the job would have more than mostLabels.
-Result<PageChoices, PageRangeError> choosePages(const JobSettings &settings,
+/// The pages of documents of so many pages each that come out with the wishes and, where they say nothing,
+/// the defaults. Nothing in both stands for what print servers do by themselves: one copy of all pages, and
+/// of several copies all of one page together. Copies are brought within 1 to mostCopies. An error when a
+/// page is wished for that no document has, when no page is left, and when the job would have more than
+/// mostLabels.
+Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const JobSettings &defaults,
                                                 const std::vector<int> &pageCounts);
 
 } // namespace host

@@ -68,24 +68,39 @@ private:
         m_connection.beginWaiting();
         http_status_t status = cupsStartDocument(m_connection.http(), queue.constData(), m_jobId,
                                                  name.constData(), format.constData(), isLast ? 1 : 0);
-        while (status == HTTP_STATUS_CONTINUE && !m_task.isCancelled()) {
+        const bool hasBegun = status == HTTP_STATUS_CONTINUE;
+        bool isWhole = false;
+        while (hasBegun && !m_task.isCancelled()) {
             const Result<QByteArray, CupsError> piece = source.read(m_task);
             if (!piece)
                 return piece.error();
-            if (piece.value().isEmpty())
+            isWhole = piece.value().isEmpty();
+            if (isWhole || status == HTTP_STATUS_OK)
                 break;
             m_connection.beginWaiting();
             status = cupsWriteRequestData(m_connection.http(), piece.value().constData(),
                                           static_cast<std::size_t>(piece.value().size()));
             now.sent += piece.value().size();
             progress(now);
+            if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK)
+                break;
         }
-        // A server that has heard enough answers before the end, and says why.
-        const bool answers = status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK;
-        if (m_task.isCancelled() || !answers)
+        if (m_task.isCancelled() || !hasBegun || status >= HTTP_STATUS_MULTIPLE_CHOICES)
             return m_connection.lastError();
-        const Result<IppPointer, CupsError> answer = m_connection.finishDocument();
-        return answer ? std::nullopt : std::optional(answer.error());
+        // A server that has heard enough answers before the end, and says why; some close the connection
+        // then.
+        const Result<IppPointer, CupsError> answer =
+            isWhole ? m_connection.finishDocument() : m_connection.earlyAnswer();
+        if (!answer)
+            return answer.error();
+        return isWhole ? std::nullopt : std::optional(cutShort(document));
+    }
+
+    /// A server that is content with a part of a document would print that part.
+    CupsError cutShort(const JobDocument &document) const
+    {
+        return {CupsFailure::Refused, Text::tr("The print server \"%1\" did not take all of \"%2\".")
+                                          .arg(m_connection.server().displayName(), document.shownName())};
     }
 
     CupsConnection &m_connection;

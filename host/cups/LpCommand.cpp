@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LpCommand.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace host {
 
 namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::LpCommand)
+};
 
 /// Options that have a letter of their own.
 constexpr std::pair<const char *, const char *> letters[] = {
@@ -42,6 +48,21 @@ QString fileWord(const QString &path)
     return path == QStringLiteral("-") ? path : path.startsWith(u'-') ? QStringLiteral("./") + path : path;
 }
 
+/// What lp takes from the user's lpoptions by itself and the job leaves out: other names for a paper, and
+/// what is said of documents' formats.
+QStringList rememberedOtherwise(const JobTicket &ticket)
+{
+    QStringList names;
+    for (const NamedValue &option : ticket.destination.userOptions) {
+        const bool isLeftOut = option.name == "media" || option.name == "PageRegion" ||
+                               option.name == "raw" || option.name == "document-format";
+        const auto isSent = [&](const JobOption &each) { return each.name == option.name && each.isSent; };
+        if (isLeftOut && std::ranges::none_of(ticket.options, isSent))
+            names += QString::fromUtf8(option.name);
+    }
+    return names;
+}
+
 /// lp would send the image itself.
 bool isMadeOfAnother(const JobDocument &document)
 {
@@ -59,6 +80,13 @@ QString shellWord(const QString &word)
     if (!word.isEmpty() && std::all_of(word.begin(), word.end(), isPlain))
         return word;
     return u'\'' + QString(word).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+QString LpCommand::differencesInWords() const
+{
+    return differences.isEmpty() ? QString()
+                                 : Text::tr("lp cannot say these options as they are sent: %1")
+                                       .arg(differences.join(QStringLiteral(", ")));
 }
 
 LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
@@ -79,21 +107,13 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
         if (isSentAsName(option))
             command.differences += QString::fromUtf8(option.name);
     }
-    const auto loose = [](const NamedValue &each) {
-        return each.name == "media" || each.name == "PageRegion";
-    };
-    for (const NamedValue &option : ticket.destination.userOptions) {
-        const bool sent =
-            std::any_of(ticket.options.begin(), ticket.options.end(),
-                        [&](const JobOption &each) { return each.name == option.name && each.isSent; });
-        if (loose(option) && !sent)
-            command.differences += QString::fromUtf8(option.name);
-    }
+    command.differences += rememberedOtherwise(ticket);
     words += QStringLiteral("--");
     for (const JobDocument &document : ticket.documents)
         words += fileWord(document.shownName());
     if (std::ranges::any_of(ticket.documents, isMadeOfAnother))
         command.differences += QStringLiteral("document-format");
+    command.differences.removeDuplicates();
     for (QString &word : words)
         word = shellWord(word);
     command.line = words.join(u' ');

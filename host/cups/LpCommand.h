@@ -13,6 +13,9 @@ struct LpCommand {
     /// The names of options that lp would send otherwise, since its words cannot say them; mostly empty.
     /// "document-format" when a PDF is sent that was made of the named document.
     QStringList differences;
+
+    /// The differences as a sentence, without its full stop; empty without any.
+    QString differencesInWords() const;
 };
 
 LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket);

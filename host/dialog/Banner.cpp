@@ -3,6 +3,7 @@
 
 #include "ElidedButton.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollArea>
@@ -82,6 +83,19 @@ void Banner::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
     fitText();
+}
+
+void Banner::showEvent(QShowEvent *event)
+{
+    QFrame::showEvent(event);
+    fitText();
+}
+
+void Banner::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitText();
 }
 
 void Banner::fitText()

@@ -2,6 +2,7 @@
 #include "ChoiceControl.h"
 
 #include "FreeChoiceFields.h"
+#include "PlainToolTip.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -31,7 +32,8 @@ ChoiceControl::ChoiceControl(host::PpdOption option, QWidget *parent)
     column()->addWidget(m_list);
     setFocusProxy(m_list);
     connect(m_list, &QComboBox::activated, this, &ChoiceControl::choose);
-    connect(m_list, &QComboBox::currentTextChanged, m_list, &QWidget::setToolTip);
+    connect(m_list, &QComboBox::currentTextChanged, m_list,
+            [this](const QString &text) { m_list->setToolTip(plainToolTip(text)); });
 }
 
 QStringList ChoiceControl::texts() const

@@ -66,10 +66,12 @@ QString commandHelp()
     return help + u'\n' +
            Text::tr("Exit status:\n"
                     "  0  printed, or told what was asked for\n"
-                    "  1  something could not be opened, used, sent or written; nothing was printed\n"
+                    "  1  something could not be opened, used, sent or written; nothing was printed,\n"
+                    "     unless standard error says that the job was sent all the same\n"
                     "  2  the command line was not understood\n"
                     "  3  printed, but without the cut-options panel\n"
-                    "  4  cancelled in the dialog\n");
+                    "  4  cancelled in the dialog\n"
+                    "  129, 130, 143  stopped by a signal before the job was sent\n");
 }
 
 } // namespace dialog

@@ -31,6 +31,11 @@ enum class ExitStatus {
     Terminated = 143,
 };
 
+inline ExitStatus statusOfSignal(int signal)
+{
+    return static_cast<ExitStatus>(128 + signal);
+}
+
 /// What a run of the program is for.
 enum class Task {
     Print,

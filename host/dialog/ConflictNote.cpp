@@ -2,6 +2,7 @@
 #include "ConflictNote.h"
 
 #include "FittedLabel.h"
+#include "PlainToolTip.h"
 
 #include <QHBoxLayout>
 #include <QStyle>
@@ -44,7 +45,7 @@ void ConflictNote::setSentences(const QStringList &sentences)
     if (shown.size() < sentences.size())
         shown.append(QStringLiteral("\u2026"));
     m_text->setWords(shown.join(u'\n'));
-    setToolTip(sentences.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    setToolTip(plainToolTip(sentences.join(u'\n')));
     setAccessibleName(sentences.join(u' '));
     setVisible(!sentences.isEmpty());
 }

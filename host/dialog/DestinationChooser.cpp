@@ -2,6 +2,7 @@
 #include "DestinationChooser.h"
 
 #include "FittedLabel.h"
+#include "PlainToolTip.h"
 
 #include <host/cups/QueueWords.h>
 
@@ -90,7 +91,7 @@ void DestinationChooser::showDestinations()
     m_list->clear();
     for (const host::Destination &destination : m_session.destinations().destinations()) {
         m_list->addItem(listText(destination), destination.name());
-        m_list->setItemData(m_list->count() - 1, describe(destination), Qt::ToolTipRole);
+        m_list->setItemData(m_list->count() - 1, plainToolTip(describe(destination)), Qt::ToolTipRole);
     }
     showChosen();
 }
@@ -106,7 +107,7 @@ void DestinationChooser::showChosen()
     }
     m_list->setCurrentIndex(index);
     // Descriptions may be longer than the list is wide.
-    m_list->setToolTip(m_list->currentText());
+    m_list->setToolTip(plainToolTip(m_list->currentText()));
     showState();
 }
 
@@ -140,7 +141,7 @@ void DestinationChooser::showState()
 {
     const QString text = stateText();
     m_state->setWords(text);
-    m_state->setToolTip(text);
+    m_state->setToolTip(plainToolTip(text));
     m_list->setAccessibleDescription(text);
     const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();
     const host::StateSeverity severity =

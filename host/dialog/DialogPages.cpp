@@ -57,6 +57,11 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     addTab(m_pagePreview, tr("Page pre&view"));
     addTab(new LazyPage([this](QWidget *page) { return m_summaryPage = new SummaryPage(page); }, this),
            tr("&Summary"));
+    // Who has turned to another page while the printer is awaited stays there.
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        if (!m_setup)
+            m_front = Front::Other;
+    });
     if (!m_server)
         return;
     addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
@@ -86,6 +91,9 @@ DialogPages::~DialogPages()
 
 void DialogPages::takeSetup(host::PrinterSetup &setup)
 {
+    const bool isInUse = currentWidget() && currentWidget()->isAncestorOf(QApplication::focusWidget());
+    if (!m_setup && isInUse)
+        m_front = Front::Other;
     m_setup = &setup;
     const QSignalBlocker quiet(this);
     if (setup.hasPpd())
@@ -217,10 +225,6 @@ void DialogPages::announceFront()
 {
     if (m_panelPage && currentWidget() == m_panelPage)
         m_setup->announcePanel();
-    // A panel hands its settings over before the job is printed; whoever looks at what will be sent must see
-    // them already. Whether the panel lets the job pass is told when it is printed.
-    if (m_setup && m_sentPage && m_sentPage->isVisible())
-        m_setup->savePanel();
 }
 
 void DialogPages::announceClosing(QWidget *window)

@@ -48,8 +48,7 @@ public:
     void setTicket(std::function<std::optional<host::JobTicket>()> ticket) { m_ticket = std::move(ticket); }
     /// Refreshes the page in front.
     void refresh();
-    /// Tells the panel that its page comes to the front, if it does, and has it hand over its settings when
-    /// the page of what will be sent does.
+    /// Tells the panel that its page comes to the front, if it does.
     void announceFront();
     /// The dialog is about to close.
     void announceClosing(QWidget *window);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ElidedButton.h"
 
+#include "PlainToolTip.h"
+
 #include <QHelpEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -24,7 +26,7 @@ bool ElidedButton::event(QEvent *event)
     if (event->type() != QEvent::ToolTip || width() >= sizeHint().width())
         return QPushButton::event(event);
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       text().replace(QStringLiteral("&&"), QStringLiteral("&")).toHtmlEscaped(), this);
+                       plainToolTip(text().replace(QStringLiteral("&&"), QStringLiteral("&"))), this);
     return true;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FittedLabel.h"
 
+#include <QEvent>
+
 namespace dialog {
 
 FittedLabel::FittedLabel(int fewestLines, int mostLines, QWidget *parent)
@@ -32,6 +34,13 @@ void FittedLabel::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
     fit();
+}
+
+void FittedLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fit();
 }
 
 void FittedLabel::fit()

@@ -54,11 +54,6 @@ bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::funct
     return holds();
 }
 
-ExitStatus statusOf(int signal)
-{
-    return static_cast<ExitStatus>(128 + signal);
-}
-
 /// The strip for the summary; null where nobody knows of cuts.
 std::unique_ptr<host::PrintJob> makeStrip(const host::PrinterSetup &setup,
                                           const host::LabelDocument &document,
@@ -117,7 +112,7 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     return mayGoOn ? keeper.setup() : nullptr;
 }
 
-bool HeadlessRun::accepts(host::PrinterSetup &setup)
+bool HeadlessRun::isUsable(const host::PrinterSetup &setup) const
 {
     for (const host::ChoiceError &refusal : setup.refusals())
         m_console.complain(refusal.message);
@@ -128,17 +123,23 @@ bool HeadlessRun::accepts(host::PrinterSetup &setup)
         if (problem->kind == host::PanelFailure::BrokenBundle)
             return false;
     }
+    return true;
+}
+
+bool HeadlessRun::accepts(host::PrinterSetup &setup)
+{
     if (const std::optional<QString> refusal = setup.savePanel()) {
         m_console.complain(*refusal);
         return false;
     }
     tellChangesByPanel(m_console, setup, m_command.options);
-    return !tellConflicts(m_console, setup) || m_command.force;
+    // What the dialog would open with may have conflicts; it would tell them.
+    return !tellConflicts(m_console, setup) || m_command.force || m_command.task == Task::Summary;
 }
 
 bool HeadlessRun::canPrintDocument() const
 {
-    const auto pages = host::choosePages(m_command.settings, m_document->pageCounts());
+    const auto pages = host::choosePages(m_command.settings, {}, m_document->pageCounts());
     if (!pages)
         m_console.complain(pages.error().message);
     const auto error = pages ? m_document->checkForPrinting() : std::nullopt;
@@ -149,9 +150,8 @@ bool HeadlessRun::canPrintDocument() const
 
 std::optional<host::JobDraft> HeadlessRun::makeDraft(const host::PrinterSetup &setup) const
 {
-    const host::JobSettings settings =
-        withDefaults(m_command.settings, defaultPageSettings(setup.destination()));
-    auto pages = host::choosePages(settings, m_document->pageCounts());
+    auto pages = host::choosePages(m_command.settings, defaultPageSettings(setup.destination()),
+                                   m_document->pageCounts());
     if (!pages) {
         m_console.complain(pages.error().message);
         return std::nullopt;
@@ -186,7 +186,8 @@ ExitStatus HeadlessRun::run()
     QObject::disconnect(&session, nullptr, &keeper, nullptr);
     if (const std::optional<int> signal = m_signals.signal())
         return endedBy(*signal);
-    if (!setup || !accepts(*setup) || !takeScreenshot(keeper))
+    // A picture is taken first: nothing that shows itself for it may change the job.
+    if (!setup || !isUsable(*setup) || !takeScreenshot(keeper) || !accepts(*setup))
         return ExitStatus::Failed;
     const std::optional<host::JobDraft> draft = makeDraft(*setup);
     const ExitStatus status = draft ? finish(*setup, *draft) : ExitStatus::Failed;
@@ -217,7 +218,7 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::JobD
 ExitStatus HeadlessRun::endedBy(int signal) const
 {
     m_console.complain(Text::tr("Stopped by a signal; nothing was printed."));
-    return statusOf(signal);
+    return statusOfSignal(signal);
 }
 
 ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDraft &draft)
@@ -241,7 +242,7 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
         return endedBy(*signal);
     if (problem) {
         m_console.complain(*problem);
-        return signal ? statusOf(*signal) : ExitStatus::Failed;
+        return signal ? statusOfSignal(*signal) : ExitStatus::Failed;
     }
     if (!m_command.quiet)
         m_console.tellRequestId(sender.queue(), sender.jobId(),

@@ -24,6 +24,7 @@ private:
     /// Waits for the server; null, with the reason told, when there is nothing to print on.
     host::PrinterSetup *waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper);
     /// Whether the printer can do what is asked for; tells what it cannot.
+    bool isUsable(const host::PrinterSetup &setup) const;
     bool accepts(host::PrinterSetup &setup);
     bool canPrintDocument() const;
     std::optional<host::JobDraft> makeDraft(const host::PrinterSetup &setup) const;

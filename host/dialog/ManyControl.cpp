@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ManyControl.h"
 
+#include "PlainToolTip.h"
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QVBoxLayout>
@@ -27,7 +29,7 @@ ManyControl::ManyControl(const host::PpdOption &option, QWidget *parent)
     for (const host::PpdChoice &choice : option.choices) {
         if (m_none.isEmpty() && meansNone(choice.name)) {
             m_none = choice.name;
-            m_frame->setToolTip(choice.text);
+            m_frame->setToolTip(plainToolTip(choice.text));
             continue;
         }
         auto *const box = new QCheckBox(QString(choice.text).replace(u'&', QStringLiteral("&&")), m_frame);

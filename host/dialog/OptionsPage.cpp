@@ -2,6 +2,7 @@
 #include "OptionsPage.h"
 
 #include "OptionGroupPage.h"
+#include "PlainToolTip.h"
 
 #include <host/PpdOptions.h>
 
@@ -69,7 +70,7 @@ void OptionsPage::addGroup(const QString &text, const std::vector<QByteArray> &k
     m_stack->addWidget(page);
     m_pages.push_back(page);
     auto *const item = new QListWidgetItem(text, m_groups);
-    item->setToolTip(text);
+    item->setToolTip(plainToolTip(text));
 }
 
 void OptionsPage::layOut()
@@ -128,7 +129,7 @@ void OptionsPage::setConflicts(const std::vector<host::Conflict> &conflicts)
         const QStringList sentences = m_pages[i]->conflictSentences();
         QListWidgetItem *const item = m_groups->item(static_cast<int>(i));
         item->setIcon(sentences.isEmpty() ? QIcon() : style()->standardIcon(QStyle::SP_MessageBoxWarning));
-        item->setToolTip(sentences.isEmpty() ? item->text() : sentences.join(u'\n'));
+        item->setToolTip(plainToolTip(sentences.isEmpty() ? item->text() : sentences.join(u'\n')));
         item->setData(Qt::AccessibleDescriptionRole, sentences.join(u' '));
     }
 }

@@ -78,7 +78,7 @@ void PageOptions::show()
 
 host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
 {
-    return host::choosePages(withDefaults(m_wishes, m_defaults), m_pageCounts);
+    return host::choosePages(m_wishes, m_defaults, m_pageCounts);
 }
 
 void PageOptions::setSettings(const host::JobSettings &settings)

@@ -8,9 +8,11 @@
 #include "LengthUnit.h"
 #include "LinkButton.h"
 #include "PaperList.h"
+#include "PlainToolTip.h"
 
 #include <host/PpdNumber.h>
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
@@ -64,8 +66,21 @@ void PaperChooser::build()
     layout->addWidget(m_note);
     layout->addWidget(m_documentButton, 0, Qt::AlignLeading);
     connect(m_search, &QLineEdit::textChanged, m_list, &PaperList::filter);
+    m_search->installEventFilter(this);
     connect(m_list, &PaperList::entryChosen, this, &PaperChooser::chooseEntry);
     connect(m_documentButton, &QPushButton::clicked, this, &PaperChooser::chooseDocumentSize);
+}
+
+bool PaperChooser::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto isKey = [&](int key) {
+        return event->type() == QEvent::KeyPress && static_cast<const QKeyEvent *>(event)->key() == key;
+    };
+    if (watched != m_search || (!isKey(Qt::Key_Return) && !isKey(Qt::Key_Enter)))
+        return QWidget::eventFilter(watched, event);
+    // Who searches wants what is found; the window's own button would print.
+    m_list->chooseFirst();
+    return true;
 }
 
 void PaperChooser::setPpd(const host::PpdFile &ppd, const host::PpdPaper &chosen)
@@ -86,9 +101,13 @@ void PaperChooser::setPpd(const host::PpdFile &ppd, const host::PpdPaper &chosen
 
 void PaperChooser::buildCustom()
 {
+    const std::optional<host::PpdCustomLimits> limits = m_ppd->customLimits();
+    // The same fields, so that whoever types in them goes on when a PPD is replaced.
+    if (m_fields && limits == m_limits)
+        return;
     delete m_fields;
     m_fields = nullptr;
-    m_limits = m_ppd->customLimits();
+    m_limits = limits;
     // Some PPDs give limits, and no way to ask for a size.
     if (!m_limits || !customPaper(host::customPaperName(m_limits->smallest)))
         return;
@@ -199,7 +218,7 @@ void PaperChooser::updateDocumentButton()
     if (!paper)
         return;
     m_documentButton->setText(tr("Use the document's size: %1").arg(exactSize(m_documentPage)));
-    m_documentButton->setToolTip(isCustom(*paper) ? tr("A custom size") : paper->text);
+    m_documentButton->setToolTip(isCustom(*paper) ? tr("A custom size") : plainToolTip(paper->text));
 }
 
 } // namespace dialog

@@ -41,6 +41,9 @@ Q_SIGNALS:
     /// The user chose another paper.
     void paperChosen();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void build();
     void buildCustom();

@@ -3,6 +3,7 @@
 
 #include "LengthUnit.h"
 #include "PaperGroups.h"
+#include "PlainToolTip.h"
 
 #include <QEvent>
 #include <QHash>
@@ -107,7 +108,7 @@ void PaperList::addPaper(const host::PpdPaper &paper, const QString &text, int e
     auto *const item = new QListWidgetItem(text, this);
     item->setData(EntryRole, entry);
     item->setData(SearchRole, QStringList{paper.text, QString::fromUtf8(paper.name), heading}.join(u' '));
-    item->setToolTip(toolTipText(paper));
+    item->setToolTip(plainToolTip(toolTipText(paper)));
 }
 
 void PaperList::dressHeadings()
@@ -139,6 +140,18 @@ void PaperList::showEntry(int entry)
     for (int row = 0; row < count(); ++row) {
         if (!isHeading(*item(row)) && item(row)->data(EntryRole).toInt() == entry)
             setCurrentRow(row);
+    }
+}
+
+void PaperList::chooseFirst()
+{
+    for (int row = 0; row < count(); ++row) {
+        QListWidgetItem *const each = item(row);
+        const bool isPaper = !isHeading(*each) && each->data(EntryRole).toInt() != customEntry;
+        if (isPaper && !each->isHidden()) {
+            setCurrentItem(each);
+            return;
+        }
     }
 }
 

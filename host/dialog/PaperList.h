@@ -24,6 +24,8 @@ public:
     void showEntry(int entry);
     /// Shows only papers in whose texts every word of the search stands, and the entry for custom sizes.
     void filter(const QString &search);
+    /// Chooses the first paper of those that are shown; nothing when there is none.
+    void chooseFirst();
 
 Q_SIGNALS:
     /// The user chose the paper at that position, or customEntry.

@@ -68,10 +68,10 @@ void PrintDialog::build(const DialogWishes &wishes)
     // With lines in reserve, the window does not grow at every click.
     m_figures = new FittedLabel(3, 20, this);
     m_sendBar = new SendBar(this);
-    auto *const buttons = new QDialogButtonBox(this);
-    m_printButton = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
+    m_buttons = new QDialogButtonBox(this);
+    m_printButton = m_buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
     m_printButton->setDefault(true);
-    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    m_buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
 
     auto *const upper = new QHBoxLayout;
     upper->addWidget(buildChoices(wishes));
@@ -87,9 +87,9 @@ void PrintDialog::build(const DialogWishes &wishes)
     layout->addWidget(m_conflictBanner);
     layout->addWidget(m_problemBanner);
     layout->addWidget(m_sendBar);
-    layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(m_buttons);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 QWidget *PrintDialog::buildChoices(const DialogWishes &wishes)
@@ -129,9 +129,15 @@ void PrintDialog::connectAll()
     connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
     m_pages->setSummary([this] { return summary(); });
     m_pages->setTicket([this]() -> std::optional<host::JobTicket> {
-        if (!m_keeper.setup())
+        host::PrinterSetup *const setup = m_keeper.setup();
+        if (!setup)
             return std::nullopt;
-        return host::ticketFor(*m_keeper.setup(), *m_document, m_draft);
+        // A panel hands its settings over before the job is printed; whoever looks at what will be sent must
+        // see them already. Whether the panel lets the job pass is told when it is printed.
+        setup->savePanel();
+        const host::JobTicket ticket = host::ticketFor(*setup, *m_document, m_draft);
+        setup->undoSave();
+        return ticket;
     });
     connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
@@ -144,18 +150,18 @@ void PrintDialog::connectAll()
     }
     connect(m_sendBar, &SendBar::cancelled, &m_sender, &JobSender::cancel);
     connect(m_sendBar, &SendBar::cancelled, this, [this] {
-        if (std::exchange(m_printsWhenChecked, false))
-            m_sendBar->end();
+        if (!m_isSending)
+            stayOpen();
     });
     connect(&m_sender, &JobSender::progressed, m_sendBar, &SendBar::setProgress);
     connect(&m_sender, &JobSender::sent, this, [this] {
-        finishSending();
+        m_isSending = false;
         QDialog::accept();
     });
     connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
         // Something to say keeps the window open: a job that could not be taken back, for instance.
         const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
-        finishSending();
+        stayOpen();
         m_problemBanner->setSendingProblem(problem);
         if (closes)
             QDialog::reject();
@@ -324,7 +330,7 @@ std::optional<QString> PrintDialog::prepare()
         return waitingWords(m_keeper.session());
     if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
         return error->message;
-    if (const std::optional<QString> refusal = setup->savePanel())
+    if (std::optional<QString> refusal = setup->savePanel())
         return refusal;
     // Saving may have changed what is recorded.
     refresh();
@@ -332,13 +338,22 @@ std::optional<QString> PrintDialog::prepare()
     return choices ? std::nullopt : std::optional(choices.error().message);
 }
 
-void PrintDialog::print()
+bool PrintDialog::isPrepared()
 {
     m_problemBanner->setSendingProblem(prepare().value_or(QString()));
-    if (!problem().isEmpty()) {
-        m_sendBar->end();
-        return;
-    }
+    if (!problem().isEmpty())
+        stayOpen();
+    return problem().isEmpty();
+}
+
+void PrintDialog::print()
+{
+    if (isPrepared())
+        send();
+}
+
+void PrintDialog::send()
+{
     m_isSending = true;
     m_content->setEnabled(false);
     m_printButton->setEnabled(false);
@@ -346,29 +361,41 @@ void PrintDialog::print()
     m_sender.send({*m_keeper.setup(), *m_document, m_draft, m_strip.get()});
 }
 
-void PrintDialog::finishSending()
+void PrintDialog::stayOpen()
 {
     m_isSending = false;
+    m_printsWhenChecked = false;
     m_content->setEnabled(true);
+    m_buttons->setEnabled(true);
     m_sendBar->end();
-    m_printButton->setEnabled(m_keeper.setup() != nullptr);
+    if (m_keeper.setup())
+        m_keeper.setup()->undoSave();
+    refresh();
 }
 
 void PrintDialog::accept()
 {
-    if (m_isSending || !m_printButton->isEnabled())
+    if (m_isSending)
         return;
+    if (!m_printButton->isEnabled()) {
+        // Since Print was pressed, while a long document was checked.
+        m_sendBar->end();
+        return;
+    }
     if (isVisible() && !m_document->checkAhead(QDeadlineTimer(checkSlice))) {
         // It has thousands of pages; checkAhead() goes on, and the window stays alive meanwhile.
         m_printsWhenChecked = true;
         m_sendBar->begin(m_draft.title);
         return;
     }
+    if (!isPrepared())
+        return;
+    // Of what will be sent: a panel may end a conflict when it hands over its settings, or make one.
     const QString conflicts = m_conflictBanner->message();
     if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
-        print();
+        send();
     else
-        m_sendBar->end();
+        stayOpen();
 }
 
 void PrintDialog::reject()
@@ -380,6 +407,8 @@ void PrintDialog::reject()
     }
     // The job is taken back first, so that nothing half-sent stays behind.
     m_closesAfterSending = true;
+    m_sendBar->showStopping();
+    m_buttons->setEnabled(false);
     m_sender.cancel();
 }
 

@@ -8,6 +8,7 @@
 
 #include <QDialog>
 
+class QDialogButtonBox;
 class QPushButton;
 class QVBoxLayout;
 
@@ -86,7 +87,11 @@ private:
     void refreshConflicts();
     void pageShown();
     void checkAhead();
-    void finishSending();
+    /// Readies the job; when it cannot be, says why and leaves the dialog as it was.
+    bool isPrepared();
+    void send();
+    /// Nothing is printed; everything is as it was before Print was pressed.
+    void stayOpen();
 
     std::shared_ptr<const host::LabelDocument> m_document;
     host::SetupKeeper &m_keeper;
@@ -110,6 +115,7 @@ private:
     StripPreview *m_stripPreview = nullptr;
     FittedLabel *m_figures = nullptr;
     SendBar *m_sendBar = nullptr;
+    QDialogButtonBox *m_buttons = nullptr;
     QPushButton *m_printButton = nullptr;
 };
 

@@ -9,6 +9,7 @@
 #include "Screenshot.h"
 #include "ServerRun.h"
 #include "SetupComplaints.h"
+#include "SignalWatch.h"
 #include "TerminalPassword.h"
 #include "VirtualSender.h"
 
@@ -170,6 +171,13 @@ ExitStatus PrintRun::runOnQueue()
         return HeadlessRun(m_command, m_console, server, std::move(document)).run();
     }
 
+    // The dialog is closed as by hand, so that a job on its way is taken back.
+    SignalWatch watch;
+    QObject::connect(&watch, &SignalWatch::caught, qApp, &QApplication::closeAllWindows);
+    const auto cancelled = [&] {
+        const std::optional<int> signal = watch.signal();
+        return signal ? statusOfSignal(*signal) : ExitStatus::Cancelled;
+    };
     PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
     host::QueueSession session(server, m_command.destination);
@@ -182,11 +190,11 @@ ExitStatus PrintRun::runOnQueue()
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
     if (!dialog.isVisible())
-        return dialog.result() == QDialog::Accepted ? follow(dialog, sender, server) : ExitStatus::Cancelled;
+        return dialog.result() == QDialog::Accepted ? follow(dialog, sender, server) : cancelled();
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (dialog.exec() != QDialog::Accepted)
-        return ExitStatus::Cancelled;
+        return cancelled();
     return follow(dialog, sender, server);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SendBar.h"
 
+#include "PlainToolTip.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -22,7 +24,7 @@ SendBar::SendBar(QWidget *parent)
     layout->addWidget(m_cancel);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
         // Shows that it was heard: taking a job back from a slow server takes a while.
-        m_cancel->setEnabled(false);
+        showStopping();
         Q_EMIT cancelled();
     });
     hide();
@@ -34,7 +36,7 @@ void SendBar::begin(const QString &title)
     const QString text = tr("Sending \"%1\"").arg(title);
     const int widest = 40 * fontMetrics().averageCharWidth();
     m_title->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, widest));
-    m_title->setToolTip(text);
+    m_title->setToolTip(plainToolTip(text));
     m_bar->setAccessibleName(text);
     m_cancel->setEnabled(true);
     setProgress(-1);
@@ -46,6 +48,11 @@ void SendBar::setProgress(int percent)
     // A range of nothing is how progress bars show that they do not know.
     m_bar->setRange(0, percent < 0 ? 0 : 100);
     m_bar->setValue(qMax(percent, 0));
+}
+
+void SendBar::showStopping()
+{
+    m_cancel->setEnabled(false);
 }
 
 void SendBar::end()

@@ -19,6 +19,8 @@ public:
     void begin(const QString &title);
     /// 0 to 100; -1 when nobody can tell.
     void setProgress(int percent);
+    /// Shows that somebody wants the sending to stop, which takes a while on a slow line.
+    void showStopping();
     void end();
 
 Q_SIGNALS:

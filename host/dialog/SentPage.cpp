@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SentPage.h"
 
+#include "PlainToolTip.h"
+
 #include <host/cups/LpCommand.h>
 
 #include <QClipboard>
@@ -57,7 +59,7 @@ void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &
         auto *const item =
             new QTreeWidgetItem({QString::fromUtf8(option.name), QString::fromUtf8(option.value),
                                  host::originText(option.origin), option.isSent ? tr("yes") : tr("no")});
-        item->setToolTip(1, item->text(1));
+        item->setToolTip(1, plainToolTip(item->text(1)));
         // What the server does by itself steps back.
         for (int column = 0; !option.isSent && column < item->columnCount(); ++column)
             item->setForeground(column, palette().brush(QPalette::Disabled, QPalette::Text));
@@ -70,8 +72,7 @@ void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &
     m_line->setText(command.line);
     m_line->setCursorPosition(0);
     m_differences->setVisible(!command.differences.isEmpty());
-    m_differences->setText(tr("lp cannot say these options as they are sent: %1")
-                               .arg(command.differences.join(QStringLiteral(", "))));
+    m_differences->setText(command.differencesInWords());
 }
 
 } // namespace dialog

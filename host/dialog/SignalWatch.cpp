@@ -13,10 +13,12 @@ namespace {
 
 /// Handlers can reach nothing else; -1 while nobody watches.
 volatile std::sig_atomic_t writeEnd = -1;
+volatile std::sig_atomic_t isCaught = 0;
 
 void passOn(int signal)
 {
     const int before = errno;
+    isCaught = 1;
     const auto byte = static_cast<unsigned char>(signal);
     [[maybe_unused]] const ssize_t written = ::write(writeEnd, &byte, 1);
     errno = before;
@@ -31,6 +33,7 @@ SignalWatch::SignalWatch()
         return;
     m_readEnd = ends[0];
     writeEnd = ends[1];
+    isCaught = 0;
     m_notifier = new QSocketNotifier(m_readEnd, QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, [this] {
         m_notifier->setEnabled(false);
@@ -59,6 +62,11 @@ SignalWatch::~SignalWatch()
     ::close(unused);
     delete m_notifier;
     ::close(m_readEnd);
+}
+
+bool SignalWatch::hasCaught()
+{
+    return isCaught != 0;
 }
 
 std::optional<int> SignalWatch::signal()

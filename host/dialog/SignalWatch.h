@@ -24,6 +24,10 @@ public:
     /// The first signal that came; nothing before. Needs no event loop.
     std::optional<int> signal();
 
+    /// Whether the watch of this program, if there is one, has caught a signal. For who waits for something
+    /// else on the main thread; takes nothing away from signal().
+    static bool hasCaught();
+
 Q_SIGNALS:
     /// The first signal has come.
     void caught();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SummaryPage.h"
 
+#include "PlainToolTip.h"
+
 #include <QHeaderView>
 
 namespace dialog {
@@ -29,7 +31,7 @@ void SummaryPage::setSections(const std::vector<SummarySection> &sections)
         head->setFirstColumnSpanned(true);
         for (const auto &[title, value] : section.lines) {
             auto *const line = new QTreeWidgetItem(head, {title, value});
-            line->setToolTip(1, value);
+            line->setToolTip(1, plainToolTip(value));
         }
     }
     expandAll();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SwitchControl.h"
 
+#include "PlainToolTip.h"
+
 #include <QCheckBox>
 #include <QVBoxLayout>
 
@@ -66,7 +68,7 @@ void SwitchControl::showMarked(const host::PpdOptions &options)
 void SwitchControl::showMeaning()
 {
     // A PPD may mean something else by "True" than a tick says.
-    m_box->setToolTip(m_box->isChecked() ? m_on.text : m_off.text);
+    m_box->setToolTip(plainToolTip(m_box->isChecked() ? m_on.text : m_off.text));
 }
 
 QList<QWidget *> SwitchControl::spoken() const

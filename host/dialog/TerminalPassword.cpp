@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TerminalPassword.h"
 
+#include "SignalWatch.h"
+
 #include <cerrno>
 #include <fcntl.h>
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -87,10 +90,16 @@ std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt) c
     say(prompt);
     QByteArray line;
     while (typing.works()) {
+        // The program's end is asked for by signals too, which may come at any moment.
+        constexpr int lookInterval = 100; // milliseconds
+        pollfd keys{.fd = m_terminal, .events = POLLIN, .revents = 0};
+        const int ready = ::poll(&keys, 1, lookInterval);
+        if (SignalWatch::hasCaught())
+            return std::nullopt;
+        if (ready == 0 || (ready < 0 && errno == EINTR))
+            continue;
         char typed = 0;
         const ssize_t length = ::read(m_terminal, &typed, 1);
-        if (length < 0 && errno == EINTR)
-            continue;
         if (length <= 0 || typing.isKey(typed, VINTR) || typing.isKey(typed, VEOF))
             return std::nullopt;
         if (typed == '\n' || typed == '\r')

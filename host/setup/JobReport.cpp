@@ -71,7 +71,9 @@ QString ticketInPlainText(const CupsServer &server, const JobTicket &ticket,
     }
     for (const Conflict &conflict : conflicts)
         text += conflict.sentence() + u'\n';
-    return text + lpCommand(server, ticket).line + u'\n';
+    const LpCommand lp = lpCommand(server, ticket);
+    text += lp.line + u'\n';
+    return lp.differences.isEmpty() ? text : text + lp.differencesInWords() + u'\n';
 }
 
 QJsonObject ticketJson(const CupsServer &server, const JobTicket &ticket,
@@ -80,13 +82,15 @@ QJsonObject ticketJson(const CupsServer &server, const JobTicket &ticket,
     QJsonArray sentences;
     for (const Conflict &conflict : conflicts)
         sentences.append(conflict.sentence());
+    const LpCommand lp = lpCommand(server, ticket);
     return {{QStringLiteral("server"), server.displayName()},
             {QStringLiteral("destination"), ticket.destination.name()},
             {QStringLiteral("title"), ticket.title},
             {QStringLiteral("documents"), documentsJson(ticket)},
             {QStringLiteral("options"), optionsJson(ticket)},
             {QStringLiteral("conflicts"), sentences},
-            {QStringLiteral("lp"), lpCommand(server, ticket).line}};
+            {QStringLiteral("lp"), lp.line},
+            {QStringLiteral("lpDifferences"), QJsonArray::fromStringList(lp.differences)}};
 }
 
 } // namespace host

@@ -31,6 +31,10 @@ SummarySection printingSection(const PrinterSetup &setup, const LabelDocument &d
     const JobSettings settings = withDefaults(draft.settings, defaultPageSettings(setup.destination()));
     const QString ranges = settings.pageRanges.value_or(QString()).simplified();
     section.lines.emplace_back(Text::tr("Pages"), ranges.isEmpty() ? Text::tr("all") : ranges);
+    if (settings.pageSet.value_or(PageSet::All) != PageSet::All)
+        section.lines.emplace_back(Text::tr("Of these"), settings.pageSet == PageSet::Odd
+                                                             ? Text::tr("the odd pages")
+                                                             : Text::tr("the even pages"));
     section.lines.emplace_back(Text::tr("Copies"), QLocale().toString(draft.pages.copies));
     if (draft.pages.order == PageOrder::LastFirst)
         section.lines.emplace_back(Text::tr("Order"), Text::tr("last page first"));

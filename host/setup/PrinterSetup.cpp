@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -103,12 +104,15 @@ std::optional<PpdPaper> PrinterSetup::defaultPaper() const
     const QByteArray *const users = findValue(m_destination.userOptions, paperKeyword);
     if (std::optional<PpdPaper> paper = users ? m_state->ppd().paper(*users) : std::nullopt)
         return paper;
-    const bool isNamedOtherwise = findValue(m_destination.userOptions, "media") != nullptr;
+    const bool isNamedOtherwise = findValue(m_destination.userOptions, "media") != nullptr ||
+                                  findValue(m_destination.userOptions, "PageRegion") != nullptr;
     const std::optional<QByteArray> queues = queuePaper(m_destination, m_state->ppd());
     if (queues && !isNamedOtherwise)
         return m_state->ppd().paper(*queues);
     if (std::optional<PpdPaper> marked = m_state->ppd().markedPaper())
         return marked;
+    if (std::optional<PpdPaper> own = ppd().paper(PpdOptions(ppd()).defaultChoice(paperKeyword)))
+        return own;
     const std::vector<PpdPaper> papers = m_state->ppd().papers();
     return papers.empty() ? std::nullopt : std::optional(papers.front());
 }
@@ -304,6 +308,8 @@ std::optional<QString> PrinterSetup::savePanel()
     PDEPanel *const shown = panel();
     if (!shown)
         return std::nullopt;
+    m_beforeSaves.push_back({claimedChoices(), m_choices, m_lastChosen});
+    const QScopedValueRollback saving(m_isSaving, true);
     QString error;
     if (!shown->saveValuesAndReturnError(&error))
         return Text::tr("\"%1\" cannot save its settings: %2").arg(shown->panelName(), error);
@@ -313,10 +319,30 @@ std::optional<QString> PrinterSetup::savePanel()
     return std::nullopt;
 }
 
+void PrinterSetup::undoSave()
+{
+    if (m_beforeSaves.empty())
+        return;
+    // Quietly: the panel shows what it showed all the time.
+    for (const auto &[keyword, choice] : m_beforeSaves.back().marked)
+        ppd().mark(keyword, choice);
+    m_choices = std::move(m_beforeSaves.back().choices);
+    m_lastChosen = m_beforeSaves.back().lastChosen;
+    m_beforeSaves.pop_back();
+}
+
 void PrinterSetup::setDidChangeHook(std::function<void()> hook)
 {
-    if (PanelHost *const host = panelHost())
-        host->setDidChangeHook(std::move(hook));
+    PanelHost *const host = panelHost();
+    if (!host)
+        return;
+    if (hook)
+        host->setDidChangeHook([this, changed = std::move(hook)] {
+            if (!m_isSaving)
+                changed();
+        });
+    else
+        host->setDidChangeHook({});
 }
 
 } // namespace host

@@ -85,7 +85,10 @@ public:
     void announcePanel();
     /// Has the panel hand over its settings and asks whether they may be printed. Nothing, or why not.
     std::optional<QString> savePanel();
-    /// Called after every change that a panel has made.
+    /// Marks and records all as it was before the last savePanel() that was not undone: for who only wanted
+    /// to know what would be printed, and when it was not printed after all.
+    void undoSave();
+    /// Called after every change that a panel has made by itself; not while it hands over its settings.
     void setDidChangeHook(std::function<void()> hook);
 
 private:
@@ -100,6 +103,13 @@ private:
     std::vector<std::pair<QString, QString>> claimedChoices() const;
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
+    /// What savePanel() changes.
+    struct Saved {
+        std::vector<std::pair<QString, QString>> marked;
+        std::vector<JobChoice> choices;
+        QString lastChosen;
+    };
+
     Destination m_destination;
     std::shared_ptr<DialogState> m_state;
     std::optional<Constraints> m_constraints;
@@ -112,6 +122,9 @@ private:
     std::vector<JobChoice> m_refusedWishes;
     /// The option that was chosen last, which a remedy leaves as it is if it can.
     QString m_lastChosen;
+    /// As it was before each savePanel() that may still be undone.
+    std::vector<Saved> m_beforeSaves;
+    bool m_isSaving = false;
 };
 
 } // namespace host

@@ -39,7 +39,8 @@ bool SetupKeeper::userHasSet() const
     const auto isSame = [](const JobChoice &one, const JobChoice &other) {
         return one.name == other.name && one.value == other.value;
     };
-    return m_setup && !std::ranges::equal(m_setup->choices(), m_firstChoices, isSame);
+    // A replaced PPD may bring them in another order.
+    return m_setup && !std::ranges::is_permutation(m_setup->choices(), m_firstChoices, isSame);
 }
 
 void SetupKeeper::release()
@@ -95,6 +96,7 @@ void SetupKeeper::end()
 {
     if (!m_setup)
         return;
+    m_hadUsersChoices = userHasSet();
     Q_EMIT setupAboutToEnd();
     m_choicesOfQueues[m_setup->destination().name()] = m_setup->choicesAndRefusedWishes();
     m_setup.reset();
@@ -112,7 +114,7 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
     Q_EMIT setupChanged();
     // Taken when the panels have been shown: they record what they find.
-    if (isAnother)
+    if (isAnother || !m_hadUsersChoices)
         m_firstChoices = m_setup->choices();
 }
 

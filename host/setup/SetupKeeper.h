@@ -55,6 +55,8 @@ private:
     std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
     /// As they were when the setup was new.
     std::vector<JobChoice> m_firstChoices;
+    /// The setup before was not as it had been when it was new.
+    bool m_hadUsersChoices = false;
     bool m_isHeld = false;
     bool m_queueIsLate = false;
     bool m_ppdIsLate = false;

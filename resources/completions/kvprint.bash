@@ -67,7 +67,7 @@ _kvprint() {
         compopt -o nospace 2>/dev/null
         ;;
     -H)
-        COMPREPLY=($(compgen -W 'hold immediate indefinite resume restart day-time evening night second-shift
+        COMPREPLY=($(compgen -W 'hold immediate indefinite resume release restart day-time evening night second-shift
             third-shift weekend' -- "$current"))
         ;;
     -U) COMPREPLY=($(compgen -u -- "$current")) ;;

@@ -73,8 +73,14 @@ void FaultyServer::serve(QTcpSocket *client)
         // The encouragement to go on with a request is no answer yet.
         const bool isEncouragement = real->bytesAvailable() == encouragement.size();
         const bool isFirst = client->property("asked").toBool() && !isEncouragement;
-        if (isFirst)
+        if (isFirst) {
             client->setProperty("asked", false);
+            client->setProperty("answers", client->property("answers").toInt() + 1);
+        }
+        if (isFirst && client->property("answers").toInt() == m_faults.breakAtAnswer) {
+            client->abort();
+            return;
+        }
         client->setProperty("holding", isFirst);
         if (isFirst)
             QTimer::singleShot(m_faults.delay, client, [this, client, real] { passInPieces(client, real); });
@@ -131,6 +137,12 @@ void FaultyServer::take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket 
     client->setProperty("taken", taken);
     if (m_faults.breakAfter > 0 && taken > m_faults.breakAfter) {
         client->abort();
+        return;
+    }
+    if (m_faults.answersAfter > 0 && taken > m_faults.answersAfter) {
+        if (!client->property("hasAnswered").toBool())
+            client->write(m_faults.earlyAnswer);
+        client->setProperty("hasAnswered", true);
         return;
     }
     real->write(bytes);

@@ -29,6 +29,12 @@ struct Faults {
     int bytesPerSecond = 0;
     /// Takes nothing more from a connection when so many bytes of it have come slowly; 0 never.
     qint64 stallAfter = 0;
+    /// Says the early answer, and takes nothing more, when so many bytes of a connection have come from the
+    /// client; 0 never.
+    qint64 answersAfter = 0;
+    QByteArray earlyAnswer = {};
+    /// Breaks every connection instead of giving this answer on it, counted from 1; 0 never.
+    int breakAtAnswer = 0;
     /// Wants "user:password" before anything else; empty wants none.
     QByteArray credentials = {};
 };

@@ -115,6 +115,12 @@ TEST(JobOptions, NothingNamesAnotherPaperBesideTheExactOne)
               list({"PageRegion=36mm user*", "media=A4 user*"}));
 }
 
+TEST(JobOptions, AnEmptyChoiceIsSentToo)
+{
+    EXPECT_EQ(described(makeJobOptions(Destination(), nullptr, {{"job-note", ""}}, {})),
+              list({"job-note= you*"}));
+}
+
 // As "lpadmin -o media-default=36mm" sets it: lp prints on that paper.
 TEST(JobOptions, TheQueuesOwnPaperStandsOverThePpds)
 {
@@ -273,6 +279,17 @@ TEST(LpCommand, TellsThatLpWouldSendAnImageItself)
     ticket.documents.push_back(
         {QStringLiteral("/tmp/made.pdf"), "application/pdf", QStringLiteral("/tmp/a.svg")});
     EXPECT_EQ(lpCommand({}, ticket).differences, list({"document-format"}));
+}
+
+TEST(LpCommand, TellsWhatLpTakesFromLpoptionsByItself)
+{
+    host::JobTicket ticket;
+    ticket.destination.userOptions = {{"raw", "true"}, {"media", "A4"}, {"KvMirror", "ON"}};
+    const host::LpCommand command = lpCommand({}, ticket);
+    EXPECT_EQ(command.differences, list({"raw", "media"}));
+    EXPECT_TRUE(command.differencesInWords().endsWith(QStringLiteral("raw, media")));
+    ticket.options = {{"media", "A4", Origin::UserDefault, true}};
+    EXPECT_EQ(lpCommand({}, ticket).differences, list({"raw"}));
 }
 
 TEST(LpCommand, TellsWhatLpCannotSay)

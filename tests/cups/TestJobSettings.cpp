@@ -65,7 +65,7 @@ TEST(JobSettings, WishesStandOverDefaults)
 
 TEST(JobSettings, ChooseThePagesThatComeOut)
 {
-    const auto none = host::choosePages({}, {2, 3});
+    const auto none = host::choosePages({}, {}, {2, 3});
     ASSERT_TRUE(none);
     EXPECT_EQ(none.value().pages, (std::vector<int>{0, 1, 2, 3, 4}));
     EXPECT_EQ(none.value().copies, 1);
@@ -73,21 +73,37 @@ TEST(JobSettings, ChooseThePagesThatComeOut)
     EXPECT_EQ(none.value().order, PageOrder::FirstFirst);
 
     // Of every document by itself.
-    const auto odd = host::choosePages({.copies = 2, .pageSet = PageSet::Odd}, {2, 3});
+    const auto odd = host::choosePages({.copies = 2, .pageSet = PageSet::Odd}, {}, {2, 3});
     EXPECT_EQ(odd.value().pages, (std::vector<int>{0, 2, 4}));
     EXPECT_EQ(odd.value().copies, 2);
     const auto even =
-        host::choosePages({.pageRanges = QStringLiteral("2-"), .pageSet = PageSet::Even}, {2, 3});
+        host::choosePages({.pageRanges = QStringLiteral("2-"), .pageSet = PageSet::Even}, {}, {2, 3});
     EXPECT_EQ(even.value().pages, (std::vector<int>{1, 3}));
-    EXPECT_EQ(host::choosePages({.copies = 0}, {1}).value().copies, 1);
-    EXPECT_EQ(host::choosePages({.copies = 100'000}, {1}).value().copies, host::mostCopies);
+    EXPECT_EQ(host::choosePages({.copies = 0}, {}, {1}).value().copies, 1);
+    EXPECT_EQ(host::choosePages({.copies = 100'000}, {}, {1}).value().copies, host::mostCopies);
 }
 
 TEST(JobSettings, RefuseMoreLabelsThanAnybodyPrints)
 {
-    EXPECT_TRUE(host::choosePages({.copies = 10}, {host::mostLabels / 10}));
-    const auto tooMany = host::choosePages({.copies = 11}, {host::mostLabels / 10});
+    EXPECT_TRUE(host::choosePages({.copies = 10}, {}, {host::mostLabels / 10}));
+    const auto tooMany = host::choosePages({.copies = 11}, {}, {host::mostLabels / 10});
     ASSERT_FALSE(tooMany);
     EXPECT_EQ(tooMany.error().kind, PageRangeFailure::TooMany);
-    EXPECT_FALSE(host::choosePages({.pageRanges = QStringLiteral("9")}, {3}));
+}
+
+TEST(JobSettings, PagesThatThereAreNotAreAnErrorWhenSomebodyWishesForThem)
+{
+    const auto pages = [](const char *wished, const char *byDefault, host::PageSet set = PageSet::All) {
+        JobSettings wishes{.pageSet = set};
+        if (wished)
+            wishes.pageRanges = QLatin1String(wished);
+        return host::choosePages(wishes, {.pageRanges = QLatin1String(byDefault)}, {6});
+    };
+    EXPECT_EQ(pages(nullptr, "2-10").value().pages, (std::vector<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(pages(nullptr, "5-2147483647").value().pages, (std::vector<int>{4, 5}));
+    EXPECT_EQ(pages(nullptr, "8,6").value().pages, std::vector<int>{5});
+    EXPECT_EQ(pages("2-10", "1").error().kind, PageRangeFailure::OutOfDocument);
+    // An empty job says nothing to anybody.
+    EXPECT_EQ(pages(nullptr, "8-").error().kind, PageRangeFailure::NoPage);
+    EXPECT_EQ(pages("1", "1", PageSet::Even).error().kind, PageRangeFailure::NoPage);
 }

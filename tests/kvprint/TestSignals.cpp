@@ -85,9 +85,25 @@ TEST_F(KvprintSignals, EndTheWaitForAServerThatIsSilent)
     while (silent.connectionCount() == 0 && !program.waitForFinished(10))
         ;
     ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), SIGINT), 0);
-    EXPECT_TRUE(program.waitForFinished(3000));
+    EXPECT_TRUE(program.waitForFinished(mostMilliseconds));
     EXPECT_EQ(program.exitCode(), 128 + SIGINT);
     EXPECT_EQ(temporaryFiles(), QStringList());
+}
+
+TEST_F(KvprintSignals, CloseTheDialog)
+{
+    const FaultyServer silent(cupsd.port(), {.silent = true});
+    QProcess program;
+    kvprint.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    program.setProcessEnvironment(kvprint.environment);
+    program.start(QStringLiteral(KV_PROGRAM), {QStringLiteral("-h"), silent.address(), picture()});
+    while (silent.connectionCount() == 0 && !program.waitForFinished(10))
+        ;
+    ASSERT_EQ(program.state(), QProcess::Running) << program.readAllStandardError().toStdString();
+    ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), SIGTERM), 0);
+    EXPECT_TRUE(program.waitForFinished(mostMilliseconds));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 128 + SIGTERM);
 }
 
 TEST_F(KvprintSignals, AreIgnoredWhereWhoeverStartedTheProgramIgnoresThem)

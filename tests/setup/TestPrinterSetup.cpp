@@ -175,6 +175,7 @@ TEST_F(PrinterSetupTest, TheQueuesPaperIsShownUnlessTheUserHasAnother)
         {"sides", "36mm"},
         {"PageSize", "62mm"},
         {"media", "62mm"},
+        {"PageRegion", "62mm"},
     };
     for (const auto &[users, expected] : rows) {
         host::Destination destination;

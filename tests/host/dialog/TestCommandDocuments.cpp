@@ -152,5 +152,6 @@ TEST(CommandDocuments, BashCompletesQueuesPapersAndOptions)
     EXPECT_EQ(words("-d ta"), (QStringList{QStringLiteral("tape"), QStringLiteral("tape/fine")}));
     EXPECT_EQ(words("-d tape --paper 24"), (QStringList{QStringLiteral("24mm"), QStringLiteral("24x60mm")}));
     EXPECT_EQ(words("-d tape -o Kv"), QStringList{QStringLiteral("KvHalfCut=")});
-    EXPECT_EQ(words("-H re"), (QStringList{QStringLiteral("resume"), QStringLiteral("restart")}));
+    EXPECT_EQ(words("-H re"),
+              (QStringList{QStringLiteral("resume"), QStringLiteral("release"), QStringLiteral("restart")}));
 }

@@ -60,7 +60,7 @@ TEST_F(OptionsPageTest, SwitchesAreBoxesOnlyWhenTheyAreOnOrOff)
     open();
     auto *const turbo = in<QCheckBox>("Turbo");
     ASSERT_TRUE(turbo);
-    EXPECT_EQ(turbo->toolTip(), QStringLiteral("Careful"));
+    EXPECT_EQ(turbo->toolTip(), QStringLiteral("<qt>Careful</qt>"));
     tick(turbo);
     tick(turbo);
     EXPECT_EQ(heard, (QByteArrayList{"Turbo=True", "Turbo=False"}));

@@ -138,7 +138,7 @@ TEST_F(PaperChooserTest, ShowsPapersByWidthWithTheirExactSizes)
                                     "Tape 24 mm x 60 mm", "52 mm wide", "Labels 52 mm x 75 mm",
                                     "Removable 52 mm x 75 mm"}));
     EXPECT_EQ(list()->currentItem()->text(), QStringLiteral("Tape 24 mm x 60 mm"));
-    EXPECT_EQ(list()->currentItem()->toolTip(), QStringLiteral("W24H60\n24 mm wide, 60 mm long"));
+    EXPECT_EQ(list()->currentItem()->toolTip(), QStringLiteral("<qt>W24H60<br>24 mm wide, 60 mm long</qt>"));
     click("12 mm wide");
     EXPECT_EQ(spy->count(), 0);
     EXPECT_EQ(chooser->chosen().name, QByteArray("W24H60"));
