@@ -308,7 +308,7 @@ std::optional<QString> PrinterSetup::savePanel()
     PDEPanel *const shown = panel();
     if (!shown)
         return std::nullopt;
-    m_beforeSaves.push_back({claimedChoices(), m_choices, m_lastChosen});
+    m_beforeSaves.push_back({claimedChoices(), m_state->recorded(), m_choices, m_lastChosen});
     const QScopedValueRollback saving(m_isSaving, true);
     QString error;
     if (!shown->saveValuesAndReturnError(&error))
@@ -323,12 +323,11 @@ void PrinterSetup::undoSave()
 {
     if (m_beforeSaves.empty())
         return;
-    // Quietly: the panel shows what it showed all the time.
-    for (const auto &[keyword, choice] : m_beforeSaves.back().marked)
-        ppd().mark(keyword, choice);
-    m_choices = std::move(m_beforeSaves.back().choices);
-    m_lastChosen = m_beforeSaves.back().lastChosen;
+    Saved before = std::move(m_beforeSaves.back());
     m_beforeSaves.pop_back();
+    m_state->putBack(before.marked, std::move(before.recorded));
+    m_choices = std::move(before.choices);
+    m_lastChosen = std::move(before.lastChosen);
 }
 
 void PrinterSetup::setDidChangeHook(std::function<void()> hook)

@@ -106,6 +106,7 @@ private:
     /// What savePanel() changes.
     struct Saved {
         std::vector<std::pair<QString, QString>> marked;
+        RecordedChoices recorded;
         std::vector<JobChoice> choices;
         QString lastChosen;
     };

@@ -65,6 +65,7 @@ public:
         waitpid(m_child, &status, 0);
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
+    void signal(int number) const { EXPECT_EQ(kill(m_child, number), 0); }
     const QByteArray &shown() const { return m_shown; }
 
 private:
@@ -99,11 +100,12 @@ protected:
     /// kvprint with a document on standard input, its results in the file "out".
     Terminal start() const
     {
-        return Terminal({QStringLiteral("/bin/sh"), QStringLiteral("-c"),
-                         QStringLiteral("\"$1\" --no-dialog -h \"$2\" -U anna -d tape - <\"$3\" >\"$4\""),
-                         QStringLiteral("sh"), QStringLiteral(KV_PROGRAM), locked.address(), picture(),
-                         folder.filePath(QStringLiteral("out"))},
-                        kvprint.environment);
+        return Terminal(
+            {QStringLiteral("/bin/sh"), QStringLiteral("-c"),
+             QStringLiteral("exec \"$1\" --no-dialog -h \"$2\" -U anna -d tape - <\"$3\" >\"$4\""),
+             QStringLiteral("sh"), QStringLiteral(KV_PROGRAM), locked.address(), picture(),
+             folder.filePath(QStringLiteral("out"))},
+            kvprint.environment);
     }
     QByteArray results() const
     {
@@ -147,6 +149,18 @@ TEST_F(KvprintPasswords, NeedNotBeGiven)
         terminal.waitFor("wants a password");
         EXPECT_EQ(terminal.end(), 1) << terminal.shown().toStdString();
         EXPECT_EQ(results(), QByteArray());
+    }
+    EXPECT_TRUE(jobStates().isEmpty());
+}
+
+TEST_F(KvprintPasswords, AreNotWaitedForAfterASignal)
+{
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        Terminal terminal = start();
+        terminal.waitFor("anna");
+        terminal.signal(number);
+        terminal.waitFor("Stopped by a signal");
+        EXPECT_EQ(terminal.end(), 128 + number) << terminal.shown().toStdString();
     }
     EXPECT_TRUE(jobStates().isEmpty());
 }

@@ -9,6 +9,7 @@
 #include <host/cups/QueueCache.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTcpServer>
 
 namespace {
@@ -225,5 +226,29 @@ TEST_F(OpeningTest, AServerThatComesBackIsNoticed)
             << state().toStdString();
         EXPECT_TRUE(waitUntil([this] { return told().isEmpty(); })) << told().toStdString();
         EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
+    }
+}
+
+TEST_F(OpeningTest, WhoIsAtWorkOnAnotherPageStaysThereWhenThePrinterComes)
+{
+    const FaultyServer slow(cupsd->port(), {.delay = 500});
+    host::CupsServer server;
+    server.address = slow.address();
+    for (const bool turnsPage : {false, true}) {
+        SCOPED_TRACE(turnsPage);
+        SetUp();
+        open(QStringLiteral("tape"), server);
+        if (turnsPage)
+            chooseTab(QStringLiteral("Page preview"));
+        else
+            Hands::typeInto(field<QLineEdit>(QStringLiteral("Job name")), QStringLiteral("Jars"));
+        ASSERT_TRUE(waitUntil([this] { return isSettled(); }));
+        QApplication::processEvents();
+        EXPECT_EQ(tabs().first(), QStringLiteral("Cut Options"));
+        EXPECT_FALSE(panelBox("mHalfCutChkBx")->isVisible());
+        if (!turnsPage) {
+            EXPECT_TRUE(field<QLineEdit>(QStringLiteral("Job name"))->hasFocus());
+        }
+        close();
     }
 }

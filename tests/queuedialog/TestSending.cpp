@@ -8,6 +8,7 @@
 #include <host/dialog/JobWindow.h>
 
 #include <QApplication>
+#include <QLineEdit>
 
 using test_support::RecordedDocument;
 
@@ -205,7 +206,7 @@ TEST_F(SendingTest, ALongDocumentIsCheckedWhileTheWindowLives)
     EXPECT_TRUE(window->isSending());
     EXPECT_TRUE(window->isVisible());
     Hands::click(button(QStringLiteral("Stop sending")));
-    EXPECT_FALSE(window->isSending());
+    EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
     Hands::click(button(QStringLiteral("Print")));
     EXPECT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
     EXPECT_TRUE(waitUntil([] { return waitingJobs().isEmpty(); }));
@@ -320,4 +321,20 @@ TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
     EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
     cupsd->resume(QStringLiteral("tape"));
     EXPECT_TRUE(waitUntil([&] { return !job->isVisible(); }));
+}
+
+TEST_F(SendingTest, WhatCannotBePrintedAnyMoreIsNotSaidToBeSent)
+{
+    const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
+    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+    open(QStringLiteral("tape"));
+    ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
+    const std::size_t before = cupsd->documents().size();
+    Hands::click(button(QStringLiteral("Print")));
+    ASSERT_TRUE(isSeen(QStringLiteral("Sending \"")));
+    field<QLineEdit>(QStringLiteral("Pages"))->setText(QStringLiteral("3-1"));
+    EXPECT_TRUE(waitUntil([this] { return !isSeen(QStringLiteral("Sending \"")); }));
+    EXPECT_FALSE(window->isSending());
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(cupsd->documents().size(), before);
 }

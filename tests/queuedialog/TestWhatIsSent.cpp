@@ -369,3 +369,19 @@ TEST_F(WhatIsSentTest, MirrorPrintingStaysThroughPagesPapersAndAnotherPpd)
     EXPECT_EQ(job.option("Darkness"), QByteArray());
     cupsd->addQueue(QStringLiteral("full"), fullPpd());
 }
+
+TEST_F(WhatIsSentTest, LookingAtItChangesNothing)
+{
+    openAndSettle(QStringLiteral("full"));
+    const auto figures = [this] { return isSeen(QStringLiteral("Pieces: 3")); };
+    EXPECT_TRUE(figures());
+    Hands::click(panelBox("mSpecialTapeChkBx"));
+    chooseTab(QStringLiteral("What will be sent"));
+    EXPECT_EQ(shownAsSent()["KvHalfCut"], "OFF");
+    chooseTab(QStringLiteral("Cut Options"));
+    Hands::click(panelBox("mSpecialTapeChkBx"));
+    QApplication::processEvents();
+    EXPECT_TRUE(figures());
+    EXPECT_TRUE(panelBox("mHalfCutChkBx")->isChecked());
+    EXPECT_EQ(printed().option("KvHalfCut"), "ON");
+}

@@ -48,23 +48,6 @@
         <translation>Beendet die Optionen: Was folgt, sind Dokumente.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>Rückgabewert:
-  0  gedruckt, oder das Gewünschte gezeigt
-  1  etwas ließ sich nicht öffnen, verwenden, senden oder schreiben;
-     nichts wurde gedruckt
-  2  die Befehlszeile wurde nicht verstanden
-  3  gedruckt, aber ohne die Seite mit den Schneideoptionen
-  4  im Dialog abgebrochen
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>Die Option „%1“ gibt es nicht</translation>
     </message>
@@ -251,6 +234,27 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>„%1“ ist nicht möglich; Dokumente werden als PDF gesendet</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>Rückgabewert:
+  0  gedruckt, oder das Gewünschte gezeigt
+  1  etwas ließ sich nicht öffnen, verwenden, senden oder schreiben;
+     nichts wurde gedruckt, es sei denn, die Standardfehlerausgabe sagt,
+     dass der Auftrag trotzdem gesendet wurde
+  2  die Befehlszeile wurde nicht verstanden
+  3  gedruckt, aber ohne die Seite mit den Schneideoptionen
+  4  im Dialog abgebrochen
+  129, 130, 143  von einem Signal beendet, bevor der Auftrag gesendet war
+</translation>
     </message>
 </context>
 <context>
@@ -777,10 +781,6 @@
         <source>no</source>
         <translation>nein</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1139,6 +1139,18 @@
         <source>last page first</source>
         <translation>letzte Seite zuerst</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>Davon</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>die ungeraden Seiten</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>die geraden Seiten</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1153,6 +1165,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ hat „%2“ nicht ganz angenommen.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1294,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1382,6 +1405,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Die Seiten „%1“ lassen sich nicht drucken: Die letzte Seite des Dokuments ist %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Es würde nichts gedruckt: Keine Seite des Dokuments ist gewählt</translation>
     </message>
 </context>
 <context>

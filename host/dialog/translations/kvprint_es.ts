@@ -48,22 +48,6 @@
         <translation>Termina las opciones: lo que sigue son documentos.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>Estado de salida:
-  0  impreso, o mostrado lo que se pidió
-  1  algo no se pudo abrir, usar, enviar o escribir; no se imprimió nada
-  2  no se entendió la línea de órdenes
-  3  impreso, pero sin el panel de opciones de corte
-  4  cancelado en el diálogo
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>No existe la opción «%1»</translation>
     </message>
@@ -250,6 +234,26 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>«%1» no es posible; los documentos se envían como PDF</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>Estado de salida:
+  0  impreso, o mostrado lo que se pidió
+  1  algo no se pudo abrir, usar, enviar o escribir; no se imprimió nada,
+     salvo que la salida de errores diga que el trabajo se envió de todos modos
+  2  no se entendió la línea de órdenes
+  3  impreso, pero sin el panel de opciones de corte
+  4  cancelado en el diálogo
+  129, 130, 143  detenido por una señal antes de enviar el trabajo
+</translation>
     </message>
 </context>
 <context>
@@ -776,10 +780,6 @@
         <source>no</source>
         <translation>no</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1138,6 +1138,18 @@
         <source>last page first</source>
         <translation>última página primero</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>De ellas</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>las páginas impares</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>las páginas pares</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1152,6 +1164,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no ha aceptado todo «%2».</translation>
     </message>
 </context>
 <context>
@@ -1277,6 +1293,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1381,6 +1404,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>No se pueden imprimir las páginas «%1»: la última página del documento es %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>No se imprimiría nada: no se ha elegido ninguna página del documento</translation>
     </message>
 </context>
 <context>

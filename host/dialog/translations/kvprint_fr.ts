@@ -48,23 +48,6 @@
         <translation>Termine les options&#xa0;: ce qui suit est un document.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>Code de retour :
-  0  imprimé, ou affiché ce qui était demandé
-  1  quelque chose n’a pas pu être ouvert, utilisé, envoyé ou écrit ;
-     rien n’a été imprimé
-  2  la ligne de commande n’a pas été comprise
-  3  imprimé, mais sans le panneau des options de coupe
-  4  annulé dans la boîte de dialogue
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>L’option « %1 » n’existe pas</translation>
     </message>
@@ -251,6 +234,27 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>« %1 » n’est pas possible ; les documents sont envoyés en PDF</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>Code de retour :
+  0  imprimé, ou affiché ce qui était demandé
+  1  quelque chose n’a pas pu être ouvert, utilisé, envoyé ou écrit ;
+     rien n’a été imprimé, sauf si la sortie d’erreur dit que la tâche a
+     tout de même été envoyée
+  2  la ligne de commande n’a pas été comprise
+  3  imprimé, mais sans le panneau des options de coupe
+  4  annulé dans la boîte de dialogue
+  129, 130, 143  arrêté par un signal avant l’envoi de la tâche
+</translation>
     </message>
 </context>
 <context>
@@ -777,10 +781,6 @@
         <source>no</source>
         <translation>non</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1139,6 +1139,18 @@
         <source>last page first</source>
         <translation>dernière page en premier</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>Parmi celles-ci</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>les pages impaires</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>les pages paires</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1153,6 +1165,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » n’a pas accepté la totalité de « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1294,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1382,6 +1405,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Impossible d’imprimer les pages « %1 » : la dernière page du document est %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Rien ne serait imprimé : aucune page du document n’est choisie</translation>
     </message>
 </context>
 <context>

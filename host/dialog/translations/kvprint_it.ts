@@ -48,23 +48,6 @@
         <translation>Termina le opzioni: ciò che segue sono documenti.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>Stato di uscita:
-  0  stampato, o mostrato ciò che è stato chiesto
-  1  qualcosa non si è potuto aprire, usare, inviare o scrivere; nulla è stato
-     stampato
-  2  la riga di comando non è stata compresa
-  3  stampato, ma senza il pannello delle opzioni di taglio
-  4  annullato nella finestra
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>L&apos;opzione &quot;%1&quot; non esiste</translation>
     </message>
@@ -251,6 +234,27 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>&quot;%1&quot; non è possibile; i documenti vengono inviati come PDF</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>Stato di uscita:
+  0  stampato, o mostrato ciò che è stato chiesto
+  1  qualcosa non si è potuto aprire, usare, inviare o scrivere; nulla è stato
+     stampato, a meno che lo standard error dica che il lavoro è stato inviato
+     comunque
+  2  la riga di comando non è stata compresa
+  3  stampato, ma senza il pannello delle opzioni di taglio
+  4  annullato nella finestra
+  129, 130, 143  interrotto da un segnale prima dell&apos;invio del lavoro
+</translation>
     </message>
 </context>
 <context>
@@ -777,10 +781,6 @@
         <source>no</source>
         <translation>no</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1139,6 +1139,18 @@
         <source>last page first</source>
         <translation>ultima pagina per prima</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>Di queste</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>le pagine dispari</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>le pagine pari</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1153,6 +1165,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha accettato tutto &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1294,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1382,6 +1405,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Impossibile stampare le pagine &quot;%1&quot;: l&apos;ultima pagina del documento è %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Non verrebbe stampato nulla: nessuna pagina del documento è scelta</translation>
     </message>
 </context>
 <context>

@@ -48,22 +48,6 @@
         <translation>オプションの終わり。以降はすべて文書です。</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>終了ステータス:
-  0  印刷した、または求められた情報を表示した
-  1  開く、使う、送る、書くのいずれかに失敗し、何も印刷されなかった
-  2  コマンドラインを解釈できなかった
-  3  印刷したが、カットオプションのパネルがなかった
-  4  ダイアログでキャンセルされた
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>オプション「%1」はありません</translation>
     </message>
@@ -250,6 +234,26 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>「%1」は使えません。文書は PDF として送信されます</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>終了ステータス:
+  0  印刷した、または求められた情報を表示した
+  1  開く、使う、送る、書くのいずれかに失敗し、何も印刷されなかった
+     (ジョブは送信済みだと標準エラー出力にある場合を除く)
+  2  コマンドラインを解釈できなかった
+  3  印刷したが、カットオプションのパネルがなかった
+  4  ダイアログでキャンセルされた
+  129, 130, 143  ジョブの送信前にシグナルで中断された
+</translation>
     </message>
 </context>
 <context>
@@ -775,10 +779,6 @@
         <source>no</source>
         <translation>いいえ</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1137,6 +1137,18 @@
         <source>last page first</source>
         <translation>最後のページから</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>うち印刷する</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>奇数ページ</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>偶数ページ</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1151,6 +1163,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」は「%2」のすべてを受け取りませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1275,6 +1291,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1379,6 +1402,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>ページ「%1」を印刷できません: 最後のページは %2 です</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>何も印刷されません。文書のページが選ばれていません</translation>
     </message>
 </context>
 <context>

@@ -48,23 +48,6 @@
         <translation>Beëindigt de opties: wat volgt, zijn documenten.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>Afsluitstatus:
-  0  afgedrukt, of getoond wat gevraagd werd
-  1  iets kon niet worden geopend, gebruikt, verzonden of geschreven;
-     er is niets afgedrukt
-  2  de opdrachtregel is niet begrepen
-  3  afgedrukt, maar zonder het paneel met snijopties
-  4  in het dialoogvenster geannuleerd
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>De optie &quot;%1&quot; bestaat niet</translation>
     </message>
@@ -251,6 +234,27 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>&quot;%1&quot; is niet mogelijk; documenten worden als PDF verzonden</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>Afsluitstatus:
+  0  afgedrukt, of getoond wat gevraagd werd
+  1  iets kon niet worden geopend, gebruikt, verzonden of geschreven;
+     er is niets afgedrukt, tenzij de standaardfoutuitvoer zegt dat de taak
+     toch is verzonden
+  2  de opdrachtregel is niet begrepen
+  3  afgedrukt, maar zonder het paneel met snijopties
+  4  in het dialoogvenster geannuleerd
+  129, 130, 143  door een signaal gestopt voordat de taak was verzonden
+</translation>
     </message>
 </context>
 <context>
@@ -777,10 +781,6 @@
         <source>no</source>
         <translation>nee</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1139,6 +1139,18 @@
         <source>last page first</source>
         <translation>laatste pagina eerst</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>Daarvan</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>de oneven pagina’s</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>de even pagina’s</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1153,6 +1165,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; heeft &quot;%2&quot; niet helemaal aangenomen.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1294,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1382,6 +1405,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Kan de pagina&apos;s &quot;%1&quot; niet afdrukken: de laatste pagina van het document is %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Er zou niets worden afgedrukt: er is geen pagina van het document gekozen</translation>
     </message>
 </context>
 <context>

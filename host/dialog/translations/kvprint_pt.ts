@@ -48,22 +48,6 @@
         <translation>Termina as opções: o que se segue são documentos.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>Estado de saída:
-  0  impresso, ou mostrado o que foi pedido
-  1  algo não pôde ser aberto, usado, enviado ou escrito; nada foi impresso
-  2  a linha de comandos não foi entendida
-  3  impresso, mas sem o painel de opções de corte
-  4  cancelado na janela
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>A opção &quot;%1&quot; não existe</translation>
     </message>
@@ -250,6 +234,26 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>&quot;%1&quot; não é possível; os documentos são enviados como PDF</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>Estado de saída:
+  0  impresso, ou mostrado o que foi pedido
+  1  algo não pôde ser aberto, usado, enviado ou escrito; nada foi impresso,
+     a menos que a saída de erros diga que o trabalho foi enviado na mesma
+  2  a linha de comandos não foi entendida
+  3  impresso, mas sem o painel de opções de corte
+  4  cancelado na janela
+  129, 130, 143  interrompido por um sinal antes de o trabalho ser enviado
+</translation>
     </message>
 </context>
 <context>
@@ -776,10 +780,6 @@
         <source>no</source>
         <translation>não</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp não consegue exprimir estas opções tal como são enviadas: %1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1138,6 +1138,18 @@
         <source>last page first</source>
         <translation>última página primeiro</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>Destas</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>as páginas ímpares</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>as páginas pares</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1152,6 +1164,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>Nenhum servidor de impressão consegue transmitir a escolha &quot;%1&quot; da opção &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>O servidor de impressão &quot;%1&quot; não aceitou a totalidade de &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1277,6 +1293,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp não consegue exprimir estas opções tal como são enviadas: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1381,6 +1404,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>Não é possível imprimir as páginas &quot;%1&quot;: a última página do documento é %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Nada seria impresso: nenhuma página do documento está escolhida</translation>
     </message>
 </context>
 <context>

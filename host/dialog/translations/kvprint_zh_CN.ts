@@ -48,22 +48,6 @@
         <translation>选项到此结束：其后均为文档。</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  printed, or told what was asked for
-  1  something could not be opened, used, sent or written; nothing was printed
-  2  the command line was not understood
-  3  printed, but without the cut-options panel
-  4  cancelled in the dialog
-</source>
-        <translation>退出状态：
-  0  已打印，或已显示所请求的内容
-  1  某项无法打开、使用、发送或写入；未打印任何内容
-  2  无法理解命令行
-  3  已打印，但没有裁切选项面板
-  4  已在对话框中取消
-</translation>
-    </message>
-    <message>
         <source>There is no option &quot;%1&quot;</source>
         <translation>没有选项“%1”</translation>
     </message>
@@ -250,6 +234,26 @@
     <message>
         <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
         <translation>“%1”不可用；文档以 PDF 格式发送</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  printed, or told what was asked for
+  1  something could not be opened, used, sent or written; nothing was printed,
+     unless standard error says that the job was sent all the same
+  2  the command line was not understood
+  3  printed, but without the cut-options panel
+  4  cancelled in the dialog
+  129, 130, 143  stopped by a signal before the job was sent
+</source>
+        <translation>退出状态：
+  0  已打印，或已显示所请求的内容
+  1  某项无法打开、使用、发送或写入；未打印任何内容，
+     除非标准错误输出说明作业仍已发送
+  2  无法理解命令行
+  3  已打印，但没有裁切选项面板
+  4  已在对话框中取消
+  129, 130, 143  在作业发送之前被信号中断
+</translation>
     </message>
 </context>
 <context>
@@ -775,10 +779,6 @@
         <source>no</source>
         <translation>否</translation>
     </message>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
-    </message>
 </context>
 <context>
     <name>dialog::StandardStreams</name>
@@ -1137,6 +1137,18 @@
         <source>last page first</source>
         <translation>从最后一页开始</translation>
     </message>
+    <message>
+        <source>Of these</source>
+        <translation>其中</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>奇数页</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>偶数页</translation>
+    </message>
 </context>
 <context>
     <name>host::JobUpload</name>
@@ -1151,6 +1163,10 @@
     <message>
         <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
         <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”没有接收完整的“%2”。</translation>
     </message>
 </context>
 <context>
@@ -1275,6 +1291,13 @@
     </message>
 </context>
 <context>
+    <name>host::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1379,6 +1402,10 @@
     <message>
         <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
         <translation>无法打印页面“%1”：文档最后一页是 %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>不会打印任何内容：未选择文档中的任何页面</translation>
     </message>
 </context>
 <context>

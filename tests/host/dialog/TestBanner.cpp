@@ -125,10 +125,25 @@ TEST_F(BannerTest, ALongRemedyIsElidedAndCanBeReadAndHeard)
     EXPECT_EQ(button()->text().count(QStringLiteral("Print quality")), 6);
     QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), button()->mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(button(), &help);
+    // Quotation marks are shown as such.
+    EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("<qt>")));
     EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("Print quality 6")))
         << QToolTip::text().toStdString();
     bool isClicked = false;
     QObject::connect(banner, &dialog::Banner::remedyClicked, &window, [&] { isClicked = true; });
     QTest::mouseClick(button(), Qt::LeftButton);
     EXPECT_TRUE(isClicked);
+}
+
+TEST_F(BannerTest, ALongMessageIsThereFromTheBeginning)
+{
+    banner->setMessage(sentences(3));
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(lines(), 3);
+    QFont large = window.font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    banner->setFont(large);
+    QApplication::processEvents();
+    EXPECT_EQ(lines(), 4);
 }

@@ -384,3 +384,36 @@ TEST_F(PaperChooserTest, OffersTheDocumentsSizeWhereItFits)
     chooser->setDocumentPage(QSizeF(18, 50.25) * mm);
     EXPECT_EQ(link()->text(), QStringLiteral("Use the document's size: 18 \u00d7 50.25 mm"));
 }
+
+TEST_F(PaperChooserTest, EnterChoosesWhatTheSearchHasFound)
+{
+    open();
+    int pressed = 0;
+    auto *const button = new QPushButton(chooser.get());
+    QObject::connect(button, &QPushButton::clicked, [&] { ++pressed; });
+    search()->show();
+    QTest::keyClicks(search(), QStringLiteral("52 rem"));
+    QTest::keyClick(search(), Qt::Key_Return);
+    EXPECT_EQ(chooser->chosen().name, QByteArray("DC52x75R"));
+    EXPECT_EQ(spy->count(), 1);
+    search()->setText(QStringLiteral("nothing is called this"));
+    QTest::keyClick(search(), Qt::Key_Enter);
+    EXPECT_EQ(chooser->chosen().name, QByteArray("DC52x75R"));
+    EXPECT_EQ(pressed, 0);
+}
+
+TEST_F(PaperChooserTest, AReplacedPpdLeavesTheFieldsOfACustomSize)
+{
+    open(tapePpd());
+    chooser->choose("Custom.24x60mm");
+    LengthField *const width = field("Paper width");
+    ASSERT_TRUE(width);
+    const auto other = std::make_unique<host::PpdFile>(openPpd(sandbox, tapePpd()));
+    chooser->setPpd(*other, chooser->chosen());
+    EXPECT_EQ(field("Paper width"), width);
+    EXPECT_TRUE(width->isVisible());
+    // Other limits are other fields.
+    const host::PpdFile fixed = openPpd(sandbox, withoutFreeSizes(tapePpd()));
+    chooser->setPpd(fixed, fixed.markedPaper().value());
+    EXPECT_FALSE(field("Paper width"));
+}

@@ -245,3 +245,20 @@ TEST_F(PrintDialogTest, GivesThePanelsViewBack)
     QTest::mouseClick(view, Qt::LeftButton, {}, {8, 15});
     QApplication::processEvents();
 }
+
+TEST_F(PrintDialogTest, APrintingThatFailedLeavesTheStripAsItWas)
+{
+    // Handing over special tape takes the half cut away; what is printed later may be another tape.
+    open();
+    const QString before = stripInWords();
+    click(box("mSpecialTapeChkBx"));
+    sender.problem = QStringLiteral("The printer is on fire.");
+    window->print();
+    EXPECT_EQ(window->problem(), *sender.problem);
+    click(box("mSpecialTapeChkBx"));
+    EXPECT_EQ(stripInWords(), before);
+    sender.problem.reset();
+    window->print();
+    ASSERT_EQ(sender.jobs.size(), 2U);
+    EXPECT_TRUE(before.startsWith(sender.jobs.back())) << sender.jobs.back().toStdString();
+}
