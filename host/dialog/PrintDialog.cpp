@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintDialog.h"
 
+#include "ChoicesColumn.h"
 #include "ConflictBanner.h"
 #include "ConflictQuestion.h"
-#include "DestinationChooser.h"
 #include "DialogPages.h"
 #include "FittedLabel.h"
 #include "PageOptions.h"
-#include "PaperChooser.h"
 #include "ProblemBanner.h"
 #include "SendBar.h"
 #include "StripPreview.h"
@@ -18,7 +17,6 @@
 #include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QTimer>
@@ -62,6 +60,8 @@ void PrintDialog::build(const DialogWishes &wishes)
     m_panelBanner = new Banner(this);
     m_conflictBanner = new ConflictBanner(m_keeper, this);
     m_problemBanner = new ProblemBanner(this);
+    // The keys go from here to the printer's pages, and on to the strip.
+    m_choices = new ChoicesColumn(*m_document, m_keeper, wishes.settings, m_content);
     const host::QueueSession *const session = m_keeper.session();
     m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
     m_stripPreview = new StripPreview(m_content);
@@ -74,7 +74,7 @@ void PrintDialog::build(const DialogWishes &wishes)
     m_buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
 
     auto *const upper = new QHBoxLayout;
-    upper->addWidget(buildChoices(wishes));
+    upper->addWidget(m_choices);
     upper->addWidget(m_pages, 1);
     auto *const content = new QVBoxLayout(m_content);
     content->setContentsMargins({});
@@ -92,39 +92,10 @@ void PrintDialog::build(const DialogWishes &wishes)
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
-QWidget *PrintDialog::buildChoices(const DialogWishes &wishes)
-{
-    auto *const choices = new QWidget(m_content);
-    m_pageOptions = new PageOptions(m_document->pageCounts(), choices);
-    m_pageOptions->setSettings(wishes.settings);
-    m_paperPlace = new QVBoxLayout;
-    auto *const layout = new QVBoxLayout(choices);
-    layout->setContentsMargins({});
-    layout->addWidget(buildPrinter(choices));
-    layout->addLayout(m_paperPlace, 1);
-    layout->addWidget(m_pageOptions);
-    // Without papers, what is left stays together at the top.
-    layout->addStretch();
-    return choices;
-}
-
-QWidget *PrintDialog::buildPrinter(QWidget *parent)
-{
-    if (m_keeper.session())
-        return new DestinationChooser(*m_keeper.session(), parent);
-    auto *const printer = new QLabel(m_keeper.setup()->printerText(), parent);
-    QFont bold = printer->font();
-    bold.setBold(true);
-    printer->setFont(bold);
-    printer->setWordWrap(true);
-    printer->setTextFormat(Qt::PlainText);
-    printer->setAccessibleName(tr("Printer: %1").arg(printer->text()));
-    return printer;
-}
-
 void PrintDialog::connectAll()
 {
-    connect(m_pageOptions, &PageOptions::changed, this, &PrintDialog::refreshLater);
+    connect(&m_choices->pages(), &PageOptions::changed, this, &PrintDialog::refreshLater);
+    connect(m_choices, &ChoicesColumn::paperChosen, this, &PrintDialog::changePaper);
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
     connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
     m_pages->setSummary([this] { return summary(); });
@@ -180,18 +151,7 @@ void PrintDialog::takeSetup()
         m_pages->takeSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
     }
-    const bool hasPapers = setup && setup->paper();
-    if (hasPapers && m_papers) {
-        // The same one, so that a search and the focus stay while a PPD is replaced.
-        m_papers->setPpd(setup->ppd(), *setup->paper());
-    } else if (hasPapers) {
-        m_papers = new PaperChooser(setup->ppd(), *setup->paper(), m_content);
-        m_papers->setDocumentPage(m_document->pageSize(0));
-        m_paperPlace->addWidget(m_papers);
-        connect(m_papers, &PaperChooser::paperChosen, this, &PrintDialog::changePaper);
-    }
-    if (m_papers)
-        m_papers->setVisible(hasPapers);
+    m_choices->showPapers();
     applyPaper();
     if (isVisible())
         m_pages->announceFront();
@@ -210,7 +170,7 @@ void PrintDialog::dropSetup()
 
 void PrintDialog::changePaper()
 {
-    m_keeper.setup()->choosePaper(m_papers->chosen());
+    m_keeper.setup()->choosePaper(m_choices->chosenPaper());
     applyPaper();
     refresh();
 }
@@ -241,8 +201,8 @@ void PrintDialog::refresh()
     m_stripPreview->clear();
     m_strip.reset();
     if (m_keeper.setup())
-        m_pageOptions->setDefaults(host::defaultPageSettings(m_keeper.setup()->destination()));
-    auto choices = m_pageOptions->choices();
+        m_choices->pages().setDefaults(host::defaultPageSettings(m_keeper.setup()->destination()));
+    auto choices = m_choices->pages().choices();
     const bool isReady = m_keeper.setup() && choices;
     m_printButton->setEnabled(isReady && !m_isSending);
     if (!choices)
@@ -260,7 +220,7 @@ void PrintDialog::refreshJob(const host::PageChoices &choices)
     const host::PrinterSetup &setup = *m_keeper.setup();
     m_draft.pages = choices;
     m_pages->writeJobTo(m_draft);
-    m_pageOptions->writeTo(m_draft.settings);
+    m_choices->pages().writeTo(m_draft.settings);
     const bool hasStrip = setup.hasPpd() && setup.paper();
     m_stripPreview->setVisible(hasStrip);
     if (!hasStrip) {
@@ -279,8 +239,7 @@ void PrintDialog::refreshConflicts()
     const host::PrinterSetup *const setup = m_keeper.setup();
     const std::vector<host::Conflict> conflicts = setup ? setup->conflicts() : std::vector<host::Conflict>();
     m_pages->setConflicts(conflicts);
-    if (m_papers)
-        m_papers->setConflicts(conflicts);
+    m_choices->setConflicts(conflicts);
     m_conflictBanner->setConflicts(conflicts);
 }
 
@@ -334,7 +293,7 @@ std::optional<QString> PrintDialog::prepare()
         return refusal;
     // Saving may have changed what is recorded.
     refresh();
-    const auto choices = m_pageOptions->choices();
+    const auto choices = m_choices->pages().choices();
     return choices ? std::nullopt : std::optional(choices.error().message);
 }
 

@@ -10,16 +10,14 @@
 
 class QDialogButtonBox;
 class QPushButton;
-class QVBoxLayout;
 
 namespace dialog {
 
 class Banner;
+class ChoicesColumn;
 class ConflictBanner;
 class DialogPages;
 class FittedLabel;
-class PageOptions;
-class PaperChooser;
 class ProblemBanner;
 class SendBar;
 class StripPreview;
@@ -73,8 +71,6 @@ protected:
 
 private:
     void build(const DialogWishes &wishes);
-    QWidget *buildChoices(const DialogWishes &wishes);
-    QWidget *buildPrinter(QWidget *parent);
     void connectAll();
     void takeSetup();
     void dropSetup();
@@ -108,9 +104,7 @@ private:
     Banner *m_panelBanner = nullptr;
     ConflictBanner *m_conflictBanner = nullptr;
     ProblemBanner *m_problemBanner = nullptr;
-    QVBoxLayout *m_paperPlace = nullptr;
-    PaperChooser *m_papers = nullptr;
-    PageOptions *m_pageOptions = nullptr;
+    ChoicesColumn *m_choices = nullptr;
     DialogPages *m_pages = nullptr;
     StripPreview *m_stripPreview = nullptr;
     FittedLabel *m_figures = nullptr;

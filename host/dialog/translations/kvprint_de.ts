@@ -18,6 +18,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoicesColumn</name>
+    <message>
+        <source>Printer: %1</source>
+        <translation>Drucker: %1</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
@@ -664,10 +671,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>&amp;Drucken</translation>
-    </message>
-    <message>
-        <source>Printer: %1</source>
-        <translation>Drucker: %1</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -18,6 +18,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoicesColumn</name>
+    <message>
+        <source>Printer: %1</source>
+        <translation>プリンター: %1</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
@@ -662,10 +669,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>印刷(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Printer: %1</source>
-        <translation>プリンター: %1</translation>
     </message>
     <message>
         <source>Cancel</source>

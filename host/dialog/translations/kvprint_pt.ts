@@ -18,6 +18,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::ChoicesColumn</name>
+    <message>
+        <source>Printer: %1</source>
+        <translation>Impressora: %1</translation>
+    </message>
+</context>
+<context>
     <name>dialog::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
@@ -663,10 +670,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>&amp;Imprimir</translation>
-    </message>
-    <message>
-        <source>Printer: %1</source>
-        <translation>Impressora: %1</translation>
     </message>
     <message>
         <source>Cancel</source>
