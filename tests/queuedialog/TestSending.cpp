@@ -196,6 +196,8 @@ TEST_F(SendingTest, StopSendingTakesTheJobBack)
 
 TEST_F(SendingTest, ALongDocumentIsCheckedWhileTheWindowLives)
 {
+    // With a printer that is known from last time nobody waits before Print can be pressed.
+    fillCache(QStringLiteral("tape"));
     const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
     documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
     open(QStringLiteral("tape"));
@@ -325,6 +327,8 @@ TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
 
 TEST_F(SendingTest, WhatCannotBePrintedAnyMoreIsNotSaidToBeSent)
 {
+    // With a printer that is known from last time nobody waits before Print can be pressed.
+    fillCache(QStringLiteral("tape"));
     const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
     documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
     open(QStringLiteral("tape"));
