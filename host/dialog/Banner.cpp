@@ -14,54 +14,48 @@ namespace dialog {
 
 Banner::Banner(QWidget *parent)
     : QFrame(parent)
-    , m_icon(new QLabel(this))
-    , m_text(new QLabel)
-    , m_view(new QScrollArea(this))
-    , m_remedy(new ElidedButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
-    m_text->setForegroundRole(QPalette::ToolTipText);
-    m_text->setBackgroundRole(QPalette::ToolTipBase);
-    m_text->setWordWrap(true);
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    build();
-    m_remedy->setAutoDefault(false);
-    connect(m_remedy, &QPushButton::clicked, this, &Banner::remedyClicked);
     setVisible(false);
 }
 
 void Banner::build()
 {
+    auto *const icon = new QLabel(this);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+    m_text = new QLabel;
+    m_text->setForegroundRole(QPalette::ToolTipText);
+    m_text->setBackgroundRole(QPalette::ToolTipBase);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    m_view = new QScrollArea(this);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setWidget(m_text);
     m_view->setWidgetResizable(true);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->viewport()->setBackgroundRole(QPalette::ToolTipBase);
+    m_remedy = new ElidedButton(this);
+    m_remedy->setAutoDefault(false);
+    connect(m_remedy, &QPushButton::clicked, this, &Banner::remedyClicked);
     auto *const layout = new QGridLayout(this);
-    layout->addWidget(m_icon, 0, 0, Qt::AlignTop);
+    layout->addWidget(icon, 0, 0, Qt::AlignTop);
     layout->addWidget(m_view, 0, 1);
     // Below the text: beside it, a long remedy would leave the text no room.
     layout->addWidget(m_remedy, 1, 1, Qt::AlignLeading);
     layout->setColumnStretch(1, 1);
-    fitText();
-}
-
-void Banner::prepare()
-{
-    // Only now: looking through the icon themes takes longer than building the rest of the dialog, and a text
-    // that can be selected needs a text engine.
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
 }
 
 void Banner::setMessage(const QString &message, const QString &remedy)
 {
-    if (!message.isEmpty() && m_icon->pixmap().isNull())
-        prepare();
+    if (!m_text && message.isEmpty())
+        return;
+    if (!m_text)
+        build();
     if (message != m_text->text())
         m_view->verticalScrollBar()->setValue(0);
     m_text->setText(message);
@@ -76,7 +70,7 @@ void Banner::setMessage(const QString &message, const QString &remedy)
 
 QString Banner::message() const
 {
-    return m_text->text();
+    return m_text ? m_text->text() : QString();
 }
 
 void Banner::resizeEvent(QResizeEvent *event)
@@ -102,6 +96,8 @@ void Banner::fitText()
 {
     // A window takes no notice of what a wrapped text needs, so its height is told.
     constexpr int mostLines = 4;
+    if (!m_text)
+        return;
     const int line = m_text->fontMetrics().lineSpacing();
     // As long as the banner has no place in the window, its width is not known.
     const int needed = isVisible() ? m_text->heightForWidth(m_view->width()) : line;

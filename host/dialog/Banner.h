@@ -33,14 +33,13 @@ protected:
 
 private:
     void build();
-    void prepare();
     void fitText();
 
-    QLabel *m_icon;
-    QLabel *m_text;
+    // Null until there is something to tell; most dialogs never have any of it.
+    QLabel *m_text = nullptr;
     /// Where the text is scrolled.
-    QScrollArea *m_view;
-    ElidedButton *m_remedy;
+    QScrollArea *m_view = nullptr;
+    ElidedButton *m_remedy = nullptr;
 };
 
 } // namespace dialog
