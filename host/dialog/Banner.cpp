@@ -48,6 +48,8 @@ void Banner::build()
     // Below the text: beside it, a long remedy would leave the text no room.
     layout->addWidget(m_remedy, 1, 1, Qt::AlignLeading);
     layout->setColumnStretch(1, 1);
+    // Before it is shown: the window would make room for a whole empty page.
+    fitText();
 }
 
 void Banner::setMessage(const QString &message, const QString &remedy)
