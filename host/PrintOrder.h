@@ -39,8 +39,9 @@ inline constexpr int mostLabels = 100'000;
 /// The pages that a text such as "1-3, 5, 8-" names, of documents with so many pages each, which are printed
 /// one after the other. The text applies to every document by itself, as lp's -P does: "1" is the first page
 /// of each. Pages in the text count from 1 and "8-" goes on to the last, as does "8-2147483647". A blank text
-/// names all pages. The answer counts from 0 through all documents, each page once and
-/// in order, and of the pages only those of the set. An error when no page is left.
+/// names all pages. A page that no document has is an error, unless such pages are to be left out; so is a
+/// text that leaves no page. The answer counts from 0 through all documents, each page once and in order, and
+/// of the pages only those of the set.
 Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
                                                          const std::vector<int> &pageCounts,
                                                          PageSet set = PageSet::All,

@@ -75,6 +75,13 @@ protected:
         return outcome;
     }
 
+    /// No document has been printed, and none will be.
+    void expectNothingWaits() const
+    {
+        EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");
+        EXPECT_TRUE(cupsd.documents().empty());
+    }
+
     test_support::PpdBuilder ppd = test_support::PpdBuilder().allOptions();
     test_support::PrivateCupsd cupsd;
     QTemporaryDir folder;

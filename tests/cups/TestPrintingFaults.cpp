@@ -27,15 +27,7 @@ CupsServer impatient(const QString &address)
 } // namespace
 
 /// The faults of servers and documents: an error in words, and nothing printed twice.
-class PrintingFaultsTest : public PrintingTest {
-protected:
-    /// No document has been printed, and none will be.
-    void expectNothingWaits() const
-    {
-        EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");
-        EXPECT_TRUE(cupsd.documents().empty());
-    }
-};
+class PrintingFaultsTest : public PrintingTest {};
 
 TEST_F(PrintingFaultsTest, DocumentsThatCannotBeReadLeaveNoJob)
 {

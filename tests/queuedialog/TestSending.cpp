@@ -29,6 +29,17 @@ protected:
         QueueDialogTest::SetUp();
     }
 
+    /// Opens the dialog on more pages than can be checked at once, so that Print waits for the check.
+    void openLongDocument()
+    {
+        // With a printer that is known from last time nobody waits before Print can be pressed.
+        fillCache(QStringLiteral("tape"));
+        const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
+        documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+        open(QStringLiteral("tape"));
+        ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
+    }
+
     /// The labels with as many bytes behind them as a large document has.
     void makeLarge(qsizetype bytes)
     {
@@ -196,12 +207,7 @@ TEST_F(SendingTest, StopSendingTakesTheJobBack)
 
 TEST_F(SendingTest, ALongDocumentIsCheckedWhileTheWindowLives)
 {
-    // With a printer that is known from last time nobody waits before Print can be pressed.
-    fillCache(QStringLiteral("tape"));
-    const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
-    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
-    open(QStringLiteral("tape"));
-    ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
+    openLongDocument();
     const std::size_t before = cupsd->documents().size();
     Hands::click(button(QStringLiteral("Print")));
     // The click is over long before so many pages are.
@@ -327,12 +333,7 @@ TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
 
 TEST_F(SendingTest, WhatCannotBePrintedAnyMoreIsNotSaidToBeSent)
 {
-    // With a printer that is known from last time nobody waits before Print can be pressed.
-    fillCache(QStringLiteral("tape"));
-    const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
-    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
-    open(QStringLiteral("tape"));
-    ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
+    openLongDocument();
     const std::size_t before = cupsd->documents().size();
     Hands::click(button(QStringLiteral("Print")));
     ASSERT_TRUE(isSeen(QStringLiteral("Sending \"")));
