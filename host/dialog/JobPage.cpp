@@ -71,6 +71,8 @@ void JobPage::build()
     // Qt turns a time around in a right-to-left window, where people do not.
     m_time->setLayoutDirection(Qt::LeftToRight);
     m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+    // A job may wait past midnight: after 23 comes 0.
+    m_time->setWrapping(true);
     m_time->hide();
     // 0 stands for the queue's own setting.
     m_priority->setRange(0, highestPriority);

@@ -206,7 +206,24 @@ TEST_F(JobPageTest, TellsWhatTheUserChanges)
     EXPECT_GE(spy.count(), 1);
     spy.clear();
     auto *const time = page.findChild<QTimeEdit *>();
+    time->setTime({13, 0});
     time->setFocus();
     QTest::keyClick(time, Qt::Key_Up);
     EXPECT_GE(spy.count(), 1);
+    EXPECT_EQ(time->time(), QTime(14, 0));
+}
+
+TEST_F(JobPageTest, TimesGoPastMidnight)
+{
+    pick("Print it", "At a time");
+    auto *const time = page.findChild<QTimeEdit *>();
+    time->setTime({23, 0});
+    time->setFocus();
+    QSignalSpy spy(&page, &JobPage::changed);
+    QTest::keyClick(time, Qt::Key_Up);
+    EXPECT_EQ(time->time(), QTime(0, 0));
+    EXPECT_EQ(spy.count(), 1);
+    QTest::keyClick(time, Qt::Key_Down);
+    EXPECT_EQ(time->time(), QTime(23, 0));
+    EXPECT_EQ(spy.count(), 2);
 }
