@@ -66,6 +66,11 @@ TEST_F(KvprintErrors, NameBothSidesOfAConflict)
     const RecordedDocument job = printed(words + QStringList{QStringLiteral("--force")});
     EXPECT_EQ(job.option("MediaType"), "Film");
     EXPECT_EQ(job.option("PrintPriority"), "Speed");
+    // What the dialog would open with is told with its conflicts.
+    const Outcome summary = kvprint.run(words + QStringList{QStringLiteral("--summary"), picture()});
+    EXPECT_EQ(summary.status, 0) << summary;
+    EXPECT_TRUE(summary.error.contains("Film") && summary.error.contains("Speed")) << summary;
+    EXPECT_TRUE(summary.out.contains("Mirror Printing: No")) << summary;
     // Only told, nothing is sent.
     const Outcome dryRun =
         kvprint.run(words + QStringList{QStringLiteral("--dry-run"), QStringLiteral("--force"), picture()});

@@ -4,6 +4,7 @@
 #include "Hands.h"
 #include "Sandbox.h"
 
+#include <host/dialog/OptionControl.h>
 #include <host/dialog/PrintDialog.h>
 #include <host/dialog/QueueSender.h>
 #include <tests/support/PrivateCupsd.h>
@@ -58,6 +59,13 @@ protected:
     Widget *field(const QString &labelText) const
     {
         return qobject_cast<Widget *>(fieldOf(labelText));
+    }
+    /// The control of the PPD's option.
+    template<typename Widget>
+    Widget *control(const char *keyword, const QString &name = {}) const
+    {
+        const auto *const parent = window->findChild<dialog::OptionControl *>(QLatin1String(keyword));
+        return parent ? parent->findChild<Widget *>(name) : nullptr;
     }
     static QPushButton *button(const QWidget *parent, const QString &text);
     QPushButton *button(const QString &text) const { return button(window.get(), text); }

@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QSpinBox>
-#include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>
 
@@ -44,13 +43,6 @@ protected:
             window->windowHandle(), Qt::LeftButton, {},
             groups->viewport()->mapTo(window.get(), groups->visualItemRect(found.first()).center()));
         QApplication::processEvents();
-    }
-
-    template<typename Widget>
-    Widget *control(const char *keyword, const QString &name = {}) const
-    {
-        const auto *const parent = window->findChild<dialog::OptionControl *>(QLatin1String(keyword));
-        return parent ? parent->findChild<Widget *>(name) : nullptr;
     }
 
     static QCheckBox *boxIn(const QWidget *parent, const QString &text)
@@ -268,64 +260,6 @@ TEST_F(WhatIsSentTest, FreeSizesAndTheDocumentsOwnArriveExactly)
     ASSERT_TRUE(size);
     EXPECT_NEAR(size->size.width(), 51, 0.03);
     EXPECT_NEAR(size->size.height(), 301, 0.03);
-}
-
-TEST_F(WhatIsSentTest, ConflictsAreToldAndRemediedWithoutAnotherPaper)
-{
-    openAndSettle(QStringLiteral("full"));
-    choosePaper(QStringLiteral("Labels 52 mm x 75 mm"));
-    Hands::click(panelBox("mMirrorPrintChkBx"));
-    EXPECT_EQ(told(), QString());
-    chooseTab(QStringLiteral("Options"));
-    Hands::pick(control<QComboBox>("Darkness"), QStringLiteral("Dark"));
-    EXPECT_EQ(told(), QString());
-    Hands::click(control<QCheckBox>("Turbo"));
-    const QString sentence = told();
-    EXPECT_TRUE(sentence.contains(QStringLiteral("Darkness")) && sentence.contains(QStringLiteral("Turbo")))
-        << sentence.toStdString();
-    // The sentence stands at the controls too.
-    EXPECT_TRUE(control<QCheckBox>("Turbo")->accessibleDescription().contains(QStringLiteral("Darkness")));
-    EXPECT_TRUE(control<QComboBox>("Darkness")->accessibleDescription().contains(QStringLiteral("Turbo")));
-
-    // Print asks; Escape goes back to the dialog with everything as it was.
-    const auto answerQuestion = [this](const std::function<void(QWidget *)> &answer) {
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, window.get(), [&look, answer] {
-            QWidget *const question = QApplication::activeModalWidget();
-            if (!question || !question->windowHandle()->isExposed())
-                return;
-            look.stop();
-            answer(question);
-        });
-        look.start(20);
-        Hands::click(button(QStringLiteral("Print")));
-        EXPECT_FALSE(look.isActive()) << "no question came";
-    };
-    answerQuestion([](QWidget *question) { Hands::press(question, Qt::Key_Escape); });
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_FALSE(window->isSending());
-    EXPECT_EQ(told(), sentence);
-
-    // The remedy's button says what it does.
-    QPushButton *remedy = nullptr;
-    for (QPushButton *const each : window->findChildren<QPushButton *>()) {
-        if (each->isVisible() && each->text().startsWith(QStringLiteral("Set ")))
-            remedy = each;
-    }
-    Hands::click(remedy);
-    EXPECT_EQ(told(), QString());
-    EXPECT_EQ(papers()->currentItem()->text(), QStringLiteral("Labels 52 mm x 75 mm"));
-
-    // A conflict between the panel and the options.
-    Hands::pick(control<QComboBox>("Darkness"), QStringLiteral("Light"));
-    EXPECT_TRUE(told().contains(QStringLiteral("Mirror"))) << told().toStdString();
-    answerQuestion([](QWidget *question) { Hands::click(button(question, QStringLiteral("Print anyway"))); });
-    ASSERT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
-    ASSERT_TRUE(waitUntil([] { return waitingJobs().isEmpty(); }));
-    const RecordedDocument job = cupsd->documents().back();
-    EXPECT_EQ(job.option("Darkness"), "Light");
-    EXPECT_EQ(job.option("KvMirror"), "ON");
-    EXPECT_EQ(job.option("PageSize"), "DC52x75");
 }
 
 TEST_F(WhatIsSentTest, MirrorPrintingStaysThroughPagesPapersAndAnotherPpd)

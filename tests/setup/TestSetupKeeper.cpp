@@ -241,6 +241,34 @@ TEST_F(SetupKeeperTest, AnotherDefaultTakesNoPrinterFromUnderTheUser)
     }
 }
 
+TEST_F(SetupKeeperTest, AReplacedPpdIsNothingThatTheUserHasSet)
+{
+    const auto makeDefault = [](const char *queue) {
+        cupsd->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QString::fromLatin1(queue)});
+    };
+    makeDefault("tape");
+    open(std::nullopt);
+    int setups = 0;
+    QObject::connect(keeper.get(), &SetupKeeper::setupChanged, [&] {
+        if (!keeper->setup())
+            return;
+        // A panel records what it finds as soon as it is shown.
+        keeper->setup()->savePanel();
+        ++setups;
+    });
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([&] { return setups == 1 && session->isSettled() && knows(); }));
+    EXPECT_EQ(chosen("KvCutMark"), QByteArray("OFF"));
+    cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvHalfCut", "KvMirror"}).ppd());
+    session->start(host::Discovery::No);
+    ASSERT_TRUE(waitFor([&] { return setups == 2 && session->isSettled() && knows(); }));
+    EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
+    ASSERT_EQ(session->chosen()->queue, QStringLiteral("tape"));
+    makeDefault("labels");
+    session->start(host::Discovery::No);
+    EXPECT_TRUE(waitFor([this] { return session->chosen()->queue == QStringLiteral("labels"); }));
+}
+
 TEST_F(SetupKeeperTest, TheLastDestinationIsKnownAtOnceAndTheOthersFollow)
 {
     openAndSettle(QStringLiteral("tape"));
