@@ -2,6 +2,7 @@
 #include "Destination.h"
 
 #include <QCborArray>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -33,6 +34,17 @@ constexpr std::pair<const char *, std::vector<NamedValue> Destination::*> option
 QString key(const char *name)
 {
     return QString::fromLatin1(name);
+}
+
+/// The name in an address such as "ipps://Label%20printer._ipps._tcp.local/"; empty for other addresses.
+QString announcedName(const QString &deviceUri)
+{
+    const QString scheme = QStringLiteral("://");
+    const qsizetype start = deviceUri.indexOf(scheme) + scheme.size();
+    const QString host = deviceUri.mid(start, deviceUri.indexOf(u'/', start) - start);
+    const qsizetype transport = host.lastIndexOf(QStringLiteral("._tcp"));
+    const qsizetype service = transport < 0 ? -1 : host.left(transport).lastIndexOf(QStringLiteral("._"));
+    return service < 0 ? QString() : QUrl::fromPercentEncoding(host.left(service).toUtf8());
 }
 
 } // namespace
@@ -97,6 +109,16 @@ std::optional<Destination> Destination::fromCbor(const QCborMap &map)
     if (destination.queue.isEmpty())
         return std::nullopt;
     return destination;
+}
+
+bool isSamePrinter(const Destination &one, const Destination &other)
+{
+    if (one.queue == other.queue)
+        return true;
+    if (one.deviceUri.isEmpty() || other.deviceUri.isEmpty())
+        return false;
+    const QString name = announcedName(one.deviceUri);
+    return one.deviceUri == other.deviceUri || (!name.isEmpty() && name == announcedName(other.deviceUri));
 }
 
 std::pair<QString, std::optional<QString>> splitDestinationName(const QString &name)

@@ -40,7 +40,7 @@ struct Destination {
     bool isClass = false;
     /// The queues of a class.
     QStringList members;
-    /// Found on the network; the server gets a queue for it when it is first used.
+    /// Found on the network; the server gets a queue for it when it is used, and drops it when it is not.
     bool isDiscovered = false;
     /// Where jobs go that name no destination.
     bool isDefault = false;
@@ -69,6 +69,10 @@ struct Destination {
 
     bool operator==(const Destination &) const = default;
 };
+
+/// Whether both lead to one printer: under one queue name, at one address, or by the name under which it
+/// announces itself on the network (DNS-SD), whatever protocol the address names.
+bool isSamePrinter(const Destination &one, const Destination &other);
 
 /// Splits "queue/instance" at its last slash, as lp does.
 std::pair<QString, std::optional<QString>> splitDestinationName(const QString &name);

@@ -104,16 +104,19 @@ void DestinationList::take(std::vector<Destination> destinations)
 
 void DestinationList::addDiscovered(const Destination &destination)
 {
-    // The server has a queue for the printer already.
-    const bool known =
-        std::any_of(m_destinations.begin(), m_destinations.end(), [&](const Destination &each) {
-            return each.queue == destination.queue ||
-                   (!each.deviceUri.isEmpty() && each.deviceUri == destination.deviceUri);
-        });
-    if (known)
+    // The server may have a queue for the printer already.
+    const auto isIt = [&](const Destination &each) { return isSamePrinter(each, destination); };
+    if (std::ranges::any_of(m_destinations, isIt))
         return;
     m_destinations.push_back(destination);
     Q_EMIT changed();
+}
+
+void DestinationList::update(const Destination &destination)
+{
+    const auto found = std::ranges::find(m_destinations, destination.name(), &Destination::name);
+    if (found != m_destinations.end())
+        *found = destination;
 }
 
 const Destination *DestinationList::find(const QString &name) const

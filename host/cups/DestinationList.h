@@ -24,6 +24,8 @@ public:
     /// default one. When that is known at once, the others come with changed() after refresh().
     DestinationList(CupsServer server, const std::optional<QString> &first, QObject *parent = nullptr);
 
+    /// Takes over what became known of one of them since, so that the list is never behind. Tells nobody.
+    void update(const Destination &destination);
     /// Asks the server. Discovery goes on for some seconds after refreshed().
     void refresh(Discovery discovery = Discovery::No);
 

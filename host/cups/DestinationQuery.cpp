@@ -18,6 +18,7 @@ constexpr std::array requestedAttributes = {
     "printer-location",
     "printer-name",
     "printer-is-accepting-jobs",
+    "printer-is-temporary",
     "printer-make-and-model",
     "printer-state",
     "printer-state-message",
@@ -78,8 +79,19 @@ void takeAttribute(Destination &destination, ipp_attribute_t *attribute)
         destination.configured = ippGetInteger(attribute, 0);
     else if (name == "printer-is-accepting-jobs")
         destination.acceptsJobs = ippGetBoolean(attribute, 0) != 0;
+    else if (name == "printer-is-temporary")
+        destination.isDiscovered = ippGetBoolean(attribute, 0) != 0;
     else if (name.endsWith("-default"))
         destination.queueOptions.push_back({name.chopped(8), valueText(attribute)});
+}
+
+/// As long as a server makes a queue for a discovered printer, it has it stopped. Nobody has stopped it.
+void passOverMaking(Destination &destination)
+{
+    if (destination.isDiscovered && destination.state == QueueState::Paused && !destination.acceptsJobs) {
+        destination.state = QueueState::Unknown;
+        destination.acceptsJobs = true;
+    }
 }
 
 /// The printers of an answer; each is a group of attributes.
@@ -96,8 +108,10 @@ std::vector<Destination> readDestinations(ipp_t *answer)
             takeAttribute(destinations.back(), each);
     }
     std::erase_if(destinations, [](const Destination &each) { return each.queue.isEmpty(); });
-    for (Destination &each : destinations)
+    for (Destination &each : destinations) {
         each.stateReasons.removeAll(QStringLiteral("none"));
+        passOverMaking(each);
+    }
     return destinations;
 }
 
@@ -136,6 +150,7 @@ void markDefault(std::vector<Destination> &destinations, const QString &name)
 
 struct Discovery {
     BackgroundTask &task;
+    const LpOptions lpOptions = LpOptions::read();
     const std::function<void(const Destination &)> &found;
 };
 
@@ -153,6 +168,7 @@ int discovered(void *data, unsigned flags, cups_dest_t *dest)
         destination.makeAndModel = option("printer-make-and-model");
         destination.deviceUri = option("device-uri");
         destination.isDiscovered = true;
+        destination.userOptions = discovery.lpOptions.options(destination.queue, std::nullopt);
         discovery.found(destination);
     }
     return discovery.task.isCancelled() ? 0 : 1;
@@ -200,7 +216,7 @@ void discoverDestinations(const CupsServer &server, BackgroundTask &task, std::c
                           const std::function<void(const Destination &)> &found)
 {
     server.applyToThread();
-    Discovery discovery{task, found};
+    Discovery discovery{.task = task, .found = found};
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, static_cast<int>(time.count()), task.cancelFlag(),
                   CUPS_PRINTER_DISCOVERED, CUPS_PRINTER_DISCOVERED, discovered, &discovery);
 }

@@ -1,24 +1,126 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DiscoveredQueue.h"
 
+#include "DestinationQuery.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+
+#include <array>
+
 namespace host {
 
-std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination)
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::DiscoveredQueue)
+};
+
+/// How often a server is asked whether it has made a queue.
+constexpr std::chrono::milliseconds pauseBetweenLooks{50};
+
+struct DestinationsDelete {
+    void operator()(cups_dest_t *dest) const { cupsFreeDests(1, dest); }
+};
+struct HttpClose {
+    void operator()(http_t *http) const { httpClose(http); }
+};
+
+/// Printers are announced under a name of their service, "ipps://Labels._ipps._tcp.local/", whose host and
+/// port must be looked up.
+bool isAnnouncedName(const QByteArray &uri)
+{
+    return uri.contains("._tcp");
+}
+
+/// Where the printer is now; nothing when it is not on the network any more. Print servers could look the
+/// name up by themselves, but cupsd 2.4 crashes later when it did.
+std::optional<QByteArray> lookUp(const Destination &destination, BackgroundTask &task,
+                                 std::chrono::milliseconds patience)
+{
+    const QByteArray announced = destination.deviceUri.toUtf8();
+    if (!isAnnouncedName(announced))
+        return announced;
+    cups_dest_t *added = nullptr;
+    cupsAddDest(destination.queue.toUtf8().constData(), nullptr, 0, &added);
+    const std::unique_ptr<cups_dest_t, DestinationsDelete> dest(added);
+    dest->num_options = cupsAddOption("device-uri", announced.constData(), dest->num_options, &dest->options);
+    // It puts the answer in the place of the name; nobody connects.
+    std::array<char, HTTP_MAX_URI> resource = {};
+    const std::unique_ptr<http_t, HttpClose> http(cupsConnectDest(
+        dest.get(), CUPS_DEST_FLAGS_DEVICE | CUPS_DEST_FLAGS_UNCONNECTED, static_cast<int>(patience.count()),
+        task.cancelFlag(), resource.data(), resource.size(), nullptr, nullptr));
+    const QByteArray found = cupsGetOption("device-uri", dest->num_options, dest->options);
+    return http && !isAnnouncedName(found) ? std::optional(found) : std::nullopt;
+}
+
+IppPointer creationRequest(const Destination &destination, const QByteArray &deviceUri)
+{
+    IppPointer request(ippNewRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER));
+    const auto add = [&](ipp_tag_t tag, const char *name, const QByteArray &value) {
+        ippAddString(request.get(), IPP_TAG_PRINTER, tag, name, nullptr, value.constData());
+    };
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    add(IPP_TAG_URI, "device-uri", deviceUri);
+    add(IPP_TAG_NAME, "printer-name", destination.queue.toUtf8());
+    add(IPP_TAG_TEXT, "printer-info", destination.description.toUtf8());
+    add(IPP_TAG_TEXT, "printer-location", destination.location.toUtf8());
+    return request;
+}
+
+/// Whether the server has the queue and is done with it; it asks the printer what it can do before that.
+Result<bool, CupsError> isMade(CupsConnection &connection, const QString &queue)
+{
+    const Result<Destination, CupsError> now = queryDestination(connection, queue, std::nullopt);
+    if (!now)
+        return now.error();
+    return now.value().state != QueueState::Unknown;
+}
+
+std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString &queue, BackgroundTask &task)
+{
+    const QDeadlineTimer deadline(connection.server().patience);
+    for (;; task.pause(pauseBetweenLooks)) {
+        const Result<bool, CupsError> made = isMade(connection, queue);
+        if (!made)
+            return made.error();
+        if (made.value())
+            return std::nullopt;
+        if (deadline.hasExpired())
+            return CupsError{CupsFailure::NotFound,
+                             Text::tr("The print server \"%1\" cannot reach the printer \"%2\".")
+                                 .arg(connection.server().displayName(), queue)};
+    }
+}
+
+} // namespace
+
+std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
+                                     BackgroundTask &task)
 {
     if (!destination.isDiscovered)
         return std::nullopt;
-    const auto add = [&](ipp_t *request, ipp_tag_t tag, const char *name, const QString &value) {
-        ippAddString(request, IPP_TAG_PRINTER, tag, name, nullptr, value.toUtf8().constData());
-    };
-    IppPointer request(ippNewRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    add(request.get(), IPP_TAG_URI, "device-uri", destination.deviceUri);
-    add(request.get(), IPP_TAG_NAME, "printer-name", destination.queue);
-    add(request.get(), IPP_TAG_TEXT, "printer-info", destination.description);
-    add(request.get(), IPP_TAG_TEXT, "printer-location", destination.location);
-    const Result<IppPointer, CupsError> answer = connection.exchange(std::move(request), "/");
-    return answer ? std::nullopt : std::optional(answer.error());
+    const Result<bool, CupsError> made = isMade(connection, destination.queue);
+    if (made && made.value())
+        return std::nullopt;
+    if (!made && made.error().kind != CupsFailure::NotFound)
+        return made.error();
+    if (!made) {
+        const std::optional<QByteArray> deviceUri = lookUp(destination, task, connection.server().patience);
+        if (!deviceUri && task.isCancelled())
+            return connection.noAnswer();
+        if (!deviceUri)
+            return CupsError{
+                CupsFailure::NotFound,
+                Text::tr("The printer \"%1\" is not on the network any more.").arg(destination.queue)};
+        const Result<IppPointer, CupsError> answer =
+            connection.exchange(creationRequest(destination, *deviceUri), "/");
+        // Another program may have asked for the same queue meanwhile, which is as good.
+        if (!answer && !isMade(connection, destination.queue))
+            return answer.error();
+    }
+    return waitUntilMade(connection, destination.queue, task);
 }
 
 } // namespace host

@@ -6,8 +6,11 @@
 
 namespace host {
 
-/// Has the server make a queue for a printer that was discovered on the network; nothing to do for all
-/// others. For tasks in the background. Nothing, or why there is no queue.
-std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination);
+/// Has the server make a queue for a printer that was discovered on the network, and waits until it is ready
+/// to be used; nothing to do for all others, and for one that has its queue already. The server drops such a
+/// queue when nobody has used it for a minute, so this is asked for before every use. For the connection's
+/// task in the background. Nothing, or why there is no queue.
+std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
+                                     BackgroundTask &task);
 
 } // namespace host

@@ -164,7 +164,7 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return connection.error();
-    if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination))
+    if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination, task))
         return *error;
     if (task.isCancelled())
         return connection.value().lastError();

@@ -127,7 +127,7 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return {nullptr, connection.error(), false};
-    if (const std::optional<CupsError> error = ensureQueue(connection.value(), destination))
+    if (const std::optional<CupsError> error = ensureQueue(connection.value(), destination, task))
         return {nullptr, error, false};
 
     const QueueCache cache(server);

@@ -199,6 +199,7 @@ void QueueSession::takeNews(Destination news)
     // One queue's answer does not tell where jobs go by default, nor how the queue was found.
     news.isDefault = m_chosen->isDefault;
     news.isDiscovered = m_chosen->isDiscovered;
+    m_destinations.update(news);
     takeState(news);
     recover();
 }
@@ -220,7 +221,10 @@ void QueueSession::setChosen(const Destination &destination)
         m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
         connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
         connect(m_monitor.get(), &QueueMonitor::failed, this, [this](const CupsError &error) {
-            tell(error.kind == CupsFailure::NotFound ? noSuchDestination() : error);
+            // A discovered printer has no queue as long as nobody uses it.
+            const bool isMissing = error.kind == CupsFailure::NotFound;
+            if (!isMissing || !m_chosen->isDiscovered)
+                tell(isMissing ? noSuchDestination() : error);
         });
     }
     if (isAnother)

@@ -86,9 +86,12 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     const bool mayBeDiscovered = !session.chosen() && failure && failure->kind == host::CupsFailure::NotFound;
     if (mayBeDiscovered) {
         session.start(host::Discovery::Yes);
-        const auto isThere = [&] { return session.chosen() && isPpdKnown(session); };
-        if (waitUntil(session, m_signals, isThere, discoveryPatience))
+        const auto isThere = [&] { return session.chosen().has_value(); };
+        if (waitUntil(session, m_signals, isThere, discoveryPatience)) {
             failure.reset();
+            // The server asks the printer what it can do before there is a PPD.
+            waitUntil(session, m_signals, [&] { return isPpdKnown(session); });
+        }
     }
     if (m_signals.signal())
         return nullptr;

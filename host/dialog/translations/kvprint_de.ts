@@ -951,6 +951,17 @@
     </message>
 </context>
 <context>
+    <name>host::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ kann den Drucker „%2“ nicht erreichen.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>Der Drucker „%1“ ist nicht mehr im Netz.</translation>
+    </message>
+</context>
+<context>
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>

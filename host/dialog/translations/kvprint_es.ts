@@ -950,6 +950,17 @@
     </message>
 </context>
 <context>
+    <name>host::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no puede comunicarse con la impresora «%2».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>La impresora «%1» ya no está en la red.</translation>
+    </message>
+</context>
+<context>
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>

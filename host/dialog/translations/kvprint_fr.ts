@@ -951,6 +951,17 @@
     </message>
 </context>
 <context>
+    <name>host::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » ne peut pas joindre l’imprimante « %2 ».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>L’imprimante « %1 » n’est plus sur le réseau.</translation>
+    </message>
+</context>
+<context>
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>

@@ -951,6 +951,17 @@
     </message>
 </context>
 <context>
+    <name>host::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non riesce a raggiungere la stampante &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>La stampante &quot;%1&quot; non è più in rete.</translation>
+    </message>
+</context>
+<context>
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>

@@ -949,6 +949,17 @@
     </message>
 </context>
 <context>
+    <name>host::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」はプリンター「%2」に接続できません。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>プリンター「%1」はネットワーク上に見つからなくなりました。</translation>
+    </message>
+</context>
+<context>
     <name>host::DocumentSource</name>
     <message>
         <source>Cannot read the document &quot;%1&quot;: %2</source>
