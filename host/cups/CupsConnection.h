@@ -19,6 +19,12 @@ struct IppDelete {
 /// Owns an IPP request or answer.
 using IppPointer = std::unique_ptr<ipp_t, IppDelete>;
 
+struct HttpClose {
+    void operator()(http_t *http) const { httpClose(http); }
+};
+/// Owns a connection of libcups.
+using HttpPointer = std::unique_ptr<http_t, HttpClose>;
+
 /// A connection to a CUPS server for one task in the background. It gives up as soon as the task is
 /// cancelled, or when the server has been silent for longer than the server's patience, neither saying nor
 /// taking anything; libcups alone would wait for a minute and more.
@@ -74,9 +80,6 @@ public:
     CupsError noAnswer() const;
 
 private:
-    struct Close {
-        void operator()(http_t *http) const { httpClose(http); }
-    };
     /// What callbacks of libcups get to see; stays where it is when the connection is moved.
     struct State {
         CupsServer server;
@@ -115,7 +118,7 @@ private:
                                 void *state);
 
     std::unique_ptr<State> m_state;
-    std::unique_ptr<http_t, Close> m_http;
+    HttpPointer m_http;
 };
 
 /// The address of a queue or class on whatever server it is sent to.

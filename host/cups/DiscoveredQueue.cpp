@@ -22,9 +22,6 @@ constexpr std::chrono::milliseconds pauseBetweenLooks{50};
 struct DestinationsDelete {
     void operator()(cups_dest_t *dest) const { cupsFreeDests(1, dest); }
 };
-struct HttpClose {
-    void operator()(http_t *http) const { httpClose(http); }
-};
 
 /// Printers are announced under a name of their service, "ipps://Labels._ipps._tcp.local/", whose host and
 /// port must be looked up.
@@ -47,9 +44,9 @@ std::optional<QByteArray> lookUp(const Destination &destination, BackgroundTask 
     dest->num_options = cupsAddOption("device-uri", announced.constData(), dest->num_options, &dest->options);
     // It puts the answer in the place of the name; nobody connects.
     std::array<char, HTTP_MAX_URI> resource = {};
-    const std::unique_ptr<http_t, HttpClose> http(cupsConnectDest(
-        dest.get(), CUPS_DEST_FLAGS_DEVICE | CUPS_DEST_FLAGS_UNCONNECTED, static_cast<int>(patience.count()),
-        task.cancelFlag(), resource.data(), resource.size(), nullptr, nullptr));
+    const HttpPointer http(cupsConnectDest(dest.get(), CUPS_DEST_FLAGS_DEVICE | CUPS_DEST_FLAGS_UNCONNECTED,
+                                           static_cast<int>(patience.count()), task.cancelFlag(),
+                                           resource.data(), resource.size(), nullptr, nullptr));
     const QByteArray found = cupsGetOption("device-uri", dest->num_options, dest->options);
     return http && !isAnnouncedName(found) ? std::optional(found) : std::nullopt;
 }

@@ -177,31 +177,22 @@ TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
     EXPECT_EQ(job.problems, QStringList());
 }
 
-TEST_F(PrintingTest, AJobThatIsTakenBackIsCancelledThoughTheServerKeepsNoRecord)
+TEST_F(PrintingTest, AJobThatIsTakenBackIsCancelledWhateverTheServerKeeps)
 {
-    cupsd.configure("PreserveJobHistory No\n");
-    cupsd.pause(QStringLiteral("tape"));
-    const Outcome outcome = print(ticket());
-    ASSERT_TRUE(outcome.jobId);
-    Followed job(server, *outcome.jobId);
-    EXPECT_TRUE(waitFor([&] { return job.last.jobId != 0; }));
-    job.monitor.cancelJob();
-    EXPECT_TRUE(waitFor([&] { return job.last.isOver(); }));
-    EXPECT_EQ(job.last.state, JobState::Cancelled);
-    EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Cancelled.")});
-    EXPECT_EQ(job.problems, QStringList());
-}
-
-TEST_F(PrintingTest, AJobCanBeTakenBackAfterIt)
-{
-    cupsd.pause(QStringLiteral("tape"));
-    const Outcome outcome = print(ticket());
-    ASSERT_TRUE(outcome.jobId);
-    Followed job(server, *outcome.jobId);
-    EXPECT_TRUE(waitFor([&] { return job.last.jobId != 0; }));
-    job.monitor.cancelJob();
-    EXPECT_TRUE(waitFor([&] { return job.last.isOver(); }));
-    EXPECT_EQ(job.last.state, JobState::Cancelled);
+    for (const char *const lines : {"", "PreserveJobHistory No\n"}) {
+        SCOPED_TRACE(lines);
+        cupsd.configure(lines);
+        cupsd.pause(QStringLiteral("tape"));
+        const Outcome outcome = print(ticket());
+        ASSERT_TRUE(outcome.jobId);
+        Followed job(server, *outcome.jobId);
+        EXPECT_TRUE(waitFor([&] { return job.last.jobId != 0; }));
+        job.monitor.cancelJob();
+        EXPECT_TRUE(waitFor([&] { return job.last.isOver(); }));
+        EXPECT_EQ(job.last.state, JobState::Cancelled);
+        EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Cancelled.")});
+        EXPECT_EQ(job.problems, QStringList());
+    }
 }
 
 namespace {

@@ -70,6 +70,11 @@ protected:
         return found == choices.end() ? QByteArray("(none)") : found->value;
     }
 
+    static void makeDefault(const char *queue)
+    {
+        cupsd->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QString::fromLatin1(queue)});
+    }
+
     inline static std::unique_ptr<PrivateCupsd> cupsd;
     const host::PanelSource source{QStringLiteral(KV_BINARY_DIR "/bin"), {}};
     host::CupsServer server;
@@ -221,9 +226,6 @@ TEST_F(SetupKeeperTest, TheDefaultQueueIsChosenAndWithoutOneTheFirst)
 
 TEST_F(SetupKeeperTest, AnotherDefaultTakesNoPrinterFromUnderTheUser)
 {
-    const auto makeDefault = [](const char *queue) {
-        cupsd->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QString::fromLatin1(queue)});
-    };
     for (const bool sets : {false, true}) {
         SCOPED_TRACE(sets);
         makeDefault("tape");
@@ -243,9 +245,6 @@ TEST_F(SetupKeeperTest, AnotherDefaultTakesNoPrinterFromUnderTheUser)
 
 TEST_F(SetupKeeperTest, AReplacedPpdIsNothingThatTheUserHasSet)
 {
-    const auto makeDefault = [](const char *queue) {
-        cupsd->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QString::fromLatin1(queue)});
-    };
     makeDefault("tape");
     open(std::nullopt);
     int setups = 0;
