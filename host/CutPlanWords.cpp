@@ -24,6 +24,8 @@ bool any(const CutPlan &plan, bool LabelEnd::*what)
 QString fullCutSentence(const CutPlan &plan)
 {
     const CutSettings &settings = plan.settings();
+    if (!settings.areKnown)
+        return Text::tr("The printer's description does not say whether it cuts the labels.");
     if (!any(plan, &LabelEnd::fullCut))
         return Text::tr("No full cut: the labels come out as one strip.");
     if (!settings.automaticCut)
@@ -68,6 +70,10 @@ QString lengthInWords(double millimetres)
 QString cutPlanFigures(const CutPlan &plan)
 {
     const QLocale locale;
+    if (!plan.settings().areKnown)
+        return Text::tr("Labels: %1 \u00b7 Tape: %2")
+            .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
+                 lengthInWords(plan.tapeUsed()));
     return Text::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
         .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
              locale.toString(static_cast<qulonglong>(plan.pieces().size())), lengthInWords(plan.tapeUsed()));

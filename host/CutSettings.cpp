@@ -52,6 +52,7 @@ bool CutSettings::areKnownTo(const PpdFile &ppd)
 CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &recorded)
 {
     CutSettings settings;
+    settings.areKnown = areKnownTo(ppd);
     for (const auto &[keyword, field] : switches)
         settings.*field = isOn(ppd, recorded, keyword);
     const std::optional<QString> count = effectiveChoice(ppd, recorded, QStringLiteral("KvCutLabel"));

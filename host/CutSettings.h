@@ -20,6 +20,9 @@ struct CutSettings {
     bool mirror = false;
     bool removeBlank = false;
     bool cutMark = false;
+    /// False when the PPD has none of these options: such a printer may cut as it likes, and the settings say
+    /// nothing about it.
+    bool areKnown = true;
 
     /// Whether the PPD has any option of these.
     static bool areKnownTo(const PpdFile &ppd);

@@ -46,11 +46,4 @@ void DialogState::changeOption(const std::optional<QString> &keyword, const std:
     }
 }
 
-void DialogState::putBack(const std::vector<std::pair<QString, QString>> &marked, RecordedChoices recorded)
-{
-    for (const auto &[keyword, choice] : marked)
-        m_ppd.mark(keyword, choice);
-    m_recorded = std::move(recorded);
-}
-
 } // namespace host

@@ -57,10 +57,6 @@ public:
     void changeOption(const std::optional<QString> &keyword, const std::optional<QString> &choice,
                       const PanelHost *origin);
 
-    /// Marks these choices again, keyword and choice, and records what was recorded before, for who only
-    /// tried something out. Nobody is told: panels show what they showed all the time.
-    void putBack(const std::vector<std::pair<QString, QString>> &marked, RecordedChoices recorded);
-
     /// What panels and dialog have chosen for the job, in the order of the first choosing.
     const RecordedChoices &recorded() const { return m_recorded; }
 

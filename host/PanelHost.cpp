@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PanelHost.h"
 
+#include <QScopedValueRollback>
+
 namespace host {
 
 PanelHost::PanelHost(std::shared_ptr<DialogState> state)
@@ -27,6 +29,14 @@ void PanelHost::tellPanels(const std::optional<QString> &keyword, const std::opt
     }
 }
 
+PDEChoices PanelHost::collect(const std::function<void()> &ask)
+{
+    PDEChoices collected;
+    const QScopedValueRollback collecting(m_collected, &collected);
+    ask();
+    return collected;
+}
+
 void PanelHost::setWillChangeHook(std::function<void(const QString &, const std::optional<QString> &)> hook)
 {
     m_willChange = std::move(hook);
@@ -34,6 +44,11 @@ void PanelHost::setWillChangeHook(std::function<void(const QString &, const std:
 
 void PanelHost::willChangePPDOptionKeyValue(const QString &key, const std::optional<QString> &choice)
 {
+    if (m_collected) {
+        if (choice)
+            setChoice(*m_collected, key, *choice);
+        return;
+    }
     if (m_willChange)
         m_willChange(key, choice);
     if (!choice)

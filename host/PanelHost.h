@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DialogState.h"
+#include "PanelSettings.h"
 #include "PpdForPanels.h"
 
 #include <plugin/protocol/PDEPlugIn.h>
@@ -28,6 +29,11 @@ public:
     /// Tells these panels of a change that was made elsewhere.
     void tellPanels(const std::optional<QString> &keyword, const std::optional<QString> &choice);
 
+    /// Runs the function, which asks these panels something. What they want to change meanwhile is collected
+    /// and not carried out: nothing is marked, recorded, or reported to other panels, and no hook is called.
+    /// Each keyword once, with the choice that was asked for last.
+    PDEChoices collect(const std::function<void()> &ask);
+
     /// Called for every change that a panel asks for, before it is carried out; may be empty.
     void setWillChangeHook(std::function<void(const QString &, const std::optional<QString> &)> hook);
     /// Called after a panel's change is marked, recorded and told; may be empty.
@@ -48,6 +54,8 @@ public:
 private:
     std::shared_ptr<DialogState> m_state;
     std::vector<std::weak_ptr<PDEPanel>> m_panels;
+    /// Where changes are collected; null while they are carried out.
+    PDEChoices *m_collected = nullptr;
     std::function<void(const QString &, const std::optional<QString> &)> m_willChange;
     std::function<void()> m_didChange;
     std::function<void()> m_didResize;

@@ -1,7 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PanelSession.h"
 
+#include <QCoreApplication>
+
 namespace host {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(host::PrinterSetup)
+};
+
+} // namespace
 
 PanelSession::PanelSession(PanelBundle bundle, std::shared_ptr<PanelHost> host, const QString &type)
     : m_bundle(std::move(bundle))
@@ -22,6 +32,32 @@ QStringList PanelSession::claimKeywords() const
     for (const std::shared_ptr<PDEPanel> &panel : m_panels.value_or(PDEPanelList()))
         keywords += panel->supportedPPDOptionKeys().value_or(QStringList());
     return keywords;
+}
+
+PanelSettings PanelSession::settings() const
+{
+    PDEPanel *const panel = firstPanel();
+    if (!panel)
+        return {};
+    PanelSettings settings;
+    settings.choices = m_host->collect([&] {
+        QString error;
+        if (!panel->saveValuesAndReturnError(&error))
+            settings.refusal = Text::tr("\"%1\" cannot save its settings: %2").arg(panel->panelName(), error);
+    });
+    if (settings.refusal)
+        return settings;
+    const PDEChoices completed = m_host->collect([&] {
+        if (!panel->shouldPrint())
+            settings.refusal = Text::tr("\"%1\" does not let the job be printed with these settings.")
+                                   .arg(panel->panelName());
+    });
+    // The check completes options that have no mark. Those that saving has written would have one by now.
+    for (const auto &[keyword, choice] : completed) {
+        if (!settings.choice(keyword))
+            settings.choices.emplace_back(keyword, choice);
+    }
+    return settings;
 }
 
 } // namespace host

@@ -22,6 +22,10 @@ public:
     /// before any panel's view is loaded: a panel hands over its settings when it is asked, and those
     /// of controls that are there but not yet filled would replace what the PPD has marked.
     QStringList claimKeywords() const;
+    /// What the first panel would save, and whether it would let the job be printed. Asks it by letting it
+    /// save and check without carrying out what it wants to change, so that nothing changes and asking again
+    /// gives the same. Empty without a panel.
+    PanelSettings settings() const;
     PanelHost &host() const { return *m_host; }
     const PanelBundle &bundle() const { return m_bundle; }
 

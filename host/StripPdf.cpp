@@ -48,21 +48,20 @@ std::vector<Segment> segmentsOf(const StripLayout &layout)
     return segments;
 }
 
-QStringList headLines(const PrintJob &job)
+QStringList headLines(const PrintedStrip &strip)
 {
-    QStringList lines{Text::tr("%1 on %2, %3")
-                          .arg(job.document().title(), job.state().ppd().printerName(), job.paper().text),
-                      cutPlanFigures(job.plan())};
-    return lines + cutPlanSentences(job.plan());
+    QStringList lines{Text::tr("%1 on %2, %3").arg(strip.document, strip.printer, strip.paper),
+                      cutPlanFigures(strip.plan)};
+    return lines + cutPlanSentences(strip.plan);
 }
 
 class PdfStrip {
 public:
-    PdfStrip(const PrintJob &job, QIODevice *device)
-        : m_job(job)
-        , m_layout(job.plan(), job.renderer().labelSize().height(), unit)
+    PdfStrip(const PrintedStrip &strip, QIODevice *device)
+        : m_strip(strip)
+        , m_layout(strip.plan, strip.renderer.labelSize().height(), unit)
         , m_writer(device)
-        , m_lines(headLines(job))
+        , m_lines(headLines(strip))
         , m_segments(segmentsOf(m_layout))
     {
         m_writer.setResolution(coordinateResolution);
@@ -107,10 +106,10 @@ private:
         painter.translate(margin, margin);
         paintHead(painter);
         painter.translate(-segment.left, headHeight() + margin - m_layout.bounds().top());
-        const StripPainter strip(m_layout, m_job.renderer(), StripColors::forPaper(), labelResolution);
+        const StripPainter painted(m_layout, m_strip.renderer, StripColors::forPaper(), labelResolution);
         painter.setClipRect(QRectF(segment.left, m_layout.bounds().top(), segment.right - segment.left,
                                    m_layout.bounds().height()));
-        strip.paint(painter, segment.left, segment.right);
+        painted.paint(painter, segment.left, segment.right);
         painter.restore();
     }
 
@@ -130,7 +129,7 @@ private:
         painter.restore();
     }
 
-    const PrintJob &m_job;
+    const PrintedStrip &m_strip;
     StripLayout m_layout;
     QPdfWriter m_writer;
     QStringList m_lines;
@@ -139,9 +138,9 @@ private:
 
 } // namespace
 
-bool writeStripPdf(const PrintJob &job, QIODevice *device)
+bool writeStripPdf(const PrintedStrip &strip, QIODevice *device)
 {
-    return PdfStrip(job, device).write();
+    return PdfStrip(strip, device).write();
 }
 
 } // namespace host

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QStandardPaths>
 
 namespace host {
@@ -17,13 +16,13 @@ const QString VirtualPrinter::stripName = QStringLiteral("strip.pdf");
 const QString VirtualPrinter::jobName = QStringLiteral("job.json");
 const QString VirtualPrinter::dialogName = QStringLiteral("dialog.png");
 
-std::optional<OutputError> VirtualPrinter::print(const PrintJob &job, const QImage &dialog,
-                                                 const QString &folder)
+std::optional<OutputError> VirtualPrinter::print(const PrintedStrip &strip, const QJsonObject &job,
+                                                 const QImage &dialog, const QString &folder)
 {
     OutputFiles files(folder);
-    files.write(stripName, [&](QIODevice *device) { return writeStripPdf(job, device); });
+    files.write(stripName, [&](QIODevice *device) { return writeStripPdf(strip, device); });
     files.write(jobName, [&](QIODevice *device) {
-        const QByteArray text = QJsonDocument(printJobJson(job)).toJson();
+        const QByteArray text = QJsonDocument(job).toJson();
         return device->write(text) == text.size();
     });
     if (!dialog.isNull())

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "PrintJob.h"
+#include "Result.h"
+#include "StripPdf.h"
 
 #include <QImage>
-#include <QStringList>
+#include <QJsonObject>
 
 namespace host {
 
@@ -23,10 +24,12 @@ public:
     static const QString jobName;
     static const QString dialogName;
 
-    /// Prints into the folder, which is made when it is not there. A picture of the dialog is put beside the
+    /// Prints the strip and the job's options, for programs, into the folder, which is made when it is not there.
+    /// A picture of the dialog is put beside the
     /// strip unless it is null. Either all files are there afterwards or, as far as the file system
     /// permits, none of them is, nor a folder that was made for them.
-    static std::optional<OutputError> print(const PrintJob &job, const QImage &dialog, const QString &folder);
+    static std::optional<OutputError> print(const PrintedStrip &strip, const QJsonObject &job,
+                                            const QImage &dialog, const QString &folder);
 
     /// A folder of its own for one job, named after the time, among the user's data. Not made yet.
     static QString freshFolder();

@@ -77,8 +77,24 @@ std::optional<int> ConstraintTerms::findChoice(int option, const QByteArray &nam
     return found == positions.constEnd() ? std::nullopt : std::optional(*found);
 }
 
-void ConstraintTerms::readMarks(int option, Marks &marks) const
+QHash<int, int> ConstraintTerms::positions(const PDEChoices &choices) const
 {
+    QHash<int, int> positions;
+    for (const auto &[keyword, choice] : choices) {
+        const std::optional<int> option = m_optionPositions.value(keyword.toUtf8().toLower());
+        if (const std::optional<int> position = option ? findChoice(*option, choice.toUtf8()) : std::nullopt)
+            positions.insert(*option, *position);
+    }
+    return positions;
+}
+
+void ConstraintTerms::readMarks(int option, const QHash<int, int> &instead, Marks &marks) const
+{
+    if (const auto choice = instead.constFind(option); choice != instead.constEnd()) {
+        marks.choices.push_back({*choice});
+        marks.last.emplace_back(*choice);
+        return;
+    }
     const std::vector<QByteArray> marked = m_ppdOptions.markedChoices(this->option(option).keyword);
     const QSet<QByteArray> names(marked.begin(), marked.end());
     const std::vector<QByteArray> &choices = this->option(option).choices;
@@ -92,8 +108,9 @@ void ConstraintTerms::readMarks(int option, Marks &marks) const
     }
 }
 
-ConstraintTerms::Marks ConstraintTerms::marks() const
+ConstraintTerms::Marks ConstraintTerms::marks(const PDEChoices &instead) const
 {
+    const QHash<int, int> choices = positions(instead);
     // PageRegion follows PageSize, whatever is marked for it.
     std::vector<QByteArray> paper = m_ppdOptions.markedChoices("PageSize");
     if (paper.empty())
@@ -101,7 +118,7 @@ ConstraintTerms::Marks ConstraintTerms::marks() const
     Marks marks;
     std::vector<std::optional<int>> papers;
     for (int i = 0; i < static_cast<int>(m_options.size()); ++i) {
-        readMarks(i, marks);
+        readMarks(i, choices, marks);
         const bool hasPaper = option(i).isPaper && !paper.empty();
         papers.push_back(hasPaper ? findChoice(i, paper.front()) : std::nullopt);
     }

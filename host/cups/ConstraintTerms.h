@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <host/PanelSettings.h>
 #include <host/PpdOptions.h>
 
 #include <QHash>
@@ -50,7 +51,8 @@ public:
     const Term &term(int number) const { return m_terms[static_cast<std::size_t>(number)]; }
     const Option &option(int position) const { return m_options[static_cast<std::size_t>(position)]; }
     const Option &optionOf(int number) const { return option(term(number).option); }
-    Marks marks() const;
+    /// What is marked; an option among the given choices counts as marked with that choice, where it has it.
+    Marks marks(const PDEChoices &instead = {}) const;
     /// Whether the term would be true if its option had the choice.
     bool holdsWith(int number, int choice) const;
     /// A choice that a constraint without a choice does not mean.
@@ -60,7 +62,8 @@ private:
     std::optional<int> findOption(const QByteArray &keyword);
     int addOption(const PpdOption &option);
     std::optional<int> findChoice(int option, const QByteArray &name) const;
-    void readMarks(int option, Marks &marks) const;
+    void readMarks(int option, const QHash<int, int> &instead, Marks &marks) const;
+    QHash<int, int> positions(const PDEChoices &choices) const;
     bool holds(const Term &term, const Marks &marks, const std::vector<std::optional<int>> &papers) const;
 
     PpdOptions m_ppdOptions;

@@ -210,9 +210,9 @@ ConflictSide Constraints::side(int option, int choice) const
     return {keyword, m_ppd.optionText(keyword), m_ppd.choiceText(keyword, name)};
 }
 
-std::vector<Conflict> Constraints::conflicts() const
+std::vector<Conflict> Constraints::conflicts(const PDEChoices &instead) const
 {
-    const ConstraintTerms::Marks marks = m_terms.marks();
+    const ConstraintTerms::Marks marks = m_terms.marks(instead);
     const auto holds = [&](int number) { return marks.holds[static_cast<std::size_t>(number)]; };
     std::vector<Conflict> conflicts;
     QSet<QStringList> told;
@@ -236,9 +236,9 @@ std::vector<Conflict> Constraints::conflicts() const
     return conflicts;
 }
 
-std::optional<Remedy> Constraints::remedy(const std::set<QString> &keep) const
+std::optional<Remedy> Constraints::remedy(const std::set<QString> &keep, const PDEChoices &instead) const
 {
-    const ConstraintTerms::Marks marks = m_terms.marks();
+    const ConstraintTerms::Marks marks = m_terms.marks(instead);
     std::optional<Changes> changes = Search(*this, marks, keep).run();
     if (!changes && !keep.empty())
         changes = Search(*this, marks, {}).run();

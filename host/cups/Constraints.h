@@ -50,14 +50,15 @@ public:
     /// Reads the PPD's constraints. The PPD is borrowed.
     explicit Constraints(const PpdFile &ppd);
 
-    /// The conflicts among what is marked now, each once.
-    std::vector<Conflict> conflicts() const;
+    /// The conflicts among what is marked now, each once. The given choices count instead of what is marked for
+    /// their options.
+    std::vector<Conflict> conflicts(const PDEChoices &instead = {}) const;
 
-    /// The fewest changes that end all conflicts among what is marked now. PageSize stays as it is, and so
+    /// The fewest changes that end all those conflicts. PageSize stays as it is, and so
     /// does what the printer has installed; options in keep (those just chosen) are changed only when nothing
     /// else helps. Defaults are tried before other choices. Nothing when there is no conflict, or no remedy
     /// of up to six changes.
-    std::optional<Remedy> remedy(const std::set<QString> &keep = {}) const;
+    std::optional<Remedy> remedy(const std::set<QString> &keep = {}, const PDEChoices &instead = {}) const;
 
 private:
     /// The numbers of its terms, in the PPD's order.

@@ -104,6 +104,21 @@ QString originText(Origin origin)
     return {};
 }
 
+void setJobChoice(std::vector<JobChoice> &choices, const JobChoice &choice)
+{
+    const bool isPanels = choice.isPanels || choice.origin == Origin::Panel;
+    const auto known = std::ranges::find(choices, choice.name, &JobChoice::name);
+    if (known == choices.end()) {
+        choices.push_back({choice.name, choice.value, choice.origin, isPanels});
+        return;
+    }
+    known->isPanels = known->isPanels || isPanels;
+    if (known->value == choice.value)
+        return;
+    known->value = choice.value;
+    known->origin = choice.origin;
+}
+
 std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
                                       const std::vector<JobChoice> &choices, const JobSettings &settings)
 {

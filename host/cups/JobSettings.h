@@ -3,7 +3,7 @@
 
 #include "Destination.h"
 
-#include <host/PrintJob.h>
+#include <host/PageChoices.h>
 
 namespace host {
 

@@ -10,19 +10,19 @@ ConflictBanner::ConflictBanner(host::SetupKeeper &keeper, QWidget *parent)
     , m_keeper(keeper)
 {
     connect(this, &Banner::remedyClicked, this, [this] {
-        if (const std::optional<host::Remedy> remedy = m_keeper.setup()->remedy())
-            m_keeper.setup()->apply(*remedy);
+        if (m_keeper.setup() && m_shownRemedy)
+            m_keeper.setup()->apply(host::Remedy(*m_shownRemedy));
         Q_EMIT remedied();
     });
 }
 
-void ConflictBanner::setConflicts(const std::vector<host::Conflict> &conflicts)
+void ConflictBanner::setConflicts(const std::vector<host::Conflict> &conflicts,
+                                  const std::optional<host::Remedy> &remedy)
 {
     QStringList sentences;
     for (const host::Conflict &conflict : conflicts)
         sentences.append(conflict.sentence());
-    const std::optional<host::Remedy> remedy =
-        sentences.isEmpty() ? std::nullopt : m_keeper.setup()->remedy();
+    m_shownRemedy = remedy;
     setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
 }
 

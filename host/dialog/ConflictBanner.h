@@ -3,10 +3,11 @@
 
 #include "Banner.h"
 
+#include <host/cups/Constraints.h>
+
 namespace host {
-struct Conflict;
 class SetupKeeper;
-} // namespace host
+}
 
 namespace dialog {
 
@@ -18,8 +19,9 @@ public:
     /// The keeper is borrowed; its printer is the one whose conflicts are told.
     ConflictBanner(host::SetupKeeper &keeper, QWidget *parent);
 
-    /// Tells these conflicts; none hides the banner.
-    void setConflicts(const std::vector<host::Conflict> &conflicts);
+    /// Shows these conflicts, and the remedy as a button where there is one; no conflicts hide the banner.
+    void setConflicts(const std::vector<host::Conflict> &conflicts,
+                      const std::optional<host::Remedy> &remedy = {});
 
 Q_SIGNALS:
     /// The remedy was applied to the printer's options.
@@ -27,6 +29,7 @@ Q_SIGNALS:
 
 private:
     host::SetupKeeper &m_keeper;
+    std::optional<host::Remedy> m_shownRemedy;
 };
 
 } // namespace dialog

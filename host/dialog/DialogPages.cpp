@@ -139,7 +139,7 @@ void DialogPages::addOptions()
 QWidget *DialogPages::makeOptionsPage(QWidget *parent)
 {
     m_optionsPage = new OptionsPage(m_setup->ppd(), m_setup->claimedKeywords(), parent);
-    setConflicts(m_setup->conflicts());
+    setConflicts(std::vector(m_conflicts));
     connect(m_optionsPage, &OptionsPage::chosen, this,
             [this](const QByteArray &keyword, const QByteArray &value) {
                 m_setup->choose(keyword, value);
@@ -156,6 +156,7 @@ void DialogPages::writeJobTo(host::JobDraft &draft) const
 
 void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
 {
+    m_conflicts = conflicts;
     if (m_panelPage)
         m_panelPage->setConflicts(host::sentencesAbout(m_setup->claimedKeywords(), conflicts));
     if (!m_optionsPage)
@@ -167,7 +168,7 @@ void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
 void DialogPages::dropSetup()
 {
     if (m_setup && m_setup->panelHost())
-        m_setup->panelHost()->setPanelViewDidResizeHook({});
+        m_setup->panelHost()->setPanelViewDidResizeHook([] {});
     const QSignalBlocker quiet(this);
     if (m_setup)
         rememberUse();
@@ -214,9 +215,9 @@ void DialogPages::refresh()
         m_summaryPage->setSections(m_summary());
     if (!m_sentPage || !m_ticket || !m_sentPage->isVisible())
         return;
-    const std::optional<host::JobTicket> ticket = m_ticket();
+    const host::JobTicket *const ticket = m_ticket();
     // While another printer is awaited, what is shown is not true.
-    m_sentPage->setEnabled(ticket.has_value());
+    m_sentPage->setEnabled(ticket != nullptr);
     if (ticket)
         m_sentPage->setTicket(*m_server, *ticket);
 }

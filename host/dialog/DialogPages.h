@@ -45,7 +45,8 @@ public:
     void setConflicts(const std::vector<host::Conflict> &conflicts);
     /// What the summary and the page of what will be sent show when they are in front.
     void setSummary(std::function<std::vector<SummarySection>()> summary) { m_summary = std::move(summary); }
-    void setTicket(std::function<std::optional<host::JobTicket>()> ticket) { m_ticket = std::move(ticket); }
+    /// The ticket is null while nothing can be sent.
+    void setTicket(std::function<const host::JobTicket *()> ticket) { m_ticket = std::move(ticket); }
     /// Refreshes the page in front.
     void refresh();
     /// Tells the panel that its page comes to the front, if it does.
@@ -86,7 +87,9 @@ private:
     /// What the page of the job begins with.
     host::JobDraft m_job;
     std::function<std::vector<SummarySection>()> m_summary;
-    std::function<std::optional<host::JobTicket>()> m_ticket;
+    std::function<const host::JobTicket *()> m_ticket;
+    /// As setConflicts() received them last.
+    std::vector<host::Conflict> m_conflicts;
 };
 
 } // namespace dialog

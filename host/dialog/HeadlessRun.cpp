@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "HeadlessRun.h"
 
+#include "CommandChecks.h"
 #include "CommandWishes.h"
 #include "PrintDialog.h"
 #include "QueueSender.h"
 #include "Screenshot.h"
-#include "SetupComplaints.h"
 
 #include <host/cups/LpOptions.h>
 #include <host/setup/JobReport.h>
@@ -52,16 +52,6 @@ bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::funct
     if (!holds() && !watch.signal())
         loop.exec();
     return holds();
-}
-
-/// The strip for the summary; null where nobody knows of cuts.
-std::unique_ptr<host::PrintJob> makeStrip(const host::PrinterSetup &setup,
-                                          const host::LabelDocument &document,
-                                          const host::LabelRenderer &renderer, const host::JobDraft &draft)
-{
-    if (!setup.hasPpd() || !setup.paper())
-        return nullptr;
-    return std::make_unique<host::PrintJob>(setup.state(), document, renderer, *setup.paper(), draft.pages);
 }
 
 } // namespace
@@ -115,31 +105,6 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     return mayGoOn ? keeper.setup() : nullptr;
 }
 
-bool HeadlessRun::isUsable(const host::PrinterSetup &setup) const
-{
-    for (const host::ChoiceError &refusal : setup.refusals())
-        m_console.complain(refusal.message);
-    if (!setup.refusals().empty() && !m_command.force)
-        return false;
-    if (const auto &problem = setup.panelProblem()) {
-        m_console.complain(problem->message);
-        if (problem->kind == host::PanelFailure::BrokenBundle)
-            return false;
-    }
-    return true;
-}
-
-bool HeadlessRun::accepts(host::PrinterSetup &setup)
-{
-    if (const std::optional<QString> refusal = setup.savePanel()) {
-        m_console.complain(*refusal);
-        return false;
-    }
-    tellChangesByPanel(m_console, setup, m_command.options);
-    // What the dialog would open with may have conflicts; it would tell them.
-    return !tellConflicts(m_console, setup) || m_command.force || m_command.task == Task::Summary;
-}
-
 bool HeadlessRun::canPrintDocument() const
 {
     const auto pages = host::choosePages(m_command.settings, {}, m_document->pageCounts());
@@ -189,33 +154,35 @@ ExitStatus HeadlessRun::run()
     QObject::disconnect(&session, nullptr, &keeper, nullptr);
     if (const std::optional<int> signal = m_signals.signal())
         return endedBy(*signal);
-    // A picture is taken first: nothing that shows itself for it may change the job.
-    if (!setup || !isUsable(*setup) || !takeScreenshot(keeper) || !accepts(*setup))
+    const CommandChecks checks(m_command, m_console);
+    if (!setup || !checks.accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
     const std::optional<host::JobDraft> draft = makeDraft(*setup);
-    const ExitStatus status = draft ? finish(*setup, *draft) : ExitStatus::Failed;
-    const bool withoutPanel = setup->panelProblem().has_value();
-    return status == ExitStatus::Printed && withoutPanel ? ExitStatus::PrintedWithoutPanel : status;
+    if (!draft)
+        return ExitStatus::Failed;
+    const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
+    // A summary of conflicting settings reports the conflicts, as the dialog does.
+    const bool mayFinish = checks.accepts(ticket) || (m_command.task == Task::Summary && !ticket.panel.refusal);
+    return mayFinish ? CommandChecks::statusOf(finish(*setup, ticket), *setup) : ExitStatus::Failed;
 }
 
-ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::JobDraft &draft)
+ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Ticket &ticket)
 {
-    const auto tell = [&](const auto &json, const QString &text) {
+    const auto print = [&](const auto &json, const QString &text) {
         m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(json).toJson()) : text);
         return ExitStatus::Printed;
     };
-    if (m_command.task == Task::DryRun) {
-        const host::JobTicket ticket = host::ticketFor(setup, *m_document, draft);
-        return tell(host::ticketJson(m_server, ticket, setup.conflicts()),
-                    host::ticketInPlainText(m_server, ticket, setup.conflicts()));
-    }
+    if (m_command.task == Task::DryRun)
+        return print(host::ticketJson(m_server, ticket), host::ticketInPlainText(m_server, ticket));
     if (m_command.task == Task::Summary) {
         const host::LabelRenderer renderer(*m_document, host::shownPaper(&setup, *m_document));
-        const std::unique_ptr<host::PrintJob> strip = makeStrip(setup, *m_document, renderer, draft);
-        const auto summary = host::summarize(setup, *m_document, draft, strip.get());
-        return tell(host::summaryJson(summary), host::summaryInPlainText(summary));
+        std::optional<host::CutPlan> plan;
+        if (ticket.paper)
+            plan = host::makePlan(ticket, *m_document, renderer);
+        const auto summary = host::summarize(ticket, setup, plan ? &*plan : nullptr);
+        return print(host::summaryJson(summary), host::summaryInPlainText(summary));
     }
-    return send(setup, draft);
+    return send(ticket);
 }
 
 ExitStatus HeadlessRun::endedBy(int signal) const
@@ -224,7 +191,7 @@ ExitStatus HeadlessRun::endedBy(int signal) const
     return statusOfSignal(signal);
 }
 
-ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDraft &draft)
+ExitStatus HeadlessRun::send(const host::Ticket &ticket)
 {
     QueueSender sender(m_server);
     QEventLoop loop;
@@ -237,7 +204,7 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
     QObject::connect(&m_signals, &SignalWatch::caught, &sender, &JobSender::cancel);
     if (const std::optional<int> signal = m_signals.signal())
         return endedBy(*signal);
-    sender.send({setup, *m_document, draft, nullptr});
+    sender.send({ticket, *m_document, {}});
     loop.exec();
     const std::optional<int> signal = m_signals.signal();
     // Nothing is said of what was given up on request, by the signal.
@@ -247,9 +214,7 @@ ExitStatus HeadlessRun::send(const host::PrinterSetup &setup, const host::JobDra
         m_console.complain(*problem);
         return signal ? statusOfSignal(*signal) : ExitStatus::Failed;
     }
-    if (!m_command.quiet)
-        m_console.tellRequestId(sender.queue(), sender.jobId(),
-                                qMax(qsizetype(1), m_command.documents.size()));
+    CommandChecks(m_command, m_console).printRequestId(sender);
     return ExitStatus::Printed;
 }
 

@@ -23,9 +23,6 @@ public:
 private:
     /// Waits for the server; null, with the reason told, when there is nothing to print on.
     host::PrinterSetup *waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper);
-    /// Whether the printer can do what is asked for; tells what it cannot.
-    bool isUsable(const host::PrinterSetup &setup) const;
-    bool accepts(host::PrinterSetup &setup);
     bool canPrintDocument() const;
     std::optional<host::JobDraft> makeDraft(const host::PrinterSetup &setup) const;
     /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be
@@ -33,8 +30,8 @@ private:
     bool takeScreenshot(host::SetupKeeper &keeper) const;
     /// What the signal makes of the run; tells it.
     ExitStatus endedBy(int signal) const;
-    ExitStatus finish(const host::PrinterSetup &setup, const host::JobDraft &draft);
-    ExitStatus send(const host::PrinterSetup &setup, const host::JobDraft &draft);
+    ExitStatus finish(const host::PrinterSetup &setup, const host::Ticket &ticket);
+    ExitStatus send(const host::Ticket &ticket);
 
     const CommandLine &m_command;
     const Console &m_console;

@@ -9,11 +9,13 @@ namespace dialog {
 
 /// A job that is ready to leave the dialog.
 struct ReadyJob {
-    const host::PrinterSetup &setup;
+    const host::Ticket &ticket;
     const host::LabelDocument &document;
-    const host::JobDraft &draft;
-    /// The strip with its plan of cuts; null without a PPD.
-    const host::PrintJob *strip;
+    /// The printer's PPD file; empty without one.
+    QString ppdPath;
+    /// The strip as it is shown. Null without a paper, or where no strip is printed.
+    const host::CutPlan *plan = nullptr;
+    const host::LabelRenderer *renderer = nullptr;
 };
 
 /// Takes jobs from the dialog. The outcome may come at once or later; until then no other job is handed over.

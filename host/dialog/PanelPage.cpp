@@ -3,11 +3,20 @@
 
 #include "ConflictNote.h"
 
+#include <platform/NotificationCenter.h>
+
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
 
 namespace dialog {
+
+namespace {
+
+/// A panel that needs more room than the dialog had waits for this announcement from its view.
+const QString viewIsLaidOut = QStringLiteral("NSViewDidUpdateTrackingAreasNotification");
+
+} // namespace
 
 PanelPage::PanelPage(PDEPanel &panel, QWidget *parent)
     : QWidget(parent)
@@ -46,6 +55,23 @@ void PanelPage::fitView()
     m_frame->setFixedSize(m_view->size());
     const int frame = 2 * m_scrolled->frameWidth();
     m_scrolled->setMinimumSize(m_view->size() + QSize(frame, frame));
+}
+
+void PanelPage::postLaidOut() const
+{
+    platform::NotificationCenter::defaultCenter().post(viewIsLaidOut, m_view);
+}
+
+void PanelPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    postLaidOut();
+}
+
+void PanelPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    postLaidOut();
 }
 
 void PanelPage::setConflicts(const QStringList &sentences)

@@ -27,7 +27,13 @@ public:
     /// Shows these sentences above the panel; none takes them away.
     void setConflicts(const QStringList &sentences);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void postLaidOut() const;
+
     PDEPanel &m_panel;
     QWidget *m_view;
     QWidget *m_frame;

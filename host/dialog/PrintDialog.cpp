@@ -7,6 +7,7 @@
 #include "DialogPages.h"
 #include "FittedLabel.h"
 #include "PageOptions.h"
+#include "PanelWatch.h"
 #include "ProblemBanner.h"
 #include "SendBar.h"
 #include "StripPreview.h"
@@ -64,6 +65,7 @@ void PrintDialog::build(const DialogWishes &wishes)
     m_choices = new ChoicesColumn(*m_document, m_keeper, wishes.settings, m_content);
     const host::QueueSession *const session = m_keeper.session();
     m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
+    m_panelWatch = new PanelWatch(this);
     m_stripPreview = new StripPreview(m_content);
     // With lines in reserve, the window does not grow at every click.
     m_figures = new FittedLabel(3, 20, this);
@@ -99,17 +101,8 @@ void PrintDialog::connectAll()
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
     connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
     m_pages->setSummary([this] { return summary(); });
-    m_pages->setTicket([this]() -> std::optional<host::JobTicket> {
-        host::PrinterSetup *const setup = m_keeper.setup();
-        if (!setup)
-            return std::nullopt;
-        // A panel hands its settings over before the job is printed; whoever looks at what will be sent must
-        // see them already. Whether the panel lets the job pass is told when it is printed.
-        setup->savePanel();
-        const host::JobTicket ticket = host::ticketFor(*setup, *m_document, m_draft);
-        setup->undoSave();
-        return ticket;
-    });
+    m_pages->setTicket([this] { return m_ticket && m_pagesError.isEmpty() ? &m_ticket->job : nullptr; });
+    connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::lookAtPanel);
     connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
     connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
@@ -147,9 +140,9 @@ void PrintDialog::takeSetup()
         hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
                    : QString());
     if (setup) {
-        m_problemBanner->setRefusals(setup->refusals());
         m_pages->takeSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
+        m_panelWatch->follow(setup->panel() ? setup->panel()->panelView() : nullptr);
     }
     m_choices->showPapers();
     applyPaper();
@@ -160,8 +153,10 @@ void PrintDialog::takeSetup()
 
 void PrintDialog::dropSetup()
 {
+    m_panelWatch->follow(nullptr);
     m_stripPreview->clear();
-    m_strip.reset();
+    m_plan.reset();
+    m_ticket.reset();
     if (m_keeper.setup())
         m_keeper.setup()->setDidChangeHook({});
     m_pages->dropSetup();
@@ -179,7 +174,7 @@ void PrintDialog::applyPaper()
 {
     // What shows the old labels lets go of them first.
     m_stripPreview->clear();
-    m_strip.reset();
+    m_plan.reset();
     const host::PrinterSetup *const setup = m_keeper.setup();
     const QSizeF paper = host::shownPaper(setup, *m_document);
     auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper);
@@ -199,48 +194,63 @@ void PrintDialog::refresh()
 {
     m_refreshPending = false;
     m_stripPreview->clear();
-    m_strip.reset();
-    if (m_keeper.setup())
-        m_choices->pages().setDefaults(host::defaultPageSettings(m_keeper.setup()->destination()));
-    auto choices = m_choices->pages().choices();
-    const bool isReady = m_keeper.setup() && choices;
-    m_printButton->setEnabled(isReady && !m_isSending);
-    if (!choices)
-        m_figures->setWords(choices.error().message);
-    else if (!m_keeper.setup())
-        m_figures->setWords(waitingWords(m_keeper.session()));
-    else
-        refreshJob(choices.value());
-    refreshConflicts();
+    m_plan.reset();
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (setup)
+        m_choices->pages().setDefaults(host::defaultPageSettings(setup->destination()));
+    const auto choices = m_choices->pages().choices();
+    m_pagesError = choices ? QString() : choices.error().message;
+    m_draft.pages = choices ? choices.value() : host::PageChoices();
+    m_pages->writeJobTo(m_draft);
+    m_choices->pages().writeTo(m_draft.settings);
+    m_ticket = setup ? std::optional(host::ticketFor(*setup, *m_document, m_draft)) : std::nullopt;
+    m_printButton->setEnabled(setup && choices && !m_isSending);
+    refreshStrip();
+    refreshMessages();
     m_pages->refresh();
 }
 
-void PrintDialog::refreshJob(const host::PageChoices &choices)
+void PrintDialog::refreshStrip()
 {
-    const host::PrinterSetup &setup = *m_keeper.setup();
-    m_draft.pages = choices;
-    m_pages->writeJobTo(m_draft);
-    m_choices->pages().writeTo(m_draft.settings);
-    const bool hasStrip = setup.hasPpd() && setup.paper();
-    m_stripPreview->setVisible(hasStrip);
-    if (!hasStrip) {
+    if (!m_pagesError.isEmpty()) {
+        m_figures->setWords(m_pagesError);
+        return;
+    }
+    if (!m_ticket) {
+        m_figures->setWords(waitingWords(m_keeper.session()));
+        return;
+    }
+    m_stripPreview->setVisible(m_ticket->paper.has_value());
+    if (!m_ticket->paper) {
         m_figures->setWords(tr("The printer has no description, so its papers and cuts are not known here."));
         return;
     }
-    m_strip =
-        std::make_unique<host::PrintJob>(setup.state(), *m_document, *m_renderer, *setup.paper(), choices);
-    m_stripPreview->setPlan(m_strip->plan(), *m_renderer);
-    m_figures->setWords(host::cutPlanFigures(m_strip->plan()) + u'\n' +
-                        host::cutPlanSentences(m_strip->plan()).join(u' '));
+    m_plan = host::makePlan(*m_ticket, *m_document, *m_renderer);
+    m_stripPreview->setPlan(*m_plan, *m_renderer);
+    m_figures->setWords(host::cutPlanFigures(*m_plan) + u'\n' + host::cutPlanSentences(*m_plan).join(u' '));
 }
 
-void PrintDialog::refreshConflicts()
+void PrintDialog::refreshMessages()
 {
-    const host::PrinterSetup *const setup = m_keeper.setup();
-    const std::vector<host::Conflict> conflicts = setup ? setup->conflicts() : std::vector<host::Conflict>();
+    const std::vector<host::Conflict> conflicts =
+        m_ticket ? m_ticket->conflicts : std::vector<host::Conflict>();
     m_pages->setConflicts(conflicts);
     m_choices->setConflicts(conflicts);
-    m_conflictBanner->setConflicts(conflicts);
+    m_conflictBanner->setConflicts(conflicts, m_ticket ? m_ticket->remedy : std::nullopt);
+    if (const host::PrinterSetup *const setup = m_keeper.setup())
+        m_problemBanner->setRefusals(setup->refusals(), setup->replacedChoices());
+}
+
+void PrintDialog::lookAtPanel()
+{
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (!setup || !m_ticket || m_refreshPending)
+        return;
+    const host::PanelSettings now = setup->panelSettings();
+    if (now == m_ticket->panel)
+        return;
+    setup->notePanelInput(m_ticket->panel, now);
+    refresh();
 }
 
 void PrintDialog::pageShown()
@@ -284,17 +294,14 @@ void PrintDialog::showAtOnce()
 
 std::optional<QString> PrintDialog::prepare()
 {
-    host::PrinterSetup *const setup = m_keeper.setup();
-    if (!setup)
+    if (!m_keeper.setup())
         return waitingWords(m_keeper.session());
     if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
         return error->message;
-    if (std::optional<QString> refusal = setup->savePanel())
-        return refusal;
-    // Saving may have changed what is recorded.
     refresh();
-    const auto choices = m_choices->pages().choices();
-    return choices ? std::nullopt : std::optional(choices.error().message);
+    if (m_ticket->panel.refusal)
+        return m_ticket->panel.refusal;
+    return m_pagesError.isEmpty() ? std::nullopt : std::optional(m_pagesError);
 }
 
 bool PrintDialog::isPrepared()
@@ -317,7 +324,9 @@ void PrintDialog::send()
     m_content->setEnabled(false);
     m_printButton->setEnabled(false);
     m_sendBar->begin(m_draft.title);
-    m_sender.send({*m_keeper.setup(), *m_document, m_draft, m_strip.get()});
+    const host::PpdFile *const ppd = m_keeper.setup()->ppdOrNull();
+    m_sender.send({*m_ticket, *m_document, ppd ? ppd->path() : QString(), m_plan ? &*m_plan : nullptr,
+                   m_renderer.get()});
 }
 
 void PrintDialog::stayOpen()
@@ -327,8 +336,6 @@ void PrintDialog::stayOpen()
     m_content->setEnabled(true);
     m_buttons->setEnabled(true);
     m_sendBar->end();
-    if (m_keeper.setup())
-        m_keeper.setup()->undoSave();
     refresh();
 }
 
@@ -349,7 +356,6 @@ void PrintDialog::accept()
     }
     if (!isPrepared())
         return;
-    // Of what will be sent: a panel may end a conflict when it hands over its settings, or make one.
     const QString conflicts = m_conflictBanner->message();
     if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
         send();
@@ -389,9 +395,9 @@ bool PrintDialog::hasPanelProblem() const
 
 std::vector<SummarySection> PrintDialog::summary() const
 {
-    if (!m_keeper.setup())
+    if (!m_keeper.setup() || !m_ticket)
         return {};
-    return host::summarize(*m_keeper.setup(), *m_document, m_draft, m_strip.get());
+    return host::summarize(*m_ticket, *m_keeper.setup(), m_plan ? &*m_plan : nullptr);
 }
 
 } // namespace dialog

@@ -18,6 +18,7 @@ class ChoicesColumn;
 class ConflictBanner;
 class DialogPages;
 class FittedLabel;
+class PanelWatch;
 class ProblemBanner;
 class SendBar;
 class StripPreview;
@@ -54,6 +55,8 @@ public:
     const QString &problem() const;
     /// Whether a job is on its way, or will be as soon as its document is checked.
     bool isSending() const { return m_isSending || m_printsWhenChecked; }
+    /// What would be sent now; absent while no printer is known.
+    const std::optional<host::Ticket> &ticket() const { return m_ticket; }
     /// The job's name.
     const QString &title() const { return m_draft.title; }
     /// Whether the printer has cut options, but there is no panel for them.
@@ -79,8 +82,10 @@ private:
     /// Everything that shows the job is refreshed once, when control returns to the event loop.
     void refreshLater();
     void refresh();
-    void refreshJob(const host::PageChoices &choices);
-    void refreshConflicts();
+    void refreshStrip();
+    void refreshMessages();
+    /// Refreshes when the panel would save something else than the ticket says.
+    void lookAtPanel();
     void pageShown();
     void checkAhead();
     /// Readies the job; when it cannot be, says why and leaves the dialog as it was.
@@ -98,7 +103,12 @@ private:
     bool m_printsWhenChecked = false;
     host::JobDraft m_draft;
     std::unique_ptr<host::LabelRenderer> m_renderer;
-    std::unique_ptr<host::PrintJob> m_strip;
+    /// What would be sent now; absent while no printer is known. Everything that is shown is made from it.
+    std::optional<host::Ticket> m_ticket;
+    /// The ticket's plan of cuts; absent without a paper, and while the pages to print are not valid.
+    std::optional<host::CutPlan> m_plan;
+    /// Why the chosen pages cannot be printed; empty when they can.
+    QString m_pagesError;
 
     QWidget *m_content = nullptr;
     Banner *m_panelBanner = nullptr;
@@ -106,6 +116,7 @@ private:
     ProblemBanner *m_problemBanner = nullptr;
     ChoicesColumn *m_choices = nullptr;
     DialogPages *m_pages = nullptr;
+    PanelWatch *m_panelWatch = nullptr;
     StripPreview *m_stripPreview = nullptr;
     FittedLabel *m_figures = nullptr;
     SendBar *m_sendBar = nullptr;

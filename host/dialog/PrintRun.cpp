@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrintRun.h"
 
+#include "CommandChecks.h"
 #include "CommandWishes.h"
 #include "HeadlessRun.h"
 #include "JobWindow.h"
@@ -8,7 +9,6 @@
 #include "QueueSender.h"
 #include "Screenshot.h"
 #include "ServerRun.h"
-#include "SetupComplaints.h"
 #include "SignalWatch.h"
 #include "TerminalPassword.h"
 #include "VirtualSender.h"
@@ -25,18 +25,6 @@ namespace {
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(dialog::PrintRun)
 };
-
-/// The papers' names for a message, and "…" in place of most of them when there are many.
-QString paperNames(const host::PpdFile &ppd)
-{
-    constexpr int most = 12;
-    QStringList names;
-    for (const host::PpdPaper &paper : ppd.papers())
-        names.append(QString::fromUtf8(paper.name));
-    if (names.size() > most)
-        names = names.first(most) << QStringLiteral("…");
-    return names.join(QStringLiteral(", "));
-}
 
 /// Lets the window appear before anything else is begun, which would take processors and memory from it.
 void waitForPainting(const QWidget &window)
@@ -82,25 +70,13 @@ std::unique_ptr<host::PrinterSetup> PrintRun::openPrinter()
         m_console.complain(ppd.error().message);
         return nullptr;
     }
-    const QString papers = paperNames(ppd.value());
     auto setup = std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(),
                                                       setupWishes(m_command), panelSource(m_command));
-    for (const host::ChoiceError &refusal : setup->refusals()) {
-        const bool isPaper = refusal.kind == host::ChoiceFailure::UnknownPaper;
-        m_console.complain(isPaper ? Text::tr("The PPD file \"%1\" has no paper \"%2\"; it has: %3")
-                                         .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), papers)
-                                   : refusal.message);
-    }
-    if (!setup->refusals().empty() && !m_command.force)
+    if (!CommandChecks(m_command, m_console).accepts(*setup))
         return nullptr;
     if (!setup->paper()) {
         m_console.complain(Text::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
         return nullptr;
-    }
-    if (const auto &problem = setup->panelProblem()) {
-        m_console.complain(problem->message);
-        if (problem->kind == host::PanelFailure::BrokenBundle)
-            return nullptr;
     }
     return setup;
 }
@@ -111,25 +87,22 @@ ExitStatus PrintRun::runVirtual()
     std::unique_ptr<host::LabelDocument> document = setup ? openDocument() : nullptr;
     if (!document)
         return ExitStatus::Failed;
-    const bool withoutPanel = setup->panelProblem().has_value();
     host::SetupKeeper keeper(std::move(setup));
     VirtualSender sender(m_command.output);
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
-    const ExitStatus status = showVirtual(dialog, sender, *keeper.setup());
-    return status == ExitStatus::Printed && withoutPanel ? ExitStatus::PrintedWithoutPanel : status;
+    return CommandChecks::statusOf(showVirtual(dialog, sender), *keeper.setup());
 }
 
-bool PrintRun::canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const
+bool PrintRun::canPrintAtOnce(PrintDialog &dialog) const
 {
     if (const std::optional<QString> problem = dialog.prepare()) {
         m_console.complain(*problem);
         return false;
     }
-    tellChangesByPanel(m_console, setup, m_command.options);
-    return !tellConflicts(m_console, setup) || m_command.force;
+    return CommandChecks(m_command, m_console).accepts(*dialog.ticket());
 }
 
-ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, const host::PrinterSetup &setup)
+ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
 {
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
@@ -137,7 +110,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, con
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     const bool printsAtOnce = m_command.noDialog && m_command.task == Task::Print;
-    if ((printsAtOnce || m_command.task == Task::DryRun) && !canPrintAtOnce(dialog, setup))
+    if ((printsAtOnce || m_command.task == Task::DryRun) && !canPrintAtOnce(dialog))
         return ExitStatus::Failed;
     if (m_command.task != Task::Print) {
         tellSummary(dialog.summary());
@@ -200,9 +173,7 @@ ExitStatus PrintRun::runOnQueue()
 
 ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
 {
-    if (!m_command.quiet)
-        m_console.tellRequestId(sender.queue(), sender.jobId(),
-                                qMax(qsizetype(1), m_command.documents.size()));
+    CommandChecks(m_command, m_console).printRequestId(sender);
     JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
     window.exec();
     if (const auto &status = window.status()) {

@@ -33,12 +33,15 @@ void ProblemBanner::setServerProblem(const std::optional<host::CupsError> &probl
     refresh();
 }
 
-void ProblemBanner::setRefusals(const std::vector<host::ChoiceError> &refusals)
+void ProblemBanner::setRefusals(const std::vector<host::ChoiceError> &refusals, const QStringList &replaced)
 {
     QStringList sentences;
     for (const host::ChoiceError &refusal : refusals)
         sentences.append(refusal.message);
-    m_refusals = sentences.join(u' ');
+    const QString text = (sentences + replaced).join(u' ');
+    if (text == m_refusals)
+        return;
+    m_refusals = text;
     refresh();
 }
 

@@ -29,8 +29,8 @@ public:
     /// Why the job was not sent; empty when there is nothing to say about it.
     void setSendingProblem(const QString &problem);
     const QString &sendingProblem() const { return m_sending; }
-    /// What was wished for and the printer cannot do.
-    void setRefusals(const std::vector<host::ChoiceError> &refusals);
+    /// What was requested and the printer cannot do, and the sentences about what its panel does instead.
+    void setRefusals(const std::vector<host::ChoiceError> &refusals, const QStringList &replaced);
 
 private:
     void setServerProblem(const std::optional<host::CupsError> &problem);

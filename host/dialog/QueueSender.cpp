@@ -23,8 +23,8 @@ QueueSender::QueueSender(host::CupsServer server, QObject *parent)
 
 void QueueSender::send(const ReadyJob &job)
 {
-    m_queue = job.setup.destination().queue;
-    m_submission.submit(host::ticketFor(job.setup, job.document, job.draft));
+    m_queue = job.ticket.job.destination.queue;
+    m_submission.submit(job.ticket.job);
 }
 
 } // namespace dialog

@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobReport.h"
 
+#include <host/CutPlanWords.h>
+#include <host/StandardInput.h>
+#include <host/Units.h>
 #include <host/cups/LpCommand.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonArray>
+
+#include <cmath>
 
 namespace host {
 
@@ -53,11 +59,47 @@ QJsonArray optionsJson(const JobTicket &ticket)
     return list;
 }
 
+double hundredths(double points)
+{
+    return std::round(points * millimetresPerPoint * 100.0) / 100.0;
+}
+
+/// The documents' paths; standard input has none and stays "-".
+QJsonArray documentPaths(const LabelDocument &document)
+{
+    QJsonArray documents;
+    for (const DocumentFile &file : document.files())
+        documents.append(file.name == standardInputName ? file.name
+                                                        : QFileInfo(file.name).absoluteFilePath());
+    return documents;
+}
+
+QJsonObject paperJson(const PpdPaper &paper)
+{
+    return {{"name", QString::fromUtf8(paper.name)},
+            {"text", paper.text},
+            {"width", hundredths(paper.size.width())},
+            {"length", hundredths(paper.size.height())}};
+}
+
+/// A list, not an object: it keeps the order in which the choices were made, behind the paper.
+QJsonArray choicesJson(const Ticket &ticket)
+{
+    QJsonArray choices;
+    choices.append(QJsonObject{{"keyword", "PageSize"}, {"choice", QString::fromUtf8(ticket.paper->name)}});
+    for (const JobChoice &choice : ticket.choices) {
+        if (choice.name != "PageSize")
+            choices.append(QJsonObject{{"keyword", QString::fromUtf8(choice.name)},
+                                       {"choice", QString::fromUtf8(choice.value)}});
+    }
+    return choices;
+}
+
 } // namespace
 
-QString ticketInPlainText(const CupsServer &server, const JobTicket &ticket,
-                          const std::vector<Conflict> &conflicts)
+QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
 {
+    const JobTicket &ticket = whole.job;
     QString text = Text::tr("Job \"%1\" for \"%2\" on %3\n")
                        .arg(ticket.title, ticket.destination.name(), server.displayName());
     for (const JobDocument &document : ticket.documents)
@@ -69,18 +111,18 @@ QString ticketInPlainText(const CupsServer &server, const JobTicket &ticket,
                         .arg(QString::fromUtf8(option.name), QString::fromUtf8(option.value),
                              originText(option.origin));
     }
-    for (const Conflict &conflict : conflicts)
+    for (const Conflict &conflict : whole.conflicts)
         text += conflict.sentence() + u'\n';
     const LpCommand lp = lpCommand(server, ticket);
     text += lp.line + u'\n';
     return lp.differences.isEmpty() ? text : text + lp.differencesInWords() + u'\n';
 }
 
-QJsonObject ticketJson(const CupsServer &server, const JobTicket &ticket,
-                       const std::vector<Conflict> &conflicts)
+QJsonObject ticketJson(const CupsServer &server, const Ticket &whole)
 {
+    const JobTicket &ticket = whole.job;
     QJsonArray sentences;
-    for (const Conflict &conflict : conflicts)
+    for (const Conflict &conflict : whole.conflicts)
         sentences.append(conflict.sentence());
     const LpCommand lp = lpCommand(server, ticket);
     return {{QStringLiteral("server"), server.displayName()},
@@ -91,6 +133,25 @@ QJsonObject ticketJson(const CupsServer &server, const JobTicket &ticket,
             {QStringLiteral("conflicts"), sentences},
             {QStringLiteral("lp"), lp.line},
             {QStringLiteral("lpDifferences"), QJsonArray::fromStringList(lp.differences)}};
+}
+
+QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, const QString &ppdPath,
+                           const CutPlan &plan)
+{
+    const QJsonArray documents = documentPaths(document);
+    QJsonArray pages;
+    for (const int page : ticket.pages.pages)
+        pages.append(page + 1);
+    return {{"printer", ticket.printer},
+            {"ppd", QFileInfo(ppdPath).absoluteFilePath()},
+            {"document", documents.first()},
+            {"documents", documents},
+            {"paper", paperJson(*ticket.paper)},
+            {"pages", pages},
+            {"copies", ticket.pages.copies},
+            {"collate", ticket.pages.collate == Collate::Yes},
+            {"options", choicesJson(ticket)},
+            {"plan", cutPlanJson(plan)}};
 }
 
 } // namespace host

@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/cups/Constraints.h>
+#include "Ticket.h"
+
 #include <host/cups/CupsServer.h>
-#include <host/cups/JobTicket.h>
 
 #include <QJsonObject>
 
 namespace host {
 
 /// A job that is not sent: what the server would be given. For a terminal.
-QString ticketInPlainText(const CupsServer &server, const JobTicket &ticket,
-                          const std::vector<Conflict> &conflicts);
+QString ticketInPlainText(const CupsServer &server, const Ticket &ticket);
 
 /// The same for programs: "server", "destination", "title", "documents" of "file" and "type", "options" of
 /// "name", "value", "origin" and "sent", "conflicts" as sentences, and "lp", the command that prints the
 /// same. Origins are "ppd", "queue", "user-default", "preset", "panel" and "you" in every language.
-QJsonObject ticketJson(const CupsServer &server, const JobTicket &ticket,
-                       const std::vector<Conflict> &conflicts);
+QJsonObject ticketJson(const CupsServer &server, const Ticket &ticket);
+
+/// A job that the virtual printer prints, for programs: "printer", "ppd", "documents", "paper", "pages" from 1,
+/// "copies", "collate", "options" with the paper first, and "plan", the plan of cuts. The ticket has a paper.
+QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, const QString &ppdPath,
+                           const CutPlan &plan);
 
 } // namespace host

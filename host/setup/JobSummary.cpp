@@ -20,35 +20,32 @@ QString number(std::size_t value)
     return QLocale().toString(static_cast<qulonglong>(value));
 }
 
-SummarySection printingSection(const PrinterSetup &setup, const LabelDocument &document,
-                               const JobDraft &draft)
+SummarySection printingSection(const Ticket &ticket)
 {
     SummarySection section{Text::tr("Printing"), {}};
-    section.lines.emplace_back(Text::tr("Document"), document.title());
-    section.lines.emplace_back(Text::tr("Printer"), setup.printerText());
-    if (setup.paper())
-        section.lines.emplace_back(Text::tr("Paper"), setup.paper()->text);
-    const JobSettings settings = withDefaults(draft.settings, defaultPageSettings(setup.destination()));
-    const QString ranges = settings.pageRanges.value_or(QString()).simplified();
+    section.lines.emplace_back(Text::tr("Document"), ticket.document);
+    section.lines.emplace_back(Text::tr("Printer"), ticket.printer);
+    if (ticket.paper)
+        section.lines.emplace_back(Text::tr("Paper"), ticket.paper->text);
+    const QString ranges = ticket.settings.pageRanges.value_or(QString()).simplified();
     section.lines.emplace_back(Text::tr("Pages"), ranges.isEmpty() ? Text::tr("all") : ranges);
-    if (settings.pageSet.value_or(PageSet::All) != PageSet::All)
-        section.lines.emplace_back(Text::tr("Of these"), settings.pageSet == PageSet::Odd
-                                                             ? Text::tr("the odd pages")
-                                                             : Text::tr("the even pages"));
-    section.lines.emplace_back(Text::tr("Copies"), QLocale().toString(draft.pages.copies));
-    if (draft.pages.order == PageOrder::LastFirst)
+    const PageSet set = ticket.settings.pageSet.value_or(PageSet::All);
+    if (set != PageSet::All)
+        section.lines.emplace_back(Text::tr("Of these"), set == PageSet::Odd ? Text::tr("the odd pages")
+                                                                             : Text::tr("the even pages"));
+    section.lines.emplace_back(Text::tr("Copies"), QLocale().toString(ticket.pages.copies));
+    if (ticket.pages.order == PageOrder::LastFirst)
         section.lines.emplace_back(Text::tr("Order"), Text::tr("last page first"));
     return section;
 }
 
-SummarySection panelSection(PDEPanel &panel)
+SummarySection panelSection(const QString &title, const QVariantMap &info)
 {
-    SummarySection section{panel.panelName(), {}};
-    const QVariantMap info = panel.summaryInfo().value_or(QVariantMap());
-    for (const QString &title : info.value(PDESummaryDisplayOrderKey).toStringList()) {
-        // A line that the PPD gives no name says nothing to anybody.
-        if (!title.isEmpty())
-            section.lines.emplace_back(title, info.value(title).toString());
+    SummarySection section{title, {}};
+    for (const QString &line : info.value(PDESummaryDisplayOrderKey).toStringList()) {
+        // A line that the PPD gives no name would have no meaning.
+        if (!line.isEmpty())
+            section.lines.emplace_back(line, info.value(line).toString());
     }
     return section;
 }
@@ -57,7 +54,8 @@ SummarySection stripSection(const CutPlan &plan)
 {
     SummarySection section{Text::tr("Label strip"), {}};
     section.lines.emplace_back(Text::tr("Labels"), number(plan.labels().size()));
-    section.lines.emplace_back(Text::tr("Pieces"), number(plan.pieces().size()));
+    if (plan.settings().areKnown)
+        section.lines.emplace_back(Text::tr("Pieces"), number(plan.pieces().size()));
     section.lines.emplace_back(Text::tr("Tape"), lengthInWords(plan.tapeUsed()));
     section.lines.emplace_back(Text::tr("Cuts"), cutPlanSentences(plan).join(u' '));
     return section;
@@ -65,14 +63,14 @@ SummarySection stripSection(const CutPlan &plan)
 
 } // namespace
 
-std::vector<SummarySection> summarize(const PrinterSetup &setup, const LabelDocument &document,
-                                      const JobDraft &draft, const PrintJob *strip)
+std::vector<SummarySection> summarize(const Ticket &ticket, const PrinterSetup &setup, const CutPlan *plan)
 {
-    std::vector<SummarySection> sections{printingSection(setup, document, draft)};
+    std::vector<SummarySection> sections{printingSection(ticket)};
     if (PDEPanel *const panel = setup.panel())
-        sections.push_back(panelSection(*panel));
-    if (strip)
-        sections.push_back(stripSection(strip->plan()));
+        sections.push_back(panelSection(
+            panel->panelName(), setup.panelSummary(ticket.panel.choices).value_or(QVariantMap())));
+    if (plan)
+        sections.push_back(stripSection(*plan));
     return sections;
 }
 

@@ -17,9 +17,9 @@ struct SummarySection {
 };
 
 /// All settings of the job, to be read before printing: the dialog's own, the panel's in the panel's order,
-/// and what becomes of the strip. The strip's job is null without a PPD, where nobody knows of cuts.
-std::vector<SummarySection> summarize(const PrinterSetup &setup, const LabelDocument &document,
-                                      const JobDraft &draft, const PrintJob *strip);
+/// and what becomes of the strip. The setup's panel is asked for its lines about the ticket's choices; there may be
+/// none. The plan is null without a paper, when nothing is known of the strip.
+std::vector<SummarySection> summarize(const Ticket &ticket, const PrinterSetup &setup, const CutPlan *plan);
 
 /// For a terminal.
 QString summaryInPlainText(const std::vector<SummarySection> &sections);

@@ -29,8 +29,10 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
         return bundleError(bundle.error());
 
     ClaimedPanels panels;
-    panels.session =
-        std::make_unique<PanelSession>(std::move(bundle).value(), std::make_shared<PanelHost>(state));
+    auto host = std::make_shared<PanelHost>(state);
+    // A panel takes the size it needs while its view is loaded, if the dialog listens.
+    host->setPanelViewDidResizeHook([] {});
+    panels.session = std::make_unique<PanelSession>(std::move(bundle).value(), std::move(host));
     panels.keywords = panels.session->claimKeywords();
     PDEPanel *const panel = panels.session->firstPanel();
     if (!panel)

@@ -3,9 +3,7 @@
 
 #include <host/CutSettings.h>
 
-#include <QCheckBox>
 #include <QCoreApplication>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -74,9 +72,19 @@ void PrinterSetup::markWishes(const SetupWishes &wishes)
     }
 }
 
-std::vector<JobChoice> PrinterSetup::choicesAndRefusedWishes() const
+std::vector<JobChoice> PrinterSetup::choicesNow() const
 {
     std::vector<JobChoice> all = m_choices;
+    for (const auto &[keyword, choice] : panelSettings().choices) {
+        if (ppd().markedChoice(keyword) != choice)
+            setJobChoice(all, {keyword.toUtf8(), choice.toUtf8(), Origin::Panel});
+    }
+    return all;
+}
+
+std::vector<JobChoice> PrinterSetup::choicesAndRefusedWishes() const
+{
+    std::vector<JobChoice> all = choicesNow();
     for (const JobChoice &wish : m_refusedWishes) {
         if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
             all.push_back(wish);
@@ -157,79 +165,67 @@ void PrinterSetup::keepRefused(const SetupWishes &wishes)
 
 void PrinterSetup::loadPanels(const PanelSource &source)
 {
-    // Whether a bundle is there and whole is no concern of printers that cannot cut.
+    m_panels.emplace(m_state);
+    // Whether a bundle is there and whole does not matter for printers that cannot cut.
     if (!CutSettings::areKnownTo(ppd()))
         return;
-    Result<ClaimedPanels, PanelError> panels = source.panelsFor(m_state);
-    if (!panels) {
-        m_panelProblem = panels.error();
+    PDEChoices requested;
+    for (const JobChoice &choice : m_choices)
+        requested.emplace_back(QString::fromUtf8(choice.name), QString::fromUtf8(choice.value));
+    m_panels->load(source, requested);
+    if (!panelHost())
         return;
-    }
-    m_panels = std::move(panels).value();
-    PanelHost *const host = panelHost();
-    if (!host)
-        return;
-    QString error;
-    if (!panel()->restoreValuesAndReturnError(&error))
-        m_panelProblem = PanelError{PanelFailure::NoPanel, error};
-    announcePanel();
-    host->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
-        if (!choice)
+    panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
+        // A panel that saves what is marked anyway has not chosen anything.
+        if (!choice || ppd().markedChoice(keyword) == choice)
             return;
         m_lastChosen = keyword;
         record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
     });
 }
 
-std::vector<std::pair<QString, QString>> PrinterSetup::claimedChoices() const
+std::optional<PanelError> PrinterSetup::panelProblem() const
 {
-    std::vector<std::pair<QString, QString>> choices;
-    for (const QString &keyword : claimedKeywords()) {
-        if (const std::optional<QString> choice = ppd().markedChoice(keyword))
-            choices.emplace_back(keyword, *choice);
-    }
-    return choices;
+    return m_panels ? m_panels->problem() : std::nullopt;
+}
+
+QStringList PrinterSetup::claimedKeywords() const
+{
+    return m_panels ? m_panels->keywords() : QStringList();
+}
+
+PanelSettings PrinterSetup::panelSettings() const
+{
+    return m_panels ? m_panels->settings() : PanelSettings();
+}
+
+std::optional<QVariantMap> PrinterSetup::panelSummary(const PDEChoices &choices) const
+{
+    return m_panels ? m_panels->summary(choices) : std::nullopt;
+}
+
+QStringList PrinterSetup::replacedChoices() const
+{
+    QStringList sentences;
+    for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
+        sentences.append(Text::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
+                                  "printed as \"%3\".")
+                             .arg(ppd().optionText(each.keyword), ppd().choiceText(each.keyword, each.choice),
+                                  ppd().choiceText(each.keyword, each.saved)));
+    return sentences;
 }
 
 void PrinterSetup::announcePanel()
 {
-    if (!panel())
-        return;
-    const auto wanted = claimedChoices();
-    panel()->willShow();
-    tellPanel(wanted);
+    if (m_panels)
+        m_panels->announce();
 }
 
-void PrinterSetup::tellPanel(const std::vector<std::pair<QString, QString>> &wanted)
+void PrinterSetup::notePanelInput(const PanelSettings &before, const PanelSettings &now)
 {
-    // When it is shown for the first time, a panel begins with the PPD's own defaults and marks them. What
-    // the queue, the user and the command line want instead is then told like any change made elsewhere.
-    bool isNews = false;
-    for (const auto &[keyword, choice] : wanted) {
-        if (ppd().markedChoice(keyword) == choice)
-            continue;
-        m_state->changeOption(keyword, choice, nullptr);
-        isNews = true;
-    }
-    QString error;
-    if (isNews && !panel()->restoreValuesAndReturnError(&error))
-        m_panelProblem = PanelError{PanelFailure::NoPanel, error};
-    pressWanted(wanted);
-}
-
-void PrinterSetup::pressWanted(const std::vector<std::pair<QString, QString>> &wanted)
-{
-    // A panel that refreshes all its controls goes back to a ready-made combination, which may lack what only
-    // a click can add. So the click is made again, where the panel still allows it.
-    QWidget *const view = panel()->panelView();
-    for (QCheckBox *const box : view->findChildren<QCheckBox *>()) {
-        const QString keyword = box->property("ppdKeyword").toString();
-        const auto found = std::ranges::find(wanted, keyword, &std::pair<QString, QString>::first);
-        if (found == wanted.end() || box->isHidden() || !box->isEnabledTo(view))
-            continue;
-        const bool isOn = ppd().choiceIndex(keyword, found->second) == 1;
-        if (box->isChecked() != isOn)
-            box->click();
+    for (const auto &[keyword, choice] : now.choices) {
+        if (before.choice(keyword) != choice)
+            m_lastChosen = keyword;
     }
 }
 
@@ -244,55 +240,30 @@ QString PrinterSetup::printerText() const
 
 void PrinterSetup::record(const QByteArray &name, const QByteArray &value, Origin origin)
 {
-    const auto known = std::ranges::find(m_choices, name, &JobChoice::name);
-    const bool isPanels = origin == Origin::Panel;
-    if (known == m_choices.end()) {
-        m_choices.push_back({name, value, origin, isPanels});
-        return;
-    }
-    known->isPanels = known->isPanels || isPanels;
-    // A panel that hands over what the user has asked for has not chosen anything.
-    if (known->value == value)
-        return;
-    known->value = value;
-    known->origin = origin;
+    setJobChoice(m_choices, {name, value, origin});
 }
 
 void PrinterSetup::choosePaper(const PpdPaper &paper)
 {
     m_paper = paper;
     record(paperKeyword, paper.name, Origin::You);
-    m_state->setPaper(panelPaper(paper));
-    m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(paper.name), nullptr);
-    m_state->postPaperDidChange();
-    if (panel())
-        pressWanted(claimedChoices());
+    const auto change = [&] {
+        m_state->setPaper(panelPaper(paper));
+        m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(paper.name), nullptr);
+        m_state->postPaperDidChange();
+    };
+    m_panels->keepChoices(change, SetupPanels::Retry::Yes);
 }
 
 void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
 {
     m_lastChosen = QString::fromUtf8(keyword);
+    const QString choice = QString::fromUtf8(value);
     record(keyword, value, Origin::You);
-    m_state->changeOption(m_lastChosen, QString::fromUtf8(value), nullptr);
-    // Panels take note of such a change, but show it only when they are asked to.
-    QString error;
-    if (panel() && claimedKeywords().contains(m_lastChosen) && !panel()->restoreValuesAndReturnError(&error))
-        m_panelProblem = PanelError{PanelFailure::NoPanel, error};
-    if (panel())
-        pressWanted(claimedChoices());
-}
-
-std::vector<Conflict> PrinterSetup::conflicts() const
-{
-    return m_constraints ? m_constraints->conflicts() : std::vector<Conflict>();
-}
-
-std::optional<Remedy> PrinterSetup::remedy() const
-{
-    if (!m_constraints)
-        return std::nullopt;
-    return m_constraints->remedy(m_lastChosen.isEmpty() ? std::set<QString>()
-                                                        : std::set<QString>{m_lastChosen});
+    if (claimedKeywords().contains(m_lastChosen))
+        m_panels->choose(QString(m_lastChosen), choice);
+    else
+        m_panels->keepChoices([&] { m_state->changeOption(m_lastChosen, choice, nullptr); });
 }
 
 void PrinterSetup::apply(const Remedy &remedy)
@@ -303,45 +274,12 @@ void PrinterSetup::apply(const Remedy &remedy)
     m_lastChosen = chosen;
 }
 
-std::optional<QString> PrinterSetup::savePanel()
-{
-    PDEPanel *const shown = panel();
-    if (!shown)
-        return std::nullopt;
-    m_beforeSaves.push_back({claimedChoices(), m_state->recorded(), m_choices, m_lastChosen});
-    const QScopedValueRollback saving(m_isSaving, true);
-    QString error;
-    if (!shown->saveValuesAndReturnError(&error))
-        return Text::tr("\"%1\" cannot save its settings: %2").arg(shown->panelName(), error);
-    if (!shown->shouldPrint())
-        return Text::tr("\"%1\" does not let the job be printed with these settings.")
-            .arg(shown->panelName());
-    return std::nullopt;
-}
-
-void PrinterSetup::undoSave()
-{
-    if (m_beforeSaves.empty())
-        return;
-    Saved before = std::move(m_beforeSaves.back());
-    m_beforeSaves.pop_back();
-    m_state->putBack(before.marked, std::move(before.recorded));
-    m_choices = std::move(before.choices);
-    m_lastChosen = std::move(before.lastChosen);
-}
-
 void PrinterSetup::setDidChangeHook(std::function<void()> hook)
 {
     PanelHost *const host = panelHost();
     if (!host)
         return;
-    if (hook)
-        host->setDidChangeHook([this, changed = std::move(hook)] {
-            if (!m_isSaving)
-                changed();
-        });
-    else
-        host->setDidChangeHook({});
+    host->setDidChangeHook(std::move(hook));
 }
 
 } // namespace host

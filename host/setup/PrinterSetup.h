@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "PanelSource.h"
+#include "SetupPanels.h"
 
 #include <host/cups/ChoiceCheck.h>
 #include <host/cups/Constraints.h>
@@ -49,12 +49,18 @@ public:
     const PpdFile *ppdOrNull() const { return m_state ? &m_state->ppd() : nullptr; }
 
     /// The panel to show, with its view loaded; null when there is none.
-    PDEPanel *panel() const { return m_panels.session ? m_panels.session->firstPanel() : nullptr; }
+    PDEPanel *panel() const { return m_panels ? m_panels->panel() : nullptr; }
     /// Null when there is none.
-    PanelHost *panelHost() const { return m_panels.session ? &m_panels.session->host() : nullptr; }
-    /// Why there is no panel, although the printer has options for it; nothing when that is no problem.
-    const std::optional<PanelError> &panelProblem() const { return m_panelProblem; }
-    const QStringList &claimedKeywords() const { return m_panels.keywords; }
+    PanelHost *panelHost() const { return m_panels ? m_panels->panelHost() : nullptr; }
+    /// Why there is no panel, although the printer has options for it; absent when that is no problem.
+    std::optional<PanelError> panelProblem() const;
+    QStringList claimedKeywords() const;
+    /// What the panel would save if the job were printed now; empty without a panel. Changes nothing.
+    PanelSettings panelSettings() const;
+    /// The panel's lines of the summary for these choices; absent without a panel.
+    std::optional<QVariantMap> panelSummary(const PDEChoices &choices) const;
+    /// What was asked for and is replaced by the panel's rules, a sentence for each.
+    QStringList replacedChoices() const;
 
     /// Nothing without a PPD, or when the PPD names no paper at all.
     const std::optional<PpdPaper> &paper() const { return m_paper; }
@@ -71,24 +77,25 @@ public:
     /// Wishes that the printer cannot fulfil, one sentence each; the paper of the user's lpoptions among
     /// them, where no other is wished for.
     const std::vector<ChoiceError> &refusals() const { return m_refusals; }
-    /// What is wanted of the printer all in all: the choices, and of the wishes that it cannot fulfil those
-    /// that nothing else was chosen for. To be carried over to another setup, which may fulfil them or says
-    /// again that it cannot.
+    /// What was chosen, with what the panel's controls have and nothing has saved yet.
+    std::vector<JobChoice> choicesNow() const;
+    /// What is requested of the printer all in all: choicesNow(), and of the requested choices that it cannot
+    /// fulfil those that nothing else was chosen for. To be carried over to another setup, which may fulfil them or
+    /// reports again that it cannot.
     std::vector<JobChoice> choicesAndRefusedWishes() const;
 
-    std::vector<Conflict> conflicts() const;
-    /// Ends all conflicts without touching the paper; nothing when there is none or no way.
-    std::optional<Remedy> remedy() const;
+    /// Null without a PPD.
+    const Constraints *constraints() const { return m_constraints ? &*m_constraints : nullptr; }
+    /// The option that was chosen last, which a remedy leaves as it is if it can; empty before the first choice.
+    const QString &lastChosen() const { return m_lastChosen; }
+    /// Makes a remedy's changes as the user's choices.
     void apply(const Remedy &remedy);
+    /// The user has operated the panel, whose settings were different before: remembers what was chosen last.
+    void notePanelInput(const PanelSettings &before, const PanelSettings &now);
 
-    /// Tells the panel that its page comes to the front. What is chosen stays chosen.
+    /// Announces to the panel that its page comes to the front. What is chosen stays chosen.
     void announcePanel();
-    /// Has the panel hand over its settings and asks whether they may be printed. Nothing, or why not.
-    std::optional<QString> savePanel();
-    /// Marks and records all as it was before the last savePanel() that was not undone: for who only wanted
-    /// to know what would be printed, and when it was not printed after all.
-    void undoSave();
-    /// Called after every change that a panel has made by itself; not while it hands over its settings.
+    /// Called after every change that a panel makes by itself; not called for changes while a panel is asked.
     void setDidChangeHook(std::function<void()> hook);
 
 private:
@@ -98,24 +105,12 @@ private:
     void takePaper(const SetupWishes &wishes);
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
-    void tellPanel(const std::vector<std::pair<QString, QString>> &wanted);
-    void pressWanted(const std::vector<std::pair<QString, QString>> &wanted);
-    std::vector<std::pair<QString, QString>> claimedChoices() const;
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
-
-    /// What savePanel() changes.
-    struct Saved {
-        std::vector<std::pair<QString, QString>> marked;
-        RecordedChoices recorded;
-        std::vector<JobChoice> choices;
-        QString lastChosen;
-    };
 
     Destination m_destination;
     std::shared_ptr<DialogState> m_state;
     std::optional<Constraints> m_constraints;
-    ClaimedPanels m_panels;
-    std::optional<PanelError> m_panelProblem;
+    std::optional<SetupPanels> m_panels;
     std::optional<PpdPaper> m_paper;
     std::vector<JobChoice> m_choices;
     std::vector<ChoiceError> m_refusals;
@@ -123,9 +118,6 @@ private:
     std::vector<JobChoice> m_refusedWishes;
     /// The option that was chosen last, which a remedy leaves as it is if it can.
     QString m_lastChosen;
-    /// As it was before each savePanel() that may still be undone.
-    std::vector<Saved> m_beforeSaves;
-    bool m_isSaving = false;
 };
 
 } // namespace host

@@ -3,40 +3,13 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace host {
 
-namespace {
-
-/// What is shown is what is sent: a paper that the user's lpoptions name in another way ("media"), or the one
-/// that stands in for a default that the PPD does not have.
-void sendShownPaper(const PrinterSetup &setup, std::vector<JobOption> &options)
+Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft)
 {
-    const auto paper = std::ranges::find(options, QByteArray("PageSize"), &JobOption::name);
-    const bool isChosen = std::ranges::any_of(
-        setup.choices(), [](const JobChoice &choice) { return choice.name == "PageSize"; });
-    if (!setup.paper() || isChosen || paper == options.end() || paper->value == setup.paper()->name)
-        return;
-    *paper = {paper->name, setup.paper()->name, Origin::UserDefault, true};
-}
-
-} // namespace
-
-JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft)
-{
-    JobTicket ticket;
-    ticket.destination = setup.destination();
-    ticket.title = sendableTitle(draft.title);
-    Destination known = setup.destination();
-    // Another paper stands in for the one that the printer does not have, and is not the user's default.
-    if (setup.lackingUserPaper())
-        std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == "PageSize"; });
-    ticket.options = makeJobOptions(known, setup.ppdOrNull(), setup.choices(), draft.settings);
-    sendShownPaper(setup, ticket.options);
-    for (const DocumentFile &file : document.files())
-        ticket.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp});
-    return ticket;
+    return makeTicket({setup.destination(), setup.printerText(), setup.ppdOrNull(), setup.constraints(),
+                       setup.choices(), setup.lastChosen(), setup.panelSettings(), setup.paper(), document,
+                       draft});
 }
 
 QString defaultTitle(const LabelDocument &document)

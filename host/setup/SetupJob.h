@@ -2,24 +2,12 @@
 #pragma once
 
 #include "PrinterSetup.h"
-
-#include <host/PrintJob.h>
-#include <host/cups/JobTicket.h>
+#include "Ticket.h"
 
 namespace host {
 
-/// What is set for the job beside the printer's own options.
-struct JobDraft {
-    /// Nothing in it stands for the queue's own setting.
-    JobSettings settings;
-    /// The job's name in the queue.
-    QString title;
-    /// Which pages come out and how often, as settings say it.
-    PageChoices pages;
-};
-
-/// The job as it would be sent to the printer now.
-JobTicket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft);
+/// The job as it would be sent to the printer now. The panel is asked what it would save; nothing changes.
+Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft);
 
 /// The name that lp gives a job: that of its first document.
 QString defaultTitle(const LabelDocument &document);

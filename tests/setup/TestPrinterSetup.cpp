@@ -38,6 +38,8 @@ protected:
         return found == setup.choices().end() ? nullptr : &*found;
     }
 
+    host::Ticket ticketOf(const PrinterSetup &setup) const { return ticketFor(setup, *document.value(), {}); }
+
     static QString marked(const PrinterSetup &setup, const char *keyword)
     {
         return setup.ppd().markedChoice(QLatin1String(keyword)).value_or(QStringLiteral("(none)"));
@@ -50,6 +52,8 @@ protected:
 
     const host::PanelSource source{QStringLiteral(KV_BINARY_DIR "/bin"), {}};
     QTemporaryDir folder;
+    const host::Result<std::unique_ptr<host::LabelDocument>, host::DocumentError> document =
+        host::LabelDocument::open(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"));
 };
 
 JobChoice wish(const char *name, const char *value)
@@ -123,12 +127,16 @@ TEST_F(PrinterSetupTest, ThePanelsRulesHoldForWishesToo)
 {
     const auto setup =
         make(PpdBuilder().allOptions(), {{wish("KvSpecialTape", "ON"), wish("KvHalfCut", "ON")}});
-    EXPECT_FALSE(setup->savePanel());
-    ASSERT_TRUE(find(*setup, "KvHalfCut"));
-    EXPECT_EQ(find(*setup, "KvSpecialTape")->value, QByteArray("ON"));
-    EXPECT_EQ(find(*setup, "KvSpecialTape")->origin, Origin::You);
-    EXPECT_EQ(find(*setup, "KvHalfCut")->value, QByteArray("OFF"));
-    EXPECT_EQ(find(*setup, "KvHalfCut")->origin, Origin::Panel);
+    const host::Ticket ticket = ticketOf(*setup);
+    EXPECT_FALSE(ticket.panel.refusal);
+    const auto option = [&](const char *name) {
+        return *std::ranges::find(ticket.job.options, QByteArray(name), &host::JobOption::name);
+    };
+    EXPECT_EQ(option("KvSpecialTape"), (host::JobOption{"KvSpecialTape", "ON", Origin::You, true}));
+    EXPECT_EQ(option("KvHalfCut"), (host::JobOption{"KvHalfCut", "OFF", Origin::Panel, true}));
+    ASSERT_EQ(setup->replacedChoices().size(), 1);
+    EXPECT_TRUE(setup->replacedChoices().first().startsWith(QStringLiteral("\"Half Cut\" cannot be \"On\"")))
+        << setup->replacedChoices().first().toStdString();
 }
 
 TEST_F(PrinterSetupTest, ARemedyEndsTheConflictAndLeavesThePaper)
@@ -139,14 +147,14 @@ TEST_F(PrinterSetupTest, ARemedyEndsTheConflictAndLeavesThePaper)
                                .constraint("KvMirror", "ON", "PageSize", "24mm")
                                .constraint("Other", "ON", "KvMirror", "ON");
     const auto setup = make(ppd);
-    EXPECT_TRUE(setup->conflicts().empty());
+    EXPECT_TRUE(ticketOf(*setup).conflicts.empty());
     setup->choose("Other", "ON");
     setup->choose("KvMirror", "ON");
-    EXPECT_EQ(setup->conflicts().size(), 2U);
-    const auto remedy = setup->remedy();
+    EXPECT_EQ(ticketOf(*setup).conflicts.size(), 2U);
+    const auto remedy = ticketOf(*setup).remedy;
     ASSERT_TRUE(remedy);
     setup->apply(*remedy);
-    EXPECT_TRUE(setup->conflicts().empty());
+    EXPECT_TRUE(ticketOf(*setup).conflicts.empty());
     EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("24mm"));
     // The paper rules it out, so not even the last choice can stay.
     EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("OFF"));
@@ -207,9 +215,6 @@ TEST_F(PrinterSetupTest, ADefaultPaperOfTheUsersThatThePrinterLacksIsRefused)
         {{{}, "A4"}, {QStringLiteral("\"A4\"")}, "36mm", Origin::Queue},
         {forced, {bogus}, "Bogus", Origin::UserDefault},
     };
-    const auto document =
-        host::LabelDocument::open(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"));
-    ASSERT_TRUE(document);
     for (const Row &row : rows) {
         const auto setup = make(PpdBuilder().options({"KvMirror"}), row.wishes, destination);
         ASSERT_EQ(setup->refusals().size(), static_cast<std::size_t>(row.refused.size())) << row.sent;
@@ -218,9 +223,9 @@ TEST_F(PrinterSetupTest, ADefaultPaperOfTheUsersThatThePrinterLacksIsRefused)
             EXPECT_TRUE(setup->refusals()[0].message.contains(words))
                 << setup->refusals()[0].message.toStdString();
         }
-        const host::JobTicket ticket = ticketFor(*setup, *document.value(), {});
-        const auto paper = std::ranges::find(ticket.options, QByteArray("PageSize"), &host::JobOption::name);
-        ASSERT_NE(paper, ticket.options.end());
+        const host::JobTicket job = ticketOf(*setup).job;
+        const auto paper = std::ranges::find(job.options, QByteArray("PageSize"), &host::JobOption::name);
+        ASSERT_NE(paper, job.options.end());
         EXPECT_EQ(*paper, (host::JobOption{"PageSize", row.sent, row.origin, true})) << row.sent;
     }
 }
@@ -245,7 +250,7 @@ TEST_F(PrinterSetupTest, WithoutAPpdEverythingIsPassedOn)
     EXPECT_FALSE(setup.panel());
     EXPECT_FALSE(setup.panelProblem());
     EXPECT_FALSE(setup.paper());
-    EXPECT_TRUE(setup.conflicts().empty());
+    EXPECT_TRUE(ticketOf(setup).conflicts.empty());
     ASSERT_EQ(setup.choices().size(), 2U);
     EXPECT_EQ(setup.choices()[1].name, QByteArray("PageSize"));
     EXPECT_EQ(setup.printerText(), QStringLiteral("plain"));
@@ -256,7 +261,7 @@ TEST_F(PrinterSetupTest, APrinterWithoutCutOptionsHasNoPanelAndNoProblem)
     const auto setup = make(PpdBuilder().option("Other"));
     EXPECT_FALSE(setup->panel());
     EXPECT_FALSE(setup->panelProblem());
-    EXPECT_FALSE(setup->savePanel());
+    EXPECT_EQ(setup->panelSettings(), host::PanelSettings());
 }
 
 TEST_F(PrinterSetupTest, ABundleThatIsNotThereIsAProblemToTell)

@@ -251,13 +251,13 @@ TEST_F(SetupKeeperTest, AReplacedPpdIsNothingThatTheUserHasSet)
     QObject::connect(keeper.get(), &SetupKeeper::setupChanged, [&] {
         if (!keeper->setup())
             return;
-        // A panel records what it finds as soon as it is shown.
-        keeper->setup()->savePanel();
+        // A panel saves what it finds as soon as it is shown.
+        keeper->setup()->announcePanel();
         ++setups;
     });
     session->start(host::Discovery::No);
     ASSERT_TRUE(waitFor([&] { return setups == 1 && session->isSettled() && knows(); }));
-    EXPECT_EQ(chosen("KvCutMark"), QByteArray("OFF"));
+    EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvHalfCut", "KvMirror"}).ppd());
     session->start(host::Discovery::No);
     ASSERT_TRUE(waitFor([&] { return setups == 2 && session->isSettled() && knows(); }));

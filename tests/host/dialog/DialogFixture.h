@@ -22,9 +22,8 @@ class RecordingSender : public dialog::JobSender {
 public:
     void send(const dialog::ReadyJob &job) override
     {
-        jobs.push_back(job.strip ? host::cutPlanFigures(job.strip->plan()) : QString());
-        options = job.setup.state().recorded();
-        settings = job.draft.settings;
+        jobs.push_back(job.plan ? host::cutPlanFigures(*job.plan) : QString());
+        ticket = job.ticket;
         if (isSlow)
             return;
         if (problem)
@@ -34,9 +33,18 @@ public:
     }
     void cancel() override { Q_EMIT failed(QString()); }
 
+    /// The option's value in the job that was sent last; empty when it is not sent.
+    QByteArray sentOption(const char *name) const
+    {
+        for (const host::JobOption &option : ticket ? ticket->job.options : std::vector<host::JobOption>()) {
+            if (option.name == name && option.isSent)
+                return option.value;
+        }
+        return {};
+    }
+
     std::vector<QString> jobs;
-    host::RecordedChoices options;
-    host::JobSettings settings;
+    std::optional<host::Ticket> ticket;
     std::optional<QString> problem;
     /// The outcome of send() is left to the test.
     bool isSlow = false;

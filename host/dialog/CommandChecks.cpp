@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandChecks.h"
+
+#include "QueueSender.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace dialog {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
+};
+
+/// The papers' names for a message, and "…" in place of most of them when there are many.
+QString paperNames(const host::PpdFile &ppd)
+{
+    constexpr int max = 12;
+    QStringList names;
+    for (const host::PpdPaper &paper : ppd.papers())
+        names.append(QString::fromUtf8(paper.name));
+    if (names.size() > max)
+        names = names.first(max) << QStringLiteral("…");
+    return names.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+CommandChecks::CommandChecks(const CommandLine &command, const Console &console)
+    : m_command(command)
+    , m_console(console)
+{
+}
+
+QString CommandChecks::refusalText(const host::ChoiceError &refusal, const host::PrinterSetup &setup) const
+{
+    const bool isPaperOfFile = m_command.ppd && m_command.paper && refusal.kind == host::ChoiceFailure::UnknownPaper;
+    if (!isPaperOfFile)
+        return refusal.message;
+    return QCoreApplication::translate("dialog::PrintRun", "The PPD file \"%1\" has no paper \"%2\"; it has: %3")
+        .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), paperNames(setup.ppd()));
+}
+
+bool CommandChecks::accepts(const host::PrinterSetup &setup) const
+{
+    for (const host::ChoiceError &refusal : setup.refusals())
+        m_console.complain(refusalText(refusal, setup));
+    if (!setup.refusals().empty() && !m_command.force)
+        return false;
+    const auto problem = setup.panelProblem();
+    if (problem)
+        m_console.complain(problem->message);
+    return !problem || problem->kind != host::PanelFailure::BrokenBundle;
+}
+
+void CommandChecks::reportReplaced(const host::Ticket &ticket) const
+{
+    for (const host::JobChoice &wish : m_command.options) {
+        const auto now = std::ranges::find(ticket.choices, wish.name, &host::JobChoice::name);
+        if (now != ticket.choices.end() && now->value != wish.value)
+            m_console.complain(Text::tr("\"%1\" cannot be \"%2\" together with the other cut options and is "
+                                        "printed as \"%3\"")
+                                   .arg(QString::fromUtf8(wish.name), QString::fromUtf8(wish.value),
+                                        QString::fromUtf8(now->value)));
+    }
+}
+
+bool CommandChecks::accepts(const host::Ticket &ticket) const
+{
+    if (ticket.panel.refusal) {
+        m_console.complain(*ticket.panel.refusal);
+        return false;
+    }
+    reportReplaced(ticket);
+    for (const host::Conflict &conflict : ticket.conflicts)
+        m_console.complain(conflict.sentence());
+    if (ticket.remedy)
+        m_console.complain(Text::tr("This would help: %1").arg(ticket.remedy->sentence()));
+    return ticket.conflicts.empty() || m_command.force;
+}
+
+void CommandChecks::printRequestId(const QueueSender &sender) const
+{
+    if (!m_command.quiet)
+        m_console.tellRequestId(sender.queue(), sender.jobId(),
+                                qMax(qsizetype(1), m_command.documents.size()));
+}
+
+ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &setup)
+{
+    return status == ExitStatus::Printed && setup.panelProblem() ? ExitStatus::PrintedWithoutPanel : status;
+}
+
+} // namespace dialog

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PanelWatch.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QWidget>
+
+namespace dialog {
+
+namespace {
+
+/// Input of every kind, and the painting that follows a change without input.
+bool mayFollowFromChange(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::Wheel:
+    case QEvent::Drop:
+    case QEvent::TouchBegin:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+    case QEvent::FocusOut:
+    case QEvent::Hide:
+    case QEvent::Close:
+    case QEvent::EnabledChange:
+    case QEvent::Paint:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+PanelWatch::PanelWatch(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void PanelWatch::follow(QWidget *view)
+{
+    qApp->removeEventFilter(this);
+    if (QAbstractEventDispatcher *const dispatcher = QAbstractEventDispatcher::instance())
+        dispatcher->disconnect(this);
+    m_view = view;
+    if (!view)
+        return;
+    qApp->installEventFilter(this);
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
+        if (m_view && !m_isAnnounced)
+            Q_EMIT touched();
+    });
+}
+
+bool PanelWatch::belongsToView(const QObject *object) const
+{
+    // Menus, lists and alerts are windows of their own, but children of the view all the same.
+    while (object && object != m_view)
+        object = object->parent();
+    return object != nullptr;
+}
+
+bool PanelWatch::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_view && !m_isAnnounced && mayFollowFromChange(event->type()) && belongsToView(watched))
+        announceLater();
+    return false;
+}
+
+void PanelWatch::announceLater()
+{
+    m_isAnnounced = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isAnnounced = false;
+            if (m_view)
+                Q_EMIT touched();
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace dialog

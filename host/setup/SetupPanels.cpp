@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SetupPanels.h"
+
+#include <algorithm>
+
+namespace host {
+
+SetupPanels::SetupPanels(std::shared_ptr<DialogState> state)
+    : m_state(std::move(state))
+{
+}
+
+SetupPanels::~SetupPanels() = default;
+
+void SetupPanels::load(const PanelSource &source, const PDEChoices &requested)
+{
+    Result<ClaimedPanels, PanelError> panels = source.panelsFor(m_state);
+    if (!panels) {
+        m_problem = panels.error();
+        return;
+    }
+    m_panels = std::move(panels).value();
+    if (!panel())
+        return;
+    const PDEChoices marked = markedChoices();
+    restore();
+    panel()->willShow();
+    // A panel that is shown for the first time begins with the PPD's own defaults and marks them. What the
+    // queue, the user and the command line asked for instead is a change made elsewhere.
+    bool isChanged = false;
+    for (const auto &[keyword, choice] : marked) {
+        if (ppd().markedChoice(keyword) == choice)
+            continue;
+        m_state->changeOption(keyword, choice, nullptr);
+        isChanged = true;
+    }
+    if (isChanged)
+        restore();
+    apply(marked);
+    PDEChoices wanted = marked;
+    for (const auto &[keyword, choice] : requested) {
+        if (keywords().contains(keyword))
+            setChoice(wanted, keyword, choice);
+    }
+    noteReplaced(wanted);
+}
+
+PanelSettings SetupPanels::settings() const
+{
+    return panel() ? m_panels.session->settings() : PanelSettings();
+}
+
+std::optional<QVariantMap> SetupPanels::summary(const PDEChoices &choices) const
+{
+    PDEPanel *const shown = panel();
+    if (!shown)
+        return std::nullopt;
+    const auto *const exact = dynamic_cast<const PDEChoiceSummary_v1 *>(shown);
+    return exact ? exact->summaryInfoFor(choices) : shown->summaryInfo();
+}
+
+void SetupPanels::announce()
+{
+    if (panel())
+        keepChoices([this] { panel()->willShow(); });
+}
+
+void SetupPanels::choose(const QString &keyword, const QString &choice)
+{
+    PDEChoices wanted = wantedChoices(Retry::No);
+    setChoice(wanted, keyword, choice);
+    std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == keyword; });
+    if (!panel()) {
+        m_state->changeOption(keyword, choice, nullptr);
+        return;
+    }
+    apply({{keyword, choice}});
+    if (!isSame(keyword, settings().choice(keyword), choice)) {
+        // The panel has no control for it, or does not let it be used: it reads the choice from the PPD.
+        save();
+        m_state->changeOption(keyword, choice, nullptr);
+        restore();
+        apply(wanted);
+    }
+    noteReplaced(wanted);
+}
+
+void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
+{
+    if (!panel()) {
+        action();
+        return;
+    }
+    const PDEChoices wanted = wantedChoices(retry);
+    save();
+    for (const auto &[keyword, choice] : wanted) {
+        // Only choices that were replaced before are not marked by now.
+        if (ppd().markedChoice(keyword) != choice)
+            ppd().mark(keyword, choice);
+    }
+    action();
+    PDEChoices dropped = wanted;
+    std::erase_if(dropped, [&](const auto &each) { return ppd().markedChoice(each.first) != each.second; });
+    apply(dropped);
+    noteReplaced(wanted);
+}
+
+PDEChoices SetupPanels::wantedChoices(Retry retry)
+{
+    PDEChoices wanted = settings().choices;
+    for (const ReplacedChoice &each : m_replaced) {
+        // Unless the user has chosen otherwise since.
+        if (retry == Retry::Yes && findChoice(wanted, each.keyword) == each.saved)
+            setChoice(wanted, each.keyword, each.choice);
+    }
+    return wanted;
+}
+
+void SetupPanels::noteReplaced(const PDEChoices &wanted)
+{
+    const PanelSettings now = settings();
+    // What was replaced before stays known while the panel saves the same for it.
+    std::erase_if(m_replaced,
+                  [&](const ReplacedChoice &each) { return now.choice(each.keyword) != each.saved; });
+    for (const auto &[keyword, choice] : wanted) {
+        const std::optional<QString> saved = now.choice(keyword);
+        // A choice that the PPD does not list was not replaced by a rule: the panel spells it so.
+        if (!saved || isSame(keyword, saved, choice) || !ppd().choiceIndex(keyword, *saved))
+            continue;
+        std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == keyword; });
+        m_replaced.push_back({keyword, choice, *saved});
+    }
+}
+
+PDEChoices SetupPanels::markedChoices() const
+{
+    PDEChoices choices;
+    for (const QString &keyword : keywords()) {
+        if (const std::optional<QString> choice = ppd().markedChoice(keyword))
+            choices.emplace_back(keyword, *choice);
+    }
+    return choices;
+}
+
+bool SetupPanels::isSame(const QString &keyword, const std::optional<QString> &saved,
+                         const QString &choice) const
+{
+    // libcups reads choices in any case of letters.
+    const std::optional<int> index = saved ? ppd().choiceIndex(keyword, *saved) : std::nullopt;
+    return saved == choice || (index && index == ppd().choiceIndex(keyword, choice));
+}
+
+void SetupPanels::save()
+{
+    // A panel that cannot save says so in its settings too, and is asked for those before anything is sent.
+    panel()->saveValuesAndReturnError(nullptr);
+}
+
+void SetupPanels::restore()
+{
+    QString error;
+    if (!panel()->restoreValuesAndReturnError(&error))
+        m_problem = PanelError{PanelFailure::NoPanel, error};
+}
+
+void SetupPanels::apply(const PDEChoices &choices)
+{
+    if (auto *const controls = dynamic_cast<PDEUserChoices_v1 *>(panel()))
+        controls->applyUserChoices(choices);
+}
+
+} // namespace host

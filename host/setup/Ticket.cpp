@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Ticket.h"
+
+#include <host/Units.h>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr const char *paperKeyword = "PageSize";
+
+/// The user's default paper, where the printer does not have it.
+bool lacksUserPaper(const TicketSource &source)
+{
+    const QByteArray *const users = findValue(source.destination.userOptions, paperKeyword);
+    return users && source.ppd && !source.ppd->paper(*users);
+}
+
+std::vector<JobChoice> choicesWithPanel(const TicketSource &source)
+{
+    std::vector<JobChoice> choices = source.choices;
+    for (const auto &[keyword, choice] : source.panel.choices)
+        setJobChoice(choices, {keyword.toUtf8(), choice.toUtf8(), Origin::Panel});
+    return choices;
+}
+
+/// What is shown is what is sent: a paper that the user's lpoptions name in another way ("media"), or the one
+/// that stands in for a default that the PPD does not have.
+void sendShownPaper(const Ticket &ticket, std::vector<JobOption> &options)
+{
+    const auto paper = std::ranges::find(options, QByteArray(paperKeyword), &JobOption::name);
+    const bool isChosen =
+        std::ranges::find(ticket.choices, QByteArray(paperKeyword), &JobChoice::name) != ticket.choices.end();
+    if (!ticket.paper || isChosen || paper == options.end() || paper->value == ticket.paper->name)
+        return;
+    *paper = {paper->name, ticket.paper->name, Origin::UserDefault, true};
+}
+
+JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
+{
+    JobTicket job;
+    job.destination = source.destination;
+    job.title = sendableTitle(source.draft.title);
+    Destination known = source.destination;
+    // Another paper stands in for the one that the printer does not have, and is not the user's default.
+    if (lacksUserPaper(source))
+        std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == paperKeyword; });
+    job.options = makeJobOptions(known, source.ppd, ticket.choices, source.draft.settings);
+    sendShownPaper(ticket, job.options);
+    for (const DocumentFile &file : source.document.files())
+        job.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp});
+    return job;
+}
+
+/// What the job carries for options of the PPD. The server applies the others to it, as they are marked.
+RecordedChoices sentChoices(const JobTicket &job, const PpdFile &ppd)
+{
+    RecordedChoices sent;
+    for (const JobOption &option : job.options) {
+        const QString keyword = QString::fromUtf8(option.name);
+        if (option.isSent && ppd.hasOption(keyword))
+            sent.record(keyword, QString::fromUtf8(option.value));
+    }
+    return sent;
+}
+
+} // namespace
+
+Ticket makeTicket(const TicketSource &source)
+{
+    Ticket ticket;
+    ticket.document = source.document.title();
+    ticket.printer = source.printer;
+    ticket.paper = source.paper;
+    ticket.pages = source.draft.pages;
+    ticket.settings = withDefaults(source.draft.settings, defaultPageSettings(source.destination));
+    ticket.choices = choicesWithPanel(source);
+    ticket.panel = source.panel;
+    ticket.job = makeJob(source, ticket);
+    ticket.cuts.areKnown = false;
+    if (source.ppd)
+        ticket.cuts = CutSettings::fromJob(*source.ppd, sentChoices(ticket.job, *source.ppd));
+    if (source.constraints) {
+        ticket.conflicts = source.constraints->conflicts(source.panel.choices);
+        std::set<QString> keep;
+        if (!source.lastChosen.isEmpty())
+            keep.insert(source.lastChosen);
+        if (!ticket.conflicts.empty())
+            ticket.remedy = source.constraints->remedy(keep, source.panel.choices);
+    }
+    return ticket;
+}
+
+CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const LabelRenderer &renderer)
+{
+    const MeasureBlank blank = ticket.cuts.removeBlank ? MeasureBlank::Yes : MeasureBlank::No;
+    std::vector<LabelExtent> extents(static_cast<std::size_t>(document.pageCount()));
+    for (const int page : ticket.pages.pages)
+        extents[static_cast<std::size_t>(page)] = renderer.extent(page, blank);
+    // The label's top leaves the printer first.
+    std::optional<double> leadingMargin;
+    if (ticket.paper && ticket.paper->margins)
+        leadingMargin = ticket.paper->margins->top() * millimetresPerPoint;
+    const std::vector<int> order = printOrder(pagesByDocument(ticket.pages.pages, document.pageCounts()),
+                                              ticket.pages.copies, ticket.pages.collate, ticket.pages.order);
+    return CutPlan::make(ticket.cuts, order, extents, leadingMargin);
+}
+
+} // namespace host
