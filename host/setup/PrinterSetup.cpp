@@ -4,6 +4,7 @@
 #include <host/CutSettings.h>
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -217,6 +218,8 @@ QStringList PrinterSetup::replacedChoices() const
 
 void PrinterSetup::announcePanel()
 {
+    // Saving the panel is not choosing.
+    const QScopedValueRollback keep(m_lastChosen);
     if (m_panels)
         m_panels->announce();
 }
@@ -245,6 +248,7 @@ void PrinterSetup::record(const QByteArray &name, const QByteArray &value, Origi
 
 void PrinterSetup::choosePaper(const PpdPaper &paper)
 {
+    const QScopedValueRollback keep(m_lastChosen);
     m_paper = paper;
     record(paperKeyword, paper.name, Origin::You);
     const auto change = [&] {
@@ -257,13 +261,14 @@ void PrinterSetup::choosePaper(const PpdPaper &paper)
 
 void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
 {
-    m_lastChosen = QString::fromUtf8(keyword);
+    const QString option = QString::fromUtf8(keyword);
     const QString choice = QString::fromUtf8(value);
     record(keyword, value, Origin::You);
-    if (claimedKeywords().contains(m_lastChosen))
-        m_panels->choose(QString(m_lastChosen), choice);
+    if (claimedKeywords().contains(option))
+        m_panels->choose(option, choice);
     else
-        m_panels->keepChoices([&] { m_state->changeOption(m_lastChosen, choice, nullptr); });
+        m_panels->keepChoices([&] { m_state->changeOption(option, choice, nullptr); });
+    m_lastChosen = option;
 }
 
 void PrinterSetup::apply(const Remedy &remedy)

@@ -40,7 +40,7 @@ bool SetupKeeper::userHasSet() const
         return one.name == other.name && one.value == other.value;
     };
     // A replaced PPD may bring them in another order.
-    return m_setup && !std::ranges::is_permutation(m_setup->choices(), m_firstChoices, isSame);
+    return m_setup && !std::ranges::is_permutation(m_setup->choicesNow(), m_firstChoices, isSame);
 }
 
 void SetupKeeper::release()
@@ -113,9 +113,9 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
     const bool isAnother = before == m_choicesOfQueues.end();
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
     Q_EMIT setupChanged();
-    // Taken when the panels have been shown: they record what they find.
+    // Compared with later choices when the panels have been shown: they record what they find.
     if (isAnother || !m_hadUsersChoices)
-        m_firstChoices = m_setup->choices();
+        m_firstChoices = m_setup->choicesNow();
 }
 
 } // namespace host

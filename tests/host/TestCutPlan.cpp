@@ -270,6 +270,16 @@ TEST(CutPlan, TellsProgramsTheSame)
     EXPECT_EQ(json.value(QStringLiteral("tapeUsed")).toDouble(), 134.5);
 }
 
+TEST(CutPlan, SaysNothingAboutTheCutsOfAPrinterThatDoesNotDescribeThem)
+{
+    const std::vector<int> order{0, 0};
+    const std::vector<LabelExtent> extents{{60.0, 0.0, 0.0, false}};
+    const CutPlan plan = CutPlan::make({.areKnown = false}, order, extents, std::nullopt);
+    EXPECT_EQ(cutPlanFigures(plan), QStringLiteral("Labels: 2 \u00b7 Tape: 120 mm"));
+    EXPECT_EQ(cutPlanSentences(plan),
+              QStringList{QStringLiteral("The printer's description does not say whether it cuts the labels.")});
+}
+
 TEST(CutSettings, ReadsRecordedThenMarkedThenDefault)
 {
     const Sandbox sandbox;
@@ -336,9 +346,9 @@ TEST(CutSettings, WhatThePpdLacksIsOffUnlessAPanelRecordedIt)
     const auto ppd = host::PpdFile::open(
         sandbox.write(QStringLiteral("bare.ppd"), "*PPD-Adobe: \"4.3\"\n*NickName: \"Bare\"\n"));
     ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
-    EXPECT_EQ(CutSettings::fromJob(ppd.value(), {}), CutSettings());
+    EXPECT_EQ(CutSettings::fromJob(ppd.value(), {}), CutSettings{.areKnown = false});
     host::RecordedChoices recorded;
     recorded.record(QStringLiteral("KvHalfCut"), QStringLiteral("ON"));
     recorded.record(QStringLiteral("KvCutLabel"), QStringLiteral("nonsense"));
-    EXPECT_EQ(CutSettings::fromJob(ppd.value(), recorded), CutSettings{.halfCut = true});
+    EXPECT_EQ(CutSettings::fromJob(ppd.value(), recorded), (CutSettings{.halfCut = true, .areKnown = false}));
 }
