@@ -5,13 +5,26 @@
 
 #include <unistd.h>
 
+namespace diag {
+
+void writeDebugPrefix()
+{
+    writeFully(STDERR_FILENO, "DEBUG: ");
+}
+
+void writeDebugMessage(const QString &format, std::span<const platform::FormatArgument> arguments)
+{
+    writeFully(STDERR_FILENO, platform::stringWithFormat(format, arguments).toUtf8() + '\n');
+}
+
+} // namespace diag
+
 void debugLog(std::int32_t level, const QString &format, std::span<const platform::FormatArgument> arguments)
 {
     if (level >= 1)
         return;
-    // The prefix goes out before the message is built, so that a crash while building it leaves a trace.
-    diag::writeFully(STDERR_FILENO, "DEBUG: ");
-    diag::writeFully(STDERR_FILENO, platform::stringWithFormat(format, arguments).toUtf8() + '\n');
+    diag::writeDebugPrefix();
+    diag::writeDebugMessage(format, arguments);
 }
 
 void debugLogFd(std::int32_t level, int descriptor, const QString &format,

@@ -28,12 +28,23 @@ extern "C" KV_EXPORT void debugLog(std::int32_t level, const QString &format,
 extern "C" KV_EXPORT void debugLogFd(std::int32_t level, int descriptor, const QString &format,
                                      std::span<const platform::FormatArgument> arguments);
 
+namespace diag {
+
+// The two writes of debugLog(). The prefix goes out before anything of the message is made, its arguments'
+// descriptions included, so that a crash in one of them leaves a trace.
+void writeDebugPrefix();
+void writeDebugMessage(const QString &format, std::span<const platform::FormatArgument> arguments);
+
+} // namespace diag
+
 template<std::convertible_to<platform::FormatArgument>... Arguments>
 void debugLog(std::int32_t level, const QString &format, const Arguments &...arguments)
 {
-    if (level < 1)
-        debugLog(level, format,
-                 std::span<const platform::FormatArgument>(platform::formatArguments(arguments...)));
+    if (level >= 1)
+        return;
+    diag::writeDebugPrefix();
+    diag::writeDebugMessage(
+        format, std::span<const platform::FormatArgument>(platform::formatArguments(arguments...)));
 }
 
 template<std::convertible_to<platform::FormatArgument>... Arguments>

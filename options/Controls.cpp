@@ -15,6 +15,11 @@ bool isEnabled(const QWidget *control)
     return control && control->isEnabledTo(control->parentWidget());
 }
 
+bool isReachable(const QWidget *control)
+{
+    return isEnabled(control) && !isHidden(control);
+}
+
 int state(const QCheckBox *box)
 {
     return box && box->isChecked() ? 1 : 0;

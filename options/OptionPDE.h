@@ -4,12 +4,14 @@
 #include "OptionTable.h"
 
 #include <plugin/BasePDE.h>
+#include <plugin/protocol/PDEUserChoices.h>
 #include <preview/OptionView.h>
 
 #include <QCheckBox>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTabWidget>
 
 #include <platform/PopUpButton.h>
@@ -29,7 +31,7 @@
 /// All rows work through one table (OptionRow), so that a new option is a new row. Controls that are not
 /// loaded yet read as visible, disabled and off, and are left alone when written, since a dialog may
 /// save or ask for the summary before it ever shows the panel.
-class OptionPDE13_v400_ : public BasePDE13_v400_ {
+class OptionPDE13_v400_ : public BasePDE13_v400_, public PDEUserChoices_v1, public PDEChoiceSummary_v1 {
 public:
     using ChoicesField = std::unique_ptr<PDEChoiceList>;
 
@@ -47,7 +49,7 @@ public:
     bool shouldShowHelp() const override { return false; }
     void PPDOptionKeyValueDidChange(const std::optional<QString> &key,
                                     const std::optional<QString> &choice) override;
-    std::optional<QVariantMap> summaryInfo() override;
+    std::optional<QVariantMap> summaryInfo() override { return summaryInfoFor({}); }
     void initSetTitleTexts() override {}
     void initUI() override;
     void getValuesFromKey() override {}
@@ -56,6 +58,12 @@ public:
     void setPDEItems2() override;
     void updateUIItem(ItemTypes items) override;
     void updateMarkedSelections(ItemTypes items) override;
+
+    /// Special tape is applied first, since it enables and disables others, and the rest in table order. A
+    /// count whose field only the automatic cut enables follows it. A choice that a check box cannot show,
+    /// the third of a list, is skipped, and so is a count that typing its number would not choose.
+    void applyUserChoices(const PDEChoices &choices) override;
+    std::optional<QVariantMap> summaryInfoFor(const PDEChoices &given) const override;
 
     /// The layout is loaded and its controls are connected: shows the rows that the PPD defines, closes the
     /// gaps, takes the presets out that this printer cannot do, and puts the preview in its place.
@@ -128,7 +136,7 @@ public:
     QLabel *countWord() const { return mCutEveryStr; }
     platform::PopUpButton *popUp() const { return mOptionPopUpButton; }
     OptionView13_v400_ *preview() const { return mOptionView; }
-    /// Everything that can be read back, as JSON; the view must be loaded.
+    /// Everything that can be read back, as JSON; empty while the view is not loaded.
     QJsonObject inspection() const;
 
 protected:
@@ -153,7 +161,7 @@ private:
         SaveIndex saveIndex;
         /// The box's name in the layout file is the field's name.
         const char *boxName;
-        QCheckBox *OptionPDE13_v400_::*box;
+        QPointer<QCheckBox> OptionPDE13_v400_::*box;
         ppd_option_t *OptionPDE13_v400_::*option;
         ChoicesField OptionPDE13_v400_::*choices;
         const PDEChoice *OptionPDE13_v400_::*selection;
@@ -180,6 +188,7 @@ private:
     void connectActions();
     void initializeRow(OptionKind kind);
     void initializeTitleAndState(OptionKind kind);
+    void fillReplacedControls();
     QString titleFor(const char *keyword, const char *fallbackKey) const;
 
     void readTapeState();
@@ -188,20 +197,43 @@ private:
     void applyCutEveryRules();
     QByteArray currentPaperName() const;
 
-    int countFromTitle(const PDEChoice &choice) const;
+    /// The counts that the printer knows, without gaps: the index of a count is its distance from the
+    /// smallest.
+    struct CountRange {
+        int low;
+        int high;
+        int clamped(int count) const;
+        /// -1 for an index that no list can have.
+        int indexOf(int count) const;
+    };
+    CountRange countRange() const;
     void showCount(const QString &text);
     const OptionRow *rowOfBox(const QWidget *box) const;
+    void chooseBoxState(const OptionRow &edited);
+    void applyToBox(OptionKind kind, int index);
+    void applyToCount(int index);
+    int boxIndexGiven(OptionKind kind, const PDEChoices &choices) const;
     void applyPreset(int tag);
     void updateRow(const OptionRow &row);
     bool isBoxOn(OptionKind kind) const;
 
     void saveSetting(OptionKind kind);
-    void saveRow(const OptionRow &row);
-    void saveChainedAutoCut();
+    /// What saving writes for an option that it writes; absent for a list without choices.
+    std::optional<QString> choiceToSave(OptionKind kind) const;
+    int boxIndexToSave(const OptionRow &row) const;
+    int countIndexToSave() const;
+    QString chainedAutoCutToSave() const;
     int markedElseDefault(const PDEChoiceList *list, const char *keyword) const;
-    void sendChoice(const ppd_option_t *option, const PDEChoiceList *list, int index);
-    bool isInSummary(OptionKind kind) const;
-    QString summaryValue(OptionKind kind) const;
+    void sendChoice(const ppd_option_t *option, const std::optional<QString> &choice);
+
+    static std::optional<QString> choiceGiven(OptionKind kind, const PDEChoices &given);
+    /// The place of the choice that is given for the option in its list; -1 when none is given or the list
+    /// lacks it.
+    int indexGiven(OptionKind kind, const PDEChoices &given) const;
+    /// The choice that counts for the option: the given one, else the selection. May be null.
+    const PDEChoice *heldChoice(OptionKind kind, const PDEChoices &given) const;
+    bool isInSummary(OptionKind kind, const PDEChoices &given) const;
+    QString summaryValue(OptionKind kind, const PDEChoices &given) const;
 
     ppd_option_t *mCutEvery_Option = nullptr;
     ppd_option_t *mCutEnd_Option = nullptr;
@@ -236,22 +268,23 @@ private:
     /// The automatic-cut choice as the cut-every row's box has it.
     const PDEChoice *mAutoCut_CutEvery_Selection = nullptr;
 
-    // Controls of the layout file, owned by the view.
-    QCheckBox *mCutEveryChkBx = nullptr;
-    QCheckBox *mCutAndEndChkBx = nullptr;
-    QCheckBox *mMirrorPrintChkBx = nullptr;
-    QCheckBox *mAutoCutChkBx = nullptr;
-    QCheckBox *mHalfCutChkBx = nullptr;
-    QCheckBox *mChainPrintChkBx = nullptr;
-    QCheckBox *mSpecialTapeChkBx = nullptr;
-    QCheckBox *mRemoveBlkSpaceChkBx = nullptr;
-    QCheckBox *mCutMarkChkBx = nullptr;
-    QLineEdit *mCutEveryTxBx = nullptr;
-    platform::Stepper *mCutEveryStpr = nullptr;
-    QLabel *mCutEveryStr = nullptr;
-    platform::PopUpButton *mOptionPopUpButton = nullptr;
-    QWidget *mOptionDummyView = nullptr;
-    OptionView13_v400_ *mOptionView = nullptr;
+    // Controls of the layout file, owned by the view. Each reads as absent again when it goes, with its view
+    // or without.
+    QPointer<QCheckBox> mCutEveryChkBx;
+    QPointer<QCheckBox> mCutAndEndChkBx;
+    QPointer<QCheckBox> mMirrorPrintChkBx;
+    QPointer<QCheckBox> mAutoCutChkBx;
+    QPointer<QCheckBox> mHalfCutChkBx;
+    QPointer<QCheckBox> mChainPrintChkBx;
+    QPointer<QCheckBox> mSpecialTapeChkBx;
+    QPointer<QCheckBox> mRemoveBlkSpaceChkBx;
+    QPointer<QCheckBox> mCutMarkChkBx;
+    QPointer<QLineEdit> mCutEveryTxBx;
+    QPointer<platform::Stepper> mCutEveryStpr;
+    QPointer<QLabel> mCutEveryStr;
+    QPointer<platform::PopUpButton> mOptionPopUpButton;
+    QPointer<QWidget> mOptionDummyView;
+    QPointer<OptionView13_v400_> mOptionView;
 
     std::int32_t mTapeState = 0;
     /// The PPD gives automatic cutting a check box of its own.

@@ -15,6 +15,11 @@ namespace {
 constexpr int smallestCount = 1;
 constexpr int largestCount = 99;
 
+int countFromTitle(const PDEChoice &choice)
+{
+    return platform::integerValue(choice.ppdTitle().value_or(QString()));
+}
+
 } // namespace
 
 const OptionPDE13_v400_::OptionRow *OptionPDE13_v400_::rowOfBox(const QWidget *box) const
@@ -35,44 +40,56 @@ void OptionPDE13_v400_::changeOption(const QWidget *sender)
             platform::Alert{QString(), localized(QStringLiteral("RS_Alrt_AutoCutWithHS")),
                             QStringLiteral("OK")}
                 .runModal(kPDEView);
-        selectionForItem(state, QLatin1String(row->boxKeyword), (this->*row->boxChoices).get(), row->item);
-        updateUIItem(row->item);
+        chooseBoxState(*row);
     }
     enabledCheck_OP();
 }
 
-int OptionPDE13_v400_::countFromTitle(const PDEChoice &choice) const
+void OptionPDE13_v400_::chooseBoxState(const OptionRow &edited)
 {
-    return platform::integerValue(choice.ppdTitle().value_or(QString()));
+    selectionForItem(controls::state(this->*edited.box), QLatin1String(edited.boxKeyword),
+                     (this->*edited.boxChoices).get(), edited.item);
+    updateUIItem(edited.item);
+}
+
+int OptionPDE13_v400_::CountRange::clamped(int count) const
+{
+    return count < low ? low : std::min(count, high);
+}
+
+int OptionPDE13_v400_::CountRange::indexOf(int count) const
+{
+    // A list out of order can put the bounds anywhere.
+    const auto index = static_cast<std::int64_t>(count) - low;
+    return index >= 0 && index <= std::numeric_limits<int>::max() ? static_cast<int>(index) : -1;
+}
+
+OptionPDE13_v400_::CountRange OptionPDE13_v400_::countRange() const
+{
+    if (!mCutEvery_Choices || mCutEvery_Choices->empty())
+        return {smallestCount, largestCount};
+    return {countFromTitle(*mCutEvery_Choices->front()), countFromTitle(*mCutEvery_Choices->back())};
 }
 
 void OptionPDE13_v400_::changeCutEveryValue(const QWidget *sender)
 {
-    const bool listed = mCutEvery_Choices && !mCutEvery_Choices->empty();
-    const int low = listed ? countFromTitle(*mCutEvery_Choices->front()) : smallestCount;
-    const int high = listed ? countFromTitle(*mCutEvery_Choices->back()) : largestCount;
-    const auto clamped = [low, high](int count) { return count < low ? low : std::min(count, high); };
-
+    const CountRange counts = countRange();
+    const bool stepped = sender && sender == mCutEveryStpr;
+    const bool typed = sender && sender == mCutEveryTxBx;
     int count = 0;
-    if (sender && sender == mCutEveryStpr) {
-        count = clamped(mCutEveryStpr->value());
-        mCutEveryStpr->setValue(count);
-        showCount(QString::number(count));
-    } else if (sender && sender == mCutEveryTxBx) {
-        const QString typed = mCutEveryTxBx->text();
-        count = clamped(platform::integerValue(typed));
+    if (stepped || typed) {
+        const QString text = typed ? mCutEveryTxBx->text() : QString();
+        count = counts.clamped(stepped ? mCutEveryStpr->value() : platform::integerValue(text));
+        if (mCutEveryStpr)
+            mCutEveryStpr->setValue(count);
         showCount(QString::number(count));
         // Who clears the field wants to type another number: what stands there instead is selected, so that
         // the next digit replaces it.
-        if (std::ranges::none_of(typed, [](QChar character) { return character.isDigit(); }))
+        if (typed && std::ranges::none_of(text, [](QChar character) { return character.isDigit(); }))
             mCutEveryTxBx->selectAll();
-        mCutEveryStpr->setValue(count);
     }
     const OptionRow &row = OptionPDE13_v400_::row(OptionKind::CutLabel);
-    // A list out of order can put the bounds anywhere; an index that no list can have chooses nothing.
-    const auto index = static_cast<std::int64_t>(count) - low;
-    selectionForItem(index >= 0 && index <= std::numeric_limits<int>::max() ? static_cast<int>(index) : -1,
-                     QLatin1String(row.keyword), mCutEvery_Choices.get(), row.item);
+    selectionForItem(counts.indexOf(count), QLatin1String(row.keyword), mCutEvery_Choices.get(), row.item);
     updateUIItem(row.item);
 }
 

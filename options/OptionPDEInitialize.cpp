@@ -17,6 +17,19 @@ void OptionPDE13_v400_::initUI()
     set_formatSetting = true;
 }
 
+void OptionPDE13_v400_::fillReplacedControls()
+{
+    // A view that is loaded after the first showing has fresh controls. Saving reads them from now on, so
+    // they show what is marked, not the defaults that are filled in first.
+    if (!set_formatSetting)
+        return;
+    for (const OptionRow &row : optionTable)
+        (this->*row.initialize)();
+    setPDEItems2();
+    for (const OptionRow &row : optionTable)
+        updateUIItem(row.item);
+}
+
 void OptionPDE13_v400_::initializeRow(OptionKind kind)
 {
     controls::setEnabled(checkBox(kind), option(kind) != nullptr);

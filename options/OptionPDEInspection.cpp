@@ -35,14 +35,14 @@ QJsonValue titleOf(const PDEChoice *choice)
 
 QJsonObject popUpState(const OptionPDE13_v400_ &panel)
 {
-    const platform::PopUpButton &popUp = *panel.popUp();
+    const platform::PopUpButton *const popUp = panel.popUp();
     QJsonArray items;
-    for (int position = 0; position < popUp.count(); ++position) {
-        const int tag = popUp.tagOfItem(position);
+    for (int position = 0; popUp && position < popUp->count(); ++position) {
+        const int tag = popUp->tagOfItem(position);
         items.append(QJsonObject{
-            {"tag", tag}, {"title", popUp.itemText(position)}, {"enabled", panel.validateMenuItem(tag)}});
+            {"tag", tag}, {"title", popUp->itemText(position)}, {"enabled", panel.validateMenuItem(tag)}});
     }
-    return {{"items", items}, {"selectedTag", popUp.selectedTag()}};
+    return {{"items", items}, {"selectedTag", popUp ? popUp->selectedTag() : 0}};
 }
 
 QJsonObject previewState(const OptionView13_v400_ *preview)
@@ -70,6 +70,8 @@ QJsonObject countWordState(const QLabel &word)
 
 QJsonObject OptionPDE13_v400_::inspection() const
 {
+    if (!kPDEView)
+        return {};
     static constexpr std::array<const char *, OptionCount> selectionFields = {
         "mCutEvery_Selection",    "mCutEnd_Selection",         "mMirror_Selection",
         "mAutoCut_Selection",     "mHalfCut_Selection",        "mChainPrint_Selection",
@@ -80,16 +82,20 @@ QJsonObject OptionPDE13_v400_::inspection() const
     for (std::size_t index = 0; index < OptionCount; ++index) {
         const OptionRow &row = optionTable[index];
         const QCheckBox *const box = this->*row.box;
-        controlStates.insert(
-            QLatin1String(row.boxName),
-            with(with(controlState(box), "state", controls::state(box)), "title", controls::title(box)));
+        if (box)
+            controlStates.insert(
+                QLatin1String(row.boxName),
+                with(with(controlState(box), "state", controls::state(box)), "title", controls::title(box)));
         selections.insert(QLatin1String(selectionFields[index]), titleOf(this->*row.selection));
     }
-    controlStates.insert(QStringLiteral("mCutEveryTxBx"),
-                         with(controlState(mCutEveryTxBx), "text", mCutEveryTxBx->text()));
-    controlStates.insert(QStringLiteral("mCutEveryStpr"),
-                         with(controlState(mCutEveryStpr), "value", mCutEveryStpr->value()));
-    controlStates.insert(QStringLiteral("mCutEveryStr"), countWordState(*mCutEveryStr));
+    if (mCutEveryTxBx)
+        controlStates.insert(QStringLiteral("mCutEveryTxBx"),
+                             with(controlState(mCutEveryTxBx), "text", mCutEveryTxBx->text()));
+    if (mCutEveryStpr)
+        controlStates.insert(QStringLiteral("mCutEveryStpr"),
+                             with(controlState(mCutEveryStpr), "value", mCutEveryStpr->value()));
+    if (mCutEveryStr)
+        controlStates.insert(QStringLiteral("mCutEveryStr"), countWordState(*mCutEveryStr));
     return {
         {"view", QJsonObject{{"width", kPDEView->width()}, {"height", kPDEView->height()}}},
         {"controls", controlStates},

@@ -40,7 +40,7 @@ void removeItems(platform::PopUpButton *popUp, Titles titles)
 
 /// Finds the control under its name; null, with the reason, when the layout lacks it.
 template<typename Control>
-bool connectOutlet(QWidget *view, const char *name, Control *&field, QString *error)
+bool connectOutlet(QWidget *view, const char *name, QPointer<Control> &field, QString *error)
 {
     field = view->findChild<Control *>(QLatin1String(name));
     if (field)
@@ -90,6 +90,7 @@ void OptionPDE13_v400_::awakeFromNib()
     setViewFrameSize(width, panelHeight);
     if (mOptionView)
         platform::setBottomEdge(mOptionView, panelHeight - previewFromTop, kPDEView->height());
+    fillReplacedControls();
 }
 
 void OptionPDE13_v400_::connectActions()
@@ -189,7 +190,7 @@ void OptionPDE13_v400_::makePreview()
     mOptionView = OptionView13_v400_::initWithFrame(mOptionDummyView->geometry(), *nsPDEBundle, isDZPrinter(),
                                                     mOptionDummyView->parentWidget());
     mOptionView->setObjectName(QStringLiteral("mOptionView"));
-    delete std::exchange(mOptionDummyView, nullptr);
+    delete mOptionDummyView.data();
     for (const OptionRow &row : optionTable)
         (mOptionView->*row.handToPreview)(this->*row.box);
     mOptionView->show();

@@ -9,6 +9,20 @@
 
 using platform::TextEncoding;
 
+namespace {
+
+/// The keyword of the choice at the index, which is held within the list.
+std::optional<QString> keywordAt(const PDEChoiceList *list, int index)
+{
+    if (!list || list->empty())
+        return std::nullopt;
+    const int last = static_cast<int>(list->size()) - 1;
+    const PDEChoice &chosen = *(*list)[static_cast<std::size_t>(std::clamp(index, 0, last))];
+    return TextEncoding::utf8().decode(chosen.choice()->choice);
+}
+
+} // namespace
+
 void OptionPDE13_v400_::setValuesToKey()
 {
     for (const OptionRow &row : optionTable)
@@ -31,69 +45,70 @@ int OptionPDE13_v400_::markedElseDefault(const PDEChoiceList *list, const char *
     return marked == -1 ? indexOfDefaultOption(list) : marked;
 }
 
-void OptionPDE13_v400_::sendChoice(const ppd_option_t *option, const PDEChoiceList *list, int index)
+void OptionPDE13_v400_::sendChoice(const ppd_option_t *option, const std::optional<QString> &choice)
 {
-    if (!option || !list || list->empty())
-        return;
-    const int last = static_cast<int>(list->size()) - 1;
-    const PDEChoice &chosen = *(*list)[static_cast<std::size_t>(std::clamp(index, 0, last))];
-    const std::optional<QString> keyword = TextEncoding::utf8().decode(option->keyword);
-    const std::optional<QString> choice = TextEncoding::utf8().decode(chosen.choice()->choice);
+    const std::optional<QString> keyword =
+        option ? TextEncoding::utf8().decode(option->keyword) : std::nullopt;
     if (keyword && choice)
         pdePluginCallbackObject->willChangePPDOptionKeyValue(*keyword, choice);
+}
+
+std::optional<QString> OptionPDE13_v400_::choiceToSave(OptionKind kind) const
+{
+    if (kind == OptionKind::CutLabel)
+        return keywordAt(choices(kind), countIndexToSave());
+    if (kind == OptionKind::AutoCut && !mAutoCutHideKey_dec)
+        return chainedAutoCutToSave();
+    return keywordAt(choices(kind), boxIndexToSave(row(kind)));
+}
+
+int OptionPDE13_v400_::boxIndexToSave(const OptionRow &row) const
+{
+    const QCheckBox *const box = this->*row.box;
+    if (!box)
+        return markedElseDefault((this->*row.choices).get(), row.keyword);
+    return row.saveIndex == SaveIndex::AutoChain ? indexForSaveAutoChain(box) : controls::state(box);
+}
+
+int OptionPDE13_v400_::countIndexToSave() const
+{
+    const OptionRow &row = OptionPDE13_v400_::row(OptionKind::CutLabel);
+    // The count reaches the job through the choice that typing and stepping have marked, so a loaded field
+    // has no default: with nothing marked it is the smallest count.
+    return mCutEveryTxBx ? indexOfMarkedOption(mCutEvery_Choices.get(), QLatin1String(row.keyword))
+                         : markedElseDefault(mCutEvery_Choices.get(), row.keyword);
+}
+
+QString OptionPDE13_v400_::chainedAutoCutToSave() const
+{
+    const int index = mCutEveryTxBx
+                          ? indexForSaveAutoChain(mCutEveryChkBx)
+                          : markedElseDefault(mAutoCut_Choices.get(), row(OptionKind::AutoCut).keyword);
+    return index == 1 ? QStringLiteral("ON") : QStringLiteral("OFF");
 }
 
 void OptionPDE13_v400_::saveSetting(OptionKind kind)
 {
     const OptionRow &row = OptionPDE13_v400_::row(kind);
     if (this->*row.choices && printSettings)
-        saveRow(row);
-}
-
-void OptionPDE13_v400_::saveRow(const OptionRow &row)
-{
-    const QCheckBox *const box = this->*row.box;
-    const PDEChoiceList *const list = (this->*row.choices).get();
-    int index = 0;
-    if (!box)
-        index = markedElseDefault(list, row.keyword);
-    else
-        index = row.saveIndex == SaveIndex::AutoChain ? indexForSaveAutoChain(box) : controls::state(box);
-    sendChoice(this->*row.option, list, index);
+        sendChoice(this->*row.option, choiceToSave(kind));
 }
 
 void OptionPDE13_v400_::saveSetting_AutoCut()
 {
     if (mAutoCutHideKey_dec && printSettings)
-        saveRow(row(OptionKind::AutoCut));
+        sendChoice(mAutoCut_Option, choiceToSave(OptionKind::AutoCut));
 }
 
 void OptionPDE13_v400_::saveSetting_CutLabel()
 {
     if (!mCutEvery_Choices || !printSettings)
         return;
-    const OptionRow &row = OptionPDE13_v400_::row(OptionKind::CutLabel);
-    // The count reaches the job through the choice that typing and stepping have marked, so a loaded field
-    // takes nothing else: with nothing marked it is the smallest count, not the default.
-    const int index = mCutEveryTxBx ? indexOfMarkedOption(mCutEvery_Choices.get(), QLatin1String(row.keyword))
-                                    : markedElseDefault(mCutEvery_Choices.get(), row.keyword);
+    const std::optional<QString> count = choiceToSave(OptionKind::CutLabel);
     // Without a box of its own the automatic cut follows the cut-every box, and is written first.
     if (!mAutoCutHideKey_dec)
-        saveChainedAutoCut();
-    sendChoice(mCutEvery_Option, mCutEvery_Choices.get(), index);
-}
-
-void OptionPDE13_v400_::saveChainedAutoCut()
-{
-    const std::optional<QString> keyword =
-        mAutoCut_Option ? TextEncoding::utf8().decode(mAutoCut_Option->keyword) : std::nullopt;
-    if (!keyword)
-        return;
-    const int index = mCutEveryTxBx
-                          ? indexForSaveAutoChain(mCutEveryChkBx)
-                          : markedElseDefault(mAutoCut_Choices.get(), row(OptionKind::AutoCut).keyword);
-    pdePluginCallbackObject->willChangePPDOptionKeyValue(*keyword, index == 1 ? QStringLiteral("ON")
-                                                                              : QStringLiteral("OFF"));
+        sendChoice(mAutoCut_Option, choiceToSave(OptionKind::AutoCut));
+    sendChoice(mCutEvery_Option, count);
 }
 
 void OptionPDE13_v400_::saveSetting_RemoveBlkSpace()

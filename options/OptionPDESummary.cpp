@@ -4,7 +4,9 @@
 
 #include <ppd/TapeInfo.h>
 
-std::optional<QVariantMap> OptionPDE13_v400_::summaryInfo()
+#include <algorithm>
+
+std::optional<QVariantMap> OptionPDE13_v400_::summaryInfoFor(const PDEChoices &given) const
 {
     // Cuts come first, in the order in which the strip meets them.
     static constexpr std::array<OptionKind, OptionCount> displayOrder = {
@@ -15,36 +17,61 @@ std::optional<QVariantMap> OptionPDE13_v400_::summaryInfo()
     QVariantMap summary;
     QStringList titles;
     for (const OptionKind kind : displayOrder) {
-        if (!isInSummary(kind))
+        if (!isInSummary(kind, given))
             continue;
         const OptionRow &row = OptionPDE13_v400_::row(kind);
         const QString title = titleFor(row.keyword, row.summaryKey);
         titles.append(title);
-        summary.insert(title, summaryValue(kind));
+        summary.insert(title, summaryValue(kind, given));
     }
     // Every title stands in the order, one without a text too: the dialog counts the lines by it.
     summary.insert(PDESummaryDisplayOrderKey, titles);
     return summary;
 }
 
-bool OptionPDE13_v400_::isInSummary(OptionKind kind) const
+std::optional<QString> OptionPDE13_v400_::choiceGiven(OptionKind kind, const PDEChoices &given)
 {
-    if (!selection(kind))
+    const auto found =
+        std::ranges::find(given, QLatin1String(row(kind).keyword), &PDEChoices::value_type::first);
+    return found == given.end() ? std::nullopt : std::optional(found->second);
+}
+
+int OptionPDE13_v400_::indexGiven(OptionKind kind, const PDEChoices &given) const
+{
+    const std::optional<QString> choice = choiceGiven(kind, given);
+    const PDEChoiceList *const list = choices(kind);
+    if (!choice || !list)
+        return -1;
+    const auto found = std::ranges::find(*list, choice, [](const auto &entry) { return entry->ppdTitle(); });
+    return found == list->end() ? -1 : static_cast<int>(found - list->begin());
+}
+
+const PDEChoice *OptionPDE13_v400_::heldChoice(OptionKind kind, const PDEChoices &given) const
+{
+    const int index = indexGiven(kind, given);
+    return index < 0 ? selection(kind) : (*choices(kind))[static_cast<std::size_t>(index)].get();
+}
+
+bool OptionPDE13_v400_::isInSummary(OptionKind kind, const PDEChoices &given) const
+{
+    if (!heldChoice(kind, given))
         return false;
     // The cut-every line tells the automatic cut too.
     if (kind == OptionKind::AutoCut)
-        return !mCutEvery_Selection;
+        return !heldChoice(OptionKind::CutLabel, given);
     if (kind == OptionKind::RemoveBlkSpace)
         return getTapeState() == TapeKindPlain || getTapeState() == TapeKindUnlisted;
     return true;
 }
 
-QString OptionPDE13_v400_::summaryValue(OptionKind kind) const
+QString OptionPDE13_v400_::summaryValue(OptionKind kind, const PDEChoices &given) const
 {
-    // Whether labels are cut every so often at all is the automatic cut's mark.
-    const OptionRow &marked = row(kind == OptionKind::CutLabel ? OptionKind::AutoCut : kind);
-    const PDEChoice &held = *selection(kind);
-    switch (indexOfMarkedOption((this->*marked.choices).get(), QLatin1String(marked.keyword))) {
+    // Whether labels are cut every so often at all is the automatic cut's choice.
+    const OptionRow &chosen = row(kind == OptionKind::CutLabel ? OptionKind::AutoCut : kind);
+    const int index = indexGiven(chosen.kind, given);
+    const PDEChoice &held = *heldChoice(kind, given);
+    switch (index < 0 ? indexOfMarkedOption((this->*chosen.choices).get(), QLatin1String(chosen.keyword))
+                      : index) {
     case 0:
         return localized(QStringLiteral("RS_STitle_No"));
     case 1:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CheckBox.h"
 
+#include "CheckBoxAccess.h"
+
 #include <QHelpEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -11,6 +13,7 @@ namespace platform {
 CheckBox::CheckBox(QWidget *parent)
     : QCheckBox(parent)
 {
+    CheckBoxAccess::install();
 }
 
 QString CheckBox::shownTitle() const

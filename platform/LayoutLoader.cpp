@@ -5,6 +5,7 @@
 #include "PopUpButton.h"
 #include "StaticText.h"
 #include "Stepper.h"
+#include "TextField.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -29,6 +30,7 @@ QMap<QString, LayoutLoader::Factory> &factories()
         {QStringLiteral("PopUpButton"), makerOf<PopUpButton>()},
         {QStringLiteral("StaticText"), makerOf<StaticText>()},
         {QStringLiteral("Stepper"), makerOf<Stepper>()},
+        {QStringLiteral("TextField"), makerOf<TextField>()},
     };
     return registered;
 }

@@ -11,9 +11,9 @@ namespace platform {
 
 /// Builds a panel's view from its layout file (Qt Designer's format).
 ///
-/// Knows the platform's own controls (CheckBox, StaticText, Stepper, PopUpButton) by their class names;
-/// other folders add classes of theirs, and hooks that look at finished widgets, before a layout that needs
-/// them is loaded. In a right-to-left language the layout is mirrored as a whole.
+/// Knows the platform's own controls (CheckBox, StaticText, Stepper, PopUpButton, TextField) by their class
+/// names; other folders add classes of theirs, and hooks that look at finished widgets, before a layout that
+/// needs them is loaded. In a right-to-left language the layout is mirrored as a whole.
 class LayoutLoader {
 public:
     using Factory = std::function<QWidget *(QWidget *parent)>;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PopUpButton.h"
 
+#include "PopUpButtonAccess.h"
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
@@ -44,6 +46,7 @@ private:
 PopUpButton::PopUpButton(QWidget *parent)
     : QComboBox(parent)
 {
+    PopUpButtonAccess::install();
     connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { assignTags(); });
 }
 
@@ -84,6 +87,16 @@ bool PopUpButton::selectItemWithTag(int tag)
         return false;
     setCurrentIndex(position);
     return true;
+}
+
+void PopUpButton::chooseItem(int position)
+{
+    validateItems();
+    const bool enabled = model()->flags(model()->index(position, modelColumn())) & Qt::ItemIsEnabled;
+    if (!isEnabled() || !enabled)
+        return;
+    setCurrentIndex(position);
+    Q_EMIT activated(position);
 }
 
 void PopUpButton::removeItemWithTitle(const QString &title)

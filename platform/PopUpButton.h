@@ -39,6 +39,9 @@ public:
     /// Selects the item with the tag without telling anybody; false, with the selection as it was,
     /// when there is none.
     bool selectItemWithTag(int tag);
+    /// Chooses the item at the position as the user does: activated() follows. Does nothing for a greyed
+    /// item, a position without one, and while the button is disabled.
+    void chooseItem(int position);
     /// Removes the item of that title; does nothing when there is none.
     void removeItemWithTitle(const QString &title);
 

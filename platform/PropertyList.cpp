@@ -22,9 +22,10 @@ using TextPointer = std::unique_ptr<char, MemoryRelease>;
 
 QVariant toVariant(plist_t node);
 
-QVariantMap toMap(plist_t dictionary)
+/// Calls the action for each entry of the dictionary.
+template<typename Action>
+void forEachEntry(plist_t dictionary, const Action &action)
 {
-    QVariantMap map;
     plist_dict_iter position = nullptr;
     plist_dict_new_iter(dictionary, &position);
     const TextPointer owned(static_cast<char *>(position));
@@ -34,9 +35,25 @@ QVariantMap toMap(plist_t dictionary)
         plist_dict_next_item(dictionary, position, &key, &value);
         const TextPointer ownedKey(key);
         if (!value)
-            return map;
-        map.insert(QString::fromUtf8(key), toVariant(value));
+            return;
+        action(QString::fromUtf8(key), value);
     }
+}
+
+QString toText(plist_t string)
+{
+    char *text = nullptr;
+    plist_get_string_val(string, &text);
+    const TextPointer owned(text);
+    return QString::fromUtf8(text);
+}
+
+QVariantMap toMap(plist_t dictionary)
+{
+    QVariantMap map;
+    forEachEntry(dictionary,
+                 [&map](const QString &key, plist_t value) { map.insert(key, toVariant(value)); });
+    return map;
 }
 
 QVariantList toList(plist_t array)
@@ -54,12 +71,8 @@ QVariant toVariant(plist_t node)
         return toMap(node);
     case PLIST_ARRAY:
         return toList(node);
-    case PLIST_STRING: {
-        char *text = nullptr;
-        plist_get_string_val(node, &text);
-        const TextPointer owned(text);
-        return QString::fromUtf8(text);
-    }
+    case PLIST_STRING:
+        return toText(node);
     case PLIST_DATA: {
         char *bytes = nullptr;
         std::uint64_t length = 0;
@@ -123,16 +136,34 @@ plist_t toNode(const QVariant &value)
     }
 }
 
+PlistPointer parse(const QByteArray &xml)
+{
+    plist_t node = nullptr;
+    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
+    return PlistPointer(node);
+}
+
 } // namespace
 
 std::optional<QVariant> fromXmlPropertyList(const QByteArray &xml)
 {
-    plist_t node = nullptr;
-    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
-    const PlistPointer owned(node);
-    if (!node)
+    const PlistPointer list = parse(xml);
+    if (!list)
         return std::nullopt;
-    return toVariant(node);
+    return toVariant(list.get());
+}
+
+std::optional<QString> stringInXmlPropertyList(const QByteArray &xml, const QString &key)
+{
+    const PlistPointer list = parse(xml);
+    if (!list || plist_get_node_type(list.get()) != PLIST_DICT)
+        return std::nullopt;
+    std::optional<QString> found;
+    forEachEntry(list.get(), [&](const QString &name, plist_t value) {
+        if (name == key)
+            found = plist_get_node_type(value) == PLIST_STRING ? std::optional(toText(value)) : std::nullopt;
+    });
+    return found;
 }
 
 QByteArray toXmlPropertyList(const QVariant &value)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Stepper.h"
 
+#include "StepperAccess.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -26,13 +28,30 @@ constexpr double cornerRadius = 3.0;
 Stepper::Stepper(QWidget *parent)
     : QWidget(parent)
 {
+    StepperAccess::install();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void Stepper::setValue(std::int32_t value)
 {
-    m_value = std::clamp(value, m_minimum, std::max(m_minimum, m_maximum));
+    setValueWithin(value);
+}
+
+void Stepper::setValueWithin(std::int64_t value)
+{
+    m_value =
+        static_cast<std::int32_t>(std::clamp<std::int64_t>(value, m_minimum, std::max(m_minimum, m_maximum)));
+    QAccessibleValueChangeEvent event(this, m_value);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Stepper::stepTo(std::int64_t value)
+{
+    if (!isEnabled())
+        return;
+    setValueWithin(value);
+    Q_EMIT stepped();
 }
 
 QSize Stepper::sizeHint() const
@@ -53,10 +72,7 @@ QRect Stepper::arrowRect(Arrow arrow) const
 
 void Stepper::stepBy(std::int64_t amount)
 {
-    const std::int64_t target =
-        std::clamp<std::int64_t>(m_value + amount, m_minimum, std::max(m_minimum, m_maximum));
-    m_value = static_cast<std::int32_t>(target);
-    Q_EMIT stepped();
+    stepTo(m_value + amount);
 }
 
 void Stepper::mousePressEvent(QMouseEvent *event)

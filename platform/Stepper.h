@@ -29,6 +29,10 @@ public:
     /// user: nothing is signalled.
     void setValue(std::int32_t value);
 
+    /// Steps to the value, held within minimum and maximum, as the user's arrows do: stepped() follows, also
+    /// when the value was there before. Does nothing while the stepper is disabled.
+    void stepTo(std::int64_t value);
+
     std::int32_t minimum() const { return m_minimum; }
     void setMinimum(std::int32_t minimum) { m_minimum = minimum; }
     std::int32_t maximum() const { return m_maximum; }
@@ -56,6 +60,7 @@ private:
     QRect arrowRect(Arrow arrow) const;
     void drawArrow(QPainter &painter, Arrow arrow) const;
     void stepBy(std::int64_t amount);
+    void setValueWithin(std::int64_t value);
     void release();
 
     std::int32_t m_value = 0;

@@ -100,7 +100,8 @@ public:
 
     /// Has the dialog mark the option's default when nothing is marked: a marking made by the user or the
     /// dialog is never overridden. Answers a fresh list of the option's choices, or null when there
-    /// was nothing to do: no option, already marked, or no default among the choices.
+    /// was nothing to do: no option, already marked, no default among the choices, or one whose keyword is
+    /// not valid UTF-8.
     std::unique_ptr<PDEChoiceList> setDefaultChoices(const ppd_option_t *option, const PDEChoiceList *choices,
                                                      const char *cStrKey, const QString &nStrKey);
 
@@ -137,11 +138,14 @@ protected:
     /// The text of the bundle's table for the key, or the key.
     QString localized(const QString &key) const { return nsPDEBundle->localizedStringForKey(key); }
 
+    // Destroyed from the last to the first, after the view: supported options, name, callback object, bundle.
+    // The callback object may come from code that needs the bundle, so the bundle goes last.
+    std::shared_ptr<const platform::Bundle> nsPDEBundle;
     std::shared_ptr<PDEPluginCallback13_v400_> pdePluginCallbackObject;
+    std::optional<QString> thePDEName;
+    std::optional<QStringList> mSupportedOptions;
     /// Owned, though watched: a dialog that ends in disorder may take the view along with its window.
     QPointer<QWidget> kPDEView;
-    std::optional<QString> thePDEName;
-    std::shared_ptr<const platform::Bundle> nsPDEBundle;
     // Borrowed from the dialog, as they were when the panel was made.
     ppd_file_t *ppd = nullptr;
     PMPrintSession printSession = nullptr;
@@ -151,7 +155,6 @@ protected:
     PMPrinter printer = nullptr;
 
     std::array<char, 256> deviceURI{};
-    std::optional<QStringList> mSupportedOptions;
     // For concrete panels; nothing here sets or reads them.
     std::int32_t mLoadedNibFlg = 0;
     std::int32_t mFormattedItemFlg = 0;

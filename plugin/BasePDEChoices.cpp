@@ -2,6 +2,7 @@
 // The base panel's dealings with PPD choices and with the paper.
 #include "BasePDE.h"
 
+#include <platform/TextEncoding.h>
 #include <ppd/PDEUtilsMethod13.h>
 #include <ppd/TapeInfo.h>
 
@@ -66,7 +67,11 @@ std::unique_ptr<PDEChoiceList> BasePDE13_v400_::setDefaultChoices(const ppd_opti
     // Without a default there is nothing to mark: the printer keeps its own.
     if (index < 0 || index >= option->num_choices)
         return nullptr;
-    pdePluginCallbackObject->willChangePPDOptionKeyValue(nStrKey,
-                                                         QString::fromUtf8(option->choices[index].choice));
+    const std::optional<QString> choice =
+        platform::TextEncoding::utf8().decode(option->choices[index].choice);
+    // With replacement characters the keyword would be that of another choice.
+    if (!choice)
+        return nullptr;
+    pdePluginCallbackObject->willChangePPDOptionKeyValue(nStrKey, choice);
     return PDEUtilsMethod13::arrayFromPPDOption(const_cast<ppd_option_t *>(option));
 }

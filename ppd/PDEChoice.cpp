@@ -41,13 +41,12 @@ QString PDEChoice::description() const
     const ppd_option_t *const option = m_choice->option;
     const auto position = m_choice - option->choices + 1;
     const QString absent = QStringLiteral("(null)");
+    // One call for all places: a text of the PPD may itself hold "%1", which a further call would fill.
     return QStringLiteral("<%1 0x%2 userTitle:\"%3\" ppdTitle:\"%4\" marked:%5 choice:%6 of %7>")
-        .arg(QStringLiteral("PDEChoice"))
-        .arg(reinterpret_cast<quintptr>(this), 0, 16)
-        .arg(userTitle().value_or(absent), ppdTitle().value_or(absent),
-             m_choice->marked ? QStringLiteral("YES") : QStringLiteral("NO"))
-        .arg(position)
-        .arg(option->num_choices);
+        .arg(QStringLiteral("PDEChoice"), QString::number(reinterpret_cast<quintptr>(this), 16),
+             userTitle().value_or(absent), ppdTitle().value_or(absent),
+             m_choice->marked ? QStringLiteral("YES") : QStringLiteral("NO"), QString::number(position),
+             QString::number(option->num_choices));
 }
 
 bool isDefaultOfOption(const ppd_option_t *option, const char *keyword)

@@ -80,12 +80,7 @@ OSStatus GetTapeInfo2(PMPrintSession, PMPrintSettings settings, TapeInfo *info)
     QByteArray ticket;
     if (!settings || PMPrintSettingsGetValue(settings, PrintSettingsTicketKey, &ticket) != platform::noError)
         return platform::noError;
-    const std::optional<QVariant> parsed = platform::fromXmlPropertyList(ticket);
-    if (!parsed || parsed->metaType() != QMetaType::fromType<QVariantMap>())
-        return platform::noError;
-    const QVariant name = parsed->toMap().value(QStringLiteral("LxPaperName2"));
-    if (name.metaType() == QMetaType::fromType<QString>())
-        info->paperName = name.toString();
+    info->paperName = platform::stringInXmlPropertyList(ticket, QStringLiteral("LxPaperName2"));
     return platform::noError;
 }
 

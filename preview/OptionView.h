@@ -4,11 +4,12 @@
 #include <platform/Bundle.h>
 #include <platform/LazyImage.h>
 
+#include <QAbstractButton>
+#include <QPointer>
 #include <QWidget>
 
 #include <array>
 
-class QAbstractButton;
 class QPainter;
 
 /// The picture beside the cut options that shows what the ticked boxes will do to the label.
@@ -42,7 +43,7 @@ public:
     void setIsDZ(bool isDZ) { mIsDZ = isDZ; }
     bool isDZ() const { return mIsDZ; }
 
-    // The panel's check boxes: borrowed, null until handed over. One that was never handed over
+    // The panel's check boxes: borrowed, null until handed over and when they are gone. One that is not there
     // counts as off. Setting one does not redraw.
     void setCutEveryChkBx(const QAbstractButton *box) { mCutEveryChkBx = box; }
     const QAbstractButton *cutEveryChkBx() const { return mCutEveryChkBx; }
@@ -76,13 +77,13 @@ private:
     std::array<platform::LazyImage, DZPictureCount> mOptionImgDZ;
     std::array<platform::LazyImage, LXPictureCount> mOptionImgLX;
     bool mIsDZ = false;
-    const QAbstractButton *mCutEveryChkBx = nullptr;
-    const QAbstractButton *mCutAndEndChkBx = nullptr;
-    const QAbstractButton *mMirrorPrintChkBx = nullptr;
-    const QAbstractButton *mAutoCutChkBx = nullptr;
-    const QAbstractButton *mHalfCutChkBx = nullptr;
-    const QAbstractButton *mChainPrintChkBx = nullptr;
-    const QAbstractButton *mSpecialTapeChkBx = nullptr;
-    const QAbstractButton *mRemoveBlkSpaceChkBx = nullptr;
-    const QAbstractButton *mCutMarkChkBx = nullptr;
+    QPointer<const QAbstractButton> mCutEveryChkBx;
+    QPointer<const QAbstractButton> mCutAndEndChkBx;
+    QPointer<const QAbstractButton> mMirrorPrintChkBx;
+    QPointer<const QAbstractButton> mAutoCutChkBx;
+    QPointer<const QAbstractButton> mHalfCutChkBx;
+    QPointer<const QAbstractButton> mChainPrintChkBx;
+    QPointer<const QAbstractButton> mSpecialTapeChkBx;
+    QPointer<const QAbstractButton> mRemoveBlkSpaceChkBx;
+    QPointer<const QAbstractButton> mCutMarkChkBx;
 };

@@ -57,6 +57,15 @@ void PDETextField13_v400_::keyPressEvent(QKeyEvent *event)
         textDidEndEditing();
 }
 
+void PDETextField13_v400_::focusInEvent(QFocusEvent *event)
+{
+    // QLineEdit selects all when the Tab key or a shortcut brings the focus, and the next key would wipe the
+    // entry out. It leaves the selection alone for other reasons.
+    QFocusEvent plain(event->type(),
+                      event->reason() == Qt::MouseFocusReason ? Qt::MouseFocusReason : Qt::OtherFocusReason);
+    QLineEdit::focusInEvent(&plain);
+}
+
 void PDETextField13_v400_::focusOutEvent(QFocusEvent *event)
 {
     const QPointer<PDETextField13_v400_> alive(this);

@@ -6,14 +6,15 @@
 #include "UserActions.h"
 
 #include <QJsonObject>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <memory>
 #include <optional>
 
 class PDEPanel;
 class PDEPanelInspection;
-class QWidget;
 
 namespace host {
 class DialogState;
@@ -90,6 +91,6 @@ private:
     std::unique_ptr<host::PanelSession> m_session;
     /// The opened panel, owned by the session; null when nothing is open.
     PDEPanel *m_panel = nullptr;
-    /// The panel's view once it is loaded.
-    QWidget *m_view = nullptr;
+    /// The panel's view while it is loaded.
+    QPointer<QWidget> m_view;
 };

@@ -24,10 +24,6 @@ public:
     /// The panel's view, loaded on the first call; null when its layout file cannot be loaded, and the
     /// next call tries again. The panel owns it; the dialog shows it in a window of its own and takes it
     /// out of that window before either ends.
-    ///
-    /// A check box that stands for one PPD option may say so by a dynamic property "ppdKeyword"; checked is
-    /// then the option's second choice. A dialog can press it for a user who asked for the choice
-    /// elsewhere.
     virtual QWidget *panelView() = 0;
     /// The panel's title in the dialog, in the user's language.
     virtual QString panelName() = 0;

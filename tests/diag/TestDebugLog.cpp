@@ -4,6 +4,7 @@
 #include "DescriptorCapture.h"
 
 #include <diag/DebugLog.h>
+#include <diag/DescriptorOutput.h>
 
 #include <limits>
 
@@ -50,6 +51,20 @@ TEST(DebugLog, LevelsAboveZeroAreSilentAndCostNothing)
               "");
     EXPECT_EQ(writtenToStandardError([&] { debugLog(0, "%@", costly); }), "DEBUG: costly\n");
     EXPECT_EQ(costly.described, 1);
+}
+
+TEST(DebugLog, ThePrefixIsOutBeforeAnArgumentIsDescribed)
+{
+    /// Writes itself while it is described.
+    struct Outspoken {
+        QString description() const
+        {
+            diag::writeFully(STDERR_FILENO, "describing|");
+            return QStringLiteral("described");
+        }
+    };
+    EXPECT_EQ(writtenToStandardError([] { debugLog(0, "%@", Outspoken()); }),
+              "DEBUG: describing|described\n");
 }
 
 TEST(DebugLog, ExportedFormTakesAListOfArguments)

@@ -2,6 +2,8 @@
 #include "Sandbox.h"
 
 #include <host/PanelBundle.h>
+#include <plugin/protocol/PDEUserChoices.h>
+#include <tests/support/TestDialog.h>
 
 #include <QDir>
 #include <QFile>
@@ -46,6 +48,26 @@ TEST(PanelBundle, LoadsABundleAndItsPanels)
     ASSERT_TRUE(bundle) << bundle.error().message.toStdString();
     EXPECT_EQ(bundle.value().inspection(), nullptr);
     EXPECT_EQ(bundle.value().resources().path(), bundleFolder("good"));
+}
+
+TEST(PanelBundle, AnotherMakersPanelAppliesTheUsersChoices)
+{
+    const auto bundle = PanelBundle::load(bundleFolder("good"), {});
+    ASSERT_TRUE(bundle) << bundle.error().message.toStdString();
+    const auto dialog =
+        std::make_shared<test_support::TestDialog>(test_support::PpdBuilder().allOptions().openMarked());
+    const auto panels = bundle.value().plugIn().PDEPanelsForType(PDEPrintDialogType, dialog);
+    ASSERT_TRUE(panels && panels->size() == 1);
+    auto *const choices = dynamic_cast<PDEUserChoices_v1 *>(panels->front().get());
+    ASSERT_TRUE(choices) << "found by its class across the library's border";
+    EXPECT_EQ(dynamic_cast<PDEChoiceSummary_v1 *>(panels->front().get()), nullptr);
+    const PDEChoices mirrored{{QStringLiteral("KvMirror"), QStringLiteral("ON")}};
+    choices->applyUserChoices(mirrored);
+    EXPECT_EQ(dialog->changes, mirrored);
+    choices->applyUserChoices(mirrored);
+    choices->applyUserChoices({{QStringLiteral("KvMirror"), QStringLiteral("AUTO")},
+                               {QStringLiteral("KvHalfCut"), QStringLiteral("OFF")}});
+    EXPECT_EQ(dialog->changes, mirrored) << "what is set already, unknown or another panel's";
 }
 
 TEST(PanelBundle, RefusesOthersWithTheReason)

@@ -53,6 +53,14 @@ protected:
         dialog->changes.clear();
     }
 
+    /// The title of the row's selection, and of the cut-every box's; absent without a selection.
+    std::optional<QString> selected(OptionKind kind) const { return titleOf(panel->selection(kind)); }
+    std::optional<QString> cutEverySelected() const { return titleOf(panel->cutEveryAutoCutSelection()); }
+    static std::optional<QString> titleOf(const PDEChoice *choice)
+    {
+        return choice ? choice->ppdTitle() : std::nullopt;
+    }
+
     QCheckBox *box(OptionKind kind) const { return panel->checkBox(kind); }
     static bool isEnabled(const QWidget *control) { return control->isEnabledTo(control->parentWidget()); }
     bool isEnabled(OptionKind kind) const { return isEnabled(box(kind)); }

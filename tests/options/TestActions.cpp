@@ -36,15 +36,19 @@ protected:
         QString message;
         QString information;
         QStringList buttons;
+        /// What was chosen and marked while the alert was on show.
+        std::vector<Change> chosen;
+        QString markedCut;
     };
     AlertText clickWithAlert(OptionKind kind)
     {
         AlertText alert;
-        QTimer::singleShot(0, box(kind), [&alert] {
+        QTimer::singleShot(0, box(kind), [this, &alert] {
             auto *const message = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!message)
                 return;
-            alert = {true, message->text(), message->informativeText(), {}};
+            alert = {true, message->text(), message->informativeText(),
+                     {},   dialog->changes, marked("KvAutoTapeCut")};
             for (const QAbstractButton *const button : message->buttons())
                 alert.buttons.append(button->text());
             QTest::mouseClick(message->buttons().constFirst(), Qt::LeftButton);
@@ -95,11 +99,10 @@ TEST_F(ActionsTest, TwoBoxesEditTheAutomaticCut)
     show(everything().defaultChoice("KvAutoTapeCut", "OFF"));
     click(OptionKind::CutLabel);
     EXPECT_EQ(marked("KvAutoTapeCut"), QStringLiteral("ON"));
-    EXPECT_EQ(panel->cutEveryAutoCutSelection()->ppdTitle(), QStringLiteral("ON"));
-    EXPECT_EQ(panel->selection(OptionKind::AutoCut)->ppdTitle(), QStringLiteral("OFF"))
-        << "the other row is refreshed later";
+    EXPECT_EQ(cutEverySelected(), QStringLiteral("ON"));
+    EXPECT_EQ(selected(OptionKind::AutoCut), QStringLiteral("OFF")) << "the other row is refreshed later";
     click(OptionKind::AutoCut);
-    EXPECT_EQ(panel->selection(OptionKind::AutoCut)->ppdTitle(), QStringLiteral("ON"));
+    EXPECT_EQ(selected(OptionKind::AutoCut), QStringLiteral("ON"));
 }
 
 TEST_F(ActionsTest, AChoiceThatTheListLacksChangesNothingButTheRulesRun)
@@ -131,6 +134,8 @@ TEST_F(ActionsTest, HeatShrinkTubeWarnsWhenAutomaticCuttingIsSwitchedOn)
         EXPECT_EQ(alert.information,
                   bundle()->localizedStringForKey(QStringLiteral("RS_Alrt_AutoCutWithHS")));
         EXPECT_EQ(alert.buttons, QStringList{QStringLiteral("OK")});
+        EXPECT_TRUE(alert.chosen.empty()) << "the warning comes before the choice";
+        EXPECT_EQ(alert.markedCut, QStringLiteral("OFF"));
         EXPECT_EQ(marked("KvAutoTapeCut"), QStringLiteral("ON")) << "it only warns";
         EXPECT_FALSE(clickWithAlert(kind).shown) << "switching off is harmless";
         EXPECT_FALSE(clickWithAlert(OptionKind::HalfCut).shown) << "so are the other options";

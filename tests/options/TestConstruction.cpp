@@ -151,6 +151,17 @@ TEST_F(ConstructionTest, TheCountStandsOnItsOwnLineUnderItsBox)
     EXPECT_EQ(middle(panel->countField()), middle(panel->countWord()));
 }
 
+TEST_F(ConstructionTest, InAViewThatKeepsItsSizeThePreviewStandsAsInTheSmallerOne)
+{
+    for (const bool canResize : {false, true}) {
+        auto printer = std::make_shared<TestDialog>(PpdBuilder().openMarked());
+        printer->canResize = canResize;
+        openWith(std::move(printer));
+        ASSERT_EQ(panel->panelView()->height(), canResize ? 150 : 282);
+        EXPECT_EQ(platform::frameFromBottom(panel->preview()).y(), 150 - 130) << canResize;
+    }
+}
+
 TEST_F(ConstructionTest, WithoutAnyKeywordNothingIsLeftButThePreview)
 {
     open(PpdBuilder());
@@ -166,9 +177,14 @@ TEST_F(ConstructionTest, WithoutAnyKeywordNothingIsLeftButThePreview)
     panel->shouldPrint();
     panel->changeCutEveryValue(panel->countStepper());
     EXPECT_EQ(panel->countStepper()->value(), 1) << "without a list the counts are 1 to 99";
+    EXPECT_EQ(panel->countField()->text(), QStringLiteral("1"));
     panel->countStepper()->setValue(500);
     panel->changeCutEveryValue(panel->countStepper());
     EXPECT_EQ(panel->countStepper()->value(), 99);
+    EXPECT_EQ(panel->countField()->text(), QStringLiteral("99"));
+    panel->countField()->setText(QStringLiteral("70"));
+    panel->controlTextDidChange(panel->countField());
+    EXPECT_EQ(panel->countStepper()->value(), 70);
     EXPECT_TRUE(dialog->changes.empty());
 }
 

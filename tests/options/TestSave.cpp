@@ -176,6 +176,18 @@ TEST_F(SaveTest, SavingBlankSpaceReadsTheTapeAgain)
     EXPECT_TRUE(isEnabled(OptionKind::RemoveBlkSpace));
 }
 
+TEST_F(SaveTest, KeywordsAreWrittenAsThePpdSpellsThem)
+{
+    // libcups finds an option whatever the case of its keyword; the job's filters may not.
+    show(PpdBuilder()
+             .autoCutObjHidden()
+             .options({"KVMIRROR", "KVAUTOTAPECUT"})
+             .option({"KVCUTLABEL", "Cut", {{"1", "1"}, {"2", "2"}}, "1"}));
+    EXPECT_EQ(saved(), changes({{"KVCUTLABEL", "1"}, {"KVMIRROR", "OFF"}, {"KVAUTOTAPECUT", "OFF"}}));
+    show(PpdBuilder().options({"KVAUTOTAPECUT", "KvCutLabel"}));
+    EXPECT_EQ(saved(), changes({{"KVAUTOTAPECUT", "OFF"}, {"KvCutLabel", "1"}}));
+}
+
 TEST_F(SaveTest, AnIndexBeyondTheListIsItsLastChoice)
 {
     show(everything().choices("KvMirror", {{"OFF", "Off"}}));

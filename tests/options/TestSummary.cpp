@@ -19,10 +19,13 @@ protected:
 
     QStringList order() const
     {
-        return panel->summaryInfo()->value(PDESummaryDisplayOrderKey).toStringList();
+        return panel->summaryInfo().value().value(PDESummaryDisplayOrderKey).toStringList();
     }
 
-    QString value(const char *title) const { return panel->summaryInfo()->value(text(title)).toString(); }
+    QString value(const char *title) const
+    {
+        return panel->summaryInfo().value().value(text(title)).toString();
+    }
 
     static QString text(const char *key) { return bundle()->localizedStringForKey(QLatin1String(key)); }
 
@@ -44,7 +47,7 @@ TEST_F(SummaryTest, LinesStandInTheOrderOfTheStrip)
                                     QStringLiteral("t-KvHalfCut"), QStringLiteral("t-KvSpecialTape"),
                                     QStringLiteral("t-KvChainPrint"), QStringLiteral("t-KvMirror"),
                                     QStringLiteral("t-KvRemoveBlkSpace"), QStringLiteral("t-KvCutMark")}));
-    EXPECT_EQ(panel->summaryInfo()->size(), 9);
+    EXPECT_EQ(panel->summaryInfo().value().size(), 9);
 }
 
 TEST_F(SummaryTest, TheAutomaticCutHasALineOnlyWithoutCutEvery)
@@ -63,7 +66,7 @@ TEST_F(SummaryTest, YesAndNoFollowTheMarkNotTheSelection)
     EXPECT_EQ(value("t-KvHalfCut"), text("RS_STitle_No"));
     dialog->mark("KvHalfCut", "ON");
     EXPECT_EQ(value("t-KvHalfCut"), text("RS_STitle_Yes"));
-    EXPECT_EQ(panel->selection(OptionKind::HalfCut)->ppdTitle(), QStringLiteral("OFF"));
+    EXPECT_EQ(selected(OptionKind::HalfCut), QStringLiteral("OFF"));
 }
 
 TEST_F(SummaryTest, AThirdChoiceOrNoMarkShowsTheSelectionsText)
@@ -103,7 +106,7 @@ TEST_F(SummaryTest, AnEmptyTitleStillStandsInTheOrder)
     restored(PpdBuilder().options({"KvHalfCut", "KvMirror"}).emptyText("KvHalfCut"));
     EXPECT_EQ(order().first(), QString());
     EXPECT_EQ(order().size(), 2);
-    EXPECT_TRUE(panel->summaryInfo()->contains(QString()));
+    EXPECT_TRUE(panel->summaryInfo().value().contains(QString()));
 }
 
 TEST_F(SummaryTest, EqualTitlesShareAnEntryButNotAPlace)
@@ -112,7 +115,7 @@ TEST_F(SummaryTest, EqualTitlesShareAnEntryButNotAPlace)
         PpdBuilder().options({"KvHalfCut", "KvMirror"}).text("KvHalfCut", "same").text("KvMirror", "same"));
     dialog->mark("KvMirror", "ON");
     EXPECT_EQ(order(), (QStringList{QStringLiteral("same"), QStringLiteral("same")}));
-    EXPECT_EQ(panel->summaryInfo()->size(), 2);
+    EXPECT_EQ(panel->summaryInfo().value().size(), 2);
     EXPECT_EQ(value("same"), text("RS_STitle_Yes")) << "the later line wins";
 }
 
@@ -121,6 +124,38 @@ TEST_F(SummaryTest, ATextThatCannotBeDecodedGivesWayToOurOwnTitle)
     restored(PpdBuilder().options({"KvHalfCut"}));
     qstrncpy(ppdFindOption(dialog->ppdFile(), "KvHalfCut")->text, "Pr\xe4gen", PPD_MAX_TEXT);
     EXPECT_EQ(order(), QStringList{text("RS_STitle_HalfCut")});
+}
+
+TEST_F(SummaryTest, EachLineHasATitleOfItsOwnWhereThePpdHasNone)
+{
+    // Without a catalogue each text is its key. The catalogues have the same words for a line and for its
+    // box.
+    const auto keys = platform::Bundle::open(QStringLiteral("/nonexistent"), {});
+    const auto summaryKeys = [&](const PpdBuilder &builder) {
+        dialog = std::make_shared<TestDialog>(builder.openMarked());
+        for (const char *keyword : test_support::panelKeywords) {
+            if (ppd_option_t *const option = ppdFindOption(dialog->ppdFile(), keyword))
+                qstrncpy(option->text, "\xe9", PPD_MAX_TEXT);
+        }
+        panel = OptionPDE13_v400_::initWithCallback(dialog, keys);
+        panel->setPDEItems2();
+        return order();
+    };
+    EXPECT_EQ(summaryKeys(everything()).join(u' '),
+              QStringLiteral("RS_STitle_CutLabels RS_STitle_CutAtEnd RS_STitle_HalfCut RS_STitle_SpecialTape "
+                             "RS_STitle_ChainPrint RS_STitle_MirrorPrinting RS_STitle_RemoveBlkSpace "
+                             "RS_STitle_CutMark"));
+    EXPECT_EQ(summaryKeys(PpdBuilder().option("KvAutoTapeCut")),
+              QStringList{QStringLiteral("RS_STitle_AutoTapeCut")});
+}
+
+TEST_F(SummaryTest, TheCountIsTheChoicesKeyword)
+{
+    restored(plainTitles(everything()
+                             .choices("KvCutLabel", {{"1", "one"}, {"2", "two"}})
+                             .defaultChoice("KvCutLabel", "2")
+                             .defaultChoice("KvAutoTapeCut", "ON")));
+    EXPECT_EQ(value("t-KvCutLabel"), QStringLiteral("2 ") + text("RS_Labels"));
 }
 
 TEST_F(SummaryTest, WithoutSelectionsOnlyTheEmptyOrderIsLeft)

@@ -12,10 +12,6 @@ namespace {
 
 class SynchronizeTest : public PanelTest {
 protected:
-    std::optional<QString> selected(OptionKind kind) const
-    {
-        return panel->selection(kind) ? panel->selection(kind)->ppdTitle() : std::nullopt;
-    }
     int selectedTag() const { return panel->popUp()->selectedTag(); }
     void set(OptionKind kind, bool on) { box(kind)->setChecked(on); }
 };
@@ -36,7 +32,7 @@ TEST_F(SynchronizeTest, SelectionsAreWhatIsMarkedElseTheDefault)
     EXPECT_EQ(selected(OptionKind::Mirror), QStringLiteral("ON"));
     EXPECT_EQ(selected(OptionKind::HalfCut), QStringLiteral("ON"));
     EXPECT_EQ(selected(OptionKind::CutAtEnd), QStringLiteral("OFF"));
-    EXPECT_EQ(panel->cutEveryAutoCutSelection()->ppdTitle(), QStringLiteral("OFF"));
+    EXPECT_EQ(cutEverySelected(), QStringLiteral("OFF"));
 }
 
 TEST_F(SynchronizeTest, OnlyTheNamedItemsAreRead)
@@ -48,7 +44,7 @@ TEST_F(SynchronizeTest, OnlyTheNamedItemsAreRead)
     EXPECT_NE(selected(OptionKind::CutLabel), std::nullopt);
     EXPECT_EQ(selected(OptionKind::Mirror), std::nullopt);
     EXPECT_EQ(selected(OptionKind::AutoCut), std::nullopt);
-    EXPECT_EQ(panel->cutEveryAutoCutSelection()->ppdTitle(), QStringLiteral("ON"));
+    EXPECT_EQ(cutEverySelected(), QStringLiteral("ON"));
     panel->updateMarkedSelections(ItemType::OptionPopUp);
     EXPECT_EQ(selected(OptionKind::Mirror), std::nullopt);
 }
@@ -59,6 +55,15 @@ TEST_F(SynchronizeTest, WithoutTheAutomaticCutTheCutEveryBoxHasNoSelection)
     panel->setPDEItems2();
     EXPECT_EQ(panel->cutEveryAutoCutSelection(), nullptr);
     EXPECT_EQ(selected(OptionKind::CutLabel), QStringLiteral("1"));
+}
+
+TEST_F(SynchronizeTest, WithoutCutEveryItsSelectionsStayAbsent)
+{
+    open(PpdBuilder().options({"KvAutoTapeCut"}));
+    panel->setPDEItems2();
+    EXPECT_EQ(panel->selection(OptionKind::CutLabel), nullptr);
+    EXPECT_EQ(panel->cutEveryAutoCutSelection(), nullptr);
+    EXPECT_EQ(selected(OptionKind::AutoCut), QStringLiteral("OFF"));
 }
 
 TEST_F(SynchronizeTest, AnotherPanelsChangeIsFollowedByName)
@@ -85,7 +90,7 @@ TEST_F(SynchronizeTest, AnotherPanelsChangeIsFollowedByName)
         panel->PPDOptionKeyValueDidChange(QLatin1String(row.keyword), QStringLiteral("no such choice"));
         EXPECT_EQ(selected(row.kind), std::nullopt);
     }
-    EXPECT_EQ(panel->cutEveryAutoCutSelection()->ppdTitle(), QStringLiteral("OFF"));
+    EXPECT_EQ(cutEverySelected(), QStringLiteral("OFF"));
 }
 
 TEST_F(SynchronizeTest, AChangeWithoutKeywordOrChoiceIsNone)
@@ -310,7 +315,7 @@ TEST_F(SynchronizeTest, HeatShrinkTubeSwitchesAutomaticCuttingOff)
     EXPECT_FALSE(box(OptionKind::CutLabel)->isChecked());
     EXPECT_FALSE(box(OptionKind::AutoCut)->isChecked());
     EXPECT_EQ(selected(OptionKind::AutoCut), QStringLiteral("OFF"));
-    EXPECT_EQ(panel->cutEveryAutoCutSelection()->ppdTitle(), QStringLiteral("OFF"));
+    EXPECT_EQ(cutEverySelected(), QStringLiteral("OFF"));
 }
 
 TEST_F(SynchronizeTest, AnyOtherPaperOnlyRefreshes)

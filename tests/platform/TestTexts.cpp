@@ -117,6 +117,25 @@ TEST(PropertyList, ReadsTheTicketOfTheHeatShrinkPaper)
 
 TEST(PropertyList, RefusesWhatIsNone)
 {
-    for (const char *text : {"", "HS 9", "<plist", "bplist00", "<html/>"})
+    for (const char *text : {"", "HS 9", "<plist", "bplist00", "<html/>"}) {
         EXPECT_FALSE(platform::fromXmlPropertyList(text)) << text;
+        EXPECT_FALSE(platform::stringInXmlPropertyList(text, QStringLiteral("key"))) << text;
+    }
+}
+
+TEST(PropertyList, ReadsOneStringOfTheTopLevel)
+{
+    const QVariantMap map{{QStringLiteral("text"), QStringLiteral("a<b&c")},
+                          {QStringLiteral("empty"), QString()},
+                          {QStringLiteral("number"), 42},
+                          {QStringLiteral("map"), QVariantMap{{QStringLiteral("k"), QStringLiteral("v")}}}};
+    const auto read = [xml = platform::toXmlPropertyList(map)](const char *key) {
+        return platform::stringInXmlPropertyList(xml, QLatin1String(key));
+    };
+    EXPECT_EQ(read("text"), QStringLiteral("a<b&c"));
+    EXPECT_EQ(read("empty"), QString());
+    EXPECT_EQ(read("number"), std::nullopt);
+    EXPECT_EQ(read("map"), std::nullopt);
+    EXPECT_EQ(read("k"), std::nullopt) << "of the top level alone";
+    EXPECT_EQ(read("absent"), std::nullopt);
 }

@@ -282,6 +282,22 @@ TEST_F(BasePDETest, ADefaultIsMarkedOnlyWhereNothingIs)
     EXPECT_EQ(m_dialog->changes.size(), 1U) << "without a default nothing is marked";
 }
 
+TEST_F(BasePDETest, ADefaultWhoseKeywordIsNoTextIsNotHandedOn)
+{
+    m_dialog = std::make_shared<TestDialog>(PpdBuilder().allOptions().open());
+    m_panel = TestPanel::initWithCallback(m_dialog, m_bundle);
+    m_ppd = m_dialog->ppdFile();
+    // libcups rejects such keywords when it reads a file; a record made otherwise may still hold them.
+    ppd_option_t *const option = ppdFindOption(m_ppd, "KvHalfCut");
+    for (char *keyword : {option->choices[0].choice, option->defchoice})
+        qstrncpy(keyword, "\xdf", PPD_MAX_NAME);
+    const auto choices = choicesOf("KvHalfCut");
+    ASSERT_EQ(BasePDE13_v400_::indexOfDefaultOption(choices.get()), 0);
+    EXPECT_EQ(m_panel->setDefaultChoices(option, choices.get(), "KvHalfCut", QStringLiteral("KvHalfCut")),
+              nullptr);
+    EXPECT_TRUE(m_dialog->changes.empty());
+}
+
 TEST_F(BasePDETest, TheListOfOptionsIsKept)
 {
     EXPECT_EQ(m_panel->supportedOptions(), std::nullopt);
@@ -354,4 +370,20 @@ TEST_F(BasePDETest, AViewThatWentWithItsWindowIsNotDeletedTwice)
     window.reset();
     m_panel->setViewFrameSize(488, 200);
     m_panel.reset();
+}
+
+TEST_F(BasePDETest, APanelEndsWithItsViewFirstAndItsBundleLast)
+{
+    QStringList ended;
+    const auto watched = [&ended](const auto &object, const QString &name) {
+        return std::shared_ptr<std::remove_reference_t<decltype(*object)>>(
+            object.get(), [&ended, name](auto *) { ended.append(name); });
+    };
+    m_panel = TestPanel::initWithCallback(watched(m_dialog, QStringLiteral("callback object")),
+                                          watched(m_bundle, QStringLiteral("bundle")));
+    QObject::connect(m_panel->panelView(), &QObject::destroyed,
+                     [&ended] { ended.append(QStringLiteral("view")); });
+    m_panel.reset();
+    EXPECT_EQ(ended, (QStringList{QStringLiteral("view"), QStringLiteral("callback object"),
+                                  QStringLiteral("bundle")}));
 }

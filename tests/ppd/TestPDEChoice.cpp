@@ -35,6 +35,17 @@ TEST(PDEChoice, DescribesItsPlaceAmongTheChoices)
     }
 }
 
+TEST(PDEChoice, DescribesTextsThatLookLikePlaceholders)
+{
+    const auto ppd = PpdBuilder().choices(keyword, {{"OFF", "%1 of %7, %%"}, {"ON", "On"}}).open();
+    const auto choices = choicesOf(ppd.get());
+    ASSERT_EQ(choices->size(), 2U);
+    const QString described = choices->front()->description();
+    EXPECT_TRUE(described.endsWith(
+        QStringLiteral(" userTitle:\"%1 of %7, %%\" ppdTitle:\"OFF\" marked:NO choice:1 of 2>")))
+        << described.toStdString();
+}
+
 TEST(PDEChoice, KeepsTheTextsThatItHasDecoded)
 {
     const auto ppd = PpdBuilder().option(keyword).open();

@@ -106,7 +106,10 @@ TEST(TapeInfo, ANamelessPaperTakesTheTicketsName)
 
 TEST(TapeInfo, WhateverATicketHoldsItIsReadOrPassedOver)
 {
-    const auto plist = [](const char *content) {
+    const auto nestedArrays = [](int depth) {
+        return QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth);
+    };
+    const auto plist = [](const QByteArray &content) {
         return QByteArray("<?xml version=\"1.0\"?><plist version=\"1.0\">") + content + "</plist>";
     };
     struct Row {
@@ -124,12 +127,20 @@ TEST(TapeInfo, WhateverATicketHoldsItIsReadOrPassedOver)
         {plist("<dict><key>LxPaperName2</key><string></string></dict>"), QString()},
         {plist("<dict><key>Other</key><true/><key>LxPaperName2</key><string>HS 9</string></dict>"),
          QStringLiteral("HS 9")},
+        {plist("<dict><key>LxPaperName2</key><string>a</string><key>LxPaperName2</key>"
+               "<string>b</string></dict>"),
+         QStringLiteral("b")},
+        {plist("<dict><key>Other</key><dict><key>LxPaperName2</key><string>a</string></dict></dict>"),
+         std::nullopt},
+        {plist(QByteArray("<dict><key>Other</key>" + nestedArrays(100'000) +
+                          "<key>LxPaperName2</key><string>HS 9</string></dict>")),
+         QStringLiteral("HS 9")},
     };
     TestDialog dialog(somePapers().open());
     for (const Row &row : rows) {
         dialog.setTicketPaper(std::nullopt);
         dialog.settings.setValue(PrintSettingsTicketKey, row.ticket);
-        EXPECT_EQ(tapeInfoOf(dialog).paperName, row.name) << row.ticket.toStdString();
+        EXPECT_EQ(tapeInfoOf(dialog).paperName, row.name) << row.ticket.left(200).toStdString();
         EXPECT_EQ(tapeInfoOf(dialog).kind, 2);
     }
 }

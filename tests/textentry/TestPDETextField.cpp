@@ -72,6 +72,30 @@ TEST_F(ReportingField, FocusComesAndGoesSilently)
     EXPECT_TRUE(posted.empty());
 }
 
+TEST_F(ReportingField, KeysThatBringTheFocusLeaveTheSelectionAlone)
+{
+    in.field.setText(QStringLiteral("1234"));
+    for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::ShortcutFocusReason,
+                                         Qt::MouseFocusReason, Qt::OtherFocusReason}) {
+        in.other.setFocus();
+        in.field.setCursorPosition(2);
+        in.field.setFocus(reason);
+        ASSERT_TRUE(in.field.hasFocus()) << reason;
+        EXPECT_FALSE(in.field.hasSelectedText()) << reason;
+        EXPECT_EQ(in.field.cursorPosition(), 2) << reason;
+        in.other.setFocus();
+        in.field.setSelection(1, 2);
+        in.field.setFocus(reason);
+        EXPECT_EQ(in.field.selectedText(), QStringLiteral("23")) << reason;
+    }
+    in.other.setFocus();
+    in.field.setCursorPosition(4);
+    in.press(Qt::Key_Backtab);
+    ASSERT_TRUE(in.field.hasFocus());
+    in.type(QStringLiteral("5"));
+    EXPECT_EQ(in.field.text(), QStringLiteral("12345")) << "the next key adds to the entry";
+}
+
 TEST_F(ReportingField, FieldThatCannotTakeTheFocusSaysSo)
 {
     in.other.setFocus();

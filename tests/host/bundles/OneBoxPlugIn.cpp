@@ -2,6 +2,7 @@
 // A bundle as small as one can be: one panel with one check box for the option "KvMirror". It tells in its
 // summary what it heard from the dialog.
 #include <plugin/protocol/PDEPlugIn.h>
+#include <plugin/protocol/PDEUserChoices.h>
 
 #include <QCheckBox>
 #include <QObject>
@@ -9,7 +10,7 @@
 
 namespace {
 
-class OneBoxPanel : public PDEPanel {
+class OneBoxPanel : public PDEPanel, public PDEUserChoices_v1 {
 public:
     explicit OneBoxPanel(std::shared_ptr<PDEPluginCallback13_v400_> callback)
         : m_callback(std::move(callback))
@@ -43,6 +44,17 @@ public:
     {
         return QVariantMap{{QStringLiteral("Heard"), m_heard.join(u' ')},
                            {PDESummaryDisplayOrderKey, QStringList{QStringLiteral("Heard")}}};
+    }
+
+    void applyUserChoices(const PDEChoices &choices) override
+    {
+        for (const auto &[keyword, choice] : choices) {
+            const bool asksForOn = choice == QStringLiteral("ON");
+            const bool isChoice = asksForOn || choice == QStringLiteral("OFF");
+            // The box is what would be saved. A click is the user's, so the dialog receives the choice.
+            if (keyword == QStringLiteral("KvMirror") && isChoice && asksForOn != m_box.isChecked())
+                m_box.click();
+        }
     }
 
 private:

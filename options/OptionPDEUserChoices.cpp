@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+// Choices that the user made before or elsewhere, made on the panel's own controls.
+#include "Controls.h"
+#include "OptionPDE.h"
+
+#include <platform/Numbers.h>
+
+#include <algorithm>
+
+void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
+{
+    // Special tape comes first, since it disables what the cutter would do and enables it again. The count
+    // stands twice, before the automatic cut that may disable its field and after the one that may enable it.
+    static constexpr std::array<OptionKind, OptionCount + 1> order = {
+        OptionKind::SpecialTape, OptionKind::CutLabel, OptionKind::CutAtEnd,   OptionKind::Mirror,
+        OptionKind::AutoCut,     OptionKind::HalfCut,  OptionKind::ChainPrint, OptionKind::RemoveBlkSpace,
+        OptionKind::CutMark,     OptionKind::CutLabel,
+    };
+    for (const OptionKind kind : order) {
+        const std::optional<QString> choice = choiceGiven(kind, choices);
+        if (!choice || !option(kind) || choiceToSave(kind) == choice)
+            continue;
+        if (kind == OptionKind::CutLabel)
+            applyToCount(indexGiven(kind, choices));
+        else
+            applyToBox(kind, boxIndexGiven(kind, choices));
+    }
+}
+
+int OptionPDE13_v400_::boxIndexGiven(OptionKind kind, const PDEChoices &choices) const
+{
+    // Without a box of its own the automatic cut is saved as ON and OFF, which its list need not have.
+    if (kind == OptionKind::AutoCut && !mAutoCutHideKey_dec) {
+        const std::optional<QString> choice = choiceGiven(kind, choices);
+        if (choice == QStringLiteral("ON"))
+            return 1;
+        if (choice == QStringLiteral("OFF"))
+            return 0;
+    }
+    return indexGiven(kind, choices);
+}
+
+void OptionPDE13_v400_::applyToBox(OptionKind kind, int index)
+{
+    // Where the automatic cut has no box of its own, saving reads that of the cut-every row.
+    const bool chained = kind == OptionKind::AutoCut && !mAutoCutHideKey_dec;
+    const OptionRow &edited = row(chained ? OptionKind::CutLabel : kind);
+    QCheckBox *const box = this->*edited.box;
+    const bool canShow = index == 0 || index == 1;
+    if (!canShow || !controls::isReachable(box) || controls::state(box) == index)
+        return;
+    controls::setState(box, index);
+    if (mOptionView)
+        mOptionView->update();
+    chooseBoxState(edited);
+    enabledCheck_OP();
+}
+
+void OptionPDE13_v400_::applyToCount(int index)
+{
+    if (index < 0 || !controls::isReachable(mCutEveryTxBx))
+        return;
+    const QString count =
+        (*mCutEvery_Choices)[static_cast<std::size_t>(index)]->ppdTitle().value_or(QString());
+    // In a list with gaps the number of a choice may stand for another one.
+    const CountRange counts = countRange();
+    if (counts.indexOf(counts.clamped(platform::integerValue(count))) != index)
+        return;
+    showCount(count);
+    changeCutEveryValue(mCutEveryTxBx);
+}

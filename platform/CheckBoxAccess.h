@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace platform {
+
+class CheckBox;
+
+/// A check box as assistive technology sees and operates it. Toggling is a click: Qt's own interface changes
+/// the box without clicked(), so that nobody would learn what the user has chosen.
+class CheckBoxAccess : public QAccessibleWidget {
+public:
+    explicit CheckBoxAccess(CheckBox *box);
+
+    /// Has Qt use this class for every CheckBox from now on. May be called again.
+    static void install();
+
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString &name) override;
+
+private:
+    CheckBox *box() const;
+};
+
+} // namespace platform

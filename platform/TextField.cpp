@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "TextField.h"
+
+#include "TextFieldAccess.h"
+
+namespace platform {
+
+TextField::TextField(QWidget *parent)
+    : QLineEdit(parent)
+{
+    TextFieldAccess::install();
+}
+
+void TextField::enterText(const QString &text)
+{
+    if (!isEnabled() || isReadOnly())
+        return;
+    selectAll();
+    if (text.isEmpty())
+        del();
+    else
+        insert(text);
+}
+
+} // namespace platform

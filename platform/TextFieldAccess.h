@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace platform {
+
+class TextField;
+
+/// A text field as assistive technology reads and edits it. An edit is an edit of the user: Qt's own
+/// interface sets the text without textEdited(), so that nobody would learn what the user has entered.
+class TextFieldAccess : public QAccessibleWidget,
+                        public QAccessibleTextInterface,
+                        public QAccessibleEditableTextInterface {
+public:
+    explicit TextFieldAccess(TextField *field);
+
+    /// Has Qt use this class for every TextField from now on. May be called again.
+    static void install();
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text kind, const QString &text) override;
+    QAccessible::State state() const override;
+
+    void selection(int index, int *start, int *end) const override;
+    int selectionCount() const override;
+    void addSelection(int start, int end) override;
+    void removeSelection(int index) override;
+    void setSelection(int index, int start, int end) override;
+    int cursorPosition() const override;
+    void setCursorPosition(int position) override;
+    QString text(int start, int end) const override;
+    int characterCount() const override;
+    QRect characterRect(int offset) const override;
+    int offsetAtPoint(const QPoint &point) const override;
+    void scrollToSubstring(int start, int end) override;
+    QString attributes(int offset, int *start, int *end) const override;
+
+    void deleteText(int start, int end) override;
+    void insertText(int offset, const QString &text) override;
+    void replaceText(int start, int end, const QString &text) override;
+
+private:
+    TextField *field() const;
+};
+
+} // namespace platform
