@@ -47,6 +47,8 @@ void BlankMeasurer::cancel()
         m_isWanted[static_cast<std::size_t>(page)] = false;
     m_wanted.clear();
     m_next = 0;
+    *m_isCanceled = true;
+    m_isCanceled = std::make_shared<std::atomic<bool>>(false);
 }
 
 void BlankMeasurer::finish()
@@ -73,12 +75,14 @@ void BlankMeasurer::start()
     const std::size_t count = std::min(m_wanted.size() - m_next, mostPagesATask);
     const auto first = m_wanted.begin() + static_cast<std::ptrdiff_t>(m_next);
     const auto measure = [this, pages = std::vector<int>(first, first + static_cast<std::ptrdiff_t>(count)),
-                          paper = m_paper](const LabelDocument &document,
-                                           const PageThread::ShouldPause &shouldPause) {
+                          paper = m_paper, isCanceled = m_isCanceled](
+                             const LabelDocument &document, const PageThread::ShouldPause &shouldPause) {
         const LabelDrawing drawing(document, paper);
         const QDeadlineTimer end(interval);
         Measured results;
         for (const int page : pages) {
+            if (*isCanceled)
+                break;
             results.emplace_back(page, drawing.measure(page));
             if (end.hasExpired() || shouldPause())
                 break;
@@ -93,7 +97,7 @@ void BlankMeasurer::store(const Measured &results)
     for (const auto &[page, extent] : results) {
         const auto index = static_cast<std::size_t>(page);
         m_extents[index] = extent;
-        // A page that was canceled meanwhile is measured all the same.
+        // Not so for a page that was canceled meanwhile.
         if (m_next < m_wanted.size() && m_wanted[m_next] == page)
             ++m_next;
     }

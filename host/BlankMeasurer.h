@@ -7,6 +7,8 @@
 #include <QElapsedTimer>
 #include <QSizeF>
 
+#include <atomic>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -52,6 +54,8 @@ private:
     std::vector<bool> m_isWanted;
     /// A task runs, or is about to.
     bool m_isStarted = false;
+    /// Set for the task that runs when its pages are canceled.
+    std::shared_ptr<std::atomic<bool>> m_isCanceled = std::make_shared<std::atomic<bool>>(false);
     QElapsedTimer m_sinceSignal;
 };
 

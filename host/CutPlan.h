@@ -19,6 +19,8 @@ struct LabelExtent {
     bool whollyBlank = false;
     /// Whether the blank is known. Until then it counts as 0.
     bool isMeasured = true;
+
+    bool operator==(const LabelExtent &) const = default;
 };
 
 /// What the printer does to the tape after a label.

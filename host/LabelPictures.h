@@ -24,7 +24,7 @@ public:
     QSizeF paper() const { return m_paper; }
 
     /// Sets the pages in sight and the pixels a millimetre. What was waiting and is out of sight is not drawn
-    /// any more.
+    /// any more, apart from the few pages that the thread has in work.
     void show(std::vector<int> pages, double pixelsPerMillimetre);
     /// The whole label, white where the page has nothing; null while it is not drawn. While it is drawn with
     /// other pixels, the picture is the one with the old ones.
