@@ -60,6 +60,8 @@ void BlankMeasurer::finish()
         if (isIdle())
             loop.quit();
     });
+    // An event may end the measurer, with the paper for which it measures.
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 

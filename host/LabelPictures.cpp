@@ -5,6 +5,7 @@
 
 #include <QDeadlineTimer>
 
+#include <algorithm>
 #include <chrono>
 
 namespace host {
@@ -42,7 +43,8 @@ void LabelPictures::show(std::vector<int> pages, double pixelsPerMillimetre)
     m_resolution = pixelsPerMillimetre;
     m_missing.clear();
     for (const int page : m_shown) {
-        if (!isDrawn(page))
+        // Copies of a page lie side by side.
+        if (!isDrawn(page) && std::ranges::find(m_missing, page) == m_missing.end())
             m_missing.push_back(page);
     }
     start();

@@ -18,7 +18,9 @@ namespace {
 template<typename View>
 bool areComplete(const QWidget &window)
 {
-    return std::ranges::all_of(window.findChildren<const View *>(), &View::isComplete);
+    const auto *const itself = qobject_cast<const View *>(&window);
+    return (!itself || itself->isComplete()) &&
+           std::ranges::all_of(window.findChildren<const View *>(), &View::isComplete);
 }
 
 } // namespace
