@@ -242,13 +242,8 @@ void PrintDialog::refreshMessages()
 void PrintDialog::lookAtPanel()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
-    if (!setup || !m_ticket || m_refreshPending)
-        return;
-    const host::PanelSettings now = setup->panelSettings();
-    if (now == m_ticket->panel)
-        return;
-    setup->notePanelInput(m_ticket->panel, now);
-    refresh();
+    if (setup && m_ticket && !m_refreshPending && setup->notePanelInput(m_ticket->panel))
+        refresh();
 }
 
 void PrintDialog::pageShown()

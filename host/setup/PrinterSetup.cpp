@@ -225,14 +225,18 @@ void PrinterSetup::announcePanel()
         m_panels->announce();
 }
 
-void PrinterSetup::notePanelInput(const PanelSettings &before, const PanelSettings &now)
+bool PrinterSetup::notePanelInput(const PanelSettings &before)
 {
-    // A panel that tells nothing of the change has set several controls at once, by a ready-made combination.
+    const PanelSettings now = panelSettings();
+    if (now == before)
+        return false;
+    // A panel that reports nothing of the change has set several controls at once, by a ready-made combination.
     m_panels->forgetReplaced(std::nullopt);
     for (const auto &[keyword, choice] : now.choices) {
         if (before.choice(keyword) != choice)
             m_lastChosen = keyword;
     }
+    return true;
 }
 
 QString PrinterSetup::printerText() const

@@ -90,8 +90,9 @@ public:
     const QString &lastChosen() const { return m_lastChosen; }
     /// Makes a remedy's changes as the user's choices.
     void apply(const Remedy &remedy);
-    /// The user has operated the panel, whose settings were different before: remembers what was chosen last.
-    void notePanelInput(const PanelSettings &before, const PanelSettings &now);
+    /// Something has reached the panel, whose settings were these before. Answers whether they have changed, and
+    /// remembers what was chosen last.
+    bool notePanelInput(const PanelSettings &before);
 
     /// Announces to the panel that its page comes to the front. What is chosen stays chosen.
     void announcePanel();

@@ -92,7 +92,7 @@ protected:
         const Qt::Key key = index > list->currentIndex() ? Qt::Key_Down : Qt::Key_Up;
         while (list->currentIndex() != index)
             QTest::keyClick(list, key);
-        setup.notePanelInput(before, setup.panelSettings());
+        setup.notePanelInput(before);
     }
 
     static void choosePaper(PrinterSetup &setup, const QByteArray &name)

@@ -897,6 +897,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>Die Beschreibung des Druckers sagt nicht, ob er die Etiketten schneidet.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etiketten: %1 · Band: %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>Kein Vollschnitt: Die Etiketten kommen als ein Streifen.</translation>
     </message>
@@ -1432,6 +1440,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>„%1“ kann mit diesem Papier und den anderen Schnittoptionen nicht „%2“ sein und wird als „%3“ gedruckt.</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>

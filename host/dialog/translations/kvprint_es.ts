@@ -896,6 +896,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La descripción de la impresora no indica si corta las etiquetas.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etiquetas: %1 · Cinta: %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>Sin corte completo: las etiquetas salen en una sola tira.</translation>
     </message>
@@ -1431,6 +1439,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>«%1» no puede ser «%2» con este papel y las demás opciones de corte, y se imprime como «%3».</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>«%1» no puede guardar sus ajustes: %2</translation>

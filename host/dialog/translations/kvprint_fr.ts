@@ -897,6 +897,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La description de l’imprimante n’indique pas si elle coupe les étiquettes.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Étiquettes : %1 · Ruban : %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>Pas de coupe complète : les étiquettes sortent en une seule bande.</translation>
     </message>
@@ -1432,6 +1440,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>« %1 » ne peut pas être « %2 » avec ce papier et les autres options de coupe, et est imprimé comme « %3 ».</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>

@@ -897,6 +897,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La descrizione della stampante non indica se taglia le etichette.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etichette: %1 · Nastro: %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>Nessun taglio completo: le etichette escono in un&apos;unica striscia.</translation>
     </message>
@@ -1432,6 +1440,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>«%1» non può essere «%2» con questa carta e le altre opzioni di taglio, e viene stampato come «%3».</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>

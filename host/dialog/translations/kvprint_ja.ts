@@ -895,6 +895,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>プリンターの記述には、ラベルをカットするかどうかが書かれていません。</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>ラベル: %1 · テープ: %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>フルカットなし: ラベルは 1 本の帯で出てきます。</translation>
     </message>
@@ -1429,6 +1437,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>この用紙と他のカット設定では「%1」を「%2」にできないため、「%3」として印刷されます。</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>「%1」の設定を保存できません: %2</translation>

@@ -897,6 +897,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>De beschrijving van de printer vermeldt niet of hij de etiketten afsnijdt.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Labels: %1 · Tape: %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>Geen volledige snede: de labels komen als één strook.</translation>
     </message>
@@ -1432,6 +1440,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>‘%1’ kan met dit papier en de andere snijopties niet ‘%2’ zijn en wordt afgedrukt als ‘%3’.</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>

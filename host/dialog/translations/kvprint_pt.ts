@@ -896,6 +896,14 @@
 <context>
     <name>host::CutPlan</name>
     <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>A descrição da impressora não indica se ela corta as etiquetas.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etiquetas: %1 · Fita: %2</translation>
+    </message>
+    <message>
         <source>No full cut: the labels come out as one strip.</source>
         <translation>Sem corte completo: as etiquetas saem numa só tira.</translation>
     </message>
@@ -1431,6 +1439,10 @@
 </context>
 <context>
     <name>host::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>“%1” não pode ser “%2” com este papel e as demais opções de corte, e é impresso como “%3”.</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
         <translation>&quot;%1&quot; não consegue guardar as definições: %2</translation>
