@@ -1442,7 +1442,7 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>„%1“ kann mit diesem Papier und den anderen Schnittoptionen nicht „%2“ sein und wird als „%3“ gedruckt.</translation>
+        <translation>„%1“ kann mit diesem Papier und den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>

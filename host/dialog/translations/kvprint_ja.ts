@@ -1439,7 +1439,7 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>この用紙と他のカット設定では「%1」を「%2」にできないため、「%3」として印刷されます。</translation>
+        <translation>この用紙とほかのカットオプションの組み合わせでは「%1」を「%2」にできないため、「%3」として印刷されます。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>

@@ -896,7 +896,7 @@
     <name>host::CutPlan</name>
     <message>
         <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>打印机的描述未说明是否切割标签。</translation>
+        <translation>打印机的描述未说明是否裁切标签。</translation>
     </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
@@ -1439,7 +1439,7 @@
     <name>host::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>在此纸张和其他切割选项下，“%1”不能为“%2”，将按“%3”打印。</translation>
+        <translation>在此纸张和其他裁切选项下，“%1”不能为“%2”，将按“%3”打印。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot save its settings: %2</source>
