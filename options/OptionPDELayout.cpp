@@ -3,7 +3,7 @@
 #include "OptionPDE.h"
 
 #include <platform/Geometry.h>
-#include <platform/LazyImage.h>
+#include <platform/ImageIcon.h>
 
 #include <initializer_list>
 #include <iterator>
@@ -176,7 +176,8 @@ void OptionPDE13_v400_::dressPopUp()
     for (int position = 0; position < mOptionPopUpButton->count(); ++position) {
         const QString picture = mOptionPopUpButton->itemText(position);
         if (const std::optional<QString> path = nsPDEBundle->pathForImageResource(picture))
-            mOptionPopUpButton->setItemIcon(position, platform::iconFromImage(platform::LazyImage(*path)));
+            mOptionPopUpButton->setItemIcon(
+                position, platform::iconFromImage(platform::Image::initWithContentsOfFile(*path)));
         // The item shows only its picture; who cannot see it hears what the picture shows.
         const QString spoken = localized(QStringLiteral("OP_PICTURE_") + picture);
         mOptionPopUpButton->setItemData(position, spoken, Qt::ToolTipRole);

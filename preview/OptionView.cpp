@@ -31,9 +31,10 @@ bool isOn(const QAbstractButton *box)
     return box && !box->isHidden() && box->isChecked();
 }
 
-platform::LazyImage pictureFromBundle(const platform::Bundle &bundle, const char *name)
+std::shared_ptr<const platform::Image> pictureFromBundle(const platform::Bundle &bundle, const char *name)
 {
-    return platform::LazyImage(bundle.pathForImageResource(QLatin1String(name)).value_or(QString()));
+    const std::optional<QString> path = bundle.pathForImageResource(QLatin1String(name));
+    return path ? platform::Image::initWithContentsOfFile(*path) : nullptr;
 }
 
 } // namespace

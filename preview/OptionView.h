@@ -2,7 +2,7 @@
 #pragma once
 
 #include <platform/Bundle.h>
-#include <platform/LazyImage.h>
+#include <platform/Image.h>
 
 #include <QAbstractButton>
 #include <QPointer>
@@ -25,7 +25,8 @@ public:
     static constexpr std::size_t LXPictureCount = 22;
 
     /// A view of the given frame in the parent, with the pictures of its family from the bundle.
-    /// The parent owns it. A picture that the bundle lacks, or that cannot be read, stays empty.
+    /// The parent owns it. All pictures are read here, so that a package that is replaced later leaves none
+    /// of them blank; one that the bundle lacks, or whose file is broken, stays empty.
     static OptionView13_v400_ *initWithFrame(const QRect &frame, const platform::Bundle &bundle, bool isDZ,
                                              QWidget *parent);
 
@@ -74,8 +75,8 @@ private:
     std::size_t slotDZ() const;
     std::size_t slotLX() const;
 
-    std::array<platform::LazyImage, DZPictureCount> mOptionImgDZ;
-    std::array<platform::LazyImage, LXPictureCount> mOptionImgLX;
+    std::array<std::shared_ptr<const platform::Image>, DZPictureCount> mOptionImgDZ;
+    std::array<std::shared_ptr<const platform::Image>, LXPictureCount> mOptionImgLX;
     bool mIsDZ = false;
     QPointer<const QAbstractButton> mCutEveryChkBx;
     QPointer<const QAbstractButton> mCutAndEndChkBx;

@@ -16,18 +16,18 @@ using PDEChoices = std::vector<std::pair<QString, QString>>;
 /// Optional interface of a panel, version 1: applies choices that the user made before, or made elsewhere.
 ///
 /// A panel's class derives from it beside PDEPanel, and the dialog finds it with dynamic_cast. A panel that
-/// refreshes its controls from the PPD's marks may lose what only its own controls had; the dialog, which knows
-/// what the panel would have saved before, gives it back here.
+/// refreshes its controls from the PPD's marks may lose what only its own controls had; the dialog, which
+/// knows what the panel would have saved before, gives it back here.
 class KV_EXPORT PDEUserChoices_v1 {
 public:
     virtual ~PDEUserChoices_v1() = default;
 
     /// Makes each choice as though the user had made it on the panel's own control: the control shows it, the
-    /// dialog receives it through willChangePPDOptionKeyValue(), and the panel's rules are applied. No alert is
-    /// shown. A choice that the panel would save anyway is skipped, and so is one whose control is hidden or which
-    /// the option does not have. A control that is disabled receives the choice if its state is saved all the
-    /// same. The caller sees what came of it by letting the panel save.
-    /// The panel decides the order, so that a choice that enables another one is made first.
+    /// dialog receives it through willChangePPDOptionKeyValue(), and the panel's rules are applied. No alert
+    /// is shown. A choice that the panel would save anyway is skipped, and so is one whose control is hidden
+    /// or which the option does not have. A control that is disabled receives the choice all the same, since
+    /// its state is saved. The caller sees what came of it by letting the panel save. The panel decides the
+    /// order, so that a choice that enables another one is made first.
     virtual void applyUserChoices(const PDEChoices &choices) = 0;
 };
 

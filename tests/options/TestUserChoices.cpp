@@ -209,6 +209,9 @@ TEST_F(UserChoicesTest, ACountThatItsNumberWouldNotChooseIsSkipped)
         EXPECT_TRUE(dialog->changes.empty()) << count;
         EXPECT_EQ(panel->countField()->text(), QStringLiteral("2"));
     }
+    show(cutting().choices("KvCutLabel", {{"1", "1"}, {"3", "3"}, {"5", "5"}}));
+    apply({{"KvCutLabel", "3"}});
+    EXPECT_TRUE(dialog->changes.empty()) << "typing 3 would choose 5 there";
 }
 
 TEST_F(UserChoicesTest, ABoxThatShowsTheChoiceIsNotSwitched)

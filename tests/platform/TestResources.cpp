@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Bundles, pictures and layout files.
 #include <platform/Bundle.h>
+#include <platform/ImageIcon.h>
 #include <platform/LayoutLoader.h>
-#include <platform/LazyImage.h>
+#include <platform/PngFile.h>
 #include <platform/Stepper.h>
 
 #include <QDir>
@@ -18,7 +19,6 @@
 using platform::Bundle;
 using platform::Image;
 using platform::LayoutLoader;
-using platform::LazyImage;
 
 namespace {
 
@@ -107,33 +107,91 @@ TEST(Image, ChoosesTheVariantForScreenAndTheme)
         << "a dark picture of half the density beats a light one";
 }
 
-TEST(LazyImage, IsReadWhenItIsAskedForAndOnce)
+TEST(Image, IsWholeInMemoryOnceItIsMade)
+{
+    const QTemporaryDir folder;
+    const auto path = [&folder](const char *name) { return folder.filePath(QLatin1String(name)); };
+    writePicture(path("p.png"), {10, 10}, Qt::red);
+    writePicture(path("p@2x.png"), {20, 20}, Qt::green);
+    writePicture(path("p-dark.png"), {10, 10}, Qt::blue);
+    writePicture(path("p-dark@2x.png"), {20, 20}, Qt::yellow);
+    const auto image = Image::initWithContentsOfFile(path("p.png"));
+    ASSERT_TRUE(image);
+    writePicture(path("p.png"), {4, 4}, Qt::black);
+    for (const char *name : {"p@2x.png", "p-dark.png", "p-dark@2x.png"})
+        ASSERT_TRUE(QFile::remove(path(name)));
+    const QPalette dark(QColor(40, 40, 40));
+    EXPECT_EQ(image->size(), QSize(10, 10));
+    EXPECT_EQ(drawn(*image, 1.0, QPalette(Qt::lightGray)), QColor(Qt::red));
+    EXPECT_EQ(drawn(*image, 2.0, QPalette(Qt::lightGray)), QColor(Qt::green));
+    EXPECT_EQ(drawn(*image, 1.0, dark), QColor(Qt::blue));
+    EXPECT_EQ(drawn(*image, 2.0, dark), QColor(Qt::yellow));
+    const auto replaced = Image::initWithContentsOfFile(path("p.png"));
+    ASSERT_TRUE(replaced);
+    EXPECT_EQ(replaced->size(), QSize(4, 4)) << "a picture that is made later is that of the new files";
+}
+
+TEST(Image, IsSharedAsLongAsItsFilesAreTheSame)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("p.png"));
-    const LazyImage late(path);
-    writePicture(path, {4, 2}, Qt::red);
-    ASSERT_TRUE(late.get());
-    EXPECT_EQ(late.get()->size(), QSize(4, 2));
-    writePicture(path, {8, 8}, Qt::red);
-    EXPECT_EQ(late.get()->size(), QSize(4, 2));
-
-    EXPECT_EQ(LazyImage().get(), nullptr);
-    const QString text = folder.filePath(QStringLiteral("text.png"));
-    writeFile(text, "not a picture");
-    EXPECT_EQ(LazyImage(text).get(), nullptr);
+    writePicture(path, {10, 10}, Qt::red);
+    auto image = Image::initWithContentsOfFile(path);
+    EXPECT_EQ(Image::initWithContentsOfFile(path), image);
+    writePicture(folder.filePath(QStringLiteral("p-dark.png")), {10, 10}, Qt::blue);
+    EXPECT_NE(Image::initWithContentsOfFile(path), image) << "a variant has come";
+    QFile::remove(path);
+    EXPECT_EQ(Image::initWithContentsOfFile(path), nullptr);
 }
 
-TEST(LazyImage, AsAnIconDrawsThePictureOrNothing)
+TEST(Image, ABrokenFileIsNoPicture)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("p.png"));
+    const QString dense = folder.filePath(QStringLiteral("p@2x.png"));
+    writePicture(path, {10, 10}, Qt::red);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    ASSERT_TRUE(platform::sizeOfIntactPng(whole));
+    for (qsizetype length = 0; length < whole.size(); ++length)
+        ASSERT_FALSE(platform::sizeOfIntactPng(whole.left(length))) << "cut off after " << length;
+    for (qsizetype position = 0; position < whole.size(); ++position) {
+        QByteArray flipped = whole;
+        flipped[position] = static_cast<char>(flipped[position] ^ 0x10);
+        ASSERT_FALSE(platform::sizeOfIntactPng(flipped)) << "a bit is wrong at " << position;
+    }
+    writeFile(path, whole.left(whole.size() / 2));
+    EXPECT_EQ(Image::initWithContentsOfFile(path), nullptr);
+    writeFile(path, whole);
+    writeFile(dense, whole.left(whole.size() - 1));
+    const auto image = Image::initWithContentsOfFile(path);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(drawn(*image, 2.0, QPalette(Qt::lightGray)), QColor(Qt::red))
+        << "a broken file for dense screens counts as missing";
+}
+
+TEST(Image, OtherKindsOfFilesAreDecodedToBeChecked)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("p.bmp"));
+    writePicture(path, {10, 10}, Qt::red);
+    const auto image = Image::initWithContentsOfFile(path);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->size(), QSize(10, 10));
+    EXPECT_EQ(drawn(*image, 1.0, QPalette(Qt::lightGray)), QColor(Qt::red));
+    writeFile(path, "BM");
+    EXPECT_EQ(Image::initWithContentsOfFile(path), nullptr);
+}
+
+TEST(ImageIcon, DrawsThePicture)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("p.png"));
     writePicture(path, {40, 20}, Qt::red);
-    const auto middle = [](const QIcon &icon) {
-        return icon.pixmap(QSize(20, 10)).toImage().pixelColor(10, 5);
-    };
-    EXPECT_EQ(middle(iconFromImage(LazyImage(path))), QColor(Qt::red));
-    EXPECT_EQ(middle(iconFromImage(LazyImage(folder.filePath(QStringLiteral("absent.png"))))).alpha(), 0);
+    const QIcon icon = platform::iconFromImage(Image::initWithContentsOfFile(path));
+    EXPECT_EQ(icon.pixmap(QSize(20, 10)).toImage().pixelColor(10, 5), QColor(Qt::red));
+    EXPECT_TRUE(platform::iconFromImage(nullptr).isNull());
 }
 
 TEST(LayoutLoader, TellsWhatIsWrongWithTheFile)

@@ -251,3 +251,34 @@ TEST_F(PreviewTest, AMissingOrUnreadablePictureDrawsNothing)
     setBoxes(1U << Half, 0, 0);
     EXPECT_NE(view->targetDrawImage(), nullptr);
 }
+
+TEST_F(PreviewTest, APackageThatIsReplacedUnderTheViewLeavesItsPictures)
+{
+    for (const bool isDZ : {false, true}) {
+        auto *const view = makeView(isDZ);
+        ASSERT_TRUE(QDir(m_folder.filePath(QStringLiteral("Resources"))).removeRecursively());
+        for (const unsigned states :
+             {0U, 1U << Mirror, 1U << Auto, 1U << Auto | 1U << Mirror, 1U << Special}) {
+            setBoxes(states, 0, 0);
+            QImage canvas(20, 10, QImage::Format_ARGB32_Premultiplied);
+            canvas.fill(Qt::transparent);
+            QPainter painter(&canvas);
+            view->drawRect(painter);
+            painter.end();
+            EXPECT_EQ(canvas.pixelColor(0, 9), QColor(Qt::red)) << states;
+        }
+        SetUp();
+    }
+}
+
+TEST_F(PreviewTest, ACutOffPictureDrawsNothing)
+{
+    const QString path = picturePath(QStringLiteral("AHCMOffOffOffOff"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(file.size() - 20));
+    file.close();
+    const auto *const view = makeView(false);
+    setBoxes(0, 0, 0);
+    EXPECT_EQ(view->targetDrawImage(), nullptr);
+}

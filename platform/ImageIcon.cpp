@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "LazyImage.h"
+#include "ImageIcon.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>
@@ -12,21 +12,18 @@ namespace {
 
 class ImageIconEngine : public QIconEngine {
 public:
-    explicit ImageIconEngine(LazyImage image)
+    explicit ImageIconEngine(std::shared_ptr<const Image> image)
         : m_image(std::move(image))
     {
     }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
-        const Image *const image = m_image.get();
-        if (!image)
-            return;
         constexpr double disabledOpacity = 0.35;
         painter->save();
         if (mode == QIcon::Disabled)
             painter->setOpacity(disabledOpacity);
-        image->drawInRect(*painter, rect, QGuiApplication::palette());
+        m_image->drawInRect(*painter, rect, QGuiApplication::palette());
         painter->restore();
     }
 
@@ -42,21 +39,14 @@ public:
     QIconEngine *clone() const override { return new ImageIconEngine(m_image); }
 
 private:
-    LazyImage m_image;
+    std::shared_ptr<const Image> m_image;
 };
 
 } // namespace
 
-const Image *LazyImage::get() const
+QIcon iconFromImage(std::shared_ptr<const Image> image)
 {
-    if (!m_path.isEmpty())
-        m_image = Image::initWithContentsOfFile(std::exchange(m_path, QString()));
-    return m_image.get();
-}
-
-QIcon iconFromImage(LazyImage image)
-{
-    return QIcon(new ImageIconEngine(std::move(image)));
+    return image ? QIcon(new ImageIconEngine(std::move(image))) : QIcon();
 }
 
 } // namespace platform
