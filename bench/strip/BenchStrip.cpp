@@ -103,8 +103,9 @@ private:
         // What follows behind the strip belongs to the longest event.
         for (int round = 0; round < 20; ++round)
             QTest::qWait(5);
-        std::printf("%8d  %-28s %10.1f %14.1f   %s\n", m_document->pageCount(), name, shown.count(),
-                    m_application.longest().count(), qPrintable(m_application.longestName()));
+        std::printf("%8d  %-28s %10.1f %14.1f %10.1f   %s\n", m_document->pageCount(), name, shown.count(),
+                    m_application.longest().count(), m_application.busiest().count(),
+                    qPrintable(m_application.longestName()));
         std::fflush(stdout);
     }
 
@@ -147,8 +148,8 @@ int main(int argc, char **argv)
             qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen")).toLocal8Bit());
     TimedApplication application(argc, argv);
     const Sandbox sandbox;
-    std::printf("%8s  %-28s %10s %14s   %s\n", "labels", "what is done", "shown, ms", "longest event",
-                "which");
+    std::printf("%8s  %-28s %10s %14s %10s   %s\n", "labels", "what is done", "shown, ms", "longest event",
+                "busiest", "which");
     for (const int count : {1, 500, 10'000}) {
         const QString path = writeLabels(sandbox, count);
         printBaseline(path);

@@ -4,7 +4,21 @@
 #include <QEvent>
 #include <QMetaEnum>
 
+#include <algorithm>
+#include <ctime>
+
 namespace bench {
+
+namespace {
+
+TimedApplication::Duration processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+} // namespace
 
 bool TimedApplication::notify(QObject *receiver, QEvent *event)
 {
@@ -14,9 +28,11 @@ bool TimedApplication::notify(QObject *receiver, QEvent *event)
     const QLatin1String name(receiver->metaObject()->className());
     const QEvent::Type type = event->type();
     ++m_depth;
+    const Duration busyBefore = processorTime();
     const auto begin = std::chrono::steady_clock::now();
     const bool result = QApplication::notify(receiver, event);
     const Duration took = std::chrono::steady_clock::now() - begin;
+    m_busiest = std::max(m_busiest, processorTime() - busyBefore);
     --m_depth;
     if (took > m_longest) {
         m_longest = took;

@@ -18,14 +18,18 @@ public:
     bool notify(QObject *receiver, QEvent *event) override;
 
     /// Begins anew.
-    void reset() { m_longest = {}; }
+    void reset() { m_longest = m_busiest = {}; }
     Duration longest() const { return m_longest; }
+    /// The same in time of the processor: what other programs have taken meanwhile does not count, but
+    /// neither does waiting.
+    Duration busiest() const { return m_busiest; }
     /// Which event that was, and whose.
     const QString &longestName() const { return m_longestName; }
 
 private:
     int m_depth = 0;
     Duration m_longest{};
+    Duration m_busiest{};
     QString m_longestName;
 };
 
