@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every test program runs with real widgets on the offscreen platform, in a home of its own that
 // lasts as long as the program: no user's settings are read or written.
+#include "Waiting.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -27,8 +29,9 @@ bool hasBackgroundThreads()
 /// What a thread has in hand while it ends is taken for a leak. Some wait for a server that never answers.
 void awaitBackgroundThreads()
 {
-    for (int i = 0; i < 1000 && hasBackgroundThreads(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    constexpr std::chrono::milliseconds step{10};
+    for (auto time = step * 0; time < test_support::failureTimeout && hasBackgroundThreads(); time += step)
+        std::this_thread::sleep_for(step);
 }
 
 } // namespace
