@@ -78,6 +78,7 @@ StallScenarios::Duration StallScenarios::serverThatIsGone()
     open(tape, knownServer(absent.address()));
     StallWatch watch;
     waitUntil([this] { return session->isSettled() && !told().isEmpty(); });
+    linger();
     return watch.longest();
 }
 
@@ -88,6 +89,7 @@ StallScenarios::Duration StallScenarios::serverThatBreaks()
     open(tape, knownServer(breaking.address()));
     StallWatch watch;
     waitUntil([this] { return session->isSettled() && !told().isEmpty(); });
+    linger();
     return watch.longest();
 }
 
