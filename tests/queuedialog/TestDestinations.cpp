@@ -225,9 +225,9 @@ TEST_F(DestinationsTest, ARefusedPasswordIsNotAskedForAgainAndAgain)
     EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
     // One question for the queue's state may be on its way; with the second one the first is settled.
     const int before = guarded.refusedCount();
-    EXPECT_TRUE(waitUntil([&] { return guarded.refusedCount() >= before + 2; }));
+    EXPECT_TRUE(waitUntil([&] { return guarded.refusedCount() >= before + 2 || passwordQuestions > 1; }));
     test_support::turnEventLoop();
-    EXPECT_EQ(passwordQuestions, 1);
+    ASSERT_EQ(passwordQuestions, 1);
     EXPECT_TRUE(passwordDialogs().empty());
     EXPECT_NE(told(), QString());
     // Whoever presses Print wants to be asked once more.
