@@ -7,6 +7,7 @@
 #include <host/cups/QueueCache.h>
 #include <host/dialog/Banner.h>
 #include <host/dialog/PasswordDialog.h>
+#include <tests/support/BackgroundThreads.h>
 
 #include <QApplication>
 #include <QDir>
@@ -41,6 +42,7 @@ void QueueDialogTest::TearDownTestSuite()
 
 void QueueDialogTest::SetUp()
 {
+    test_support::awaitBackgroundThreads();
     QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
          QStringLiteral("/kvprint/cups"))
         .removeRecursively();

@@ -2,6 +2,7 @@
 // The way from a server's answers to the printer that is set up, against a real cupsd.
 #include <host/cups/QueueCache.h>
 #include <host/setup/SetupKeeper.h>
+#include <tests/support/BackgroundThreads.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
 #include <tests/support/Waiting.h>
@@ -28,6 +29,7 @@ protected:
 
     void SetUp() override
     {
+        test_support::awaitBackgroundThreads();
         server.address = cupsd->address();
         server.patience = test_support::failureTimeout;
         QDir(host::QueueCache(server).folder()).removeRecursively();
@@ -39,6 +41,8 @@ protected:
     void open(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
     {
         keeper.reset();
+        session.reset();
+        test_support::awaitBackgroundThreads();
         session = std::make_unique<QueueSession>(server, wanted);
         keeper = std::make_unique<SetupKeeper>(*session, source, wishes);
         failures.clear();

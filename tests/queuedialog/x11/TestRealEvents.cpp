@@ -80,9 +80,10 @@ TEST_F(RealEventsTest, AJobIsSetUpAndPrintedWithMouseAndKeys)
     EXPECT_TRUE(waitUntil([this] { return isSettled(); }));
     EXPECT_TRUE(panelBox("mMirrorPrintChkBx")->isChecked());
 
+    const std::size_t before = cupsd->documents().size();
     click(button(QStringLiteral("Print")));
     EXPECT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
-    const auto job = cupsd->waitForDocuments(1).front();
+    const auto job = cupsd->waitForDocuments(before + 1).back();
     EXPECT_EQ(job.option("KvMirror"), "ON");
     EXPECT_EQ(job.option("PageSize"), "DC52x75");
     EXPECT_EQ(job.copies, "3");
