@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// What a panel would do for a job that is printed now: the choices that it would save, and whether it lets the
-/// job pass. Asking a panel for it changes nothing.
+/// What a panel would do for a job that is printed now: the choices that it would save, and whether it lets
+/// the job pass. Asking a panel for it changes nothing.
 struct PanelSettings {
     /// Keyword and choice, each keyword once, in the order in which the panel writes them. A keyword that the
     /// panel does not write is absent.

@@ -9,12 +9,12 @@
 
 void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
 {
-    // Special tape comes first, since what is saved for the cutter depends on it. A control that the paper has
-    // disabled is set all the same: its state is saved, and a ready-made combination sets it too.
+    // Special tape comes first, since what is saved for the cutter depends on it. A control that the paper
+    // has disabled is set all the same: its state is saved, and a ready-made combination sets it too.
     static constexpr std::array<OptionKind, OptionCount> order = {
-        OptionKind::SpecialTape, OptionKind::CutLabel, OptionKind::CutAtEnd,   OptionKind::Mirror,
-        OptionKind::AutoCut,     OptionKind::HalfCut,  OptionKind::ChainPrint, OptionKind::RemoveBlkSpace,
-        OptionKind::CutMark,
+        OptionKind::SpecialTape, OptionKind::CutLabel,       OptionKind::CutAtEnd,
+        OptionKind::Mirror,      OptionKind::AutoCut,        OptionKind::HalfCut,
+        OptionKind::ChainPrint,  OptionKind::RemoveBlkSpace, OptionKind::CutMark,
     };
     for (const OptionKind kind : order) {
         const std::optional<QString> choice = choiceGiven(kind, choices);

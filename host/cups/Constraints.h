@@ -50,8 +50,8 @@ public:
     /// Reads the PPD's constraints. The PPD is borrowed.
     explicit Constraints(const PpdFile &ppd);
 
-    /// The conflicts among what is marked now, each once. The given choices count instead of what is marked for
-    /// their options.
+    /// The conflicts among what is marked now, each once. The given choices count instead of what is marked
+    /// for their options.
     std::vector<Conflict> conflicts(const PDEChoices &instead = {}) const;
 
     /// The fewest changes that end all those conflicts. PageSize stays as it is, and so

@@ -118,9 +118,9 @@ int CupsConnection::mayWaitOn(http_t *http, void *data)
     // up is not silent.
     const int unsent = unsentBytes(http);
     if (unsent < state.unsent)
-        state.silence.start();
+        state.restartSilence();
     state.unsent = unsent;
-    state.wasSilent = state.silence.hasExpired(state.server.patience.count());
+    state.wasSilent = state.hasBeenSilentTooLong();
     return !state.wasSilent && (state.finishesFirst || !state.task->isCancelled());
 }
 
@@ -137,7 +137,7 @@ const char *CupsConnection::password(const char *prompt, http_t *, const char *,
     // libcups keeps no copy.
     state.credentials = *answer;
     cupsSetUser(state.credentials.user.constData());
-    state.silence.start();
+    state.restartSilence();
     return state.credentials.password.constData();
 }
 
@@ -151,7 +151,7 @@ CupsError CupsConnection::noAnswer() const
     const QString name = server().displayName();
     if (m_state->task->isCancelled())
         return {CupsFailure::Cancelled, Text::tr("Given up on request.")};
-    if (m_state->wasSilent || (!m_http && m_state->silence.hasExpired(patience())))
+    if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
         return {CupsFailure::Silent, Text::tr("The print server \"%1\" does not answer.").arg(name)};
     if (!m_http)
         return {CupsFailure::Unreachable, Text::tr("Cannot connect to the print server \"%1\": %2")

@@ -6,8 +6,6 @@
 
 #include <cups/cups.h>
 
-#include <QElapsedTimer>
-
 #include <functional>
 #include <memory>
 
@@ -70,7 +68,7 @@ public:
     /// Starts counting the server's silence anew.
     void beginWaiting() const
     {
-        m_state->silence.start();
+        m_state->restartSilence();
         m_state->wasSilent = false;
     }
     /// Why a call of libcups failed that has just told so itself: given up, silent, broken, or refused by the
@@ -82,9 +80,13 @@ public:
 private:
     /// What callbacks of libcups get to see; stays where it is when the connection is moved.
     struct State {
+        void restartSilence() { heard = server.clock(); }
+        bool hasBeenSilentTooLong() const { return server.clock() - heard > server.patience; }
+
         CupsServer server;
         BackgroundTask *task = nullptr;
-        QElapsedTimer silence;
+        /// When the server last sent or took something, or was asked.
+        std::chrono::steady_clock::time_point heard;
         /// The bytes on their way to the server when it was last looked at.
         int unsent = 0;
         bool wasSilent = false;

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -40,6 +41,8 @@ struct CupsServer {
     std::optional<QString> user;
     /// How long a server may be silent before it is given up.
     std::chrono::milliseconds patience{10000};
+    /// What the silence is measured by.
+    std::function<std::chrono::steady_clock::time_point()> clock = std::chrono::steady_clock::now;
     /// Asks the user for a password, on the main thread; without one, whatever needs a password fails.
     PasswordHandler askPassword;
     /// What the user has answered; shared by all copies, so that nobody is asked twice.

@@ -33,7 +33,7 @@ bool isAnnouncedName(const QByteArray &uri)
 /// Where the printer is now; nothing when it is not on the network any more. Print servers could look the
 /// name up by themselves, but cupsd 2.4 crashes later when it did.
 std::optional<QByteArray> lookUp(const Destination &destination, BackgroundTask &task,
-                                 std::chrono::milliseconds patience)
+                                 std::chrono::milliseconds time)
 {
     const QByteArray announced = destination.deviceUri.toUtf8();
     if (!isAnnouncedName(announced))
@@ -45,8 +45,8 @@ std::optional<QByteArray> lookUp(const Destination &destination, BackgroundTask 
     // It puts the answer in the place of the name; nobody connects.
     std::array<char, HTTP_MAX_URI> resource = {};
     const HttpPointer http(cupsConnectDest(dest.get(), CUPS_DEST_FLAGS_DEVICE | CUPS_DEST_FLAGS_UNCONNECTED,
-                                           static_cast<int>(patience.count()), task.cancelFlag(),
-                                           resource.data(), resource.size(), nullptr, nullptr));
+                                           static_cast<int>(time.count()), task.cancelFlag(), resource.data(),
+                                           resource.size(), nullptr, nullptr));
     const QByteArray found = cupsGetOption("device-uri", dest->num_options, dest->options);
     return http && !isAnnouncedName(found) ? std::optional(found) : std::nullopt;
 }
@@ -75,9 +75,10 @@ Result<bool, CupsError> isMade(CupsConnection &connection, const QString &queue)
     return now.value().state != QueueState::Unknown;
 }
 
-std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString &queue, BackgroundTask &task)
+std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString &queue, BackgroundTask &task,
+                                       std::chrono::milliseconds time)
 {
-    const QDeadlineTimer deadline(connection.server().patience);
+    const QDeadlineTimer deadline(time);
     for (;; task.pause(pauseBetweenLooks)) {
         const Result<bool, CupsError> made = isMade(connection, queue);
         if (!made)
@@ -94,17 +95,19 @@ std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString
 } // namespace
 
 std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
-                                     BackgroundTask &task)
+                                     BackgroundTask &task,
+                                     const std::optional<std::chrono::milliseconds> &time)
 {
     if (!destination.isDiscovered)
         return std::nullopt;
+    const std::chrono::milliseconds printersTime = time.value_or(connection.server().patience);
     const Result<bool, CupsError> made = isMade(connection, destination.queue);
     if (made && made.value())
         return std::nullopt;
     if (!made && made.error().kind != CupsFailure::NotFound)
         return made.error();
     if (!made) {
-        const std::optional<QByteArray> deviceUri = lookUp(destination, task, connection.server().patience);
+        const std::optional<QByteArray> deviceUri = lookUp(destination, task, printersTime);
         if (!deviceUri && task.isCancelled())
             return connection.noAnswer();
         if (!deviceUri)
@@ -117,7 +120,7 @@ std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destinati
         if (!answer && !isMade(connection, destination.queue))
             return answer.error();
     }
-    return waitUntilMade(connection, destination.queue, task);
+    return waitUntilMade(connection, destination.queue, task, printersTime);
 }
 
 } // namespace host

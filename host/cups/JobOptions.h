@@ -23,9 +23,9 @@ struct JobChoice {
     bool isPanels = false;
 };
 
-/// Makes the choice one of the choices, each option once and in the order of the first choosing. A choice that was
-/// made before with the same value keeps its origin: a panel that saves what the user asked for has not chosen
-/// anything.
+/// Makes the choice one of the choices, each option once and in the order of the first choosing. A choice
+/// that was made before with the same value keeps its origin: a panel that saves what the user asked for has
+/// not chosen anything.
 void setJobChoice(std::vector<JobChoice> &choices, const JobChoice &choice);
 
 /// An option of a job, with where it comes from.

@@ -37,10 +37,12 @@ CommandChecks::CommandChecks(const CommandLine &command, const Console &console)
 
 QString CommandChecks::refusalText(const host::ChoiceError &refusal, const host::PrinterSetup &setup) const
 {
-    const bool isPaperOfFile = m_command.ppd && m_command.paper && refusal.kind == host::ChoiceFailure::UnknownPaper;
+    const bool isPaperOfFile =
+        m_command.ppd && m_command.paper && refusal.kind == host::ChoiceFailure::UnknownPaper;
     if (!isPaperOfFile)
         return refusal.message;
-    return QCoreApplication::translate("dialog::PrintRun", "The PPD file \"%1\" has no paper \"%2\"; it has: %3")
+    return QCoreApplication::translate("dialog::PrintRun",
+                                       "The PPD file \"%1\" has no paper \"%2\"; it has: %3")
         .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), paperNames(setup.ppd()));
 }
 

@@ -10,15 +10,15 @@ namespace dialog {
 
 class QueueSender;
 
-/// What may keep a run of the command line from printing, and what it reports on the console: the same for queues
-/// and for PPD files, with and without a window.
+/// What may keep a run of the command line from printing, and what it reports on the console: the same for
+/// queues and for PPD files, with and without a window.
 class CommandChecks {
 public:
     /// Both are borrowed.
     CommandChecks(const CommandLine &command, const Console &console);
 
-    /// Whether the printer can do what is requested, or is to do it by force. Reports what it cannot do, and a
-    /// panel that cannot be shown.
+    /// Whether the printer can do what is requested, or is to do it by force. Reports what it cannot do, and
+    /// a panel that cannot be shown.
     bool accepts(const host::PrinterSetup &setup) const;
     /// Whether the job may be sent without asking. Reports a panel that refuses, requested choices that the
     /// panel's rules have replaced, and conflicts with their remedy.

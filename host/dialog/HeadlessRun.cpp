@@ -162,7 +162,8 @@ ExitStatus HeadlessRun::run()
         return ExitStatus::Failed;
     const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
     // A summary of conflicting settings reports the conflicts, as the dialog does.
-    const bool mayFinish = checks.accepts(ticket) || (m_command.task == Task::Summary && !ticket.panel.refusal);
+    const bool mayFinish =
+        checks.accepts(ticket) || (m_command.task == Task::Summary && !ticket.panel.refusal);
     return mayFinish ? CommandChecks::statusOf(finish(*setup, ticket), *setup) : ExitStatus::Failed;
 }
 

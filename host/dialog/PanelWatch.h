@@ -8,10 +8,11 @@ class QWidget;
 
 namespace dialog {
 
-/// Notices that a panel may have changed. A panel changes its controls without informing the dialog, when the user
-/// picks a ready-made combination for instance, and its controls are operated by more than mouse and keys: by a
-/// screen reader, by a menu that it has opened, by its own timers. So everything that reaches its view, or a window
-/// that belongs to the view, counts, and so does the moment before the program waits for something new to happen.
+/// Notices that a panel may have changed. A panel changes its controls without informing the dialog, when the
+/// user picks a ready-made combination for instance, and its controls are operated by more than mouse and
+/// keys: by a screen reader, by a menu that it has opened, by its own timers. So everything that reaches its
+/// view, or a window that belongs to the view, counts, and so does the moment before the program waits for
+/// something new to happen.
 class PanelWatch : public QObject {
     Q_OBJECT
 

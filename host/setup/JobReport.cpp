@@ -142,16 +142,11 @@ QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, 
     QJsonArray pages;
     for (const int page : ticket.pages.pages)
         pages.append(page + 1);
-    return {{"printer", ticket.printer},
-            {"ppd", QFileInfo(ppdPath).absoluteFilePath()},
-            {"document", documents.first()},
-            {"documents", documents},
-            {"paper", paperJson(*ticket.paper)},
-            {"pages", pages},
-            {"copies", ticket.pages.copies},
-            {"collate", ticket.pages.collate == Collate::Yes},
-            {"options", choicesJson(ticket)},
-            {"plan", cutPlanJson(plan)}};
+    return {{"printer", ticket.printer},         {"ppd", QFileInfo(ppdPath).absoluteFilePath()},
+            {"document", documents.first()},     {"documents", documents},
+            {"paper", paperJson(*ticket.paper)}, {"pages", pages},
+            {"copies", ticket.pages.copies},     {"collate", ticket.pages.collate == Collate::Yes},
+            {"options", choicesJson(ticket)},    {"plan", cutPlanJson(plan)}};
 }
 
 } // namespace host

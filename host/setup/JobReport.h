@@ -17,8 +17,9 @@ QString ticketInPlainText(const CupsServer &server, const Ticket &ticket);
 /// same. Origins are "ppd", "queue", "user-default", "preset", "panel" and "you" in every language.
 QJsonObject ticketJson(const CupsServer &server, const Ticket &ticket);
 
-/// A job that the virtual printer prints, for programs: "printer", "ppd", "documents", "paper", "pages" from 1,
-/// "copies", "collate", "options" with the paper first, and "plan", the plan of cuts. The ticket has a paper.
+/// A job that the virtual printer prints, for programs: "printer", "ppd", "documents", "paper", "pages" from
+/// 1, "copies", "collate", "options" with the paper first, and "plan", the plan of cuts. The ticket has a
+/// paper.
 QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, const QString &ppdPath,
                            const CutPlan &plan);
 

@@ -67,8 +67,8 @@ std::vector<SummarySection> summarize(const Ticket &ticket, const PrinterSetup &
 {
     std::vector<SummarySection> sections{printingSection(ticket)};
     if (PDEPanel *const panel = setup.panel())
-        sections.push_back(panelSection(
-            panel->panelName(), setup.panelSummary(ticket.panel.choices).value_or(QVariantMap())));
+        sections.push_back(panelSection(panel->panelName(),
+                                        setup.panelSummary(ticket.panel.choices).value_or(QVariantMap())));
     if (plan)
         sections.push_back(stripSection(*plan));
     return sections;

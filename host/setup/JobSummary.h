@@ -17,8 +17,8 @@ struct SummarySection {
 };
 
 /// All settings of the job, to be read before printing: the dialog's own, the panel's in the panel's order,
-/// and what becomes of the strip. The setup's panel is asked for its lines about the ticket's choices; there may be
-/// none. The plan is null without a paper, when nothing is known of the strip.
+/// and what becomes of the strip. The setup's panel is asked for its lines about the ticket's choices; there
+/// may be none. The plan is null without a paper, when nothing is known of the strip.
 std::vector<SummarySection> summarize(const Ticket &ticket, const PrinterSetup &setup, const CutPlan *plan);
 
 /// For a terminal.

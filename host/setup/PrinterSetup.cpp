@@ -225,12 +225,27 @@ void PrinterSetup::announcePanel()
         m_panels->announce();
 }
 
+std::set<QString> PrinterSetup::keptByRemedies() const
+{
+    std::set<QString> kept;
+    if (!m_lastChosen.isEmpty())
+        kept.insert(m_lastChosen);
+    for (const auto &[keyword, choice] : panelSettings().choices) {
+        if (ppd().markedChoice(keyword) != choice)
+            kept.insert(keyword);
+    }
+    for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
+        kept.insert(each.keyword);
+    return kept;
+}
+
 bool PrinterSetup::notePanelInput(const PanelSettings &before)
 {
     const PanelSettings now = panelSettings();
     if (now == before)
         return false;
-    // A panel that reports nothing of the change has set several controls at once, by a ready-made combination.
+    // A panel that reports nothing of the change has set several controls at once, by a ready-made
+    // combination.
     m_panels->forgetReplaced(std::nullopt);
     for (const auto &[keyword, choice] : now.choices) {
         if (before.choice(keyword) != choice)

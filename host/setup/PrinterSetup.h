@@ -80,18 +80,19 @@ public:
     /// What was chosen, with what the panel's controls have and nothing has saved yet.
     std::vector<JobChoice> choicesNow() const;
     /// What is requested of the printer all in all: choicesNow(), and of the requested choices that it cannot
-    /// fulfil those that nothing else was chosen for. To be carried over to another setup, which may fulfil them or
-    /// reports again that it cannot.
+    /// fulfil those that nothing else was chosen for. To be carried over to another setup, which may fulfil
+    /// them or reports again that it cannot.
     std::vector<JobChoice> choicesAndRefusedWishes() const;
 
     /// Null without a PPD.
     const Constraints *constraints() const { return m_constraints ? &*m_constraints : nullptr; }
-    /// The option that was chosen last, which a remedy leaves as it is if it can; empty before the first choice.
-    const QString &lastChosen() const { return m_lastChosen; }
+    /// Options that a remedy leaves as they are if it can: the one that was chosen last, and those for which
+    /// the panel saves something else than is marked, so that another mark would not help.
+    std::set<QString> keptByRemedies() const;
     /// Makes a remedy's changes as the user's choices.
     void apply(const Remedy &remedy);
-    /// Something has reached the panel, whose settings were these before. Answers whether they have changed, and
-    /// remembers what was chosen last.
+    /// Something has reached the panel, whose settings were these before. Answers whether they have changed,
+    /// and remembers what was chosen last.
     bool notePanelInput(const PanelSettings &before);
 
     /// Announces to the panel that its page comes to the front. What is chosen stays chosen.

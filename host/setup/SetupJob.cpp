@@ -8,8 +8,8 @@ namespace host {
 Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft)
 {
     return makeTicket({setup.destination(), setup.printerText(), setup.ppdOrNull(), setup.constraints(),
-                       setup.choices(), setup.lastChosen(), setup.panelSettings(), setup.paper(), document,
-                       draft});
+                       setup.choices(), setup.keptByRemedies(), setup.panelSettings(), setup.paper(),
+                       document, draft});
 }
 
 QString defaultTitle(const LabelDocument &document)

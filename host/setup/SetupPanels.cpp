@@ -112,7 +112,8 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
 void SetupPanels::forgetReplaced(const std::optional<QString> &keyword)
 {
     if (!m_isOperating)
-        std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return !keyword || each.keyword == *keyword; });
+        std::erase_if(m_replaced,
+                      [&](const ReplacedChoice &each) { return !keyword || each.keyword == *keyword; });
 }
 
 PDEChoices SetupPanels::wantedChoices(Retry retry)

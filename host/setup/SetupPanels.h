@@ -18,11 +18,12 @@ struct ReplacedChoice {
     bool operator==(const ReplacedChoice &) const = default;
 };
 
-/// The panels of one printer while it is set up: asks them what they would save, and keeps what the user chose on
-/// them when something makes them read the PPD again.
+/// The panels of one printer while it is set up: asks them what they would save, and keeps what the user
+/// chose on them when something makes them read the PPD again.
 ///
-/// A panel's settings may be in its controls alone: a ready-made combination changes no mark before it is saved,
-/// and a refresh from the PPD drops it. So everything that may refresh a panel goes through keepChoices().
+/// A panel's settings may be in its controls alone: a ready-made combination changes no mark before it is
+/// saved, and a refresh from the PPD drops it. So everything that may refresh a panel goes through
+/// keepChoices().
 class SetupPanels {
 public:
     explicit SetupPanels(std::shared_ptr<DialogState> state);
@@ -54,13 +55,13 @@ public:
     void choose(const QString &keyword, const QString &choice);
     /// Whether choices that were replaced before are tried again: another paper may allow them.
     enum class Retry { No, Yes };
-    /// Runs the action, which may make the panel refresh its controls, in between of saving the panel and giving
-    /// it back what the refresh has dropped. What the panel itself marks meanwhile stays: a paper that cannot be
-    /// cut, for instance, turns automatic cutting off.
+    /// Runs the action, which may make the panel refresh its controls, in between of saving the panel and
+    /// giving it back what the refresh has dropped. What the panel itself marks meanwhile stays: a paper that
+    /// cannot be cut, for instance, turns automatic cutting off.
     void keepChoices(const std::function<void()> &action, Retry retry = Retry::No);
 
-    /// What was asked for, on the panel or for it, and is saved otherwise; empty again once the user has chosen
-    /// otherwise or the panel allows it.
+    /// What was asked for, on the panel or for it, and is saved otherwise; empty again once the user has
+    /// chosen otherwise or the panel allows it.
     const std::vector<ReplacedChoice> &replaced() const { return m_replaced; }
     /// The user has chosen the keyword on the panel, or with an absent one a combination of several: what was
     /// asked for before does not count any more. Ignored while this object itself operates the panel.

@@ -84,11 +84,8 @@ Ticket makeTicket(const TicketSource &source)
         ticket.cuts = CutSettings::fromJob(*source.ppd, sentChoices(ticket.job, *source.ppd));
     if (source.constraints) {
         ticket.conflicts = source.constraints->conflicts(source.panel.choices);
-        std::set<QString> keep;
-        if (!source.lastChosen.isEmpty())
-            keep.insert(source.lastChosen);
         if (!ticket.conflicts.empty())
-            ticket.remedy = source.constraints->remedy(keep, source.panel.choices);
+            ticket.remedy = source.constraints->remedy(source.kept, source.panel.choices);
     }
     return ticket;
 }

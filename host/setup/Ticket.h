@@ -31,8 +31,9 @@ struct TicketSource {
     const Constraints *constraints;
     /// What was chosen and by whom.
     const std::vector<JobChoice> &choices;
-    /// The option that was chosen last, which a remedy leaves as it is if it can.
-    QString lastChosen;
+    /// Options that a remedy leaves as they are if it can: the one that was chosen last, and those whose
+    /// choice the panel replaces.
+    std::set<QString> kept;
     /// What the panel would save now.
     const PanelSettings &panel;
     /// Absent without a PPD, or when the PPD names no paper at all.
@@ -41,8 +42,9 @@ struct TicketSource {
     const JobDraft &draft;
 };
 
-/// What would be sent if Print were pressed now: the one value from which everything is made that shows the job or
-/// sends it. The strip, its figures and sentences, the summary, "What will be sent", conflicts, --dry-run,
+/// What would be sent if Print were pressed now: the one value from which everything is made that shows the
+/// job or sends it. The strip, its figures and sentences, the summary, "What will be sent", conflicts,
+/// --dry-run,
 /// --summary, the virtual printer's files and the job itself read nothing else.
 struct Ticket {
     /// What the print server receives.

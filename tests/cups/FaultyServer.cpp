@@ -7,13 +7,34 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <sys/socket.h>
 
 namespace {
 
 const QByteArray encouragement = "HTTP/1.1 100 Continue\r\n\r\n";
+const QByteArray endOfHeader = "\r\n\r\n";
 /// How often a slow server takes something, in a second.
 constexpr int takesPerSecond = 50;
+
+/// The operation of a request by IPP; nothing until its first bytes have come. RFC 8010: the second two bytes
+/// of the message, which begins behind HTTP's header and, in a document of unknown length, the first length.
+std::optional<int> operationOf(const QByteArray &request)
+{
+    const qsizetype header = request.indexOf(endOfHeader);
+    if (header < 0)
+        return std::nullopt;
+    qsizetype message = header + endOfHeader.size();
+    if (request.first(header).toLower().contains("transfer-encoding: chunked")) {
+        const qsizetype endOfLength = request.indexOf("\r\n", message);
+        if (endOfLength < 0)
+            return std::nullopt;
+        message = endOfLength + 2;
+    }
+    if (request.size() < message + 4)
+        return std::nullopt;
+    return static_cast<uchar>(request[message + 2]) << 8 | static_cast<uchar>(request[message + 3]);
+}
 
 } // namespace
 
@@ -23,7 +44,7 @@ FaultyServer::FaultyServer(quint16 realPort, const Faults &faults)
     , m_server(new QTcpServer) // ends with its thread, below
 {
     EXPECT_TRUE(m_server->listen(QHostAddress::LocalHost));
-    if (m_faults.bytesPerSecond > 0) {
+    if (m_faults.bytesPerSecond > 0 || m_faults.stallAfter > 0) {
         // The system's own room for what comes would hide how slowly it is read.
         const int room = 32768;
         EXPECT_EQ(setsockopt(static_cast<int>(m_server->socketDescriptor()), SOL_SOCKET, SO_RCVBUF, &room,
@@ -51,58 +72,121 @@ QString FaultyServer::address() const
     return QStringLiteral("127.0.0.1:%1").arg(m_port);
 }
 
+int FaultyServer::requestCount(int operation) const
+{
+    const std::scoped_lock lock(m_operationsMutex);
+    const auto found = m_operations.find(operation);
+    return found == m_operations.end() ? 0 : found->second;
+}
+
+void FaultyServer::hold()
+{
+    QMetaObject::invokeMethod(
+        m_server, [this] { m_faults.holds = true; }, Qt::BlockingQueuedConnection);
+}
+
+void FaultyServer::release()
+{
+    const auto releaseAll = [this] {
+        m_faults.holds = false;
+        m_faults.holdsContent = false;
+        m_faults.stallAfter = 0;
+        m_faults.bytesPerSecond = 0;
+        for (const Pair &pair : std::exchange(m_held, {})) {
+            if (!pair.client || !pair.real)
+                continue;
+            pair.client->setProperty("holding", false);
+            pair.client->write(pair.real->readAll());
+        }
+        for (const Pair &pair : m_all) {
+            if (pair.client && pair.real)
+                takeAll(pair.client, pair.real);
+        }
+    };
+    QMetaObject::invokeMethod(m_server, releaseAll, Qt::BlockingQueuedConnection);
+}
+
 void FaultyServer::serve(QTcpSocket *client)
 {
     ++m_connectionCount;
     if (m_faults.silent)
         return;
     auto *const real = new QTcpSocket(client);
+    std::erase_if(m_all, [](const Pair &pair) { return !pair.client || !pair.real; });
+    m_all.push_back({client, real});
     if (m_faults.bytesPerSecond > 0)
         takeSlowly(client, real);
     else
         QObject::connect(client, &QTcpSocket::readyRead, real,
-                         [this, client, real] { take(client->readAll(), client, real); });
+                         [this, client, real] { takeAll(client, real); });
+    if (m_faults.stallAfter > 0)
+        client->setReadBufferSize(65536);
     QObject::connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
     QObject::connect(real, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::errorOccurred, client, &QTcpSocket::disconnectFromHost);
-    QObject::connect(real, &QTcpSocket::readyRead, client, [this, client, real] {
-        const bool isSilent =
-            m_faults.silentAfter > 0 && client->property("taken").toLongLong() > m_faults.silentAfter;
-        if (isSilent || client->property("holding").toBool())
-            return;
-        // The encouragement to go on with a request is no answer yet.
-        const bool isEncouragement = real->bytesAvailable() == encouragement.size();
-        const bool isFirst = client->property("asked").toBool() && !isEncouragement;
-        if (isFirst) {
-            client->setProperty("asked", false);
-            client->setProperty("answers", client->property("answers").toInt() + 1);
-        }
-        if (isFirst && client->property("answers").toInt() == m_faults.breakAtAnswer) {
-            client->abort();
-            return;
-        }
-        client->setProperty("holding", isFirst);
-        if (isFirst)
-            QTimer::singleShot(m_faults.delay, client, [this, client, real] { passInPieces(client, real); });
-        else
-            client->write(real->readAll());
-    });
+    QObject::connect(real, &QTcpSocket::readyRead, client,
+                     [this, client, real] { passAnswer(client, real); });
     real->connectToHost(QHostAddress(QHostAddress::LocalHost), m_realPort);
 }
 
-void FaultyServer::passInPieces(QTcpSocket *client, QTcpSocket *real) const
+void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
 {
+    const bool isSilent =
+        m_faults.silentAfter > 0 && client->property("taken").toLongLong() > m_faults.silentAfter;
+    if (isSilent || client->property("holding").toBool())
+        return;
+    // The encouragement to go on with a request is no answer yet.
+    const bool isEncouragement = real->bytesAvailable() == encouragement.size();
+    const bool isFirst = client->property("asked").toBool() && !isEncouragement;
+    if (!isFirst) {
+        client->write(real->readAll());
+        return;
+    }
+    client->setProperty("asked", false);
+    client->setProperty("answers", client->property("answers").toInt() + 1);
+    if (client->property("answers").toInt() == m_faults.breakAtAnswer)
+        client->abort();
+    else
+        beginAnswer(client, real);
+}
+
+void FaultyServer::beginAnswer(QTcpSocket *client, QTcpSocket *real)
+{
+    client->setProperty("holding", true);
+    const bool isMeant =
+        m_faults.heldOperation == 0 || client->property("operation").toInt() == m_faults.heldOperation;
+    const bool holdsAll = m_faults.holds && isMeant;
+    if (!holdsAll && !m_faults.holdsContent) {
+        QTimer::singleShot(m_faults.delay, client, [this, client, real] { passInPieces(client, real); });
+        return;
+    }
+    if (!holdsAll)
+        client->write(
+            real->read(real->peek(real->bytesAvailable()).lastIndexOf(endOfHeader) + endOfHeader.size()));
+    m_held.push_back({client, real});
+    ++m_heldCount;
+}
+
+void FaultyServer::passInPieces(QTcpSocket *client, QTcpSocket *real)
+{
+    if (m_faults.gap == 0) {
+        passRest(client, real, {});
+        return;
+    }
     const QByteArray bytes = real->readAll();
-    const qsizetype content = m_faults.gap > 0 ? bytes.lastIndexOf("\r\n\r\n") + 4 : bytes.size();
+    const qsizetype content = bytes.lastIndexOf(endOfHeader) + endOfHeader.size();
     client->write(bytes.first(content));
     const qsizetype half = (bytes.size() - content) / 2;
-    const auto pass = [=](qsizetype from, qsizetype length) { client->write(bytes.sliced(from, length)); };
-    QTimer::singleShot(m_faults.gap, client, [=] { pass(content, half); });
-    QTimer::singleShot(2 * m_faults.gap, client, [=] {
-        pass(content + half, bytes.size() - content - half);
-        client->write(real->readAll());
-        client->setProperty("holding", false);
-    });
+    QTimer::singleShot(m_faults.gap, client, [=] { client->write(bytes.sliced(content, half)); });
+    QTimer::singleShot(2 * m_faults.gap, client,
+                       [=] { passRest(client, real, bytes.sliced(content + half)); });
+}
+
+void FaultyServer::passRest(QTcpSocket *client, QTcpSocket *real, const QByteArray &rest)
+{
+    client->write(rest);
+    client->write(real->readAll());
+    client->setProperty("holding", false);
 }
 
 void FaultyServer::takeSlowly(QTcpSocket *client, QTcpSocket *real)
@@ -111,30 +195,72 @@ void FaultyServer::takeSlowly(QTcpSocket *client, QTcpSocket *real)
     client->setReadBufferSize(most);
     auto *const pace = new QTimer(client);
     QObject::connect(pace, &QTimer::timeout, real, [this, most, client, real] {
-        const bool stalls =
-            m_faults.stallAfter > 0 && client->property("taken").toLongLong() > m_faults.stallAfter;
-        if (!stalls && client->bytesAvailable() > 0)
+        const bool isReleased = m_faults.bytesPerSecond == 0;
+        if (isReleased)
+            takeAll(client, real);
+        else if (client->bytesAvailable() > 0 && !stalls(client))
             take(client->read(most), client, real);
     });
     pace->start(1000 / takesPerSecond);
 }
 
-void FaultyServer::take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real)
+void FaultyServer::takeAll(QTcpSocket *client, QTcpSocket *real)
 {
-    if (bytes.startsWith("POST ") || bytes.startsWith("GET ")) {
+    if (client->bytesAvailable() > 0 && !stalls(client))
+        take(client->readAll(), client, real);
+}
+
+bool FaultyServer::stalls(QTcpSocket *client)
+{
+    if (m_faults.stallAfter == 0 || client->property("taken").toLongLong() <= m_faults.stallAfter)
+        return false;
+    if (!client->property("stalls").toBool())
+        ++m_stalledCount;
+    client->setProperty("stalls", true);
+    return true;
+}
+
+void FaultyServer::countRequest(const QByteArray &bytes, QTcpSocket *client)
+{
+    const bool isPost = bytes.startsWith("POST ");
+    if (isPost || bytes.startsWith("GET ")) {
         ++m_requestCount;
         client->setProperty("asked", true);
-        const bool refused = !m_faults.credentials.isEmpty() &&
-                             !bytes.contains("Authorization: Basic " + m_faults.credentials.toBase64());
-        if (refused) {
-            client->write("HTTP/1.1 401 Unauthorized\r\nConnection: close\r\nContent-Length: 0\r\n"
-                          "WWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n");
-            client->disconnectFromHost();
-            return;
-        }
+        client->setProperty("operation", 0);
+        client->setProperty("beginning", isPost ? bytes : QByteArray());
+    } else if (!client->property("beginning").toByteArray().isEmpty()) {
+        client->setProperty("beginning", client->property("beginning").toByteArray() + bytes);
     }
+    if (const std::optional<int> operation = operationOf(client->property("beginning").toByteArray())) {
+        client->setProperty("operation", *operation);
+        client->setProperty("beginning", QByteArray());
+        const std::scoped_lock lock(m_operationsMutex);
+        ++m_operations[*operation];
+    }
+}
+
+bool FaultyServer::isRefused(const QByteArray &bytes, QTcpSocket *client)
+{
+    const bool isRequest = bytes.startsWith("POST ") || bytes.startsWith("GET ");
+    if (!isRequest || m_faults.credentials.isEmpty() ||
+        bytes.contains("Authorization: Basic " + m_faults.credentials.toBase64()))
+        return false;
+    ++m_requestCount;
+    ++m_refusedCount;
+    client->write("HTTP/1.1 401 Unauthorized\r\nConnection: close\r\nContent-Length: 0\r\n"
+                  "WWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n");
+    client->disconnectFromHost();
+    return true;
+}
+
+void FaultyServer::take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real)
+{
+    if (isRefused(bytes, client))
+        return;
+    countRequest(bytes, client);
     const qint64 taken = client->property("taken").toLongLong() + bytes.size();
     client->setProperty("taken", taken);
+    m_takenBytes += bytes.size();
     if (m_faults.breakAfter > 0 && taken > m_faults.breakAfter) {
         client->abort();
         return;

@@ -2,40 +2,49 @@
 #pragma once
 
 #include <QByteArray>
+#include <QPointer>
 #include <QString>
 #include <QThread>
 
 #include <atomic>
-#include <memory>
+#include <map>
+#include <mutex>
+#include <vector>
 
 class QTcpServer;
 class QTcpSocket;
 
 /// How a server misbehaves.
 struct Faults {
-    /// Accepts connections and never says a word.
+    /// Accepts connections and never answers.
     bool silent = false;
-    /// Passes on all that the client says but none of the answers to it, on every connection on which more
+    /// Passes on all that the client sends but none of the answers to it, on every connection on which more
     /// bytes than these have come; 0 never.
     qint64 silentAfter = 0;
+    /// Withholds answers until release().
+    bool holds = false;
+    /// The operation of IPP that is meant by holds; 0 any request.
+    int heldOperation = 0;
     /// Waits before each answer, in milliseconds.
     int delay = 0;
     /// Pauses between an answer's header and its content and in the middle of the content, in milliseconds.
     int gap = 0;
+    /// Passes on the headers of answers and withholds their contents until release().
+    bool holdsContent = false;
     /// Breaks every connection when so many bytes of one have come from the client; 0 never.
     qint64 breakAfter = 0;
     /// Takes no more than so many bytes in a second from each client, and leaves the rest in the client's
     /// system, as a slow link does; 0 takes all at once.
     int bytesPerSecond = 0;
-    /// Takes nothing more from a connection when so many bytes of it have come slowly; 0 never.
+    /// Takes nothing more from a connection when so many bytes of it have come, until release(); 0 never.
     qint64 stallAfter = 0;
-    /// Says the early answer, and takes nothing more, when so many bytes of a connection have come from the
+    /// Sends the early answer, and takes nothing more, when so many bytes of a connection have come from the
     /// client; 0 never.
     qint64 answersAfter = 0;
     QByteArray earlyAnswer = {};
     /// Breaks every connection instead of giving this answer on it, counted from 1; 0 never.
     int breakAtAnswer = 0;
-    /// Wants "user:password" before anything else; empty wants none.
+    /// Requires "user:password" before anything else; empty requires none.
     QByteArray credentials = {};
 };
 
@@ -53,20 +62,56 @@ public:
     QString address() const;
     /// How many requests came in.
     int requestCount() const { return m_requestCount; }
+    /// How many requests of the operation of IPP came in, without those that lacked the password.
+    int requestCount(int operation) const;
+    /// How many requests without the password came in.
+    int refusedCount() const { return m_refusedCount; }
     /// How many connections were made.
     int connectionCount() const { return m_connectionCount; }
+    /// How many bytes were taken from all connections.
+    qint64 takenBytes() const { return m_takenBytes; }
+    /// How many answers were withheld, those that have been released included.
+    int heldCount() const { return m_heldCount; }
+    /// How many connections have stalled.
+    int stalledCount() const { return m_stalledCount; }
+
+    /// Passes on what is withheld, and everything from now on at once: answers, contents and documents.
+    void release();
+    /// Withholds answers again, as Faults::holds does.
+    void hold();
 
 private:
+    struct Pair {
+        QPointer<QTcpSocket> client;
+        QPointer<QTcpSocket> real;
+    };
+
     void serve(QTcpSocket *client);
-    void passInPieces(QTcpSocket *client, QTcpSocket *real) const;
+    void countRequest(const QByteArray &bytes, QTcpSocket *client);
+    bool isRefused(const QByteArray &bytes, QTcpSocket *client);
+    bool stalls(QTcpSocket *client);
+    void passAnswer(QTcpSocket *client, QTcpSocket *real);
+    void beginAnswer(QTcpSocket *client, QTcpSocket *real);
+    void passInPieces(QTcpSocket *client, QTcpSocket *real);
+    static void passRest(QTcpSocket *client, QTcpSocket *real, const QByteArray &rest);
     void takeSlowly(QTcpSocket *client, QTcpSocket *real);
+    void takeAll(QTcpSocket *client, QTcpSocket *real);
     void take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real);
 
     const quint16 m_realPort;
-    const Faults m_faults;
+    /// Only its own thread uses it while that runs.
+    Faults m_faults;
     quint16 m_port = 0;
     std::atomic<int> m_requestCount = 0;
+    std::atomic<int> m_refusedCount = 0;
     std::atomic<int> m_connectionCount = 0;
+    std::atomic<qint64> m_takenBytes = 0;
+    std::atomic<int> m_heldCount = 0;
+    std::atomic<int> m_stalledCount = 0;
+    mutable std::mutex m_operationsMutex;
+    std::map<int, int> m_operations;
+    std::vector<Pair> m_held;
+    std::vector<Pair> m_all;
     QThread m_thread;
     /// Lives on the thread.
     QTcpServer *m_server = nullptr;

@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Waiting.h"
+#include "Servers.h"
 
 #include <host/cups/JobSubmission.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/Waiting.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+using test_support::waitUntil;
 
 /// A real server with a queue "tape", and what it takes to print to it.
 class PrintingTest : public testing::Test {
@@ -24,7 +27,7 @@ protected:
 
     void SetUp() override
     {
-        server.address = cupsd.address();
+        server = serverAt(cupsd.address());
         cupsd.addQueue(QStringLiteral("tape"), ppd.ppd());
         QFile file(folder.filePath(QStringLiteral("tape.ppd")));
         ASSERT_TRUE(ppd.writeTo(file.fileName()));
@@ -63,7 +66,7 @@ protected:
         QObject::connect(&submission, &host::JobSubmission::progressed, &context,
                          [&](const host::UploadProgress &now) { outcome.progress.push_back(now); });
         submission.submit(job);
-        EXPECT_TRUE(waitFor([&] { return outcome.jobId || outcome.error; }));
+        EXPECT_TRUE(waitUntil([&] { return outcome.jobId || outcome.error; }));
         return outcome;
     }
     Outcome print(const host::JobTicket &job) const { return print(job, server); }

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FaultyServer.h"
-#include "Waiting.h"
-
+#include "Servers.h"
 #include <host/cups/DestinationList.h>
 #include <host/cups/QueueCache.h>
 #include <host/cups/QueueMonitor.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
-#include <tests/support/StallWatch.h>
+#include <tests/support/Waiting.h>
 
 #include <QDir>
 #include <QFile>
-#include <QTcpServer>
 
 #include <gtest/gtest.h>
 
@@ -22,7 +20,8 @@ using host::DestinationList;
 using host::QueueState;
 using test_support::PpdBuilder;
 using test_support::PrivateCupsd;
-using test_support::StallWatch;
+using test_support::turnEventLoop;
+using test_support::waitUntil;
 
 namespace {
 
@@ -48,7 +47,7 @@ Outcome refresh(DestinationList &list)
     QObject::connect(&list, &DestinationList::failed, &context,
                      [&](const host::CupsError &error) { outcome.error = error; });
     list.refresh();
-    EXPECT_TRUE(waitFor([&] { return outcome.refreshed || outcome.error; }));
+    EXPECT_TRUE(waitUntil([&] { return outcome.refreshed || outcome.error; }));
     return outcome;
 }
 
@@ -70,7 +69,7 @@ protected:
 
     void SetUp() override
     {
-        server.address = cupsd->address();
+        server = serverAt(cupsd->address());
         forget();
     }
     void TearDown() override { forget(); }
@@ -203,21 +202,17 @@ TEST_F(DestinationListTest, ShowsWhatWasKnownLastTimeUntilTheServerAnswers)
 
 TEST_F(DestinationListTest, AServerThatIsNotThereOrSilentIsToldInWords)
 {
-    QTcpServer reserved;
-    ASSERT_TRUE(reserved.listen(QHostAddress::LocalHost));
-    const QString refusing = QStringLiteral("127.0.0.1:%1").arg(reserved.serverPort());
-    reserved.close();
+    const test_support::ReservedPort refusing;
     const FaultyServer silent(0, {.silent = true});
 
-    const std::tuple<QString, CupsFailure, const char *> rows[] = {
-        {refusing, CupsFailure::Unreachable, "Cannot connect to the print server"},
-        {silent.address(), CupsFailure::Silent, "does not answer"},
-        {QStringLiteral("/nonexistent/cups.sock"), CupsFailure::Unreachable, "/nonexistent/cups.sock"},
+    const std::tuple<CupsServer, CupsFailure, const char *> rows[] = {
+        {serverAt(refusing.address()), CupsFailure::Unreachable, "Cannot connect to the print server"},
+        {silentServerAt(silent.address()), CupsFailure::Silent, "does not answer"},
+        {serverAt(QStringLiteral("/nonexistent/cups.sock")), CupsFailure::Unreachable,
+         "/nonexistent/cups.sock"},
     };
-    for (const auto &[address, kind, words] : rows) {
-        CupsServer other = server;
-        other.address = address;
-        other.patience = std::chrono::milliseconds(500);
+    for (const auto &[other, kind, words] : rows) {
+        const QString address = *other.address;
         DestinationList list(other);
         const Outcome outcome = refresh(list);
         ASSERT_TRUE(outcome.error) << qPrintable(address);
@@ -232,28 +227,27 @@ TEST_F(DestinationListTest, NothingWaitsForASilentServer)
 {
     const FaultyServer silent(0, {.silent = true});
     server.address = silent.address();
-    const StallWatch watch;
-    {
-        DestinationList list(server);
-        list.refresh();
-        host::QueueMonitor monitor(server, QStringLiteral("narrow"), std::nullopt);
-        EXPECT_TRUE(waitFor([&] { return silent.connectionCount() >= 2; }));
-    }
-    EXPECT_NO_STALL(watch);
+    // A constructor, a refresh or a destructor that waited for the answer would never return.
+    DestinationList list(server);
+    list.refresh();
+    host::QueueMonitor monitor(server, QStringLiteral("narrow"), std::nullopt);
+    EXPECT_TRUE(waitUntil([&] { return silent.connectionCount() >= 2; }));
 }
 
 TEST_F(DestinationListTest, ASlowServerTakesItsTimeAndNoMore)
 {
-    const FaultyServer slow(cupsd->port(), {.delay = 500});
+    FaultyServer slow(cupsd->port(), {.holds = true});
     server.address = slow.address();
     DestinationList list(server);
     bool refreshed = false;
     QObject::connect(&list, &DestinationList::refreshed, [&] { refreshed = true; });
-    const StallWatch watch;
     list.refresh();
-    EXPECT_TRUE(waitFor([&] { return refreshed; }));
+    EXPECT_TRUE(waitUntil([&] { return slow.heldCount() == 1; }));
+    turnEventLoop();
+    EXPECT_FALSE(refreshed);
+    slow.release();
+    EXPECT_TRUE(waitUntil([&] { return refreshed; }));
     EXPECT_EQ(list.destinations().size(), 4U);
-    EXPECT_NO_STALL(watch);
     // One question: a dialog on a slow line cannot afford more.
     EXPECT_EQ(slow.requestCount(), 1);
 }
@@ -298,9 +292,9 @@ TEST_F(DestinationListTest, TheConnectionIsEncryptedWhenAskedFor)
 
     // In clear rather than not at all would be no encryption.
     const FaultyServer silent(0, {.silent = true});
-    server.address = silent.address();
-    server.patience = std::chrono::milliseconds(300);
-    DestinationList other(server);
+    CupsServer silentServer = silentServerAt(silent.address());
+    silentServer.encryption = host::Encryption::Required;
+    DestinationList other(silentServer);
     EXPECT_EQ(refresh(other).error->kind, CupsFailure::Silent);
 }
 
@@ -328,15 +322,15 @@ TEST_F(DestinationListTest, TheChosenQueueIsWatched)
     QObject::connect(&monitor, &host::QueueMonitor::changed, [&](const Destination &now) { last = now; });
     QObject::connect(&monitor, &host::QueueMonitor::failed, [&](const host::CupsError &now) { error = now; });
 
-    EXPECT_TRUE(waitFor([&] { return last && last->state == QueueState::Ready; }));
+    EXPECT_TRUE(waitUntil([&] { return last && last->state == QueueState::Ready; }));
     EXPECT_EQ(last->name(), QStringLiteral("watched/draft"));
     cupsd->pause(QStringLiteral("watched"), QStringLiteral("Roll is being changed"));
-    EXPECT_TRUE(waitFor([&] { return last->state == QueueState::Paused; }));
+    EXPECT_TRUE(waitUntil([&] { return last->state == QueueState::Paused; }));
     EXPECT_EQ(last->stateMessage, QStringLiteral("Roll is being changed"));
     cupsd->resume(QStringLiteral("watched"));
-    EXPECT_TRUE(waitFor([&] { return last->state == QueueState::Ready; }));
+    EXPECT_TRUE(waitUntil([&] { return last->state == QueueState::Ready; }));
     EXPECT_FALSE(error);
     cupsd->removeQueue(QStringLiteral("watched"));
-    EXPECT_TRUE(waitFor([&] { return error.has_value(); }));
+    EXPECT_TRUE(waitUntil([&] { return error.has_value(); }));
     EXPECT_EQ(error->kind, CupsFailure::NotFound) << qPrintable(error->message);
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Printers of the network, for which a server makes a queue when they are used. The printer is a queue that
 // another real cupsd shares by IPP; how printers announce themselves is left to libcups.
-#include "Waiting.h"
+#include "FaultyServer.h"
+#include "Servers.h"
 
 #include <host/cups/DestinationQuery.h>
 #include <host/cups/DiscoveredQueue.h>
@@ -11,6 +12,7 @@
 #include <host/cups/QueueSession.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/Waiting.h>
 
 #include <QDir>
 #include <QFile>
@@ -23,6 +25,8 @@ using host::Destination;
 using host::Result;
 using test_support::PpdBuilder;
 using test_support::PrivateCupsd;
+using test_support::turnEventLoop;
+using test_support::waitUntil;
 
 namespace {
 
@@ -49,8 +53,7 @@ protected:
 
     void SetUp() override
     {
-        server.address = cupsd->address();
-        server.patience = std::chrono::seconds(5);
+        server = serverAt(cupsd->address());
         QDir(host::QueueCache(server).folder()).removeRecursively();
         found.queue = QStringLiteral("found");
         found.description = QStringLiteral("Labels in the shop");
@@ -72,10 +75,10 @@ protected:
         EXPECT_TRUE(connection);
         return work(connection.value(), task);
     }
-    std::optional<CupsError> ensure() const
+    std::optional<CupsError> ensure(std::chrono::milliseconds time = test_support::failureTimeout) const
     {
-        return connected([this](host::CupsConnection &connection, host::BackgroundTask &task) {
-            return host::ensureQueue(connection, found, task);
+        return connected([&](host::CupsConnection &connection, host::BackgroundTask &task) {
+            return host::ensureQueue(connection, found, task, time);
         });
     }
     Result<Destination, CupsError> query(const QString &queue) const
@@ -83,6 +86,13 @@ protected:
         return connected([&](host::CupsConnection &connection, host::BackgroundTask &) {
             return host::queryDestination(connection, queue, std::nullopt);
         });
+    }
+    /// How many queues the server has made for printers of the network.
+    static qsizetype createdQueues()
+    {
+        QFile log(cupsd->path(QStringLiteral("log/error")));
+        EXPECT_TRUE(log.open(QIODevice::ReadOnly));
+        return log.readAll().count("successful-ok: Local printer created");
     }
     bool serverHas(const QString &queue) const { return static_cast<bool>(query(queue)); }
 
@@ -96,6 +106,7 @@ protected:
 
 TEST_F(DiscoveredQueueTest, IsMadeOnceAndIsReadyThen)
 {
+    const qsizetype before = createdQueues();
     for (int use = 0; use < 3; ++use) {
         const std::optional<CupsError> error = ensure();
         ASSERT_FALSE(error) << qPrintable(error->message);
@@ -106,9 +117,7 @@ TEST_F(DiscoveredQueueTest, IsMadeOnceAndIsReadyThen)
         EXPECT_TRUE(now.value().isDiscovered) << "it will be dropped, and has to be made again then";
         EXPECT_EQ(now.value().description, found.description);
     }
-    QFile log(cupsd->path(QStringLiteral("log/error")));
-    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-    EXPECT_EQ(log.readAll().count("successful-ok: Local printer created"), 1);
+    EXPECT_EQ(createdQueues(), before + 1);
 }
 
 TEST_F(DiscoveredQueueTest, NothingIsMadeForQueuesOfTheServer)
@@ -128,7 +137,7 @@ TEST_F(DiscoveredQueueTest, ThePpdComesWithTheFirstQuestion)
     QObject::connect(&loader, &host::PpdLoader::failed,
                      [&](const QString &, const CupsError &error) { failure = error.message; });
     loader.load(found);
-    ASSERT_TRUE(waitFor([&] { return ppd || !failure.isEmpty(); }));
+    ASSERT_TRUE(waitUntil([&] { return ppd || !failure.isEmpty(); }));
     ASSERT_TRUE(ppd) << qPrintable(failure);
     EXPECT_FALSE(ppd->papers().empty());
 }
@@ -148,7 +157,7 @@ TEST_F(DiscoveredQueueTest, AJobIsTakenThoughTheQueueWasDropped)
     QObject::connect(&submission, &host::JobSubmission::failed,
                      [&](const CupsError &error) { failure = error.message; });
     submission.submit(ticket);
-    EXPECT_TRUE(waitFor([&] { return jobId || !failure.isEmpty(); }));
+    EXPECT_TRUE(waitUntil([&] { return jobId || !failure.isEmpty(); }));
     ASSERT_TRUE(jobId) << qPrintable(failure);
     // All the way to the printer.
     EXPECT_FALSE(printer->waitForDocuments(1).front().content.isEmpty());
@@ -156,7 +165,6 @@ TEST_F(DiscoveredQueueTest, AJobIsTakenThoughTheQueueWasDropped)
 
 TEST_F(DiscoveredQueueTest, APrinterThatIsGoneIsTold)
 {
-    server.patience = std::chrono::milliseconds(700);
     const struct {
         const char *address;
         const char *words;
@@ -168,7 +176,7 @@ TEST_F(DiscoveredQueueTest, APrinterThatIsGoneIsTold)
     };
     for (const auto &row : rows) {
         found.deviceUri = QLatin1String(row.address);
-        const std::optional<CupsError> error = ensure();
+        const std::optional<CupsError> error = ensure(std::chrono::milliseconds(700));
         ASSERT_TRUE(error);
         EXPECT_EQ(error->kind, CupsFailure::NotFound);
         EXPECT_TRUE(error->message.contains(QLatin1String(row.words))) << qPrintable(error->message);
@@ -180,16 +188,21 @@ TEST_F(DiscoveredQueueTest, APrinterThatIsGoneIsTold)
 TEST_F(DiscoveredQueueTest, AQueueThatTheServerDropsIsNotMissed)
 {
     ASSERT_FALSE(ensure());
-    host::QueueSession session(server, found.queue);
+    const FaultyServer counting(cupsd->port(), {});
+    host::QueueSession session(serverAt(counting.address()), found.queue);
     QStringList failures;
     QObject::connect(&session, &host::QueueSession::failed,
                      [&](const CupsError &error) { failures.append(error.message); });
     session.start(host::Discovery::No);
     ASSERT_TRUE(
-        waitFor([&] { return session.chosen() && session.ppdKnowledge() == host::PpdKnowledge::Current; }));
+        waitUntil([&] { return session.chosen() && session.ppdKnowledge() == host::PpdKnowledge::Current; }));
     cupsd->removeQueue(found.queue);
-    // Longer than until the server is asked again how its queue is.
-    QTest::qWait(3500);
+    // The first question from now on may have been answered before; when the third one comes, what the
+    // second one found has been delivered.
+    const int before = counting.requestCount(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    EXPECT_TRUE(
+        waitUntil([&] { return counting.requestCount(IPP_OP_GET_PRINTER_ATTRIBUTES) >= before + 2; }));
+    turnEventLoop();
     EXPECT_EQ(failures, QStringList());
     EXPECT_EQ(session.chosen()->queue, found.queue);
 }

@@ -20,12 +20,7 @@ protected:
         return job;
     }
 
-    CupsServer at(const FaultyServer &faulty) const
-    {
-        CupsServer other = server;
-        other.address = faulty.address();
-        return other;
-    }
+    static CupsServer at(const FaultyServer &faulty) { return serverAt(faulty.address()); }
 };
 
 /// IPP 2.0, successful-ok, request 1, no attributes.

@@ -108,7 +108,7 @@ TEST_F(JobChangeTest, HoldsReleasesAndRestarts)
     EXPECT_EQ(state(jobId), JobState::Held);
     EXPECT_FALSE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("resume")}}));
     cupsd.waitForDocuments(1);
-    EXPECT_TRUE(waitFor([&] { return state(jobId) == JobState::Completed; }));
+    EXPECT_TRUE(waitUntil([&] { return state(jobId) == JobState::Completed; }));
 
     EXPECT_FALSE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("restart")}}));
     EXPECT_EQ(cupsd.waitForDocuments(2)[1].job, jobId);
@@ -119,7 +119,7 @@ TEST_F(JobChangeTest, ARestartedJobIsChangedBeforeItPrints)
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
     cupsd.waitForDocuments(1);
-    EXPECT_TRUE(waitFor([&] { return state(*outcome.jobId) == JobState::Completed; }));
+    EXPECT_TRUE(waitUntil([&] { return state(*outcome.jobId) == JobState::Completed; }));
     const auto error = change({.jobId = *outcome.jobId,
                                .options = {{"KvHalfCut", "ON"}},
                                .settings = {.copies = 3, .hold = QStringLiteral("restart")}});
@@ -163,7 +163,7 @@ TEST_F(JobChangeTest, SaysWhichJobAndWhyNot)
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
     cupsd.waitForDocuments(1);
-    EXPECT_TRUE(waitFor([&] { return state(*outcome.jobId) == JobState::Completed; }));
+    EXPECT_TRUE(waitUntil([&] { return state(*outcome.jobId) == JobState::Completed; }));
     const auto over = change({.jobId = *outcome.jobId, .settings = {.priority = 1}});
     ASSERT_TRUE(over);
     EXPECT_EQ(over->kind, CupsFailure::Refused);

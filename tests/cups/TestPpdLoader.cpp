@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FaultyServer.h"
-#include "Waiting.h"
-
+#include "Servers.h"
 #include <host/cups/PpdLoader.h>
 #include <host/cups/QueueCache.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/Waiting.h>
 
 #include <QDir>
 #include <QFile>
@@ -20,6 +20,7 @@ using host::PpdFile;
 using host::PpdLoader;
 using test_support::PpdBuilder;
 using test_support::PrivateCupsd;
+using test_support::waitUntil;
 
 namespace {
 
@@ -42,7 +43,7 @@ protected:
 
     void SetUp() override
     {
-        server.address = cupsd->address();
+        server = serverAt(cupsd->address());
         QDir(host::QueueCache(server).folder()).removeRecursively();
         cupsd->addQueue(tape, PpdBuilder().allOptions().ppd());
     }
@@ -64,7 +65,7 @@ protected:
         Destination destination;
         destination.queue = queue;
         loader.load(destination);
-        EXPECT_TRUE(waitFor([&] { return outcome.isThere(); }));
+        EXPECT_TRUE(waitUntil([&] { return outcome.isThere(); }));
         return outcome;
     }
 
@@ -118,11 +119,9 @@ TEST_F(PpdLoaderTest, QueuesWithoutPpdAndQueuesThatAreGoneHaveNone)
 TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
 {
     ASSERT_TRUE(load(tape).ppd);
-    CupsServer impatient = server;
-    impatient.patience = std::chrono::milliseconds(200);
     // The cache is kept under the server's name, whatever has become of the server.
     cupsd->kill();
-    const Outcome outcome = load(tape, impatient);
+    const Outcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << qPrintable(outcome.error->message);
     EXPECT_TRUE(PpdLoader(server).cached(tape));
@@ -133,8 +132,7 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
 {
     ASSERT_TRUE(load(tape).ppd);
     const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
-    CupsServer through;
-    through.address = breaking.address();
+    const CupsServer through = serverAt(breaking.address());
     const host::QueueCache cache(through);
     cache.storePpd(tape, PpdBuilder().allOptions().ppd(), 1);
     const Outcome outcome = load(tape, through);
@@ -148,9 +146,7 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
 TEST_F(PpdLoaderTest, APpdMayComeInPieces)
 {
     const FaultyServer halting(cupsd->port(), {.gap = 300});
-    CupsServer through;
-    through.address = halting.address();
-    const Outcome outcome = load(tape, through);
+    const Outcome outcome = load(tape, serverAt(halting.address()));
     EXPECT_TRUE(outcome.ppd) << qPrintable(outcome.error->message);
 }
 
@@ -185,8 +181,7 @@ TEST_F(PpdLoaderTest, APpdLargerThanAnyPrintersIsRefusedWithoutFillingTheDisk)
 TEST_F(PpdLoaderTest, APpdBehindAPasswordIsFetched)
 {
     const FaultyServer guarded(cupsd->port(), {.credentials = "anna:secret"});
-    CupsServer other;
-    other.address = guarded.address();
+    CupsServer other = serverAt(guarded.address());
     other.askPassword = [](const host::PasswordRequest &request) {
         request.answer(QStringLiteral("anna"), QStringLiteral("secret"));
     };

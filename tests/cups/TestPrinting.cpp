@@ -100,13 +100,13 @@ TEST_F(PrintingTest, HeldJobsWaitAndClassesPassOn)
     std::vector<JobStatus> statuses;
     QObject::connect(&monitor, &host::JobMonitor::changed,
                      [&](const JobStatus &status) { statuses.push_back(status); });
-    EXPECT_TRUE(waitFor([&] { return !statuses.empty(); }));
+    EXPECT_TRUE(waitUntil([&] { return !statuses.empty(); }));
     EXPECT_EQ(statuses.front().state, JobState::Held);
     EXPECT_EQ(statuses.front().sentences().first(), QStringLiteral("Held until it is released."));
     EXPECT_TRUE(cupsd.documents().empty());
     cupsd.run(QStringLiteral("lp"), {QStringLiteral("-i"), QString::number(*outcome.jobId),
                                      QStringLiteral("-H"), QStringLiteral("resume")});
-    EXPECT_TRUE(waitFor([&] { return statuses.back().isOver(); }));
+    EXPECT_TRUE(waitUntil([&] { return statuses.back().isOver(); }));
     EXPECT_EQ(statuses.back().state, JobState::Completed);
     EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, *outcome.jobId);
 }
@@ -117,11 +117,11 @@ TEST_F(PrintingTest, AJobIsFollowedThroughAnEmptyRollToItsEnd)
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
     const Followed job(server, *outcome.jobId);
-    EXPECT_TRUE(waitFor(
+    EXPECT_TRUE(waitUntil(
         [&] { return job.last.sentences().contains(QStringLiteral("The label roll or tape is empty.")); }));
     EXPECT_EQ(job.last.state, JobState::Printing);
     cupsd.setMediaEmpty(false);
-    EXPECT_TRUE(waitFor([&] { return job.last.isOver(); }));
+    EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
     EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Printed.")});
 }
 
@@ -163,14 +163,14 @@ TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
     ASSERT_TRUE(outcome.jobId);
     EXPECT_EQ(cupsd.waitForDocuments(1).size(), 1U);
     // Only now is it followed: before, a quick look may still find the job that has just been printed.
-    EXPECT_TRUE(waitFor([&] {
+    EXPECT_TRUE(waitUntil([&] {
         host::BackgroundTask task;
         auto connection = host::CupsConnection::open(server, task);
         const auto job = queryJob(connection.value(), QStringLiteral("tape"), *outcome.jobId);
         return !job && job.error().kind == CupsFailure::NotFound;
     }));
     const Followed job(server, *outcome.jobId);
-    EXPECT_TRUE(waitFor([&] { return job.last.isOver(); }));
+    EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
     EXPECT_EQ(job.last.state, JobState::Completed);
     EXPECT_EQ(job.last.sentences(),
               QStringList{QStringLiteral("The job is over; the print server keeps no record of it.")});
@@ -186,9 +186,9 @@ TEST_F(PrintingTest, AJobThatIsTakenBackIsCancelledWhateverTheServerKeeps)
         const Outcome outcome = print(ticket());
         ASSERT_TRUE(outcome.jobId);
         Followed job(server, *outcome.jobId);
-        EXPECT_TRUE(waitFor([&] { return job.last.jobId != 0; }));
+        EXPECT_TRUE(waitUntil([&] { return job.last.jobId != 0; }));
         job.monitor.cancelJob();
-        EXPECT_TRUE(waitFor([&] { return job.last.isOver(); }));
+        EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
         EXPECT_EQ(job.last.state, JobState::Cancelled);
         EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Cancelled.")});
         EXPECT_EQ(job.problems, QStringList());
@@ -274,7 +274,7 @@ TEST_F(PrintingTest, TheLpLineMakesTheSameJob)
         ASSERT_TRUE(command.differences.isEmpty());
         QProcess shell;
         shell.start(QStringLiteral("sh"), {QStringLiteral("-c"), command.line});
-        ASSERT_TRUE(shell.waitForFinished());
+        ASSERT_TRUE(shell.waitForFinished(test_support::failureMilliseconds));
         const QByteArray answer = shell.readAllStandardOutput();
         ASSERT_TRUE(answer.startsWith("request id is tape-")) << answer.toStdString();
         const int theirs = answer.mid(19).split(' ').first().toInt();

@@ -1,33 +1,51 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FaultyServer.h"
+#include "ManualClock.h"
 #include "PrintingTest.h"
 
 #include <host/cups/JobMonitor.h>
-#include <tests/support/StallWatch.h>
 
+#include <cups/ipp.h>
 #include <sys/stat.h>
 
 using host::CupsFailure;
 using host::CupsServer;
 using host::JobSubmission;
 using host::JobTicket;
-using test_support::StallWatch;
+using test_support::turnEventLoop;
 
 namespace {
 
-/// A server that gives up soon, so that the tests are quick.
-CupsServer impatient(const QString &address)
-{
-    CupsServer server;
-    server.address = address;
-    server.patience = std::chrono::milliseconds(700);
-    return server;
-}
+/// A job on its way, and what becomes of it.
+struct Sending {
+    Sending(const CupsServer &server, const JobTicket &job)
+        : submission(server)
+    {
+        QObject::connect(&submission, &JobSubmission::failed,
+                         [this](const host::CupsError &now) { error = now; });
+        QObject::connect(&submission, &JobSubmission::submitted, [this](int id) { jobId = id; });
+        submission.submit(job);
+    }
+    bool isOver() const { return error || jobId; }
+
+    std::optional<host::CupsError> error;
+    std::optional<int> jobId;
+    JobSubmission submission;
+};
 
 } // namespace
 
 /// The faults of servers and documents: an error in words, and nothing printed twice.
-class PrintingFaultsTest : public PrintingTest {};
+class PrintingFaultsTest : public PrintingTest {
+protected:
+    /// More than the systems of both sides take while the server reads nothing.
+    JobTicket largeTicket() const
+    {
+        JobTicket job = ticket();
+        job.documents = {{document(QStringLiteral("large.txt"), QByteArray(30'000'000, 'b'))}};
+        return job;
+    }
+};
 
 TEST_F(PrintingFaultsTest, DocumentsThatCannotBeReadLeaveNoJob)
 {
@@ -65,27 +83,23 @@ TEST_F(PrintingFaultsTest, AFileThatIsAnotherThanWasShownIsNotPrinted)
 
 TEST_F(PrintingFaultsTest, AFileThatChangesWhileItIsSentIsTakenBack)
 {
-    JobTicket job = ticket();
-    const QString path = document(QStringLiteral("large.txt"), QByteArray(30000000, 'a'));
-    job.documents = {{path}};
-    JobSubmission submission(server);
-    std::optional<host::CupsError> error;
-    std::optional<int> jobId;
-    QObject::connect(&submission, &JobSubmission::failed, [&](const host::CupsError &now) { error = now; });
-    QObject::connect(&submission, &JobSubmission::submitted, [&](int id) { jobId = id; });
-    bool isRewritten = false;
-    QObject::connect(&submission, &JobSubmission::progressed, [&] {
-        QFile file(path);
-        // As long as before, and the same file.
-        if (!std::exchange(isRewritten, true) && file.open(QIODevice::ReadWrite))
-            file.write("b");
-    });
-    submission.submit(job);
-    EXPECT_TRUE(waitFor([&] { return error || jobId; }));
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->kind, CupsFailure::BadDocument) << qPrintable(error->message);
-    EXPECT_TRUE(error->message.contains(QStringLiteral("changed while it was read")))
-        << qPrintable(error->message);
+    const JobTicket job = largeTicket();
+    const QString path = job.documents[0].path;
+    // Goes on only when the file has changed.
+    FaultyServer stalling(cupsd.port(), {.stallAfter = 500'000});
+    Sending sending(serverAt(stalling.address()), job);
+    ASSERT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
+    QFile file(path);
+    // As long as before, and the same file.
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write("a");
+    file.close();
+    stalling.release();
+    EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
+    ASSERT_TRUE(sending.error);
+    EXPECT_EQ(sending.error->kind, CupsFailure::BadDocument) << qPrintable(sending.error->message);
+    EXPECT_TRUE(sending.error->message.contains(QStringLiteral("changed while it was read")))
+        << qPrintable(sending.error->message);
     expectNothingWaits();
 }
 
@@ -110,7 +124,7 @@ TEST_F(PrintingFaultsTest, TheServersRefusalIsToldInItsWords)
 TEST_F(PrintingFaultsTest, AServerThatIsAbsentOrSilentIsGivenUp)
 {
     const FaultyServer silent(0, {.silent = true});
-    EXPECT_EQ(print(ticket(), impatient(silent.address())).error->kind, CupsFailure::Silent);
+    EXPECT_EQ(print(ticket(), silentServerAt(silent.address())).error->kind, CupsFailure::Silent);
     const JobTicket job = ticket();
     cupsd.kill();
     EXPECT_EQ(print(job).error->kind, CupsFailure::Unreachable);
@@ -122,10 +136,15 @@ TEST_F(PrintingFaultsTest, AServerThatIsAbsentOrSilentIsGivenUp)
 
 TEST_F(PrintingFaultsTest, ASlowServerPrintsOnce)
 {
-    const FaultyServer slow(cupsd.port(), {.delay = 500});
-    const Outcome outcome = print(ticket(), impatient(slow.address()));
-    ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
-    EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, *outcome.jobId);
+    FaultyServer slow(cupsd.port(), {.holds = true});
+    Sending sending(serverAt(slow.address()), ticket());
+    EXPECT_TRUE(waitUntil([&] { return slow.heldCount() == 1; }));
+    turnEventLoop();
+    EXPECT_TRUE(sending.submission.isBusy());
+    slow.release();
+    EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
+    ASSERT_TRUE(sending.jobId) << qPrintable(sending.error->message);
+    EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, *sending.jobId);
     // The job and its document, nothing more.
     EXPECT_EQ(slow.requestCount(), 2);
 }
@@ -133,31 +152,51 @@ TEST_F(PrintingFaultsTest, ASlowServerPrintsOnce)
 TEST_F(PrintingFaultsTest, AnswersThatComeInPiecesAreWholeAnswers)
 {
     const FaultyServer halting(cupsd.port(), {.gap = 300});
-    const Outcome outcome = print(ticket(), impatient(halting.address()));
+    const Outcome outcome = print(ticket(), serverAt(halting.address()));
     ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
     EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, *outcome.jobId);
     EXPECT_EQ(halting.requestCount(), 2);
 
-    const FaultyServer tooHalting(cupsd.port(), {.gap = 1500});
-    const Outcome none = print(ticket(), impatient(tooHalting.address()));
+    const FaultyServer headersOnly(cupsd.port(), {.holdsContent = true});
+    const Outcome none = print(ticket(), silentServerAt(headersOnly.address()));
     ASSERT_TRUE(none.error);
     EXPECT_EQ(none.error->kind, CupsFailure::Silent) << qPrintable(none.error->message);
 }
 
 TEST_F(PrintingFaultsTest, ASlowLinkIsWaitedForAsLongAsItTakesSomething)
 {
-    // Our system takes all of it at once; the link carries it for much longer than the patience lasts.
+    // Our system takes all of it at once; the link carries it for much longer than the server may be silent.
     JobTicket job = ticket();
-    job.documents = {{document(QStringLiteral("large.txt"), QByteArray(1500000, 'b'))}};
-    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 500000});
-    const Outcome outcome = print(job, impatient(slow.address()));
-    ASSERT_TRUE(outcome.jobId) << qPrintable(outcome.error->message);
-    EXPECT_EQ(cupsd.waitForDocuments(1)[0].content.size(), 1500000);
+    job.documents = {{document(QStringLiteral("large.txt"), QByteArray(1'500'000, 'b'))}};
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 500'000});
+    ManualClock clock;
+    const CupsServer link = clock.on(serverAt(slow.address()));
+    Sending sending(link, job);
+    qint64 taken = 0;
+    for (int steps = 0; !sending.isOver(); ++steps) {
+        // A server that takes something within this time is not silent.
+        clock.advance(link.patience / 4);
+        taken += 100'000;
+        EXPECT_TRUE(waitUntil([&] { return sending.isOver() || slow.takenBytes() > taken; }));
+        EXPECT_TRUE(clock.waitForLooks([&] { return sending.isOver(); }));
+    }
+    ASSERT_TRUE(sending.jobId) << qPrintable(sending.error->message);
+    EXPECT_GT(clock.sinceStart(), 2 * link.patience);
+    EXPECT_EQ(cupsd.waitForDocuments(1)[0].content.size(), 1'500'000);
+}
 
-    const FaultyServer stalling(cupsd.port(), {.bytesPerSecond = 500000, .stallAfter = 500000});
-    const Outcome none = print(job, impatient(stalling.address()));
-    ASSERT_TRUE(none.error);
-    EXPECT_EQ(none.error->kind, CupsFailure::Silent) << qPrintable(none.error->message);
+TEST_F(PrintingFaultsTest, ALinkThatTakesNothingMoreIsFoundSilent)
+{
+    const FaultyServer stalling(cupsd.port(), {.stallAfter = 500'000});
+    ManualClock clock;
+    Sending sending(clock.on(serverAt(stalling.address())), largeTicket());
+    ASSERT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
+    while (!sending.isOver()) {
+        clock.advance(std::chrono::hours(2));
+        EXPECT_TRUE(clock.waitForLooks([&] { return sending.isOver(); }));
+    }
+    ASSERT_TRUE(sending.error);
+    EXPECT_EQ(sending.error->kind, CupsFailure::Silent) << qPrintable(sending.error->message);
     EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");
 }
 
@@ -167,7 +206,7 @@ TEST_F(PrintingFaultsTest, AJobWhoseDocumentBreaksOffIsTakenBack)
     job.documents = {{document(QStringLiteral("first.txt"), QByteArray(1000, 'a'))},
                      {document(QStringLiteral("large.txt"), QByteArray(2000000, 'b'))}};
     const FaultyServer breaking(cupsd.port(), {.breakAfter = 500000});
-    const Outcome outcome = print(job, impatient(breaking.address()));
+    const Outcome outcome = print(job, serverAt(breaking.address()));
     ASSERT_TRUE(outcome.error);
     EXPECT_FALSE(outcome.error->message.contains(QStringLiteral("could not be taken back")))
         << qPrintable(outcome.error->message);
@@ -178,21 +217,14 @@ TEST_F(PrintingFaultsTest, AJobWhoseDocumentBreaksOffIsTakenBack)
 
 TEST_F(PrintingFaultsTest, AServerThatDiesWhileItIsSentADocumentIsToldWithTheJobThatMayBeLeft)
 {
-    JobTicket job = ticket();
-    job.documents = {{document(QStringLiteral("large.txt"), QByteArray(30000000, 'b'))}};
-    JobSubmission submission(impatient(cupsd.address()));
-    std::optional<host::CupsError> error;
-    QObject::connect(&submission, &JobSubmission::failed, [&](const host::CupsError &now) { error = now; });
-    bool killed = false;
-    QObject::connect(&submission, &JobSubmission::progressed, [&](const host::UploadProgress &progress) {
-        if (progress.sent > 0 && !std::exchange(killed, true))
-            cupsd.kill();
-    });
-    submission.submit(job);
-    EXPECT_TRUE(waitFor([&] { return error.has_value(); }));
-    EXPECT_TRUE(killed);
-    EXPECT_TRUE(error->message.contains(QStringLiteral("Job tape-1 could not be taken back")))
-        << qPrintable(error->message);
+    const FaultyServer stalling(cupsd.port(), {.stallAfter = 500'000});
+    Sending sending(serverAt(stalling.address()), largeTicket());
+    ASSERT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
+    cupsd.kill();
+    EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
+    ASSERT_TRUE(sending.error);
+    EXPECT_TRUE(sending.error->message.contains(QStringLiteral("Job tape-1 could not be taken back")))
+        << qPrintable(sending.error->message);
     // The server is back: the broken job has no document and prints nothing.
     cupsd.restart();
     const Outcome again = print(ticket());
@@ -205,55 +237,47 @@ TEST_F(PrintingFaultsTest, AJobThatTheServerHasIsPrintedOnceThoughTheServerDies)
     cupsd.pause(QStringLiteral("tape"));
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
-    host::JobMonitor monitor(impatient(cupsd.address()), QStringLiteral("tape"), *outcome.jobId,
-                             std::chrono::milliseconds(10));
+    host::JobMonitor monitor(server, QStringLiteral("tape"), *outcome.jobId, std::chrono::milliseconds(10));
     host::JobStatus last;
     std::optional<host::CupsError> error;
     QObject::connect(&monitor, &host::JobMonitor::changed, [&](const host::JobStatus &now) { last = now; });
     QObject::connect(&monitor, &host::JobMonitor::failed, [&](const host::CupsError &now) { error = now; });
-    EXPECT_TRUE(waitFor([&] { return last.jobId != 0; }));
+    EXPECT_TRUE(waitUntil([&] { return last.jobId != 0; }));
     cupsd.kill();
-    EXPECT_TRUE(waitFor([&] { return error.has_value(); }));
+    EXPECT_TRUE(waitUntil([&] { return error.has_value(); }));
     EXPECT_EQ(error->kind, CupsFailure::Unreachable);
     cupsd.restart();
     cupsd.resume(QStringLiteral("tape"));
-    EXPECT_TRUE(waitFor([&] { return last.isOver(); }));
+    EXPECT_TRUE(waitUntil([&] { return last.isOver(); }));
     EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, *outcome.jobId);
 }
 
 TEST_F(PrintingFaultsTest, CancellingTakesTheJobBack)
 {
-    JobTicket job = ticket();
-    job.documents = {{document(QStringLiteral("large.txt"), QByteArray(30000000, 'b'))}};
-    JobSubmission submission(server);
-    std::optional<host::CupsError> error;
-    std::optional<int> jobId;
-    QObject::connect(&submission, &JobSubmission::failed, [&](const host::CupsError &now) { error = now; });
-    QObject::connect(&submission, &JobSubmission::submitted, [&](int id) { jobId = id; });
-    QObject::connect(&submission, &JobSubmission::progressed, [&] { submission.cancel(); });
-    submission.submit(job);
-    EXPECT_TRUE(submission.isBusy());
-    EXPECT_TRUE(waitFor([&] { return error || jobId; }));
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->kind, CupsFailure::Cancelled) << qPrintable(error->message);
-    EXPECT_FALSE(submission.isBusy());
+    const FaultyServer stalling(cupsd.port(), {.stallAfter = 500'000});
+    Sending sending(serverAt(stalling.address()), largeTicket());
+    ASSERT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
+    EXPECT_TRUE(sending.submission.isBusy());
+    sending.submission.cancel();
+    EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
+    ASSERT_TRUE(sending.error);
+    EXPECT_EQ(sending.error->kind, CupsFailure::Cancelled) << qPrintable(sending.error->message);
+    EXPECT_FALSE(sending.submission.isBusy());
     expectNothingWaits();
 }
 
 TEST_F(PrintingFaultsTest, ClosingTheDialogWhileSendingWaitsForNothingAndPrintsNothing)
 {
-    JobTicket job = ticket();
-    job.documents = {{document(QStringLiteral("large.txt"), QByteArray(30000000, 'b'))}};
-    const StallWatch watch;
+    FaultyServer stalling(cupsd.port(), {.stallAfter = 500'000});
     {
-        JobSubmission submission(server);
-        bool sending = false;
-        QObject::connect(&submission, &JobSubmission::progressed, [&] { sending = true; });
-        submission.submit(job);
-        EXPECT_TRUE(waitFor([&] { return sending; }));
+        const Sending sending(serverAt(stalling.address()), largeTicket());
+        EXPECT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
+        // The answer about the job that is taken back comes when the dialog is gone, and only then.
+        stalling.hold();
     }
-    EXPECT_NO_STALL(watch);
+    EXPECT_TRUE(waitUntil([&] { return stalling.requestCount(IPP_OP_CANCEL_JOB) == 1; }));
+    stalling.release();
     EXPECT_TRUE(
-        waitFor([&] { return cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}).isEmpty(); }));
+        waitUntil([&] { return cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}).isEmpty(); }));
     expectNothingWaits();
 }

@@ -276,8 +276,9 @@ TEST(CutPlan, SaysNothingAboutTheCutsOfAPrinterThatDoesNotDescribeThem)
     const std::vector<LabelExtent> extents{{60.0, 0.0, 0.0, false}};
     const CutPlan plan = CutPlan::make({.areKnown = false}, order, extents, std::nullopt);
     EXPECT_EQ(cutPlanFigures(plan), QStringLiteral("Labels: 2 \u00b7 Tape: 120 mm"));
-    EXPECT_EQ(cutPlanSentences(plan),
-              QStringList{QStringLiteral("The printer's description does not say whether it cuts the labels.")});
+    EXPECT_EQ(
+        cutPlanSentences(plan),
+        QStringList{QStringLiteral("The printer's description does not say whether it cuts the labels.")});
 }
 
 TEST(CutSettings, ReadsRecordedThenMarkedThenDefault)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kvprint.h"
 
+#include <tests/support/Waiting.h>
+
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -12,7 +14,6 @@
 
 namespace {
 
-constexpr int mostMilliseconds = 40000;
 /// The program mostly waits for the server, so a few more than there are processors.
 constexpr std::size_t atATime = 4;
 
@@ -32,7 +33,7 @@ std::unique_ptr<QProcess> begin(const QString &program, const QStringList &words
 Outcome end(QProcess &process)
 {
     Outcome outcome;
-    const bool ended = process.waitForFinished(mostMilliseconds);
+    const bool ended = process.waitForFinished(test_support::failureMilliseconds);
     EXPECT_TRUE(ended) << "the program does not end";
     if (ended && process.exitStatus() == QProcess::NormalExit)
         outcome.status = process.exitCode();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "KvprintTest.h"
 
+#include <tests/support/Waiting.h>
+
 #include <cups/cups.h>
 
 #include <QFile>
@@ -104,8 +106,9 @@ QMap<int, RecordedDocument> KvprintTest::recorded(std::size_t count) const
 QMap<int, int> KvprintTest::jobStates() const
 {
     QMap<int, int> states;
-    http_t *const http = httpConnect2("127.0.0.1", cupsd.port(), nullptr, AF_UNSPEC,
-                                      HTTP_ENCRYPTION_IF_REQUESTED, 1, 10000, nullptr);
+    http_t *const http =
+        httpConnect2("127.0.0.1", cupsd.port(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
+                     test_support::failureMilliseconds, nullptr);
     cups_job_t *jobs = nullptr;
     const int count = http ? cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL) : -1;
     // Two answers of a server that is gone would be equal, and without a job.
@@ -121,8 +124,9 @@ QMap<QByteArray, QByteArray> KvprintTest::attributes(int operation, const char *
                                                      const QByteArray &address) const
 {
     QMap<QByteArray, QByteArray> all;
-    http_t *const http = httpConnect2("127.0.0.1", cupsd.port(), nullptr, AF_UNSPEC,
-                                      HTTP_ENCRYPTION_IF_REQUESTED, 1, 10000, nullptr);
+    http_t *const http =
+        httpConnect2("127.0.0.1", cupsd.port(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
+                     test_support::failureMilliseconds, nullptr);
     ipp_t *const request = ippNewRequest(static_cast<ipp_op_t>(operation));
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, addressName, nullptr, address.constData());
     ipp_t *const answer = cupsDoRequest(http, request, "/");

@@ -2,6 +2,7 @@
 #include "KvprintTest.h"
 
 #include <FaultyServer.h>
+#include <tests/support/Waiting.h>
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -11,6 +12,8 @@
 #include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+using test_support::failureMilliseconds;
 
 namespace {
 
@@ -43,7 +46,7 @@ public:
     {
         QElapsedTimer timer;
         timer.start();
-        while (m_shown.indexOf(text, m_waitedFor) < 0 && timer.elapsed() < 20000 && readSome())
+        while (m_shown.indexOf(text, m_waitedFor) < 0 && timer.elapsed() < failureMilliseconds && readSome())
             ;
         const qsizetype found = m_shown.indexOf(text, m_waitedFor);
         EXPECT_GE(found, 0) << "not shown: " << text << "\n" << m_shown.toStdString();
@@ -72,7 +75,7 @@ private:
     bool readSome()
     {
         pollfd input = {m_terminal, POLLIN, 0};
-        m_isStuck = poll(&input, 1, 20000) <= 0;
+        m_isStuck = poll(&input, 1, failureMilliseconds) <= 0;
         if (m_isStuck)
             return false;
         char bytes[1024];

@@ -2,8 +2,11 @@
 #include "KvprintTest.h"
 
 #include <FaultyServer.h>
+#include <tests/support/Waiting.h>
 
 #include <QProcess>
+
+#include <cups/ipp.h>
 
 namespace {
 
@@ -96,17 +99,18 @@ TEST_F(KvprintFaults, AConnectionThatBreaksWhileTheDocumentIsSent)
 
 TEST_F(KvprintFaults, AServerThatEndsBeforeAndWhileAJobIsMade)
 {
-    const FaultyServer slow(cupsd.port(), {.delay = 500});
+    const FaultyServer slow(cupsd.port(), {.holds = true, .heldOperation = IPP_OP_CREATE_JOB});
     const QString document = largePicture();
     QProcess program;
     program.setProcessEnvironment(kvprint.environment);
     program.start(QStringLiteral(KV_PROGRAM), {QStringLiteral("--no-dialog"), QStringLiteral("-h"),
                                                slow.address(), QStringLiteral("-d"), tape, document});
     // The program has not heard of its job yet.
-    while (jobStates().isEmpty() && !program.waitForFinished(1))
+    while (slow.heldCount() == 0 && !program.waitForFinished(10))
         ;
+    EXPECT_EQ(jobStates().size(), 1);
     cupsd.kill();
-    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(program.waitForFinished(test_support::failureMilliseconds));
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_EQ(program.readAllStandardOutput(), QByteArray());
     const QByteArray error = program.readAllStandardError();

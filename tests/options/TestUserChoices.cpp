@@ -157,13 +157,16 @@ TEST_F(UserChoicesTest, TheChainedAutomaticCutIsGivenBackAsItWasSaved)
 
 TEST_F(UserChoicesTest, TheCountAndTheAutomaticCutAreBothMade)
 {
-    show(PpdBuilder().allOptions());
-    ASSERT_FALSE(isEnabled(panel->countField()));
-    apply({{"KvCutLabel", "5"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvCutLabel", "5"}})) << "though its field is disabled";
-    apply({{"KvAutoTapeCut", "ON"}, {"KvCutLabel", "7"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvCutLabel", "7"}, {"KvAutoTapeCut", "ON"}}));
-    EXPECT_TRUE(isEnabled(panel->countField()));
+    for (const char *const automatic : {"OFF", "ON"}) {
+        show(PpdBuilder().allOptions());
+        ASSERT_FALSE(isEnabled(panel->countField()));
+        apply({{"KvAutoTapeCut", automatic}, {"KvCutLabel", "7"}});
+        EXPECT_EQ(dialog->marked("KvCutLabel"), QStringLiteral("7")) << "though its field is disabled";
+        const auto written = saved();
+        EXPECT_EQ(std::ranges::count(written, changes({{"KvAutoTapeCut", automatic}}).front()), 1);
+        EXPECT_EQ(std::ranges::count(written, changes({{"KvCutLabel", "7"}}).front()), 1);
+        EXPECT_EQ(isEnabled(panel->countField()), QLatin1String(automatic) == QLatin1String("ON"));
+    }
 }
 
 TEST_F(UserChoicesTest, WhatAUserCouldNotChooseIsSkipped)
@@ -192,9 +195,12 @@ TEST_F(UserChoicesTest, AControlThatThePaperDisablesReceivesWhatIsSavedFromIt)
 {
     show(everything(), "FL21x45");
     ASSERT_FALSE(isEnabled(OptionKind::HalfCut));
-    apply({{"KvHalfCut", "ON"}, {"KvRemoveBlkSpace", "ON"}, {"KvChainPrint", "ON"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvHalfCut", "ON"}, {"KvChainPrint", "ON"}, {"KvRemoveBlkSpace", "ON"}}));
-    EXPECT_TRUE(box(OptionKind::HalfCut)->isChecked());
+    const bool half = box(OptionKind::HalfCut)->isChecked();
+    const char *const other = half ? "OFF" : "ON";
+    apply({{"KvHalfCut", other}, {"KvRemoveBlkSpace", "ON"}, {"KvChainPrint", "ON"}});
+    EXPECT_EQ(dialog->changes,
+              changes({{"KvHalfCut", other}, {"KvChainPrint", "ON"}, {"KvRemoveBlkSpace", "ON"}}));
+    EXPECT_EQ(box(OptionKind::HalfCut)->isChecked(), !half);
     EXPECT_TRUE(box(OptionKind::RemoveBlkSpace)->isChecked());
     EXPECT_FALSE(isEnabled(OptionKind::HalfCut));
 }

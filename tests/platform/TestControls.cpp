@@ -5,6 +5,7 @@
 #include <platform/PopUpButton.h>
 #include <platform/StaticText.h>
 #include <platform/Stepper.h>
+#include <tests/support/Waiting.h>
 
 #include <QAbstractItemView>
 #include <QSignalSpy>
@@ -17,6 +18,7 @@
 
 using platform::PopUpButton;
 using platform::Stepper;
+using test_support::waitUntil;
 
 namespace {
 
@@ -68,12 +70,17 @@ TEST(Stepper, ArrowsStepWithinTheBounds)
 TEST(Stepper, RepeatsWhileHeldAndStopsWhenDisabled)
 {
     const auto stepper = makeStepper();
-    stepper->setMaximum(1000);
-    QTest::mousePress(stepper.get(), Qt::LeftButton, {}, QPoint(4, 4));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return stepper->value() > 6; }));
+    const auto other = makeStepper();
+    for (Stepper *const each : {stepper.get(), other.get()}) {
+        each->setMaximum(100'000);
+        QTest::mousePress(each, Qt::LeftButton, {}, QPoint(4, 4));
+    }
+    ASSERT_TRUE(waitUntil([&] { return stepper->value() > 6; }));
     stepper->setEnabled(false);
     const int stopped = stepper->value();
-    QTest::qWait(150);
+    // The other one repeats at the same pace and goes on.
+    const int before = other->value();
+    EXPECT_TRUE(waitUntil([&] { return other->value() > before + 2; }));
     EXPECT_EQ(stepper->value(), stopped);
 }
 

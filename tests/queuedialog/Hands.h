@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <tests/support/Waiting.h>
+
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QTest>
+
+using test_support::waitUntil;
 
 /// What a person does with mouse and keys. Everything goes to the window, at the place where the control is
 /// seen: what is covered, disabled or outside gets nothing.
@@ -19,10 +22,3 @@ public:
     /// Opens the list with the mouse and picks the entry with that text.
     static void pick(QComboBox *list, const QString &text);
 };
-
-/// Lets events come in until the condition holds. False when it does not in time.
-template<typename Condition>
-bool waitUntil(Condition condition, int milliseconds = 15000)
-{
-    return QTest::qWaitFor(condition, milliseconds);
-}

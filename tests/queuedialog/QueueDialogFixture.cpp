@@ -7,6 +7,7 @@
 #include <host/cups/QueueCache.h>
 #include <host/dialog/Banner.h>
 #include <host/dialog/PasswordDialog.h>
+#include <tests/support/BackgroundThreads.h>
 
 #include <QApplication>
 #include <QDir>
@@ -41,6 +42,7 @@ void QueueDialogTest::TearDownTestSuite()
 
 void QueueDialogTest::SetUp()
 {
+    test_support::awaitBackgroundThreads();
     QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
          QStringLiteral("/kvprint/cups"))
         .removeRecursively();
@@ -65,15 +67,12 @@ void QueueDialogTest::TearDown()
 
 host::CupsServer QueueDialogTest::sharedServer()
 {
-    host::CupsServer server;
-    server.address = cupsd->address();
-    return server;
+    return serverAt(cupsd->address());
 }
 
 host::CupsServer QueueDialogTest::knownServer(const QString &address)
 {
-    host::CupsServer server;
-    server.address = address;
+    const host::CupsServer server = serverAt(address);
     const host::QueueCache from(sharedServer());
     const host::QueueCache to(server);
     to.storeDestinations(from.destinations());
@@ -89,6 +88,7 @@ void QueueDialogTest::open(const std::optional<QString> &wanted, const host::Cup
     close();
     host::CupsServer server = given.address ? given : sharedServer();
     server.askPassword = [this](const host::PasswordRequest &request) {
+        ++passwordQuestions;
         dialog::askWithDialog(window.get())(request);
     };
     auto document = host::LabelDocument::open(QStringList{documentPath});
@@ -96,12 +96,12 @@ void QueueDialogTest::open(const std::optional<QString> &wanted, const host::Cup
     session = std::make_unique<host::QueueSession>(server, wanted);
     keeper = std::make_unique<host::SetupKeeper>(
         *session, host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}}, wishes);
-    sender = std::make_unique<dialog::QueueSender>(server);
+    sender = std::make_unique<dialog::QueueSender>(sendingServer.value_or(server));
     window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *keeper, *sender,
                                                    dialog::DialogWishes());
     window->show();
     session->start(host::Discovery::No);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), test_support::failureMilliseconds));
 }
 
 bool QueueDialogTest::isSettled() const
@@ -241,6 +241,6 @@ void QueueDialogTest::meanwhile(const std::function<void()> &work)
         work();
         isDone = true;
     });
-    EXPECT_TRUE(waitUntil([&] { return isDone.load(); }, 60000));
+    EXPECT_TRUE(waitUntil([&] { return isDone.load(); }));
     worker.join();
 }

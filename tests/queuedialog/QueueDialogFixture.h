@@ -3,12 +3,12 @@
 
 #include "Hands.h"
 #include "Sandbox.h"
+#include "Servers.h"
 
 #include <host/dialog/OptionControl.h>
 #include <host/dialog/PrintDialog.h>
 #include <host/dialog/QueueSender.h>
 #include <tests/support/PrivateCupsd.h>
-#include <tests/support/StallWatch.h>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -20,8 +20,6 @@
 /// The print dialog as kvprint opens it, on the queues of a private cupsd that all tests of a suite share.
 class QueueDialogTest : public testing::Test {
 protected:
-    using StallWatch = test_support::StallWatch;
-
     static void SetUpTestSuite();
     static void TearDownTestSuite();
     /// Begins without anything kept of the server.
@@ -98,6 +96,10 @@ protected:
     std::unique_ptr<host::SetupKeeper> keeper;
     std::unique_ptr<dialog::QueueSender> sender;
     std::unique_ptr<dialog::PrintDialog> window;
+    /// Where the next dialog sends its job; nothing for where it learns of the queues.
+    std::optional<host::CupsServer> sendingServer;
+    /// How often a dialog was to ask for a password.
+    int passwordQuestions = 0;
 
 private:
     std::size_t m_documentsBefore = 0;

@@ -31,7 +31,7 @@ protected:
         cupsd->addQueue(QStringLiteral("full"), manyPapers(m_firstPaper));
         openAndSettle(QStringLiteral("full"));
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), test_support::failureMilliseconds));
     }
 
     void replacePpd()
@@ -39,10 +39,8 @@ protected:
         int replacements = 0;
         QObject::connect(keeper.get(), &host::SetupKeeper::setupChanged, window.get(),
                          [&] { ++replacements; });
-        // The server tells the time of changes in seconds.
-        QTest::qWait(1100);
         m_firstPaper += 10;
-        meanwhile([this] { cupsd->addQueue(QStringLiteral("full"), manyPapers(m_firstPaper)); });
+        meanwhile([this] { cupsd->replacePpd(QStringLiteral("full"), manyPapers(m_firstPaper)); });
         ASSERT_TRUE(waitUntil([&] { return replacements > 0; }));
         EXPECT_TRUE(waitUntil([this] { return isSettled(); }));
         QApplication::processEvents();

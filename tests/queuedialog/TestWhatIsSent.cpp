@@ -89,8 +89,9 @@ protected:
 
     static int priorityOf(int jobId)
     {
-        http_t *const http = httpConnect2("127.0.0.1", cupsd->port(), nullptr, AF_UNSPEC,
-                                          HTTP_ENCRYPTION_IF_REQUESTED, 1, 5000, nullptr);
+        http_t *const http =
+            httpConnect2("127.0.0.1", cupsd->port(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
+                         test_support::failureMilliseconds, nullptr);
         cups_job_t *jobs = nullptr;
         const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
         int priority = -1;
@@ -210,7 +211,7 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
     QProcess shell;
     shell.setWorkingDirectory(QFileInfo(documentPath).path());
     shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), line});
-    ASSERT_TRUE(shell.waitForFinished());
+    ASSERT_TRUE(shell.waitForFinished(test_support::failureMilliseconds));
     ASSERT_EQ(shell.exitCode(), 0) << shell.readAllStandardError().toStdString() << line.toStdString();
     const QByteArray request = shell.readAllStandardOutput().split(' ').value(3);
     cupsd->run(QStringLiteral("lp"), {QStringLiteral("-i"), QString::fromUtf8(request), QStringLiteral("-H"),
@@ -288,14 +289,12 @@ TEST_F(WhatIsSentTest, MirrorPrintingStaysThroughPagesPapersAndAnotherPpd)
     other.replace("*Darkness Dark/Dark", "*Darkness Pale/Pale").replace("Darkness Dark", "Darkness Pale");
     int replacements = 0;
     QObject::connect(keeper.get(), &host::SetupKeeper::setupChanged, window.get(), [&] { ++replacements; });
-    const StallWatch watch;
-    meanwhile([&] { cupsd->addQueue(QStringLiteral("full"), other); });
-    ASSERT_TRUE(waitUntil([&] { return replacements > 0; }, 8000));
+    meanwhile([&] { cupsd->replacePpd(QStringLiteral("full"), other); });
+    ASSERT_TRUE(waitUntil([&] { return replacements > 0; }));
     QApplication::processEvents();
     EXPECT_TRUE(isOn());
     EXPECT_EQ(papers()->currentItem()->text(), QStringLiteral("Tape 12 mm x 60 mm"));
     EXPECT_TRUE(told().contains(QStringLiteral("Dark"))) << told().toStdString();
-    EXPECT_NO_STALL(watch);
     const auto job = printed();
     EXPECT_EQ(job.option("KvMirror"), "ON");
     EXPECT_EQ(job.option("KvCutMark"), hasCutMark ? "ON" : "OFF");

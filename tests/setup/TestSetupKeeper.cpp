@@ -2,11 +2,12 @@
 // The way from a server's answers to the printer that is set up, against a real cupsd.
 #include <host/cups/QueueCache.h>
 #include <host/setup/SetupKeeper.h>
+#include <tests/support/BackgroundThreads.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/Waiting.h>
 
 #include <QDir>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -17,13 +18,9 @@ using host::QueueSession;
 using host::SetupKeeper;
 using test_support::PpdBuilder;
 using test_support::PrivateCupsd;
+using test_support::waitUntil;
 
 namespace {
-
-bool waitFor(const std::function<bool()> &condition)
-{
-    return QTest::qWaitFor(condition, 15000);
-}
 
 class SetupKeeperTest : public testing::Test {
 protected:
@@ -32,7 +29,9 @@ protected:
 
     void SetUp() override
     {
+        test_support::awaitBackgroundThreads();
         server.address = cupsd->address();
+        server.patience = test_support::failureTimeout;
         QDir(host::QueueCache(server).folder()).removeRecursively();
         cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().allOptions().ppd());
         cupsd->addQueue(QStringLiteral("labels"), PpdBuilder().options({"KvMirror"}).ppd());
@@ -42,6 +41,8 @@ protected:
     void open(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
     {
         keeper.reset();
+        session.reset();
+        test_support::awaitBackgroundThreads();
         session = std::make_unique<QueueSession>(server, wanted);
         keeper = std::make_unique<SetupKeeper>(*session, source, wishes);
         failures.clear();
@@ -54,7 +55,7 @@ protected:
     {
         open(wanted, wishes);
         session->start(host::Discovery::No);
-        EXPECT_TRUE(waitFor([this] { return session->isSettled() && knows(); }));
+        EXPECT_TRUE(waitUntil([this] { return session->isSettled() && knows(); }));
     }
 
     bool knows() const
@@ -92,7 +93,7 @@ TEST_F(SetupKeeperTest, TheFirstTimeThePrinterComesWithTheServersAnswer)
     EXPECT_FALSE(keeper->setup());
     EXPECT_EQ(session->chosenName(), QStringLiteral("tape"));
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([this] { return keeper->setup() != nullptr; }));
+    ASSERT_TRUE(waitUntil([this] { return keeper->setup() != nullptr; }));
     EXPECT_EQ(keeper->setup()->destination().queue, QStringLiteral("tape"));
     EXPECT_TRUE(keeper->setup()->panel());
     EXPECT_EQ(failures, QStringList());
@@ -107,7 +108,7 @@ TEST_F(SetupKeeperTest, TheSecondTimeItIsThereBeforeAnybodyIsAsked)
     EXPECT_EQ(session->ppdKnowledge(), PpdKnowledge::Cached);
     const host::PrinterSetup *const before = keeper->setup();
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([this] { return session->ppdKnowledge() == PpdKnowledge::Current; }));
+    ASSERT_TRUE(waitUntil([this] { return session->ppdKnowledge() == PpdKnowledge::Current; }));
     // Nothing is new, so nothing on the screen jumps.
     EXPECT_EQ(keeper->setup(), before);
 }
@@ -132,7 +133,7 @@ TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
     QObject::connect(keeper.get(), &SetupKeeper::setupAboutToEnd, [&] { ++ended; });
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvMirror", "KvHalfCut"}).ppd());
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([&] { return ended > 0 && keeper->setup(); }));
+    ASSERT_TRUE(waitUntil([&] { return ended > 0 && keeper->setup(); }));
     EXPECT_EQ(keeper->setup()->claimedKeywords().size(), 2);
     EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
     EXPECT_EQ(keeper->setup()->paper()->name, QByteArray("36mm"));
@@ -146,7 +147,7 @@ TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
     const int endedBefore = ended;
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().allOptions().ppd());
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([&] { return ended > endedBefore && keeper->setup() && knows(); }));
+    ASSERT_TRUE(waitUntil([&] { return ended > endedBefore && keeper->setup() && knows(); }));
     EXPECT_EQ(chosen("KvCutMark"), QByteArray("ON"));
     EXPECT_TRUE(keeper->setup()->refusals().empty());
 }
@@ -161,7 +162,7 @@ TEST_F(SetupKeeperTest, ARefusedWishIsNotForgottenWhenThePpdComesAgain)
     int ended = 0;
     QObject::connect(keeper.get(), &SetupKeeper::setupAboutToEnd, [&] { ++ended; });
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([&] { return ended > 0 && keeper->setup(); }));
+    ASSERT_TRUE(waitUntil([&] { return ended > 0 && keeper->setup(); }));
     EXPECT_EQ(keeper->setup()->refusals().size(), 2U);
     EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
 }
@@ -171,12 +172,12 @@ TEST_F(SetupKeeperTest, EachQueueKeepsItsChoices)
     openAndSettle(QStringLiteral("tape"), {{{"KvMirror", "ON", host::Origin::You}}});
     keeper->setup()->choose("KvHalfCut", "ON");
     session->choose(QStringLiteral("labels"));
-    ASSERT_TRUE(waitFor([this] { return keeper->setup() && knows(); }));
+    ASSERT_TRUE(waitUntil([this] { return keeper->setup() && knows(); }));
     // What the command line asks for is asked of any queue; what was set here belongs to its queue.
     EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
     EXPECT_EQ(chosen("KvHalfCut"), QByteArray("(none)"));
     session->choose(QStringLiteral("tape"));
-    ASSERT_TRUE(waitFor([this] { return keeper->setup() && knows(); }));
+    ASSERT_TRUE(waitUntil([this] { return keeper->setup() && knows(); }));
     EXPECT_EQ(chosen("KvHalfCut"), QByteArray("ON"));
 }
 
@@ -196,7 +197,7 @@ TEST_F(SetupKeeperTest, ADeletedQueueIsToldAndLeavesWhatIsKnown)
     open(QStringLiteral("gone"));
     ASSERT_TRUE(keeper->setup());
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([this] { return !failures.isEmpty(); }));
+    ASSERT_TRUE(waitUntil([this] { return !failures.isEmpty(); }));
     EXPECT_TRUE(failures.first().contains(QStringLiteral("gone"))) << failures.first().toStdString();
 }
 
@@ -204,7 +205,7 @@ TEST_F(SetupKeeperTest, AnUnknownQueueIsNamedAndNothingElseIsChosen)
 {
     open(QStringLiteral("nobody"));
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([this] { return session->isSettled(); }));
+    ASSERT_TRUE(waitUntil([this] { return session->isSettled(); }));
     EXPECT_FALSE(session->chosen());
     EXPECT_FALSE(keeper->setup());
     ASSERT_EQ(failures.size(), 1);
@@ -237,7 +238,7 @@ TEST_F(SetupKeeperTest, AnotherDefaultTakesNoPrinterFromUnderTheUser)
             keeper->setup()->choose("KvMirror", "ON");
         makeDefault("labels");
         session->start(host::Discovery::No);
-        ASSERT_TRUE(waitFor([this] { return session->isSettled() && knows() && keeper->setup(); }));
+        ASSERT_TRUE(waitUntil([this] { return session->isSettled() && knows() && keeper->setup(); }));
         EXPECT_EQ(session->chosen()->queue, sets ? QStringLiteral("tape") : QStringLiteral("labels"));
         EXPECT_EQ(chosen("KvMirror"), sets ? QByteArray("ON") : QByteArray("(none)"));
     }
@@ -256,27 +257,27 @@ TEST_F(SetupKeeperTest, AReplacedPpdIsNothingThatTheUserHasSet)
         ++setups;
     });
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([&] { return setups == 1 && session->isSettled() && knows(); }));
+    ASSERT_TRUE(waitUntil([&] { return setups == 1 && session->isSettled() && knows(); }));
     EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvHalfCut", "KvMirror"}).ppd());
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([&] { return setups == 2 && session->isSettled() && knows(); }));
+    ASSERT_TRUE(waitUntil([&] { return setups == 2 && session->isSettled() && knows(); }));
     EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
     ASSERT_EQ(session->chosen()->queue, QStringLiteral("tape"));
     makeDefault("labels");
     session->start(host::Discovery::No);
-    EXPECT_TRUE(waitFor([this] { return session->chosen()->queue == QStringLiteral("labels"); }));
+    EXPECT_TRUE(waitUntil([this] { return session->chosen()->queue == QStringLiteral("labels"); }));
 }
 
 TEST_F(SetupKeeperTest, TheLastDestinationIsKnownAtOnceAndTheOthersFollow)
 {
     openAndSettle(QStringLiteral("tape"));
-    ASSERT_TRUE(waitFor([this] { return host::QueueCache(server).last().has_value(); }));
+    ASSERT_TRUE(waitUntil([this] { return host::QueueCache(server).last().has_value(); }));
     open(QStringLiteral("tape"));
     EXPECT_EQ(session->destinations().destinations().size(), 1U);
     ASSERT_TRUE(keeper->setup());
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitFor([this] { return session->destinations().destinations().size() >= 3; }));
+    ASSERT_TRUE(waitUntil([this] { return session->destinations().destinations().size() >= 3; }));
     // Another one is looked for among all.
     open(QStringLiteral("labels"));
     EXPECT_GE(session->destinations().destinations().size(), 3U);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrivateCupsd.h"
 
+#include "Waiting.h"
+
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
 
@@ -26,8 +28,6 @@ namespace test_support {
 
 namespace {
 
-constexpr int mostMilliseconds = 20000;
-
 /// Waits in small steps for a condition that another process brings about.
 template<typename Condition>
 bool poll(Condition condition)
@@ -35,7 +35,7 @@ bool poll(Condition condition)
     QElapsedTimer timer;
     timer.start();
     while (!condition()) {
-        if (timer.elapsed() > mostMilliseconds)
+        if (timer.elapsed() > failureMilliseconds)
             return false;
         QThread::msleep(2);
     }
@@ -99,18 +99,11 @@ QByteArray cupsdConf(quint16 port)
 {
     return "Listen 127.0.0.1:" + QByteArray::number(port) +
            "\nBrowsing Off\nDefaultAuthType None\nWebInterface No\nLogLevel debug\nMaxLogSize 0\n"
-           "DirtyCleanInterval 0\nPreserveJobFiles Yes\nMultipleOperationTimeout 20\n"
+           "DirtyCleanInterval 0\nPreserveJobFiles Yes\nMultipleOperationTimeout 600\n"
            "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
            "<Location /admin>\nOrder allow,deny\nAllow all\n</Location>\n"
            "<Policy default>\nJobPrivateValues none\nSubscriptionPrivateValues none\n"
            "<Limit All>\nOrder deny,allow\nAllow all\n</Limit>\n</Policy>\n";
-}
-
-quint16 freePort()
-{
-    QTcpServer server;
-    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
-    return server.serverPort();
 }
 
 } // namespace
@@ -129,25 +122,16 @@ PrivateCupsd::PrivateCupsd()
 {
     EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString().toStdString();
     writeConfiguration();
-    // Another program may take the port between the look and the start; then another one will do.
-    for (int attempt = 0; attempt < 5 && !isRunning(); ++attempt) {
-        m_port = freePort();
-        write(path(QStringLiteral("etc/cupsd.conf")), cupsdConf(m_port));
-        start();
-    }
+    write(path(QStringLiteral("etc/cupsd.conf")), cupsdConf(port()));
+    start();
     EXPECT_TRUE(isRunning()) << "cupsd does not start:\n" << log().toStdString();
 }
 
 PrivateCupsd::~PrivateCupsd()
 {
     m_process.terminate();
-    if (!m_process.waitForFinished(mostMilliseconds))
+    if (!m_process.waitForFinished(failureMilliseconds))
         kill();
-}
-
-QString PrivateCupsd::address() const
-{
-    return QStringLiteral("127.0.0.1:%1").arg(m_port);
 }
 
 void PrivateCupsd::writeConfiguration()
@@ -185,7 +169,7 @@ void PrivateCupsd::start()
 
 bool PrivateCupsd::waitUntilReady()
 {
-    if (!m_process.waitForStarted(mostMilliseconds))
+    if (!m_process.waitForStarted(failureMilliseconds))
         return false;
     bool ready = false;
     return poll([&] {
@@ -193,7 +177,7 @@ bool PrivateCupsd::waitUntilReady()
                if (m_process.waitForFinished(0) || !isRunning())
                    return true;
                QTcpSocket socket;
-               socket.connectToHost(QHostAddress(QHostAddress::LocalHost), m_port);
+               socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port());
                // It listens before it is ready to answer.
                socket.write("GET / HTTP/1.0\r\n\r\n");
                ready = socket.waitForReadyRead(1000);
@@ -205,14 +189,14 @@ bool PrivateCupsd::waitUntilReady()
 void PrivateCupsd::configure(const QByteArray &lines)
 {
     kill();
-    write(path(QStringLiteral("etc/cupsd.conf")), cupsdConf(m_port) + lines);
+    write(path(QStringLiteral("etc/cupsd.conf")), cupsdConf(port()) + lines);
     restart();
 }
 
 void PrivateCupsd::kill()
 {
     m_process.kill();
-    m_process.waitForFinished(mostMilliseconds);
+    m_process.waitForFinished(failureMilliseconds);
 }
 
 void PrivateCupsd::restart()
@@ -238,6 +222,13 @@ void PrivateCupsd::addQueue(const QString &name, const QByteArray &ppd, const QS
                     QStringLiteral("file:///dev/null"), QStringLiteral("-P"), file} +
             arguments);
     QFile::remove(file);
+    m_configured[name] = QDateTime::currentSecsSinceEpoch();
+}
+
+void PrivateCupsd::replacePpd(const QString &name, const QByteArray &ppd)
+{
+    EXPECT_TRUE(poll([&] { return QDateTime::currentSecsSinceEpoch() > m_configured.value(name); }));
+    addQueue(name, ppd);
 }
 
 void PrivateCupsd::addRawQueue(const QString &name)
@@ -331,7 +322,7 @@ QByteArray PrivateCupsd::run(const QString &program, const QStringList &argument
     if (found.isEmpty())
         found = QStringLiteral("/usr/sbin/") + program;
     process.start(found, arguments);
-    EXPECT_TRUE(process.waitForFinished(mostMilliseconds)) << qPrintable(program);
+    EXPECT_TRUE(process.waitForFinished(failureMilliseconds)) << qPrintable(program);
     EXPECT_EQ(process.exitCode(), 0) << qPrintable(program + u' ' + arguments.join(u' ')) << "\n"
                                      << process.readAllStandardError().toStdString();
     return process.readAllStandardOutput();

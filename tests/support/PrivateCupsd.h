@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "ReservedPort.h"
+
 #include <QByteArray>
+#include <QHash>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -41,15 +44,18 @@ public:
     PrivateCupsd &operator=(const PrivateCupsd &) = delete;
 
     bool isRunning() const { return m_process.state() == QProcess::Running; }
-    quint16 port() const { return m_port; }
+    quint16 port() const { return m_port.number(); }
     /// "127.0.0.1:PORT", as programs take it after -h.
-    QString address() const;
+    QString address() const { return m_port.address(); }
     /// A file or folder within the server's temporary folder.
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
     /// Adds a queue with the PPD, or replaces the PPD of one; its filters are replaced by the recording one.
     /// Further arguments are lpadmin's.
     void addQueue(const QString &name, const QByteArray &ppd, const QStringList &arguments = {});
+    /// Gives a queue that addQueue() has made another PPD. The server reports the times of changes in
+    /// seconds, so this waits for the second after the queue's last change.
+    void replacePpd(const QString &name, const QByteArray &ppd);
     /// Adds a queue without a PPD.
     void addRawQueue(const QString &name);
     void addClass(const QString &name, const QStringList &members);
@@ -92,7 +98,9 @@ private:
 
     QTemporaryDir m_folder;
     QProcess m_process;
-    quint16 m_port = 0;
+    ReservedPort m_port;
+    /// When addQueue() was done with each queue, in seconds since 1970.
+    QHash<QString, qint64> m_configured;
 };
 
 } // namespace test_support

@@ -1,37 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every test program runs with real widgets on the offscreen platform, in a home of its own that
 // lasts as long as the program: no user's settings are read or written.
+#include "BackgroundThreads.h"
+
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <chrono>
-#include <thread>
-
-namespace {
-
-bool hasBackgroundThreads()
-{
-    const QDir threads(QStringLiteral("/proc/self/task"));
-    for (const QString &thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile name(threads.filePath(thread + QStringLiteral("/comm")));
-        if (name.open(QIODevice::ReadOnly) && name.readAll() == "kv-background\n")
-            return true;
-    }
-    return false;
-}
-
-/// What a thread has in hand while it ends is taken for a leak. Some wait for a server that never answers.
-void awaitBackgroundThreads()
-{
-    for (int i = 0; i < 1000 && hasBackgroundThreads(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -46,6 +21,7 @@ int main(int argc, char **argv)
             qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen")).toLocal8Bit());
     const QApplication application(argc, argv);
     const int result = RUN_ALL_TESTS();
-    awaitBackgroundThreads();
+    // What a thread has in hand while it ends is taken for a leak.
+    test_support::awaitBackgroundThreads();
     return result;
 }

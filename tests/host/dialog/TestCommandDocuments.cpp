@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The manual page and the shells' completions tell the same options as the program's table.
 #include <host/dialog/CommandOption.h>
+#include <tests/support/Waiting.h>
 
 #include <QDir>
 #include <QFile>
@@ -35,7 +36,7 @@ Outcome bash(const QStringList &arguments, const QString &path = {})
         environment.insert(QStringLiteral("PATH"), path + u':' + environment.value(QStringLiteral("PATH")));
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral("bash"), QStringList{QStringLiteral("--norc")} + arguments);
-    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_TRUE(process.waitForFinished(test_support::failureMilliseconds));
     const QString out = QString::fromUtf8(process.readAllStandardOutput());
     return {process.exitCode(), out.split(u'\n', Qt::SkipEmptyParts), process.readAllStandardError()};
 }

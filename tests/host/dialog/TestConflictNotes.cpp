@@ -4,6 +4,7 @@
 
 #include <host/dialog/PanelPage.h>
 #include <host/dialog/PaperChooser.h>
+#include <tests/support/Waiting.h>
 
 #include <QLabel>
 #include <QListWidget>
@@ -82,10 +83,10 @@ TEST_F(ConflictNotesTest, TheNoteIsWholeAndThePanelTooAndOfManySentencesTheFirst
     openWith(constraints);
     choosePaper("Removable 52 mm x 75 mm");
     // The document's size is offered now, which takes another round to find its place.
-    QTest::qWait(50);
+    test_support::turnEventLoop();
     const int before = window->width();
     choosePaper("Labels 52 mm x 75 mm");
-    QTest::qWait(50);
+    test_support::turnEventLoop();
     EXPECT_EQ(window->width(), before);
     const auto *const page = window->findChild<dialog::PanelPage *>();
     EXPECT_EQ(told(page).count(QStringLiteral("exclude each other")), 2);

@@ -3,6 +3,8 @@
 #include "SamplePdf.h"
 #include "SamplePpd.h"
 
+#include <tests/support/Waiting.h>
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -37,7 +39,8 @@ protected:
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(KV_BINARY_DIR "/bin/kvprint"), arguments);
-        EXPECT_TRUE(process.waitForFinished(60'000)) << process.errorString().toStdString();
+        EXPECT_TRUE(process.waitForFinished(test_support::failureMilliseconds))
+            << process.errorString().toStdString();
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};

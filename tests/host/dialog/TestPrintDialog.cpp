@@ -5,6 +5,7 @@
 #include <host/dialog/SummaryPage.h>
 
 #include <platform/NotificationCenter.h>
+#include <tests/support/Waiting.h>
 
 #include <QLineEdit>
 #include <QListWidget>
@@ -52,7 +53,7 @@ TEST_F(PrintDialogTest, ThePagesOfALongDocumentAreCheckedBeforeAnybodyWaitsForIt
     host::SetupKeeper printer(makeSetup({}));
     dialog::PrintDialog print(document, printer, sender, dialog::DialogWishes());
     print.show();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return document->isPageSizeKnown(4'999); }, 15000));
+    EXPECT_TRUE(test_support::waitUntil([&] { return document->isPageSizeKnown(4'999); }));
 }
 
 TEST_F(PrintDialogTest, BlankIsMeasuredAndDrawnWithoutTheMainThread)

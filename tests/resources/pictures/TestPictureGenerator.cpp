@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program, run as the build runs it.
 #include <resources/pictures/PictureSpec.h>
+#include <tests/support/Waiting.h>
 
 #include <QDir>
 #include <QFile>
@@ -22,10 +23,10 @@ struct Outcome {
 
 Outcome generate(const QStringList &arguments)
 {
-    constexpr int timeout = 60'000; // milliseconds
     QProcess program;
     program.start(QStringLiteral(KV_PICTURE_GENERATOR), arguments);
-    if (!program.waitForFinished(timeout) || program.exitStatus() != QProcess::NormalExit)
+    if (!program.waitForFinished(test_support::failureMilliseconds) ||
+        program.exitStatus() != QProcess::NormalExit)
         return {};
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardError())};
 }

@@ -3,6 +3,7 @@
 #include "LocalizedPpd.h"
 
 #include <tests/support/PpdBuilder.h>
+#include <tests/support/Waiting.h>
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -104,7 +105,7 @@ TEST(SamplePrinters, PassTheCheckOfPrinterDescriptions)
     for (const SamplePrinter &printer : samplePrinters()) {
         QProcess check;
         check.start(QStringLiteral("cupstestppd"), {path(printer)});
-        ASSERT_TRUE(check.waitForFinished())
+        ASSERT_TRUE(check.waitForFinished(test_support::failureMilliseconds))
             << "cupstestppd (package cups-client): " << check.errorString().toStdString();
         const QStringList lines =
             QString::fromUtf8(check.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);

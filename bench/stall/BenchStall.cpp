@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+// For how long the print dialog's event loop does not answer, in everything that might hold it up. See
+// bench/README.md.
+#include "StallScenarios.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+using bench::StallScenarios;
+using Duration = StallScenarios::Duration;
+
+/// What a user takes for smooth: one picture of a screen that shows 60 in a second.
+constexpr Duration limit{16};
+
+struct Row {
+    const char *name;
+    StallScenarios::Scenario scenario;
+    std::vector<Duration> longest = {};
+};
+
+std::vector<Row> rows()
+{
+    return {
+        {"a bare window of Qt", &StallScenarios::bareWindow},
+        {"silent server, queue known", &StallScenarios::silentServer},
+        {"slow server, nothing known", &StallScenarios::slowServer},
+        {"no server", &StallScenarios::serverThatIsGone},
+        {"server that breaks connections", &StallScenarios::serverThatBreaks},
+        {"1,000 queues", &StallScenarios::thousandQueues},
+        {"PPD with 300 papers more", &StallScenarios::manyPapers},
+        {"PPD of more than a megabyte", &StallScenarios::hugePpd},
+        {"damaged PPD of 50 megabytes", &StallScenarios::damagedPpd},
+        {"replaced PPD", &StallScenarios::replacedPpd},
+        {"page of 1,500 options", &StallScenarios::thousandsOfOptions},
+        {"queue paused and resumed", &StallScenarios::stateOfTheQueue},
+        {"queue deleted", &StallScenarios::deletedQueue},
+        {"password asked for", &StallScenarios::password},
+        {"job refused", &StallScenarios::refusedJob},
+        {"connection broken while sending", &StallScenarios::brokenUpload},
+        {"full spool", &StallScenarios::fullSpool},
+        {"server silent while sending", &StallScenarios::silentWhileSending},
+        {"sending stopped", &StallScenarios::stoppedUpload},
+        {"window closed while sending", &StallScenarios::closedWhileSending},
+        {"10,000 labels", &StallScenarios::thousandsOfPages},
+        {"job followed to its end", &StallScenarios::followedJob},
+    };
+}
+
+Duration median(std::vector<Duration> values)
+{
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+/// Prints the rows and answers whether all keep the limit.
+bool report(const std::vector<Row> &measured)
+{
+    const Duration baseline = median(measured.front().longest);
+    bool isGood = true;
+    std::printf("%-34s %10s %10s %8s\n", "longest time without an answer", "median ms", "worst ms", "ratio");
+    for (const Row &row : measured) {
+        const Duration typical = median(row.longest);
+        const Duration worst = std::ranges::max(row.longest);
+        const bool isWithin = typical <= limit;
+        isGood = isGood && isWithin;
+        std::printf("%-34s %10.1f %10.1f %8.1f%s\n", row.name, typical.count(), worst.count(),
+                    typical / baseline, isWithin ? "" : "  over the limit");
+    }
+    std::printf("limit: a median of %.0f ms\n", limit.count());
+    return isGood;
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program either way
+int main(int argc, char **argv)
+{
+    const QTemporaryDir home;
+    for (const char *variable :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(variable, home.path().toLocal8Bit());
+    qputenv("QT_QPA_PLATFORM",
+            qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen")).toLocal8Bit());
+    const QApplication application(argc, argv);
+    const int runs = std::max(1, application.arguments().value(1, QStringLiteral("5")).toInt());
+    std::vector<Row> measured = rows();
+    StallScenarios::startServer();
+    StallScenarios scenarios;
+    // In turn, so that whatever else the machine does hits all alike; the first round only warms up.
+    for (int round = 0; round <= runs; ++round) {
+        for (Row &row : measured) {
+            const Duration longest = scenarios.run(row.scenario);
+            if (round > 0)
+                row.longest.push_back(longest);
+        }
+        std::fprintf(stderr, "round %d of %d\n", round, runs);
+    }
+    StallScenarios::endServer();
+    return report(measured) ? 0 : 1;
+}

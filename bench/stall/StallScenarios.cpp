@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "StallScenarios.h"
+
+#include "OptionsPpd.h"
+#include "SamplePdf.h"
+#include "SamplePpd.h"
+
+#include <host/cups/QueueCache.h>
+#include <host/dialog/JobWindow.h>
+#include <host/dialog/OptionsPage.h>
+
+#include <QLineEdit>
+
+#include <cups/ipp.h>
+
+namespace bench {
+
+namespace {
+
+const QString tape = QStringLiteral("tape");
+constexpr int slowness = 500; // milliseconds
+
+} // namespace
+
+void StallScenarios::startServer()
+{
+    QueueDialogTest::SetUpTestSuite();
+    cupsd->addQueue(tape, tapePpd());
+}
+
+StallScenarios::Duration StallScenarios::run(Scenario scenario)
+{
+    sendingServer.reset();
+    SetUp();
+    const Duration longest = (this->*scenario)();
+    TearDown();
+    return longest;
+}
+
+void StallScenarios::linger()
+{
+    QTest::qWait(slowness);
+}
+
+StallScenarios::Duration StallScenarios::bareWindow()
+{
+    QLabel line(QStringLiteral("A window"));
+    line.show();
+    StallWatch watch;
+    linger();
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::silentServer()
+{
+    fillCache(tape);
+    const FaultyServer silent(0, {.silent = true});
+    open(tape, knownServer(silent.address()));
+    StallWatch watch;
+    Hands::click(panelBox("mMirrorPrintChkBx"));
+    linger();
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::slowServer()
+{
+    const FaultyServer slow(cupsd->port(), {.delay = slowness});
+    open(tape, serverAt(slow.address()));
+    StallWatch watch;
+    waitUntil([this] { return isSettled(); });
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::serverThatIsGone()
+{
+    fillCache(tape);
+    const test_support::ReservedPort absent;
+    open(tape, knownServer(absent.address()));
+    StallWatch watch;
+    waitUntil([this] { return session->isSettled() && !told().isEmpty(); });
+    linger();
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::serverThatBreaks()
+{
+    fillCache(tape);
+    const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
+    open(tape, knownServer(breaking.address()));
+    StallWatch watch;
+    waitUntil([this] { return session->isSettled() && !told().isEmpty(); });
+    linger();
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::thousandQueues()
+{
+    fillCache(tape);
+    const host::QueueCache cache(sharedServer());
+    std::vector<host::Destination> known = cache.destinations();
+    for (int i = 0; i < 1000; ++i) {
+        host::Destination more = known.front();
+        more.queue = QStringLiteral("queue-%1").arg(i);
+        more.description = QStringLiteral("Label printer in room %1").arg(i);
+        more.isDefault = false;
+        known.push_back(more);
+    }
+    cache.storeDestinations(known);
+    open(tape);
+    StallWatch watch;
+    waitUntil([this] { return isSettled(); });
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::openOn(const QByteArray &ppd)
+{
+    const QString name = QStringLiteral("large");
+    cupsd->addQueue(name, ppd);
+    Duration longest{0};
+    // The first time the PPD comes from the server, the second time from the cache.
+    for (int time = 0; time < 2; ++time) {
+        open(name);
+        StallWatch watch;
+        waitUntil([this] { return isSettled(); });
+        for (const QString &title : tabs())
+            chooseTab(title);
+        linger();
+        longest = std::max(longest, watch.longest());
+    }
+    close();
+    cupsd->removeQueue(name);
+    return longest;
+}
+
+StallScenarios::Duration StallScenarios::manyPapers()
+{
+    QByteArray ppd = tapePpd();
+    QByteArray choices;
+    for (int i = 0; i < 300; ++i) {
+        const QByteArray name = "Extra" + QByteArray::number(i);
+        choices += "*PageSize " + name + ": \"\"\n";
+        ppd += "*PaperDimension " + name + ": \"" + QByteArray::number(100 + i) + " 200\"\n";
+    }
+    return openOn(ppd.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n"));
+}
+
+StallScenarios::Duration StallScenarios::hugePpd()
+{
+    return openOn(largeOptionsPpd(100, 500));
+}
+
+StallScenarios::Duration StallScenarios::damagedPpd()
+{
+    const QString name = QStringLiteral("odd");
+    cupsd->addQueue(name, tapePpd());
+    QFile file(cupsd->path(QStringLiteral("etc/ppd/odd.ppd")));
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write("*PPD-Adobe: \"4.3\"\n" + QByteArray(50 * 1024 * 1024, '%'));
+    file.close();
+    open(name);
+    StallWatch watch;
+    waitUntil([this] { return session->ppdKnowledge() == host::PpdKnowledge::Failed; });
+    const Duration longest = watch.longest();
+    close();
+    cupsd->removeQueue(name);
+    return longest;
+}
+
+StallScenarios::Duration StallScenarios::replacedPpd()
+{
+    openAndSettle(tape);
+    int replacements = 0;
+    QObject::connect(keeper.get(), &host::SetupKeeper::setupChanged, window.get(), [&] { ++replacements; });
+    StallWatch watch;
+    meanwhile([] { cupsd->replacePpd(tape, tapePpd() + "*% another\n"); });
+    waitUntil([&] { return replacements > 0 && isSettled(); });
+    const Duration longest = watch.longest();
+    meanwhile([] { cupsd->replacePpd(tape, tapePpd()); });
+    return longest;
+}
+
+StallScenarios::Duration StallScenarios::thousandsOfOptions()
+{
+    host::PpdFile ppd = openPpd(sandbox, largeOptionsPpd(3000, 4));
+    dialog::OptionsPage page(ppd, QStringList(), nullptr);
+    page.resize(520, 420);
+    StallWatch watch;
+    page.show();
+    waitUntil([&] { return page.findChild<QWidget *>(QStringLiteral("Option1499")); });
+    linger();
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::stateOfTheQueue()
+{
+    openAndSettle(tape);
+    StallWatch watch;
+    meanwhile([] { cupsd->pause(tape); });
+    waitUntil([this] { return state().contains(QStringLiteral("paused")); });
+    meanwhile([] { cupsd->resume(tape); });
+    waitUntil([this] { return state() == QStringLiteral("Ready."); });
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::deletedQueue()
+{
+    const QString name = QStringLiteral("doomed");
+    cupsd->addQueue(name, tapePpd());
+    openAndSettle(name);
+    StallWatch watch;
+    meanwhile([&] { cupsd->removeQueue(name); });
+    waitUntil([this] { return !told().isEmpty(); });
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::password()
+{
+    const FaultyServer guarded(cupsd->port(), {.credentials = "ann:secret"});
+    open(tape, serverAt(guarded.address()));
+    StallWatch watch;
+    waitUntil([this] { return passwordQuestions > 0; });
+    linger();
+    return watch.longest();
+}
+
+StallScenarios::Duration StallScenarios::sendTo(const Faults &faults,
+                                                const std::function<void(const FaultyServer &)> &whileSending)
+{
+    const FaultyServer server(cupsd->port(), faults);
+    sendingServer = faults.silent ? silentServerAt(server.address()) : serverAt(server.address());
+    openAndSettle(tape);
+    StallWatch watch;
+    Hands::click(button(QStringLiteral("Print")));
+    whileSending(server);
+    waitUntil([this] { return !window->isSending(); });
+    return watch.longest();
+}
+
+void StallScenarios::makeLarge() const
+{
+    QFile file(documentPath);
+    if (!file.open(QIODevice::ReadWrite))
+        return;
+    const QByteArray pdf = file.readAll();
+    // In front of the last lines, which say where everything is.
+    const qsizetype tail = pdf.lastIndexOf("startxref");
+    file.seek(tail);
+    file.write("\n%" + QByteArray(30'000'000, 'x') + '\n' + pdf.mid(tail));
+}
+
+StallScenarios::Duration StallScenarios::refusedJob()
+{
+    cupsd->reject(tape, QStringLiteral("closed"));
+    const Duration longest = sendTo({}, [](const FaultyServer &) {});
+    cupsd->run(QStringLiteral("cupsaccept"), {tape});
+    return longest;
+}
+
+StallScenarios::Duration StallScenarios::brokenUpload()
+{
+    makeLarge();
+    return sendTo({.breakAfter = 1'000'000}, [](const FaultyServer &) {});
+}
+
+StallScenarios::Duration StallScenarios::fullSpool()
+{
+    makeLarge();
+    cupsd->setSpoolFull(true);
+    const Duration longest = sendTo({}, [](const FaultyServer &) {});
+    cupsd->setSpoolFull(false);
+    return longest;
+}
+
+StallScenarios::Duration StallScenarios::silentWhileSending()
+{
+    return sendTo({.silent = true}, [](const FaultyServer &) {});
+}
+
+StallScenarios::Duration StallScenarios::stoppedUpload()
+{
+    makeLarge();
+    return sendTo({.stallAfter = 500'000}, [this](const FaultyServer &server) {
+        waitUntil([&] { return server.stalledCount() == 1; });
+        Hands::click(button(QStringLiteral("Stop sending")));
+    });
+}
+
+StallScenarios::Duration StallScenarios::closedWhileSending()
+{
+    return sendTo({.delay = slowness}, [this](const FaultyServer &server) {
+        waitUntil([&] { return server.requestCount(IPP_OP_CREATE_JOB) == 1; });
+        window->close();
+    });
+}
+
+StallScenarios::Duration StallScenarios::thousandsOfPages()
+{
+    const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
+    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+    return sendTo({}, [](const FaultyServer &) {});
+}
+
+StallScenarios::Duration StallScenarios::followedJob()
+{
+    cupsd->setMediaEmpty(true);
+    openAndSettle(tape);
+    print();
+    dialog::JobWindow job(sharedServer(), tape, sender->jobId(), QStringLiteral("labels.pdf"));
+    job.show();
+    StallWatch watch;
+    linger();
+    cupsd->setMediaEmpty(false);
+    waitUntil([&] { return !job.isVisible(); });
+    return watch.longest();
+}
+
+} // namespace bench

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "StallWatch.h"
+
+#include <FaultyServer.h>
+#include <QueueDialogFixture.h>
+
+namespace bench {
+
+/// What happens around an open print dialog that might hold up its window: servers that are silent, slow,
+/// gone or refuse a job, and queues, PPDs and documents that are large. Each scenario answers for how long
+/// the event loop did not answer at the longest.
+class StallScenarios : public QueueDialogTest {
+public:
+    using Duration = StallWatch::Duration;
+    using Scenario = Duration (StallScenarios::*)();
+
+    /// Starts the server and its queue, for all scenarios; ended by endServer().
+    static void startServer();
+    static void endServer() { QueueDialogTest::TearDownTestSuite(); }
+
+    /// Runs it with nothing left of an earlier one.
+    Duration run(Scenario scenario);
+
+    /// A window of Qt with one line, in place of the dialog.
+    Duration bareWindow();
+    Duration silentServer();
+    Duration slowServer();
+    Duration serverThatIsGone();
+    Duration serverThatBreaks();
+    Duration thousandQueues();
+    Duration manyPapers();
+    Duration hugePpd();
+    Duration damagedPpd();
+    Duration replacedPpd();
+    Duration thousandsOfOptions();
+    Duration stateOfTheQueue();
+    Duration deletedQueue();
+    Duration password();
+    Duration refusedJob();
+    Duration brokenUpload();
+    Duration fullSpool();
+    Duration silentWhileSending();
+    Duration stoppedUpload();
+    Duration closedWhileSending();
+    Duration thousandsOfPages();
+    Duration followedJob();
+
+private:
+    void TestBody() override {}
+
+    /// Gives the window as much time as an answer of any scenario's server takes.
+    static void linger();
+    Duration openOn(const QByteArray &ppd);
+    Duration sendTo(const Faults &faults, const std::function<void(const FaultyServer &)> &meanwhile);
+    /// Makes the document so large that the systems of both sides do not hold it.
+    void makeLarge() const;
+};
+
+} // namespace bench
