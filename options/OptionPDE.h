@@ -62,6 +62,7 @@ public:
     /// Special tape is applied first, since it enables and disables others, and the rest in table order. A
     /// count whose field only the automatic cut enables follows it. A choice that a check box cannot show,
     /// the third of a list, is skipped, and so is a count that typing its number would not choose.
+    PDEChoices shownChoices() const override;
     void applyUserChoices(const PDEChoices &choices) override;
     std::optional<QVariantMap> summaryInfoFor(const PDEChoices &given) const override;
 
@@ -220,6 +221,8 @@ private:
     void saveSetting(OptionKind kind);
     /// What saving writes for an option that it writes; absent for a list without choices.
     std::optional<QString> choiceToSave(OptionKind kind) const;
+    /// The choice that the option's control stands for, whatever special tape makes of it.
+    std::optional<QString> choiceShown(OptionKind kind) const;
     int boxIndexToSave(const OptionRow &row) const;
     int countIndexToSave() const;
     QString chainedAutoCutToSave() const;

@@ -62,6 +62,17 @@ std::optional<QString> OptionPDE13_v400_::choiceToSave(OptionKind kind) const
     return keywordAt(choices(kind), boxIndexToSave(row(kind)));
 }
 
+std::optional<QString> OptionPDE13_v400_::choiceShown(OptionKind kind) const
+{
+    const bool chained = kind == OptionKind::AutoCut && !mAutoCutHideKey_dec;
+    const QCheckBox *const box = chained ? mCutEveryChkBx : checkBox(kind);
+    if (kind == OptionKind::CutLabel || !controls::isShown(box))
+        return choiceToSave(kind);
+    if (chained)
+        return controls::state(box) == 1 ? QStringLiteral("ON") : QStringLiteral("OFF");
+    return keywordAt(choices(kind), controls::state(box));
+}
+
 int OptionPDE13_v400_::boxIndexToSave(const OptionRow &row) const
 {
     const QCheckBox *const box = this->*row.box;

@@ -7,6 +7,17 @@
 
 #include <algorithm>
 
+PDEChoices OptionPDE13_v400_::shownChoices() const
+{
+    PDEChoices shown;
+    for (const OptionRow &row : optionTable) {
+        const std::optional<QString> choice = option(row.kind) ? choiceShown(row.kind) : std::nullopt;
+        if (choice)
+            shown.emplace_back(QLatin1String(row.keyword), *choice);
+    }
+    return shown;
+}
+
 void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
 {
     // Special tape comes first, since what is saved for the cutter depends on it. A control that the paper
@@ -18,7 +29,7 @@ void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
     };
     for (const OptionKind kind : order) {
         const std::optional<QString> choice = choiceGiven(kind, choices);
-        if (!choice || !option(kind) || choiceToSave(kind) == choice)
+        if (!choice || !option(kind) || choiceShown(kind) == choice)
             continue;
         if (kind == OptionKind::CutLabel)
             applyToCount(indexGiven(kind, choices));

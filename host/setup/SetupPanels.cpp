@@ -52,6 +52,17 @@ PanelSettings SetupPanels::settings() const
     return panel() ? m_panels.session->settings() : PanelSettings();
 }
 
+PDEChoices SetupPanels::choicesToKeep() const
+{
+    PDEChoices choices = settings().choices;
+    const auto *const controls = dynamic_cast<const PDEUserChoices_v1 *>(panel());
+    for (const auto &[keyword, choice] : controls ? controls->shownChoices() : PDEChoices()) {
+        if (findChoice(choices, keyword))
+            setChoice(choices, keyword, choice);
+    }
+    return choices;
+}
+
 std::optional<QVariantMap> SetupPanels::summary(const PDEChoices &choices) const
 {
     PDEPanel *const shown = panel();
@@ -96,6 +107,8 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
     }
     const QScopedValueRollback operating(m_isOperating, true);
     const PDEChoices wanted = wantedChoices(retry);
+    const PDEChoices saved = settings().choices;
+    const PDEChoices shown = choicesToKeep();
     save();
     for (const auto &[keyword, choice] : wanted) {
         // Only choices that were replaced before are not marked by now.
@@ -105,6 +118,10 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
     action();
     PDEChoices dropped = wanted;
     std::erase_if(dropped, [&](const auto &each) { return ppd().markedChoice(each.first) != each.second; });
+    for (auto &[keyword, choice] : dropped) {
+        if (findChoice(saved, keyword) == choice)
+            choice = findChoice(shown, keyword).value_or(choice);
+    }
     apply(dropped);
     noteReplaced(wanted);
 }

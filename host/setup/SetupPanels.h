@@ -46,6 +46,9 @@ public:
 
     /// What the panel would save now; empty without a panel. Changes nothing.
     PanelSettings settings() const;
+    /// What the panel would save, and where one of its rules replaces a choice for the time being, as special tape
+    /// does with half cuts, the choice that its control still shows.
+    PDEChoices choicesToKeep() const;
     /// The panel's lines of the summary for these choices; absent without a panel or when it has none.
     std::optional<QVariantMap> summary(const PDEChoices &choices) const;
 

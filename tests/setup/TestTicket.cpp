@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 using host::PrinterSetup;
@@ -88,11 +89,15 @@ protected:
     static void choosePreset(PrinterSetup &setup, int index)
     {
         const host::PanelSettings before = setup.panelSettings();
+        walkToPreset(setup, index);
+        setup.notePanelInput(before);
+    }
+    static void walkToPreset(const PrinterSetup &setup, int index)
+    {
         QComboBox *const list = presets(setup);
         const Qt::Key key = index > list->currentIndex() ? Qt::Key_Down : Qt::Key_Up;
         while (list->currentIndex() != index)
             QTest::keyClick(list, key);
-        setup.notePanelInput(before);
     }
 
     static void choosePaper(PrinterSetup &setup, const QByteArray &name)
@@ -134,7 +139,7 @@ TEST_F(TicketTest, APresetIsInTheJobBeforeThePanelHasSavedIt)
     const auto setup = sample("kvelland-lx900");
     const Choices marked = marks(*setup);
     for (int index = 0; index < presets(*setup)->count(); ++index) {
-        choosePreset(*setup, index);
+        walkToPreset(*setup, index);
         EXPECT_EQ(marks(*setup), marked);
         const Choices sent = cutOptions(*setup);
         const bool special = box(*setup, "mSpecialTapeChkBx")->isChecked();
@@ -169,6 +174,34 @@ TEST_F(TicketTest, PresetsAndBoxesStayThroughVisitsAndPapersOnEveryPrinter)
                 EXPECT_EQ(cutOptions(*setup), chosen)
                     << printer << " preset " << index << " back from " << paper.name.constData();
             }
+        }
+    }
+}
+
+TEST_F(TicketTest, WhatSpecialTapeMasksIsThereAgainWhenItIsOff)
+{
+    // The boxes of what special tape excludes stay as they are, greyed, and count again later.
+    const auto setup = sample("kvelland-lx900");
+    const auto visits = {std::function<void()>([&] { setup->announcePanel(); }), std::function<void()>([&] {
+                             const host::PpdPaper first = *setup->paper();
+                             choosePaper(*setup, setup->ppd().papers().back().name);
+                             setup->choosePaper(first);
+                         }),
+                         std::function<void()>([&] { setup->choose("PrintDensity", "Dark"); })};
+    for (int index = 0; index < presets(*setup)->count(); ++index) {
+        choosePreset(*setup, index);
+        if (box(*setup, "mSpecialTapeChkBx")->isChecked())
+            continue;
+        const Choices chosen = cutOptions(*setup);
+        for (const auto &visit : visits) {
+            click(box(*setup, "mSpecialTapeChkBx"));
+            const Choices special = cutOptions(*setup);
+            EXPECT_EQ(special.at("KvChainPrint"), "OFF");
+            visit();
+            EXPECT_EQ(cutOptions(*setup), special) << "preset " << index;
+            EXPECT_TRUE(setup->replacedChoices().isEmpty()) << "preset " << index;
+            click(box(*setup, "mSpecialTapeChkBx"));
+            EXPECT_EQ(cutOptions(*setup), chosen) << "preset " << index;
         }
     }
 }

@@ -46,6 +46,10 @@ public:
                            {PDESummaryDisplayOrderKey, QStringList{QStringLiteral("Heard")}}};
     }
 
+    PDEChoices shownChoices() const override
+    {
+        return {{QStringLiteral("KvMirror"), m_box.isChecked() ? QStringLiteral("ON") : QStringLiteral("OFF")}};
+    }
     void applyUserChoices(const PDEChoices &choices) override
     {
         for (const auto &[keyword, choice] : choices) {
