@@ -21,6 +21,8 @@ public:
     void setPlan(const host::CutPlan &plan, const host::LabelRenderer &renderer);
     /// Shows nothing.
     void clear();
+    /// The plan that is shown; null while there is none.
+    const host::CutPlan *plan() const { return m_plan; }
 
     /// Paints only where the labels lie the next time, and all of it right afterwards, so that the
     /// window need not wait for the document's pages.

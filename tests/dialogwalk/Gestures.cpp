@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Gestures.h"
+
+#include "Hands.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QWindow>
+
+namespace dialogwalk {
+
+bool Gestures::pickRow(QComboBox *list, int row)
+{
+    QApplication::setDoubleClickInterval(0);
+    Hands::click(list);
+    QAbstractItemView *const view = list->view();
+    const bool isOpen =
+        waitUntil([&] { return view->isVisible() && view->window()->windowHandle()->isExposed(); });
+    const bool isEnabled = view->model()->index(row, 0).flags() & Qt::ItemIsEnabled;
+    if (!isOpen || !isEnabled) {
+        list->hidePopup();
+        QApplication::processEvents();
+        return false;
+    }
+    // The list takes no click at once with the one that opened it.
+    QApplication::processEvents();
+    clickRow(view, row);
+    return waitUntil([&] { return !view->isVisible(); });
+}
+
+void Gestures::clickRow(QAbstractItemView *list, int row)
+{
+    const QModelIndex index = list->model()->index(row, 0);
+    list->scrollTo(index);
+    QWidget *const window = list->window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                      list->viewport()->mapTo(window, list->visualRect(index).center()));
+    QApplication::processEvents();
+}
+
+void Gestures::pressIn(QWidget *control, Qt::Key key)
+{
+    control->setFocus(Qt::TabFocusReason);
+    Hands::press(control->window(), key);
+}
+
+GoOn::GoOn()
+{
+    qApp->installEventFilter(this);
+}
+
+GoOn::~GoOn()
+{
+    qApp->removeEventFilter(this);
+}
+
+bool GoOn::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *const question = event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
+    if (!question)
+        return false;
+    QMetaObject::invokeMethod(
+        question,
+        [question] {
+            for (QAbstractButton *const button : question->buttons()) {
+                if (question->buttonRole(button) == QMessageBox::AcceptRole)
+                    return button->click();
+            }
+        },
+        Qt::QueuedConnection);
+    return false;
+}
+
+} // namespace dialogwalk
