@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CutPlan.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace host {
@@ -27,7 +28,7 @@ LabelEnd labelEnd(const CutSettings &settings, std::size_t position, std::size_t
 
 PlannedLabel plannedLabel(const CutSettings &settings, int page, const LabelExtent &extent)
 {
-    PlannedLabel label{page, extent.length, 0.0, {}};
+    PlannedLabel label{page, extent.length, 0.0, {}, extent.isMeasured || !settings.removeBlank};
     if (settings.removeBlank && !extent.whollyBlank) {
         label.trimmedBefore = extent.leadingBlank;
         label.length -= extent.leadingBlank + extent.trailingBlank;
@@ -41,11 +42,12 @@ std::vector<Piece> piecesOf(const std::vector<PlannedLabel> &labels)
     bool begin = true;
     for (std::size_t i = 0; i < labels.size(); ++i) {
         if (begin)
-            pieces.push_back({i, 0, 0.0, false});
+            pieces.push_back({i, 0, 0.0, false, true});
         Piece &piece = pieces.back();
         ++piece.labelCount;
         piece.length += labels[i].length;
         piece.held = labels[i].end.held;
+        piece.isMeasured = piece.isMeasured && labels[i].isMeasured;
         begin = labels[i].end.fullCut;
     }
     return pieces;
@@ -67,6 +69,7 @@ CutPlan CutPlan::make(const CutSettings &settings, std::span<const int> pagesInO
         plan.m_labels.push_back(label);
     }
     plan.m_pieces = piecesOf(plan.m_labels);
+    plan.m_isMeasured = std::ranges::all_of(plan.m_pieces, &Piece::isMeasured);
     return plan;
 }
 

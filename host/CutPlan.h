@@ -17,6 +17,10 @@ struct LabelExtent {
     double trailingBlank = 0.0;
     /// Nothing is on the label at all.
     bool whollyBlank = false;
+    /// Whether the blank is known. Until then it counts as 0.
+    bool isMeasured = true;
+
+    bool operator==(const LabelExtent &) const = default;
 };
 
 /// What the printer does to the tape after a label.
@@ -42,6 +46,10 @@ struct PlannedLabel {
     /// What was taken off before the label's first mark, in millimetres.
     double trimmedBefore = 0.0;
     LabelEnd end;
+    /// Whether the length is final: blank that is to be taken off has been measured.
+    bool isMeasured = true;
+
+    bool operator==(const PlannedLabel &) const = default;
 };
 
 /// What one can take away: the stretch between two full cuts, or an end of the strip.
@@ -52,6 +60,10 @@ struct Piece {
     double length = 0.0;
     /// Its end is still in the printer.
     bool held = false;
+    /// Whether the lengths of all its labels are final.
+    bool isMeasured = true;
+
+    bool operator==(const Piece &) const = default;
 };
 
 /// How a job comes out of the printer: its labels in print order, and what happens after each. The one
@@ -68,6 +80,8 @@ public:
     const std::vector<PlannedLabel> &labels() const { return m_labels; }
     const std::vector<Piece> &pieces() const { return m_pieces; }
     const std::optional<double> &leadingMargin() const { return m_leadingMargin; }
+    /// Whether all lengths are final. Until then they are good for drawing only, not for figures.
+    bool isMeasured() const { return m_isMeasured; }
     /// The labels' lengths together, in millimetres.
     double stripLength() const;
     /// The tape that the job takes: strip and leading margin, in millimetres.
@@ -75,11 +89,14 @@ public:
     /// Whether the end stays in the printer.
     bool isEndHeld() const { return !m_labels.empty() && m_labels.back().end.held; }
 
+    bool operator==(const CutPlan &) const = default;
+
 private:
     CutSettings m_settings;
     std::optional<double> m_leadingMargin;
     std::vector<PlannedLabel> m_labels;
     std::vector<Piece> m_pieces;
+    bool m_isMeasured = true;
 };
 
 } // namespace host

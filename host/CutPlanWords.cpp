@@ -41,6 +41,11 @@ double rounded(double millimetres)
     return std::round(millimetres * 100.0) / 100.0;
 }
 
+QJsonValue lengthJson(double millimetres, bool isMeasured)
+{
+    return isMeasured ? QJsonValue(rounded(millimetres)) : QJsonValue();
+}
+
 QJsonObject labelJson(const PlannedLabel &label)
 {
     QJsonArray after;
@@ -52,7 +57,8 @@ QJsonObject labelJson(const PlannedLabel &label)
         if (happens)
             after.append(QLatin1String(name));
     }
-    return {{"page", label.page + 1}, {"length", rounded(label.length)}, {"after", after}};
+    return {
+        {"page", label.page + 1}, {"length", lengthJson(label.length, label.isMeasured)}, {"after", after}};
 }
 
 } // namespace
@@ -67,6 +73,11 @@ QString lengthInWords(double millimetres)
     return Text::tr("%1 mm", "a length").arg(number);
 }
 
+QString tapeInWords(const CutPlan &plan)
+{
+    return plan.isMeasured() ? lengthInWords(plan.tapeUsed()) : Text::tr("measuring\u2026", "a length");
+}
+
 QString cutPlanFigures(const CutPlan &plan)
 {
     const QLocale locale;
@@ -76,7 +87,7 @@ QString cutPlanFigures(const CutPlan &plan)
                  lengthInWords(plan.tapeUsed()));
     return Text::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
         .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
-             locale.toString(static_cast<qulonglong>(plan.pieces().size())), lengthInWords(plan.tapeUsed()));
+             locale.toString(static_cast<qulonglong>(plan.pieces().size())), tapeInWords(plan));
 }
 
 QStringList cutPlanSentences(const CutPlan &plan)
@@ -111,14 +122,14 @@ QJsonObject cutPlanJson(const CutPlan &plan)
     for (const Piece &piece : plan.pieces()) {
         pieces.append(QJsonObject{{"firstLabel", static_cast<qint64>(piece.firstLabel) + 1},
                                   {"labels", static_cast<qint64>(piece.labelCount)},
-                                  {"length", rounded(piece.length)},
+                                  {"length", lengthJson(piece.length, piece.isMeasured)},
                                   {"held", piece.held}});
     }
     const std::optional<double> &margin = plan.leadingMargin();
     return {{"labels", labels},
             {"pieces", pieces},
             {"leadingMargin", margin ? QJsonValue(rounded(*margin)) : QJsonValue()},
-            {"tapeUsed", rounded(plan.tapeUsed())}};
+            {"tapeUsed", lengthJson(plan.tapeUsed(), plan.isMeasured())}};
 }
 
 } // namespace host

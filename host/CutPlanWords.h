@@ -12,6 +12,9 @@ namespace host {
 /// A length in the user's number format, for instance "36.5 mm".
 QString lengthInWords(double millimetres);
 
+/// The tape that the plan takes, or that it is still being measured.
+QString tapeInWords(const CutPlan &plan);
+
 /// The plan's figures in one line: labels, pieces, tape.
 QString cutPlanFigures(const CutPlan &plan);
 
@@ -19,7 +22,8 @@ QString cutPlanFigures(const CutPlan &plan);
 QStringList cutPlanSentences(const CutPlan &plan);
 
 /// The plan for programs: "labels" (page from 1, length, what follows), "pieces", "tapeUsed" and
-/// "leadingMargin" (null when the printer does not tell); lengths in millimetres.
+/// "leadingMargin" (null when the printer does not tell); lengths in millimetres, null while they are
+/// measured.
 QJsonObject cutPlanJson(const CutPlan &plan);
 
 } // namespace host

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <numeric>
 
 namespace host {
 
@@ -20,6 +21,9 @@ struct Text {
 
 LabelDocument::LabelDocument() = default;
 LabelDocument::~LabelDocument() = default;
+LabelDocument::Source::Source() = default;
+LabelDocument::Source::~Source() = default;
+LabelDocument::Source::Source(Source &&) noexcept = default;
 
 Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const QStringList &names)
 {
@@ -41,6 +45,24 @@ Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const 
 Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const QString &name)
 {
     return open(QStringList(name));
+}
+
+LabelDocument::Source LabelDocument::source() const
+{
+    Source source;
+    source.files = m_files;
+    for (const auto &document : m_documents)
+        source.pdfs.push_back(document->source());
+    return source;
+}
+
+std::unique_ptr<LabelDocument> LabelDocument::openAgain(Source source)
+{
+    std::unique_ptr<LabelDocument> document(new LabelDocument);
+    document->m_files = std::move(source.files);
+    for (PdfSource &pdf : source.pdfs)
+        document->m_documents.push_back(OpenedDocument::openAgain(std::move(pdf)));
+    return document;
 }
 
 void LabelDocument::append(const QString &name, std::unique_ptr<OpenedDocument> document)
@@ -77,16 +99,53 @@ std::size_t LabelDocument::indexOf(int page) const
     return static_cast<std::size_t>(next - m_files.begin()) - 1;
 }
 
-QSizeF LabelDocument::pageSize(int page) const
+LabelDocument::Place LabelDocument::placeOf(int page) const
 {
     const std::size_t index = indexOf(page);
-    return m_documents[index]->pages().pageSize(page - m_files[index].firstPage);
+    return {m_documents[index]->pages(), page - m_files[index].firstPage};
+}
+
+QSizeF LabelDocument::pageSize(int page) const
+{
+    const Place place = placeOf(page);
+    return place.pages.pageSize(place.page);
+}
+
+QSizeF LabelDocument::statedPageSize(int page) const
+{
+    const Place place = placeOf(page);
+    return place.pages.statedSize(place.page);
+}
+
+bool LabelDocument::isPageSizeKnown(int page) const
+{
+    const Place place = placeOf(page);
+    return place.pages.knownSizes()[static_cast<std::size_t>(place.page)].has_value();
+}
+
+void LabelDocument::setStatedPageSize(int page, QSizeF size) const
+{
+    const Place place = placeOf(page);
+    place.pages.setStatedSize(place.page, size);
 }
 
 QImage LabelDocument::render(int page, QSize size) const
 {
-    const std::size_t index = indexOf(page);
-    return m_documents[index]->pages().render(page - m_files[index].firstPage, size);
+    const Place place = placeOf(page);
+    return place.pages.render(place.page, size);
+}
+
+QImage LabelDocument::renderTransparent(int page, QSize size) const
+{
+    const Place place = placeOf(page);
+    return place.pages.renderTransparent(place.page, size);
+}
+
+int LabelDocument::drawingCount() const
+{
+    return std::accumulate(m_documents.begin(), m_documents.end(), 0, [](int sum, const auto &document) {
+        return sum + document->pages().drawingCount();
+    });
 }
 
 std::optional<DocumentError> LabelDocument::checkForPrinting() const

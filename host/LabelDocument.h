@@ -16,6 +16,8 @@
 namespace host {
 
 class OpenedDocument;
+class PdfPages;
+struct PdfSource;
 
 /// One of the documents of a job: its place in the sequence of pages, and what is sent of it.
 struct DocumentFile {
@@ -59,6 +61,32 @@ public:
     /// The page on white. The size is in pixels; a page that cannot be drawn is left white.
     QImage render(int page, QSize size) const;
 
+    /// What another thread needs to draw the same pages.
+    struct Source {
+        Source();
+        ~Source();
+        Source(Source &&) noexcept;
+
+        std::vector<DocumentFile> files;
+        std::vector<PdfSource> pdfs;
+    };
+    /// Opens the files once more, quickly; what has changed since is left out, and its pages are white.
+    Source source() const;
+    /// The documents of another instance, read with files of its own by the thread that calls. For drawing
+    /// only: the first instance keeps the temporary files and checks them before printing.
+    static std::unique_ptr<LabelDocument> openAgain(Source source);
+
+    /// Whether pageSize() answers without waiting for pdfium, which another thread may keep busy.
+    bool isPageSizeKnown(int page) const;
+    /// The size as the PDF states it, which may be no size at all.
+    QSizeF statedPageSize(int page) const;
+    /// Adds a stated size that another instance has read.
+    void setStatedPageSize(int page, QSizeF size) const;
+    /// The page on nothing: transparent where nothing is drawn, null when it cannot be drawn.
+    QImage renderTransparent(int page, QSize size) const;
+    /// How many pages this instance has drawn.
+    int drawingCount() const;
+
     /// Checks what opening leaves out so as to be quick: pages far behind in long documents, and whether the
     /// files are still what was opened. To be asked before anything is sent; takes seconds for tens of
     /// thousands of pages, and no time for those that checkAhead() has done.
@@ -73,6 +101,12 @@ private:
     void append(const QString &name, std::unique_ptr<OpenedDocument> document);
     /// The document that the page belongs to.
     std::size_t indexOf(int page) const;
+    /// A page of one document.
+    struct Place {
+        const PdfPages &pages;
+        int page;
+    };
+    Place placeOf(int page) const;
 
     std::vector<DocumentFile> m_files;
     std::vector<std::unique_ptr<OpenedDocument>> m_documents;

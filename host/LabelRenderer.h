@@ -2,52 +2,60 @@
 #pragma once
 
 #include "CutPlan.h"
-#include "LabelDocument.h"
+#include "LabelDrawing.h"
 
 #include <QCache>
 #include <QHash>
 
+#include <memory>
+
 namespace host {
+
+class BlankMeasurer;
+class LabelPictures;
+class PageThread;
 
 /// Whether only a label's length is asked for, or also the blank at its ends, which takes a drawing.
 enum class MeasureBlank { No, Yes };
 
-/// Lays the document's pages on labels of one paper and draws them as they lie on the tape: the edge that
-/// leaves the printer first on the left, the length of the label from left to right.
-///
-/// A page that stands upright while the label lies (or the other way round) is turned, so that its left
-/// edge comes first; otherwise its top does. A page larger than the label is shrunk to it, a smaller one
-/// stays as large as it is; both are centred.
+/// The labels of a document on one paper: their lengths and pictures. With a page thread, as windows have it,
+/// blank is measured and pictures for the screen are drawn in the background; without one, at once.
 class LabelRenderer {
 public:
     /// The paper's width and length in points. The document is borrowed.
     LabelRenderer(const LabelDocument &document, QSizeF paper);
+    /// The thread is borrowed and is the document's.
+    LabelRenderer(const LabelDocument &document, QSizeF paper, PageThread &thread);
+    ~LabelRenderer();
 
+    QSizeF paper() const { return m_drawing.paper(); }
     /// Length along the tape and width across it, in millimetres.
-    QSizeF labelSize() const { return m_label; }
-    /// Whether the page is too large for the label.
-    bool shrinks(int page) const { return scale(page) < 1.0; }
+    QSizeF labelSize() const { return m_drawing.labelSize(); }
+    /// Whether the page is too large for the label. With a page thread, false for a page whose size is not
+    /// read yet; it is when its picture is there.
+    bool shrinks(int page) const;
     /// The direction on the strip in which the page's lines of text run, for mirroring.
     Qt::Orientation readingDirection(int page) const
     {
-        return isTurned(page) ? Qt::Horizontal : Qt::Vertical;
+        return m_drawing.isTurned(page) ? Qt::Horizontal : Qt::Vertical;
     }
+    /// With a page thread, a page whose blank is asked for and not known is not measured yet in the answer;
+    /// it is measured in the background, and measurer() reports it.
     LabelExtent extent(int page, MeasureBlank blank) const;
+    /// Null without a page thread.
+    BlankMeasurer *measurer() const { return m_measurer.get(); }
 
-    /// The whole label, white where the page has nothing. Fewer pixels than asked for when the image would
-    /// be too large to hold. The images drawn last are kept.
+    /// The whole label, white where the page has nothing, drawn at once. Fewer pixels than asked for when the
+    /// image would be too large to hold. The images drawn last are kept.
     QImage render(int page, double pixelsPerMillimetre) const;
+    /// Pictures for a widget, drawn in the background; null without a page thread.
+    std::unique_ptr<LabelPictures> makePictures() const;
 
 private:
-    bool isTurned(int page) const;
-    /// The page's size on the strip in millimetres, before shrinking: length and width.
-    QSizeF pageOnStrip(int page) const;
-    double scale(int page) const;
-    QImage draw(int page, double pixelsPerMillimetre) const;
-
     const LabelDocument &m_document;
-    QSizeF m_paper;
-    QSizeF m_label;
+    LabelDrawing m_drawing;
+    PageThread *m_thread = nullptr;
+    std::unique_ptr<BlankMeasurer> m_measurer;
     mutable QHash<int, LabelExtent> m_measured;
     mutable QCache<QPair<int, int>, QImage> m_images;
 };

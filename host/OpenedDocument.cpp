@@ -82,6 +82,20 @@ Result<std::unique_ptr<OpenedDocument>, DocumentProblem> OpenedDocument::open(co
     return document;
 }
 
+std::unique_ptr<OpenedDocument> OpenedDocument::openAgain(PdfSource source)
+{
+    std::unique_ptr<OpenedDocument> document(new OpenedDocument);
+    document->m_pages = PdfPages::openAgain(std::move(source));
+    return document;
+}
+
+PdfSource OpenedDocument::source() const
+{
+    auto file = openRegularFile(m_path);
+    const bool isSame = file && file.value().stamp == m_stamp;
+    return {isSame ? std::move(file.value().file) : nullptr, m_pages->knownSizes()};
+}
+
 std::optional<DocumentProblem> OpenedDocument::checkForPrinting() const
 {
     if (fileStamp(m_path) != m_stamp)

@@ -21,6 +21,10 @@ public:
 
     /// Opens a file, or standard input by its name "-", which is read to its end.
     static Result<std::unique_ptr<OpenedDocument>, DocumentProblem> open(const QString &name);
+    /// The pages of another instance, for another thread. Has no path, so it is not for printing.
+    static std::unique_ptr<OpenedDocument> openAgain(PdfSource source);
+    /// The source for openAgain(), without a file when the file at the path is another one now.
+    PdfSource source() const;
 
     const PdfPages &pages() const { return *m_pages; }
     /// The path of the PDF to send.

@@ -37,28 +37,46 @@ double withinLimits(double side)
 
 } // namespace
 
-PdfPages::PdfPages(std::unique_ptr<QFile> file)
+PdfPages::PdfPages(std::unique_ptr<QFile> file, PageSizes sizes)
     : m_file(std::move(file))
+    , m_sizes(std::move(sizes))
 {
 }
 
 Result<std::unique_ptr<PdfPages>, DocumentProblem> PdfPages::open(std::unique_ptr<QFile> file)
 {
-    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file)));
+    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file), {}));
     pages->m_pdf.load(pages->m_file.get());
     if (auto problem = loadingProblem(pages->m_pdf.error()))
         return *problem;
     if (pages->pageCount() < 1)
         return DocumentProblem{DocumentFailure::Empty, Text::tr("it has no pages")};
+    pages->m_sizes.resize(static_cast<std::size_t>(pages->pageCount()));
     if (auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
         return *problem;
     return pages;
 }
 
+std::unique_ptr<PdfPages> PdfPages::openAgain(PdfSource source)
+{
+    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(source.file), std::move(source.sizes)));
+    if (pages->m_file)
+        pages->m_pdf.load(pages->m_file.get());
+    return pages;
+}
+
 QSizeF PdfPages::pageSize(int page) const
 {
-    const QSizeF size = m_pdf.pagePointSize(page);
+    const QSizeF size = statedSize(page);
     return {withinLimits(size.width()), withinLimits(size.height())};
+}
+
+QSizeF PdfPages::statedSize(int page) const
+{
+    std::optional<QSizeF> &known = m_sizes[static_cast<std::size_t>(page)];
+    if (!known)
+        known = m_pdf.pagePointSize(page);
+    return *known;
 }
 
 QImage PdfPages::render(int page, QSize size) const
@@ -67,8 +85,14 @@ QImage PdfPages::render(int page, QSize size) const
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.drawImage(QPoint(), m_pdf.render(page, size));
+    painter.drawImage(QPoint(), renderTransparent(page, size));
     return image;
+}
+
+QImage PdfPages::renderTransparent(int page, QSize size) const
+{
+    ++m_drawingCount;
+    return m_pdf.render(page, size);
 }
 
 std::optional<DocumentProblem> PdfPages::checkSize(QSizeF size, int page)
@@ -95,7 +119,7 @@ bool PdfPages::checkAhead(const QDeadlineTimer &until) const
 std::optional<DocumentProblem> PdfPages::checkPagesUpTo(int end) const
 {
     for (; m_checked < end; ++m_checked) {
-        if (auto problem = checkSize(m_pdf.pagePointSize(m_checked), m_checked))
+        if (auto problem = checkSize(statedSize(m_checked), m_checked))
             return problem;
     }
     return std::nullopt;

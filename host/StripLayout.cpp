@@ -68,4 +68,15 @@ std::pair<std::size_t, std::size_t> StripLayout::labelsBetween(double left, doub
             static_cast<std::size_t>(std::max(first, end) - m_labelStarts.begin())};
 }
 
+std::pair<std::size_t, std::size_t> StripLayout::piecesBetween(double left, double right) const
+{
+    const std::vector<Piece> &pieces = m_plan.pieces();
+    const auto [firstLabel, endLabel] = labelsBetween(left, right);
+    const auto after = std::ranges::upper_bound(pieces, firstLabel, {}, &Piece::firstLabel);
+    const auto end = std::ranges::lower_bound(pieces, endLabel, {}, &Piece::firstLabel);
+    const auto first = after == pieces.begin() ? after : after - 1;
+    return {static_cast<std::size_t>(first - pieces.begin()),
+            static_cast<std::size_t>(std::max(first, end) - pieces.begin())};
+}
+
 } // namespace host

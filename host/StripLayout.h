@@ -34,6 +34,8 @@ public:
     double boundaryAfter(std::size_t index) const;
     /// The labels that the stretch from left to right touches: first and one past the last.
     std::pair<std::size_t, std::size_t> labelsBetween(double left, double right) const;
+    /// The same for pieces.
+    std::pair<std::size_t, std::size_t> piecesBetween(double left, double right) const;
 
 private:
     const CutPlan &m_plan;

@@ -62,9 +62,11 @@ StripColors StripColors::forPalette(const QPalette &palette)
 }
 
 StripPainter::StripPainter(const StripLayout &layout, const LabelRenderer &renderer,
-                           const StripColors &colors, double pixelsPerMillimetre)
+                           const StripColors &colors, double pixelsPerMillimetre,
+                           const LabelPictures *pictures)
     : m_layout(layout)
     , m_renderer(renderer)
+    , m_pictures(pictures)
     , m_colors(colors)
     , m_resolution(pixelsPerMillimetre)
 {
@@ -90,11 +92,9 @@ void StripPainter::paint(QPainter &painter, double left, double right) const
 
 void StripPainter::paintDraft(QPainter &painter, double left, double right) const
 {
-    for (std::size_t i = 0; i < m_layout.plan().pieces().size(); ++i) {
-        const QRectF piece = m_layout.piece(i);
-        if (piece.right() >= left && piece.left() <= right)
-            painter.fillRect(backing(piece), backingColor);
-    }
+    const auto [firstPiece, endPiece] = m_layout.piecesBetween(left, right);
+    for (std::size_t i = firstPiece; i < endPiece; ++i)
+        painter.fillRect(backing(m_layout.piece(i)), backingColor);
     const auto [first, end] = m_layout.labelsBetween(left, right);
     for (std::size_t i = first; i < end; ++i)
         painter.fillRect(m_layout.label(i), Qt::white);
@@ -107,10 +107,9 @@ QRectF StripPainter::backing(const QRectF &tape) const
 
 void StripPainter::paintBacking(QPainter &painter, double left, double right) const
 {
-    for (std::size_t i = 0; i < m_layout.plan().pieces().size(); ++i) {
+    const auto [first, end] = m_layout.piecesBetween(left, right);
+    for (std::size_t i = first; i < end; ++i) {
         const QRectF piece = m_layout.piece(i);
-        if (piece.right() < left || piece.left() > right)
-            continue;
         painter.fillRect(backing(piece), backingColor);
         paintPieceLength(painter, i);
     }
@@ -126,10 +125,9 @@ void StripPainter::paintOutlines(QPainter &painter, double left, double right) c
     // White tape on white paper would have no ends.
     painter.setPen(QPen(backingColor.darker(150), units(0.18)));
     painter.setBrush(Qt::NoBrush);
-    for (std::size_t i = 0; i < m_layout.plan().pieces().size(); ++i) {
+    const auto [first, end] = m_layout.piecesBetween(left, right);
+    for (std::size_t i = first; i < end; ++i) {
         const QRectF piece = m_layout.piece(i);
-        if (piece.right() < left || piece.left() > right)
-            continue;
         const QRectF outline = backing(piece);
         const bool last = i + 1 == m_layout.plan().pieces().size();
         painter.drawLine(outline.topLeft(), outline.topRight());
@@ -144,6 +142,21 @@ void StripPainter::paintLabel(QPainter &painter, std::size_t index) const
 {
     const PlannedLabel &planned = m_layout.plan().labels()[index];
     const QRectF label = m_layout.label(index);
+    if (!m_pictures)
+        paintPicture(painter, index, m_renderer.render(planned.page, m_resolution));
+    else if (const QImage *const picture = m_pictures->picture(planned.page))
+        paintPicture(painter, index, *picture);
+    else
+        painter.fillRect(label, Qt::white);
+    const QRectF number(label.left(), -units(8.5), label.width(), units(3.6));
+    if (label.width() > units(5.0))
+        paintText(painter, number, QLocale().toString(static_cast<qulonglong>(index) + 1), m_colors.faint);
+}
+
+void StripPainter::paintPicture(QPainter &painter, std::size_t index, const QImage &picture) const
+{
+    const PlannedLabel &planned = m_layout.plan().labels()[index];
+    const QRectF label = m_layout.label(index);
     painter.save();
     painter.setClipRect(label, Qt::IntersectClip);
     if (m_layout.plan().settings().mirror) {
@@ -154,11 +167,8 @@ void StripPainter::paintLabel(QPainter &painter, std::size_t index) const
     }
     // The whole image, clipped, so that a PDF holds it once however often the label is printed.
     const QRectF whole(QPointF(label.left() - planned.trimmedBefore, 0.0), m_renderer.labelSize());
-    painter.drawImage(whole, m_renderer.render(planned.page, m_resolution));
+    painter.drawImage(whole, picture);
     painter.restore();
-    const QRectF number(label.left(), -units(8.5), label.width(), units(3.6));
-    if (label.width() > units(5.0))
-        paintText(painter, number, QLocale().toString(static_cast<qulonglong>(index) + 1), m_colors.faint);
 }
 
 void StripPainter::paintBoundary(QPainter &painter, std::size_t index) const
@@ -274,7 +284,9 @@ void StripPainter::paintPieceLength(QPainter &painter, std::size_t index) const
         painter.drawLine(QPointF(x, y - units(1.0)), QPointF(x, y + units(1.0)));
     const double margin = index == 0 ? m_layout.leadingMargin().width() : 0.0;
     const QRectF area(piece.left() - units(10.0), y + units(1.2), piece.width() + units(20.0), units(4.4));
-    paintText(painter, area, lengthInWords(planned.length + margin), m_colors.ink);
+    const QString length =
+        planned.isMeasured ? lengthInWords(planned.length + margin) : QStringLiteral("\u2026");
+    paintText(painter, area, length, m_colors.ink);
 }
 
 void StripPainter::paintText(QPainter &painter, const QRectF &area, const QString &text,

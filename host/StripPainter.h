@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "LabelPictures.h"
 #include "LabelRenderer.h"
 #include "StripLayout.h"
 
@@ -27,9 +28,10 @@ struct StripColors {
 /// that stays in the printer, and each piece's length.
 class StripPainter {
 public:
-    /// Layout and renderer are borrowed. Labels are drawn with that many pixels a millimetre.
+    /// Layout, renderer and pictures are borrowed. Without pictures, labels are drawn with that many pixels
+    /// a millimetre; with pictures, labels whose picture is not there yet are left white.
     StripPainter(const StripLayout &layout, const LabelRenderer &renderer, const StripColors &colors,
-                 double pixelsPerMillimetre);
+                 double pixelsPerMillimetre, const LabelPictures *pictures = nullptr);
 
     /// Draws what lies between left and right, in the layout's millimetres, which must be the painter's
     /// coordinates.
@@ -42,6 +44,7 @@ private:
     void paintBacking(QPainter &painter, double left, double right) const;
     void paintOutlines(QPainter &painter, double left, double right) const;
     void paintLabel(QPainter &painter, std::size_t index) const;
+    void paintPicture(QPainter &painter, std::size_t index, const QImage &picture) const;
     void paintBoundary(QPainter &painter, std::size_t index) const;
     void paintFullCut(QPainter &painter, double x) const;
     void paintHalfCut(QPainter &painter, double x) const;
@@ -56,6 +59,7 @@ private:
 
     const StripLayout &m_layout;
     const LabelRenderer &m_renderer;
+    const LabelPictures *m_pictures;
     StripColors m_colors;
     double m_resolution;
 };

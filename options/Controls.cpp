@@ -15,9 +15,9 @@ bool isEnabled(const QWidget *control)
     return control && control->isEnabledTo(control->parentWidget());
 }
 
-bool isReachable(const QWidget *control)
+bool isShown(const QWidget *control)
 {
-    return isEnabled(control) && !isHidden(control);
+    return control && !isHidden(control);
 }
 
 int state(const QCheckBox *box)

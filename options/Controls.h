@@ -13,8 +13,8 @@ namespace controls {
 bool isHidden(const QWidget *control);
 /// The control's own enabled flag, whatever its surroundings are.
 bool isEnabled(const QWidget *control);
-/// Whether the user can operate the control: it is there, neither hidden nor disabled itself.
-bool isReachable(const QWidget *control);
+/// Whether the control is there and not hidden itself.
+bool isShown(const QWidget *control);
 /// 1 when the box is ticked, else 0.
 int state(const QCheckBox *box);
 

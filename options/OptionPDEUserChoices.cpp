@@ -9,12 +9,12 @@
 
 void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
 {
-    // Special tape comes first, since it disables what the cutter would do and enables it again. The count
-    // stands twice, before the automatic cut that may disable its field and after the one that may enable it.
-    static constexpr std::array<OptionKind, OptionCount + 1> order = {
+    // Special tape comes first, since what is saved for the cutter depends on it. A control that the paper has
+    // disabled is set all the same: its state is saved, and a ready-made combination sets it too.
+    static constexpr std::array<OptionKind, OptionCount> order = {
         OptionKind::SpecialTape, OptionKind::CutLabel, OptionKind::CutAtEnd,   OptionKind::Mirror,
         OptionKind::AutoCut,     OptionKind::HalfCut,  OptionKind::ChainPrint, OptionKind::RemoveBlkSpace,
-        OptionKind::CutMark,     OptionKind::CutLabel,
+        OptionKind::CutMark,
     };
     for (const OptionKind kind : order) {
         const std::optional<QString> choice = choiceGiven(kind, choices);
@@ -47,7 +47,7 @@ void OptionPDE13_v400_::applyToBox(OptionKind kind, int index)
     const OptionRow &edited = row(chained ? OptionKind::CutLabel : kind);
     QCheckBox *const box = this->*edited.box;
     const bool canShow = index == 0 || index == 1;
-    if (!canShow || !controls::isReachable(box) || controls::state(box) == index)
+    if (!canShow || !controls::isShown(box) || controls::state(box) == index)
         return;
     controls::setState(box, index);
     if (mOptionView)
@@ -58,7 +58,7 @@ void OptionPDE13_v400_::applyToBox(OptionKind kind, int index)
 
 void OptionPDE13_v400_::applyToCount(int index)
 {
-    if (index < 0 || !controls::isReachable(mCutEveryTxBx))
+    if (index < 0 || !controls::isShown(mCutEveryTxBx))
         return;
     const QString count =
         (*mCutEvery_Choices)[static_cast<std::size_t>(index)]->ppdTitle().value_or(QString());

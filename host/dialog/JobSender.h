@@ -27,6 +27,8 @@ public:
 
     /// One of sent() and failed() follows. What the job borrows is only used during the call.
     virtual void send(const ReadyJob &job) = 0;
+    /// Whether the sender needs the plan of the strip with all lengths; a print server does not.
+    virtual bool needsStrip() const { return false; }
     /// Takes the job back while it is on its way; failed() follows, or sent() if it was too late.
     virtual void cancel() = 0;
 

@@ -49,6 +49,14 @@ PagePreview::PagePreview(const host::LabelDocument &document, QWidget *parent)
 void PagePreview::setRenderer(const host::LabelRenderer &renderer)
 {
     m_renderer = &renderer;
+    if (!m_pictures || m_pictures->paper() != renderer.paper()) {
+        m_pictures = renderer.makePictures();
+        if (m_pictures)
+            connect(m_pictures.get(), &host::LabelPictures::drawn, this, [this] {
+                showNote();
+                m_canvas->update();
+            });
+    }
     go(m_page);
 }
 
@@ -59,8 +67,14 @@ void PagePreview::go(int page)
     m_next->setEnabled(page + 1 < m_document.pageCount());
     m_number->setText(tr("Page %1 of %2").arg(page + 1).arg(m_document.pageCount()));
     m_canvas->setAccessibleName(m_number->text());
-    m_note->setVisible(m_renderer && m_renderer->shrinks(page));
+    showNote();
+    m_isComplete = false;
     m_canvas->update();
+}
+
+void PagePreview::showNote()
+{
+    m_note->setVisible(m_renderer && m_renderer->shrinks(m_page));
 }
 
 bool PagePreview::eventFilter(QObject *watched, QEvent *event)
@@ -72,7 +86,7 @@ bool PagePreview::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
-void PagePreview::paintLabel(QPaintDevice *device) const
+void PagePreview::paintLabel(QPaintDevice *device)
 {
     const QSizeF label = m_renderer->labelSize();
     const QSizeF room(m_canvas->width() - 16.0, m_canvas->height() - 16.0);
@@ -83,9 +97,24 @@ void PagePreview::paintLabel(QPaintDevice *device) const
     area.moveCenter(QRectF(m_canvas->rect()).center());
     QPainter painter(device);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.drawImage(area, m_renderer->render(m_page, scale * m_canvas->devicePixelRatioF()));
+    paintPicture(painter, area, scale * m_canvas->devicePixelRatioF());
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(area);
+}
+
+void PagePreview::paintPicture(QPainter &painter, const QRectF &area, double pixelsPerMillimetre)
+{
+    if (!m_pictures) {
+        painter.drawImage(area, m_renderer->render(m_page, pixelsPerMillimetre));
+        m_isComplete = true;
+        return;
+    }
+    m_pictures->show({m_page}, pixelsPerMillimetre);
+    m_isComplete = m_pictures->isComplete();
+    if (const QImage *const picture = m_pictures->picture(m_page))
+        painter.drawImage(area, *picture);
+    else
+        painter.fillRect(area, Qt::white);
 }
 
 } // namespace dialog

@@ -13,9 +13,9 @@
 #include "StripPreview.h"
 #include "WaitingWords.h"
 
+#include <host/BlankMeasurer.h>
 #include <host/CutPlanWords.h>
 
-#include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -24,13 +24,6 @@
 #include <QVBoxLayout>
 
 namespace dialog {
-
-namespace {
-
-/// For how long documents are checked at a time.
-constexpr std::chrono::milliseconds checkSlice{5};
-
-} // namespace
 
 PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
                          JobSender &sender, const DialogWishes &wishes, QWidget *parent)
@@ -103,6 +96,10 @@ void PrintDialog::connectAll()
     m_pages->setSummary([this] { return summary(); });
     m_pages->setTicket([this] { return m_ticket && m_pagesError.isEmpty() ? &m_ticket->job : nullptr; });
     connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::lookAtPanel);
+    connect(&m_pageCheck, &host::PageCheck::done, this, [this] {
+        if (std::exchange(m_printsWhenChecked, false))
+            accept();
+    });
     connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
     connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
@@ -177,7 +174,8 @@ void PrintDialog::applyPaper()
     m_plan.reset();
     const host::PrinterSetup *const setup = m_keeper.setup();
     const QSizeF paper = host::shownPaper(setup, *m_document);
-    auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper);
+    auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper, m_pageThread);
+    connect(renderer->measurer(), &host::BlankMeasurer::measured, this, &PrintDialog::refreshLater);
     m_pages->setRenderer(*renderer);
     m_renderer = std::move(renderer);
 }
@@ -275,15 +273,7 @@ void PrintDialog::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     pageShown();
-    QTimer::singleShot(0, this, &PrintDialog::checkAhead);
-}
-
-void PrintDialog::checkAhead()
-{
-    if (!m_document->checkAhead(QDeadlineTimer(checkSlice)))
-        QTimer::singleShot(0, this, &PrintDialog::checkAhead);
-    else if (std::exchange(m_printsWhenChecked, false))
-        accept();
+    m_pageCheck.start();
 }
 
 void PrintDialog::showAtOnce()
@@ -299,9 +289,19 @@ std::optional<QString> PrintDialog::prepare()
     if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
         return error->message;
     refresh();
+    if (m_sender.needsStrip())
+        finishMeasuring();
     if (m_ticket->panel.refusal)
         return m_ticket->panel.refusal;
     return m_pagesError.isEmpty() ? std::nullopt : std::optional(m_pagesError);
+}
+
+void PrintDialog::finishMeasuring()
+{
+    if (!m_plan || m_plan->isMeasured())
+        return;
+    m_renderer->measurer()->finish();
+    refresh();
 }
 
 bool PrintDialog::isPrepared()
@@ -348,8 +348,8 @@ void PrintDialog::accept()
         m_sendBar->end();
         return;
     }
-    if (isVisible() && !m_document->checkAhead(QDeadlineTimer(checkSlice))) {
-        // It has thousands of pages; checkAhead() goes on, and the window stays alive meanwhile.
+    if (isVisible() && !m_pageCheck.isDone()) {
+        // It has thousands of pages; the check goes on, and the window stays alive meanwhile.
         m_printsWhenChecked = true;
         m_sendBar->begin(m_draft.title);
         return;

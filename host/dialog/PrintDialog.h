@@ -4,6 +4,8 @@
 #include "JobSender.h"
 #include "SummaryPage.h"
 
+#include <host/PageCheck.h>
+#include <host/PageThread.h>
 #include <host/setup/SetupKeeper.h>
 
 #include <QDialog>
@@ -51,6 +53,8 @@ public:
     void print();
     /// Readies the job for sending without sending it; why that cannot be done, or nothing.
     std::optional<QString> prepare();
+    /// Waits until the lengths of all labels are known, for runs whose output depends on them.
+    void finishMeasuring();
     /// Why the last print() failed; empty when it did not.
     const QString &problem() const;
     /// Whether a job is on its way, or will be as soon as its document is checked.
@@ -87,7 +91,6 @@ private:
     /// Refreshes when the panel would save something else than the ticket says.
     void lookAtPanel();
     void pageShown();
-    void checkAhead();
     /// Readies the job; when it cannot be, says why and leaves the dialog as it was.
     bool isPrepared();
     void send();
@@ -95,6 +98,9 @@ private:
     void stayOpen();
 
     std::shared_ptr<const host::LabelDocument> m_document;
+    /// Before all that draws and measures with it.
+    host::PageThread m_pageThread{*m_document};
+    host::PageCheck m_pageCheck{*m_document, m_pageThread};
     host::SetupKeeper &m_keeper;
     JobSender &m_sender;
     bool m_refreshPending = false;

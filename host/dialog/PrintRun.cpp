@@ -113,11 +113,12 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
     if ((printsAtOnce || m_command.task == Task::DryRun) && !canPrintAtOnce(dialog))
         return ExitStatus::Failed;
     if (m_command.task != Task::Print) {
+        dialog.finishMeasuring();
         tellSummary(dialog.summary());
         return ExitStatus::Printed;
     }
     if (printsAtOnce) {
-        sender.setPictureTaker([&] { return dialog.grab().toImage(); });
+        sender.setPictureTaker([&] { return completePicture(dialog); });
         dialog.print();
         if (!dialog.problem().isEmpty()) {
             m_console.complain(dialog.problem());

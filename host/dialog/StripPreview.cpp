@@ -2,6 +2,7 @@
 #include "StripPreview.h"
 
 #include <host/CutPlanWords.h>
+#include <host/Units.h>
 
 #include <QEvent>
 #include <QPainter>
@@ -34,20 +35,37 @@ StripPreview::StripPreview(QWidget *parent)
 
 void StripPreview::setPlan(const host::CutPlan &plan, const host::LabelRenderer &renderer)
 {
-    m_plan = &plan;
     m_renderer = &renderer;
+    const bool hasSamePaper = m_paper == renderer.paper();
+    if (hasSamePaper && m_plan == plan)
+        return;
+    m_layout.reset();
+    m_plan = plan;
+    m_paper = renderer.paper();
+    if (!hasSamePaper || !m_pictures) {
+        m_pictures = renderer.makePictures();
+        if (m_pictures)
+            connect(m_pictures.get(), &host::LabelPictures::drawn, this, [this] { viewport()->update(); });
+    }
     setAccessibleDescription(host::cutPlanFigures(plan) + u' ' + host::cutPlanSentences(plan).join(u' '));
     layOut();
 }
 
 void StripPreview::clear()
 {
-    m_plan = nullptr;
+    m_renderer = nullptr;
+    // Mostly another plan follows at once, and the strip stays as it is, and where it is scrolled to.
+    QMetaObject::invokeMethod(this, &StripPreview::dropCleared, Qt::QueuedConnection);
+}
+
+void StripPreview::dropCleared()
+{
+    if (m_renderer || !m_plan)
+        return;
     m_layout.reset();
+    m_plan.reset();
     setAccessibleDescription(QString());
-    viewport()->update();
-    // Mostly another plan follows at once, and the strip stays where it is scrolled to.
-    QMetaObject::invokeMethod(this, &StripPreview::layOut, Qt::QueuedConnection);
+    layOut();
 }
 
 QSize StripPreview::sizeHint() const
@@ -63,11 +81,12 @@ double StripPreview::unitPixels() const
 void StripPreview::layOut()
 {
     viewport()->update();
+    m_isComplete = false;
     if (!m_plan) {
         horizontalScrollBar()->setRange(0, 0);
         return;
     }
-    const double tapeWidth = m_renderer->labelSize().height();
+    const double tapeWidth = m_paper.width() * host::millimetresPerPoint;
     // The layout needs 18 units above and below the tape, and a little air. The scroll bar's room is never
     // used: a strip that grew into it when it goes would need it again.
     const int height = maximumViewportSize().height() - horizontalScrollBar()->sizeHint().height();
@@ -82,9 +101,15 @@ void StripPreview::layOut()
 
 void StripPreview::paintEvent(QPaintEvent *)
 {
+    dropCleared();
     if (!m_layout)
         return;
     QPainter painter(viewport());
+    paintStrip(painter);
+}
+
+void StripPreview::paintStrip(QPainter &painter)
+{
     const QRectF bounds = m_layout->bounds();
     const double spare = viewport()->height() - bounds.height() * m_pixelsPerMillimetre;
     painter.translate(-horizontalScrollBar()->value(), spare / 2.0);
@@ -93,13 +118,39 @@ void StripPreview::paintEvent(QPaintEvent *)
     const double left = bounds.left() + horizontalScrollBar()->value() / m_pixelsPerMillimetre;
     const double right = left + viewport()->width() / m_pixelsPerMillimetre;
     const host::StripPainter strip(*m_layout, *m_renderer, host::StripColors::forPalette(palette()),
-                                   m_pixelsPerMillimetre * devicePixelRatioF());
+                                   m_pixelsPerMillimetre * devicePixelRatioF(), m_pictures.get());
+    requestPictures(left, right);
     if (std::exchange(m_draftFirst, false)) {
         strip.paintDraft(painter, left, right);
         QTimer::singleShot(0, viewport(), [this] { viewport()->update(); });
     } else {
         strip.paint(painter, left, right);
+        finishPainting();
     }
+}
+
+void StripPreview::requestPictures(double left, double right)
+{
+    if (!m_pictures)
+        return;
+    const auto [first, end] = m_layout->labelsBetween(left, right);
+    std::vector<int> pages;
+    for (std::size_t i = first; i < end; ++i)
+        pages.push_back(m_plan->labels()[i].page);
+    m_pictures->show(std::move(pages), m_pixelsPerMillimetre * devicePixelRatioF());
+}
+
+void StripPreview::finishPainting()
+{
+    const bool isFinal = m_plan->isMeasured() && (!m_pictures || m_pictures->isComplete());
+    if (!std::exchange(m_isComplete, isFinal) && isFinal)
+        Q_EMIT completed();
+}
+
+void StripPreview::scrollContentsBy(int, int)
+{
+    m_isComplete = false;
+    viewport()->update();
 }
 
 void StripPreview::resizeEvent(QResizeEvent *)

@@ -19,6 +19,7 @@ public:
 
     void send(const ReadyJob &job) override;
     void cancel() override {}
+    bool needsStrip() const override { return true; }
 
     /// What takes the picture that is put beside the strip; empty for none.
     void setPictureTaker(std::function<QImage()> taker) { m_takePicture = std::move(taker); }

@@ -56,7 +56,7 @@ SummarySection stripSection(const CutPlan &plan)
     section.lines.emplace_back(Text::tr("Labels"), number(plan.labels().size()));
     if (plan.settings().areKnown)
         section.lines.emplace_back(Text::tr("Pieces"), number(plan.pieces().size()));
-    section.lines.emplace_back(Text::tr("Tape"), lengthInWords(plan.tapeUsed()));
+    section.lines.emplace_back(Text::tr("Tape"), tapeInWords(plan));
     section.lines.emplace_back(Text::tr("Cuts"), cutPlanSentences(plan).join(u' '));
     return section;
 }

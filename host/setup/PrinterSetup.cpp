@@ -177,6 +177,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     if (!panelHost())
         return;
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
+        m_panels->forgetReplaced(keyword);
         // A panel that saves what is marked anyway has not chosen anything.
         if (!choice || ppd().markedChoice(keyword) == choice)
             return;
@@ -226,6 +227,8 @@ void PrinterSetup::announcePanel()
 
 void PrinterSetup::notePanelInput(const PanelSettings &before, const PanelSettings &now)
 {
+    // A panel that tells nothing of the change has set several controls at once, by a ready-made combination.
+    m_panels->forgetReplaced(std::nullopt);
     for (const auto &[keyword, choice] : now.choices) {
         if (before.choice(keyword) != choice)
             m_lastChosen = keyword;

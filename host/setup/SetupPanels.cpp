@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SetupPanels.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 
 namespace host {
@@ -67,6 +69,7 @@ void SetupPanels::announce()
 
 void SetupPanels::choose(const QString &keyword, const QString &choice)
 {
+    const QScopedValueRollback operating(m_isOperating, true);
     PDEChoices wanted = wantedChoices(Retry::No);
     setChoice(wanted, keyword, choice);
     std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == keyword; });
@@ -91,6 +94,7 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
         action();
         return;
     }
+    const QScopedValueRollback operating(m_isOperating, true);
     const PDEChoices wanted = wantedChoices(retry);
     save();
     for (const auto &[keyword, choice] : wanted) {
@@ -103,6 +107,12 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
     std::erase_if(dropped, [&](const auto &each) { return ppd().markedChoice(each.first) != each.second; });
     apply(dropped);
     noteReplaced(wanted);
+}
+
+void SetupPanels::forgetReplaced(const std::optional<QString> &keyword)
+{
+    if (!m_isOperating)
+        std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return !keyword || each.keyword == *keyword; });
 }
 
 PDEChoices SetupPanels::wantedChoices(Retry retry)

@@ -62,6 +62,9 @@ public:
     /// What was asked for, on the panel or for it, and is saved otherwise; empty again once the user has chosen
     /// otherwise or the panel allows it.
     const std::vector<ReplacedChoice> &replaced() const { return m_replaced; }
+    /// The user has chosen the keyword on the panel, or with an absent one a combination of several: what was
+    /// asked for before does not count any more. Ignored while this object itself operates the panel.
+    void forgetReplaced(const std::optional<QString> &keyword);
 
 private:
     PpdFile &ppd() const { return m_state->ppd(); }
@@ -77,6 +80,7 @@ private:
     ClaimedPanels m_panels;
     std::optional<PanelError> m_problem;
     std::vector<ReplacedChoice> m_replaced;
+    bool m_isOperating = false;
 };
 
 } // namespace host

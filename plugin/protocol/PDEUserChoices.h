@@ -24,8 +24,9 @@ public:
 
     /// Makes each choice as though the user had made it on the panel's own control: the control shows it, the
     /// dialog receives it through willChangePPDOptionKeyValue(), and the panel's rules are applied. No alert is
-    /// shown. A choice that the panel would save anyway is skipped, and so is one whose control is hidden or
-    /// disabled or which the option does not have; the caller sees what came of it by letting the panel save.
+    /// shown. A choice that the panel would save anyway is skipped, and so is one whose control is hidden or which
+    /// the option does not have. A control that is disabled receives the choice if its state is saved all the
+    /// same. The caller sees what came of it by letting the panel save.
     /// The panel decides the order, so that a choice that enables another one is made first.
     virtual void applyUserChoices(const PDEChoices &choices) = 0;
 };

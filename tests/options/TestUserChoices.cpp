@@ -93,13 +93,14 @@ TEST_F(UserChoicesTest, SpecialTapeComesFirstAndItsRulesHold)
 {
     show(cutting());
     apply({{"KvMirror", "ON"}, {"KvHalfCut", "ON"}, {"KvSpecialTape", "ON"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvSpecialTape", "ON"}, {"KvMirror", "ON"}}))
-        << "half cut is disabled by then";
-    EXPECT_FALSE(box(OptionKind::HalfCut)->isChecked());
+    EXPECT_EQ(dialog->changes, changes({{"KvSpecialTape", "ON"}, {"KvMirror", "ON"}, {"KvHalfCut", "ON"}}));
+    EXPECT_TRUE(box(OptionKind::HalfCut)->isChecked());
     EXPECT_FALSE(isEnabled(OptionKind::HalfCut));
+    const auto half = std::ranges::find(saved(), std::pair(QStringLiteral("KvHalfCut"), QStringLiteral("ON")));
+    EXPECT_EQ(half, saved().end()) << "special tape is saved without half cuts";
 
-    apply({{"KvHalfCut", "ON"}, {"KvSpecialTape", "OFF"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvSpecialTape", "OFF"}, {"KvHalfCut", "ON"}}));
+    apply({{"KvHalfCut", "OFF"}, {"KvSpecialTape", "OFF"}});
+    EXPECT_EQ(dialog->changes, changes({{"KvSpecialTape", "OFF"}, {"KvHalfCut", "OFF"}}));
     EXPECT_TRUE(isEnabled(OptionKind::ChainPrint));
 }
 
@@ -158,12 +159,10 @@ TEST_F(UserChoicesTest, TheCountAndTheAutomaticCutAreBothMade)
     show(PpdBuilder().allOptions());
     ASSERT_FALSE(isEnabled(panel->countField()));
     apply({{"KvCutLabel", "5"}});
-    EXPECT_TRUE(dialog->changes.empty()) << "its field is disabled";
-    apply({{"KvCutLabel", "5"}, {"KvAutoTapeCut", "ON"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvAutoTapeCut", "ON"}, {"KvCutLabel", "5"}}))
-        << "the automatic cut enables the count";
-    apply({{"KvAutoTapeCut", "OFF"}, {"KvCutLabel", "9"}});
-    EXPECT_EQ(dialog->changes, changes({{"KvCutLabel", "9"}, {"KvAutoTapeCut", "OFF"}})) << "and disables it";
+    EXPECT_EQ(dialog->changes, changes({{"KvCutLabel", "5"}})) << "though its field is disabled";
+    apply({{"KvAutoTapeCut", "ON"}, {"KvCutLabel", "7"}});
+    EXPECT_EQ(dialog->changes, changes({{"KvCutLabel", "7"}, {"KvAutoTapeCut", "ON"}}));
+    EXPECT_TRUE(isEnabled(panel->countField()));
 }
 
 TEST_F(UserChoicesTest, WhatAUserCouldNotChooseIsSkipped)
@@ -179,9 +178,6 @@ TEST_F(UserChoicesTest, WhatAUserCouldNotChooseIsSkipped)
         apply({pair});
         EXPECT_TRUE(dialog->changes.empty()) << pair.first << ' ' << pair.second;
     }
-    show(everything(), "FL21x45");
-    apply({{"KvHalfCut", "ON"}, {"KvRemoveBlkSpace", "ON"}, {"KvSpecialTape", "ON"}, {"KvChainPrint", "ON"}});
-    EXPECT_TRUE(dialog->changes.empty()) << "disabled on this paper";
     show(everything());
     box(OptionKind::Mirror)->hide();
     apply({{"KvMirror", "ON"}});
@@ -189,6 +185,17 @@ TEST_F(UserChoicesTest, WhatAUserCouldNotChooseIsSkipped)
     open(everything());
     apply({{"KvMirror", "ON"}});
     EXPECT_TRUE(dialog->changes.empty()) << "not loaded";
+}
+
+TEST_F(UserChoicesTest, AControlThatThePaperDisablesReceivesWhatIsSavedFromIt)
+{
+    show(everything(), "FL21x45");
+    ASSERT_FALSE(isEnabled(OptionKind::HalfCut));
+    apply({{"KvHalfCut", "ON"}, {"KvRemoveBlkSpace", "ON"}, {"KvChainPrint", "ON"}});
+    EXPECT_EQ(dialog->changes, changes({{"KvHalfCut", "ON"}, {"KvChainPrint", "ON"}, {"KvRemoveBlkSpace", "ON"}}));
+    EXPECT_TRUE(box(OptionKind::HalfCut)->isChecked());
+    EXPECT_TRUE(box(OptionKind::RemoveBlkSpace)->isChecked());
+    EXPECT_FALSE(isEnabled(OptionKind::HalfCut));
 }
 
 TEST_F(UserChoicesTest, ACountThatItsNumberWouldNotChooseIsSkipped)

@@ -85,12 +85,14 @@ protected:
         return setup.panel()->panelView()->findChild<QComboBox *>();
     }
     /// Walks to the preset by keyboard, as the panel hears of it.
-    static void choosePreset(const PrinterSetup &setup, int index)
+    static void choosePreset(PrinterSetup &setup, int index)
     {
+        const host::PanelSettings before = setup.panelSettings();
         QComboBox *const list = presets(setup);
         const Qt::Key key = index > list->currentIndex() ? Qt::Key_Down : Qt::Key_Up;
         while (list->currentIndex() != index)
             QTest::keyClick(list, key);
+        setup.notePanelInput(before, setup.panelSettings());
     }
 
     static void choosePaper(PrinterSetup &setup, const QByteArray &name)

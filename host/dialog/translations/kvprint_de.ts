@@ -918,6 +918,11 @@
         <translation>%1 mm</translation>
     </message>
     <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>wird gemessen…</translation>
+    </message>
+    <message>
         <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
         <translation>Etiketten: %1 · Stücke: %2 · Band: %3</translation>
     </message>

@@ -917,6 +917,11 @@
         <translation>%1 mm</translation>
     </message>
     <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>midiendo…</translation>
+    </message>
+    <message>
         <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
         <translation>Etiquetas: %1 · Piezas: %2 · Cinta: %3</translation>
     </message>

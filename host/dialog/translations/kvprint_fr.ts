@@ -918,6 +918,11 @@
         <translation>%1 mm</translation>
     </message>
     <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>mesure en cours…</translation>
+    </message>
+    <message>
         <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
         <translation>Étiquettes : %1 · Morceaux : %2 · Ruban : %3</translation>
     </message>

@@ -918,6 +918,11 @@
         <translation>%1 mm</translation>
     </message>
     <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>misurazione…</translation>
+    </message>
+    <message>
         <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
         <translation>Etichette: %1 · Pezzi: %2 · Nastro: %3</translation>
     </message>

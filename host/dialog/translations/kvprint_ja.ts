@@ -916,6 +916,11 @@
         <translation>%1 mm</translation>
     </message>
     <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>測定中…</translation>
+    </message>
+    <message>
         <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
         <translation>ラベル: %1 · 切り離し片: %2 · テープ: %3</translation>
     </message>

@@ -916,6 +916,11 @@
         <translation>%1 毫米</translation>
     </message>
     <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>正在测量…</translation>
+    </message>
+    <message>
         <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
         <translation>标签：%1 · 段数：%2 · 用量：%3</translation>
     </message>

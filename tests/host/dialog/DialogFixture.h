@@ -7,6 +7,7 @@
 #include <host/CutPlanWords.h>
 #include <host/Units.h>
 #include <host/dialog/PrintDialog.h>
+#include <host/dialog/StripPreview.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -134,6 +135,14 @@ protected:
         }
         QApplication::processEvents();
         EXPECT_EQ(tabs->tabText(tabs->currentIndex()).remove(u'&'), QLatin1String(title));
+    }
+
+    /// Returns when the strip shows the job as it will come out.
+    void awaitStrip() const
+    {
+        const auto *const strip = window->findChild<dialog::StripPreview *>();
+        while (!strip->isComplete())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 
     QString line(const QString &section, const QString &title) const

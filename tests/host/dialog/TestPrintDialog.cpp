@@ -39,6 +39,7 @@ TEST_F(PrintDialogTest, AClickOnThePanelIsSeenOnTheStripAtOnce)
     click(box("mMirrorPrintChkBx"));
     EXPECT_TRUE(stripInWords().contains(QStringLiteral("mirrored")));
     click(box("mRemoveBlkSpaceChkBx"));
+    awaitStrip();
     EXPECT_TRUE(stripInWords().contains(QStringLiteral("Tape: 62."))) << stripInWords().toStdString();
 }
 
@@ -51,8 +52,28 @@ TEST_F(PrintDialogTest, ThePagesOfALongDocumentAreCheckedBeforeAnybodyWaitsForIt
     host::SetupKeeper printer(makeSetup({}));
     dialog::PrintDialog print(document, printer, sender, dialog::DialogWishes());
     print.show();
-    // Asking checks a page itself, but would not get through so many.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return document->checkAhead(QDeadlineTimer(0)); }, 15000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return document->isPageSizeKnown(4'999); }, 15000));
+}
+
+TEST_F(PrintDialogTest, BlankIsMeasuredAndDrawnWithoutTheMainThread)
+{
+    auto opened = host::LabelDocument::open(documentPath);
+    ASSERT_TRUE(opened) << opened.error().message.toStdString();
+    const std::shared_ptr<const host::LabelDocument> document = std::move(opened).value();
+    keeper = std::make_unique<host::SetupKeeper>(
+        makeSetup(QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle")));
+    window = std::make_unique<dialog::PrintDialog>(document, *keeper, sender, dialog::DialogWishes());
+    window->show();
+    awaitStrip();
+    for (int time = 0; time < 3; ++time) {
+        click(box("mRemoveBlkSpaceChkBx"));
+        awaitStrip();
+        const bool isRemoved = time % 2 == 0;
+        EXPECT_EQ(stripInWords().contains(QStringLiteral("Tape: 182 mm")), !isRemoved)
+            << stripInWords().toStdString();
+    }
+    EXPECT_EQ(document->drawingCount(), 0);
+    window.reset();
 }
 
 TEST_F(PrintDialogTest, AnotherPaperIsMarkedAnnouncedAndShown)

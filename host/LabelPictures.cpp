@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LabelPictures.h"
+
+#include "LabelDrawing.h"
+
+#include <QDeadlineTimer>
+
+#include <algorithm>
+#include <chrono>
+
+namespace host {
+
+namespace {
+
+/// Pictures come to the window after that time, and not all at the end.
+constexpr std::chrono::milliseconds slice{30};
+constexpr qint64 mostBytes = 128LL * 1024 * 1024;
+
+} // namespace
+
+LabelPictures::LabelPictures(const LabelDocument &document, PageThread &thread, QSizeF paper)
+    : m_document(document)
+    , m_thread(thread)
+    , m_paper(paper)
+{
+}
+
+bool LabelPictures::isDrawn(int page) const
+{
+    const auto found = m_pictures.constFind(page);
+    return found != m_pictures.constEnd() && found->resolution == m_resolution;
+}
+
+const QImage *LabelPictures::picture(int page) const
+{
+    const auto found = m_pictures.constFind(page);
+    return found == m_pictures.constEnd() ? nullptr : &found->image;
+}
+
+void LabelPictures::show(std::vector<int> pages, double pixelsPerMillimetre)
+{
+    m_shown = std::move(pages);
+    m_resolution = pixelsPerMillimetre;
+    m_missing.clear();
+    for (const int page : m_shown) {
+        // Copies of a page lie side by side.
+        if (!isDrawn(page) && std::ranges::find(m_missing, page) == m_missing.end())
+            m_missing.push_back(page);
+    }
+    start();
+}
+
+void LabelPictures::start()
+{
+    if (m_isDrawing || m_missing.empty())
+        return;
+    m_isDrawing = true;
+    const auto draw = [this, pages = m_missing, paper = m_paper, resolution = m_resolution](
+                          const LabelDocument &document, const PageThread::ShouldPause &shouldPause) {
+        const LabelDrawing drawing(document, paper);
+        const QDeadlineTimer end(slice);
+        std::vector<Drawn> results;
+        for (const int page : pages) {
+            results.push_back({page, drawing.draw(page, resolution), document.statedPageSize(page)});
+            if (end.hasExpired() || shouldPause())
+                break;
+        }
+        return [this, results = std::move(results), resolution] { store(results, resolution); };
+    };
+    m_thread.run(PageThread::Urgency::Shown, this, draw);
+}
+
+void LabelPictures::store(const std::vector<Drawn> &results, double resolution)
+{
+    m_isDrawing = false;
+    for (const Drawn &drawn : results) {
+        m_document.setStatedPageSize(drawn.page, drawn.statedPageSize);
+        Picture &picture = m_pictures[drawn.page];
+        m_bytes += drawn.image.sizeInBytes() - picture.image.sizeInBytes();
+        picture = {drawn.image, resolution};
+    }
+    std::erase_if(m_missing, [this](int page) { return isDrawn(page); });
+    if (m_bytes > mostBytes)
+        dropUnseen();
+    start();
+    Q_EMIT drawn();
+}
+
+void LabelPictures::dropUnseen()
+{
+    QHash<int, Picture> seen;
+    m_bytes = 0;
+    for (const int page : m_shown) {
+        if (const auto found = m_pictures.constFind(page);
+            found != m_pictures.constEnd() && !seen.contains(page)) {
+            seen.insert(page, *found);
+            m_bytes += found->image.sizeInBytes();
+        }
+    }
+    m_pictures = std::move(seen);
+}
+
+} // namespace host
