@@ -86,6 +86,9 @@ std::vector<JobChoice> PrinterSetup::choicesNow() const
 std::vector<JobChoice> PrinterSetup::choicesAndRefusedWishes() const
 {
     std::vector<JobChoice> all = choicesNow();
+    // Another setup, on another paper or with another description, may be able to do them.
+    for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
+        setJobChoice(all, {each.keyword.toUtf8(), each.choice.toUtf8(), Origin::Panel});
     for (const JobChoice &wish : m_refusedWishes) {
         if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
             all.push_back(wish);
@@ -229,6 +232,8 @@ void PrinterSetup::notePanelInput(const PanelSettings &before, const PanelSettin
 {
     // A panel that tells nothing of the change has set several controls at once, by a ready-made combination.
     m_panels->forgetReplaced(std::nullopt);
+    // A control that is operated next may read its neighbour's mark anew, so the marks follow the controls.
+    m_panels->markSettings();
     for (const auto &[keyword, choice] : now.choices) {
         if (before.choice(keyword) != choice)
             m_lastChosen = keyword;

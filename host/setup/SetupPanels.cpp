@@ -109,6 +109,13 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
     noteReplaced(wanted);
 }
 
+void SetupPanels::markSettings()
+{
+    const QScopedValueRollback operating(m_isOperating, true);
+    if (panel())
+        save();
+}
+
 void SetupPanels::forgetReplaced(const std::optional<QString> &keyword)
 {
     if (!m_isOperating)

@@ -52,6 +52,8 @@ public:
     void announce();
     /// Makes a choice for one of the panel's keywords, on the panel's own controls where they allow it.
     void choose(const QString &keyword, const QString &choice);
+    /// Has the panel save what its controls have. The user is not taken to have chosen anything by that.
+    void markSettings();
     /// Whether choices that were replaced before are tried again: another paper may allow them.
     enum class Retry { No, Yes };
     /// Runs the action, which may make the panel refresh its controls, in between of saving the panel and giving

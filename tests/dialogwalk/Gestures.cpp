@@ -4,7 +4,6 @@
 #include "Hands.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QWindow>
 
 namespace dialogwalk {
@@ -42,33 +41,6 @@ void Gestures::pressIn(QWidget *control, Qt::Key key)
 {
     control->setFocus(Qt::TabFocusReason);
     Hands::press(control->window(), key);
-}
-
-GoOn::GoOn()
-{
-    qApp->installEventFilter(this);
-}
-
-GoOn::~GoOn()
-{
-    qApp->removeEventFilter(this);
-}
-
-bool GoOn::eventFilter(QObject *watched, QEvent *event)
-{
-    auto *const question = event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
-    if (!question)
-        return false;
-    QMetaObject::invokeMethod(
-        question,
-        [question] {
-            for (QAbstractButton *const button : question->buttons()) {
-                if (question->buttonRole(button) == QMessageBox::AcceptRole)
-                    return button->click();
-            }
-        },
-        Qt::QueuedConnection);
-    return false;
 }
 
 } // namespace dialogwalk

@@ -51,6 +51,15 @@ void Intent::choose(const OptionTexts &chosen)
     }
 }
 
+void Intent::accept(const OptionTexts &options, const std::vector<QByteArray> &names)
+{
+    OptionTexts &texts = m_memories[m_destination].texts;
+    for (const QByteArray &name : names) {
+        if (texts.contains(name))
+            texts[name] = options.value(name);
+    }
+}
+
 void Intent::forget()
 {
     m_memories.clear();
@@ -74,16 +83,18 @@ QString Intent::reasonFor(const WalkedDialog &dialog, const QByteArray &name, co
     if (!has(ppd, name)) {
         // The new description lacks it.
         const bool isTold = !isUsers || told.contains(QString::fromUtf8(name));
-        return isTold && !ppd.isEmpty() ? QString() : QStringLiteral("no banner says that the printer lacks it");
+        return isTold && !ppd.isEmpty() ? QString()
+                                        : QStringLiteral("no banner says that the printer lacks it");
     }
     if (!mayBeReplaced(name, dialog.options().value("PageSize")))
         return QStringLiteral("no rule replaces it");
     const host::PpdFile &file = dialog.setup().ppd();
     const QString keyword = QString::fromUtf8(name);
-    const QString sentence = QStringLiteral("\"%1\" cannot be \"%2\" with this paper and the other cut options, "
-                                            "and is printed as \"%3\".")
-                                 .arg(file.optionText(keyword), file.choiceText(keyword, QString::fromUtf8(wanted)),
-                                      file.choiceText(keyword, QString::fromUtf8(got)));
+    const QString sentence =
+        QStringLiteral("\"%1\" cannot be \"%2\" with this paper and the other cut options, "
+                       "and is printed as \"%3\".")
+            .arg(file.optionText(keyword), file.choiceText(keyword, QString::fromUtf8(wanted)),
+                 file.choiceText(keyword, QString::fromUtf8(got)));
     return told.contains(sentence) ? QString() : QStringLiteral("no banner says so: ") + told;
 }
 

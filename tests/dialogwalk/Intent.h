@@ -7,8 +7,8 @@
 
 namespace dialogwalk {
 
-/// What the user has chosen, as the test remembers it: for each destination, the options as they were when it came
-/// first, and over them the last value that the user gave each.
+/// What the user has chosen, as the test remembers it: for each destination, the options as they were when it
+/// came first, and over them the last value that the user gave each.
 class Intent {
 public:
     /// The destination is in front now, with these options.
@@ -22,8 +22,12 @@ public:
     /// Another program run: nothing is known of the user.
     void forget();
 
-    /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a choice, and
-    /// then a banner has to say so.
+    /// A rule had its way in these options, and from now on the job counts as chosen so: special tape has
+    /// been on, or a ready-made combination was picked while the paper replaced a choice.
+    void accept(const OptionTexts &options, const std::vector<QByteArray> &names);
+
+    /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a
+    /// choice, and then a banner has to say so.
     QStringList broken(const WalkedDialog &dialog) const;
     /// The options that a job of these is to have, special tape considered.
     OptionTexts wanted() const;

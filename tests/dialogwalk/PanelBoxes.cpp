@@ -13,19 +13,24 @@ namespace dialogwalk {
 namespace {
 
 constexpr PanelSwitch switches[] = {
-    {"mCutMarkChkBx", "KvCutMark"},         {"mCutEveryChkBx", "KvAutoTapeCut"},
-    {"mAutoCutChkBx", "KvAutoTapeCut"},     {"mCutAndEndChkBx", "KvCutAtEnd"},
-    {"mHalfCutChkBx", "KvHalfCut"},         {"mSpecialTapeChkBx", "KvSpecialTape"},
-    {"mChainPrintChkBx", "KvChainPrint"},   {"mMirrorPrintChkBx", "KvMirror"},
+    {"mCutMarkChkBx", "KvCutMark"},
+    {"mCutEveryChkBx", "KvAutoTapeCut"},
+    {"mAutoCutChkBx", "KvAutoTapeCut"},
+    {"mCutAndEndChkBx", "KvCutAtEnd"},
+    {"mHalfCutChkBx", "KvHalfCut"},
+    {"mSpecialTapeChkBx", "KvSpecialTape"},
+    {"mChainPrintChkBx", "KvChainPrint"},
+    {"mMirrorPrintChkBx", "KvMirror"},
     {"mRemoveBlkSpaceChkBx", "KvRemoveBlkSpace"},
 };
 
 constexpr const char *offOnSpecialTape[] = {"KvAutoTapeCut", "KvHalfCut", "KvChainPrint", "KvCutMark"};
 
-/// What a combination sets, by the tag of its item: one letter for each box in the order of presetBoxes, "1" for on,
-/// "0" for off and "." for as it is. Every combination puts mirror printing off.
-constexpr const char *presetBoxes[] = {"mCutEveryChkBx",   "mCutAndEndChkBx",   "mAutoCutChkBx", "mHalfCutChkBx",
-                                       "mChainPrintChkBx", "mSpecialTapeChkBx", "mCutMarkChkBx"};
+/// What a combination sets, by the tag of its item: one letter for each box in the order of presetBoxes, "1"
+/// for on, "0" for off and "." for as it is. Every combination puts mirror printing off.
+constexpr const char *presetBoxes[] = {"mCutEveryChkBx", "mCutAndEndChkBx",  "mAutoCutChkBx",
+                                       "mHalfCutChkBx",  "mChainPrintChkBx", "mSpecialTapeChkBx",
+                                       "mCutMarkChkBx"};
 constexpr const char *presetTable[] = {"00.....", "01.....", "10.....", "0.0000.", "0.0010.", "0.0100.",
                                        "0.0110.", "1.1000.", "1.1010.", "1.1100.", "1.1110.", ".....1.",
                                        "....0.1", "....1.1", "....1.0", "....0.0"};
@@ -109,6 +114,11 @@ OptionTexts PanelBoxes::ofPreset(int tag) const
     if (box("mMirrorPrintChkBx"))
         texts["KvMirror"] = "OFF";
     return texts;
+}
+
+std::vector<QByteArray> namesOffOnSpecialTape()
+{
+    return {std::begin(offOnSpecialTape), std::end(offOnSpecialTape)};
 }
 
 OptionTexts withSpecialTape(OptionTexts chosen)

@@ -36,8 +36,8 @@ public:
     QLineEdit *count() const { return m_count; }
     bool hasCount() const;
 
-    /// The option that the box decides; null for the box of the count where automatic cutting has a box of its own,
-    /// which decides then.
+    /// The option that the box decides; null for the box of the count where automatic cutting has a box of
+    /// its own, which decides then.
     static const char *keywordOf(const PanelBoxes &panel, const QCheckBox *box);
     /// What boxes and count say that the job has. Special tape is not cut, whatever its boxes say.
     OptionTexts saved() const;
@@ -53,6 +53,8 @@ private:
     QLineEdit *m_count = nullptr;
 };
 
+/// The options that special tape puts off.
+std::vector<QByteArray> namesOffOnSpecialTape();
 /// What special tape makes of the other choices: off are those that would cut or mark it.
 OptionTexts withSpecialTape(OptionTexts chosen);
 

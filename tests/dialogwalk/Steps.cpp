@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Steps.h"
 
-#include "Fields.h"
 #include "Gestures.h"
 #include "Hands.h"
+#include "OptionLists.h"
+#include "PageFields.h"
+#include "PaperRows.h"
 #include "Views.h"
 
 #include <host/dialog/ConflictBanner.h>
@@ -17,8 +19,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-#include <gtest/gtest.h>
 #include <QTabWidget>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -27,10 +29,10 @@ namespace dialogwalk {
 namespace {
 
 constexpr const char *names[] = {
-    "click box",   "space on box",    "toggle box",      "pick preset",     "step preset", "step count",
-    "key on count", "type count",     "set count",       "pick paper",      "step paper",  "turn to page",
-    "pick queue",  "pick option",     "step option",     "press remedy",    "type copies", "step copies",
-    "click collate", "click last first", "type pages",   "replace PPD",     "print",       "reopen",
+    "click box",     "space on box",     "toggle box",  "pick preset",  "step preset", "step count",
+    "key on count",  "type count",       "set count",   "pick paper",   "step paper",  "turn to page",
+    "pick queue",    "pick option",      "step option", "press remedy", "type copies", "step copies",
+    "click collate", "click last first", "type pages",  "replace PPD",  "print",       "reopen",
 };
 
 QPushButton *buttonOf(const QWidget *parent, const QString &text)
@@ -59,7 +61,6 @@ void Hand::enter()
 
 QString Hand::perform(const Step &step)
 {
-    const GoOn goOn;
     QString done;
     if (step.action <= Action::SetCountByAccessibility)
         done = onPanel(step);
@@ -97,6 +98,10 @@ void Hand::boxClicked(const QCheckBox *box, bool wasOn)
 {
     if (const char *const keyword = PanelBoxes::keywordOf(m_dialog.panel(), box))
         m_intent.choose({{keyword, wasOn ? "OFF" : "ON"}});
+    // What special tape has put off is on again when only boxes had it, and off when the panel was refreshed
+    // since.
+    if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
+        m_intent.accept(m_dialog.panel().chosen(), namesOffOnSpecialTape());
 }
 
 QString Hand::onBox(const Step &step)
@@ -130,6 +135,14 @@ void Hand::clickBox(const QString &name)
 
 void Hand::presetChosen(int tag)
 {
+    // A combination is the user's word about what the paper has replaced, too.
+    std::vector<QByteArray> replaced;
+    const QByteArray paper = m_dialog.options().value("PageSize");
+    for (const QString &keyword : m_dialog.printer().cutKeywords) {
+        if (mayBeReplaced(keyword.toLatin1(), paper))
+            replaced.push_back(keyword.toLatin1());
+    }
+    m_intent.accept(m_dialog.panel().chosen(), replaced);
     m_intent.choose(m_dialog.panel().ofPreset(tag));
 }
 
@@ -189,7 +202,8 @@ QString Hand::onCount(const Step &step)
     } else if (step.action == Action::TypeCount) {
         Hands::typeInto(panel.count(), QString::number(count));
     } else if (isUp) {
-        QAccessible::queryAccessibleInterface(panel.count())->setText(QAccessible::Value, QString::number(count));
+        QAccessible::queryAccessibleInterface(panel.count())
+            ->setText(QAccessible::Value, QString::number(count));
     } else {
         QAccessible::queryAccessibleInterface(panel.stepper())->valueInterface()->setCurrentValue(count);
     }
@@ -261,8 +275,8 @@ QString Hand::onOptions(const Step &step)
         return {};
     m_dialog.chooseTab(tab);
     const OptionLists options(m_dialog);
-    const std::optional<OptionTexts> chosen = step.action == Action::PickOption ? options.pick(step.number)
-                                                                                 : options.stepByKey(step.number);
+    const std::optional<OptionTexts> chosen =
+        step.action == Action::PickOption ? options.pick(step.number) : options.stepByKey(step.number);
     if (!chosen)
         return {};
     m_intent.choose(*chosen);
@@ -334,11 +348,11 @@ QString Hand::replacePpd()
 
 bool Hand::print()
 {
-    const GoOn goOn;
     QPushButton *const button = buttonOf(&m_dialog.window(), QStringLiteral("Print"));
     if (!button || !button->isEnabled())
         return false;
-    SentJob job{0, m_dialog.sentOptions(), shownStrip(m_dialog), m_dialog.server().ppd(m_dialog.destination())};
+    SentJob job{0, m_dialog.sentOptions(), shownStrip(m_dialog),
+                m_dialog.server().ppd(m_dialog.destination())};
     Hands::click(button);
     if (!waitUntil([this] { return !m_dialog.window().isSending() && !m_dialog.window().isVisible(); })) {
         ADD_FAILURE() << m_dialog.told().toStdString();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "GoOn.h"
 #include "Intent.h"
+#include "SentJob.h"
 
 #include <cstdint>
 
@@ -35,8 +37,8 @@ enum class Action {
     Reopen,
 };
 
-/// An action, and a number that picks among what is there to do it with: boxes, papers, pages. The same steps from the
-/// same beginning are the same walk, and every part of them is a walk.
+/// An action, and a number that picks among what is there to do it with: boxes, papers, pages. The same steps
+/// from the same beginning are the same walk, and every part of them is a walk.
 struct Step {
     Action action = Action::ClickBox;
     std::uint32_t number = 0;
@@ -53,8 +55,8 @@ public:
     {
     }
 
-    /// Does the step and waits until the dialog shows what follows. Answers what was done with, for a failed walk's
-    /// report; empty when there was nothing to do it with.
+    /// Does the step and waits until the dialog shows what follows. Answers what was done with, for a failed
+    /// walk's report; empty when there was nothing to do it with.
     QString perform(const Step &step);
 
     // Single gestures, for tests that choose themselves.
@@ -89,6 +91,8 @@ private:
 
     WalkedDialog &m_dialog;
     Intent &m_intent;
+    /// Alerts of the panel and questions about conflicts are answered so that the walk goes on.
+    const GoOn m_goOn;
     std::vector<SentJob> m_sent;
 };
 

@@ -146,7 +146,8 @@ PrinterFacts PrinterFacts::of(const QByteArray &ppd)
     for (auto each = size.globalMatch(text); each.hasNext();) {
         const QRegularExpressionMatch match = each.next();
         facts.papers[match.captured(1).toLatin1()] = {match.captured(2).toDouble() * millimetresPerPoint,
-                                                      match.captured(3).toDouble() * millimetresPerPoint, 0.0};
+                                                      match.captured(3).toDouble() * millimetresPerPoint,
+                                                      0.0};
     }
     static const QRegularExpression area(
         QStringLiteral("^\\*ImageableArea ([^/:]+)[^:]*: *\"[\\d.]+ [\\d.]+ [\\d.]+ ([\\d.]+)\""),

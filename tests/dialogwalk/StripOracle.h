@@ -49,13 +49,13 @@ struct ExpectedLabel {
     bool cutMark = false;
     bool held = false;
 
-    /// For example "2 60.0 FH": the page from 1, its length, and F, H, M and E for full cut, half cut, mark and
-    /// held end.
+    /// For example "2 60.0 FH": the page from 1, its length, and F, H, M and E for full cut, half cut, mark
+    /// and held end.
     QString text() const;
 };
 
-/// The strip that a printer makes of a job, by the rules of cutting alone: nothing of the program's own planning is
-/// used here.
+/// The strip that a printer makes of a job, by the rules of cutting alone: nothing of the program's own
+/// planning is used here.
 struct ExpectedStrip {
     std::vector<ExpectedLabel> labels;
     /// In millimetres, the leading margin included.
@@ -72,8 +72,8 @@ struct ExpectedStrip {
 std::optional<ExpectedStrip> expectedStrip(const OptionTexts &options, const PrinterFacts &printer,
                                            const std::vector<PageFacts> &pages);
 
-/// Where two strips part, a line each; empty when they are the same. Lengths may differ by what a measured blank
-/// is uncertain by.
+/// Where two strips part, a line each; empty when they are the same. Lengths may differ by what a measured
+/// blank is uncertain by.
 QStringList differences(const ExpectedStrip &one, const ExpectedStrip &other);
 
 } // namespace dialogwalk

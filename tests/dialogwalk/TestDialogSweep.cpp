@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// Every ready-made combination on every kind of paper, with boxes in varying states, through real windows: looking at
-// another page, trying another paper and printing leave the job as it is, and it is printed as it was shown.
+// Every ready-made combination on every kind of paper, with boxes in varying states, through real windows:
+// looking at another page, trying another paper and printing leave the job as it is, and it is printed as it
+// was shown.
 #include "Records.h"
 #include "Steps.h"
 #include "Views.h"
@@ -41,7 +42,8 @@ protected:
     bool holds(const char *what, const QByteArray &paper, int preset)
     {
         const QStringList lines = departures(dialog) + intent.broken(dialog);
-        EXPECT_EQ(lines, QStringList()) << what << " with " << paper.constData() << ", combination " << preset;
+        EXPECT_EQ(lines, QStringList())
+            << what << " with " << paper.constData() << ", combination " << preset;
         return lines.isEmpty();
     }
 
@@ -101,7 +103,8 @@ TEST_P(DialogSweep, NothingButTheUserChangesTheJob)
     for (std::size_t i = 0; isRight && i < papers.size(); ++i) {
         for (int preset = 0; isRight && preset < presets; ++preset) {
             const QByteArray paper = papers[i];
-            const QByteArray other = papers[(i + 1 + static_cast<std::size_t>(preset) % (papers.size() - 1)) % papers.size()];
+            const QByteArray other =
+                papers[(i + 1 + static_cast<std::size_t>(preset) % (papers.size() - 1)) % papers.size()];
             hand.pickPaper(paper);
             hand.pickPreset(preset);
             isRight = holds("the combination", paper, preset);

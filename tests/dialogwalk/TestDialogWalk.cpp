@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// A random walk through print dialogs with mouse, keys and accessibility: whatever is done, everything that the dialog
-// shows is what it would send, what it sends is what the printer receives, and what was chosen stays chosen.
-// KV_DIALOG_WALK_SEED repeats a walk, KV_DIALOG_WALK_STEPS makes it longer.
+// A random walk through print dialogs with mouse, keys and accessibility: whatever is done, everything that
+// the dialog shows is what it would send, what it sends is what the printer receives, and what was chosen
+// stays chosen. KV_DIALOG_WALK_SEED repeats a walk, KV_DIALOG_WALK_STEPS makes it longer.
 #include "Walk.h"
 
 #include "Dice.h"
@@ -26,14 +26,29 @@ std::uint64_t numberFromEnvironment(const char *name, std::uint64_t otherwise)
 Step randomStep(walk::Dice &dice)
 {
     static constexpr std::pair<Action, int> weights[] = {
-        {Action::ClickBox, 12},      {Action::ToggleBoxBySpaceBar, 6}, {Action::ToggleBoxByAccessibility, 6},
-        {Action::PickPreset, 8},     {Action::StepPresetByKey, 6},     {Action::StepCount, 4},
-        {Action::StepCountByKey, 3}, {Action::TypeCount, 4},           {Action::SetCountByAccessibility, 3},
-        {Action::PickPaper, 10},     {Action::StepPaperByKey, 5},      {Action::TurnToPage, 12},
-        {Action::PickQueue, 4},      {Action::PickOption, 4},          {Action::StepOptionByKey, 4},
-        {Action::PressRemedy, 8},    {Action::TypeCopies, 2},          {Action::StepCopies, 3},
-        {Action::ClickCollate, 2},   {Action::ClickLastFirst, 2},      {Action::TypePages, 4},
-        {Action::ReplacePpd, 1},     {Action::Reopen, 1},
+        {Action::ClickBox, 12},
+        {Action::ToggleBoxBySpaceBar, 6},
+        {Action::ToggleBoxByAccessibility, 6},
+        {Action::PickPreset, 8},
+        {Action::StepPresetByKey, 6},
+        {Action::StepCount, 4},
+        {Action::StepCountByKey, 3},
+        {Action::TypeCount, 4},
+        {Action::SetCountByAccessibility, 3},
+        {Action::PickPaper, 10},
+        {Action::StepPaperByKey, 5},
+        {Action::TurnToPage, 12},
+        {Action::PickQueue, 4},
+        {Action::PickOption, 4},
+        {Action::StepOptionByKey, 4},
+        {Action::PressRemedy, 8},
+        {Action::TypeCopies, 2},
+        {Action::StepCopies, 3},
+        {Action::ClickCollate, 2},
+        {Action::ClickLastFirst, 2},
+        {Action::TypePages, 4},
+        {Action::ReplacePpd, 1},
+        {Action::Reopen, 1},
     };
     int all = 0;
     for (const auto &[action, weight] : weights)
@@ -51,7 +66,8 @@ void report(WalkedServer &server, const Walk &walk, const Fault &found, std::uin
 {
     const int tries = static_cast<int>(numberFromEnvironment("KV_DIALOG_WALK_TRIES", 60));
     const auto [episode, fault] = shortest(server, walk.episode(), found, tries);
-    ADD_FAILURE() << fault.text().toStdString() << "\n-- at first, after " << found.steps.size() << " steps:\n"
+    ADD_FAILURE() << fault.text().toStdString() << "\n-- at first, after " << found.steps.size()
+                  << " steps:\n"
                   << found.departures.join(u'\n').toStdString()
                   << "\nRepeat the whole walk with KV_DIALOG_WALK_SEED=" << seed;
 }

@@ -74,12 +74,14 @@ void compareStrip(const WalkedDialog &dialog, const ExpectedStrip &expected, Agr
     const QStringList parted = differences(*shown, expected);
     if (!parted.isEmpty())
         agreement.add(QStringList{QStringLiteral("the strip shows another job than is sent:")} + parted);
-    agreement.add(compareFigures(QStringLiteral("the spoken strip"), stripOf(dialog).accessibleDescription(), expected));
+    agreement.add(compareFigures(QStringLiteral("the spoken strip"), stripOf(dialog).accessibleDescription(),
+                                 expected));
     agreement.hold(QStringLiteral("the line below the strip"), wordsBelowStrip(dialog).replace(u'\n', u' '),
                    stripOf(dialog).accessibleDescription());
 }
 
-QString lineOf(const std::vector<dialog::SummarySection> &sections, const QString &section, const QString &title)
+QString lineOf(const std::vector<dialog::SummarySection> &sections, const QString &section,
+               const QString &title)
 {
     for (const dialog::SummarySection &each : sections) {
         for (const auto &[name, value] : each.lines) {
@@ -153,7 +155,8 @@ void compareSummary(const WalkedDialog &dialog, const ExpectedStrip *strip, cons
 {
     const std::vector<dialog::SummarySection> sections = dialog.window().summary();
     const QString printing = QStringLiteral("Printing");
-    agreement.hold(QStringLiteral("the summary's copies"), lineOf(sections, printing, QStringLiteral("Copies")),
+    agreement.hold(QStringLiteral("the summary's copies"),
+                   lineOf(sections, printing, QStringLiteral("Copies")),
                    QString::fromLatin1(options.value("copies", "1")));
     agreement.hold(QStringLiteral("the summary's panel"), panelLines(sections).join(u'|'),
                    expectedPanelLines(dialog, options).join(u'|'));
@@ -171,8 +174,10 @@ void compareSummary(const WalkedDialog &dialog, const ExpectedStrip *strip, cons
                    strip->areCutsKnown ? QString::number(strip->pieces()) : QStringLiteral("(none)"));
     agreement.hold(QStringLiteral("the summary's tape"),
                    lineOf(sections, QStringLiteral("Label strip"), QStringLiteral("Tape")),
-                   stripOf(dialog).accessibleDescription().section(QStringLiteral("Tape: "), 1).section(
-                       QRegularExpression(QStringLiteral("(?<= m| mm|\u2026) ")), 0, 0));
+                   stripOf(dialog)
+                       .accessibleDescription()
+                       .section(QStringLiteral("Tape: "), 1)
+                       .section(QRegularExpression(QStringLiteral("(?<= m| mm|\u2026) ")), 0, 0));
 }
 
 QString joined(const OptionTexts &texts)
@@ -254,7 +259,8 @@ void comparePanel(const WalkedDialog &dialog, const OptionTexts &options, Agreem
 std::set<QString> brokenConstraints(const QByteArray &ppd, const OptionTexts &options)
 {
     static const QRegularExpression form(
-        QStringLiteral("^\\*(?:UIConstraints:|cupsUIConstraints \\w+:) *\"?\\*(\\w+) (\\S+) \\*(\\w+) ([^\\s\"]+)"),
+        QStringLiteral(
+            "^\\*(?:UIConstraints:|cupsUIConstraints \\w+:) *\"?\\*(\\w+) (\\S+) \\*(\\w+) ([^\\s\"]+)"),
         QRegularExpression::MultilineOption);
     std::set<QString> broken;
     for (auto each = form.globalMatch(QString::fromLatin1(ppd)); each.hasNext();) {

@@ -68,7 +68,8 @@ std::pair<Episode, Fault> shortest(WalkedServer &server, Episode failing, Fault 
         for (std::size_t at = 0; at < failing.steps.size() && tries > 0;) {
             Episode candidate = failing;
             const auto first = candidate.steps.begin() + static_cast<std::ptrdiff_t>(at);
-            candidate.steps.erase(first, first + static_cast<std::ptrdiff_t>(std::min(run, candidate.steps.size() - at)));
+            candidate.steps.erase(
+                first, first + static_cast<std::ptrdiff_t>(std::min(run, candidate.steps.size() - at)));
             Walk walk(server);
             --tries;
             if (const std::optional<Fault> its = walk.run(candidate)) {

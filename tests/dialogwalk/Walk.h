@@ -22,8 +22,8 @@ struct Fault {
     QString text() const;
 };
 
-/// Runs walks through dialogs. After every step all that the dialog shows is held to what it would send, and what it
-/// would send to what was chosen.
+/// Runs walks through dialogs. After every step all that the dialog shows is held to what it would send, and
+/// what it would send to what was chosen.
 class Walk {
 public:
     explicit Walk(WalkedServer &server)
@@ -56,7 +56,8 @@ private:
     std::size_t m_recorded = 0;
 };
 
-/// The shortest part of the episode that still has a fault, as far as it is found in so many tries; with the fault.
+/// The shortest part of the episode that still has a fault, as far as it is found in so many tries; with the
+/// fault.
 std::pair<Episode, Fault> shortest(WalkedServer &server, Episode failing, Fault fault, int tries);
 
 } // namespace dialogwalk
