@@ -180,7 +180,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     if (!panelHost())
         return;
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
-        m_panels->forgetReplaced(keyword);
+        m_panels->forgetReplaced(keyword, choice);
         // A panel that saves what is marked anyway has not chosen anything.
         if (!choice || ppd().markedChoice(keyword) == choice)
             return;
@@ -211,12 +211,18 @@ std::optional<QVariantMap> PrinterSetup::panelSummary(const PDEChoices &choices)
 
 QStringList PrinterSetup::replacedChoices() const
 {
+    const std::vector<ReplacedChoice> replaced = m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>();
+    const PanelSettings now = replaced.empty() ? PanelSettings() : panelSettings();
     QStringList sentences;
-    for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
+    for (const ReplacedChoice &each : replaced) {
+        // The user may have got it on the panel since.
+        if (now.choice(each.keyword) != each.saved)
+            continue;
         sentences.append(Text::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
                                   "printed as \"%3\".")
                              .arg(ppd().optionText(each.keyword), ppd().choiceText(each.keyword, each.choice),
                                   ppd().choiceText(each.keyword, each.saved)));
+    }
     return sentences;
 }
 
@@ -231,7 +237,7 @@ void PrinterSetup::announcePanel()
 void PrinterSetup::notePanelInput(const PanelSettings &before, const PanelSettings &now)
 {
     // A panel that tells nothing of the change has set several controls at once, by a ready-made combination.
-    m_panels->forgetReplaced(std::nullopt);
+    m_panels->forgetReplaced(std::nullopt, std::nullopt);
     // A control that is operated next may read its neighbour's mark anew, so the marks follow the controls.
     m_panels->markSettings();
     for (const auto &[keyword, choice] : now.choices) {

@@ -64,9 +64,9 @@ public:
     /// What was asked for, on the panel or for it, and is saved otherwise; empty again once the user has chosen
     /// otherwise or the panel allows it.
     const std::vector<ReplacedChoice> &replaced() const { return m_replaced; }
-    /// The user has chosen the keyword on the panel, or with an absent one a combination of several: what was
-    /// asked for before does not count any more. Ignored while this object itself operates the panel.
-    void forgetReplaced(const std::optional<QString> &keyword);
+    /// The user has made the choice on the panel, or with an absent keyword a combination of several: what else
+    /// was asked for before does not count any more. Ignored while this object itself operates the panel.
+    void forgetReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice);
 
 private:
     PpdFile &ppd() const { return m_state->ppd(); }

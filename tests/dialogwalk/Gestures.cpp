@@ -16,15 +16,18 @@ bool Gestures::pickRow(QComboBox *list, int row)
     const bool isOpen =
         waitUntil([&] { return view->isVisible() && view->window()->windowHandle()->isExposed(); });
     const bool isEnabled = view->model()->index(row, 0).flags() & Qt::ItemIsEnabled;
-    if (!isOpen || !isEnabled) {
-        list->hidePopup();
+    const bool isPicked = isOpen && isEnabled;
+    if (isPicked) {
+        // The list takes no click at once with the one that opened it.
         QApplication::processEvents();
-        return false;
+        clickRow(view, row);
+    } else {
+        list->hidePopup();
     }
-    // The list takes no click at once with the one that opened it.
-    QApplication::processEvents();
-    clickRow(view, row);
-    return waitUntil([&] { return !view->isVisible(); });
+    const bool isClosed = waitUntil([&] { return !view->isVisible(); });
+    // A window manager does so when a list closes.
+    list->window()->activateWindow();
+    return QTest::qWaitForWindowActive(list->window()) && isClosed && isPicked;
 }
 
 void Gestures::clickRow(QAbstractItemView *list, int row)

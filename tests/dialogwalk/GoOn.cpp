@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GoOn.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>

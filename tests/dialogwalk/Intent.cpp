@@ -16,6 +16,14 @@ bool isSame(const QByteArray &name, const QByteArray &one, const QByteArray &oth
     return plain(one) == plain(other);
 }
 
+/// Whether any printer does so by itself: a switch that is off where there is none.
+bool isDefault(const WalkedServer &server, const QString &destination, const QByteArray &name,
+               const QByteArray &value)
+{
+    const QByteArray line = "*Default" + name + ": " + value + '\n';
+    return server.ppd(destination, 0).contains(line);
+}
+
 bool has(const QByteArray &ppd, const QByteArray &keyword)
 {
     return ppd.contains("*OpenUI *" + keyword + '/');
@@ -38,8 +46,12 @@ bool mayBeReplaced(const QByteArray &keyword, const QByteArray &paper)
 void Intent::enter(const QString &destination, const OptionTexts &found)
 {
     m_destination = destination;
-    if (!m_memories.contains(destination))
-        m_memories[destination].texts = found;
+    if (m_memories.contains(destination))
+        return;
+    OptionTexts texts = found;
+    for (auto each = m_job.begin(); each != m_job.end(); ++each)
+        texts.remove(each.key());
+    m_memories[destination].texts = texts;
 }
 
 void Intent::choose(const OptionTexts &chosen)
@@ -48,15 +60,16 @@ void Intent::choose(const OptionTexts &chosen)
     for (auto each = chosen.begin(); each != chosen.end(); ++each) {
         memory.texts[each.key()] = each.value();
         memory.chosen.insert(each.key());
+        memory.alternatives.remove(each.key());
     }
 }
 
-void Intent::accept(const OptionTexts &options, const std::vector<QByteArray> &names)
+void Intent::alsoAccept(const OptionTexts &options, const std::vector<QByteArray> &names)
 {
-    OptionTexts &texts = m_memories[m_destination].texts;
+    Memory &memory = m_memories[m_destination];
     for (const QByteArray &name : names) {
-        if (texts.contains(name))
-            texts[name] = options.value(name);
+        if (memory.texts.contains(name))
+            memory.alternatives[name].append(options.value(name));
     }
 }
 
@@ -82,7 +95,8 @@ QString Intent::reasonFor(const WalkedDialog &dialog, const QByteArray &name, co
     const QString told = dialog.told();
     if (!has(ppd, name)) {
         // The new description lacks it.
-        const bool isTold = !isUsers || told.contains(QString::fromUtf8(name));
+        const bool isTold = !isUsers || isDefault(dialog.server(), dialog.destination(), name, wanted) ||
+                            told.contains(QString::fromUtf8(name));
         return isTold && !ppd.isEmpty() ? QString()
                                         : QStringLiteral("no banner says that the printer lacks it");
     }
@@ -103,9 +117,11 @@ QStringList Intent::broken(const WalkedDialog &dialog) const
     QStringList lines;
     const OptionTexts options = dialog.options();
     const OptionTexts all = wanted();
+    const auto &alternatives = m_memories.at(m_destination).alternatives;
     for (auto each = all.begin(); each != all.end(); ++each) {
         const QByteArray got = options.value(each.key());
-        if (isSame(each.key(), got, each.value()))
+        const bool isAccepted = alternatives.value(each.key()).contains(got);
+        if (isAccepted || isSame(each.key(), got, each.value()))
             continue;
         const QString reason = reasonFor(dialog, each.key(), each.value(), got);
         if (!reason.isEmpty())

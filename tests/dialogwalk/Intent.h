@@ -22,9 +22,10 @@ public:
     /// Another program run: nothing is known of the user.
     void forget();
 
-    /// A rule had its way in these options, and from now on the job counts as chosen so: special tape has
-    /// been on, or a ready-made combination was picked while the paper replaced a choice.
-    void accept(const OptionTexts &options, const std::vector<QByteArray> &names);
+    /// A rule has replaced these options for a while: special tape was on, or a ready-made combination was
+    /// picked while the paper replaced a choice. From now on the job may have what was chosen before, or
+    /// these values.
+    void alsoAccept(const OptionTexts &options, const std::vector<QByteArray> &names);
 
     /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a
     /// choice, and then a banner has to say so.
@@ -38,6 +39,8 @@ private:
 
     struct Memory {
         OptionTexts texts;
+        /// What the job may have instead.
+        QMap<QByteArray, QList<QByteArray>> alternatives;
         /// What the user has given a value, and not only found.
         std::set<QByteArray> chosen;
     };

@@ -17,6 +17,13 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// As filters see them: libcups writes switches in small letters, and an open end of a range as its largest
+/// number.
+QByteArray plain(const QByteArray &value)
+{
+    return value.toLower().replace("-2147483647", "-");
+}
+
 /// The server takes these for itself and hands filters the outcome in another way.
 bool isServers(const QByteArray &name)
 {
@@ -28,11 +35,11 @@ QStringList compare(const SentJob &job, const test_support::RecordedDocument &do
     QStringList lines;
     const OptionTexts recorded = optionsOf(document);
     for (auto each = job.shown.begin(); each != job.shown.end(); ++each) {
-        // libcups writes switches in small letters.
-        if (!isServers(each.key()) && recorded.value(each.key()).toLower() != each.value().toLower())
-            lines.append(QStringLiteral("%1 was shown as \"%2\", the printer received \"%3\"")
+        if (!isServers(each.key()) && plain(recorded.value(each.key())) != plain(each.value()))
+            lines.append(QStringLiteral("job %4: %1 was shown as \"%2\", the printer received \"%3\"")
                              .arg(QString::fromUtf8(each.key()), QString::fromUtf8(each.value()),
-                                  QString::fromUtf8(recorded.value(each.key()))));
+                                  QString::fromUtf8(recorded.value(each.key())))
+                             .arg(job.id));
     }
     if (document.content != contentOf(server.documentPath()))
         lines.append(QStringLiteral("the document arrived with other bytes"));

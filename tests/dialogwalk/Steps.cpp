@@ -61,6 +61,11 @@ void Hand::enter()
 
 QString Hand::perform(const Step &step)
 {
+    // A window manager does so when an alert closes.
+    if (!m_dialog.window().isActiveWindow()) {
+        m_dialog.window().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_dialog.window()));
+    }
     QString done;
     if (step.action <= Action::SetCountByAccessibility)
         done = onPanel(step);
@@ -98,10 +103,17 @@ void Hand::boxClicked(const QCheckBox *box, bool wasOn)
 {
     if (const char *const keyword = PanelBoxes::keywordOf(m_dialog.panel(), box))
         m_intent.choose({{keyword, wasOn ? "OFF" : "ON"}});
+    else if (wasOn)
+        acceptPaper();
+    if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
+        acceptSpecialTape();
+}
+
+void Hand::acceptSpecialTape()
+{
     // What special tape has put off is on again when only boxes had it, and off when the panel was refreshed
     // since.
-    if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
-        m_intent.accept(m_dialog.panel().chosen(), namesOffOnSpecialTape());
+    m_intent.alsoAccept(m_dialog.panel().chosen(), namesOffOnSpecialTape());
 }
 
 QString Hand::onBox(const Step &step)
@@ -135,15 +147,26 @@ void Hand::clickBox(const QString &name)
 
 void Hand::presetChosen(int tag)
 {
-    // A combination is the user's word about what the paper has replaced, too.
+    // A combination that changes nothing that is saved is not noticed: what the paper has replaced comes
+    // again.
+    const OptionTexts before = m_intent.wanted();
+    m_intent.choose(m_dialog.panel().ofPreset(tag));
+    if (mayBeReplaced("KvAutoTapeCut", m_dialog.options().value("PageSize")))
+        m_intent.alsoAccept(before, {"KvAutoTapeCut"});
+    acceptPaper();
+}
+
+void Hand::acceptPaper()
+{
+    // Combinations, and the box that shares automatic cutting, are the user's word about what the paper has
+    // replaced, too.
     std::vector<QByteArray> replaced;
     const QByteArray paper = m_dialog.options().value("PageSize");
     for (const QString &keyword : m_dialog.printer().cutKeywords) {
         if (mayBeReplaced(keyword.toLatin1(), paper))
             replaced.push_back(keyword.toLatin1());
     }
-    m_intent.accept(m_dialog.panel().chosen(), replaced);
-    m_intent.choose(m_dialog.panel().ofPreset(tag));
+    m_intent.alsoAccept(m_dialog.panel().chosen(), replaced);
 }
 
 QString Hand::onPreset(const Step &step)
@@ -207,7 +230,8 @@ QString Hand::onCount(const Step &step)
     } else {
         QAccessible::queryAccessibleInterface(panel.stepper())->valueInterface()->setCurrentValue(count);
     }
-    countChosen(count);
+    // The box of the count follows the mark of automatic cutting, and greys the field at the first digit.
+    countChosen(panel.count()->isEnabled() ? count : panel.count()->text().toInt());
     return QString::number(count);
 }
 
@@ -290,11 +314,14 @@ QString Hand::pressRemedy()
     auto *const button = banner && banner->isVisible() ? banner->findChild<QPushButton *>() : nullptr;
     if (!remedy || !button)
         return {};
-    for (const host::Remedy::Change &change : remedy->changes)
-        m_intent.choose({{change.keyword.toUtf8(), change.choice.toUtf8()}});
-    const QString sentence = remedy->sentence();
+    const host::Remedy pressed = *remedy;
     Hands::click(button);
-    return sentence;
+    for (const host::Remedy::Change &change : pressed.changes) {
+        if (change.keyword == QStringLiteral("KvSpecialTape"))
+            acceptSpecialTape();
+        m_intent.choose({{change.keyword.toUtf8(), change.choice.toUtf8()}});
+    }
+    return pressed.sentence();
 }
 
 QString Hand::onPages(const Step &step)

@@ -87,6 +87,8 @@ private:
     void enter();
     void presetChosen(int tag);
     void boxClicked(const QCheckBox *box, bool wasOn);
+    void acceptSpecialTape();
+    void acceptPaper();
     void countChosen(int count);
 
     WalkedDialog &m_dialog;

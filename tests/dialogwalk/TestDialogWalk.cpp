@@ -85,7 +85,7 @@ TEST(DialogWalk, WhatIsShownIsWhatIsSentAndWhatIsChosenStays)
         const bool prints = step % 10 == 0;
         const Step next = randomStep(dice);
         fault = walk.go(prints ? Step{Action::Print, next.number} : next);
-        if (!fault && step % 500 == 0)
+        if (!fault && step % 100 == 0)
             fault = walk.checkRecords();
     }
     if (!fault)

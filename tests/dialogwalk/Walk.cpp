@@ -4,6 +4,8 @@
 #include "Records.h"
 #include "Views.h"
 
+#include <gtest/gtest.h>
+
 namespace dialogwalk {
 
 QString Fault::text() const
@@ -26,6 +28,8 @@ std::optional<Fault> Walk::go(const Step &step)
 {
     m_episode.steps.push_back(step);
     const quint64 openings = m_dialog.openings();
+    SCOPED_TRACE(nameOf(step.action).toStdString() + " after " +
+                 m_done.last(qMin<qsizetype>(3, m_done.size())).join(u';').toStdString());
     const QString what = m_hand.perform(step);
     m_done.append(QStringLiteral("%1 %2: %3").arg(nameOf(step.action)).arg(step.number).arg(what));
     if (openings != m_dialog.openings()) {

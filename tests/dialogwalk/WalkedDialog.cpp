@@ -65,7 +65,8 @@ bool WalkedDialog::showWindow()
     m_window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *m_keeper, *m_sender,
                                                      dialog::DialogWishes());
     m_window->show();
-    return QTest::qWaitForWindowExposed(m_window.get());
+    m_window->activateWindow();
+    return QTest::qWaitForWindowActive(m_window.get());
 }
 
 bool WalkedDialog::reopenWindow()

@@ -69,11 +69,10 @@ void WalkedServer::addInstance(const QString &name, const QStringList &options)
     m_destinations.append(name);
 }
 
-QByteArray WalkedServer::ppd(const QString &destination) const
+QByteArray WalkedServer::ppd(const QString &destination, int variant) const
 {
-    const QString queue = destination.section(u'/', 0, 0);
-    const auto found = m_ppds.find(queue);
-    return found == m_ppds.end() ? QByteArray() : found->second[static_cast<std::size_t>(variant(queue))];
+    const auto found = m_ppds.find(destination.section(u'/', 0, 0));
+    return found == m_ppds.end() ? QByteArray() : found->second[static_cast<std::size_t>(variant)];
 }
 
 int WalkedServer::variant(const QString &destination) const

@@ -21,7 +21,9 @@ public:
     /// Queues and instances, as a user sees them in the list of printers.
     const QStringList &destinations() const { return m_destinations; }
     /// What the queue's description says now; empty for one without a description.
-    QByteArray ppd(const QString &destination) const;
+    QByteArray ppd(const QString &destination) const { return ppd(destination, variant(destination)); }
+    /// One of the queue's two descriptions.
+    QByteArray ppd(const QString &destination, int variant) const;
     /// Gives the queue its first or second description.
     void replacePpd(const QString &destination, int variant);
     int variant(const QString &destination) const;
