@@ -24,6 +24,8 @@ public:
     void setPlan(const host::CutPlan &plan, const host::LabelRenderer &renderer);
     /// Shows nothing, unless another plan follows at once.
     void clear();
+    /// The plan that is shown; null while there is none.
+    const host::CutPlan *plan() const { return m_plan && m_renderer ? &*m_plan : nullptr; }
 
     /// Paints only where the labels lie the next time, and all of it right afterwards, so that the
     /// window need not wait for fonts and the document's pages.

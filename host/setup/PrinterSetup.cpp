@@ -86,6 +86,9 @@ std::vector<JobChoice> PrinterSetup::choicesNow() const
 std::vector<JobChoice> PrinterSetup::choicesAndRefusedWishes() const
 {
     std::vector<JobChoice> all = choicesNow();
+    // Another setup, on another paper or with another description, may be able to do them.
+    for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
+        setJobChoice(all, {each.keyword.toUtf8(), each.choice.toUtf8(), Origin::Panel});
     for (const JobChoice &wish : m_refusedWishes) {
         if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
             all.push_back(wish);
@@ -177,7 +180,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     if (!panelHost())
         return;
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
-        m_panels->forgetReplaced(keyword);
+        m_panels->forgetReplaced(keyword, choice);
         // A panel that saves what is marked anyway has not chosen anything.
         if (!choice || ppd().markedChoice(keyword) == choice)
             return;
@@ -208,12 +211,19 @@ std::optional<QVariantMap> PrinterSetup::panelSummary(const PDEChoices &choices)
 
 QStringList PrinterSetup::replacedChoices() const
 {
+    const std::vector<ReplacedChoice> replaced =
+        m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>();
+    const PanelSettings now = replaced.empty() ? PanelSettings() : panelSettings();
     QStringList sentences;
-    for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
+    for (const ReplacedChoice &each : replaced) {
+        // The user may have got it on the panel since.
+        if (now.choice(each.keyword) != each.saved)
+            continue;
         sentences.append(Text::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
                                   "printed as \"%3\".")
                              .arg(ppd().optionText(each.keyword), ppd().choiceText(each.keyword, each.choice),
                                   ppd().choiceText(each.keyword, each.saved)));
+    }
     return sentences;
 }
 
@@ -246,7 +256,9 @@ bool PrinterSetup::notePanelInput(const PanelSettings &before)
         return false;
     // A panel that reports nothing of the change has set several controls at once, by a ready-made
     // combination.
-    m_panels->forgetReplaced(std::nullopt);
+    m_panels->forgetReplaced(std::nullopt, std::nullopt);
+    // A control that is operated next may read its neighbour's mark again, so the marks follow the controls.
+    m_panels->markSettings();
     for (const auto &[keyword, choice] : now.choices) {
         if (before.choice(keyword) != choice)
             m_lastChosen = keyword;

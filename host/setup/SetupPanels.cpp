@@ -89,13 +89,17 @@ void SetupPanels::choose(const QString &keyword, const QString &choice)
         return;
     }
     apply({{keyword, choice}});
-    if (!isSame(keyword, settings().choice(keyword), choice)) {
-        // The panel has no control for it, or does not let it be used: it reads the choice from the PPD.
-        save();
-        m_state->changeOption(keyword, choice, nullptr);
-        restore();
-        apply(wanted);
+    if (isSame(keyword, settings().choice(keyword), choice)) {
+        // Nothing was refreshed: the other controls have what the user gave them, whatever is saved of it
+        // now.
+        noteReplaced({{keyword, choice}});
+        return;
     }
+    // The panel has no control for it, or does not let it be used: it reads the choice from the PPD.
+    save();
+    m_state->changeOption(keyword, choice, nullptr);
+    restore();
+    apply(wanted);
     noteReplaced(wanted);
 }
 
@@ -126,11 +130,20 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
     noteReplaced(wanted);
 }
 
-void SetupPanels::forgetReplaced(const std::optional<QString> &keyword)
+void SetupPanels::markSettings()
 {
-    if (!m_isOperating)
-        std::erase_if(m_replaced,
-                      [&](const ReplacedChoice &each) { return !keyword || each.keyword == *keyword; });
+    const QScopedValueRollback operating(m_isOperating, true);
+    if (panel())
+        save();
+}
+
+void SetupPanels::forgetReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice)
+{
+    if (m_isOperating)
+        return;
+    std::erase_if(m_replaced, [&](const ReplacedChoice &each) {
+        return !keyword || (each.keyword == *keyword && each.choice != choice);
+    });
 }
 
 PDEChoices SetupPanels::wantedChoices(Retry retry)

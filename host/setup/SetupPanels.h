@@ -46,8 +46,8 @@ public:
 
     /// What the panel would save now; empty without a panel. Changes nothing.
     PanelSettings settings() const;
-    /// What the panel would save, and where one of its rules replaces a choice for the time being, as special tape
-    /// does with half cuts, the choice that its control still shows.
+    /// What the panel would save, and where one of its rules replaces a choice for the time being, as special
+    /// tape does with half cuts, the choice that its control still shows.
     PDEChoices choicesToKeep() const;
     /// The panel's lines of the summary for these choices; absent without a panel or when it has none.
     std::optional<QVariantMap> summary(const PDEChoices &choices) const;
@@ -56,6 +56,8 @@ public:
     void announce();
     /// Makes a choice for one of the panel's keywords, on the panel's own controls where they allow it.
     void choose(const QString &keyword, const QString &choice);
+    /// Has the panel save what its controls have. The user is not taken to have chosen anything by that.
+    void markSettings();
     /// Whether choices that were replaced before are tried again: another paper may allow them.
     enum class Retry { No, Yes };
     /// Runs the action, which may make the panel refresh its controls, in between of saving the panel and
@@ -66,9 +68,10 @@ public:
     /// What was asked for, on the panel or for it, and is saved otherwise; empty again once the user has
     /// chosen otherwise or the panel allows it.
     const std::vector<ReplacedChoice> &replaced() const { return m_replaced; }
-    /// The user has chosen the keyword on the panel, or with an absent one a combination of several: what was
-    /// asked for before does not count any more. Ignored while this object itself operates the panel.
-    void forgetReplaced(const std::optional<QString> &keyword);
+    /// The user has made the choice on the panel, or with an absent keyword a combination of several: what
+    /// else was asked for before does not count any more. Ignored while this object itself operates the
+    /// panel.
+    void forgetReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice);
 
 private:
     PpdFile &ppd() const { return m_state->ppd(); }

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "StripOracle.h"
+
+#include <QCheckBox>
+
+namespace platform {
+class PopUpButton;
+class Stepper;
+} // namespace platform
+
+class QLineEdit;
+
+namespace dialogwalk {
+
+/// A switch of the panel: the option that its box stands for.
+struct PanelSwitch {
+    const char *box;
+    const char *keyword;
+};
+
+/// The printer's cut panel as its user sees it: boxes, count and ready-made combinations.
+class PanelBoxes {
+public:
+    /// The panel within the window; isShown() is false when there is none.
+    explicit PanelBoxes(const QWidget *window);
+
+    bool isShown() const { return m_count != nullptr; }
+    /// The boxes that the printer has, by their place from top to bottom.
+    std::vector<QCheckBox *> boxes() const;
+    QCheckBox *box(const char *name) const;
+    platform::PopUpButton *presets() const { return m_presets; }
+    platform::Stepper *stepper() const { return m_stepper; }
+    /// Hidden when the printer does not count labels.
+    QLineEdit *count() const { return m_count; }
+    bool hasCount() const;
+
+    /// The option that the box decides; null for the box of the count where automatic cutting has a box of
+    /// its own, which decides then.
+    static const char *keywordOf(const PanelBoxes &panel, const QCheckBox *box);
+    /// What boxes and count say that the job has. Special tape is not cut, whatever its boxes say.
+    OptionTexts saved() const;
+    /// The same without the rule of special tape.
+    OptionTexts chosen() const;
+    /// What a ready-made combination makes of the boxes that there are.
+    OptionTexts ofPreset(int tag) const;
+
+private:
+    const QWidget *m_window;
+    platform::PopUpButton *m_presets = nullptr;
+    platform::Stepper *m_stepper = nullptr;
+    QLineEdit *m_count = nullptr;
+};
+
+/// The options that special tape puts off.
+std::vector<QByteArray> namesOffOnSpecialTape();
+/// What special tape makes of the other choices: off are those that would cut or mark it.
+OptionTexts withSpecialTape(OptionTexts chosen);
+
+} // namespace dialogwalk

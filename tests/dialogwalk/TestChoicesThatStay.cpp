@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+// Walks that once lost what was chosen.
+#include "Walk.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace dialogwalk;
+
+class ChoicesThatStay : public testing::Test {
+protected:
+    static void SetUpTestSuite() { server = std::make_unique<WalkedServer>(); }
+    static void TearDownTestSuite() { server.reset(); }
+
+    void SetUp() override { server->setVariants({}); }
+
+    void open(const char *destination)
+    {
+        ASSERT_TRUE(dialog.open(QLatin1String(destination)));
+        intent.enter(dialog.destination(), dialog.options());
+    }
+    void expectChosen() { EXPECT_EQ(intent.broken(dialog), QStringList()) << dialog.told().toStdString(); }
+
+    inline static std::unique_ptr<WalkedServer> server;
+    WalkedDialog dialog{*server};
+    Intent intent;
+    Hand hand{dialog, intent};
+};
+
+} // namespace
+
+TEST_F(ChoicesThatStay, WhatThePaperReplacesOutlivesTheDescription)
+{
+    open("few");
+    ASSERT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    hand.pickPaper("HS6x50");
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
+    expectChosen();
+    hand.perform({Action::ReplacePpd, 0});
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
+    expectChosen();
+    hand.pickPaper("12x50mm");
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    expectChosen();
+}
+
+TEST_F(ChoicesThatStay, WhatThePaperReplacesOutlivesAnotherQueue)
+{
+    open("few");
+    hand.pickPaper("HS6x50");
+    hand.pickQueue(QStringLiteral("dz"));
+    hand.pickQueue(QStringLiteral("few"));
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
+    expectChosen();
+    hand.pickPaper("12x50mm");
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+}
+
+TEST_F(ChoicesThatStay, TheCountLeavesTheCombinationsCut)
+{
+    open("dz");
+    hand.clickBox(QStringLiteral("mCutEveryChkBx"));
+    ASSERT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
+    // "Cut every" is the last of the three combinations.
+    hand.pickPreset(2);
+    ASSERT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    hand.perform({Action::TypeCount, 4});
+    EXPECT_EQ(dialog.options().value("KvCutLabel"), "7");
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    expectChosen();
+}
