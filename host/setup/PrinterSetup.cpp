@@ -76,7 +76,7 @@ void PrinterSetup::markWishes(const SetupWishes &wishes)
 std::vector<JobChoice> PrinterSetup::choicesNow() const
 {
     std::vector<JobChoice> all = m_choices;
-    for (const auto &[keyword, choice] : panelSettings().choices) {
+    for (const auto &[keyword, choice] : m_panels ? m_panels->choicesToKeep() : PDEChoices()) {
         if (ppd().markedChoice(keyword) != choice)
             setJobChoice(all, {keyword.toUtf8(), choice.toUtf8(), Origin::Panel});
     }
