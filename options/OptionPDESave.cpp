@@ -65,7 +65,7 @@ std::optional<QString> OptionPDE13_v400_::choiceToSave(OptionKind kind) const
 std::optional<QString> OptionPDE13_v400_::choiceShown(OptionKind kind) const
 {
     const bool chained = kind == OptionKind::AutoCut && !mAutoCutHideKey_dec;
-    const QCheckBox *const box = chained ? mCutEveryChkBx : checkBox(kind);
+    const QCheckBox *const box = checkBox(chained ? OptionKind::CutLabel : kind);
     if (kind == OptionKind::CutLabel || !controls::isShown(box))
         return choiceToSave(kind);
     if (chained)
