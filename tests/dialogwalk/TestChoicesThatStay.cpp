@@ -70,3 +70,33 @@ TEST_F(ChoicesThatStay, TheCountLeavesTheCombinationsCut)
     EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
     expectChosen();
 }
+
+TEST_F(ChoicesThatStay, ARemedyTellsNothingOfWhatSpecialTapeHid)
+{
+    open("lx");
+    hand.clickBox(QStringLiteral("mHalfCutChkBx"));
+    hand.clickBox(QStringLiteral("mSpecialTapeChkBx"));
+    ASSERT_EQ(dialog.options().value("KvHalfCut"), "OFF");
+    // The printer's own remedy leaves what was chosen last.
+    hand.clickBox(QStringLiteral("mCutAndEndChkBx"));
+    hand.perform({Action::PressRemedy, 0});
+    EXPECT_EQ(dialog.options().value("KvSpecialTape"), "OFF");
+    EXPECT_EQ(dialog.options().value("KvHalfCut"), "ON");
+    EXPECT_EQ(dialog.told(), QString());
+}
+
+TEST_F(ChoicesThatStay, TheBoxThatSharesTheCutLeavesTheSentence)
+{
+    open("lx");
+    ASSERT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    hand.pickPaper("HS12x50");
+    const QString sentence = dialog.told();
+    ASSERT_TRUE(sentence.contains(QStringLiteral("cannot be"))) << sentence.toStdString();
+    // Automatic cutting has a box of its own, which is off; this one asks once more for what cannot be.
+    hand.clickBox(QStringLiteral("mCutEveryChkBx"));
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
+    EXPECT_EQ(dialog.told(), sentence);
+    hand.clickBox(QStringLiteral("mAutoCutChkBx"));
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    EXPECT_FALSE(dialog.told().contains(QStringLiteral("cannot be"))) << dialog.told().toStdString();
+}

@@ -2,8 +2,8 @@
 // Every ready-made combination on every kind of paper, with boxes in varying states, through real windows:
 // looking at another page, trying another paper and printing leave the job as it is, and it is printed as it
 // was shown.
+#include "Hand.h"
 #include "Records.h"
-#include "Steps.h"
 #include "Views.h"
 
 #include <platform/PopUpButton.h>

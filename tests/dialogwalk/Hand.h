@@ -4,47 +4,9 @@
 #include "GoOn.h"
 #include "Intent.h"
 #include "SentJob.h"
-
-#include <cstdint>
+#include "Step.h"
 
 namespace dialogwalk {
-
-/// Something that a user does in the dialog.
-enum class Action {
-    ClickBox,
-    ToggleBoxBySpaceBar,
-    ToggleBoxByAccessibility,
-    PickPreset,
-    StepPresetByKey,
-    StepCount,
-    StepCountByKey,
-    TypeCount,
-    SetCountByAccessibility,
-    PickPaper,
-    StepPaperByKey,
-    TurnToPage,
-    PickQueue,
-    PickOption,
-    StepOptionByKey,
-    PressRemedy,
-    TypeCopies,
-    StepCopies,
-    ClickCollate,
-    ClickLastFirst,
-    TypePages,
-    ReplacePpd,
-    Print,
-    Reopen,
-};
-
-/// An action, and a number that picks among what is there to do it with: boxes, papers, pages. The same steps
-/// from the same beginning are the same walk, and every part of them is a walk.
-struct Step {
-    Action action = Action::ClickBox;
-    std::uint32_t number = 0;
-};
-
-QString nameOf(Action action);
 
 /// Does steps in a dialog as a user does them, and notes in the intent what was chosen.
 class Hand {

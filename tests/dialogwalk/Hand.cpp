@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Steps.h"
+#include "Hand.h"
 
 #include "Gestures.h"
 #include "Hands.h"
@@ -9,10 +9,6 @@
 #include "Views.h"
 
 #include <host/dialog/ConflictBanner.h>
-#include <platform/PopUpButton.h>
-#include <platform/Stepper.h>
-
-#include <QAccessible>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -22,18 +18,9 @@
 #include <QTabWidget>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace dialogwalk {
 
 namespace {
-
-constexpr const char *names[] = {
-    "click box",     "space on box",     "toggle box",  "pick preset",  "step preset", "step count",
-    "key on count",  "type count",       "set count",   "pick paper",   "step paper",  "turn to page",
-    "pick queue",    "pick option",      "step option", "press remedy", "type copies", "step copies",
-    "click collate", "click last first", "type pages",  "replace PPD",  "print",       "reopen",
-};
 
 QPushButton *buttonOf(const QWidget *parent, const QString &text)
 {
@@ -44,14 +31,7 @@ QPushButton *buttonOf(const QWidget *parent, const QString &text)
     return nullptr;
 }
 
-const QString panelTab = QStringLiteral("Cut Options");
-
 } // namespace
-
-QString nameOf(Action action)
-{
-    return QLatin1String(names[static_cast<std::size_t>(action)]);
-}
 
 void Hand::enter()
 {
@@ -87,152 +67,6 @@ QString Hand::perform(const Step &step)
         done = step.action == Action::Print ? printAndReopen(step.number) : reopen(step.number);
     EXPECT_TRUE(m_dialog.refresh());
     return done;
-}
-
-QString Hand::onPanel(const Step &step)
-{
-    if (!m_dialog.panel().isShown() || !m_dialog.hasTab(panelTab))
-        return {};
-    m_dialog.chooseTab(panelTab);
-    if (step.action <= Action::ToggleBoxByAccessibility)
-        return onBox(step);
-    return step.action <= Action::StepPresetByKey ? onPreset(step) : onCount(step);
-}
-
-void Hand::boxClicked(const QCheckBox *box, bool wasOn)
-{
-    if (const char *const keyword = PanelBoxes::keywordOf(m_dialog.panel(), box))
-        m_intent.choose({{keyword, wasOn ? "OFF" : "ON"}});
-    else if (wasOn)
-        acceptPaper();
-    if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
-        acceptSpecialTape();
-}
-
-void Hand::acceptSpecialTape()
-{
-    // What special tape has put off is on again when only boxes had it, and off when the panel was refreshed
-    // since.
-    m_intent.alsoAccept(m_dialog.panel().chosen(), namesOffOnSpecialTape());
-}
-
-QString Hand::onBox(const Step &step)
-{
-    std::vector<QCheckBox *> boxes = m_dialog.panel().boxes();
-    std::erase_if(boxes, [](const QCheckBox *box) { return !box->isEnabled(); });
-    if (boxes.empty())
-        return {};
-    QCheckBox *const box = boxes[step.number % boxes.size()];
-    const bool wasOn = box->isChecked();
-    if (step.action == Action::ClickBox)
-        Hands::click(box);
-    else if (step.action == Action::ToggleBoxBySpaceBar)
-        Gestures::pressIn(box, Qt::Key_Space);
-    else
-        QAccessible::queryAccessibleInterface(box)->actionInterface()->doAction(
-            QAccessibleActionInterface::toggleAction());
-    boxClicked(box, wasOn);
-    return box->objectName() + (wasOn ? QStringLiteral(" off") : QStringLiteral(" on"));
-}
-
-void Hand::clickBox(const QString &name)
-{
-    m_dialog.chooseTab(panelTab);
-    QCheckBox *const box = m_dialog.panel().box(qPrintable(name));
-    const bool wasOn = box->isChecked();
-    Hands::click(box);
-    boxClicked(box, wasOn);
-    EXPECT_TRUE(m_dialog.refresh());
-}
-
-void Hand::presetChosen(int tag)
-{
-    // A combination that changes nothing that is saved is not noticed: what the paper has replaced comes
-    // again.
-    const OptionTexts before = m_intent.wanted();
-    m_intent.choose(m_dialog.panel().ofPreset(tag));
-    if (mayBeReplaced("KvAutoTapeCut", m_dialog.options().value("PageSize")))
-        m_intent.alsoAccept(before, {"KvAutoTapeCut"});
-    acceptPaper();
-}
-
-void Hand::acceptPaper()
-{
-    // Combinations, and the box that shares automatic cutting, are the user's word about what the paper has
-    // replaced, too.
-    std::vector<QByteArray> replaced;
-    const QByteArray paper = m_dialog.options().value("PageSize");
-    for (const QString &keyword : m_dialog.printer().cutKeywords) {
-        if (mayBeReplaced(keyword.toLatin1(), paper))
-            replaced.push_back(keyword.toLatin1());
-    }
-    m_intent.alsoAccept(m_dialog.panel().chosen(), replaced);
-}
-
-QString Hand::onPreset(const Step &step)
-{
-    platform::PopUpButton *const presets = m_dialog.panel().presets();
-    if (!presets->isEnabled() || presets->count() == 0)
-        return {};
-    int row = static_cast<int>(step.number % static_cast<std::uint32_t>(presets->count()));
-    if (step.action == Action::PickPreset) {
-        if (!Gestures::pickRow(presets, row))
-            return {};
-    } else {
-        const int before = presets->currentIndex();
-        Gestures::pressIn(presets, step.number % 2 == 0 ? Qt::Key_Down : Qt::Key_Up);
-        row = presets->currentIndex();
-        if (row == before)
-            return {};
-    }
-    presetChosen(presets->tagOfItem(row));
-    return QStringLiteral("preset %1").arg(presets->tagOfItem(row));
-}
-
-void Hand::pickPreset(int row)
-{
-    m_dialog.chooseTab(panelTab);
-    platform::PopUpButton *const presets = m_dialog.panel().presets();
-    if (Gestures::pickRow(presets, row))
-        presetChosen(presets->tagOfItem(row));
-    EXPECT_TRUE(m_dialog.refresh());
-}
-
-void Hand::countChosen(int count)
-{
-    m_intent.choose({{"KvCutLabel", QByteArray::number(std::clamp(count, 1, 99))}});
-}
-
-QString Hand::onCount(const Step &step)
-{
-    const PanelBoxes panel = m_dialog.panel();
-    if (!panel.hasCount() || !panel.count()->isEnabled() || !panel.stepper()->isEnabled())
-        return {};
-    constexpr int counts[] = {1, 2, 3, 4, 7, 12, 99, 150};
-    int count = counts[step.number % std::size(counts)];
-    const int before = panel.count()->text().toInt();
-    const bool isUp = step.number % 2 == 0;
-    if (step.action == Action::StepCount) {
-        platform::Stepper *const stepper = panel.stepper();
-        const QPoint place(stepper->width() / 2, isUp ? 3 : stepper->height() - 3);
-        QTest::mouseClick(m_dialog.window().windowHandle(), Qt::LeftButton, {},
-                          stepper->mapTo(&m_dialog.window(), place));
-        QApplication::processEvents();
-        count = before + (isUp ? 1 : -1);
-    } else if (step.action == Action::StepCountByKey) {
-        Gestures::pressIn(panel.stepper(), isUp ? Qt::Key_Up : Qt::Key_PageDown);
-        count = before + (isUp ? 1 : -10);
-    } else if (step.action == Action::TypeCount) {
-        Hands::typeInto(panel.count(), QString::number(count));
-    } else if (isUp) {
-        QAccessible::queryAccessibleInterface(panel.count())
-            ->setText(QAccessible::Value, QString::number(count));
-    } else {
-        QAccessible::queryAccessibleInterface(panel.stepper())->valueInterface()->setCurrentValue(count);
-    }
-    // The box of the count follows the mark of automatic cutting, and greys the field at the first digit.
-    countChosen(panel.count()->isEnabled() ? count : panel.count()->text().toInt());
-    return QString::number(count);
 }
 
 QString Hand::onPaper(const Step &step)
