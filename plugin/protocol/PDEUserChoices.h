@@ -22,17 +22,17 @@ class KV_EXPORT PDEUserChoices_v1 {
 public:
     virtual ~PDEUserChoices_v1() = default;
 
-    /// What the panel's controls show: keyword and choice of each option that it handles. It differs from what
-    /// the panel saves where a rule of the panel replaces a choice and leaves its control as it is. Changes
-    /// nothing.
+    /// What the panel's controls show: keyword and choice of each option that it handles. It differs from
+    /// what the panel saves where a rule of the panel replaces a choice and leaves its control as it is.
+    /// Changes nothing.
     virtual PDEChoices shownChoices() const = 0;
 
     /// Makes each choice as though the user had made it on the panel's own control: the control shows it, the
     /// dialog receives it through willChangePPDOptionKeyValue(), and the panel's rules are applied. No alert
     /// is shown. A choice that its control shows anyway is skipped, and so is one whose control is hidden or
     /// which the option does not have. A control that is disabled receives the choice all the same, since its
-    /// state is saved. The caller sees what came of it by letting the panel save. The panel decides the order,
-    /// so that a choice that enables another one is made first.
+    /// state is saved. The caller sees what came of it by letting the panel save. The panel decides the
+    /// order, so that a choice that enables another one is made first.
     virtual void applyUserChoices(const PDEChoices &choices) = 0;
 };
 

@@ -240,14 +240,14 @@ TEST_F(UserChoicesTest, WhatIsShownIsWhatTheControlsHaveAndComesBack)
     const PDEChoices shown = controls.shownChoices();
     const auto written = saved();
     for (const auto &[keyword, choice] : shown)
-        EXPECT_EQ(std::ranges::count(written, Change(keyword, choice)), 1)
-            << keyword.toStdString();
+        EXPECT_EQ(std::ranges::count(written, Change(keyword, choice)), 1) << keyword.toStdString();
     // Special tape replaces what is saved and leaves the boxes as they are.
     apply({{"KvSpecialTape", "ON"}});
     for (const auto &[keyword, choice] : shown) {
         const auto now = controls.shownChoices();
         const auto found = std::ranges::find(now, keyword, &PDEChoices::value_type::first);
-        EXPECT_EQ(found->second == choice, keyword != QStringLiteral("KvSpecialTape")) << keyword.toStdString();
+        EXPECT_EQ(found->second == choice, keyword != QStringLiteral("KvSpecialTape"))
+            << keyword.toStdString();
     }
     panel->restoreValuesAndReturnError(nullptr);
     panel->applyUserChoices(shown);

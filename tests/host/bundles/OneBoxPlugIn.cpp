@@ -48,7 +48,8 @@ public:
 
     PDEChoices shownChoices() const override
     {
-        return {{QStringLiteral("KvMirror"), m_box.isChecked() ? QStringLiteral("ON") : QStringLiteral("OFF")}};
+        return {
+            {QStringLiteral("KvMirror"), m_box.isChecked() ? QStringLiteral("ON") : QStringLiteral("OFF")}};
     }
     void applyUserChoices(const PDEChoices &choices) override
     {
