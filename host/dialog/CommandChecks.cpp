@@ -81,7 +81,8 @@ bool CommandChecks::accepts(const host::Ticket &ticket) const
         m_console.complain(conflict.sentence());
     if (ticket.remedy)
         m_console.complain(Text::tr("This would help: %1").arg(ticket.remedy->sentence()));
-    return ticket.conflicts.empty() || m_command.force;
+    // A summary of conflicting settings reports the conflicts, as the dialog does.
+    return ticket.conflicts.empty() || m_command.force || m_command.task == Task::Summary;
 }
 
 void CommandChecks::printRequestId(const QueueSender &sender) const

@@ -161,10 +161,8 @@ ExitStatus HeadlessRun::run()
     if (!draft)
         return ExitStatus::Failed;
     const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
-    // A summary of conflicting settings reports the conflicts, as the dialog does.
-    const bool mayFinish =
-        checks.accepts(ticket) || (m_command.task == Task::Summary && !ticket.panel.refusal);
-    return mayFinish ? CommandChecks::statusOf(finish(*setup, ticket), *setup) : ExitStatus::Failed;
+    return checks.accepts(ticket) ? CommandChecks::statusOf(finish(*setup, ticket), *setup)
+                                  : ExitStatus::Failed;
 }
 
 ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Ticket &ticket)

@@ -45,13 +45,17 @@ PanelPage::PanelPage(PDEPanel &panel, QWidget *parent)
 
 PanelPage::~PanelPage()
 {
+    if (!m_view)
+        return;
     m_view->hide();
     m_view->setParent(nullptr);
 }
 
 void PanelPage::fitView()
 {
-    // The panel lays its view out itself; the page only gives it the room it has taken.
+    if (!m_view)
+        return;
+    // The panel lays out its view itself; the page only gives it the room that it needs.
     m_frame->setFixedSize(m_view->size());
     const int frame = 2 * m_scrolled->frameWidth();
     m_scrolled->setMinimumSize(m_view->size() + QSize(frame, frame));
@@ -59,7 +63,8 @@ void PanelPage::fitView()
 
 void PanelPage::postLaidOut() const
 {
-    platform::NotificationCenter::defaultCenter().post(viewIsLaidOut, m_view);
+    if (m_view)
+        platform::NotificationCenter::defaultCenter().post(viewIsLaidOut, m_view);
 }
 
 void PanelPage::showEvent(QShowEvent *event)

@@ -3,6 +3,7 @@
 
 #include <host/PanelSession.h>
 
+#include <QPointer>
 #include <QWidget>
 
 class QScrollArea;
@@ -35,7 +36,8 @@ private:
     void postLaidOut() const;
 
     PDEPanel &m_panel;
-    QWidget *m_view;
+    /// Null once the panel has lost it.
+    QPointer<QWidget> m_view;
     QWidget *m_frame;
     QScrollArea *m_scrolled;
     ConflictNote *m_note;

@@ -96,10 +96,7 @@ void PrintDialog::connectAll()
     m_pages->setSummary([this] { return summary(); });
     m_pages->setTicket([this] { return m_ticket && m_pagesError.isEmpty() ? &m_ticket->job : nullptr; });
     connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::lookAtPanel);
-    connect(&m_pageCheck, &host::PageCheck::done, this, [this] {
-        if (std::exchange(m_printsWhenChecked, false))
-            accept();
-    });
+    connect(&m_pageCheck, &host::PageCheck::done, this, &PrintDialog::refreshLater);
     connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
     connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
     connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
@@ -185,7 +182,10 @@ void PrintDialog::refreshLater()
     if (m_refreshPending)
         return;
     m_refreshPending = true;
-    QTimer::singleShot(0, this, &PrintDialog::refresh);
+    QTimer::singleShot(0, this, [this] {
+        if (m_refreshPending)
+            refresh();
+    });
 }
 
 void PrintDialog::refresh()
@@ -194,8 +194,12 @@ void PrintDialog::refresh()
     m_stripPreview->clear();
     m_plan.reset();
     host::PrinterSetup *const setup = m_keeper.setup();
-    if (setup)
+    if (setup) {
+        // A panel that asks a question has not changed anything yet.
+        if (!m_isBlocked && !setup->isPanelBusy())
+            setup->notePanelInput();
         m_choices->pages().setDefaults(host::defaultPageSettings(setup->destination()));
+    }
     const auto choices = m_choices->pages().choices();
     m_pagesError = choices ? QString() : choices.error().message;
     m_draft.pages = choices ? choices.value() : host::PageChoices();
@@ -206,6 +210,8 @@ void PrintDialog::refresh()
     refreshStrip();
     refreshMessages();
     m_pages->refresh();
+    if (m_printsWhenReady && isReadyToSend())
+        QMetaObject::invokeMethod(this, &PrintDialog::printWhenReady, Qt::QueuedConnection);
 }
 
 void PrintDialog::refreshStrip()
@@ -223,6 +229,8 @@ void PrintDialog::refreshStrip()
         m_figures->setWords(tr("The printer has no description, so its papers and cuts are not known here."));
         return;
     }
+    if (!m_ticket->cuts.removeBlank)
+        m_renderer->measurer()->cancel();
     m_plan = host::makePlan(*m_ticket, *m_document, *m_renderer);
     m_stripPreview->setPlan(*m_plan, *m_renderer);
     m_figures->setWords(host::cutPlanFigures(*m_plan) + u'\n' + host::cutPlanSentences(*m_plan).join(u' '));
@@ -242,7 +250,7 @@ void PrintDialog::refreshMessages()
 void PrintDialog::lookAtPanel()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
-    if (setup && m_ticket && !m_refreshPending && setup->notePanelInput(m_ticket->panel))
+    if (setup && m_ticket && !setup->isPanelBusy() && setup->panelSettings() != m_ticket->panel)
         refresh();
 }
 
@@ -255,10 +263,17 @@ void PrintDialog::pageShown()
 bool PrintDialog::event(QEvent *event)
 {
     // A question about the printer is about the one that is shown.
-    if (event->type() == QEvent::WindowBlocked)
+    if (event->type() == QEvent::WindowBlocked) {
+        m_isBlocked = true;
         m_keeper.hold();
-    if (event->type() == QEvent::WindowUnblocked)
-        QTimer::singleShot(0, this, [this] { m_keeper.release(); });
+    }
+    if (event->type() == QEvent::WindowUnblocked) {
+        m_isBlocked = false;
+        QTimer::singleShot(0, this, [this] {
+            if (!m_isBlocked)
+                m_keeper.release();
+        });
+    }
     return QDialog::event(event);
 }
 
@@ -275,101 +290,6 @@ void PrintDialog::showAtOnce()
 {
     m_stripPreview->paintDraftFirst();
     show();
-}
-
-std::optional<QString> PrintDialog::prepare()
-{
-    if (!m_keeper.setup())
-        return waitingWords(m_keeper.session());
-    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
-        return error->message;
-    refresh();
-    if (m_sender.needsStrip())
-        finishMeasuring();
-    if (m_ticket->panel.refusal)
-        return m_ticket->panel.refusal;
-    return m_pagesError.isEmpty() ? std::nullopt : std::optional(m_pagesError);
-}
-
-void PrintDialog::finishMeasuring()
-{
-    if (!m_plan || m_plan->isMeasured())
-        return;
-    m_renderer->measurer()->finish();
-    refresh();
-}
-
-bool PrintDialog::isPrepared()
-{
-    m_problemBanner->setSendingProblem(prepare().value_or(QString()));
-    if (!problem().isEmpty())
-        stayOpen();
-    return problem().isEmpty();
-}
-
-void PrintDialog::print()
-{
-    if (isPrepared())
-        send();
-}
-
-void PrintDialog::send()
-{
-    m_isSending = true;
-    m_content->setEnabled(false);
-    m_printButton->setEnabled(false);
-    m_sendBar->begin(m_draft.title);
-    const host::PpdFile *const ppd = m_keeper.setup()->ppdOrNull();
-    m_sender.send({*m_ticket, *m_document, ppd ? ppd->path() : QString(), m_plan ? &*m_plan : nullptr,
-                   m_renderer.get()});
-}
-
-void PrintDialog::stayOpen()
-{
-    m_isSending = false;
-    m_printsWhenChecked = false;
-    m_content->setEnabled(true);
-    m_buttons->setEnabled(true);
-    m_sendBar->end();
-    refresh();
-}
-
-void PrintDialog::accept()
-{
-    if (m_isSending)
-        return;
-    if (!m_printButton->isEnabled()) {
-        // Since Print was pressed, while a long document was checked.
-        m_sendBar->end();
-        return;
-    }
-    if (isVisible() && !m_pageCheck.isDone()) {
-        // It has thousands of pages; the check goes on, and the window stays alive meanwhile.
-        m_printsWhenChecked = true;
-        m_sendBar->begin(m_draft.title);
-        return;
-    }
-    if (!isPrepared())
-        return;
-    const QString conflicts = m_conflictBanner->message();
-    if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
-        send();
-    else
-        stayOpen();
-}
-
-void PrintDialog::reject()
-{
-    m_printsWhenChecked = false;
-    if (!m_isSending) {
-        QDialog::reject();
-        return;
-    }
-    // The job is taken back first, so that nothing half-sent stays behind.
-    m_closesAfterSending = true;
-    m_sendBar->showStopping();
-    m_buttons->setEnabled(false);
-    m_sender.cancel();
 }
 
 void PrintDialog::done(int result)

@@ -47,9 +47,9 @@ public:
 
     /// Shows the dialog as soon as possible: the labels' content follows right after the first painting.
     void showAtOnce();
-    /// Prints as the Print button does: panels save and are asked, then the job is handed to the sender. When
-    /// that has sent it, the dialog is accepted; otherwise problem() says why not, and everything stays as
-    /// set. Conflicts are not asked about.
+    /// Prints as the Print button does: the ticket is handed to the sender. When that has sent it, the dialog
+    /// is accepted; otherwise problem() says why not, and everything stays as set. Conflicts are not asked
+    /// about.
     void print();
     /// Readies the job for sending without sending it; why that cannot be done, or nothing.
     std::optional<QString> prepare();
@@ -58,7 +58,7 @@ public:
     /// Why the last print() failed; empty when it did not.
     const QString &problem() const;
     /// Whether a job is on its way, or will be as soon as its document is checked.
-    bool isSending() const { return m_isSending || m_printsWhenChecked; }
+    bool isSending() const { return m_isSending || m_printsWhenReady; }
     /// What would be sent now; absent while no printer is known.
     const std::optional<host::Ticket> &ticket() const { return m_ticket; }
     /// The job's name.
@@ -86,6 +86,9 @@ private:
     /// Everything that shows the job is refreshed once, when control returns to the event loop.
     void refreshLater();
     void refresh();
+    /// Whether the document is checked and, for a sender that needs it, the strip measured.
+    bool isReadyToSend() const;
+    void printWhenReady();
     void refreshStrip();
     void refreshMessages();
     /// Refreshes when the panel would save something else than the ticket says.
@@ -104,9 +107,11 @@ private:
     host::SetupKeeper &m_keeper;
     JobSender &m_sender;
     bool m_refreshPending = false;
+    /// A question of the panel or of the dialog is open.
+    bool m_isBlocked = false;
     bool m_isSending = false;
     bool m_closesAfterSending = false;
-    bool m_printsWhenChecked = false;
+    bool m_printsWhenReady = false;
     host::JobDraft m_draft;
     std::unique_ptr<host::LabelRenderer> m_renderer;
     /// What would be sent now; absent while no printer is known. Everything that is shown is made from it.

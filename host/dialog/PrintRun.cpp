@@ -110,10 +110,9 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     const bool printsAtOnce = m_command.noDialog && m_command.task == Task::Print;
-    if ((printsAtOnce || m_command.task == Task::DryRun) && !canPrintAtOnce(dialog))
+    if ((printsAtOnce || m_command.task != Task::Print) && !canPrintAtOnce(dialog))
         return ExitStatus::Failed;
     if (m_command.task != Task::Print) {
-        dialog.finishMeasuring();
         tellSummary(dialog.summary());
         return ExitStatus::Printed;
     }

@@ -77,7 +77,9 @@ std::vector<JobChoice> PrinterSetup::choicesNow() const
 {
     std::vector<JobChoice> all = m_choices;
     for (const auto &[keyword, choice] : m_panels ? m_panels->choicesToKeep() : PDEChoices()) {
-        if (ppd().markedChoice(keyword) != choice)
+        const auto known = std::ranges::find(all, keyword.toUtf8(), &JobChoice::name);
+        const bool isRecordedOtherwise = known != all.end() && known->value != choice.toUtf8();
+        if (isRecordedOtherwise || ppd().markedChoice(keyword) != choice)
             setJobChoice(all, {keyword.toUtf8(), choice.toUtf8(), Origin::Panel});
     }
     return all;
@@ -179,8 +181,10 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     m_panels->load(source, requested);
     if (!panelHost())
         return;
+    startNoting();
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         m_panels->forgetReplaced(keyword, choice);
+        m_reported.insert(keyword);
         // A panel that saves what is marked anyway has not chosen anything.
         if (!choice || ppd().markedChoice(keyword) == choice)
             return;
@@ -229,10 +233,13 @@ QStringList PrinterSetup::replacedChoices() const
 
 void PrinterSetup::announcePanel()
 {
+    notePanelInput();
     // Saving the panel is not choosing.
     const QScopedValueRollback keep(m_lastChosen);
-    if (m_panels)
-        m_panels->announce();
+    if (!panel())
+        return;
+    m_panels->announce();
+    startNoting();
 }
 
 std::set<QString> PrinterSetup::keptByRemedies() const
@@ -249,21 +256,29 @@ std::set<QString> PrinterSetup::keptByRemedies() const
     return kept;
 }
 
-bool PrinterSetup::notePanelInput(const PanelSettings &before)
+void PrinterSetup::startNoting()
 {
-    const PanelSettings now = panelSettings();
-    if (now == before)
-        return false;
-    // A panel that reports nothing of the change has set several controls at once, by a ready-made
-    // combination.
-    m_panels->forgetReplaced(std::nullopt, std::nullopt);
-    // A control that is operated next may read its neighbour's mark again, so the marks follow the controls.
-    m_panels->markSettings();
-    for (const auto &[keyword, choice] : now.choices) {
-        if (before.choice(keyword) != choice)
-            m_lastChosen = keyword;
+    m_noted = m_panels->choicesToKeep();
+    m_reported.clear();
+}
+
+void PrinterSetup::notePanelInput()
+{
+    if (!panel())
+        return;
+    std::optional<QString> changed;
+    for (const auto &[keyword, choice] : m_panels->choicesToKeep()) {
+        if (findChoice(m_noted, keyword) != choice && !m_reported.contains(keyword))
+            changed = keyword;
     }
-    return true;
+    if (changed) {
+        m_panels->forgetReplaced(std::nullopt, std::nullopt);
+        // A control that is operated next may read its neighbour's mark again, so the marks follow the
+        // controls.
+        m_panels->markSettings();
+        m_lastChosen = *changed;
+    }
+    startNoting();
 }
 
 QString PrinterSetup::printerText() const
@@ -282,6 +297,7 @@ void PrinterSetup::record(const QByteArray &name, const QByteArray &value, Origi
 
 void PrinterSetup::choosePaper(const PpdPaper &paper)
 {
+    notePanelInput();
     const QScopedValueRollback keep(m_lastChosen);
     m_paper = paper;
     record(paperKeyword, paper.name, Origin::You);
@@ -291,18 +307,21 @@ void PrinterSetup::choosePaper(const PpdPaper &paper)
         m_state->postPaperDidChange();
     };
     m_panels->keepChoices(change, SetupPanels::Retry::Yes);
+    startNoting();
 }
 
 void PrinterSetup::choose(const QByteArray &keyword, const QByteArray &value)
 {
     const QString option = QString::fromUtf8(keyword);
     const QString choice = QString::fromUtf8(value);
+    notePanelInput();
     record(keyword, value, Origin::You);
     if (claimedKeywords().contains(option))
         m_panels->choose(option, choice);
     else
         m_panels->keepChoices([&] { m_state->changeOption(option, choice, nullptr); });
     m_lastChosen = option;
+    startNoting();
 }
 
 void PrinterSetup::apply(const Remedy &remedy)

@@ -55,7 +55,8 @@ public:
     /// Why there is no panel, although the printer has options for it; absent when that is no problem.
     std::optional<PanelError> panelProblem() const;
     QStringList claimedKeywords() const;
-    /// What the panel would save if the job were printed now; empty without a panel. Changes nothing.
+    /// What the panel would save if the job were printed now; empty without a panel. Marks, records and
+    /// reports nothing.
     PanelSettings panelSettings() const;
     /// The panel's lines of the summary for these choices; absent without a panel.
     std::optional<QVariantMap> panelSummary(const PDEChoices &choices) const;
@@ -91,9 +92,13 @@ public:
     std::set<QString> keptByRemedies() const;
     /// Makes a remedy's changes as the user's choices.
     void apply(const Remedy &remedy);
-    /// Something has reached the panel, whose settings were these before. Answers whether they have changed,
-    /// and remembers what was chosen last.
-    bool notePanelInput(const PanelSettings &before);
+    /// Notes what the user has done on the panel since the last time. A panel that has changed controls
+    /// without reporting it has set several at once, by a ready-made combination: it saves them, so that
+    /// marks and controls agree, and what was asked for before does not count any more. Not to be called
+    /// while a panel waits for the answer to a question of its own, since the user has not decided yet.
+    void notePanelInput();
+    /// Whether the panel is being asked or operated at this moment, by a caller further up.
+    bool isPanelBusy() const { return m_panels && m_panels->isBusy(); }
 
     /// Announces to the panel that its page comes to the front. What is chosen stays chosen.
     void announcePanel();
@@ -107,6 +112,7 @@ private:
     void takePaper(const SetupWishes &wishes);
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
+    void startNoting();
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
     Destination m_destination;
@@ -120,6 +126,9 @@ private:
     std::vector<JobChoice> m_refusedWishes;
     /// The option that was chosen last, which a remedy leaves as it is if it can.
     QString m_lastChosen;
+    /// What the panel kept when it was looked at last, and the keywords that it has reported since.
+    PDEChoices m_noted;
+    std::set<QString> m_reported;
 };
 
 } // namespace host

@@ -39,16 +39,17 @@ void SetupPanels::load(const PanelSource &source, const PDEChoices &requested)
     if (isChanged)
         restore();
     apply(marked);
-    PDEChoices wanted = marked;
+    PDEChoices wanted;
     for (const auto &[keyword, choice] : requested) {
         if (keywords().contains(keyword))
-            setChoice(wanted, keyword, choice);
+            wanted.emplace_back(keyword, choice);
     }
     noteReplaced(wanted);
 }
 
 PanelSettings SetupPanels::settings() const
 {
+    const QScopedValueRollback asking(m_isAsking, true);
     return panel() ? m_panels.session->settings() : PanelSettings();
 }
 
@@ -95,11 +96,13 @@ void SetupPanels::choose(const QString &keyword, const QString &choice)
         noteReplaced({{keyword, choice}});
         return;
     }
-    // The panel has no control for it, or does not let it be used: it reads the choice from the PPD.
+    // The panel has no control for it: it reads the choice from the PPD.
+    PDEChoices kept = choicesToKeep();
+    setChoice(kept, keyword, choice);
     save();
     m_state->changeOption(keyword, choice, nullptr);
     restore();
-    apply(wanted);
+    apply(kept);
     noteReplaced(wanted);
 }
 

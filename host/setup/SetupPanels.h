@@ -44,7 +44,7 @@ public:
     /// The PPD keywords that the panels handle.
     const QStringList &keywords() const { return m_panels.keywords; }
 
-    /// What the panel would save now; empty without a panel. Changes nothing.
+    /// What the panel would save now; empty without a panel. Marks, records and reports nothing.
     PanelSettings settings() const;
     /// What the panel would save, and where one of its rules replaces a choice for the time being, as special
     /// tape does with half cuts, the choice that its control still shows.
@@ -73,6 +73,9 @@ public:
     /// panel.
     void forgetReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice);
 
+    /// Whether a caller further up asks or operates the panel, which then must not be asked again.
+    bool isBusy() const { return m_isOperating || m_isAsking; }
+
 private:
     PpdFile &ppd() const { return m_state->ppd(); }
     PDEChoices markedChoices() const;
@@ -88,6 +91,7 @@ private:
     std::optional<PanelError> m_problem;
     std::vector<ReplacedChoice> m_replaced;
     bool m_isOperating = false;
+    mutable bool m_isAsking = false;
 };
 
 } // namespace host

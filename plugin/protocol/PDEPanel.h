@@ -17,6 +17,10 @@ class QWidget;
 /// restoreValuesAndReturnError(), willShow() whenever the panel's page comes to the front,
 /// summaryInfo() for the summary, saveValuesAndReturnError() and shouldPrint() before a job, and
 /// printWindowWillClose() at the end. Everything happens on the main thread.
+///
+/// The dialog shows what would be printed at every moment. So it asks saveValuesAndReturnError() and
+/// shouldPrint() after any input, and does not always carry out what they hand over. Neither may open a
+/// window.
 class KV_EXPORT PDEPanel {
 public:
     virtual ~PDEPanel() = default;
@@ -38,7 +42,7 @@ public:
     virtual void printWindowWillClose(QWidget *window) = 0;
     /// Whether the dialog should leave the panel out where it shows only the essential pages.
     virtual bool shouldHide() const = 0;
-    /// Asked before a job is sent; false keeps the job back.
+    /// Whether a job may be sent with these settings. Asked at any time.
     virtual bool shouldPrint() = 0;
     /// Whether the dialog should offer help for the panel.
     virtual bool shouldShowHelp() const = 0;

@@ -17,7 +17,7 @@ using PDEChoices = std::vector<std::pair<QString, QString>>;
 ///
 /// A panel's class derives from it beside PDEPanel, and the dialog finds it with dynamic_cast. A panel that
 /// refreshes its controls from the PPD's marks may lose what only its own controls had; the dialog, which
-/// knows what the panel would have saved before, gives it back here.
+/// knows what the panel would have saved before, restores it here.
 class KV_EXPORT PDEUserChoices_v1 {
 public:
     virtual ~PDEUserChoices_v1() = default;
@@ -36,7 +36,8 @@ public:
     virtual void applyUserChoices(const PDEChoices &choices) = 0;
 };
 
-/// Optional interface of a panel, version 1: summarizes choices that are not marked in the PPD.
+/// Optional interface of a panel, version 1: summarizes choices that are not marked in the PPD. Of a panel
+/// without it the dialog shows summaryInfo(), which may be behind the panel's controls.
 class KV_EXPORT PDEChoiceSummary_v1 {
 public:
     virtual ~PDEChoiceSummary_v1() = default;

@@ -88,9 +88,8 @@ protected:
     /// Walks to the preset by keyboard, as the panel hears of it.
     static void choosePreset(PrinterSetup &setup, int index)
     {
-        const host::PanelSettings before = setup.panelSettings();
         walkToPreset(setup, index);
-        setup.notePanelInput(before);
+        setup.notePanelInput();
     }
     static void walkToPreset(const PrinterSetup &setup, int index)
     {

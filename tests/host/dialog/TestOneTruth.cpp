@@ -8,7 +8,10 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QListWidget>
+#include <QSpinBox>
+#include <QTimer>
 
+#include <algorithm>
 #include <set>
 
 namespace {
@@ -218,7 +221,7 @@ TEST_F(OneTruthTest, APanelThatWaitsForRoomHearsWhenItsPageIsLaidOut)
     EXPECT_GT(heard, 0);
 }
 
-TEST_F(OneTruthTest, LookingAtThePagesChangesNothing)
+TEST_F(OneTruthTest, AskingForTheSummaryRecordsNothing)
 {
     openSample("kvelland-lx900");
     pickPreset(2);
@@ -228,4 +231,63 @@ TEST_F(OneTruthTest, LookingAtThePagesChangesNothing)
         QApplication::processEvents();
     }
     EXPECT_EQ(state->recorded().pairs(), recorded);
+}
+
+TEST_F(OneTruthTest, TheHeatShrinkWarningComesBeforeTheChoiceIsMarked)
+{
+    openSample("kvelland-lx900");
+    const std::vector<host::PpdPaper> papers = keeper->setup()->ppd().papers();
+    const auto tube =
+        std::ranges::find_if(papers, [](const host::PpdPaper &paper) { return paper.name.startsWith("HS"); });
+    ASSERT_NE(tube, papers.end());
+    keeper->setup()->choosePaper(*tube);
+    ASSERT_FALSE(box("mAutoCutChkBx")->isChecked());
+    QString markedMeanwhile;
+    // The alert is modal: it is closed from its own event loop, after the dialog has had its turns.
+    QTimer::singleShot(0, window.get(), [&] {
+        for (int turn = 0; turn < 10; ++turn)
+            QApplication::processEvents();
+        markedMeanwhile = state->ppd().markedChoice(QStringLiteral("KvAutoTapeCut")).value();
+        auto *const alert = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        ASSERT_TRUE(alert);
+        alert->accept();
+    });
+    click(box("mAutoCutChkBx"));
+    EXPECT_EQ(markedMeanwhile, QStringLiteral("OFF"));
+    EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
+    EXPECT_EQ(state->ppd().markedChoice(QStringLiteral("KvAutoTapeCut")), QStringLiteral("ON"));
+    expectOneTruth("after the warning");
+}
+
+TEST_F(OneTruthTest, APresetPickedWhileTheDialogIsAboutToRefreshCountsToo)
+{
+    openSample("kvelland-dz500");
+    int everyLabel = 0;
+    for (int index = 0; index < presets()->count(); ++index) {
+        pickPreset(index);
+        if (inTicket("KvAutoTapeCut") == "ON")
+            everyLabel = index;
+    }
+    pickPreset(everyLabel == 0 ? 1 : 0);
+    // The copies are typed, and the key reaches the pop-up before the dialog has refreshed.
+    auto *const copies = find<QSpinBox>(QStringLiteral("Copies"));
+    ASSERT_TRUE(copies);
+    while (presets()->currentIndex() != everyLabel) {
+        copies->stepUp();
+        QTest::keyClick(presets(), presets()->currentIndex() < everyLabel ? Qt::Key_Down : Qt::Key_Up);
+    }
+    QApplication::processEvents();
+    EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
+    EXPECT_EQ(state->ppd().markedChoice(QStringLiteral("KvAutoTapeCut")), QStringLiteral("ON"));
+    expectOneTruth("pending");
+}
+
+TEST_F(OneTruthTest, APanelThatLosesItsViewLeavesADialogThatCloses)
+{
+    openSample("kvelland-lx900");
+    delete keeper->setup()->panel()->panelView();
+    window->resize(window->size() + QSize(10, 10));
+    QApplication::processEvents();
+    chooseTab("Summary");
+    window.reset();
 }
