@@ -42,6 +42,8 @@ void QueueDialogTest::TearDownTestSuite()
 
 void QueueDialogTest::SetUp()
 {
+    // Tests that set up once more still have a window, whose threads end with it.
+    close();
     test_support::awaitBackgroundThreads();
     QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
          QStringLiteral("/kvprint/cups"))

@@ -11,7 +11,7 @@
 #include <QSpinBox>
 #include <QTimer>
 
-#include <algorithm>
+#include <functional>
 #include <set>
 
 namespace {
@@ -40,6 +40,24 @@ protected:
         list->scrollTo(item);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(item).center());
         QApplication::processEvents();
+    }
+
+    /// Clicks the first paper that is wanted.
+    void choosePaper(const std::function<bool(const host::PpdPaper &)> &isWanted) const
+    {
+        auto *const papers = find<QListWidget>(QStringLiteral("Paper"));
+        for (const host::PpdPaper &paper : keeper->setup()->ppd().papers()) {
+            if (!isWanted(paper))
+                continue;
+            const auto items = papers->findItems(paper.text, Qt::MatchExactly);
+            ASSERT_FALSE(items.isEmpty());
+            papers->scrollToItem(items.first());
+            QTest::mouseClick(papers->viewport(), Qt::LeftButton, {},
+                              papers->visualItemRect(items.first()).center());
+            QApplication::processEvents();
+            return;
+        }
+        FAIL() << "no such paper";
     }
 
     QByteArray inTicket(const char *name) const
@@ -142,29 +160,14 @@ TEST_F(OneTruthTest, HeatShrinkPaperIsShownWithoutTheCutsThatItCannotHave)
     openSample("kvelland-lx900");
     if (!box("mAutoCutChkBx")->isChecked())
         click(box("mAutoCutChkBx"));
-    auto *const papers = find<QListWidget>(QStringLiteral("Paper"));
-    const auto choose = [&](auto isWanted) {
-        for (const host::PpdPaper &paper : keeper->setup()->ppd().papers()) {
-            if (!isWanted(paper))
-                continue;
-            const auto items = papers->findItems(paper.text, Qt::MatchExactly);
-            ASSERT_FALSE(items.isEmpty());
-            papers->scrollToItem(items.first());
-            QTest::mouseClick(papers->viewport(), Qt::LeftButton, {},
-                              papers->visualItemRect(items.first()).center());
-            QApplication::processEvents();
-            return;
-        }
-        FAIL() << "no such paper";
-    };
     const QByteArray first = keeper->setup()->paper()->name;
-    choose([](const host::PpdPaper &paper) { return paper.name.startsWith("HS"); });
+    choosePaper([](const host::PpdPaper &paper) { return paper.name.startsWith("HS"); });
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("OFF"));
     EXPECT_FALSE(stripInWords().contains(QStringLiteral("Full cut after every")))
         << stripInWords().toStdString();
     expectOneTruth("heat shrink");
     EXPECT_FALSE(keeper->setup()->replacedChoices().isEmpty());
-    choose([&](const host::PpdPaper &paper) { return paper.name == first; });
+    choosePaper([&](const host::PpdPaper &paper) { return paper.name == first; });
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
     EXPECT_TRUE(keeper->setup()->replacedChoices().isEmpty());
     expectOneTruth("back");
@@ -236,11 +239,7 @@ TEST_F(OneTruthTest, AskingForTheSummaryRecordsNothing)
 TEST_F(OneTruthTest, TheHeatShrinkWarningComesBeforeTheChoiceIsMarked)
 {
     openSample("kvelland-lx900");
-    const std::vector<host::PpdPaper> papers = keeper->setup()->ppd().papers();
-    const auto tube =
-        std::ranges::find_if(papers, [](const host::PpdPaper &paper) { return paper.name.startsWith("HS"); });
-    ASSERT_NE(tube, papers.end());
-    keeper->setup()->choosePaper(*tube);
+    choosePaper([](const host::PpdPaper &paper) { return paper.name.startsWith("HS"); });
     ASSERT_FALSE(box("mAutoCutChkBx")->isChecked());
     QString markedMeanwhile;
     // The alert is modal: it is closed from its own event loop, after the dialog has had its turns.
@@ -270,7 +269,7 @@ TEST_F(OneTruthTest, APresetPickedWhileTheDialogIsAboutToRefreshCountsToo)
     }
     pickPreset(everyLabel == 0 ? 1 : 0);
     // The copies are typed, and the key reaches the pop-up before the dialog has refreshed.
-    auto *const copies = find<QSpinBox>(QStringLiteral("Copies"));
+    auto *const copies = window->findChild<QSpinBox *>();
     ASSERT_TRUE(copies);
     while (presets()->currentIndex() != everyLabel) {
         copies->stepUp();
