@@ -8,7 +8,7 @@ namespace platform {
 class CheckBox;
 
 /// A check box as assistive technology sees and operates it. Toggling is a click: Qt's own interface changes
-/// the box without clicked(), so that nobody would learn what the user has chosen.
+/// the box without clicked(), and the panel would not receive the choice.
 class CheckBoxAccess : public QAccessibleWidget {
 public:
     explicit CheckBoxAccess(CheckBox *box);

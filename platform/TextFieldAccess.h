@@ -8,7 +8,7 @@ namespace platform {
 class TextField;
 
 /// A text field as assistive technology reads and edits it. An edit is an edit of the user: Qt's own
-/// interface sets the text without textEdited(), so that nobody would learn what the user has entered.
+/// interface sets the text without textEdited(), and the panel would not receive what is entered.
 class TextFieldAccess : public QAccessibleWidget,
                         public QAccessibleTextInterface,
                         public QAccessibleEditableTextInterface {
