@@ -60,10 +60,12 @@ private:
 /// What both threads see: the tasks that wait, and where deliveries go.
 class PageThread::Queue {
 public:
+    /// Looked into by the main thread only.
+    using Receiver = std::shared_ptr<const QPointer<QObject>>;
+
     struct Entry {
         Urgency urgency = Urgency::Checked;
-        /// Looked into by the main thread only.
-        QPointer<QObject> receiver;
+        Receiver receiver;
         Task task;
     };
 
@@ -107,7 +109,7 @@ public:
                                          [](const auto &entries) { return !entries.empty(); });
     }
 
-    void deliver(QPointer<QObject> receiver, Delivery delivery)
+    void deliver(Receiver receiver, Delivery delivery)
     {
         // The mailbox cannot end while the lock is held; a call that is still queued ends with it.
         const std::scoped_lock lock(m_mutex);
@@ -116,7 +118,7 @@ public:
         QMetaObject::invokeMethod(
             m_mailbox,
             [receiver = std::move(receiver), delivery = std::move(delivery)] {
-                if (receiver)
+                if (*receiver)
                     delivery();
             },
             Qt::QueuedConnection);
@@ -157,7 +159,7 @@ PageThread::~PageThread()
 
 void PageThread::run(Urgency urgency, QObject *receiver, Task task)
 {
-    m_queue->add({urgency, receiver, std::move(task)});
+    m_queue->add({urgency, std::make_shared<const QPointer<QObject>>(receiver), std::move(task)});
     if (m_thread.joinable())
         return;
     m_thread = std::thread([queue = m_queue, source = std::move(*m_source)]() mutable {
