@@ -34,7 +34,7 @@ QByteArray PaperRows::someOfKind(std::uint32_t number) const
         const bool isTape = kind != "DC" && kind != "AV" && kind != "FL" && kind != "HS";
         kinds[isTape ? QByteArray() : kind].append(name);
     }
-    const QList<QByteArray> &kind = kinds.values()[static_cast<qsizetype>(number) % kinds.size()];
+    const QList<QByteArray> kind = kinds.values().at(static_cast<qsizetype>(number) % kinds.size());
     return kind[static_cast<qsizetype>(number / 8) % kind.size()];
 }
 

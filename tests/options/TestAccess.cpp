@@ -156,7 +156,7 @@ TEST_F(AccessTest, WhatThePanelWritesIsNotOperated)
 {
     show(cutting());
     for (const char *keyword : panelKeywords)
-        dialog->mark(keyword, keyword == panelKeywords.front() ? "8" : "ON");
+        dialog->mark(keyword, QLatin1String(keyword) == QLatin1String("KvCutLabel") ? "8" : "ON");
     panel->restoreValuesAndReturnError(nullptr);
     panel->willShow();
     dialog->setPaper(QStringLiteral("DC29x90"));

@@ -63,7 +63,7 @@ TEST_F(UserChoicesTest, ADialogFindsTheInterfacesByTheirClasses)
 TEST_F(UserChoicesTest, EachChoiceIsMadeOnItsControlAndSaved)
 {
     for (const char *keyword : panelKeywords) {
-        const bool isCount = keyword == panelKeywords.front();
+        const bool isCount = QLatin1String(keyword) == QLatin1String("KvCutLabel");
         show(cutting().defaultChoice("KvAutoTapeCut", isCount ? "ON" : "OFF"));
         const char *const choice = isCount ? "7" : "ON";
         apply({{keyword, choice}});
