@@ -78,7 +78,7 @@ public:
 
     /// Whether pageSize() answers without waiting for pdfium, which another thread may keep busy.
     bool isPageSizeKnown(int page) const;
-    /// The size as the PDF states it, which may be no size at all.
+    /// The size as the PDF states it; it may be empty or invalid.
     QSizeF statedPageSize(int page) const;
     /// Adds a stated size that another instance has read.
     void setStatedPageSize(int page, QSizeF size) const;
@@ -91,8 +91,8 @@ public:
     /// files are still what was opened. To be asked before anything is sent; takes seconds for tens of
     /// thousands of pages, and no time for those that checkAhead() has done.
     std::optional<DocumentError> checkForPrinting() const;
-    /// Does some of that work, until the time is over: a window that calls it when it has nothing else to do
-    /// need not wait later. False while there is more to do.
+    /// Does some of that work, until the time is over. False while there is more to do. Windows leave it to
+    /// PageCheck, which reads the sizes in the background.
     bool checkAhead(const QDeadlineTimer &until) const;
 
 private:

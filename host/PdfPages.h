@@ -43,7 +43,7 @@ public:
     int pageCount() const { return m_pdf.pageCount(); }
     /// Width and height in points. Of a page that is not fit to print, some size within the limits.
     QSizeF pageSize(int page) const;
-    /// The size as the PDF states it, which may be no size at all.
+    /// The size as the PDF states it; it may be empty or invalid.
     QSizeF statedSize(int page) const;
     /// Those that are known without another look at the PDF.
     const PageSizes &knownSizes() const { return m_sizes; }

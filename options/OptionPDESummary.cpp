@@ -66,7 +66,7 @@ bool OptionPDE13_v400_::isInSummary(OptionKind kind, const PDEChoices &given) co
 
 QString OptionPDE13_v400_::summaryValue(OptionKind kind, const PDEChoices &given) const
 {
-    // Whether labels are cut every so often at all is the automatic cut's choice.
+    // Whether labels are cut every so often is the choice of the automatic cut.
     const OptionRow &chosen = row(kind == OptionKind::CutLabel ? OptionKind::AutoCut : kind);
     const int index = indexGiven(chosen.kind, given);
     const PDEChoice &held = *heldChoice(kind, given);

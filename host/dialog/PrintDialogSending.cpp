@@ -115,7 +115,7 @@ void PrintDialog::reject()
         QDialog::reject();
         return;
     }
-    // The job is taken back first, so that nothing half-sent stays behind.
+    // The job is canceled first, so that no part of it stays on the server.
     m_closesAfterSending = true;
     m_sendBar->showStopping();
     m_buttons->setEnabled(false);

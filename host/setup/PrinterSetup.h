@@ -63,7 +63,7 @@ public:
     /// What was asked for and is replaced by the panel's rules, a sentence for each.
     QStringList replacedChoices() const;
 
-    /// Nothing without a PPD, or when the PPD names no paper at all.
+    /// Nothing without a PPD, or when the PPD names no paper.
     const std::optional<PpdPaper> &paper() const { return m_paper; }
     /// Chooses the paper for the user and tells the panels.
     void choosePaper(const PpdPaper &paper);

@@ -36,7 +36,7 @@ struct TicketSource {
     std::set<QString> kept;
     /// What the panel would save now.
     const PanelSettings &panel;
-    /// Absent without a PPD, or when the PPD names no paper at all.
+    /// Absent without a PPD, or when the PPD names no paper.
     const std::optional<PpdPaper> &paper;
     const LabelDocument &document;
     const JobDraft &draft;
@@ -52,7 +52,7 @@ struct Ticket {
     /// For people: the document's and the printer's name.
     QString document;
     QString printer;
-    /// Absent without a PPD, or when the PPD names no paper at all: there is no strip then.
+    /// Absent without a PPD, or when the PPD names no paper: there is no strip then.
     std::optional<PpdPaper> paper;
     PageChoices pages;
     /// The settings of the job, the destination's defaults included.
