@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 
-QAccessibleInterface *make(const QString &, QObject *object)
+QAccessibleInterface *makeCheckBoxAccess(const QString &, QObject *object)
 {
     auto *const box = qobject_cast<CheckBox *>(object);
     return box ? new CheckBoxAccess(box) : nullptr;
@@ -30,7 +30,7 @@ CheckBoxAccess::CheckBoxAccess(CheckBox *box)
 
 void CheckBoxAccess::install()
 {
-    QAccessible::installFactory(make);
+    QAccessible::installFactory(makeCheckBoxAccess);
 }
 
 CheckBox *CheckBoxAccess::box() const

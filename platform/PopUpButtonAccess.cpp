@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-QAccessibleInterface *make(const QString &, QObject *object)
+QAccessibleInterface *makePopUpButtonAccess(const QString &, QObject *object)
 {
     auto *const popUp = qobject_cast<PopUpButton *>(object);
     return popUp ? new PopUpButtonAccess(popUp) : nullptr;
@@ -24,7 +24,7 @@ PopUpButtonAccess::PopUpButtonAccess(PopUpButton *popUp)
 
 void PopUpButtonAccess::install()
 {
-    QAccessible::installFactory(make);
+    QAccessible::installFactory(makePopUpButtonAccess);
 }
 
 PopUpButton *PopUpButtonAccess::popUp() const

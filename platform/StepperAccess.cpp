@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-QAccessibleInterface *make(const QString &, QObject *object)
+QAccessibleInterface *makeStepperAccess(const QString &, QObject *object)
 {
     auto *const stepper = qobject_cast<Stepper *>(object);
     return stepper ? new StepperAccess(stepper) : nullptr;
@@ -24,7 +24,7 @@ StepperAccess::StepperAccess(Stepper *stepper)
 
 void StepperAccess::install()
 {
-    QAccessible::installFactory(make);
+    QAccessible::installFactory(makeStepperAccess);
 }
 
 Stepper *StepperAccess::stepper() const

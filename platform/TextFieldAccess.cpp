@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-QAccessibleInterface *make(const QString &, QObject *object)
+QAccessibleInterface *makeTextFieldAccess(const QString &, QObject *object)
 {
     auto *const field = qobject_cast<TextField *>(object);
     return field ? new TextFieldAccess(field) : nullptr;
@@ -24,7 +24,7 @@ TextFieldAccess::TextFieldAccess(TextField *field)
 
 void TextFieldAccess::install()
 {
-    QAccessible::installFactory(make);
+    QAccessible::installFactory(makeTextFieldAccess);
 }
 
 TextField *TextFieldAccess::field() const
