@@ -171,7 +171,9 @@ void SetupPanels::noteReplaced(const PDEChoices &wanted)
         // A choice that the PPD does not list was not replaced by a rule: the panel spells it so.
         if (!saved || isSame(keyword, saved, choice) || !ppd().choiceIndex(keyword, *saved))
             continue;
-        std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == keyword; });
+        // Named anew: a lambda of C++20 may capture it, but clang 14 refuses that of a structured binding.
+        const QString &ofKeyword = keyword;
+        std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == ofKeyword; });
         m_replaced.push_back({keyword, choice, *saved});
     }
 }
