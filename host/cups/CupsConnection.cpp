@@ -85,8 +85,7 @@ Result<CupsConnection, CupsError> CupsConnection::open(const CupsServer &server,
     auto state = std::make_unique<State>();
     state->server = server;
     state->task = &task;
-    server.applyToThread();
-    cupsSetPasswordCB2(password, state.get());
+    state->threadScope.emplace(server, password, state.get());
     CupsConnection connection(std::move(state));
     if (!connection.connect())
         return connection.noAnswer();
@@ -136,7 +135,7 @@ const char *CupsConnection::password(const char *prompt, http_t *, const char *,
         return nullptr;
     // libcups keeps no copy.
     state.credentials = *answer;
-    cupsSetUser(state.credentials.user.constData());
+    state.threadScope->setUser(state.credentials.user);
     state.restartSilence();
     return state.credentials.password.constData();
 }

@@ -3,6 +3,7 @@
 
 #include "Background.h"
 #include "CupsServer.h"
+#include "CupsThreadScope.h"
 
 #include <cups/cups.h>
 
@@ -28,8 +29,8 @@ using HttpPointer = std::unique_ptr<http_t, HttpClose>;
 /// taking anything; libcups alone would wait for a minute and more.
 class CupsConnection {
 public:
-    /// Connects; must be called on the task's thread, whose libcups settings it sets. The task must outlive
-    /// the connection.
+    /// Connects; must be called on the task's thread, whose libcups settings the connection owns until it is
+    /// destroyed, on the same thread. The task must outlive the connection.
     static Result<CupsConnection, CupsError> open(const CupsServer &server, BackgroundTask &task);
 
     /// For libcups; owned by the connection.
@@ -96,6 +97,8 @@ private:
         /// The server was not told the password that it wanted.
         bool lacksPassword = false;
         PasswordRequest::Credentials credentials;
+        /// Its callback's data is this state.
+        std::optional<CupsThreadScope> threadScope;
     };
 
     explicit CupsConnection(std::unique_ptr<State> state)

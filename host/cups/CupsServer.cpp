@@ -5,16 +5,6 @@
 
 namespace host {
 
-void CupsServer::applyToThread() const
-{
-    if (address)
-        cupsSetServer(address->toUtf8().constData());
-    if (encryption == Encryption::Required)
-        cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
-    if (user)
-        cupsSetUser(user->toUtf8().constData());
-}
-
 QString CupsServer::displayName() const
 {
     if (address && !address->startsWith(u'/')) {

@@ -48,8 +48,6 @@ struct CupsServer {
     /// What the user has answered; shared by all copies, so that nobody is asked twice.
     std::shared_ptr<PasswordMemory> passwords = std::make_shared<PasswordMemory>();
 
-    /// Tells the libcups of the calling thread, which keeps its settings by thread.
-    void applyToThread() const;
     /// "host:port" or the path of the socket, for messages and as a name for what is kept of it. Asks no
     /// network.
     QString displayName() const;

@@ -215,7 +215,8 @@ Result<Destination, CupsError> queryDestination(CupsConnection &connection, cons
 void discoverDestinations(const CupsServer &server, BackgroundTask &task, std::chrono::milliseconds time,
                           const std::function<void(const Destination &)> &found)
 {
-    server.applyToThread();
+    // The network needs no password; a server that requires one for the queues it shares is passed over.
+    const CupsThreadScope scope(server);
     Discovery discovery{.task = task, .found = found};
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, static_cast<int>(time.count()), task.cancelFlag(),
                   CUPS_PRINTER_DISCOVERED, CUPS_PRINTER_DISCOVERED, discovered, &discovery);

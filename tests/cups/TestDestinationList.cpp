@@ -4,6 +4,7 @@
 #include <host/cups/DestinationList.h>
 #include <host/cups/QueueCache.h>
 #include <host/cups/QueueMonitor.h>
+#include <tests/support/BackgroundThreads.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
 #include <tests/support/Waiting.h>
@@ -39,14 +40,14 @@ struct Outcome {
     std::optional<host::CupsError> error;
 };
 
-Outcome refresh(DestinationList &list)
+Outcome refresh(DestinationList &list, host::Discovery discovery = host::Discovery::No)
 {
     Outcome outcome;
     QObject context;
     QObject::connect(&list, &DestinationList::refreshed, &context, [&] { outcome.refreshed = true; });
     QObject::connect(&list, &DestinationList::failed, &context,
                      [&](const host::CupsError &error) { outcome.error = error; });
-    list.refresh();
+    list.refresh(discovery);
     EXPECT_TRUE(waitUntil([&] { return outcome.refreshed || outcome.error; }));
     return outcome;
 }
@@ -279,6 +280,24 @@ TEST_F(DestinationListTest, APasswordIsAskedForOnceAndRemembered)
     EXPECT_TRUE(refresh(list).refreshed);
     EXPECT_EQ(list.destinations().size(), 4U);
     EXPECT_TRUE(refresh(list).refreshed);
+    EXPECT_EQ(asked, 1);
+}
+
+/// libcups searches the network on the thread whose connection gave the password, and asks the server again.
+TEST_F(DestinationListTest, TheNetworkIsSearchedAfterAPasswordWasGiven)
+{
+    const FaultyServer guarded(cupsd->port(), {.credentials = "anna:secret"});
+    server.address = guarded.address();
+    int asked = 0;
+    server.askPassword = [&](const host::PasswordRequest &request) {
+        ++asked;
+        request.answer(QStringLiteral("anna"), QStringLiteral("secret"));
+    };
+    for (int time = 0; time < 8; ++time) {
+        DestinationList list(server);
+        EXPECT_TRUE(refresh(list, host::Discovery::Yes).refreshed);
+    }
+    test_support::awaitBackgroundThreads();
     EXPECT_EQ(asked, 1);
 }
 
