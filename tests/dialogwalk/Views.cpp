@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views.h"
 
+#include "ShownPlan.h"
+
 #include <host/dialog/FittedLabel.h>
 #include <host/dialog/StripPreview.h>
 
@@ -10,7 +12,6 @@
 #include <QRegularExpression>
 #include <QTreeWidget>
 
-#include <cmath>
 #include <set>
 
 namespace dialogwalk {
@@ -47,21 +48,6 @@ bool arePagesValid(const WalkedDialog &dialog)
 {
     return !wordsBelowStrip(dialog).startsWith(QStringLiteral("Cannot ")) &&
            !wordsBelowStrip(dialog).startsWith(QStringLiteral("Nothing would be printed"));
-}
-
-/// "Labels: 4 · Pieces: 2 · Tape: 120.5 mm", with the tape within what measuring is uncertain by.
-QStringList compareFigures(const QString &place, const QString &words, const ExpectedStrip &expected)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^Labels: (\\d+)(?: \u00b7 Pieces: (\\d+))? \u00b7 Tape: ([\\d.,]+) (mm|m)"));
-    const QRegularExpressionMatch match = form.match(words);
-    const double unit = match.captured(4) == QStringLiteral("m") ? 1000.0 : 1.0;
-    const double tape = match.captured(3).remove(u',').toDouble() * unit;
-    const QString pieces = expected.areCutsKnown ? QString::number(expected.pieces()) : QString();
-    const double uncertainty = 0.5 * unit / 10.0 + 0.6 + 0.4 * static_cast<double>(expected.labels.size());
-    const bool isSame = match.hasMatch() && match.captured(1).toULongLong() == expected.labels.size() &&
-                        match.captured(2) == pieces && std::abs(tape - expected.tape) < uncertainty;
-    return isSame ? QStringList() : QStringList{place + QStringLiteral(" shows ") + words, expected.text()};
 }
 
 void compareStrip(const WalkedDialog &dialog, const ExpectedStrip &expected, Agreement &agreement)
@@ -298,18 +284,7 @@ std::optional<ExpectedStrip> shownStrip(const WalkedDialog &dialog)
     const host::CutPlan *const plan = preview.plan();
     if (!plan || preview.isHidden())
         return std::nullopt;
-    ExpectedStrip strip;
-    strip.areCutsKnown = plan->settings().areKnown;
-    strip.tape = plan->tapeUsed();
-    for (const host::PlannedLabel &label : plan->labels())
-        strip.labels.push_back({label.page, label.length, label.end.fullCut, label.end.halfCut,
-                                label.end.cutMark, label.end.held});
-    const QString words = preview.accessibleDescription();
-    static const QRegularExpression sentence(QStringLiteral("[A-Z][^.]*\\.(?= |$)"));
-    static const QRegularExpression figures(QStringLiteral("^Labels: .*? m{1,2} (?=[A-Z])"));
-    for (auto each = sentence.globalMatch(QString(words).remove(figures)); each.hasNext();)
-        strip.sentences.append(each.next().captured());
-    return strip;
+    return stripOf(*plan, preview.accessibleDescription());
 }
 
 QStringList departures(const WalkedDialog &dialog)

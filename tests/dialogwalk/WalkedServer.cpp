@@ -2,9 +2,6 @@
 #include "WalkedServer.h"
 
 #include "OptionsPpd.h"
-#include "SamplePdf.h"
-
-#include <host/Units.h>
 
 #include <QFile>
 
@@ -50,7 +47,6 @@ WalkedServer::WalkedServer()
                  QStringLiteral("KvMirror=ON"), QStringLiteral("copies=2")});
     addInstance(QStringLiteral("dz/desk"),
                 {QStringLiteral("PageSize=DC29x90"), QStringLiteral("KvCutLabel=3")});
-    writeDocument();
 }
 
 void WalkedServer::addQueue(const QString &name, const QByteArray &ppd, const QByteArray &other)
@@ -96,25 +92,6 @@ void WalkedServer::setVariants(const std::map<QString, int> &variants)
         if (variant(queue) != number)
             replacePpd(queue, number);
     }
-}
-
-void WalkedServer::writeDocument()
-{
-    // Lying, standing, blank, and small: each is laid on a label in another way.
-    m_pages = {{QSizeF(60, 24), QRectF(10, 4, 30, 12)},
-               {QSizeF(24, 50), QRectF(4, 5, 10, 20)},
-               {QSizeF(60, 24), std::nullopt},
-               {QSizeF(30, 9), QRectF(6, 2, 8, 4)}};
-    std::vector<SamplePage> pages;
-    for (const PageFacts &facts : m_pages) {
-        const auto draw = [ink = facts.ink](QPainter &painter) {
-            const double unit = host::pointsPerMillimetre;
-            if (ink)
-                painter.fillRect(QRectF(ink->topLeft() * unit, ink->size() * unit), Qt::black);
-        };
-        pages.push_back({facts.size * host::pointsPerMillimetre, draw});
-    }
-    m_documentPath = writePdf(m_sandbox, QStringLiteral("labels.pdf"), pages);
 }
 
 } // namespace dialogwalk

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Sandbox.h"
-#include "StripOracle.h"
+#include "SampleLabels.h"
 
 #include <tests/support/PrivateCupsd.h>
 
@@ -37,21 +36,18 @@ public:
     /// come.
     std::vector<test_support::RecordedDocument> records() { return m_cupsd.waitForDocuments(m_recorded); }
 
-    const QString &documentPath() const { return m_documentPath; }
-    const std::vector<PageFacts> &pages() const { return m_pages; }
+    const QString &documentPath() const { return m_document.path(); }
+    const std::vector<PageFacts> &pages() const { return m_document.pages(); }
 
 private:
     void addQueue(const QString &name, const QByteArray &ppd, const QByteArray &other);
     void addInstance(const QString &name, const QStringList &options);
-    void writeDocument();
 
     test_support::PrivateCupsd m_cupsd;
-    Sandbox m_sandbox;
+    SampleLabels m_document;
     QStringList m_destinations;
     std::map<QString, std::array<QByteArray, 2>> m_ppds;
     std::map<QString, int> m_variants;
-    QString m_documentPath;
-    std::vector<PageFacts> m_pages;
     std::size_t m_recorded = 0;
 };
 
