@@ -3,6 +3,7 @@
 
 #include <host/CutSettings.h>
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
@@ -182,6 +183,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     if (!panelHost())
         return;
     startNoting();
+    followLists();
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         m_panels->forgetReplaced(keyword, choice);
         m_reported.insert(keyword);
@@ -191,6 +193,21 @@ void PrinterSetup::loadPanels(const PanelSource &source)
         m_lastChosen = keyword;
         record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
     });
+}
+
+void PrinterSetup::followLists()
+{
+    QWidget *const view = panel()->panelView();
+    if (!view)
+        return;
+    // Choosing is choosing, even where it changes nothing that is saved and no panel reports it.
+    for (const QComboBox *const list : view->findChildren<QComboBox *>()) {
+        QObject::connect(list, &QComboBox::activated, &m_lists, [this] {
+            m_panels->forgetReplaced(std::nullopt, std::nullopt);
+            if (m_didChange)
+                m_didChange();
+        });
+    }
 }
 
 std::optional<PanelError> PrinterSetup::panelProblem() const
@@ -268,11 +285,12 @@ void PrinterSetup::notePanelInput()
         return;
     std::optional<QString> changed;
     for (const auto &[keyword, choice] : m_panels->choicesToKeep()) {
-        if (findChoice(m_noted, keyword) != choice && !m_reported.contains(keyword))
-            changed = keyword;
+        if (findChoice(m_noted, keyword) == choice || m_reported.contains(keyword))
+            continue;
+        m_panels->forgetReplaced(keyword, choice);
+        changed = keyword;
     }
     if (changed) {
-        m_panels->forgetReplaced(std::nullopt, std::nullopt);
         // A control that is operated next may read its neighbour's mark again, so the marks follow the
         // controls.
         m_panels->markSettings();
@@ -334,10 +352,9 @@ void PrinterSetup::apply(const Remedy &remedy)
 
 void PrinterSetup::setDidChangeHook(std::function<void()> hook)
 {
-    PanelHost *const host = panelHost();
-    if (!host)
-        return;
-    host->setDidChangeHook(std::move(hook));
+    m_didChange = hook;
+    if (PanelHost *const host = panelHost())
+        host->setDidChangeHook(std::move(hook));
 }
 
 } // namespace host

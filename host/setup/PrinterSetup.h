@@ -7,6 +7,8 @@
 #include <host/cups/Constraints.h>
 #include <host/cups/JobOptions.h>
 
+#include <QObject>
+
 namespace host {
 
 /// What is wanted of a printer from the beginning: by the command line, or because it was set for the same
@@ -92,17 +94,18 @@ public:
     std::set<QString> keptByRemedies() const;
     /// Makes a remedy's changes as the user's choices.
     void apply(const Remedy &remedy);
-    /// Notes what the user has done on the panel since the last time. A panel that has changed controls
-    /// without reporting it has set several at once, by a ready-made combination: it saves them, so that
-    /// marks and controls agree, and what was asked for before does not count any more. Not to be called
-    /// while a panel waits for the answer to a question of its own, since the user has not decided yet.
+    /// Notes what has changed on the panel since the last time. A panel that has changed controls without
+    /// reporting it, by a ready-made combination for instance, saves them, so that marks and controls agree,
+    /// and what was asked of these options before does not count any more. Not to be called while a panel
+    /// waits for the answer to a question of its own, since the user has not decided yet.
     void notePanelInput();
     /// Whether the panel is being asked or operated at this moment, by a caller further up.
     bool isPanelBusy() const { return m_panels && m_panels->isBusy(); }
 
     /// Announces to the panel that its page comes to the front. What is chosen stays chosen.
     void announcePanel();
-    /// Called after every change that a panel makes by itself; not called for changes while a panel is asked.
+    /// Called after every change that a panel makes by itself, and when the user has chosen something in a
+    /// list of its view; not called for changes while a panel is asked.
     void setDidChangeHook(std::function<void()> hook);
 
 private:
@@ -112,6 +115,7 @@ private:
     void takePaper(const SetupWishes &wishes);
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
+    void followLists();
     void startNoting();
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
@@ -129,6 +133,9 @@ private:
     /// What the panel kept when it was looked at last, and the keywords that it has reported since.
     PDEChoices m_noted;
     std::set<QString> m_reported;
+    std::function<void()> m_didChange;
+    /// Hears of the panel's lists as long as the setup lives.
+    QObject m_lists;
 };
 
 } // namespace host

@@ -2,6 +2,8 @@
 // Walks that once lost what was chosen.
 #include "Walk.h"
 
+#include <platform/PopUpButton.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -99,4 +101,36 @@ TEST_F(ChoicesThatStay, TheBoxThatSharesTheCutLeavesTheSentence)
     hand.clickBox(QStringLiteral("mAutoCutChkBx"));
     EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
     EXPECT_FALSE(dialog.told().contains(QStringLiteral("cannot be"))) << dialog.told().toStdString();
+}
+
+TEST_F(ChoicesThatStay, ACombinationThatChangesNothingIsTheUsersWordAboutTheCut)
+{
+    open("few");
+    ASSERT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    hand.pickPaper("HS12x50");
+    ASSERT_TRUE(dialog.told().contains(QStringLiteral("cannot be"))) << dialog.told().toStdString();
+    hand.pickPreset(dialog.panel().presets()->currentIndex());
+    expectChosen();
+    EXPECT_EQ(dialog.told(), QString());
+    hand.pickPaper("12x50mm");
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
+    expectChosen();
+}
+
+TEST_F(ChoicesThatStay, LookingAtTheCombinationsChoosesNothing)
+{
+    open("few");
+    hand.pickPaper("HS12x50");
+    hand.perform({Action::TurnToPage, 2});
+    dialog.chooseTab(QStringLiteral("Cut Options"));
+    platform::PopUpButton *const presets = dialog.panel().presets();
+    presets->setFocus(Qt::TabFocusReason);
+    presets->showPopup();
+    ASSERT_TRUE(dialog.refresh());
+    presets->hidePopup();
+    ASSERT_TRUE(dialog.refresh());
+    EXPECT_TRUE(dialog.told().contains(QStringLiteral("cannot be"))) << dialog.told().toStdString();
+    hand.pickPaper("12x50mm");
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "ON");
+    expectChosen();
 }
