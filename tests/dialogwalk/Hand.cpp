@@ -53,6 +53,8 @@ QString Hand::perform(const Step &step)
         done = onPaper(step);
     else if (step.action == Action::TurnToPage)
         done = turnToPage(step.number);
+    else if (step.action == Action::ChangeBoxByTimer)
+        done = changeBoxByTimer(step.number);
     else if (step.action == Action::PickQueue)
         done = changeQueue(step.number);
     else if (step.action <= Action::StepOptionByKey)

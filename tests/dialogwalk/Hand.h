@@ -37,6 +37,8 @@ private:
     QString onBox(const Step &step);
     QString onPreset(const Step &step);
     QString onCount(const Step &step);
+    /// The panel changes a box of its own accord, while another page is in front.
+    QString changeBoxByTimer(std::uint32_t number);
     QString onPaper(const Step &step);
     QString onOptions(const Step &step);
     QString onPages(const Step &step);
@@ -50,7 +52,9 @@ private:
     void presetChosen(int tag);
     void boxClicked(const QCheckBox *box, bool wasOn);
     void acceptSpecialTape();
-    void acceptPaper();
+    /// Combinations, and the box that shares automatic cutting, are the user's word about what the paper has
+    /// replaced, too: of these options what the boxes show.
+    void chooseShown(const QStringList &keywords);
     void countChosen(int count);
 
     WalkedDialog &m_dialog;

@@ -7,9 +7,12 @@
 #include <platform/PopUpButton.h>
 #include <platform/Stepper.h>
 
+#include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QApplication>
+#include <QEventLoop>
 #include <QLineEdit>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -38,7 +41,7 @@ void Hand::boxClicked(const QCheckBox *box, bool wasOn)
     if (const char *const keyword = PanelBoxes::keywordOf(m_dialog.panel(), box))
         m_intent.choose({{keyword, wasOn ? "OFF" : "ON"}});
     else if (wasOn)
-        acceptPaper();
+        chooseShown({QStringLiteral("KvAutoTapeCut")});
     if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
         acceptSpecialTape();
 }
@@ -81,29 +84,23 @@ void Hand::clickBox(const QString &name)
 
 void Hand::presetChosen(int tag)
 {
-    // A combination that changes nothing that is saved is not noticed: what the paper has replaced comes
-    // again.
     const OptionTexts before = m_intent.wanted();
     const OptionTexts preset = m_dialog.panel().ofPreset(tag);
     if (before.value("KvSpecialTape") == "ON" && preset.value("KvSpecialTape") == "OFF")
         acceptSpecialTape();
     m_intent.choose(preset);
-    if (mayBeReplaced("KvAutoTapeCut", m_dialog.options().value("PageSize")))
-        m_intent.alsoAccept(before, {"KvAutoTapeCut"});
-    acceptPaper();
+    chooseShown(m_dialog.printer().cutKeywords);
 }
 
-void Hand::acceptPaper()
+void Hand::chooseShown(const QStringList &keywords)
 {
-    // Combinations, and the box that shares automatic cutting, are the user's word about what the paper has
-    // replaced, too.
-    std::vector<QByteArray> replaced;
+    const OptionTexts shown = m_dialog.panel().chosen();
     const QByteArray paper = m_dialog.options().value("PageSize");
-    for (const QString &keyword : m_dialog.printer().cutKeywords) {
-        if (mayBeReplaced(keyword.toLatin1(), paper))
-            replaced.push_back(keyword.toLatin1());
+    for (const QString &keyword : keywords) {
+        const QByteArray name = keyword.toLatin1();
+        if (shown.contains(name) && mayBeReplaced(name, paper))
+            m_intent.choose({{name, shown.value(name)}});
     }
-    m_intent.alsoAccept(m_dialog.panel().chosen(), replaced);
 }
 
 QString Hand::onPreset(const Step &step)
@@ -111,7 +108,10 @@ QString Hand::onPreset(const Step &step)
     platform::PopUpButton *const presets = m_dialog.panel().presets();
     if (!presets->isEnabled() || presets->count() == 0)
         return {};
-    int row = static_cast<int>(step.number % static_cast<std::uint32_t>(presets->count()));
+    // Often the one that is set: choosing it changes nothing, and is choosing all the same.
+    const bool isSame = step.number % 4 == 0 && presets->currentIndex() >= 0;
+    int row = isSame ? presets->currentIndex()
+                     : static_cast<int>(step.number / 4 % static_cast<std::uint32_t>(presets->count()));
     if (step.action == Action::PickPreset) {
         if (!Gestures::pickRow(presets, row))
             return {};
@@ -133,6 +133,28 @@ void Hand::pickPreset(int row)
     if (Gestures::pickRow(presets, row))
         presetChosen(presets->tagOfItem(row));
     EXPECT_TRUE(m_dialog.refresh());
+}
+
+QString Hand::changeBoxByTimer(std::uint32_t number)
+{
+    if (!m_dialog.panel().isShown() || !m_dialog.hasTab(panelTab))
+        return {};
+    // Boxes that no rule greys.
+    QCheckBox *const box = m_dialog.panel().box(number % 2 == 0 ? "mMirrorPrintChkBx" : "mCutAndEndChkBx");
+    if (!box)
+        return {};
+    m_dialog.chooseTab(QStringLiteral("Summary"));
+    const bool wasOn = box->isChecked();
+    QEventLoop loop;
+    QTimer::singleShot(0, box, [&] {
+        // Without a report to the dialog, nor an event for the view behind the page in front.
+        box->toggle();
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop,
+                         &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    boxClicked(box, wasOn);
+    return box->objectName() + (wasOn ? QStringLiteral(" off") : QStringLiteral(" on"));
 }
 
 void Hand::countChosen(int count)

@@ -22,9 +22,8 @@ public:
     /// Another program run: nothing is known of the user.
     void forget();
 
-    /// A rule has replaced these options for a while: special tape was on, or a ready-made combination was
-    /// picked while the paper replaced a choice. From now on the job may have what was chosen before, or
-    /// these values.
+    /// Special tape has put these options off for a while. From now on the job may have what was chosen
+    /// before, or these values.
     void alsoAccept(const OptionTexts &options, const std::vector<QByteArray> &names);
 
     /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a

@@ -21,6 +21,7 @@ enum class Action {
     PickPaper,
     StepPaperByKey,
     TurnToPage,
+    ChangeBoxByTimer,
     PickQueue,
     PickOption,
     StepOptionByKey,

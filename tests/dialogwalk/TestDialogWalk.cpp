@@ -38,6 +38,7 @@ Step randomStep(walk::Dice &dice)
         {Action::PickPaper, 10},
         {Action::StepPaperByKey, 5},
         {Action::TurnToPage, 12},
+        {Action::ChangeBoxByTimer, 4},
         {Action::PickQueue, 4},
         {Action::PickOption, 4},
         {Action::StepOptionByKey, 4},
@@ -62,14 +63,15 @@ Step randomStep(walk::Dice &dice)
     return {};
 }
 
-void report(WalkedServer &server, const Walk &walk, const Fault &found, std::uint64_t seed)
+void report(WalkedServer &server, const Walk &walk, const Fault &found, std::uint64_t seed,
+            std::uint64_t step)
 {
     const int tries = static_cast<int>(numberFromEnvironment("KV_DIALOG_WALK_TRIES", 60));
     const auto [episode, fault] = shortest(server, walk.episode(), found, tries);
     ADD_FAILURE() << fault.text().toStdString() << "\n-- at first, after " << found.steps.size()
                   << " steps:\n"
-                  << found.departures.join(u'\n').toStdString()
-                  << "\nRepeat the whole walk with KV_DIALOG_WALK_SEED=" << seed;
+                  << found.departures.join(u'\n').toStdString() << "\nThis is step " << step
+                  << " of the walk; repeat it with KV_DIALOG_WALK_SEED=" << seed;
 }
 
 TEST(DialogWalk, WhatIsShownIsWhatIsSentAndWhatIsChosenStays)
@@ -81,7 +83,9 @@ TEST(DialogWalk, WhatIsShownIsWhatIsSentAndWhatIsChosenStays)
     WalkedServer server;
     Walk walk(server);
     std::optional<Fault> fault = walk.begin(QStringLiteral("lx"));
-    for (std::uint64_t step = 1; !fault && step <= steps; ++step) {
+    std::uint64_t step = 0;
+    while (!fault && step < steps) {
+        ++step;
         const bool prints = step % 10 == 0;
         const Step next = randomStep(dice);
         fault = walk.go(prints ? Step{Action::Print, next.number} : next);
@@ -91,7 +95,7 @@ TEST(DialogWalk, WhatIsShownIsWhatIsSentAndWhatIsChosenStays)
     if (!fault)
         fault = walk.checkRecords();
     if (fault)
-        report(server, walk, *fault, seed);
+        report(server, walk, *fault, seed, step);
 }
 
 } // namespace

@@ -28,6 +28,14 @@ QByteArray without(QByteArray ppd, const QByteArray &keyword)
     return ppd.replace(", 1.0\"", ", 1.1\"");
 }
 
+/// The description without a default for the option, which is then marked by nothing but the panel.
+QByteArray withoutDefault(QByteArray ppd, const QByteArray &keyword)
+{
+    const auto begin = ppd.indexOf("*Default" + keyword + ':');
+    EXPECT_GE(begin, 0) << keyword.constData();
+    return ppd.remove(begin, ppd.indexOf('\n', begin) + 1 - begin);
+}
+
 } // namespace
 
 WalkedServer::WalkedServer()
@@ -38,6 +46,8 @@ WalkedServer::WalkedServer()
              without(samplePpd("kvelland-dz500.ppd"), "KvMirror"));
     addQueue(QStringLiteral("few"), samplePpd("kvelland-lx300.ppd"),
              without(samplePpd("kvelland-lx300.ppd"), "KvHalfCut"));
+    addQueue(QStringLiteral("bare"), withoutDefault(samplePpd("kvelland-lx300.ppd"), "KvHalfCut"),
+             without(withoutDefault(samplePpd("kvelland-lx300.ppd"), "KvHalfCut"), "KvMirror"));
     addQueue(QStringLiteral("plain"), optionsPpd(),
              without(optionsPpd(), "Twins").replace("Kvelland Options", "Kvelland Other"));
     m_cupsd.addRawQueue(QStringLiteral("raw"));
