@@ -154,7 +154,7 @@ QString Hand::pressRemedy()
     Hands::click(button);
     for (const host::Remedy::Change &change : pressed.changes) {
         if (change.keyword == QStringLiteral("KvSpecialTape"))
-            acceptSpecialTape();
+            endSpecialTape();
         m_intent.choose({{change.keyword.toUtf8(), change.choice.toUtf8()}});
     }
     return pressed.sentence();

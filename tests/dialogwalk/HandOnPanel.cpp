@@ -43,14 +43,12 @@ void Hand::boxClicked(const QCheckBox *box, bool wasOn)
     else if (wasOn)
         chooseShown({QStringLiteral("KvAutoTapeCut")});
     if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
-        acceptSpecialTape();
+        endSpecialTape();
 }
 
-void Hand::acceptSpecialTape()
+void Hand::endSpecialTape()
 {
-    // What special tape has put off is on again when only boxes had it, and off when the panel was refreshed
-    // since.
-    m_intent.alsoAccept(m_dialog.panel().chosen(), namesOffOnSpecialTape());
+    m_intent.endSpecialTape(m_dialog.panel().chosen());
 }
 
 QString Hand::onBox(const Step &step)
@@ -87,7 +85,7 @@ void Hand::presetChosen(int tag)
     const OptionTexts before = m_intent.wanted();
     const OptionTexts preset = m_dialog.panel().ofPreset(tag);
     if (before.value("KvSpecialTape") == "ON" && preset.value("KvSpecialTape") == "OFF")
-        acceptSpecialTape();
+        endSpecialTape();
     m_intent.choose(preset);
     chooseShown(m_dialog.printer().cutKeywords);
 }

@@ -62,15 +62,23 @@ void Intent::choose(const OptionTexts &chosen)
         memory.chosen.insert(each.key());
         memory.alternatives.remove(each.key());
     }
+    // The paper replaces what special tape hides, and no banner tells of what is off in any case.
+    if (memory.texts.value("KvSpecialTape") != "ON")
+        return;
+    for (const QByteArray &name : namesOffOnSpecialTape()) {
+        if (mayBeReplaced(name, memory.texts.value("PageSize")))
+            memory.replacedWhileHidden.insert(name);
+    }
 }
 
-void Intent::alsoAccept(const OptionTexts &options, const std::vector<QByteArray> &names)
+void Intent::endSpecialTape(const OptionTexts &shown)
 {
     Memory &memory = m_memories[m_destination];
-    for (const QByteArray &name : names) {
-        if (memory.texts.contains(name))
-            memory.alternatives[name].append(options.value(name));
+    for (const QByteArray &name : namesOffOnSpecialTape()) {
+        if (memory.texts.contains(name) && memory.replacedWhileHidden.contains(name))
+            memory.alternatives[name].append(shown.value(name));
     }
+    memory.replacedWhileHidden.clear();
 }
 
 void Intent::forget()

@@ -22,9 +22,9 @@ public:
     /// Another program run: nothing is known of the user.
     void forget();
 
-    /// Special tape has put these options off for a while. From now on the job may have what was chosen
-    /// before, or these values.
-    void alsoAccept(const OptionTexts &options, const std::vector<QByteArray> &names);
+    /// Special tape puts nothing off any more. What it has hidden comes again; where a paper was chosen
+    /// meanwhile that replaces it, the job may have these values instead.
+    void endSpecialTape(const OptionTexts &shown);
 
     /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a
     /// choice, and then a banner has to say so.
@@ -38,6 +38,7 @@ private:
 
     struct Memory {
         OptionTexts texts;
+        std::set<QByteArray> replacedWhileHidden;
         /// What the job may have instead.
         QMap<QByteArray, QList<QByteArray>> alternatives;
         /// What the user has given a value, and not only found.
