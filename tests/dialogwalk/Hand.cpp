@@ -152,11 +152,8 @@ QString Hand::pressRemedy()
         return {};
     const host::Remedy pressed = *remedy;
     Hands::click(button);
-    for (const host::Remedy::Change &change : pressed.changes) {
-        if (change.keyword == QStringLiteral("KvSpecialTape"))
-            endSpecialTape();
+    for (const host::Remedy::Change &change : pressed.changes)
         m_intent.choose({{change.keyword.toUtf8(), change.choice.toUtf8()}});
-    }
     return pressed.sentence();
 }
 

@@ -51,7 +51,6 @@ private:
     void enter();
     void presetChosen(int tag);
     void boxClicked(const QCheckBox *box, bool wasOn);
-    void endSpecialTape();
     /// Combinations, and the box that shares automatic cutting, are the user's word about what the paper has
     /// replaced, too: of these options what the boxes show.
     void chooseShown(const QStringList &keywords);

@@ -42,13 +42,6 @@ void Hand::boxClicked(const QCheckBox *box, bool wasOn)
         m_intent.choose({{keyword, wasOn ? "OFF" : "ON"}});
     else if (wasOn)
         chooseShown({QStringLiteral("KvAutoTapeCut")});
-    if (wasOn && box->objectName() == QStringLiteral("mSpecialTapeChkBx"))
-        endSpecialTape();
-}
-
-void Hand::endSpecialTape()
-{
-    m_intent.endSpecialTape(m_dialog.panel().chosen());
 }
 
 QString Hand::onBox(const Step &step)
@@ -82,11 +75,7 @@ void Hand::clickBox(const QString &name)
 
 void Hand::presetChosen(int tag)
 {
-    const OptionTexts before = m_intent.wanted();
-    const OptionTexts preset = m_dialog.panel().ofPreset(tag);
-    if (before.value("KvSpecialTape") == "ON" && preset.value("KvSpecialTape") == "OFF")
-        endSpecialTape();
-    m_intent.choose(preset);
+    m_intent.choose(m_dialog.panel().ofPreset(tag));
     chooseShown(m_dialog.printer().cutKeywords);
 }
 

@@ -60,25 +60,7 @@ void Intent::choose(const OptionTexts &chosen)
     for (auto each = chosen.begin(); each != chosen.end(); ++each) {
         memory.texts[each.key()] = each.value();
         memory.chosen.insert(each.key());
-        memory.alternatives.remove(each.key());
     }
-    // The paper replaces what special tape hides, and no banner tells of what is off in any case.
-    if (memory.texts.value("KvSpecialTape") != "ON")
-        return;
-    for (const QByteArray &name : namesOffOnSpecialTape()) {
-        if (mayBeReplaced(name, memory.texts.value("PageSize")))
-            memory.replacedWhileHidden.insert(name);
-    }
-}
-
-void Intent::endSpecialTape(const OptionTexts &shown)
-{
-    Memory &memory = m_memories[m_destination];
-    for (const QByteArray &name : namesOffOnSpecialTape()) {
-        if (memory.texts.contains(name) && memory.replacedWhileHidden.contains(name))
-            memory.alternatives[name].append(shown.value(name));
-    }
-    memory.replacedWhileHidden.clear();
 }
 
 void Intent::forget()
@@ -125,11 +107,9 @@ QStringList Intent::broken(const WalkedDialog &dialog) const
     QStringList lines;
     const OptionTexts options = dialog.options();
     const OptionTexts all = wanted();
-    const auto &alternatives = m_memories.at(m_destination).alternatives;
     for (auto each = all.begin(); each != all.end(); ++each) {
         const QByteArray got = options.value(each.key());
-        const bool isAccepted = alternatives.value(each.key()).contains(got);
-        if (isAccepted || isSame(each.key(), got, each.value()))
+        if (isSame(each.key(), got, each.value()))
             continue;
         const QString reason = reasonFor(dialog, each.key(), each.value(), got);
         if (!reason.isEmpty())

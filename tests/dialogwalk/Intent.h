@@ -22,10 +22,6 @@ public:
     /// Another program run: nothing is known of the user.
     void forget();
 
-    /// Special tape puts nothing off any more. What it has hidden comes again; where a paper was chosen
-    /// meanwhile that replaces it, the job may have these values instead.
-    void endSpecialTape(const OptionTexts &shown);
-
     /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a
     /// choice, and then a banner has to say so.
     QStringList broken(const WalkedDialog &dialog) const;
@@ -38,9 +34,6 @@ private:
 
     struct Memory {
         OptionTexts texts;
-        std::set<QByteArray> replacedWhileHidden;
-        /// What the job may have instead.
-        QMap<QByteArray, QList<QByteArray>> alternatives;
         /// What the user has given a value, and not only found.
         std::set<QByteArray> chosen;
     };

@@ -116,11 +116,6 @@ OptionTexts PanelBoxes::ofPreset(int tag) const
     return texts;
 }
 
-std::vector<QByteArray> namesOffOnSpecialTape()
-{
-    return {std::begin(offOnSpecialTape), std::end(offOnSpecialTape)};
-}
-
 OptionTexts withSpecialTape(OptionTexts chosen)
 {
     if (chosen.value("KvSpecialTape") != "ON")

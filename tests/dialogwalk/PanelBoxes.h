@@ -53,8 +53,6 @@ private:
     QLineEdit *m_count = nullptr;
 };
 
-/// The options that special tape puts off.
-std::vector<QByteArray> namesOffOnSpecialTape();
 /// What special tape makes of the other choices: off are those that would cut or mark it.
 OptionTexts withSpecialTape(OptionTexts chosen);
 

@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <tests/support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 namespace dialogwalk {
@@ -90,6 +92,10 @@ int WalkedServer::variant(const QString &destination) const
 void WalkedServer::replacePpd(const QString &destination, int variant)
 {
     const QString queue = destination.section(u'/', 0, 0);
+    // A server begins the job of a queue that changes meanwhile anew: it would be recorded twice.
+    EXPECT_TRUE(test_support::waitUntil([&] {
+        return m_cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o"), queue}).isEmpty();
+    }));
     m_variants[queue] = variant;
     m_cupsd.addQueue(queue, ppd(queue));
 }
