@@ -16,7 +16,7 @@ namespace {
 /// How often results are delivered. Each time, everything that shows lengths is laid out again.
 constexpr std::chrono::milliseconds interval{100};
 /// Pages that one task is given; more than it measures in the interval.
-constexpr std::size_t mostPagesATask = 2000;
+constexpr std::size_t maxPagesPerTask = 2000;
 
 } // namespace
 
@@ -24,17 +24,17 @@ BlankMeasurer::BlankMeasurer(PageThread &thread, QSizeF paper, int pageCount)
     : m_thread(thread)
     , m_paper(paper)
     , m_extents(static_cast<std::size_t>(pageCount))
-    , m_isWanted(static_cast<std::size_t>(pageCount))
+    , m_isRequested(static_cast<std::size_t>(pageCount))
 {
 }
 
 std::optional<LabelExtent> BlankMeasurer::extent(int page)
 {
     const auto index = static_cast<std::size_t>(page);
-    if (m_extents[index] || m_isWanted[index])
+    if (m_extents[index] || m_isRequested[index])
         return m_extents[index];
-    m_isWanted[index] = true;
-    m_wanted.push_back(page);
+    m_isRequested[index] = true;
+    m_requested.push_back(page);
     // Mostly many pages are asked for one after the other.
     if (!std::exchange(m_isStarted, true))
         QMetaObject::invokeMethod(this, &BlankMeasurer::start, Qt::QueuedConnection);
@@ -43,9 +43,9 @@ std::optional<LabelExtent> BlankMeasurer::extent(int page)
 
 void BlankMeasurer::cancel()
 {
-    for (const int page : m_wanted)
-        m_isWanted[static_cast<std::size_t>(page)] = false;
-    m_wanted.clear();
+    for (const int page : m_requested)
+        m_isRequested[static_cast<std::size_t>(page)] = false;
+    m_requested.clear();
     m_next = 0;
     *m_isCanceled = true;
     m_isCanceled = std::make_shared<std::atomic<bool>>(false);
@@ -68,14 +68,14 @@ void BlankMeasurer::finish()
 void BlankMeasurer::start()
 {
     // Canceled before it began.
-    if (m_wanted.empty()) {
+    if (m_requested.empty()) {
         m_isStarted = false;
         return;
     }
     if (!m_sinceSignal.isValid())
         m_sinceSignal.start();
-    const std::size_t count = std::min(m_wanted.size() - m_next, mostPagesATask);
-    const auto first = m_wanted.begin() + static_cast<std::ptrdiff_t>(m_next);
+    const std::size_t count = std::min(m_requested.size() - m_next, maxPagesPerTask);
+    const auto first = m_requested.begin() + static_cast<std::ptrdiff_t>(m_next);
     const auto measure = [this, pages = std::vector<int>(first, first + static_cast<std::ptrdiff_t>(count)),
                           paper = m_paper, isCanceled = m_isCanceled](
                              const LabelDocument &document, const PageThread::ShouldPause &shouldPause) {
@@ -100,14 +100,14 @@ void BlankMeasurer::store(const Measured &results)
         const auto index = static_cast<std::size_t>(page);
         m_extents[index] = extent;
         // Not so for a page that was canceled meanwhile.
-        if (m_next < m_wanted.size() && m_wanted[m_next] == page)
+        if (m_next < m_requested.size() && m_requested[m_next] == page)
             ++m_next;
     }
-    if (m_next == m_wanted.size()) {
-        m_wanted.clear();
+    if (m_next == m_requested.size()) {
+        m_requested.clear();
         m_next = 0;
     }
-    m_isStarted = !m_wanted.empty();
+    m_isStarted = !m_requested.empty();
     if (m_isStarted)
         start();
     if (isIdle() || m_sinceSignal.hasExpired(interval.count())) {

@@ -29,7 +29,7 @@ public:
     /// Measures nothing more of what has been asked for until now.
     void cancel();
     /// Whether nothing is left of what has been asked for.
-    bool isIdle() const { return m_wanted.empty(); }
+    bool isIdle() const { return m_requested.empty(); }
     /// Returns when nothing is left, and runs an event loop without the user's input meanwhile. For runs
     /// without a window.
     void finish();
@@ -48,10 +48,10 @@ private:
     QSizeF m_paper;
     std::vector<std::optional<LabelExtent>> m_extents;
     /// The pages asked for; those before m_next are measured.
-    std::vector<int> m_wanted;
+    std::vector<int> m_requested;
     std::size_t m_next = 0;
     /// By page, whether it has been asked for and not canceled.
-    std::vector<bool> m_isWanted;
+    std::vector<bool> m_isRequested;
     /// A task runs, or is about to.
     bool m_isStarted = false;
     /// Set for the task that runs when its pages are canceled.

@@ -16,8 +16,8 @@ namespace {
 /// Sizes in PDFs are rounded, often to whole points; a page this little too large is not shrunk.
 constexpr double tolerance = 0.5;
 /// Pixels that one image of a label may have, and along one side what QPainter can draw.
-constexpr double mostPixels = 40e6;
-constexpr double mostPixelsASide = 32000.0;
+constexpr double maxPixels = 40e6;
+constexpr double maxPixelsPerSide = 32000.0;
 /// As fine as the usual label printer's 203 dots an inch.
 constexpr double measuringResolution = 8.0;
 
@@ -59,9 +59,9 @@ double LabelDrawing::scale(int page) const
 
 double LabelDrawing::possibleResolution(double pixelsPerMillimetre) const
 {
-    return std::min({pixelsPerMillimetre, mostPixelsASide / m_label.width(),
-                     mostPixelsASide / m_label.height(),
-                     std::sqrt(mostPixels / (m_label.width() * m_label.height()))});
+    return std::min({pixelsPerMillimetre, maxPixelsPerSide / m_label.width(),
+                     maxPixelsPerSide / m_label.height(),
+                     std::sqrt(maxPixels / (m_label.width() * m_label.height()))});
 }
 
 QSize LabelDrawing::labelPixels(double pixelsPerMillimetre) const

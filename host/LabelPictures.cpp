@@ -14,7 +14,7 @@ namespace {
 
 /// Pictures come to the window after that time, and not all at the end.
 constexpr std::chrono::milliseconds slice{30};
-constexpr qint64 mostBytes = 128LL * 1024 * 1024;
+constexpr qint64 maxBytes = 128LL * 1024 * 1024;
 
 } // namespace
 
@@ -80,7 +80,7 @@ void LabelPictures::store(const std::vector<Drawn> &results, double resolution)
         picture = {drawn.image, resolution};
     }
     std::erase_if(m_missing, [this](int page) { return isDrawn(page); });
-    if (m_bytes > mostBytes)
+    if (m_bytes > maxBytes)
         dropUnseen();
     start();
     Q_EMIT drawn();

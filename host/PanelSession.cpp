@@ -43,14 +43,14 @@ PanelSettings PanelSession::settings() const
     settings.choices = m_host->collect([&] {
         QString error;
         if (!panel->saveValuesAndReturnError(&error))
-            settings.refusal = Text::tr("\"%1\" cannot save its settings: %2").arg(panel->panelName(), error);
+            settings.error = Text::tr("\"%1\" cannot save its settings: %2").arg(panel->panelName(), error);
     });
-    if (settings.refusal)
+    if (settings.error)
         return settings;
     const PDEChoices completed = m_host->collect([&] {
         if (!panel->shouldPrint())
-            settings.refusal = Text::tr("\"%1\" does not let the job be printed with these settings.")
-                                   .arg(panel->panelName());
+            settings.error = Text::tr("\"%1\" does not let the job be printed with these settings.")
+                                 .arg(panel->panelName());
     });
     // The check completes options that have no mark. Those that saving has written would have one by now.
     for (const auto &[keyword, choice] : completed) {

@@ -12,7 +12,7 @@ struct PanelSettings {
     /// panel does not write is absent.
     PDEChoices choices = {};
     /// Why the panel does not let the job be printed; absent when it does.
-    std::optional<QString> refusal = {};
+    std::optional<QString> error = {};
 
     /// The choice of the keyword; absent when the panel does not write it.
     std::optional<QString> choice(const QString &keyword) const;

@@ -98,7 +98,7 @@ bool CupsConnection::connect()
     errno = 0;
     // Encryption is switched on afterwards, when the limits on silence hold already.
     m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
-                              static_cast<int>(patience()), m_state->task->cancelFlag()));
+                              static_cast<int>(timeout()), m_state->task->cancelFlag()));
     if (!m_http)
         return false;
     httpSetTimeout(m_http.get(), lookInterval, mayWaitOn, m_state.get());
@@ -166,7 +166,7 @@ CupsError CupsConnection::lastError() const
     const bool isRefusal = status >= IPP_STATUS_REDIRECTION_OTHER_SITE && status != IPP_STATUS_ERROR_INTERNAL;
     if (!m_http || m_state->wasSilent || m_state->task->isCancelled() || !isRefusal)
         return noAnswer();
-    return refusal(failureFor(status), QString::fromUtf8(cupsLastErrorString()));
+    return serverError(failureFor(status), QString::fromUtf8(cupsLastErrorString()));
 }
 
 CupsError CupsConnection::passwordError() const
@@ -176,7 +176,7 @@ CupsError CupsConnection::passwordError() const
                 .arg(server().displayName(), QString::fromUtf8(cupsUser()))};
 }
 
-CupsError CupsConnection::refusal(CupsFailure kind, const QString &reason) const
+CupsError CupsConnection::serverError(CupsFailure kind, const QString &reason) const
 {
     if (m_state->lacksPassword && kind == CupsFailure::NotAuthorized)
         return passwordError();
@@ -246,7 +246,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
         if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
             return noAnswer();
         httpFlush(m_http.get());
-        return refusal(failureFor(status), QString::fromUtf8(httpStatus(status)));
+        return serverError(failureFor(status), QString::fromUtf8(httpStatus(status)));
     }
     // Not ippRead(): it takes the first pause between two pieces of an answer for its end, when there is a
     // limit on silence.
@@ -262,7 +262,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
         return answer;
     const char *const words =
         ippGetString(ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT), 0, nullptr);
-    return refusal(failureFor(outcome), QString::fromUtf8(words ? words : ippErrorString(outcome)));
+    return serverError(failureFor(outcome), QString::fromUtf8(words ? words : ippErrorString(outcome)));
 }
 
 Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer request, const QByteArray &resource)
@@ -289,7 +289,7 @@ http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArr
             cupsDoAuthentication(m_http.get(), method, resource.constData()))
             return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
         beginWaiting();
-        if (httpReconnect2(m_http.get(), static_cast<int>(patience()), m_state->task->cancelFlag()))
+        if (httpReconnect2(m_http.get(), static_cast<int>(timeout()), m_state->task->cancelFlag()))
             return HTTP_STATUS_ERROR;
         if (status == HTTP_STATUS_UPGRADE_REQUIRED && httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED))
             return HTTP_STATUS_ERROR;

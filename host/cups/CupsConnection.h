@@ -25,7 +25,7 @@ struct HttpClose {
 using HttpPointer = std::unique_ptr<http_t, HttpClose>;
 
 /// A connection to a CUPS server for one task in the background. It gives up as soon as the task is
-/// cancelled, or when the server has been silent for longer than the server's patience, neither saying nor
+/// cancelled, or when the server has been silent for longer than the server's timeout, neither saying nor
 /// taking anything; libcups alone would wait for a minute and more.
 class CupsConnection {
 public:
@@ -82,7 +82,7 @@ private:
     /// What callbacks of libcups get to see; stays where it is when the connection is moved.
     struct State {
         void restartSilence() { heard = server.clock(); }
-        bool hasBeenSilentTooLong() const { return server.clock() - heard > server.patience; }
+        bool hasBeenSilentTooLong() const { return server.clock() - heard > server.timeout; }
 
         CupsServer server;
         BackgroundTask *task = nullptr;
@@ -107,9 +107,9 @@ private:
     }
 
     /// In milliseconds.
-    qint64 patience() const { return server().patience.count(); }
+    qint64 timeout() const { return server().timeout.count(); }
     bool wasGivenUp() const;
-    CupsError refusal(CupsFailure kind, const QString &reason) const;
+    CupsError serverError(CupsFailure kind, const QString &reason) const;
     CupsError passwordError() const;
     bool connect();
     http_status_t askUntilAllowed(const char *method, const QByteArray &resource,

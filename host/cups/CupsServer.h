@@ -40,7 +40,7 @@ struct CupsServer {
     /// The user for whom jobs are printed; nothing for CUPS_USER or who is logged in.
     std::optional<QString> user;
     /// How long a server may be silent before it is given up.
-    std::chrono::milliseconds patience{10000};
+    std::chrono::milliseconds timeout{10000};
     /// What the silence is measured by.
     std::function<std::chrono::steady_clock::time_point()> clock = std::chrono::steady_clock::now;
     /// Asks the user for a password, on the main thread; without one, whatever needs a password fails.

@@ -100,7 +100,7 @@ std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destinati
 {
     if (!destination.isDiscovered)
         return std::nullopt;
-    const std::chrono::milliseconds printersTime = time.value_or(connection.server().patience);
+    const std::chrono::milliseconds printersTime = time.value_or(connection.server().timeout);
     const Result<bool, CupsError> made = isMade(connection, destination.queue);
     if (made && made.value())
         return std::nullopt;

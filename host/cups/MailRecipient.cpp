@@ -17,7 +17,7 @@ namespace host {
 namespace {
 
 /// A machine that knows its full name by itself answers much sooner.
-constexpr std::chrono::milliseconds patience{1000};
+constexpr std::chrono::milliseconds timeout{1000};
 
 QByteArray fullHostName()
 {
@@ -28,7 +28,7 @@ QByteArray fullHostName()
         std::array<char, HTTP_MAX_HOST> text = {};
         found->set_value(httpGetHostname(nullptr, text.data(), static_cast<int>(text.size())));
     });
-    if (name.wait_for(patience) == std::future_status::ready)
+    if (name.wait_for(timeout) == std::future_status::ready)
         return name.get();
     return QSysInfo::machineHostName().toUtf8();
 }

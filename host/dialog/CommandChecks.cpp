@@ -35,12 +35,12 @@ CommandChecks::CommandChecks(const CommandLine &command, const Console &console)
 {
 }
 
-QString CommandChecks::refusalText(const host::ChoiceError &refusal, const host::PrinterSetup &setup) const
+QString CommandChecks::errorText(const host::ChoiceError &error, const host::PrinterSetup &setup) const
 {
     const bool isPaperOfFile =
-        m_command.ppd && m_command.paper && refusal.kind == host::ChoiceFailure::UnknownPaper;
+        m_command.ppd && m_command.paper && error.kind == host::ChoiceFailure::UnknownPaper;
     if (!isPaperOfFile)
-        return refusal.message;
+        return error.message;
     return QCoreApplication::translate("dialog::PrintRun",
                                        "The PPD file \"%1\" has no paper \"%2\"; it has: %3")
         .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), paperNames(setup.ppd()));
@@ -48,8 +48,8 @@ QString CommandChecks::refusalText(const host::ChoiceError &refusal, const host:
 
 bool CommandChecks::accepts(const host::PrinterSetup &setup) const
 {
-    for (const host::ChoiceError &refusal : setup.refusals())
-        m_console.complain(refusalText(refusal, setup));
+    for (const host::ChoiceError &error : setup.refusals())
+        m_console.complain(errorText(error, setup));
     if (!setup.refusals().empty() && !m_command.force)
         return false;
     const auto problem = setup.panelProblem();
@@ -72,8 +72,8 @@ void CommandChecks::reportReplaced(const host::Ticket &ticket) const
 
 bool CommandChecks::accepts(const host::Ticket &ticket) const
 {
-    if (ticket.panel.refusal) {
-        m_console.complain(*ticket.panel.refusal);
+    if (ticket.panel.error) {
+        m_console.complain(*ticket.panel.error);
         return false;
     }
     reportReplaced(ticket);

@@ -29,7 +29,7 @@ public:
     static ExitStatus statusOf(ExitStatus status, const host::PrinterSetup &setup);
 
 private:
-    QString refusalText(const host::ChoiceError &refusal, const host::PrinterSetup &setup) const;
+    QString errorText(const host::ChoiceError &error, const host::PrinterSetup &setup) const;
     void reportReplaced(const host::Ticket &ticket) const;
 
     const CommandLine &m_command;

@@ -25,7 +25,7 @@ struct Text {
 };
 
 /// A printer on the network that has no queue yet announces itself within this time.
-constexpr std::chrono::milliseconds discoveryPatience{1500};
+constexpr std::chrono::milliseconds discoveryTimeout{1500};
 
 bool isPpdKnown(const host::QueueSession &session)
 {
@@ -33,10 +33,10 @@ bool isPpdKnown(const host::QueueSession &session)
            session.ppdKnowledge() != host::PpdKnowledge::Cached;
 }
 
-/// Runs the event loop until the condition holds or a signal comes, or as long as the patience lasts; answers
+/// Runs the event loop until the condition holds or a signal comes, or until the timeout; answers
 /// whether it holds.
 bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::function<bool()> &holds,
-               std::optional<std::chrono::milliseconds> patience = std::nullopt)
+               std::optional<std::chrono::milliseconds> timeout = std::nullopt)
 {
     QEventLoop loop;
     const auto look = [&] {
@@ -47,8 +47,8 @@ bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::funct
     QObject::connect(&session, &host::QueueSession::chosenChanged, &loop, look);
     QObject::connect(&session, &host::QueueSession::ppdChanged, &loop, look);
     QObject::connect(&watch, &SignalWatch::caught, &loop, &QEventLoop::quit);
-    if (patience)
-        QTimer::singleShot(*patience, &loop, &QEventLoop::quit);
+    if (timeout)
+        QTimer::singleShot(*timeout, &loop, &QEventLoop::quit);
     if (!holds() && !watch.signal())
         loop.exec();
     return holds();
@@ -77,7 +77,7 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     if (mayBeDiscovered) {
         session.start(host::Discovery::Yes);
         const auto isThere = [&] { return session.chosen().has_value(); };
-        if (waitUntil(session, m_signals, isThere, discoveryPatience)) {
+        if (waitUntil(session, m_signals, isThere, discoveryTimeout)) {
             failure.reset();
             // The server asks the printer what it can do before there is a PPD.
             waitUntil(session, m_signals, [&] { return isPpdKnown(session); });

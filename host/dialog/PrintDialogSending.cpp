@@ -36,8 +36,8 @@ std::optional<QString> PrintDialog::prepare()
     refresh();
     if (m_sender.needsStrip())
         finishMeasuring();
-    if (m_ticket && m_ticket->panel.refusal)
-        return m_ticket->panel.refusal;
+    if (m_ticket && m_ticket->panel.error)
+        return m_ticket->panel.error;
     return m_pagesError.isEmpty() ? std::nullopt : std::optional(m_pagesError);
 }
 

@@ -104,10 +104,10 @@ bool ServerRun::printerHas(const host::JobChange &change)
     }
     bool hasAll = true;
     for (const host::JobChoice &choice : change.options) {
-        const auto refusal = ppd.value() ? host::checkChoice(*ppd.value(), choice) : std::nullopt;
-        if (refusal)
-            m_console.complain(refusal->message);
-        hasAll = hasAll && !refusal;
+        const auto error = ppd.value() ? host::checkChoice(*ppd.value(), choice) : std::nullopt;
+        if (error)
+            m_console.complain(error->message);
+        hasAll = hasAll && !error;
     }
     return hasAll;
 }

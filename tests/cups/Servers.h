@@ -11,7 +11,7 @@ inline host::CupsServer serverAt(const QString &address)
 {
     host::CupsServer server;
     server.address = address;
-    server.patience = std::chrono::hours(1);
+    server.timeout = std::chrono::hours(1);
     return server;
 }
 
@@ -19,6 +19,6 @@ inline host::CupsServer serverAt(const QString &address)
 inline host::CupsServer silentServerAt(const QString &address)
 {
     host::CupsServer server = serverAt(address);
-    server.patience = std::chrono::milliseconds(300);
+    server.timeout = std::chrono::milliseconds(300);
     return server;
 }

@@ -87,7 +87,7 @@ TEST_F(OpeningTest, AServerThatIsAbsentSilentOrDeadIsToldAndTheDialogStays)
         SCOPED_TRACE(row.name);
         host::CupsServer server = knownServer(row.address);
         if (row.isSilent)
-            server.patience = silentServerAt(row.address).patience;
+            server.timeout = silentServerAt(row.address).timeout;
         open(QStringLiteral("tape"), server);
         EXPECT_TRUE(waitUntil([this] { return !told().isEmpty(); }));
         EXPECT_TRUE(told().contains(QLatin1String(row.words))) << told().toStdString();

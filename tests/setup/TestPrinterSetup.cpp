@@ -128,7 +128,7 @@ TEST_F(PrinterSetupTest, ThePanelsRulesHoldForWishesToo)
     const auto setup =
         make(PpdBuilder().allOptions(), {{wish("KvSpecialTape", "ON"), wish("KvHalfCut", "ON")}});
     const host::Ticket ticket = ticketOf(*setup);
-    EXPECT_FALSE(ticket.panel.refusal);
+    EXPECT_FALSE(ticket.panel.error);
     const auto option = [&](const char *name) {
         return *std::ranges::find(ticket.job.options, QByteArray(name), &host::JobOption::name);
     };

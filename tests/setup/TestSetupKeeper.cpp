@@ -31,7 +31,7 @@ protected:
     {
         test_support::awaitBackgroundThreads();
         server.address = cupsd->address();
-        server.patience = test_support::failureTimeout;
+        server.timeout = test_support::failureTimeout;
         QDir(host::QueueCache(server).folder()).removeRecursively();
         cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().allOptions().ppd());
         cupsd->addQueue(QStringLiteral("labels"), PpdBuilder().options({"KvMirror"}).ppd());
