@@ -157,10 +157,4 @@ std::optional<DocumentError> LabelDocument::checkForPrinting() const
     return std::nullopt;
 }
 
-bool LabelDocument::checkAhead(const QDeadlineTimer &until) const
-{
-    return std::ranges::all_of(m_documents,
-                               [&](const auto &document) { return document->pages().checkAhead(until); });
-}
-
 } // namespace host

@@ -4,7 +4,6 @@
 #include "DocumentError.h"
 #include "RegularFile.h"
 
-#include <QDeadlineTimer>
 #include <QImage>
 #include <QSizeF>
 #include <QStringList>
@@ -89,11 +88,8 @@ public:
 
     /// Checks what opening leaves out so as to be quick: pages far behind in long documents, and whether the
     /// files are still what was opened. To be asked before anything is sent; takes seconds for tens of
-    /// thousands of pages, and no time for those that checkAhead() has done.
+    /// thousands of pages, and no time for those whose sizes PageCheck has read in the background.
     std::optional<DocumentError> checkForPrinting() const;
-    /// Does some of that work, until the time is over. False while there is more to do. Windows leave it to
-    /// PageCheck, which reads the sizes in the background.
-    bool checkAhead(const QDeadlineTimer &until) const;
 
 private:
     LabelDocument();

@@ -107,15 +107,6 @@ std::optional<DocumentProblem> PdfPages::checkSize(QSizeF size, int page)
     return std::nullopt;
 }
 
-bool PdfPages::checkAhead(const QDeadlineTimer &until) const
-{
-    do {
-        if (m_checked == pageCount() || checkPagesUpTo(m_checked + 1))
-            return true;
-    } while (!until.hasExpired());
-    return false;
-}
-
 std::optional<DocumentProblem> PdfPages::checkPagesUpTo(int end) const
 {
     for (; m_checked < end; ++m_checked) {

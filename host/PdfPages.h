@@ -3,7 +3,6 @@
 
 #include "DocumentError.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QImage>
 #include <QPdfDocument>
@@ -58,9 +57,6 @@ public:
     int drawingCount() const { return m_drawingCount; }
     /// Checks the pages that are not checked yet.
     std::optional<DocumentProblem> checkPages() const { return checkPagesUpTo(pageCount()); }
-    /// Checks at least one of them, and more until the time is over. False while there are others; what is
-    /// wrong with a page ends the checking and is told by checkPages().
-    bool checkAhead(const QDeadlineTimer &until) const;
 
     /// Why a page of that size, in points, cannot be printed.
     static std::optional<DocumentProblem> checkSize(QSizeF size, int page);
