@@ -8,8 +8,8 @@
 
 namespace host {
 
-/// Reads the sizes of a document's pages in the background, when nothing else is to be drawn or measured, so
-/// that LabelDocument::checkForPrinting() has nothing left to read.
+/// Reads the sizes of a document's pages in the background, so that LabelDocument::checkForPrinting() has
+/// nothing left to read. It reads when nothing else is to be drawn or measured, until a job waits for it.
 class PageCheck : public QObject {
     Q_OBJECT
 
@@ -19,20 +19,24 @@ public:
 
     /// Begins, once.
     void start();
+    /// Reads before anything is measured from now on: a job waits for the sizes and for nothing else.
+    void hurry();
     bool isDone() const { return m_next == m_document.pageCount(); }
 
 Q_SIGNALS:
     void done();
 
 private:
+    void goOn();
     void readSizes();
-    void store(const std::vector<QSizeF> &sizes);
+    void store(int first, const std::vector<QSizeF> &sizes);
 
     const LabelDocument &m_document;
     PageThread &m_thread;
     /// The first page whose size is not read.
     int m_next = 0;
     bool m_isStarted = false;
+    PageThread::Urgency m_urgency = PageThread::Urgency::Checked;
 };
 
 } // namespace host

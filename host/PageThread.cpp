@@ -137,7 +137,7 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::array<std::deque<Entry>, 3> m_entries;
+    std::array<std::deque<Entry>, 4> m_entries;
     /// Null when the thread is to end.
     QObject *m_mailbox;
 };

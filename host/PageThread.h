@@ -25,8 +25,8 @@ public:
     /// asked after each page.
     using ShouldPause = std::function<bool()>;
     using Task = std::function<Delivery(const LabelDocument &document, const ShouldPause &shouldPause)>;
-    /// Tasks run by urgency, and in order.
-    enum class Urgency { Shown, Measured, Checked };
+    /// Tasks run by urgency, and in order. A job that is to be printed waits for what is Awaited.
+    enum class Urgency { Shown, Awaited, Measured, Checked };
 
     /// Opens the document's files once more.
     explicit PageThread(const LabelDocument &document);

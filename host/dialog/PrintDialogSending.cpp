@@ -88,6 +88,9 @@ void PrintDialog::accept()
 {
     if (m_isSending)
         return;
+    // What was changed just now decides whether there is something to measure.
+    if (m_refreshPending)
+        refresh();
     if (!m_printButton->isEnabled()) {
         // Since Print was pressed, while a long document was checked.
         m_sendBar->end();
@@ -96,6 +99,8 @@ void PrintDialog::accept()
     if (isVisible() && !isReadyToSend()) {
         // It has thousands of pages; checking and measuring go on, and the window stays alive meanwhile.
         m_printsWhenReady = true;
+        if (!m_sender.needsStrip())
+            m_pageCheck.hurry();
         m_sendBar->begin(m_draft.title);
         return;
     }

@@ -2,6 +2,8 @@
 #include "ClosedGate.h"
 #include "SamplePdf.h"
 
+#include <host/BlankMeasurer.h>
+#include <host/LabelRenderer.h>
 #include <host/PageCheck.h>
 #include <host/PageThread.h>
 #include <host/PdfPages.h>
@@ -50,10 +52,11 @@ TEST_F(PageThreadTest, RunsWhatIsUrgentFirstAndTheRestInOrder)
     thread.run(Urgency::Checked, &receiver, noting(QStringLiteral("check")));
     thread.run(Urgency::Measured, &receiver, noting(QStringLiteral("measure 1")));
     thread.run(Urgency::Measured, &receiver, noting(QStringLiteral("measure 2")));
+    thread.run(Urgency::Awaited, &receiver, noting(QStringLiteral("await")));
     thread.run(Urgency::Shown, &receiver, noting(QStringLiteral("show")));
     gate.open();
     awaitTasks(thread);
-    EXPECT_EQ(delivered.join(u','), QStringLiteral("show,measure 1,measure 2,check"));
+    EXPECT_EQ(delivered.join(u','), QStringLiteral("show,await,measure 1,measure 2,check"));
 }
 
 TEST_F(PageThreadTest, ReadsTheSamePagesAndDeliversOnTheMainThread)
@@ -83,10 +86,11 @@ TEST_F(PageThreadTest, ATaskPausesForAMoreUrgentOneOnly)
         bool shouldPause;
     };
     const Row rows[] = {
-        {Urgency::Checked, Urgency::Measured, true},  {Urgency::Checked, Urgency::Shown, true},
-        {Urgency::Measured, Urgency::Shown, true},    {Urgency::Measured, Urgency::Measured, false},
-        {Urgency::Measured, Urgency::Checked, false}, {Urgency::Shown, Urgency::Shown, false},
-        {Urgency::Shown, Urgency::Checked, false},
+        {Urgency::Checked, Urgency::Measured, true},   {Urgency::Checked, Urgency::Shown, true},
+        {Urgency::Measured, Urgency::Awaited, true},   {Urgency::Awaited, Urgency::Shown, true},
+        {Urgency::Awaited, Urgency::Measured, false},  {Urgency::Measured, Urgency::Shown, true},
+        {Urgency::Measured, Urgency::Measured, false}, {Urgency::Measured, Urgency::Checked, false},
+        {Urgency::Shown, Urgency::Shown, false},       {Urgency::Shown, Urgency::Checked, false},
     };
     PageThread thread(*document);
     for (const Row &row : rows) {
@@ -222,6 +226,45 @@ TEST_F(PageThreadTest, PageCheckReadsEverySizeThatPrintingAsksFor)
     const auto problem = pages->checkForPrinting();
     ASSERT_TRUE(problem);
     EXPECT_TRUE(problem->message.contains(QStringLiteral("page 1201 "))) << problem->message.toStdString();
+}
+
+TEST_F(PageThreadTest, PageCheckWithAJobWaitingComesBeforeAllMeasuring)
+{
+    // One page is left to read, so that one task does it.
+    constexpr int count = host::PdfPages::checkedAtOnce + 1;
+    for (const bool isStartedFirst : {true, false}) {
+        SCOPED_TRACE(isStartedFirst);
+        const auto pages = openBoxes(sandbox, std::vector<QByteArray>(count, "[0 0 100 100]"));
+        PageThread thread(*pages);
+        const host::LabelRenderer labels(*pages, QSizeF(100, 100), thread);
+        host::PageCheck check(*pages, thread);
+        const auto countMeasured = [&] {
+            int measured = 0;
+            for (int page = 0; page < count; ++page)
+                measured += labels.measurer()->extent(page).has_value() ? 1 : 0;
+            return measured;
+        };
+        int checkedCount = 0;
+        int measuredBefore = -1;
+        QObject::connect(&check, &host::PageCheck::done, &receiver, [&] {
+            ++checkedCount;
+            measuredBefore = countMeasured();
+        });
+        ClosedGate gate(thread);
+        EXPECT_EQ(countMeasured(), 0) << "all are asked for now";
+        if (isStartedFirst)
+            check.start();
+        QCoreApplication::processEvents();
+        check.hurry();
+        check.start();
+        check.hurry();
+        gate.open();
+        labels.measurer()->finish();
+        awaitTasks(thread);
+        EXPECT_EQ(checkedCount, 1);
+        EXPECT_EQ(measuredBefore, 0);
+        EXPECT_EQ(countMeasured(), count);
+    }
 }
 
 TEST_F(PageThreadTest, PageCheckOfAShortDocumentIsDoneAtOnce)

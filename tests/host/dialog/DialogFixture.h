@@ -18,6 +18,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 /// Keeps what the dialog hands over, and fails when it is told to.
 class RecordingSender : public dialog::JobSender {
 public:
@@ -25,6 +27,8 @@ public:
     {
         jobs.push_back(job.plan ? host::cutPlanFigures(*job.plan) : QString());
         ticket = job.ticket;
+        measuredCount =
+            job.plan ? std::ranges::count(job.plan->labels(), true, &host::PlannedLabel::isMeasured) : 0;
         if (isSlow)
             return;
         if (problem)
@@ -46,6 +50,8 @@ public:
 
     std::vector<QString> jobs;
     std::optional<host::Ticket> ticket;
+    /// How many labels of the job that was sent last were measured then.
+    std::ptrdiff_t measuredCount = 0;
     std::optional<QString> problem;
     /// The outcome of send() is left to the test.
     bool isSlow = false;
