@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // A bundle as small as one can be: one panel with one check box for the option "KvMirror". It tells in its
-// summary what it heard from the dialog.
+// summary what it heard from the dialog. While its view has the property "refusesJobs", it lets no job pass;
+// it counts in "askedForJobs" how often it was asked.
 #include <plugin/protocol/PDEPlugIn.h>
 #include <plugin/protocol/PDEUserChoices.h>
 
@@ -31,7 +32,11 @@ public:
     void willShow() override { m_heard.append(QStringLiteral("willShow")); }
     void printWindowWillClose(QWidget *) override {}
     bool shouldHide() const override { return false; }
-    bool shouldPrint() override { return true; }
+    bool shouldPrint() override
+    {
+        m_box.setProperty("askedForJobs", m_box.property("askedForJobs").toInt() + 1);
+        return !m_box.property("refusesJobs").toBool();
+    }
     bool shouldShowHelp() const override { return false; }
     void PPDOptionKeyValueDidChange(const std::optional<QString> &key,
                                     const std::optional<QString> &choice) override
