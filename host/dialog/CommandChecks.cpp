@@ -5,8 +5,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace dialog {
 
 namespace {
@@ -58,25 +56,20 @@ bool CommandChecks::accepts(const host::PrinterSetup &setup) const
     return !problem || problem->kind != host::PanelFailure::BrokenBundle;
 }
 
-void CommandChecks::reportReplaced(const host::Ticket &ticket) const
+void CommandChecks::reportReplaced(const host::PrinterSetup &setup) const
 {
-    for (const host::JobChoice &wish : m_command.options) {
-        const auto now = std::ranges::find(ticket.choices, wish.name, &host::JobChoice::name);
-        if (now != ticket.choices.end() && now->value != wish.value)
-            m_console.complain(Text::tr("\"%1\" cannot be \"%2\" together with the other cut options and is "
-                                        "printed as \"%3\"")
-                                   .arg(QString::fromUtf8(wish.name), QString::fromUtf8(wish.value),
-                                        QString::fromUtf8(now->value)));
-    }
+    // By the names that the command line uses.
+    for (const auto &[keyword, choice, saved] : setup.replaced())
+        m_console.complain(host::PrinterSetup::replacedSentence(keyword, choice, saved));
 }
 
-bool CommandChecks::accepts(const host::Ticket &ticket) const
+bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const
 {
     if (ticket.panel.error) {
         m_console.complain(*ticket.panel.error);
         return false;
     }
-    reportReplaced(ticket);
+    reportReplaced(setup);
     for (const host::Conflict &conflict : ticket.conflicts)
         m_console.complain(conflict.sentence());
     if (ticket.remedy)

@@ -20,9 +20,9 @@ public:
     /// Whether the printer can do what is requested, or is to do it by force. Reports what it cannot do, and
     /// a panel that cannot be shown.
     bool accepts(const host::PrinterSetup &setup) const;
-    /// Whether the job may be sent without asking. Reports a panel that refuses, requested choices that the
-    /// panel's rules have replaced, and conflicts with their remedy.
-    bool accepts(const host::Ticket &ticket) const;
+    /// Whether the job, made for that printer, may be sent without asking. Reports a panel that refuses,
+    /// requested choices that the panel's rules have replaced, and conflicts with their remedy.
+    bool accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const;
     /// Prints the line by which scripts know the job that was sent, unless the run is quiet.
     void printRequestId(const QueueSender &sender) const;
     /// The status of a run that ended like this: a job that was printed without its panel has its own.
@@ -30,7 +30,7 @@ public:
 
 private:
     QString errorText(const host::ChoiceError &error, const host::PrinterSetup &setup) const;
-    void reportReplaced(const host::Ticket &ticket) const;
+    void reportReplaced(const host::PrinterSetup &setup) const;
 
     const CommandLine &m_command;
     const Console &m_console;

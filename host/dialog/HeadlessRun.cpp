@@ -161,8 +161,8 @@ ExitStatus HeadlessRun::run()
     if (!draft)
         return ExitStatus::Failed;
     const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
-    return checks.accepts(ticket) ? CommandChecks::statusOf(finish(*setup, ticket), *setup)
-                                  : ExitStatus::Failed;
+    return checks.accepts(ticket, *setup) ? CommandChecks::statusOf(finish(*setup, ticket), *setup)
+                                          : ExitStatus::Failed;
 }
 
 ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Ticket &ticket)

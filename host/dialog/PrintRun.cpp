@@ -90,19 +90,19 @@ ExitStatus PrintRun::runVirtual()
     host::SetupKeeper keeper(std::move(setup));
     VirtualSender sender(m_command.output);
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
-    return CommandChecks::statusOf(showVirtual(dialog, sender), *keeper.setup());
+    return CommandChecks::statusOf(showVirtual(dialog, sender, *keeper.setup()), *keeper.setup());
 }
 
-bool PrintRun::canPrintAtOnce(PrintDialog &dialog) const
+bool PrintRun::canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const
 {
     if (const std::optional<QString> problem = dialog.prepare()) {
         m_console.complain(*problem);
         return false;
     }
-    return CommandChecks(m_command, m_console).accepts(*dialog.ticket());
+    return CommandChecks(m_command, m_console).accepts(*dialog.ticket(), setup);
 }
 
-ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
+ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, const host::PrinterSetup &setup)
 {
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
@@ -110,7 +110,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender)
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     const bool printsAtOnce = m_command.noDialog && m_command.task == Task::Print;
-    if ((printsAtOnce || m_command.task != Task::Print) && !canPrintAtOnce(dialog))
+    if ((printsAtOnce || m_command.task != Task::Print) && !canPrintAtOnce(dialog, setup))
         return ExitStatus::Failed;
     if (m_command.task != Task::Print) {
         tellSummary(dialog.summary());

@@ -22,9 +22,9 @@ private:
     ExitStatus runOnQueue();
     /// The printer of a PPD file; null, with the reason told, when it cannot be used as asked.
     std::unique_ptr<host::PrinterSetup> openPrinter();
-    ExitStatus showVirtual(PrintDialog &dialog, class VirtualSender &sender);
+    ExitStatus showVirtual(PrintDialog &dialog, class VirtualSender &sender, const host::PrinterSetup &setup);
     /// Whether what would be printed without a dialog may be; tells what is wrong with it.
-    bool canPrintAtOnce(PrintDialog &dialog) const;
+    bool canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const;
     ExitStatus follow(PrintDialog &dialog, const class QueueSender &sender, const host::CupsServer &server);
     DialogWishes dialogWishes() const;
     bool takeScreenshot(PrintDialog &dialog);

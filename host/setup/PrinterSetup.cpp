@@ -230,22 +230,30 @@ std::optional<QVariantMap> PrinterSetup::panelSummary(const PDEChoices &choices)
     return m_panels ? m_panels->summary(choices) : std::nullopt;
 }
 
+std::vector<ReplacedChoice> PrinterSetup::replaced() const
+{
+    std::vector<ReplacedChoice> replaced = m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>();
+    const PanelSettings now = replaced.empty() ? PanelSettings() : panelSettings();
+    // The user may have got it on the panel since.
+    std::erase_if(replaced,
+                  [&](const ReplacedChoice &each) { return now.choice(each.keyword) != each.saved; });
+    return replaced;
+}
+
 QStringList PrinterSetup::replacedChoices() const
 {
-    const std::vector<ReplacedChoice> replaced =
-        m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>();
-    const PanelSettings now = replaced.empty() ? PanelSettings() : panelSettings();
     QStringList sentences;
-    for (const ReplacedChoice &each : replaced) {
-        // The user may have got it on the panel since.
-        if (now.choice(each.keyword) != each.saved)
-            continue;
-        sentences.append(Text::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
-                                  "printed as \"%3\".")
-                             .arg(ppd().optionText(each.keyword), ppd().choiceText(each.keyword, each.choice),
-                                  ppd().choiceText(each.keyword, each.saved)));
-    }
+    for (const auto &[keyword, choice, saved] : replaced())
+        sentences.append(replacedSentence(ppd().optionText(keyword), ppd().choiceText(keyword, choice),
+                                          ppd().choiceText(keyword, saved)));
     return sentences;
+}
+
+QString PrinterSetup::replacedSentence(const QString &option, const QString &choice, const QString &saved)
+{
+    return Text::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
+                    "printed as \"%3\".")
+        .arg(option, choice, saved);
 }
 
 void PrinterSetup::announcePanel()

@@ -62,8 +62,13 @@ public:
     PanelSettings panelSettings() const;
     /// The panel's lines of the summary for these choices; absent without a panel.
     std::optional<QVariantMap> panelSummary(const PDEChoices &choices) const;
-    /// What was asked for and is replaced by the panel's rules, a sentence for each.
+    /// What was asked for and is replaced by the panel's rules.
+    std::vector<ReplacedChoice> replaced() const;
+    /// A sentence for each, with the PPD's texts.
     QStringList replacedChoices() const;
+    /// What is to be said of a replaced choice, with these names for the option, what was asked for and what
+    /// is saved instead.
+    static QString replacedSentence(const QString &option, const QString &choice, const QString &saved);
 
     /// Nothing without a PPD, or when the PPD names no paper.
     const std::optional<PpdPaper> &paper() const { return m_paper; }

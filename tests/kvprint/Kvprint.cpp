@@ -102,7 +102,7 @@ std::vector<Outcome> Kvprint::runAll(const std::vector<QStringList> &lists) cons
 std::vector<ToldChange> toldChanges(const QByteArray &error)
 {
     static const QRegularExpression line(
-        QStringLiteral("^kvprint: \"(.+)\" cannot be \"(.*)\" together with .* printed as \"(.*)\"$"),
+        QStringLiteral("^kvprint: \"(.+)\" cannot be \"(.*)\" with this paper .* printed as \"(.*)\"\\.$"),
         QRegularExpression::MultilineOption);
     std::vector<ToldChange> changes;
     for (auto matches = line.globalMatch(QString::fromUtf8(error)); matches.hasNext();) {

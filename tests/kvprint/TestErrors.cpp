@@ -3,6 +3,8 @@
 
 #include <QFile>
 
+#include <array>
+
 using test_support::PpdBuilder;
 using test_support::RecordedDocument;
 
@@ -75,6 +77,51 @@ TEST_F(KvprintErrors, NameBothSidesOfAConflict)
     const Outcome dryRun =
         kvprint.run(words + QStringList{QStringLiteral("--dry-run"), QStringLiteral("--force"), picture()});
     EXPECT_EQ(dryRun.status, 0) << dryRun;
+}
+
+TEST_F(KvprintErrors, AreTheSameForAPpdFileAndForAQueue)
+{
+    const struct {
+        const char *printer;
+        const char *options;
+        /// Of --summary, --dry-run and printing, and of the last two with --force.
+        std::array<int, 5> statuses;
+        const char *messagePart;
+    } rows[] = {
+        {"kvelland-dz500", "KvMirror=ON", {0, 0, 0, 0, 0}, ""},
+        {"kvelland-dz500", "MediaType=Film PrintPriority=Speed", {0, 1, 1, 0, 0}, "exclude each other"},
+        {"kvelland-dz500", "MediaType=Gold", {1, 1, 1, 0, 0}, "Gold"},
+        {"kvelland-dz500", "NoSuch=ON KvMirror=SIDEWAYS", {1, 1, 1, 0, 0}, "no option \"NoSuch\""},
+        {"kvelland-lx900",
+         "KvSpecialTape=ON KvHalfCut=ON",
+         {0, 0, 0, 0, 0},
+         "\"KvHalfCut\" cannot be \"ON\""},
+    };
+    for (const auto &row : rows)
+        cupsd.addQueue(word(row.printer), samplePpd(word(row.printer)));
+    const QString force = QStringLiteral("--force");
+    const QStringList tasks[] = {{QStringLiteral("--summary")},
+                                 {QStringLiteral("--dry-run")},
+                                 {QStringLiteral("--no-dialog")},
+                                 {QStringLiteral("--dry-run"), force},
+                                 {QStringLiteral("--no-dialog"), force}};
+    for (const auto &row : rows) {
+        for (std::size_t task = 0; task < std::size(tasks); ++task) {
+            const QStringList words =
+                tasks[task] + QStringList{QStringLiteral("-o"), word(row.options), picture()};
+            SCOPED_TRACE(qPrintable(words.join(u' ')));
+            const QString file = QStringLiteral(KV_SOURCE_DIR "/resources/ppd/%1.ppd").arg(word(row.printer));
+            const std::vector<Outcome> outcomes =
+                kvprint.runAll({words + QStringList{QStringLiteral("-d"), word(row.printer)},
+                                words + QStringList{QStringLiteral("--ppd"), file}});
+            EXPECT_EQ(outcomes[0].status, row.statuses[task]) << outcomes[0];
+            EXPECT_EQ(outcomes[1].status, row.statuses[task]) << outcomes[1];
+            EXPECT_EQ(outcomes[0].error, outcomes[1].error);
+            EXPECT_EQ(outcomes[0].error.isEmpty(), QByteArray(row.messagePart).isEmpty()) << outcomes[0];
+            EXPECT_TRUE(outcomes[0].error.contains(row.messagePart)) << outcomes[0];
+            EXPECT_EQ(outcomes[0].out.isEmpty(), outcomes[1].out.isEmpty());
+        }
+    }
 }
 
 TEST_F(KvprintErrors, NameDocumentsThatCannotBePrinted)

@@ -393,10 +393,6 @@
         <translation>Der Druckserver „%1“ hat kein Ziel, auf dem gedruckt werden kann</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>„%1“ kann zusammen mit den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>Abhilfe: %1</translation>
     </message>

@@ -392,10 +392,6 @@
         <translation>El servidor de impresión «%1» no tiene ningún destino en el que imprimir</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>«%1» no puede ser «%2» con las demás opciones de corte y se imprime como «%3»</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>Solución posible: %1</translation>
     </message>

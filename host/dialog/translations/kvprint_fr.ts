@@ -393,10 +393,6 @@
         <translation>Le serveur d’impression « %1 » n’a aucune destination où imprimer</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>« %1 » ne peut pas être « %2 » avec les autres options de coupe et sera imprimé comme « %3 »</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>Solution possible : %1</translation>
     </message>

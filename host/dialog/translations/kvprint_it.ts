@@ -393,10 +393,6 @@
         <translation>Il server di stampa &quot;%1&quot; non ha alcuna destinazione su cui stampare</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>&quot;%1&quot; non può essere &quot;%2&quot; con le altre opzioni di taglio e viene stampato come &quot;%3&quot;</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>Soluzione possibile: %1</translation>
     </message>

@@ -391,10 +391,6 @@
         <translation>プリントサーバー「%1」に印刷先がありません</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>「%1」はほかのカットオプションとの組み合わせで「%2」にできないため、「%3」として印刷されます</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>解決方法: %1</translation>
     </message>

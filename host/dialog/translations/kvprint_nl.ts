@@ -393,10 +393,6 @@
         <translation>De printserver &quot;%1&quot; heeft geen bestemming om op af te drukken</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>&quot;%1&quot; kan samen met de andere snijopties niet &quot;%2&quot; zijn en wordt als &quot;%3&quot; afgedrukt</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>Dit zou helpen: %1</translation>
     </message>

@@ -392,10 +392,6 @@
         <translation>O servidor de impressão &quot;%1&quot; não tem nenhum destino onde imprimir</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>&quot;%1&quot; não pode ser &quot;%2&quot; com as outras opções de corte e é impresso como &quot;%3&quot;</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>Solução possível: %1</translation>
     </message>

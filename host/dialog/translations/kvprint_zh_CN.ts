@@ -391,10 +391,6 @@
         <translation>打印服务器“%1”没有可用的打印目标</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; together with the other cut options and is printed as &quot;%3&quot;</source>
-        <translation>“%1”在其他裁切选项下不能为“%2”，将按“%3”打印</translation>
-    </message>
-    <message>
         <source>This would help: %1</source>
         <translation>解决办法：%1</translation>
     </message>
