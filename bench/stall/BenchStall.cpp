@@ -3,8 +3,9 @@
 // bench/README.md.
 #include "StallScenarios.h"
 
+#include <tests/support/TestHome.h>
+
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -81,12 +82,7 @@ bool report(const std::vector<Row> &measured)
 // NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program either way
 int main(int argc, char **argv)
 {
-    const QTemporaryDir home;
-    for (const char *variable :
-         {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
-        qputenv(variable, home.path().toLocal8Bit());
-    qputenv("QT_QPA_PLATFORM",
-            qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen")).toLocal8Bit());
+    const test_support::TestHome home;
     const QApplication application(argc, argv);
     const int runs = std::max(1, application.arguments().value(1, QStringLiteral("5")).toInt());
     std::vector<Row> measured = rows();

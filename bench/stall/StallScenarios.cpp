@@ -5,7 +5,6 @@
 #include "SamplePdf.h"
 #include "SamplePpd.h"
 
-#include <host/cups/QueueCache.h>
 #include <host/dialog/JobWindow.h>
 #include <host/dialog/OptionsPage.h>
 
@@ -19,6 +18,8 @@ namespace {
 
 const QString tape = QStringLiteral("tape");
 constexpr int slowness = 500; // milliseconds
+/// In bytes: the systems of both sides do not hold so much.
+constexpr qsizetype largeDocument = 30'000'000;
 
 } // namespace
 
@@ -96,16 +97,7 @@ StallScenarios::Duration StallScenarios::serverThatBreaks()
 StallScenarios::Duration StallScenarios::thousandQueues()
 {
     fillCache(tape);
-    const host::QueueCache cache(sharedServer());
-    std::vector<host::Destination> known = cache.destinations();
-    for (int i = 0; i < 1000; ++i) {
-        host::Destination more = known.front();
-        more.queue = QStringLiteral("queue-%1").arg(i);
-        more.description = QStringLiteral("Label printer in room %1").arg(i);
-        more.isDefault = false;
-        known.push_back(more);
-    }
-    cache.storeDestinations(known);
+    rememberMoreQueues(sharedServer(), 1000);
     open(tape);
     StallWatch watch;
     waitUntil([this] { return isSettled(); });
@@ -134,14 +126,7 @@ StallScenarios::Duration StallScenarios::openOn(const QByteArray &ppd)
 
 StallScenarios::Duration StallScenarios::manyPapers()
 {
-    QByteArray ppd = tapePpd();
-    QByteArray choices;
-    for (int i = 0; i < 300; ++i) {
-        const QByteArray name = "Extra" + QByteArray::number(i);
-        choices += "*PageSize " + name + ": \"\"\n";
-        ppd += "*PaperDimension " + name + ": \"" + QByteArray::number(100 + i) + " 200\"\n";
-    }
-    return openOn(ppd.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n"));
+    return openOn(tapePpdWithMorePapers(300));
 }
 
 StallScenarios::Duration StallScenarios::hugePpd()
@@ -153,10 +138,7 @@ StallScenarios::Duration StallScenarios::damagedPpd()
 {
     const QString name = QStringLiteral("odd");
     cupsd->addQueue(name, tapePpd());
-    QFile file(cupsd->path(QStringLiteral("etc/ppd/odd.ppd")));
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write("*PPD-Adobe: \"4.3\"\n" + QByteArray(50 * 1024 * 1024, '%'));
-    file.close();
+    overwritePpd(name, damagedPpdText());
     open(name);
     StallWatch watch;
     waitUntil([this] { return session->ppdKnowledge() == host::PpdKnowledge::Failed; });
@@ -236,18 +218,6 @@ StallScenarios::Duration StallScenarios::sendTo(const Faults &faults,
     return watch.longest();
 }
 
-void StallScenarios::makeLarge() const
-{
-    QFile file(documentPath);
-    if (!file.open(QIODevice::ReadWrite))
-        return;
-    const QByteArray pdf = file.readAll();
-    // In front of the last lines, which say where everything is.
-    const qsizetype tail = pdf.lastIndexOf("startxref");
-    file.seek(tail);
-    file.write("\n%" + QByteArray(30'000'000, 'x') + '\n' + pdf.mid(tail));
-}
-
 StallScenarios::Duration StallScenarios::refusedJob()
 {
     cupsd->reject(tape, QStringLiteral("closed"));
@@ -258,13 +228,13 @@ StallScenarios::Duration StallScenarios::refusedJob()
 
 StallScenarios::Duration StallScenarios::brokenUpload()
 {
-    makeLarge();
+    makeDocumentLarger(largeDocument);
     return sendTo({.breakAfter = 1'000'000}, [](const FaultyServer &) {});
 }
 
 StallScenarios::Duration StallScenarios::fullSpool()
 {
-    makeLarge();
+    makeDocumentLarger(largeDocument);
     cupsd->setSpoolFull(true);
     const Duration longest = sendTo({}, [](const FaultyServer &) {});
     cupsd->setSpoolFull(false);
@@ -278,7 +248,7 @@ StallScenarios::Duration StallScenarios::silentWhileSending()
 
 StallScenarios::Duration StallScenarios::stoppedUpload()
 {
-    makeLarge();
+    makeDocumentLarger(largeDocument);
     return sendTo({.stallAfter = 500'000}, [this](const FaultyServer &server) {
         waitUntil([&] { return server.stalledCount() == 1; });
         Hands::click(button(QStringLiteral("Stop sending")));

@@ -54,8 +54,6 @@ private:
     static void linger();
     Duration openOn(const QByteArray &ppd);
     Duration sendTo(const Faults &faults, const std::function<void(const FaultyServer &)> &meanwhile);
-    /// Makes the document so large that the systems of both sides do not hold it.
-    void makeLarge() const;
 };
 
 } // namespace bench

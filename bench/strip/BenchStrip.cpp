@@ -7,6 +7,7 @@
 #include <host/Units.h>
 #include <host/dialog/PrintDialog.h>
 #include <host/dialog/StripPreview.h>
+#include <tests/support/TestHome.h>
 
 #include <QCheckBox>
 #include <QScrollBar>
@@ -141,11 +142,7 @@ void printBaseline(const QString &path)
 
 int main(int argc, char **argv)
 {
-    const QTemporaryDir home;
-    for (const char *const variable : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
-        qputenv(variable, home.path().toLocal8Bit());
-    qputenv("QT_QPA_PLATFORM",
-            qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen")).toLocal8Bit());
+    const test_support::TestHome home;
     TimedApplication application(argc, argv);
     const Sandbox sandbox;
     std::printf("%8s  %-28s %10s %14s %10s   %s\n", "labels", "what is done", "shown, ms", "longest event",

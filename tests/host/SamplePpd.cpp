@@ -74,6 +74,23 @@ QByteArray tapePpd()
     return text;
 }
 
+QByteArray tapePpdWithMorePapers(int count)
+{
+    QByteArray ppd = tapePpd();
+    QByteArray choices;
+    for (int i = 0; i < count; ++i) {
+        const QByteArray name = "Extra" + QByteArray::number(i);
+        choices += "*PageSize " + name + ": \"\"\n";
+        ppd += "*PaperDimension " + name + ": \"" + QByteArray::number(100 + i) + " 200\"\n";
+    }
+    return ppd.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
+}
+
+QByteArray damagedPpdText()
+{
+    return "*PPD-Adobe: \"4.3\"\n" + QByteArray(50 * 1024 * 1024, '%');
+}
+
 host::PpdFile openTapePpd(const Sandbox &sandbox)
 {
     auto ppd = host::PpdFile::open(sandbox.write(QStringLiteral("tape.ppd"), tapePpd()));

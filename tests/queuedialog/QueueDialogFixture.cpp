@@ -84,6 +84,38 @@ host::CupsServer QueueDialogTest::knownServer(const QString &address)
     return server;
 }
 
+void QueueDialogTest::rememberMoreQueues(const host::CupsServer &server, int count)
+{
+    const host::QueueCache cache(server);
+    std::vector<host::Destination> known = cache.destinations();
+    for (int i = 0; i < count; ++i) {
+        host::Destination more = known.front();
+        more.queue = QStringLiteral("queue-%1").arg(i);
+        more.description = QStringLiteral("Label printer in room %1").arg(i);
+        more.isDefault = false;
+        known.push_back(more);
+    }
+    cache.storeDestinations(known);
+}
+
+void QueueDialogTest::overwritePpd(const QString &queue, const QByteArray &bytes)
+{
+    QFile file(cupsd->path(QStringLiteral("etc/ppd/%1.ppd").arg(queue)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+}
+
+void QueueDialogTest::makeDocumentLarger(qsizetype bytes) const
+{
+    QFile file(documentPath);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray pdf = file.readAll();
+    // In front of the last lines, which say where everything is.
+    const qsizetype tail = pdf.lastIndexOf("startxref");
+    file.seek(tail);
+    file.write("\n%" + QByteArray(bytes, 'x') + '\n' + pdf.mid(tail));
+}
+
 void QueueDialogTest::open(const std::optional<QString> &wanted, const host::CupsServer &given,
                            const host::SetupWishes &wishes)
 {

@@ -40,6 +40,12 @@ protected:
     static host::CupsServer sharedServer();
     /// A server at the address of which as much is known as of the shared one and its queue "tape".
     static host::CupsServer knownServer(const QString &address);
+    /// As if the server had had so many queues more the last time.
+    static void rememberMoreQueues(const host::CupsServer &server, int count);
+    /// Puts other bytes in the place of the PPD that the shared server keeps for the queue.
+    static void overwritePpd(const QString &queue, const QByteArray &bytes);
+    /// The document gets so many bytes more, as large documents have them, and looks as before.
+    void makeDocumentLarger(qsizetype bytes) const;
 
     /// The control of that accessible name that is to be seen; null when there is none.
     template<typename Widget>

@@ -115,17 +115,8 @@ TEST_F(OpeningTest, ManyQueuesAreListedWhileTheServerIsAsked)
     fillCache(QStringLiteral("tape"));
     FaultyServer slow(cupsd->port(), {.holds = true});
     const host::CupsServer server = knownServer(slow.address());
-    const host::QueueCache cache(server);
-    std::vector<host::Destination> known = cache.destinations();
-    const auto realCount = static_cast<int>(known.size());
-    for (int i = 0; i < 1000; ++i) {
-        host::Destination more = known.front();
-        more.queue = QStringLiteral("queue-%1").arg(i);
-        more.description = QStringLiteral("Label printer in room %1").arg(i);
-        more.isDefault = false;
-        known.push_back(more);
-    }
-    cache.storeDestinations(known);
+    const auto realCount = static_cast<int>(host::QueueCache(server).destinations().size());
+    rememberMoreQueues(server, 1000);
     open(QStringLiteral("tape"), server);
     EXPECT_TRUE(waitUntil([&] { return slow.heldCount() > 0; }));
     EXPECT_TRUE(waitUntil([&] { return destinations()->count() == realCount + 1000; }));
@@ -138,14 +129,6 @@ TEST_F(OpeningTest, ManyQueuesAreListedWhileTheServerIsAsked)
 
 TEST_F(OpeningTest, LargePpdsAreShownAndReplaced)
 {
-    QByteArray papers = tapePpd();
-    QByteArray choices;
-    for (int i = 0; i < 300; ++i) {
-        const QByteArray name = "Extra" + QByteArray::number(i);
-        choices += "*PageSize " + name + ": \"\"\n";
-        papers += "*PaperDimension " + name + ": \"" + QByteArray::number(100 + i) + " 200\"\n";
-    }
-    papers.replace("*CloseUI: *PageSize\n", choices + "*CloseUI: *PageSize\n");
     QByteArray constrained = largeOptionsPpd(200, 50);
     for (int i = 0; i < 199; ++i)
         constrained += "*UIConstraints: *Option" + QByteArray::number(i) + " C1 *Option" +
@@ -154,7 +137,7 @@ TEST_F(OpeningTest, LargePpdsAreShownAndReplaced)
     const QByteArray huge = largeOptionsPpd(100, 500);
     EXPECT_GT(huge.size(), 1'000'000);
     const std::pair<const char *, QByteArray> rows[] = {
-        {"papers", papers}, {"options", constrained}, {"huge", huge}};
+        {"papers", tapePpdWithMorePapers(300)}, {"options", constrained}, {"huge", huge}};
     for (const auto &[name, ppd] : rows) {
         SCOPED_TRACE(name);
         cupsd->addQueue(QLatin1String(name), ppd);
@@ -183,7 +166,7 @@ TEST_F(OpeningTest, PpdsThatAreNoneAreToldAndTheQueuePrints)
 {
     const QByteArray good = tapePpd();
     const QByteArray rows[] = {
-        QByteArray("*PPD-Adobe: \"4.3\"\n") + QByteArray(50 * 1024 * 1024, '%'),
+        damagedPpdText(),
         good.left(good.indexOf("*KvMirror ON") + 5),
         QByteArray("\0\xff\xfe*PPD", 8) + QByteArray(2000, '\x80'),
         "*PPD-Adobe: \"4.3\"\n*OpenUI *A: PickOne\n*OpenUI *B: PickOne\n" + QByteArray(100000, '"'),
@@ -191,10 +174,7 @@ TEST_F(OpeningTest, PpdsThatAreNoneAreToldAndTheQueuePrints)
     for (const QByteArray &ppd : rows) {
         SCOPED_TRACE(ppd.size());
         cupsd->addQueue(QStringLiteral("odd"), good);
-        QFile file(cupsd->path(QStringLiteral("etc/ppd/odd.ppd")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(ppd);
-        file.close();
+        overwritePpd(QStringLiteral("odd"), ppd);
         open(QStringLiteral("odd"));
         ASSERT_TRUE(waitUntil([this] { return session->ppdKnowledge() == host::PpdKnowledge::Failed; }));
         QApplication::processEvents();

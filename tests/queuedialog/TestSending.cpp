@@ -42,19 +42,6 @@ protected:
         ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
     }
 
-    /// The labels with as many bytes behind them as a large document has.
-    void makeLarge(qsizetype bytes)
-    {
-        QFile file(documentPath);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        const QByteArray pdf = file.readAll();
-        // In front of the last lines, which tell where everything is.
-        const QByteArray filler = "\n%" + QByteArray(bytes, 'x') + '\n';
-        const qsizetype tail = pdf.lastIndexOf("startxref");
-        file.seek(tail);
-        file.write(filler + pdf.mid(tail));
-    }
-
     /// What the user has set, and that it is all still there.
     void set() const
     {
@@ -130,7 +117,7 @@ TEST_F(SendingTest, ARefusalIsToldInTheServersWordsAndTheNextTimePrintsOnce)
 
 TEST_F(SendingTest, AConnectionThatBreaksLeavesNothingAndTheNextTimePrintsOnce)
 {
-    makeLarge(3'000'000);
+    makeDocumentLarger(3'000'000);
     const FaultyServer breaking(cupsd->port(), {.breakAfter = 1'000'000});
     openAndSettle(QStringLiteral("tape"), serverAt(breaking.address()));
     set();
@@ -160,7 +147,7 @@ TEST_F(SendingTest, AServerThatDiesIsToldAndTheNextTimePrintsOnce)
 
 TEST_F(SendingTest, AFullSpoolIsToldAndLeavesNoJob)
 {
-    makeLarge(3'000'000);
+    makeDocumentLarger(3'000'000);
     openAndSettle(QStringLiteral("tape"));
     set();
     const std::size_t before = cupsd->documents().size();
@@ -175,7 +162,7 @@ TEST_F(SendingTest, AFullSpoolIsToldAndLeavesNoJob)
 
 TEST_F(SendingTest, StopSendingTakesTheJobBack)
 {
-    makeLarge(30'000'000);
+    makeDocumentLarger(30'000'000);
     // The job can be sent no further than this.
     const FaultyServer stalling(cupsd->port(), {.stallAfter = 500'000});
     openAndSettle(QStringLiteral("tape"), serverAt(stalling.address()));
@@ -214,9 +201,30 @@ TEST_F(SendingTest, ALongDocumentIsCheckedWhileTheWindowLives)
     EXPECT_EQ(cupsd->documents().size(), before + 1);
 }
 
+TEST_F(SendingTest, WhatIsSetWhileTheLabelsAreMeasuredIsPrintedToo)
+{
+    openLongDocument();
+    const auto *const strip = find<QWidget>(QStringLiteral("Label strip"));
+    Hands::click(panelBox("mRemoveBlkSpaceChkBx"));
+    EXPECT_TRUE(strip->accessibleDescription().contains(QStringLiteral("measuring")))
+        << strip->accessibleDescription().toStdString();
+    const std::size_t before = cupsd->documents().size();
+    Hands::click(button(QStringLiteral("Print")));
+    ASSERT_TRUE(window->isSending());
+    EXPECT_TRUE(window->isVisible());
+    Hands::click(panelBox("mMirrorPrintChkBx"));
+    EXPECT_TRUE(panelBox("mMirrorPrintChkBx")->isChecked());
+    EXPECT_TRUE(window->isSending());
+    ASSERT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
+    EXPECT_TRUE(waitUntil([] { return waitingJobs().isEmpty(); }));
+    ASSERT_EQ(cupsd->documents().size(), before + 1);
+    EXPECT_EQ(cupsd->documents().back().option("KvRemoveBlkSpace"), "ON");
+    EXPECT_EQ(cupsd->documents().back().option("KvMirror"), "ON");
+}
+
 TEST_F(SendingTest, ClosingTheWindowWhileSendingTakesTheJobBack)
 {
-    makeLarge(30'000'000);
+    makeDocumentLarger(30'000'000);
     // While the server has not even answered that there is a job, and while it has a part of the document.
     for (const Faults &faults :
          {Faults{.holds = true, .heldOperation = IPP_OP_CREATE_JOB}, Faults{.stallAfter = 500'000}}) {
