@@ -90,16 +90,6 @@ void StripPainter::paint(QPainter &painter, double left, double right) const
     painter.restore();
 }
 
-void StripPainter::paintDraft(QPainter &painter, double left, double right) const
-{
-    const auto [firstPiece, endPiece] = m_layout.piecesBetween(left, right);
-    for (std::size_t i = firstPiece; i < endPiece; ++i)
-        painter.fillRect(backing(m_layout.piece(i)), backingColor);
-    const auto [first, end] = m_layout.labelsBetween(left, right);
-    for (std::size_t i = first; i < end; ++i)
-        painter.fillRect(m_layout.label(i), Qt::white);
-}
-
 QRectF StripPainter::backing(const QRectF &tape) const
 {
     return tape.adjusted(0.0, -units(0.6), 0.0, units(0.6));

@@ -36,9 +36,6 @@ public:
     /// Draws what lies between left and right, in the layout's millimetres, which must be the painter's
     /// coordinates.
     void paint(QPainter &painter, double left, double right) const;
-    /// Draws where the labels lie on the tape and nothing else, for a first look: pictures, texts and cuts
-    /// take their time.
-    void paintDraft(QPainter &painter, double left, double right) const;
 
 private:
     void paintBacking(QPainter &painter, double left, double right) const;

@@ -76,7 +76,7 @@ public:
 
     void open(const char *name)
     {
-        measure(name, [this] { m_dialog.showAtOnce(); });
+        measure(name, [this] { m_dialog.show(); });
     }
     void click(const char *name, const char *box)
     {

@@ -286,12 +286,6 @@ void PrintDialog::showEvent(QShowEvent *event)
     m_pageCheck.start();
 }
 
-void PrintDialog::showAtOnce()
-{
-    m_stripPreview->paintDraftFirst();
-    show();
-}
-
 void PrintDialog::done(int result)
 {
     m_pages->announceClosing(this);

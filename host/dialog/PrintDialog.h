@@ -45,8 +45,6 @@ public:
                 JobSender &sender, const DialogWishes &wishes, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
-    /// Shows the dialog as soon as possible: the labels' content follows right after the first painting.
-    void showAtOnce();
     /// Prints as the Print button does: the ticket is handed to the sender. When that has sent it, the dialog
     /// is accepted; otherwise problem() says why not, and everything stays as set. Conflicts are not asked
     /// about.

@@ -158,7 +158,7 @@ ExitStatus PrintRun::runOnQueue()
     QueueSender sender(server);
     PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
     window = &dialog;
-    dialog.showAtOnce();
+    dialog.show();
     waitForPainting(dialog);
     session.start(host::Discovery::Yes);
     QApplication::processEvents();

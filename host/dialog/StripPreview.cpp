@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTimer>
 #include <QWheelEvent>
 
 namespace dialog {
@@ -120,13 +119,8 @@ void StripPreview::paintStrip(QPainter &painter)
     const host::StripPainter strip(*m_layout, *m_renderer, host::StripColors::forPalette(palette()),
                                    m_pixelsPerMillimetre * devicePixelRatioF(), m_pictures.get());
     requestPictures(left, right);
-    if (std::exchange(m_draftFirst, false)) {
-        strip.paintDraft(painter, left, right);
-        QTimer::singleShot(0, viewport(), [this] { viewport()->update(); });
-    } else {
-        strip.paint(painter, left, right);
-        finishPainting();
-    }
+    strip.paint(painter, left, right);
+    finishPainting();
 }
 
 void StripPreview::requestPictures(double left, double right)

@@ -27,9 +27,6 @@ public:
     /// The plan that is shown; null while there is none.
     const host::CutPlan *plan() const { return m_plan && m_renderer ? &*m_plan : nullptr; }
 
-    /// Paints only where the labels lie the next time, and all of it right afterwards, so that the
-    /// window need not wait for fonts and the document's pages.
-    void paintDraftFirst() { m_draftFirst = true; }
     /// Whether everything in sight has been painted as it will stay: measured, and with all pictures.
     bool isComplete() const { return !isVisible() || !m_plan || m_isComplete; }
 
@@ -67,7 +64,6 @@ private:
     std::unique_ptr<host::LabelPictures> m_pictures;
     std::optional<host::StripLayout> m_layout;
     double m_pixelsPerMillimetre = 1.0;
-    bool m_draftFirst = false;
     bool m_isComplete = false;
 };
 
