@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct CutPlanWordsText {
     Q_DECLARE_TR_FUNCTIONS(host::CutPlan)
 };
 
@@ -25,14 +25,15 @@ QString fullCutSentence(const CutPlan &plan)
 {
     const CutSettings &settings = plan.settings();
     if (!settings.areKnown)
-        return Text::tr("The printer's description does not say whether it cuts the labels.");
+        return CutPlanWordsText::tr("The printer's description does not say whether it cuts the labels.");
     if (!any(plan, &LabelEnd::fullCut))
-        return Text::tr("No full cut: the labels come out as one strip.");
+        return CutPlanWordsText::tr("No full cut: the labels come out as one strip.");
     if (!settings.automaticCut)
-        return Text::tr("Full cut after the last label.");
+        return CutPlanWordsText::tr("Full cut after the last label.");
     if (settings.labelsPerCut == 1)
-        return Text::tr("Full cut after every label.");
-    return Text::tr("Full cut after every %1 labels.").arg(QLocale().toString(settings.labelsPerCut));
+        return CutPlanWordsText::tr("Full cut after every label.");
+    return CutPlanWordsText::tr("Full cut after every %1 labels.")
+        .arg(QLocale().toString(settings.labelsPerCut));
 }
 
 /// Lengths are exact to the hundredth of a millimetre, more would be noise of the conversion from points.
@@ -70,22 +71,23 @@ QString lengthInWords(double millimetres)
     const QString wholeTail = locale.decimalPoint() + locale.zeroDigit();
     if (number.endsWith(wholeTail))
         number.chop(wholeTail.size());
-    return Text::tr("%1 mm", "a length").arg(number);
+    return CutPlanWordsText::tr("%1 mm", "a length").arg(number);
 }
 
 QString tapeInWords(const CutPlan &plan)
 {
-    return plan.isMeasured() ? lengthInWords(plan.tapeUsed()) : Text::tr("measuring\u2026", "a length");
+    return plan.isMeasured() ? lengthInWords(plan.tapeUsed())
+                             : CutPlanWordsText::tr("measuring\u2026", "a length");
 }
 
 QString cutPlanFigures(const CutPlan &plan)
 {
     const QLocale locale;
     if (!plan.settings().areKnown)
-        return Text::tr("Labels: %1 \u00b7 Tape: %2")
+        return CutPlanWordsText::tr("Labels: %1 \u00b7 Tape: %2")
             .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
                  lengthInWords(plan.tapeUsed()));
-    return Text::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
+    return CutPlanWordsText::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
         .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
              locale.toString(static_cast<qulonglong>(plan.pieces().size())), tapeInWords(plan));
 }
@@ -93,23 +95,23 @@ QString cutPlanFigures(const CutPlan &plan)
 QStringList cutPlanSentences(const CutPlan &plan)
 {
     if (plan.labels().empty())
-        return {Text::tr("Nothing is printed.")};
+        return {CutPlanWordsText::tr("Nothing is printed.")};
     QStringList sentences;
     if (plan.settings().specialTape)
-        sentences.append(Text::tr("Special tape: the printer cuts nothing."));
+        sentences.append(CutPlanWordsText::tr("Special tape: the printer cuts nothing."));
     else
         sentences.append(fullCutSentence(plan));
     if (any(plan, &LabelEnd::halfCut))
-        sentences.append(Text::tr("Half cut between the labels of a piece."));
+        sentences.append(CutPlanWordsText::tr("Half cut between the labels of a piece."));
     if (any(plan, &LabelEnd::cutMark))
-        sentences.append(Text::tr("Printed marks where nothing is cut through."));
+        sentences.append(CutPlanWordsText::tr("Printed marks where nothing is cut through."));
     if (plan.isEndHeld())
-        sentences.append(
-            Text::tr("The end stays in the printer; the next job goes on from it without a margin."));
+        sentences.append(CutPlanWordsText::tr(
+            "The end stays in the printer; the next job goes on from it without a margin."));
     if (plan.settings().removeBlank)
-        sentences.append(Text::tr("Blank tape before and after each label is left out."));
+        sentences.append(CutPlanWordsText::tr("Blank tape before and after each label is left out."));
     if (plan.settings().mirror)
-        sentences.append(Text::tr("The labels are mirrored."));
+        sentences.append(CutPlanWordsText::tr("The labels are mirrored."));
     return sentences;
 }
 

@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct DocumentErrorText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -16,8 +16,10 @@ struct Text {
 DocumentError documentError(const DocumentProblem &problem, const QString &name)
 {
     if (name == standardInputName)
-        return {problem.kind, Text::tr("Cannot open the document on standard input: %1").arg(problem.reason)};
-    return {problem.kind, Text::tr("Cannot open the document \"%1\": %2").arg(name, problem.reason)};
+        return {problem.kind,
+                DocumentErrorText::tr("Cannot open the document on standard input: %1").arg(problem.reason)};
+    return {problem.kind,
+            DocumentErrorText::tr("Cannot open the document \"%1\": %2").arg(name, problem.reason)};
 }
 
 } // namespace host

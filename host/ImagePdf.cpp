@@ -14,7 +14,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct ImagePdfText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -33,13 +33,14 @@ struct PdfImage {
 
 DocumentProblem damaged()
 {
-    return {DocumentFailure::Damaged, Text::tr("it is a damaged image")};
+    return {DocumentFailure::Damaged, ImagePdfText::tr("it is a damaged image")};
 }
 
 DocumentProblem tooManyPixels(QSize size)
 {
-    return {DocumentFailure::TooLarge,
-            Text::tr("it has %1 × %2 pixels, more than can be printed").arg(size.width()).arg(size.height())};
+    return {DocumentFailure::TooLarge, ImagePdfText::tr("it has %1 × %2 pixels, more than can be printed")
+                                           .arg(size.width())
+                                           .arg(size.height())};
 }
 
 /// The image's rows without gaps, on white; one byte a pixel when nothing is coloured.
@@ -156,7 +157,8 @@ public:
     std::optional<DocumentProblem> check()
     {
         if (!m_facts.complete)
-            return DocumentProblem{DocumentFailure::Damaged, Text::tr("it is an image whose end is missing")};
+            return DocumentProblem{DocumentFailure::Damaged,
+                                   ImagePdfText::tr("it is an image whose end is missing")};
         m_size = m_reader.size();
         if (m_size.isEmpty())
             return damaged();

@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct LabelDocumentText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -28,9 +28,9 @@ LabelDocument::Source::Source(Source &&) noexcept = default;
 Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const QStringList &names)
 {
     if (names.isEmpty())
-        return DocumentError{DocumentFailure::Missing, Text::tr("No document is named")};
+        return DocumentError{DocumentFailure::Missing, LabelDocumentText::tr("No document is named")};
     if (names.count(standardInputName.toString()) > 1)
-        return documentError({DocumentFailure::InputTaken, Text::tr("it can be read only once")},
+        return documentError({DocumentFailure::InputTaken, LabelDocumentText::tr("it can be read only once")},
                              standardInputName.toString());
     std::unique_ptr<LabelDocument> document(new LabelDocument);
     for (const QString &name : names) {
@@ -74,10 +74,11 @@ void LabelDocument::append(const QString &name, std::unique_ptr<OpenedDocument> 
 
 QString LabelDocument::title() const
 {
-    QString first = path() == standardInputName ? Text::tr("standard input") : QFileInfo(path()).fileName();
+    QString first =
+        path() == standardInputName ? LabelDocumentText::tr("standard input") : QFileInfo(path()).fileName();
     if (m_files.size() == 1)
         return first;
-    return Text::tr("%1 and %n more", nullptr, static_cast<int>(m_files.size()) - 1).arg(first);
+    return LabelDocumentText::tr("%1 and %n more", nullptr, static_cast<int>(m_files.size()) - 1).arg(first);
 }
 
 int LabelDocument::pageCount() const

@@ -13,7 +13,7 @@ namespace host {
 namespace {
 
 /// Pictures come to the window after that time, and not all at the end.
-constexpr std::chrono::milliseconds slice{30};
+constexpr std::chrono::milliseconds drawingSlice{30};
 constexpr qint64 maxBytes = 128LL * 1024 * 1024;
 
 } // namespace
@@ -58,7 +58,7 @@ void LabelPictures::start()
     const auto draw = [this, pages = m_missing, paper = m_paper, resolution = m_resolution](
                           const LabelDocument &document, const PageThread::ShouldPause &shouldPause) {
         const LabelDrawing drawing(document, paper);
-        const QDeadlineTimer end(slice);
+        const QDeadlineTimer end(drawingSlice);
         std::vector<Drawn> results;
         for (const int page : pages) {
             results.push_back({page, drawing.draw(page, resolution), document.statedPageSize(page)});

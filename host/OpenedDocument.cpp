@@ -13,15 +13,16 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct OpenedDocumentText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
 Result<QByteArray, DocumentProblem> readWhole(QFile &file, qint64 most)
 {
     if (file.size() > most)
-        return DocumentProblem{DocumentFailure::TooLarge,
-                               Text::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
+        return DocumentProblem{
+            DocumentFailure::TooLarge,
+            OpenedDocumentText::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
     // No more than there is: reading makes room for all that is asked for.
     QByteArray content = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
@@ -61,7 +62,8 @@ Result<std::unique_ptr<OpenedDocument>, DocumentProblem> OpenedDocument::open(co
         return file.error();
     const std::optional<DocumentKind> kind = documentKind(file.value().file->peek(documentHeadSize));
     if (!kind)
-        return DocumentProblem{DocumentFailure::UnknownKind, Text::tr("it is no PDF, PNG, JPEG or SVG")};
+        return DocumentProblem{DocumentFailure::UnknownKind,
+                               OpenedDocumentText::tr("it is no PDF, PNG, JPEG or SVG")};
     if (*kind != DocumentKind::Pdf) {
         auto pdf = makeTemporaryFile();
         if (!pdf)
@@ -99,8 +101,9 @@ PdfSource OpenedDocument::source() const
 std::optional<DocumentProblem> OpenedDocument::checkForPrinting() const
 {
     if (fileStamp(m_path) != m_stamp)
-        return DocumentProblem{DocumentFailure::Changed,
-                               Text::tr("the file has changed since it was opened; open it again")};
+        return DocumentProblem{
+            DocumentFailure::Changed,
+            OpenedDocumentText::tr("the file has changed since it was opened; open it again")};
     return m_pages->checkPages();
 }
 

@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct OutputFilesText {
     Q_DECLARE_TR_FUNCTIONS(host::VirtualPrinter)
 };
 
@@ -39,7 +39,7 @@ void OutputFiles::makeFolder()
     QString missing = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
     if (QFileInfo::exists(missing)) {
         if (!QFileInfo(missing).isDir())
-            fail(OutputFailure::NoFolder, m_folder, Text::tr("it is not a folder"));
+            fail(OutputFailure::NoFolder, m_folder, OutputFilesText::tr("it is not a folder"));
         return;
     }
     while (!QFileInfo::exists(QFileInfo(missing).path()))
@@ -49,13 +49,13 @@ void OutputFiles::makeFolder()
     std::filesystem::create_directories(QFile::encodeName(m_folder).toStdString(), reason);
     if (reason)
         fail(OutputFailure::NoFolder, m_folder,
-             Text::tr("the folder cannot be made: %1").arg(qt_error_string(reason.value())));
+             OutputFilesText::tr("the folder cannot be made: %1").arg(qt_error_string(reason.value())));
 }
 
 void OutputFiles::fail(OutputFailure kind, const QString &path, const QString &reason)
 {
     if (!m_error)
-        m_error = OutputError{kind, Text::tr("Cannot write \"%1\": %2").arg(path, reason)};
+        m_error = OutputError{kind, OutputFilesText::tr("Cannot write \"%1\": %2").arg(path, reason)};
 }
 
 void OutputFiles::write(const QString &name, const std::function<bool(QIODevice *)> &writer)
@@ -76,7 +76,7 @@ std::optional<OutputError> OutputFiles::commit()
         if (m_error)
             break;
         if (QFileInfo(file->fileName()).isDir())
-            fail(OutputFailure::NotWritten, file->fileName(), Text::tr("it is a folder"));
+            fail(OutputFailure::NotWritten, file->fileName(), OutputFilesText::tr("it is a folder"));
         else if (!file->commit())
             fail(OutputFailure::NotWritten, file->fileName(), file->errorString());
         else

@@ -12,13 +12,13 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PanelBundleText {
     Q_DECLARE_TR_FUNCTIONS(host::PanelBundle)
 };
 
 BundleError failure(BundleFailure kind, const QString &folder, const QString &reason)
 {
-    return {kind, Text::tr("Cannot use the panel bundle \"%1\": %2").arg(folder, reason)};
+    return {kind, PanelBundleText::tr("Cannot use the panel bundle \"%1\": %2").arg(folder, reason)};
 }
 
 QStringList standardFolders()
@@ -40,12 +40,14 @@ std::optional<BundleError> checkInterface(const QString &folder, const QJsonObje
     const QString interface = metaData.value(QStringLiteral("IID")).toString();
     const QString stem = QStringLiteral(PDEPlugInFactory_iid_stem);
     if (!interface.startsWith(stem))
-        return failure(BundleFailure::NotABundle, folder, Text::tr("its library is no library of panels"));
+        return failure(BundleFailure::NotABundle, folder,
+                       PanelBundleText::tr("its library is no library of panels"));
     if (interface != QStringLiteral(PDEPlugInFactory_iid)) {
         const QString own = QStringLiteral(PDEPlugInFactory_iid).mid(stem.size());
         return failure(
             BundleFailure::WrongInterfaceVersion, folder,
-            Text::tr("it was made for version %1 of the panel interface, and this program has version %2")
+            PanelBundleText::tr(
+                "it was made for version %1 of the panel interface, and this program has version %2")
                 .arg(interface.mid(stem.size()), own));
     }
     return std::nullopt;
@@ -65,7 +67,7 @@ std::optional<BundleError> checkResources(const QString &folder, const QJsonObje
     if (missing.isEmpty())
         return std::nullopt;
     return failure(BundleFailure::ResourceMissing, folder,
-                   Text::tr("missing or unreadable: %1").arg(missing.join(QStringLiteral(", "))));
+                   PanelBundleText::tr("missing or unreadable: %1").arg(missing.join(QStringLiteral(", "))));
 }
 
 } // namespace
@@ -81,12 +83,12 @@ Result<QString, BundleError> PanelBundle::find(const std::optional<QString> &fol
             return QDir::cleanPath(QFileInfo(candidate).absoluteFilePath());
     }
     if (folder && QFileInfo::exists(*folder))
-        return failure(BundleFailure::NotABundle, *folder, Text::tr("it is not a folder"));
+        return failure(BundleFailure::NotABundle, *folder, PanelBundleText::tr("it is not a folder"));
     if (folder)
-        return failure(BundleFailure::Missing, *folder, Text::tr("there is no such folder"));
-    return BundleError{
-        BundleFailure::Missing,
-        Text::tr("Cannot find the panel bundle; looked for %1").arg(candidates.join(QStringLiteral(", ")))};
+        return failure(BundleFailure::Missing, *folder, PanelBundleText::tr("there is no such folder"));
+    return BundleError{BundleFailure::Missing,
+                       PanelBundleText::tr("Cannot find the panel bundle; looked for %1")
+                           .arg(candidates.join(QStringLiteral(", ")))};
 }
 
 Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const QStringList &languages)
@@ -94,7 +96,7 @@ Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const 
     const QString path = libraryPath(folder);
     if (!QFileInfo(path).isFile())
         return failure(BundleFailure::NotABundle, folder,
-                       Text::tr("it has no library %1").arg(QFileInfo(path).fileName()));
+                       PanelBundleText::tr("it has no library %1").arg(QFileInfo(path).fileName()));
     QPluginLoader loader(path);
     const QJsonObject metaData = loader.metaData();
     if (metaData.isEmpty())
@@ -111,7 +113,8 @@ Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const 
     bundle.m_resources = platform::Bundle::open(folder, languages);
     bundle.m_plugIn = bundle.m_factory->createPlugIn();
     if (!bundle.m_plugIn->initWithBundle(bundle.m_resources.get()))
-        return failure(BundleFailure::Unusable, folder, Text::tr("it does not work on this system"));
+        return failure(BundleFailure::Unusable, folder,
+                       PanelBundleText::tr("it does not work on this system"));
     return bundle;
 }
 

@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PanelSessionText {
     Q_DECLARE_TR_FUNCTIONS(host::PrinterSetup)
 };
 
@@ -43,14 +43,16 @@ PanelSettings PanelSession::settings() const
     settings.choices = m_host->collect([&] {
         QString error;
         if (!panel->saveValuesAndReturnError(&error))
-            settings.error = Text::tr("\"%1\" cannot save its settings: %2").arg(panel->panelName(), error);
+            settings.error =
+                PanelSessionText::tr("\"%1\" cannot save its settings: %2").arg(panel->panelName(), error);
     });
     if (settings.error)
         return settings;
     const PDEChoices completed = m_host->collect([&] {
         if (!panel->shouldPrint())
-            settings.error = Text::tr("\"%1\" does not let the job be printed with these settings.")
-                                 .arg(panel->panelName());
+            settings.error =
+                PanelSessionText::tr("\"%1\" does not let the job be printed with these settings.")
+                    .arg(panel->panelName());
     });
     // The check completes options that have no mark. Those that saving has written would have one by now.
     for (const auto &[keyword, choice] : completed) {

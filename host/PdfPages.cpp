@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PdfPagesText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -21,12 +21,12 @@ std::optional<DocumentProblem> loadingProblem(QPdfDocument::Error error)
         return std::nullopt;
     case QPdfDocument::Error::IncorrectPassword:
         return DocumentProblem{DocumentFailure::Encrypted,
-                               Text::tr("it is encrypted; remove its password first")};
+                               PdfPagesText::tr("it is encrypted; remove its password first")};
     case QPdfDocument::Error::UnsupportedSecurityScheme:
         return DocumentProblem{DocumentFailure::Encrypted,
-                               Text::tr("it is encrypted in a way that is not known here")};
+                               PdfPagesText::tr("it is encrypted in a way that is not known here")};
     default:
-        return DocumentProblem{DocumentFailure::Damaged, Text::tr("it is a damaged PDF")};
+        return DocumentProblem{DocumentFailure::Damaged, PdfPagesText::tr("it is a damaged PDF")};
     }
 }
 
@@ -50,7 +50,7 @@ Result<std::unique_ptr<PdfPages>, DocumentProblem> PdfPages::open(std::unique_pt
     if (auto problem = loadingProblem(pages->m_pdf.error()))
         return *problem;
     if (pages->pageCount() < 1)
-        return DocumentProblem{DocumentFailure::Empty, Text::tr("it has no pages")};
+        return DocumentProblem{DocumentFailure::Empty, PdfPagesText::tr("it has no pages")};
     pages->m_sizes.resize(static_cast<std::size_t>(pages->pageCount()));
     if (auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
         return *problem;
@@ -99,9 +99,10 @@ std::optional<DocumentProblem> PdfPages::checkSize(QSizeF size, int page)
 {
     // Written so that a size that is no number fails too.
     if (!(size.width() >= 1.0 && size.height() >= 1.0))
-        return DocumentProblem{DocumentFailure::BadPage, Text::tr("page %1 has no area").arg(page + 1)};
+        return DocumentProblem{DocumentFailure::BadPage,
+                               PdfPagesText::tr("page %1 has no area").arg(page + 1)};
     if (!(size.width() <= longestSide && size.height() <= longestSide))
-        return DocumentProblem{DocumentFailure::BadPage, Text::tr("page %1 is longer than %2 m")
+        return DocumentProblem{DocumentFailure::BadPage, PdfPagesText::tr("page %1 is longer than %2 m")
                                                              .arg(page + 1)
                                                              .arg(longestSide / 72.0 * 0.0254, 0, 'f', 2)};
     return std::nullopt;

@@ -36,6 +36,9 @@ struct PpdClose {
 /// Owns what libcups opened.
 using PpdHandle = std::unique_ptr<ppd_file_t, PpdClose>;
 
+/// The keyword of the option that selects the paper, as PPD 4.3 names it.
+inline constexpr const char *paperKeyword = "PageSize";
+
 /// A paper of the PPD.
 struct PpdPaper {
     /// The PPD's name, byte for byte: this is what the job must carry.

@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PpdOptionsText {
     Q_DECLARE_TR_FUNCTIONS(host::PpdOptions)
 };
 
@@ -35,9 +35,9 @@ QString groupText(const ppd_group_t &group)
 {
     // libcups puts options that stand in no group into these, under its own English names.
     if (qstrcmp(group.name, "General") == 0 && qstrcmp(group.text, "General") == 0)
-        return Text::tr("General");
+        return PpdOptionsText::tr("General");
     if (qstrcmp(group.name, "JCL") == 0 && qstrcmp(group.text, "JCL") == 0)
-        return Text::tr("Printer control");
+        return PpdOptionsText::tr("Printer control");
     return textOr(group.text, group.name);
 }
 

@@ -14,18 +14,18 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PpdSourceText {
     Q_DECLARE_TR_FUNCTIONS(host::PpdFile)
 };
 
 PpdError failure(PpdFailure kind, const QString &path, const QString &reason)
 {
-    return {kind, Text::tr("Cannot open the PPD file \"%1\": %2").arg(path, reason)};
+    return {kind, PpdSourceText::tr("Cannot open the PPD file \"%1\": %2").arg(path, reason)};
 }
 
 PpdError failureAtLine(PpdFailure kind, const QString &path, int line, const QString &reason)
 {
-    return failure(kind, path, Text::tr("line %1: %2").arg(line).arg(reason));
+    return failure(kind, path, PpdSourceText::tr("line %1: %2").arg(line).arg(reason));
 }
 
 PpdError systemFailure(const QString &path, int error)
@@ -37,14 +37,14 @@ PpdError systemFailure(const QString &path, int error)
 
 QString tooLarge(qint64 limit)
 {
-    return Text::tr("it is larger than %1 MB, more than any printer's description")
+    return PpdSourceText::tr("it is larger than %1 MB, more than any printer's description")
         .arg(limit / (qint64{1024} * 1024));
 }
 
 PpdError damaged(const QString &path)
 {
     return failure(PpdFailure::Truncated, path,
-                   Text::tr("it is damaged or incomplete: it cannot be unpacked to its end"));
+                   PpdSourceText::tr("it is damaged or incomplete: it cannot be unpacked to its end"));
 }
 
 /// The length of the text that a gzip file says it holds, in its last four bytes; nothing for a plain file.
@@ -89,11 +89,11 @@ std::optional<PpdError> PpdSource::check(qint64 largestText, int descriptor)
     if (fstat(descriptor, &status) != 0)
         return systemFailure(m_path, errno);
     if (!S_ISREG(status.st_mode))
-        return failure(PpdFailure::NotAFile, m_path, Text::tr("it is not a file"));
+        return failure(PpdFailure::NotAFile, m_path, PpdSourceText::tr("it is not a file"));
     if (status.st_size > largestText)
         return failure(PpdFailure::TooLarge, m_path, tooLarge(largestText));
     if (status.st_size == 0)
-        return failure(PpdFailure::NotAPpd, m_path, Text::tr("it is empty"));
+        return failure(PpdFailure::NotAPpd, m_path, PpdSourceText::tr("it is empty"));
 
     const Result<qint64, PpdError> length = readThrough(largestText);
     if (!length)
@@ -136,10 +136,10 @@ Result<PpdHandle, PpdError> PpdSource::parse()
     // After libcups, whose reason says more when the file is no PPD at all.
     if (m_text.isInsideValue())
         return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
-                             Text::tr("it ends in the middle of a value; the file is incomplete"));
+                             PpdSourceText::tr("it ends in the middle of a value; the file is incomplete"));
     if (m_text.isInsideOption())
         return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
-                             Text::tr("it ends in the middle of an option; the file is incomplete"));
+                             PpdSourceText::tr("it ends in the middle of an option; the file is incomplete"));
     return ppd;
 }
 

@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PrintOrderText {
     Q_DECLARE_TR_FUNCTIONS(host::PrintOrder)
 };
 
@@ -40,9 +40,9 @@ std::optional<Range> parseRange(const QString &text, int pageCount)
 
 PageRangeError notUnderstood(const QString &text)
 {
-    return {
-        PageRangeFailure::NotUnderstood,
-        Text::tr("Cannot understand the pages \"%1\": write numbers and ranges such as 1-3, 5").arg(text)};
+    return {PageRangeFailure::NotUnderstood,
+            PrintOrderText::tr("Cannot understand the pages \"%1\": write numbers and ranges such as 1-3, 5")
+                .arg(text)};
 }
 
 QStringList rangeTexts(const QString &text)
@@ -61,10 +61,11 @@ Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int p
         if (beyond == PagesBeyond::AreLeftOut)
             range = Range{qBound(1, range->first, pageCount + 1), qMin(range->last, pageCount)};
         if (range->first < 1 || range->last > pageCount)
-            return PageRangeError{PageRangeFailure::OutOfDocument,
-                                  Text::tr("Cannot print the pages \"%1\": the document's last page is %2")
-                                      .arg(text)
-                                      .arg(pageCount)};
+            return PageRangeError{
+                PageRangeFailure::OutOfDocument,
+                PrintOrderText::tr("Cannot print the pages \"%1\": the document's last page is %2")
+                    .arg(text)
+                    .arg(pageCount)};
         for (int page = range->first; page <= range->last; ++page)
             chosen[static_cast<std::size_t>(page) - 1] = true;
     }
@@ -134,8 +135,9 @@ parsePageRanges(const QString &text, const std::vector<int> &pageCounts, PageSet
         first += count;
     }
     if (pages.empty() && first > 0)
-        return PageRangeError{PageRangeFailure::NoPage,
-                              Text::tr("Nothing would be printed: no page of the document is chosen")};
+        return PageRangeError{
+            PageRangeFailure::NoPage,
+            PrintOrderText::tr("Nothing would be printed: no page of the document is chosen")};
     return pages;
 }
 

@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct RegularFileText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -24,7 +24,7 @@ FileStamp stampOf(const struct stat &status)
 DocumentProblem systemProblem(int error)
 {
     if (error == ENOENT || error == ENOTDIR)
-        return {DocumentFailure::Missing, Text::tr("there is no such file")};
+        return {DocumentFailure::Missing, RegularFileText::tr("there is no such file")};
     return {DocumentFailure::Unreadable, qt_error_string(error)};
 }
 
@@ -33,9 +33,9 @@ std::optional<DocumentProblem> checkStatus(int result, const struct stat &status
     if (result != 0)
         return systemProblem(errno);
     if (!S_ISREG(status.st_mode))
-        return DocumentProblem{DocumentFailure::NotAFile, Text::tr("it is not a file")};
+        return DocumentProblem{DocumentFailure::NotAFile, RegularFileText::tr("it is not a file")};
     if (status.st_size == 0)
-        return DocumentProblem{DocumentFailure::Empty, Text::tr("it is empty")};
+        return DocumentProblem{DocumentFailure::Empty, RegularFileText::tr("it is empty")};
     return std::nullopt;
 }
 

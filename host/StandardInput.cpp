@@ -14,7 +14,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct StandardInputText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -46,8 +46,9 @@ Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> makeTemporaryFile()
 
 DocumentProblem notStored(const QTemporaryFile &file)
 {
-    return {DocumentFailure::NotStored,
-            Text::tr("it cannot be kept in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
+    return {
+        DocumentFailure::NotStored,
+        StandardInputText::tr("it cannot be kept in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
 }
 
 Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> readStandardInput(qint64 limit)
@@ -65,8 +66,9 @@ Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> readStandardInput(qint6
             break;
         taken += length;
         if (taken > limit)
-            return DocumentProblem{DocumentFailure::TooLarge,
-                                   Text::tr("it is longer than %1").arg(QLocale().formattedDataSize(limit))};
+            return DocumentProblem{
+                DocumentFailure::TooLarge,
+                StandardInputText::tr("it is longer than %1").arg(QLocale().formattedDataSize(limit))};
         if (file.value()->write(buffer.data(), length) != length)
             return notStored(*file.value());
     }

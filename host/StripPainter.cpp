@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct StripPainterText {
     Q_DECLARE_TR_FUNCTIONS(host::StripPainter)
 };
 
@@ -233,7 +233,7 @@ void StripPainter::paintPrinter(QPainter &painter, double x) const
     painter.setPen(QPen(markColor, units(0.25), Qt::DashLine));
     painter.setBrush(Qt::white);
     painter.drawRect(next.adjusted(0.0, units(0.2), 0.0, -units(0.2)));
-    paintText(painter, next.adjusted(units(2.0), 0.0, 0.0, 0.0), Text::tr("next job"), markColor);
+    paintText(painter, next.adjusted(units(2.0), 0.0, 0.0, 0.0), StripPainterText::tr("next job"), markColor);
 
     QColor housing = printerColor;
     housing.setAlphaF(0.55F);

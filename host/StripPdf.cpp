@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct StripPdfText {
     Q_DECLARE_TR_FUNCTIONS(host::StripPdf)
 };
 
@@ -50,7 +50,7 @@ std::vector<Segment> segmentsOf(const StripLayout &layout)
 
 QStringList headLines(const PrintedStrip &strip)
 {
-    QStringList lines{Text::tr("%1 on %2, %3").arg(strip.document, strip.printer, strip.paper),
+    QStringList lines{StripPdfText::tr("%1 on %2, %3").arg(strip.document, strip.printer, strip.paper),
                       cutPlanFigures(strip.plan)};
     return lines + cutPlanSentences(strip.plan);
 }

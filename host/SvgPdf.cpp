@@ -16,7 +16,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct SvgPdfText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -81,7 +81,7 @@ std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf
         if (auto problem = PdfPages::checkSize(*source.value().size * pointsPerPixel, 0))
             return problem;
     }
-    DocumentProblem damaged{DocumentFailure::Damaged, Text::tr("it is a damaged SVG")};
+    DocumentProblem damaged{DocumentFailure::Damaged, SvgPdfText::tr("it is a damaged SVG")};
     QSvgRenderer renderer;
     if (!renderer.load(source.value().content))
         return damaged;

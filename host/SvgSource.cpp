@@ -16,7 +16,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct SvgSourceText {
     Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
 };
 
@@ -35,8 +35,9 @@ DocumentProblem needsOther(QString other)
     constexpr qsizetype shown = 100;
     if (other.size() > shown)
         other = other.first(shown) + u'…';
-    return {DocumentFailure::NeedsOthers,
-            Text::tr("it refers to \"%1\", and only what is in the SVG itself is printed").arg(other)};
+    return {
+        DocumentFailure::NeedsOthers,
+        SvgSourceText::tr("it refers to \"%1\", and only what is in the SVG itself is printed").arg(other)};
 }
 
 class SvgReader {
@@ -56,11 +57,12 @@ public:
         if (m_problem)
             return m_problem;
         if (!m_rootSeen)
-            return DocumentProblem{DocumentFailure::UnknownKind, Text::tr("it is no PDF, PNG, JPEG or SVG")};
+            return DocumentProblem{DocumentFailure::UnknownKind,
+                                   SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
         if (m_reader.hasError())
-            return DocumentProblem{
-                DocumentFailure::Damaged,
-                Text::tr("line %1 of the SVG: %2").arg(m_reader.lineNumber()).arg(m_reader.errorString())};
+            return DocumentProblem{DocumentFailure::Damaged, SvgSourceText::tr("line %1 of the SVG: %2")
+                                                                 .arg(m_reader.lineNumber())
+                                                                 .arg(m_reader.errorString())};
         return std::nullopt;
     }
 
@@ -112,13 +114,13 @@ private:
     {
         const QStringView name = m_reader.name();
         if (!m_rootSeen && name != u"svg") {
-            m_problem =
-                DocumentProblem{DocumentFailure::UnknownKind, Text::tr("it is no PDF, PNG, JPEG or SVG")};
+            m_problem = DocumentProblem{DocumentFailure::UnknownKind,
+                                        SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
             return;
         }
         if (++m_level > SvgSource::mostLevels || ++m_elements > SvgSource::mostElements) {
             m_problem = DocumentProblem{DocumentFailure::TooLarge,
-                                        Text::tr("it is an SVG of more parts than can be drawn")};
+                                        SvgSourceText::tr("it is an SVG of more parts than can be drawn")};
             return;
         }
         m_inStyle = name == u"style";
@@ -171,8 +173,9 @@ private:
                       : QByteArray::fromBase64(QStringView(reference).mid(begin + mark.size()).toLatin1());
         const std::optional<DocumentKind> kind = documentKind(data.left(documentHeadSize));
         if (kind != DocumentKind::Png && kind != DocumentKind::Jpeg) {
-            m_problem = DocumentProblem{DocumentFailure::UnknownKind,
-                                        Text::tr("it has a picture in it that is neither PNG nor JPEG")};
+            m_problem =
+                DocumentProblem{DocumentFailure::UnknownKind,
+                                SvgSourceText::tr("it has a picture in it that is neither PNG nor JPEG")};
             return;
         }
         QBuffer buffer;
@@ -181,10 +184,12 @@ private:
         const QSize size = QImageReader(&buffer, kind == DocumentKind::Png ? "png" : "jpeg").size();
         m_picturePixels += static_cast<qint64>(size.width()) * size.height();
         if (!size.isValid())
-            m_problem = DocumentProblem{DocumentFailure::Damaged, Text::tr("it has a damaged picture in it")};
+            m_problem = DocumentProblem{DocumentFailure::Damaged,
+                                        SvgSourceText::tr("it has a damaged picture in it")};
         else if (m_picturePixels > SvgSource::mostPicturePixels)
-            m_problem = DocumentProblem{DocumentFailure::TooLarge,
-                                        Text::tr("it has pictures of more pixels in it than can be printed")};
+            m_problem = DocumentProblem{
+                DocumentFailure::TooLarge,
+                SvgSourceText::tr("it has pictures of more pixels in it than can be printed")};
     }
 
     void readRoot()
@@ -197,7 +202,8 @@ private:
         const std::optional<QSizeF> box =
             m_source.viewBox ? std::optional(m_source.viewBox->size()) : std::nullopt;
         if (box && !(box->width() > 0.0 && box->height() > 0.0)) {
-            m_problem = DocumentProblem{DocumentFailure::BadPage, Text::tr("page %1 has no area").arg(1)};
+            m_problem =
+                DocumentProblem{DocumentFailure::BadPage, SvgSourceText::tr("page %1 has no area").arg(1)};
             return;
         }
         const std::optional<double> width = lengthInPixels(value("width"));

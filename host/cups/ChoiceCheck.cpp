@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct ChoiceCheckText {
     Q_DECLARE_TR_FUNCTIONS(host::ChoiceCheck)
 };
 
@@ -113,14 +113,16 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
     if (!option || choice.name != option->keyword) {
         if (isServerOption(choice.name))
             return std::nullopt;
-        return ChoiceError{ChoiceFailure::UnknownOption,
-                           Text::tr("The printer \"%1\" has no option \"%2\".").arg(ppd.printerName(), name)};
+        return ChoiceError{
+            ChoiceFailure::UnknownOption,
+            ChoiceCheckText::tr("The printer \"%1\" has no option \"%2\".").arg(ppd.printerName(), name)};
     }
     if (choice.name == "PageSize") {
         if (ppd.paper(choice.value))
             return std::nullopt;
-        return ChoiceError{ChoiceFailure::UnknownPaper,
-                           Text::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};
+        return ChoiceError{
+            ChoiceFailure::UnknownPaper,
+            ChoiceCheckText::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};
     }
     const bool takesSeveral = option->kind == PpdOptionKind::PickMany;
     // Of several, none may be chosen.
@@ -132,9 +134,10 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
     });
     if (isKnown || isFreeChoice(ppd, {choice.name, choice.value}))
         return std::nullopt;
-    return ChoiceError{ChoiceFailure::UnknownChoice,
-                       Text::tr("The option \"%1\" of the printer \"%2\" has no choice \"%3\"; it has: %4")
-                           .arg(name, ppd.printerName(), value, choiceList(*option))};
+    return ChoiceError{
+        ChoiceFailure::UnknownChoice,
+        ChoiceCheckText::tr("The option \"%1\" of the printer \"%2\" has no choice \"%3\"; it has: %4")
+            .arg(name, ppd.printerName(), value, choiceList(*option))};
 }
 
 CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &ppd)

@@ -9,13 +9,13 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct ConstraintsText {
     Q_DECLARE_TR_FUNCTIONS(host::Constraints)
 };
 
 QString quoted(const ConflictSide &side)
 {
-    return Text::tr("\"%1: %2\"").arg(side.optionText, side.choiceText);
+    return ConstraintsText::tr("\"%1: %2\"").arg(side.optionText, side.choiceText);
 }
 
 } // namespace
@@ -133,9 +133,9 @@ QString Conflict::sentence() const
     for (const ConflictSide &side : sides)
         texts.append(quoted(side));
     if (texts.size() == 1)
-        return Text::tr("This printer cannot do %1.").arg(texts.first());
+        return ConstraintsText::tr("This printer cannot do %1.").arg(texts.first());
     const QString last = texts.takeLast();
-    return Text::tr("%1 and %2 exclude each other.").arg(texts.join(QStringLiteral(", ")), last);
+    return ConstraintsText::tr("%1 and %2 exclude each other.").arg(texts.join(QStringLiteral(", ")), last);
 }
 
 QStringList sentencesAbout(const QStringList &keywords, const std::vector<Conflict> &conflicts)
@@ -159,7 +159,7 @@ QString Remedy::sentence() const
 {
     QStringList texts;
     for (const Change &change : changes)
-        texts.append(Text::tr("set \"%1\" to \"%2\"").arg(change.optionText, change.choiceText));
+        texts.append(ConstraintsText::tr("set \"%1\" to \"%2\"").arg(change.optionText, change.choiceText));
     QString sentence = texts.join(QStringLiteral(", "));
     if (!sentence.isEmpty())
         sentence[0] = sentence[0].toUpper();

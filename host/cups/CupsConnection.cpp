@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct CupsConnectionText {
     Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
 };
 
@@ -149,13 +149,16 @@ CupsError CupsConnection::noAnswer() const
 {
     const QString name = server().displayName();
     if (m_state->task->isCancelled())
-        return {CupsFailure::Cancelled, Text::tr("Given up on request.")};
+        return {CupsFailure::Cancelled, CupsConnectionText::tr("Given up on request.")};
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
-        return {CupsFailure::Silent, Text::tr("The print server \"%1\" does not answer.").arg(name)};
+        return {CupsFailure::Silent,
+                CupsConnectionText::tr("The print server \"%1\" does not answer.").arg(name)};
     if (!m_http)
-        return {CupsFailure::Unreachable, Text::tr("Cannot connect to the print server \"%1\": %2")
-                                              .arg(name, QString::fromUtf8(cupsLastErrorString()))};
-    return {CupsFailure::Unreachable, Text::tr("The connection to the print server \"%1\" broke.").arg(name)};
+        return {CupsFailure::Unreachable,
+                CupsConnectionText::tr("Cannot connect to the print server \"%1\": %2")
+                    .arg(name, QString::fromUtf8(cupsLastErrorString()))};
+    return {CupsFailure::Unreachable,
+            CupsConnectionText::tr("The connection to the print server \"%1\" broke.").arg(name)};
 }
 
 CupsError CupsConnection::lastError() const
@@ -172,7 +175,8 @@ CupsError CupsConnection::lastError() const
 CupsError CupsConnection::passwordError() const
 {
     return {CupsFailure::NotAuthorized,
-            Text::tr("The print server \"%1\" wants a password for the user \"%2\", and none was given.")
+            CupsConnectionText::tr(
+                "The print server \"%1\" wants a password for the user \"%2\", and none was given.")
                 .arg(server().displayName(), QString::fromUtf8(cupsUser()))};
 }
 
@@ -180,7 +184,8 @@ CupsError CupsConnection::serverError(CupsFailure kind, const QString &reason) c
 {
     if (m_state->lacksPassword && kind == CupsFailure::NotAuthorized)
         return passwordError();
-    return {kind, Text::tr("The print server \"%1\" says: %2").arg(server().displayName(), reason)};
+    return {kind,
+            CupsConnectionText::tr("The print server \"%1\" says: %2").arg(server().displayName(), reason)};
 }
 
 IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue) const
@@ -311,7 +316,7 @@ Result<std::optional<CupsConnection::File>, CupsError>
 CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifiedSince, qint64 mostBytes)
 {
     const auto failure = [&](CupsFailure kind, const QString &reason) -> CupsError {
-        return {kind, Text::tr("The print server \"%1\" does not give \"%2\": %3")
+        return {kind, CupsConnectionText::tr("The print server \"%1\" does not give \"%2\": %3")
                           .arg(server().displayName(), QString::fromUtf8(resource), reason)};
     };
     const http_status_t status = get(resource, unlessModifiedSince);
@@ -338,12 +343,14 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     while (beginWaiting(), (length = httpRead2(m_http.get(), piece.data(), piece.size())) > 0) {
         file.content.append(piece.data(), length);
         if (file.content.size() > mostBytes)
-            return failure(CupsFailure::Refused, Text::tr("it is larger than %1 MB").arg(mostBytes >> 20));
+            return failure(CupsFailure::Refused,
+                           CupsConnectionText::tr("it is larger than %1 MB").arg(mostBytes >> 20));
     }
     if (wasGivenUp())
         return noAnswer();
     if (length < 0 || (announced > 0 && file.content.size() != announced))
-        return failure(CupsFailure::Unreachable, Text::tr("the connection broke in the middle"));
+        return failure(CupsFailure::Unreachable,
+                       CupsConnectionText::tr("the connection broke in the middle"));
     return std::optional(file);
 }
 

@@ -7,15 +7,17 @@
 
 namespace host {
 
-/// The settings that libcups keeps for each thread: server, encryption, user and password callback. A scope sets
-/// them for the calling thread and, when it ends, puts back those of the scope around it, or libcups's defaults.
-/// No other class sets them, so that no call of libcups meets a callback whose data no longer exists.
+/// The settings that libcups keeps for each thread: server, encryption, user and password callback. A scope
+/// sets them for the calling thread and, when it ends, puts back those of the scope around it, or libcups's
+/// defaults. No other class sets them, so that no call of libcups meets a callback whose data no longer
+/// exists.
 ///
 /// A scope ends on the thread on which it began.
 class CupsThreadScope {
 public:
-    /// The callback is called with data, which must outlive the scope, whenever the server requires a password;
-    /// without a callback, libcups sends none and the request fails. libcups never asks on the terminal itself.
+    /// The callback is called with data, which must outlive the scope, whenever the server requires a
+    /// password; without a callback, libcups sends none and the request fails. libcups never asks on the
+    /// terminal itself.
     explicit CupsThreadScope(const CupsServer &server, cups_password_cb2_t password = nullptr,
                              void *data = nullptr);
     ~CupsThreadScope();

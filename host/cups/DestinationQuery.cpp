@@ -148,7 +148,7 @@ void markDefault(std::vector<Destination> &destinations, const QString &name)
         each.isDefault = each.name() == name;
 }
 
-struct Discovery {
+struct SearchedPrinters {
     BackgroundTask &task;
     const LpOptions lpOptions = LpOptions::read();
     const std::function<void(const Destination &)> &found;
@@ -156,7 +156,7 @@ struct Discovery {
 
 int discovered(void *data, unsigned flags, cups_dest_t *dest)
 {
-    const Discovery &discovery = *static_cast<Discovery *>(data);
+    const SearchedPrinters &discovery = *static_cast<SearchedPrinters *>(data);
     if (!(flags & CUPS_DEST_FLAGS_REMOVED)) {
         const auto option = [&](const char *name) {
             return QString::fromUtf8(cupsGetOption(name, dest->num_options, dest->options));
@@ -217,7 +217,7 @@ void discoverDestinations(const CupsServer &server, BackgroundTask &task, std::c
 {
     // The network needs no password; a server that requires one for the queues it shares is passed over.
     const CupsThreadScope scope(server);
-    Discovery discovery{.task = task, .found = found};
+    SearchedPrinters discovery{.task = task, .found = found};
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, static_cast<int>(time.count()), task.cancelFlag(),
                   CUPS_PRINTER_DISCOVERED, CUPS_PRINTER_DISCOVERED, discovered, &discovery);
 }

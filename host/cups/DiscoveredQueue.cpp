@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct DiscoveredQueueText {
     Q_DECLARE_TR_FUNCTIONS(host::DiscoveredQueue)
 };
 
@@ -86,9 +86,10 @@ std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString
         if (made.value())
             return std::nullopt;
         if (deadline.hasExpired())
-            return CupsError{CupsFailure::NotFound,
-                             Text::tr("The print server \"%1\" cannot reach the printer \"%2\".")
-                                 .arg(connection.server().displayName(), queue)};
+            return CupsError{
+                CupsFailure::NotFound,
+                DiscoveredQueueText::tr("The print server \"%1\" cannot reach the printer \"%2\".")
+                    .arg(connection.server().displayName(), queue)};
     }
 }
 
@@ -111,9 +112,9 @@ std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destinati
         if (!deviceUri && task.isCancelled())
             return connection.noAnswer();
         if (!deviceUri)
-            return CupsError{
-                CupsFailure::NotFound,
-                Text::tr("The printer \"%1\" is not on the network any more.").arg(destination.queue)};
+            return CupsError{CupsFailure::NotFound,
+                             DiscoveredQueueText::tr("The printer \"%1\" is not on the network any more.")
+                                 .arg(destination.queue)};
         const Result<IppPointer, CupsError> answer =
             connection.exchange(creationRequest(destination, *deviceUri), "/");
         // Another program may have asked for the same queue meanwhile, which is as good.

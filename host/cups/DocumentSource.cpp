@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct DocumentSourceText {
     Q_DECLARE_TR_FUNCTIONS(host::DocumentSource)
 };
 
@@ -23,7 +23,8 @@ constexpr qint64 pieceSize = 65536;
 
 CupsError failureFor(const QString &path, const QString &reason)
 {
-    return {CupsFailure::BadDocument, Text::tr("Cannot read the document \"%1\": %2").arg(path, reason)};
+    return {CupsFailure::BadDocument,
+            DocumentSourceText::tr("Cannot read the document \"%1\": %2").arg(path, reason)};
 }
 
 } // namespace
@@ -65,13 +66,14 @@ Result<DocumentSource, CupsError> DocumentSource::open(const QString &path,
     if (fstat(descriptor, &status) != 0)
         return source.failure(qt_error_string(errno));
     if (!S_ISREG(status.st_mode))
-        return source.failure(Text::tr("it is not a file"));
+        return source.failure(DocumentSourceText::tr("it is not a file"));
     if (status.st_size == 0)
-        return source.failure(Text::tr("it is empty"));
+        return source.failure(DocumentSourceText::tr("it is empty"));
     source.m_size = status.st_size;
     source.m_stamp = fileStamp(descriptor);
     if (expected && source.m_stamp != expected)
-        return source.failure(Text::tr("the file has changed since it was opened; open it again"));
+        return source.failure(
+            DocumentSourceText::tr("the file has changed since it was opened; open it again"));
     return source;
 }
 
@@ -85,7 +87,7 @@ Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
     const bool isInput = m_size < 0;
     const qint64 wanted = isInput ? pieceSize : qMin(pieceSize, m_size - m_taken);
     if (wanted == 0 && fileStamp(m_descriptor) != m_stamp)
-        return failure(Text::tr("it has changed while it was read"));
+        return failure(DocumentSourceText::tr("it has changed while it was read"));
     if (wanted == 0)
         return QByteArray();
     pollfd input = {m_descriptor, POLLIN, 0};
@@ -101,7 +103,7 @@ Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
     if (length < 0)
         return failure(qt_error_string(errno));
     if (length == 0 && !isInput)
-        return failure(Text::tr("it has become shorter while it was read"));
+        return failure(DocumentSourceText::tr("it has become shorter while it was read"));
     m_taken += length;
     piece.truncate(length);
     return piece;

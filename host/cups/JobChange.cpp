@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobChangeText {
     Q_DECLARE_TR_FUNCTIONS(host::JobChange)
 };
 
@@ -91,7 +91,7 @@ public:
             return error;
         std::optional<CupsError> error = send(IPP_OP_SET_JOB_ATTRIBUTES, options, "no-hold");
         if (error)
-            error->message = Text::tr("It is to be printed anew, but held. %1").arg(error->message);
+            error->message = JobChangeText::tr("It is to be printed anew, but held. %1").arg(error->message);
         return error;
     }
 
@@ -109,7 +109,7 @@ bool JobChange::isEmpty() const
 
 CupsError notChanged(int jobId, CupsError reason)
 {
-    reason.message = Text::tr("Job %1 was not changed. %2").arg(jobId).arg(reason.message);
+    reason.message = JobChangeText::tr("Job %1 was not changed. %2").arg(jobId).arg(reason.message);
     return reason;
 }
 
@@ -139,7 +139,7 @@ std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &ch
     const std::vector<JobOption> options = changedOptions(change);
     if (const JobOption *const option = findUnsendable(options))
         return told({CupsFailure::Refused,
-                     Text::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
+                     JobChangeText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
                          .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))});
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)

@@ -11,11 +11,9 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobOptionsText {
     Q_DECLARE_TR_FUNCTIONS(host::JobOptions)
 };
-
-constexpr const char *paperKeyword = "PageSize";
 
 /// Other ways of naming a paper, which could only contradict the exact one.
 bool namesPaperLoosely(const QByteArray &name)
@@ -89,17 +87,17 @@ QString originText(Origin origin)
 {
     switch (origin) {
     case Origin::Ppd:
-        return Text::tr("printer default");
+        return JobOptionsText::tr("printer default");
     case Origin::Queue:
-        return Text::tr("queue default");
+        return JobOptionsText::tr("queue default");
     case Origin::UserDefault:
-        return Text::tr("your default (lpoptions)");
+        return JobOptionsText::tr("your default (lpoptions)");
     case Origin::Preset:
-        return Text::tr("preset");
+        return JobOptionsText::tr("preset");
     case Origin::Panel:
-        return Text::tr("cut options");
+        return JobOptionsText::tr("cut options");
     case Origin::You:
-        return Text::tr("set by you");
+        return JobOptionsText::tr("set by you");
     }
     return {};
 }

@@ -9,7 +9,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobSettingsText {
     Q_DECLARE_TR_FUNCTIONS(host::JobSettings)
 };
 
@@ -129,7 +129,7 @@ Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const
     if (pages.value().size() * static_cast<std::size_t>(copies) > mostLabels)
         return PageRangeError{
             PageRangeFailure::TooMany,
-            Text::tr("Cannot print so many labels at once: a job has at most %1").arg(mostLabels)};
+            JobSettingsText::tr("Cannot print so many labels at once: a job has at most %1").arg(mostLabels)};
     return PageChoices{std::move(pages).value(), copies, settings.collate.value_or(Collate::No),
                        settings.order.value_or(PageOrder::FirstFirst)};
 }

@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobStatusText {
     Q_DECLARE_TR_FUNCTIONS(host::JobStatus)
 };
 
@@ -34,29 +34,29 @@ QStringList texts(ipp_t *answer, const char *name)
 QString heldSentence(const QString &until)
 {
     if (until.isEmpty() || until == QStringLiteral("no-hold") || until == QStringLiteral("indefinite"))
-        return Text::tr("Held until it is released.");
-    return Text::tr("Held until %1.").arg(until);
+        return JobStatusText::tr("Held until it is released.");
+    return JobStatusText::tr("Held until %1.").arg(until);
 }
 
 QString stateSentence(const JobStatus &job)
 {
     switch (job.state) {
     case JobState::Waiting:
-        return Text::tr("Waiting for its turn.");
+        return JobStatusText::tr("Waiting for its turn.");
     case JobState::Held:
         return heldSentence(job.heldUntil);
     case JobState::Printing:
-        return Text::tr("Printing.");
+        return JobStatusText::tr("Printing.");
     case JobState::Stopped:
-        return Text::tr("Stopped; it goes on when the printer is ready again.");
+        return JobStatusText::tr("Stopped; it goes on when the printer is ready again.");
     case JobState::Cancelled:
-        return Text::tr("Cancelled.");
+        return JobStatusText::tr("Cancelled.");
     case JobState::Aborted:
-        return Text::tr("Given up by the print server.");
+        return JobStatusText::tr("Given up by the print server.");
     case JobState::Completed:
         if (job.isForgotten)
-            return Text::tr("The job is over; the print server keeps no record of it.");
-        return Text::tr("Printed.");
+            return JobStatusText::tr("The job is over; the print server keeps no record of it.");
+        return JobStatusText::tr("Printed.");
     }
     return {};
 }
@@ -73,7 +73,7 @@ QStringList JobStatus::sentences() const
     const bool tellsMore = !message.trimmed().isEmpty() && state != JobState::Completed &&
                            state != JobState::Cancelled && state != JobState::Held;
     if (tellsMore)
-        all.append(Text::tr("The server says: %1").arg(message.trimmed()));
+        all.append(JobStatusText::tr("The server says: %1").arg(message.trimmed()));
     return all;
 }
 

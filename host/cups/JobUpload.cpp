@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobUploadText {
     Q_DECLARE_TR_FUNCTIONS(host::JobUpload)
 };
 
@@ -99,7 +99,7 @@ private:
     /// A server that is content with a part of a document would print that part.
     CupsError cutShort(const JobDocument &document) const
     {
-        return {CupsFailure::Refused, Text::tr("The print server \"%1\" did not take all of \"%2\".")
+        return {CupsFailure::Refused, JobUploadText::tr("The print server \"%1\" did not take all of \"%2\".")
                                           .arg(m_connection.server().displayName(), document.shownName())};
     }
 
@@ -122,8 +122,8 @@ CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, C
         return reason;
     // Not what was asked for, even if giving up was.
     return {error->kind,
-            Text::tr("%1 Job %2-%3 could not be taken back; look into the queue before you print "
-                     "again: %4")
+            JobUploadText::tr("%1 Job %2-%3 could not be taken back; look into the queue before you print "
+                              "again: %4")
                 .arg(reason.message, queue)
                 .arg(jobId)
                 .arg(error->message)};
@@ -154,12 +154,13 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         sources.push_back(std::move(source).value());
     }
     if (sources.empty())
-        return CupsError{CupsFailure::BadDocument, Text::tr("There is no document to print.")};
+        return CupsError{CupsFailure::BadDocument, JobUploadText::tr("There is no document to print.")};
 
     if (const JobOption *const option = findUnsendable(ticket.options))
-        return CupsError{CupsFailure::Refused,
-                         Text::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
-                             .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))};
+        return CupsError{
+            CupsFailure::Refused,
+            JobUploadText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
+                .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))};
 
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)

@@ -9,7 +9,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct LpCommandText {
     Q_DECLARE_TR_FUNCTIONS(host::LpCommand)
 };
 
@@ -85,7 +85,7 @@ QString shellWord(const QString &word)
 QString LpCommand::differencesInWords() const
 {
     return differences.isEmpty() ? QString()
-                                 : Text::tr("lp cannot say these options as they are sent: %1")
+                                 : LpCommandText::tr("lp cannot say these options as they are sent: %1")
                                        .arg(differences.join(QStringLiteral(", ")));
 }
 

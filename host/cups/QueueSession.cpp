@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct QueueSessionText {
     Q_DECLARE_TR_FUNCTIONS(host::QueueSession)
 };
 
@@ -167,8 +167,9 @@ void QueueSession::settle()
 
 CupsError QueueSession::noSuchDestination() const
 {
-    return {CupsFailure::NotFound, Text::tr("The print server \"%1\" has no queue or class \"%2\".")
-                                       .arg(m_server.displayName(), chosenName())};
+    return {CupsFailure::NotFound,
+            QueueSessionText::tr("The print server \"%1\" has no queue or class \"%2\".")
+                .arg(m_server.displayName(), chosenName())};
 }
 
 void QueueSession::takeState(const Destination &destination)

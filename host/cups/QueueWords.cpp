@@ -9,7 +9,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct QueueWordsText {
     Q_DECLARE_TR_FUNCTIONS(host::QueueWords)
 };
 
@@ -81,15 +81,16 @@ QString stateSentence(const Destination &destination)
 {
     switch (destination.state) {
     case QueueState::Ready:
-        return Text::tr("Ready.");
+        return QueueWordsText::tr("Ready.");
     case QueueState::Printing:
-        return Text::tr("Printing.");
+        return QueueWordsText::tr("Printing.");
     case QueueState::Paused:
-        return Text::tr("The queue is paused; jobs wait.");
+        return QueueWordsText::tr("The queue is paused; jobs wait.");
     case QueueState::Unknown:
         break;
     }
-    return destination.isDiscovered ? Text::tr("Found on the network.") : Text::tr("State unknown.");
+    return destination.isDiscovered ? QueueWordsText::tr("Found on the network.")
+                                    : QueueWordsText::tr("State unknown.");
 }
 
 } // namespace
@@ -130,13 +131,13 @@ QStringList queueSentences(const Destination &destination)
             sentences.append(sentence);
     }
     if (!destination.acceptsJobs)
-        sentences.append(Text::tr("The queue accepts no jobs."));
+        sentences.append(QueueWordsText::tr("The queue accepts no jobs."));
     const QString message = destination.stateMessage.trimmed();
     // "Paused" after "The queue is paused" says nothing new, nor does "Idle".
     const bool tellsMore = !message.isEmpty() && !(stopped && message == QStringLiteral("Paused")) &&
                            message != QStringLiteral("Idle");
     if (tellsMore)
-        sentences.append(Text::tr("The server says: %1").arg(message));
+        sentences.append(QueueWordsText::tr("The server says: %1").arg(message));
     return sentences;
 }
 

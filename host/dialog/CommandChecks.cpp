@@ -9,7 +9,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct CommandChecksText {
     Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
 };
 
@@ -73,7 +73,7 @@ bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup
     for (const host::Conflict &conflict : ticket.conflicts)
         m_console.complain(conflict.sentence());
     if (ticket.remedy)
-        m_console.complain(Text::tr("This would help: %1").arg(ticket.remedy->sentence()));
+        m_console.complain(CommandChecksText::tr("This would help: %1").arg(ticket.remedy->sentence()));
     // A summary of conflicting settings reports the conflicts, as the dialog does.
     return ticket.conflicts.empty() || m_command.force || m_command.task == Task::Summary;
 }

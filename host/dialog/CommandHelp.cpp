@@ -9,7 +9,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct CommandHelpText {
     Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
 };
 
@@ -50,28 +50,30 @@ QString lines(const CommandOption &option)
 QString commandHelp()
 {
     QString help =
-        Text::tr("Usage: kvprint [OPTION]... [--] [DOCUMENT]...\n"
-                 "       kvprint -i [QUEUE-]JOB [OPTION]...\n"
-                 "       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...\n") +
+        CommandHelpText::tr(
+            "Usage: kvprint [OPTION]... [--] [DOCUMENT]...\n"
+            "       kvprint -i [QUEUE-]JOB [OPTION]...\n"
+            "       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...\n") +
         u'\n' +
-        wrapped(
-            Text::tr("Prints documents on label printers, with a dialog for paper, pages and cuts that shows "
-                     "the label strip as it will come out. Without a display it prints at once. PDF, "
-                     "PNG, JPEG and SVG; \"-\" or nothing is standard input."),
-            lineWidth, 0) +
-        QStringLiteral("\n\n") + Text::tr("Options:\n");
+        wrapped(CommandHelpText::tr(
+                    "Prints documents on label printers, with a dialog for paper, pages and cuts that shows "
+                    "the label strip as it will come out. Without a display it prints at once. PDF, "
+                    "PNG, JPEG and SVG; \"-\" or nothing is standard input."),
+                lineWidth, 0) +
+        QStringLiteral("\n\n") + CommandHelpText::tr("Options:\n");
     for (const CommandOption &option : commandOptions())
         help += lines(option);
-    help += lines(QStringLiteral("--"), Text::tr("Ends the options: what follows are documents."));
+    help += lines(QStringLiteral("--"), CommandHelpText::tr("Ends the options: what follows are documents."));
     return help + u'\n' +
-           Text::tr("Exit status:\n"
-                    "  0  printed, or told what was asked for\n"
-                    "  1  something could not be opened, used, sent or written; nothing was printed,\n"
-                    "     unless standard error says that the job was sent all the same\n"
-                    "  2  the command line was not understood\n"
-                    "  3  printed, but without the cut-options panel\n"
-                    "  4  cancelled in the dialog\n"
-                    "  129, 130, 143  stopped by a signal before the job was sent\n");
+           CommandHelpText::tr(
+               "Exit status:\n"
+               "  0  printed, or told what was asked for\n"
+               "  1  something could not be opened, used, sent or written; nothing was printed,\n"
+               "     unless standard error says that the job was sent all the same\n"
+               "  2  the command line was not understood\n"
+               "  3  printed, but without the cut-options panel\n"
+               "  4  cancelled in the dialog\n"
+               "  129, 130, 143  stopped by a signal before the job was sent\n");
 }
 
 } // namespace dialog

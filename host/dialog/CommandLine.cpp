@@ -13,7 +13,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct CommandLineText {
     Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
 };
 
@@ -59,9 +59,10 @@ private:
         const QString name = word.mid(2, equals < 0 ? -1 : equals - 2);
         const CommandOption *const option = findOption(QStringView(name));
         if (!option)
-            m_error = wrong(Text::tr("There is no option \"%1\"").arg(QStringLiteral("--") + name));
+            m_error =
+                wrong(CommandLineText::tr("There is no option \"%1\"").arg(QStringLiteral("--") + name));
         else if (!option->value && equals >= 0)
-            m_error = wrong(Text::tr("The option \"%1\" takes no value").arg(option->spelling()));
+            m_error = wrong(CommandLineText::tr("The option \"%1\" takes no value").arg(option->spelling()));
         else
             use(*option, equals < 0 ? std::nullopt : std::optional(word.mid(equals + 1)));
     }
@@ -71,8 +72,8 @@ private:
         for (qsizetype i = 1; i < word.size() && !m_error; ++i) {
             const CommandOption *const option = findOption(word[i]);
             if (!option) {
-                m_error =
-                    wrong(Text::tr("There is no option \"%1\"").arg(QStringLiteral("-") + word.mid(i, 1)));
+                m_error = wrong(CommandLineText::tr("There is no option \"%1\"")
+                                    .arg(QStringLiteral("-") + word.mid(i, 1)));
                 return;
             }
             const bool takesRest = option->value && i + 1 < word.size();
@@ -91,7 +92,7 @@ private:
         }
         if (option.value && !value) {
             if (m_words.isEmpty()) {
-                m_error = wrong(Text::tr("The option \"%1\" needs a value: %2")
+                m_error = wrong(CommandLineText::tr("The option \"%1\" needs a value: %2")
                                     .arg(option.spelling(), QString::fromLatin1(option.value)));
                 return;
             }
@@ -118,12 +119,14 @@ private:
             if (option->printer == CommandOption::Printer::Queue && m_command.ppd)
                 return notTogether(*option, QStringLiteral("--ppd"));
             if (option->printer == CommandOption::Printer::Virtual && !m_command.ppd)
-                return wrong(Text::tr("The option \"%1\" is about the virtual printer and needs \"--ppd\"")
-                                 .arg(option->spelling()));
+                return wrong(
+                    CommandLineText::tr("The option \"%1\" is about the virtual printer and needs \"--ppd\"")
+                        .arg(option->spelling()));
         }
         if (m_command.settings.hold && holdNeedsJob(*m_command.settings.hold) && !m_command.jobToChange)
-            return wrong(Text::tr("-H: \"%1\" is about a job that was sent before and needs \"-i\"")
-                             .arg(*m_command.settings.hold));
+            return wrong(
+                CommandLineText::tr("-H: \"%1\" is about a job that was sent before and needs \"-i\"")
+                    .arg(*m_command.settings.hold));
         return checkDocuments();
     }
 
@@ -131,10 +134,10 @@ private:
     {
         const bool takesDocuments = m_command.task != Task::List && m_command.task != Task::ChangeJob;
         if (!takesDocuments && !m_command.documents.isEmpty())
-            return wrong(Text::tr("\"%1\" takes no documents, and \"%2\" was named")
+            return wrong(CommandLineText::tr("\"%1\" takes no documents, and \"%2\" was named")
                              .arg(taskSpelling(), m_command.documents.constFirst()));
         if (m_command.documents.count(QStringLiteral("-")) > 1)
-            return wrong(Text::tr("Standard input (\"-\") can be printed only once"));
+            return wrong(CommandLineText::tr("Standard input (\"-\") can be printed only once"));
         return std::nullopt;
     }
 
@@ -150,8 +153,8 @@ private:
 
     static UsageError notTogether(const CommandOption &option, const QString &other)
     {
-        return wrong(
-            Text::tr("The option \"%1\" does not go together with \"%2\"").arg(option.spelling(), other));
+        return wrong(CommandLineText::tr("The option \"%1\" does not go together with \"%2\"")
+                         .arg(option.spelling(), other));
     }
 
     UsageError wrongTask(const CommandOption &option) const
@@ -165,7 +168,7 @@ private:
                     tasks.append(each.spelling());
             }
         }
-        return wrong(Text::tr("The option \"%1\" goes only together with one of: %2")
+        return wrong(CommandLineText::tr("The option \"%1\" goes only together with one of: %2")
                          .arg(option.spelling(), tasks.join(QStringLiteral(", "))));
     }
 
@@ -187,7 +190,7 @@ std::optional<UsageError> CommandLine::checkInput(bool inputIsTerminal) const
     const bool wantsDocument = task != Task::List && task != Task::ChangeJob;
     if (!wantsDocument || !documents.isEmpty() || !inputIsTerminal)
         return std::nullopt;
-    return wrong(Text::tr("No document was named; name a file, or \"-\" to type one in"));
+    return wrong(CommandLineText::tr("No document was named; name a file, or \"-\" to type one in"));
 }
 
 } // namespace dialog

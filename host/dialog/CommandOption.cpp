@@ -12,7 +12,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct CommandOptionText {
     Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
 };
 
@@ -32,7 +32,7 @@ template<auto Field>
 Complaint takeText(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
-        return Text::tr("the value is empty");
+        return CommandOptionText::tr("the value is empty");
     command.*Field = value;
     return std::nullopt;
 }
@@ -69,7 +69,7 @@ Complaint takeMail(CommandLine &command, const QString &)
 Complaint takePaper(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
-        return Text::tr("the value is empty");
+        return CommandOptionText::tr("the value is empty");
     command.paper = value.toUtf8();
     return std::nullopt;
 }

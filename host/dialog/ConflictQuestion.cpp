@@ -9,7 +9,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct ConflictQuestionText {
     Q_DECLARE_TR_FUNCTIONS(dialog::PrintDialog)
 };
 
@@ -18,11 +18,13 @@ struct Text {
 bool sendsInSpiteOf(const QString &sentences, QWidget *parent)
 {
     QMessageBox question(QMessageBox::Warning, parent->windowTitle(),
-                         Text::tr("The printer cannot do all of these together."), QMessageBox::NoButton,
-                         parent);
+                         ConflictQuestionText::tr("The printer cannot do all of these together."),
+                         QMessageBox::NoButton, parent);
     question.setInformativeText(sentences);
-    const QPushButton *const print = question.addButton(Text::tr("Print anyway"), QMessageBox::AcceptRole);
-    question.setDefaultButton(question.addButton(Text::tr("Cancel"), QMessageBox::RejectRole));
+    const QPushButton *const print =
+        question.addButton(ConflictQuestionText::tr("Print anyway"), QMessageBox::AcceptRole);
+    question.setDefaultButton(
+        question.addButton(ConflictQuestionText::tr("Cancel"), QMessageBox::RejectRole));
     question.exec();
     return question.clickedButton() == print;
 }

@@ -7,7 +7,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct ConsoleText {
     Q_DECLARE_TR_FUNCTIONS(dialog::Console)
 };
 
@@ -24,7 +24,7 @@ void Console::tellRequestId(const QString &queue, int jobId, qsizetype documents
     const QString line =
         QStringLiteral("request id is %1-%2 (%3 file(s))\n").arg(queue).arg(jobId).arg(documents);
     if (!out(line))
-        complain(Text::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
+        complain(ConsoleText::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
 }
 
 } // namespace dialog

@@ -12,7 +12,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct DestinationReportText {
     Q_DECLARE_TR_FUNCTIONS(dialog::DestinationReport)
 };
 
@@ -41,7 +41,7 @@ QString plainText(const host::Destination &destination)
 {
     QString text = destination.name();
     if (destination.isDefault)
-        text += u' ' + Text::tr("(default)");
+        text += u' ' + DestinationReportText::tr("(default)");
     text += u'\n';
     QStringList about;
     for (const QString &part : {destination.description, destination.location}) {
@@ -51,7 +51,8 @@ QString plainText(const host::Destination &destination)
     if (!about.isEmpty())
         text += line(about.join(QStringLiteral(", ")));
     if (destination.isClass)
-        text += line(Text::tr("Class of: %1").arg(destination.members.join(QStringLiteral(", "))));
+        text += line(
+            DestinationReportText::tr("Class of: %1").arg(destination.members.join(QStringLiteral(", "))));
     return text + line(queueSentences(destination).join(u' '));
 }
 

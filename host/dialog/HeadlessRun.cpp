@@ -20,7 +20,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct HeadlessRunText {
     Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
 };
 
@@ -86,18 +86,19 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     if (m_signals.signal())
         return nullptr;
     if (!failure && !session.chosen())
-        failure = host::CupsError{
-            host::CupsFailure::NotFound,
-            Text::tr("The print server \"%1\" has no destination to print on").arg(m_server.displayName())};
+        failure =
+            host::CupsError{host::CupsFailure::NotFound,
+                            HeadlessRunText::tr("The print server \"%1\" has no destination to print on")
+                                .arg(m_server.displayName())};
     // The dialog shows any other queue then; without it, nobody would see where the labels go.
     const bool isAnyQueue = !m_command.destination && !host::LpOptions::read().defaultName() &&
                             !session.destinations().defaultDestination();
     if (!failure && isAnyQueue)
-        failure =
-            host::CupsError{host::CupsFailure::NotFound,
-                            Text::tr("There is no default destination on the print server \"%1\"; name one "
-                                     "with \"-d\"")
-                                .arg(m_server.displayName())};
+        failure = host::CupsError{
+            host::CupsFailure::NotFound,
+            HeadlessRunText::tr("There is no default destination on the print server \"%1\"; name one "
+                                "with \"-d\"")
+                .arg(m_server.displayName())};
     if (failure)
         m_console.complain(failure->message);
     // A PPD that cannot be used says nothing of what would come out.
@@ -186,7 +187,7 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Tick
 
 ExitStatus HeadlessRun::endedBy(int signal) const
 {
-    m_console.complain(Text::tr("Stopped by a signal; nothing was printed."));
+    m_console.complain(HeadlessRunText::tr("Stopped by a signal; nothing was printed."));
     return statusOfSignal(signal);
 }
 

@@ -14,7 +14,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct JobWordsText {
     Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
 };
 
@@ -52,7 +52,7 @@ Complaint readHold(CommandLine &command, const QString &value, bool isLetter)
             accepted.append(QString::fromLatin1(each.word));
     }
     if (!accepted.contains(value) && !isTime(value))
-        return Text::tr("\"%1\" is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2")
+        return JobWordsText::tr("\"%1\" is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2")
             .arg(value, accepted.join(QStringLiteral(", ")));
     command.settings.hold = value;
     // Before all others; a priority that is named later counts.
@@ -68,7 +68,7 @@ Complaint takeHoldOption(CommandLine &command, const QString &value)
 
 Complaint notOneOf(const QString &value, const QString &accepted)
 {
-    return Text::tr("\"%1\" is not possible; it must be one of: %2").arg(value, accepted);
+    return JobWordsText::tr("\"%1\" is not possible; it must be one of: %2").arg(value, accepted);
 }
 
 /// A row of words and what they stand for.
@@ -145,7 +145,7 @@ Complaint takeLandscape(CommandLine &command, const QString &value)
 Complaint takePaper(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
-        return Text::tr("it names no paper");
+        return JobWordsText::tr("it names no paper");
     command.paper = value.toUtf8();
     return std::nullopt;
 }
@@ -162,7 +162,7 @@ Complaint refuseFormat(CommandLine &, const QString &value)
 {
     if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
         return std::nullopt;
-    return Text::tr("\"%1\" is not possible; documents are sent as PDF").arg(value);
+    return JobWordsText::tr("\"%1\" is not possible; documents are sent as PDF").arg(value);
 }
 
 /// Options that mean the same as a letter or a name of the command line.
@@ -218,7 +218,7 @@ Complaint takeCopies(CommandLine &command, const QString &value)
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
     if (!isNumber || copies < 1 || copies > host::mostCopies)
-        return Text::tr("\"%1\" is no number of copies; it must be from 1 to %2")
+        return JobWordsText::tr("\"%1\" is no number of copies; it must be from 1 to %2")
             .arg(value)
             .arg(host::mostCopies);
     command.settings.copies = copies;
@@ -230,7 +230,7 @@ Complaint takePriority(CommandLine &command, const QString &value)
     bool isNumber = false;
     const int priority = value.toInt(&isNumber);
     if (!isNumber || priority < 1 || priority > 100)
-        return Text::tr("\"%1\" is no priority; it must be from 1 (last) to 100 (first)").arg(value);
+        return JobWordsText::tr("\"%1\" is no priority; it must be from 1 (last) to 100 (first)").arg(value);
     command.settings.priority = priority;
     return std::nullopt;
 }
@@ -252,7 +252,7 @@ Complaint takeDestination(CommandLine &command, const QString &value)
 {
     const auto [queue, instance] = host::splitDestinationName(value);
     if (queue.isEmpty() || (instance && instance->isEmpty()))
-        return Text::tr("\"%1\" names no queue; write QUEUE or QUEUE/INSTANCE").arg(value);
+        return JobWordsText::tr("\"%1\" names no queue; write QUEUE or QUEUE/INSTANCE").arg(value);
     command.destination = value;
     return std::nullopt;
 }
@@ -263,7 +263,8 @@ Complaint takeJob(CommandLine &command, const QString &value)
     const QRegularExpressionMatch match = form.match(value);
     const int job = match.captured(2).toInt();
     if (job < 1)
-        return Text::tr("\"%1\" is no job; write its number, or QUEUE-NUMBER as it was told when it was sent")
+        return JobWordsText::tr(
+                   "\"%1\" is no job; write its number, or QUEUE-NUMBER as it was told when it was sent")
             .arg(value);
     command.task = Task::ChangeJob;
     command.jobToChange = job;
@@ -281,7 +282,7 @@ Complaint takeOptions(CommandLine &command, const QString &value)
         complaint = takeOption(command, parsed[i].name, parsed[i].value);
     cupsFreeOptions(count, parsed);
     if (count == 0)
-        return Text::tr("\"%1\" names no option; write NAME=VALUE").arg(value);
+        return JobWordsText::tr("\"%1\" names no option; write NAME=VALUE").arg(value);
     return complaint;
 }
 

@@ -10,7 +10,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct LengthUnitText {
     Q_DECLARE_TR_FUNCTIONS(dialog::LengthUnit)
 };
 
@@ -32,7 +32,7 @@ QString exactNumber(double points, LengthUnit unit)
 
 QString withUnit(const QString &number, LengthUnit unit)
 {
-    return Text::tr("%1 %2", "a number and its unit").arg(number, unitText(unit));
+    return LengthUnitText::tr("%1 %2", "a number and its unit").arg(number, unitText(unit));
 }
 
 } // namespace
@@ -51,7 +51,8 @@ double pointsPer(LengthUnit unit)
 
 QString unitText(LengthUnit unit)
 {
-    return unit == LengthUnit::Inch ? Text::tr("in", "inches") : Text::tr("mm", "millimetres");
+    return unit == LengthUnit::Inch ? LengthUnitText::tr("in", "inches")
+                                    : LengthUnitText::tr("mm", "millimetres");
 }
 
 int exactDecimals(LengthUnit unit)
@@ -74,7 +75,7 @@ QString roundLength(double points)
 QString exactSize(const QSizeF &points)
 {
     const LengthUnit unit = userLengthUnit();
-    return Text::tr("%1 \u00d7 %2 %3", "width, length and their unit")
+    return LengthUnitText::tr("%1 \u00d7 %2 %3", "width, length and their unit")
         .arg(exactNumber(points.width(), unit), exactNumber(points.height(), unit), unitText(unit));
 }
 

@@ -14,7 +14,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct PaperGroupsText {
     Q_DECLARE_TR_FUNCTIONS(dialog::PaperGroups)
 };
 
@@ -43,8 +43,8 @@ std::vector<PaperGroup> groupPapers(const std::vector<host::PpdPaper> &papers)
         return {};
     for (PaperGroup &group : groups) {
         std::ranges::sort(group.papers);
-        group.title =
-            Text::tr("%1 wide", "papers of that width").arg(roundLength(width(group.papers.front())));
+        group.title = PaperGroupsText::tr("%1 wide", "papers of that width")
+                          .arg(roundLength(width(group.papers.front())));
     }
     return groups;
 }

@@ -22,7 +22,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct PrintRunText {
     Q_DECLARE_TR_FUNCTIONS(dialog::PrintRun)
 };
 
@@ -75,7 +75,8 @@ std::unique_ptr<host::PrinterSetup> PrintRun::openPrinter()
     if (!CommandChecks(m_command, m_console).accepts(*setup))
         return nullptr;
     if (!setup->paper()) {
-        m_console.complain(Text::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
+        m_console.complain(
+            PrintRunText::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
         return nullptr;
     }
     return setup;
@@ -128,7 +129,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, con
         return ExitStatus::Cancelled;
     }
     tellSummary(dialog.summary());
-    m_console.out(Text::tr("The label strip is in:") + u'\n');
+    m_console.out(PrintRunText::tr("The label strip is in:") + u'\n');
     m_console.out(sender.folder() + u'\n');
     return ExitStatus::Printed;
 }

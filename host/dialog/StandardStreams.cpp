@@ -12,7 +12,7 @@ namespace dialog {
 
 namespace {
 
-struct Text {
+struct StandardStreamsText {
     Q_DECLARE_TR_FUNCTIONS(dialog::StandardStreams)
 };
 
@@ -45,8 +45,8 @@ bool StandardStreams::out(const QString &text)
         return true;
     const QString reason = qt_error_string(errno);
     if (!m_isOutputIncomplete)
-        error(QStringLiteral("kvprint: ") + Text::tr("Cannot write to standard output: %1").arg(reason) +
-              u'\n');
+        error(QStringLiteral("kvprint: ") +
+              StandardStreamsText::tr("Cannot write to standard output: %1").arg(reason) + u'\n');
     m_isOutputIncomplete = true;
     return false;
 }

@@ -16,7 +16,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobReportText {
     Q_DECLARE_TR_FUNCTIONS(host::JobReport)
 };
 
@@ -100,11 +100,11 @@ QJsonArray choicesJson(const Ticket &ticket)
 QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
 {
     const JobTicket &ticket = whole.job;
-    QString text = Text::tr("Job \"%1\" for \"%2\" on %3\n")
+    QString text = JobReportText::tr("Job \"%1\" for \"%2\" on %3\n")
                        .arg(ticket.title, ticket.destination.name(), server.displayName());
     for (const JobDocument &document : ticket.documents)
         text += QStringLiteral("  %1\n").arg(document.shownName());
-    text += Text::tr("Options that are sent:\n");
+    text += JobReportText::tr("Options that are sent:\n");
     for (const JobOption &option : ticket.options) {
         if (option.isSent)
             text += QStringLiteral("  %1=%2  (%3)\n")

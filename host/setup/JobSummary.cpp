@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct JobSummaryText {
     Q_DECLARE_TR_FUNCTIONS(host::JobSummary)
 };
 
@@ -22,20 +22,22 @@ QString number(std::size_t value)
 
 SummarySection printingSection(const Ticket &ticket)
 {
-    SummarySection section{Text::tr("Printing"), {}};
-    section.lines.emplace_back(Text::tr("Document"), ticket.document);
-    section.lines.emplace_back(Text::tr("Printer"), ticket.printer);
+    SummarySection section{JobSummaryText::tr("Printing"), {}};
+    section.lines.emplace_back(JobSummaryText::tr("Document"), ticket.document);
+    section.lines.emplace_back(JobSummaryText::tr("Printer"), ticket.printer);
     if (ticket.paper)
-        section.lines.emplace_back(Text::tr("Paper"), ticket.paper->text);
+        section.lines.emplace_back(JobSummaryText::tr("Paper"), ticket.paper->text);
     const QString ranges = ticket.settings.pageRanges.value_or(QString()).simplified();
-    section.lines.emplace_back(Text::tr("Pages"), ranges.isEmpty() ? Text::tr("all") : ranges);
+    section.lines.emplace_back(JobSummaryText::tr("Pages"),
+                               ranges.isEmpty() ? JobSummaryText::tr("all") : ranges);
     const PageSet set = ticket.settings.pageSet.value_or(PageSet::All);
     if (set != PageSet::All)
-        section.lines.emplace_back(Text::tr("Of these"), set == PageSet::Odd ? Text::tr("the odd pages")
-                                                                             : Text::tr("the even pages"));
-    section.lines.emplace_back(Text::tr("Copies"), QLocale().toString(ticket.pages.copies));
+        section.lines.emplace_back(JobSummaryText::tr("Of these"),
+                                   set == PageSet::Odd ? JobSummaryText::tr("the odd pages")
+                                                       : JobSummaryText::tr("the even pages"));
+    section.lines.emplace_back(JobSummaryText::tr("Copies"), QLocale().toString(ticket.pages.copies));
     if (ticket.pages.order == PageOrder::LastFirst)
-        section.lines.emplace_back(Text::tr("Order"), Text::tr("last page first"));
+        section.lines.emplace_back(JobSummaryText::tr("Order"), JobSummaryText::tr("last page first"));
     return section;
 }
 
@@ -52,12 +54,12 @@ SummarySection panelSection(const QString &title, const QVariantMap &info)
 
 SummarySection stripSection(const CutPlan &plan)
 {
-    SummarySection section{Text::tr("Label strip"), {}};
-    section.lines.emplace_back(Text::tr("Labels"), number(plan.labels().size()));
+    SummarySection section{JobSummaryText::tr("Label strip"), {}};
+    section.lines.emplace_back(JobSummaryText::tr("Labels"), number(plan.labels().size()));
     if (plan.settings().areKnown)
-        section.lines.emplace_back(Text::tr("Pieces"), number(plan.pieces().size()));
-    section.lines.emplace_back(Text::tr("Tape"), tapeInWords(plan));
-    section.lines.emplace_back(Text::tr("Cuts"), cutPlanSentences(plan).join(u' '));
+        section.lines.emplace_back(JobSummaryText::tr("Pieces"), number(plan.pieces().size()));
+    section.lines.emplace_back(JobSummaryText::tr("Tape"), tapeInWords(plan));
+    section.lines.emplace_back(JobSummaryText::tr("Cuts"), cutPlanSentences(plan).join(u' '));
     return section;
 }
 

@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PanelSourceText {
     Q_DECLARE_TR_FUNCTIONS(host::PanelSource)
 };
 
@@ -36,14 +36,16 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
     panels.keywords = panels.session->claimKeywords();
     PDEPanel *const panel = panels.session->firstPanel();
     if (!panel)
-        return PanelError{PanelFailure::NoPanel,
-                          Text::tr("The panel bundle \"%1\" could not make its panel").arg(found.value())};
+        return PanelError{
+            PanelFailure::NoPanel,
+            PanelSourceText::tr("The panel bundle \"%1\" could not make its panel").arg(found.value())};
     if (panels.keywords.isEmpty())
         return ClaimedPanels();
     if (!panel->panelView())
         return PanelError{
             PanelFailure::BrokenBundle,
-            Text::tr("The panel of the bundle \"%1\" cannot be shown: its layout file cannot be used")
+            PanelSourceText::tr(
+                "The panel of the bundle \"%1\" cannot be shown: its layout file cannot be used")
                 .arg(found.value())};
     return panels;
 }

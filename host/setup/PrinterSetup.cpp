@@ -13,11 +13,9 @@ namespace host {
 
 namespace {
 
-struct Text {
+struct PrinterSetupText {
     Q_DECLARE_TR_FUNCTIONS(host::PrinterSetup)
 };
-
-constexpr const char *paperKeyword = "PageSize";
 
 platform::Paper panelPaper(const PpdPaper &paper)
 {
@@ -146,7 +144,8 @@ void PrinterSetup::takePaper(const SetupWishes &wishes)
     } else if (const std::optional<QByteArray> lacking = lackingUserPaper()) {
         m_refusals.push_back(
             {ChoiceFailure::UnknownPaper,
-             Text::tr("The printer \"%1\" has no paper \"%2\", which is your default (lpoptions).")
+             PrinterSetupText::tr(
+                 "The printer \"%1\" has no paper \"%2\", which is your default (lpoptions).")
                  .arg(ppd().printerName(), QString::fromUtf8(*lacking))});
     }
     if (!m_paper)
@@ -251,8 +250,8 @@ QStringList PrinterSetup::replacedChoices() const
 
 QString PrinterSetup::replacedSentence(const QString &option, const QString &choice, const QString &saved)
 {
-    return Text::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
-                    "printed as \"%3\".")
+    return PrinterSetupText::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
+                                "printed as \"%3\".")
         .arg(option, choice, saved);
 }
 

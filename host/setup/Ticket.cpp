@@ -9,8 +9,6 @@ namespace host {
 
 namespace {
 
-constexpr const char *paperKeyword = "PageSize";
-
 /// The user's default paper, where the printer does not have it.
 bool lacksUserPaper(const TicketSource &source)
 {
