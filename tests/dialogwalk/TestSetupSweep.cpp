@@ -83,7 +83,7 @@ protected:
     void leavesTheJob(const char *paper, const char *other)
     {
         const OptionTexts before = printer.options();
-        // Writing takes a hundred times as long as the rest.
+        // Only now and then as files: a strip takes long to write.
         const bool writes = points++ % 256 == 0;
         hold("printed", before, printer.print(writes ? SweptPrinter::Files::Yes : SweptPrinter::Files::No));
         printer.visitPage();
