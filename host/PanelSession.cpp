@@ -40,6 +40,8 @@ PanelSettings PanelSession::settings() const
     if (!panel)
         return {};
     PanelSettings settings;
+    if (const auto *const controls = dynamic_cast<const PDEUserChoices_v1 *>(panel))
+        settings.combinationsChosen = controls->combinationsChosen();
     settings.choices = m_host->collect([&] {
         QString error;
         if (!panel->saveValuesAndReturnError(&error))

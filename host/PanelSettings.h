@@ -11,6 +11,9 @@ struct PanelSettings {
     /// Keyword and choice, each keyword once, in the order in which the panel writes them. A keyword that the
     /// panel does not write is absent.
     PDEChoices choices = {};
+    /// How many ready-made combinations the user has chosen (PDEUserChoices_v1); 0 for a panel that does not
+    /// say.
+    int combinationsChosen = 0;
     /// Why the panel does not let the job be printed; absent when it does.
     std::optional<QString> error = {};
 

@@ -63,6 +63,7 @@ public:
     /// count whose field only the automatic cut enables follows it. A choice that a check box cannot show,
     /// the third of a list, is skipped, and so is a count that typing its number would not choose.
     PDEChoices shownChoices() const override;
+    int combinationsChosen() const override { return mCombinationsChosen; }
     void applyUserChoices(const PDEChoices &choices) override;
     std::optional<QVariantMap> summaryInfoFor(const PDEChoices &given) const override;
 
@@ -292,6 +293,7 @@ private:
     std::int32_t mTapeState = 0;
     /// The PPD gives automatic cutting a check box of its own.
     bool mAutoCutHideKey_dec = false;
+    int mCombinationsChosen = 0;
     /// The controls have been filled for the first time.
     bool set_formatSetting = false;
     // Part of the panel's state that other tools read; nothing here does.

@@ -111,5 +111,6 @@ void OptionPDE13_v400_::controlTextDidChange(const QWidget *object)
 
 void OptionPDE13_v400_::changeOptionPopUpButton(const QWidget *)
 {
+    ++mCombinationsChosen;
     updateUIItem(ItemType::OptionPopUp);
 }

@@ -3,7 +3,6 @@
 
 #include <host/CutSettings.h>
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
@@ -182,7 +181,6 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     if (!panelHost())
         return;
     startNoting();
-    followLists();
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         m_panels->forgetReplaced(keyword, choice);
         m_reported.insert(keyword);
@@ -192,21 +190,6 @@ void PrinterSetup::loadPanels(const PanelSource &source)
         m_lastChosen = keyword;
         record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
     });
-}
-
-void PrinterSetup::followLists()
-{
-    QWidget *const view = panel()->panelView();
-    if (!view)
-        return;
-    // Choosing is choosing, even where it changes nothing that is saved and no panel reports it.
-    for (const QComboBox *const list : view->findChildren<QComboBox *>()) {
-        QObject::connect(list, &QComboBox::activated, &m_lists, [this] {
-            m_panels->forgetReplaced(std::nullopt, std::nullopt);
-            if (m_didChange)
-                m_didChange();
-        });
-    }
 }
 
 std::optional<PanelError> PrinterSetup::panelProblem() const
@@ -283,6 +266,7 @@ std::set<QString> PrinterSetup::keptByRemedies() const
 void PrinterSetup::startNoting()
 {
     m_noted = m_panels->choicesToKeep();
+    m_notedCombinations = m_panels->settings().combinationsChosen;
     m_reported.clear();
 }
 
@@ -290,6 +274,8 @@ void PrinterSetup::notePanelInput()
 {
     if (!panel())
         return;
+    if (m_panels->settings().combinationsChosen != m_notedCombinations)
+        m_panels->forgetReplaced(std::nullopt, std::nullopt);
     std::optional<QString> changed;
     for (const auto &[keyword, choice] : m_panels->choicesToKeep()) {
         if (findChoice(m_noted, keyword) == choice || m_reported.contains(keyword))
@@ -359,7 +345,6 @@ void PrinterSetup::apply(const Remedy &remedy)
 
 void PrinterSetup::setDidChangeHook(std::function<void()> hook)
 {
-    m_didChange = hook;
     if (PanelHost *const host = panelHost())
         host->setDidChangeHook(std::move(hook));
 }

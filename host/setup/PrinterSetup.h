@@ -7,8 +7,6 @@
 #include <host/cups/Constraints.h>
 #include <host/cups/JobOptions.h>
 
-#include <QObject>
-
 namespace host {
 
 /// What is wanted of a printer from the beginning: by the command line, or because it was set for the same
@@ -109,8 +107,7 @@ public:
 
     /// Announces to the panel that its page comes to the front. What is chosen stays chosen.
     void announcePanel();
-    /// Called after every change that a panel makes by itself, and when the user has chosen something in a
-    /// list of its view; not called for changes while a panel is asked.
+    /// Called after every change that a panel makes by itself; not called for changes while a panel is asked.
     void setDidChangeHook(std::function<void()> hook);
 
 private:
@@ -120,7 +117,6 @@ private:
     void takePaper(const SetupWishes &wishes);
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
-    void followLists();
     void startNoting();
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
@@ -138,9 +134,8 @@ private:
     /// What the panel kept when it was looked at last, and the keywords that it has reported since.
     PDEChoices m_noted;
     std::set<QString> m_reported;
-    std::function<void()> m_didChange;
-    /// Hears of the panel's lists as long as the setup lives.
-    QObject m_lists;
+    /// How many combinations the user had chosen then.
+    int m_notedCombinations = 0;
 };
 
 } // namespace host

@@ -27,6 +27,12 @@ public:
     /// Changes nothing.
     virtual PDEChoices shownChoices() const = 0;
 
+    /// How often the user has chosen a ready-made combination since the panel was made; always 0 for a panel
+    /// without combinations. A combination is the user's choice of all its options, even where it changes
+    /// nothing: the dialog compares the number with the one it knows, and no longer asks for what the user
+    /// chose of these options before.
+    virtual int combinationsChosen() const = 0;
+
     /// Makes each choice as though the user had made it on the panel's own control: the control shows it, the
     /// dialog receives it through willChangePPDOptionKeyValue(), and the panel's rules are applied. No alert
     /// is shown. A choice that its control shows anyway is skipped, and so is one whose control is hidden or

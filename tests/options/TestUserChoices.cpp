@@ -254,6 +254,22 @@ TEST_F(UserChoicesTest, WhatIsShownIsWhatTheControlsHaveAndComesBack)
     EXPECT_EQ(controls.shownChoices(), shown);
 }
 
+TEST_F(UserChoicesTest, OnlyTheUserChoosesCombinations)
+{
+    show(everything());
+    const PDEUserChoices_v1 &controls = *panel;
+    apply({{"KvHalfCut", "ON"}, {"KvCutLabel", "3"}});
+    panel->willShow();
+    panel->restoreValuesAndReturnError(nullptr);
+    panel->saveValuesAndReturnError(nullptr);
+    EXPECT_EQ(controls.combinationsChosen(), 0);
+    // The one that the pop-up shows already changes nothing, and is a choice all the same.
+    const int row = panel->popUp()->currentIndex();
+    Q_EMIT panel->popUp()->activated(row);
+    Q_EMIT panel->popUp()->activated(row);
+    EXPECT_EQ(controls.combinationsChosen(), 2);
+}
+
 TEST_F(UserChoicesTest, NoAlertIsShown)
 {
     for (const bool ownBox : {false, true}) {

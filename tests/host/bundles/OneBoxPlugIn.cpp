@@ -56,6 +56,7 @@ public:
         return {
             {QStringLiteral("KvMirror"), m_box.isChecked() ? QStringLiteral("ON") : QStringLiteral("OFF")}};
     }
+    int combinationsChosen() const override { return 0; }
     void applyUserChoices(const PDEChoices &choices) override
     {
         for (const auto &[keyword, choice] : choices) {
