@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QWidget>
 
+#include <algorithm>
+
 using test_support::PanelDriverTest;
 using test_support::PpdBuilder;
 
@@ -97,10 +99,9 @@ TEST_F(PanelDriverViewsTest, AViewThatSomebodyElseDeletesIsNotLoadedAnyMore)
 {
     show();
     ask("{'op':'click','control':'mHalfCutChkBx'}");
-    for (QWidget *const window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == QStringLiteral("kPDEView"))
-            delete window;
-    }
+    // The windows of the view's own pop-ups are deleted with it.
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    delete *std::ranges::find(windows, QStringLiteral("kPDEView"), &QWidget::objectName);
     expectWorksWithoutView(m_driver);
     EXPECT_EQ(ask("{'op':'view'}").value("view"), true);
     EXPECT_EQ(control("mHalfCutChkBx").value("state"), 1);
