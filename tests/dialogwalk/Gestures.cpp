@@ -32,9 +32,12 @@ bool Gestures::pickRow(QComboBox *list, int row)
 
 void Gestures::clickRow(QAbstractItemView *list, int row)
 {
+    QWidget *const window = list->window();
+    // A window that is about to become larger, for a message that has just come, moves the row.
+    QApplication::processEvents();
+    EXPECT_TRUE(waitUntil([&] { return window->height() >= window->minimumSizeHint().height(); }));
     const QModelIndex index = list->model()->index(row, 0);
     list->scrollTo(index);
-    QWidget *const window = list->window();
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
                       list->viewport()->mapTo(window, list->visualRect(index).center()));
     QApplication::processEvents();

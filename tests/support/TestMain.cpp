@@ -8,8 +8,22 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
+namespace {
+
+/// A shell lets what it starts in the background ignore some signals, and all that the tests start would too.
+void heedSignals()
+{
+    for (const int number : {SIGINT, SIGQUIT, SIGTERM, SIGHUP})
+        std::signal(number, SIG_DFL);
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    heedSignals();
     testing::InitGoogleTest(&argc, argv);
     const test_support::TestHome home;
     const QApplication application(argc, argv);
