@@ -270,12 +270,24 @@ void PrinterSetup::startNoting()
     m_reported.clear();
 }
 
+void PrinterSetup::noteCombination()
+{
+    // The user has chosen what the paper's rules had made of these options: the choice moves along to another
+    // setup, although it is what is marked anyway.
+    const PanelSettings now = m_panels->settings();
+    for (const ReplacedChoice &each : m_panels->replaced()) {
+        if (const std::optional<QString> choice = now.choice(each.keyword))
+            record(each.keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
+    }
+    m_panels->forgetReplaced(std::nullopt, std::nullopt);
+}
+
 void PrinterSetup::notePanelInput()
 {
     if (!panel())
         return;
     if (m_panels->settings().combinationsChosen != m_notedCombinations)
-        m_panels->forgetReplaced(std::nullopt, std::nullopt);
+        noteCombination();
     std::optional<QString> changed;
     for (const auto &[keyword, choice] : m_panels->choicesToKeep()) {
         if (findChoice(m_noted, keyword) == choice || m_reported.contains(keyword))

@@ -118,6 +118,7 @@ private:
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
     void startNoting();
+    void noteCombination();
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
     Destination m_destination;

@@ -146,3 +146,17 @@ TEST_F(ChoicesThatStay, AListIsOperatedWhileTheWindowBecomesLarger)
     EXPECT_EQ(dialog.options().value("PageSize"), "18x60mm");
     expectChosen();
 }
+
+TEST_F(ChoicesThatStay, ACombinationThatChangesNothingOutlivesTheDescription)
+{
+    open("lx/shelf");
+    hand.pickPaper("DC12x25");
+    hand.pickPaper("HS12x50");
+    hand.perform({Action::PickPreset, 939112});
+    hand.pickPaper("12x100mm");
+    const QByteArray chosen = dialog.options().value("KvAutoTapeCut");
+    EXPECT_EQ(chosen, "OFF");
+    hand.perform({Action::ReplacePpd, 255251});
+    EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), chosen);
+    expectChosen();
+}
