@@ -50,6 +50,14 @@ void PageOptions::connectAll()
         m_collate->setEnabled(copies > 1);
         Q_EMIT changed();
     });
+    // A number that is typed is the user's, even where the printer's defaults show the same: QSpinBox reports
+    // no change then, and another printer has other defaults.
+    connect(m_copies->findChild<QLineEdit *>(), &QLineEdit::textEdited, this, [this] {
+        if (!m_copies->hasAcceptableInput() || m_wishes.copies == m_copies->value())
+            return;
+        m_wishes.copies = m_copies->value();
+        Q_EMIT changed();
+    });
     connect(m_collate, &QCheckBox::toggled, this, [this](bool isOn) {
         m_wishes.collate = isOn ? Collate::Yes : Collate::No;
         Q_EMIT changed();

@@ -160,3 +160,13 @@ TEST_F(ChoicesThatStay, ACombinationThatChangesNothingOutlivesTheDescription)
     EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), chosen);
     expectChosen();
 }
+
+TEST_F(ChoicesThatStay, CopiesThatAreTypedOutliveAQueueThatHasTheSame)
+{
+    open("lx/shelf");
+    ASSERT_EQ(dialog.options().value("copies"), "2");
+    hand.perform({Action::TypeCopies, 677831});
+    ASSERT_EQ(dialog.options().value("copies"), "2");
+    hand.pickQueue(QStringLiteral("raw"));
+    EXPECT_EQ(dialog.options().value("copies"), "2");
+}
