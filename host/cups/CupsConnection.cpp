@@ -149,7 +149,7 @@ CupsError CupsConnection::noAnswer() const
 {
     const QString name = server().displayName();
     if (m_state->task->isCancelled())
-        return {CupsFailure::Cancelled, CupsConnectionText::tr("Given up on request.")};
+        return {CupsFailure::Cancelled, CupsConnectionText::tr("Canceled on request.")};
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
         return {CupsFailure::Silent,
                 CupsConnectionText::tr("The print server \"%1\" does not answer.").arg(name)};

@@ -50,9 +50,9 @@ QString stateSentence(const JobStatus &job)
     case JobState::Stopped:
         return JobStatusText::tr("Stopped; it goes on when the printer is ready again.");
     case JobState::Cancelled:
-        return JobStatusText::tr("Cancelled.");
+        return JobStatusText::tr("Canceled.");
     case JobState::Aborted:
-        return JobStatusText::tr("Given up by the print server.");
+        return JobStatusText::tr("Aborted by the print server.");
     case JobState::Completed:
         if (job.isForgotten)
             return JobStatusText::tr("The job is over; the print server keeps no record of it.");

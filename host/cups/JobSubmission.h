@@ -27,7 +27,7 @@ Q_SIGNALS:
     void progressed(const host::UploadProgress &progress);
     /// The server has the job and all its documents.
     void submitted(int jobId);
-    /// Nothing of the job is printed, unless the message says that it could not be taken back.
+    /// Nothing of the job is printed, unless the message says that it could not be canceled.
     void failed(const host::CupsError &error);
 
 private:

@@ -122,7 +122,7 @@ CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, C
         return reason;
     // Not what was asked for, even if giving up was.
     return {error->kind,
-            JobUploadText::tr("%1 Job %2-%3 could not be taken back; look into the queue before you print "
+            JobUploadText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print "
                               "again: %4")
                 .arg(reason.message, queue)
                 .arg(jobId)

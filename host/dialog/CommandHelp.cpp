@@ -72,7 +72,7 @@ QString commandHelp()
                "     unless standard error says that the job was sent all the same\n"
                "  2  the command line was not understood\n"
                "  3  printed, but without the cut-options panel\n"
-               "  4  cancelled in the dialog\n"
+               "  4  canceled in the dialog\n"
                "  129, 130, 143  stopped by a signal before the job was sent\n");
 }
 

@@ -43,7 +43,7 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     connect(&m_monitor, &host::JobMonitor::changed, this, &JobWindow::showStatus);
     connect(&m_monitor, &host::JobMonitor::failed, this, [this](const host::CupsError &error) {
         showWords(error.message);
-        // A job that could not be taken back may still be, unless the server knows of none.
+        // A job that could not be canceled may still be, unless the server knows of none.
         m_cancel->setEnabled(error.kind != host::CupsFailure::NotFound);
     });
 }

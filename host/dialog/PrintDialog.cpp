@@ -117,7 +117,7 @@ void PrintDialog::connectAll()
         QDialog::accept();
     });
     connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
-        // Something to say keeps the window open: a job that could not be taken back, for instance.
+        // Something to say keeps the window open: a job that could not be canceled, for instance.
         const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
         stayOpen();
         m_problemBanner->setSendingProblem(problem);

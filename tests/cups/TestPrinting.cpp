@@ -190,7 +190,7 @@ TEST_F(PrintingTest, AJobThatIsTakenBackIsCancelledWhateverTheServerKeeps)
         job.monitor.cancelJob();
         EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
         EXPECT_EQ(job.last.state, JobState::Cancelled);
-        EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Cancelled.")});
+        EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Canceled.")});
         EXPECT_EQ(job.problems, QStringList());
     }
 }

@@ -208,7 +208,7 @@ TEST_F(PrintingFaultsTest, AJobWhoseDocumentBreaksOffIsTakenBack)
     const FaultyServer breaking(cupsd.port(), {.breakAfter = 500000});
     const Outcome outcome = print(job, serverAt(breaking.address()));
     ASSERT_TRUE(outcome.error);
-    EXPECT_FALSE(outcome.error->message.contains(QStringLiteral("could not be taken back")))
+    EXPECT_FALSE(outcome.error->message.contains(QStringLiteral("could not be canceled")))
         << qPrintable(outcome.error->message);
     EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");
     // The first document may have been printed before the second broke off, but no second time.
@@ -223,7 +223,7 @@ TEST_F(PrintingFaultsTest, AServerThatDiesWhileItIsSentADocumentIsToldWithTheJob
     cupsd.kill();
     EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
     ASSERT_TRUE(sending.error);
-    EXPECT_TRUE(sending.error->message.contains(QStringLiteral("Job tape-1 could not be taken back")))
+    EXPECT_TRUE(sending.error->message.contains(QStringLiteral("Job tape-1 could not be canceled")))
         << qPrintable(sending.error->message);
     // The server is back: the broken job has no document and prints nothing.
     cupsd.restart();

@@ -71,8 +71,8 @@ TEST(QueueWords, TellWhatBecomesOfAJob)
         {JobState::Printing, "", "media-jam-error", "feeding",
          "Printing. Labels or tape are jammed. The server says: feeding"},
         {JobState::Aborted, "", "media-jam-error", "Filter failed",
-         "Given up by the print server. The server says: Filter failed"},
-        {JobState::Cancelled, "", "", "old", "Cancelled."},
+         "Aborted by the print server. The server says: Filter failed"},
+        {JobState::Cancelled, "", "", "old", "Canceled."},
         {JobState::Completed, "", "media-low", "old", "Printed."},
     };
     for (const auto &[state, until, reason, message, expected] : rows) {

@@ -282,7 +282,7 @@ TEST_F(SendingTest, TheJobWindowTellsOfAHeldJobAndTakesItBack)
                                       QStringLiteral("-H"), QStringLiteral("hold")});
     EXPECT_TRUE(says(*job, QStringLiteral("Held until it is released.")));
     Hands::click(button(job.get(), QStringLiteral("Cancel the job")));
-    EXPECT_TRUE(says(*job, QStringLiteral("Cancelled.")));
+    EXPECT_TRUE(says(*job, QStringLiteral("Canceled.")));
     EXPECT_EQ(job->status()->state, host::JobState::Cancelled);
     EXPECT_TRUE(job->isVisible());
     EXPECT_FALSE(button(job.get(), QStringLiteral("Cancel the job"))->isEnabled());

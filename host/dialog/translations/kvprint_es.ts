@@ -249,7 +249,7 @@
      unless standard error says that the job was sent all the same
   2  the command line was not understood
   3  printed, but without the cut-options panel
-  4  cancelled in the dialog
+  4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
 </source>
         <translation>Estado de salida:
@@ -853,7 +853,7 @@
 <context>
     <name>host::CupsConnection</name>
     <message>
-        <source>Given up on request.</source>
+        <source>Canceled on request.</source>
         <translation>Interrumpido a petición del usuario.</translation>
     </message>
     <message>
@@ -1083,11 +1083,11 @@
         <translation>Detenido; continúa cuando la impresora vuelva a estar lista.</translation>
     </message>
     <message>
-        <source>Cancelled.</source>
+        <source>Canceled.</source>
         <translation>Cancelado.</translation>
     </message>
     <message>
-        <source>Given up by the print server.</source>
+        <source>Aborted by the print server.</source>
         <translation>Interrumpido por el servidor de impresión.</translation>
     </message>
     <message>
@@ -1177,7 +1177,7 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
         <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir: %4</translation>
     </message>
     <message>

@@ -249,7 +249,7 @@
      unless standard error says that the job was sent all the same
   2  the command line was not understood
   3  printed, but without the cut-options panel
-  4  cancelled in the dialog
+  4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
 </source>
         <translation>Code de retour :
@@ -854,7 +854,7 @@
 <context>
     <name>host::CupsConnection</name>
     <message>
-        <source>Given up on request.</source>
+        <source>Canceled on request.</source>
         <translation>Abandonné à votre demande.</translation>
     </message>
     <message>
@@ -1084,11 +1084,11 @@
         <translation>Arrêtée ; elle reprend quand l’imprimante est de nouveau prête.</translation>
     </message>
     <message>
-        <source>Cancelled.</source>
+        <source>Canceled.</source>
         <translation>Annulée.</translation>
     </message>
     <message>
-        <source>Given up by the print server.</source>
+        <source>Aborted by the print server.</source>
         <translation>Abandonnée par le serveur d’impression.</translation>
     </message>
     <message>
@@ -1178,7 +1178,7 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
         <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau : %4</translation>
     </message>
     <message>

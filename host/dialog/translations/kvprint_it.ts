@@ -249,7 +249,7 @@
      unless standard error says that the job was sent all the same
   2  the command line was not understood
   3  printed, but without the cut-options panel
-  4  cancelled in the dialog
+  4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
 </source>
         <translation>Stato di uscita:
@@ -854,7 +854,7 @@
 <context>
     <name>host::CupsConnection</name>
     <message>
-        <source>Given up on request.</source>
+        <source>Canceled on request.</source>
         <translation>Interrotto su richiesta.</translation>
     </message>
     <message>
@@ -1084,11 +1084,11 @@
         <translation>Fermo; riprende quando la stampante è di nuovo pronta.</translation>
     </message>
     <message>
-        <source>Cancelled.</source>
+        <source>Canceled.</source>
         <translation>Annullato.</translation>
     </message>
     <message>
-        <source>Given up by the print server.</source>
+        <source>Aborted by the print server.</source>
         <translation>Interrotto dal server di stampa.</translation>
     </message>
     <message>
@@ -1178,7 +1178,7 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
         <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo: %4</translation>
     </message>
     <message>

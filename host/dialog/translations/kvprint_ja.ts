@@ -249,7 +249,7 @@
      unless standard error says that the job was sent all the same
   2  the command line was not understood
   3  printed, but without the cut-options panel
-  4  cancelled in the dialog
+  4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
 </source>
         <translation>終了ステータス:
@@ -852,7 +852,7 @@
 <context>
     <name>host::CupsConnection</name>
     <message>
-        <source>Given up on request.</source>
+        <source>Canceled on request.</source>
         <translation>要求により中止しました。</translation>
     </message>
     <message>
@@ -1082,11 +1082,11 @@
         <translation>停止中。プリンターの準備ができると再開します。</translation>
     </message>
     <message>
-        <source>Cancelled.</source>
+        <source>Canceled.</source>
         <translation>キャンセルされました。</translation>
     </message>
     <message>
-        <source>Given up by the print server.</source>
+        <source>Aborted by the print server.</source>
         <translation>プリントサーバーが中止しました。</translation>
     </message>
     <message>
@@ -1176,7 +1176,7 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
         <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください: %4</translation>
     </message>
     <message>

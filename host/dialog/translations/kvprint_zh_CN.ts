@@ -249,7 +249,7 @@
      unless standard error says that the job was sent all the same
   2  the command line was not understood
   3  printed, but without the cut-options panel
-  4  cancelled in the dialog
+  4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
 </source>
         <translation>退出状态：
@@ -852,7 +852,7 @@
 <context>
     <name>host::CupsConnection</name>
     <message>
-        <source>Given up on request.</source>
+        <source>Canceled on request.</source>
         <translation>已按要求中止。</translation>
     </message>
     <message>
@@ -1082,11 +1082,11 @@
         <translation>已停止；打印机再次就绪后继续。</translation>
     </message>
     <message>
-        <source>Cancelled.</source>
+        <source>Canceled.</source>
         <translation>已取消。</translation>
     </message>
     <message>
-        <source>Given up by the print server.</source>
+        <source>Aborted by the print server.</source>
         <translation>已被打印服务器中止。</translation>
     </message>
     <message>
@@ -1176,7 +1176,7 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be taken back; look into the queue before you print again: %4</source>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
         <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列：%4</translation>
     </message>
     <message>
