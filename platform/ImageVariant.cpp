@@ -13,6 +13,8 @@ ImageVariant::ImageVariant(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return;
     m_bytes = file.readAll();
+    // Reading leaves room to grow, for each of a hundred files.
+    m_bytes.squeeze();
     if (const std::optional<QSize> size = sizeOfIntactPng(m_bytes)) {
         m_size = *size;
         return;

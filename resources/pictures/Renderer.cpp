@@ -2,6 +2,7 @@
 #include "Renderer.h"
 
 #include "Composer.h"
+#include "PngEncoder.h"
 
 #include <QPainter>
 #include <QSaveFile>
@@ -36,11 +37,11 @@ Problems cannotWrite(const QSaveFile &file)
     return {QStringLiteral("%1 cannot be written: %2").arg(file.fileName(), file.errorString())};
 }
 
-Problems writeText(const QString &text, const QString &path)
+Problems writeBytes(const QByteArray &bytes, const QString &path)
 {
-    const QByteArray utf8 = text.toUtf8();
     QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(utf8) == utf8.size() && file.commit();
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
     return written ? Problems() : cannotWrite(file);
 }
 
@@ -97,17 +98,18 @@ Problems writeSvgs(const PictureSpec &spec, const QString &folder)
             continue;
         }
         problems +=
-            writeText(std::get<QString>(svg),
-                      folder + u'/' + spec.name + QLatin1String(variant.suffix) + QStringLiteral(".svg"));
+            writeBytes(std::get<QString>(svg).toUtf8(),
+                       folder + u'/' + spec.name + QLatin1String(variant.suffix) + QStringLiteral(".svg"));
     }
     return problems;
 }
 
 Problems writePng(const QImage &image, const QString &path)
 {
-    QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
-    return written ? Problems() : cannotWrite(file);
+    const QByteArray png = encodedPng(image);
+    if (png.isEmpty())
+        return {QStringLiteral("%1 cannot be written: the image cannot be encoded.").arg(path)};
+    return writeBytes(png, path);
 }
 
 } // namespace pictures
