@@ -47,7 +47,8 @@ void LabelPictures::show(std::vector<int> pages, double pixelsPerMillimetre)
         if (!isDrawn(page) && std::ranges::find(m_missing, page) == m_missing.end())
             m_missing.push_back(page);
     }
-    start();
+    // Pages are mostly wanted in the middle of a painting, which another thread would make slower.
+    QMetaObject::invokeMethod(this, &LabelPictures::start, Qt::QueuedConnection);
 }
 
 void LabelPictures::start()

@@ -274,6 +274,9 @@ bool PrintDialog::event(QEvent *event)
                 m_keeper.release();
         });
     }
+    // The pages wait for the first painting: another thread would make it slower.
+    if (event->type() == QEvent::Paint)
+        m_pageCheck.start();
     return QDialog::event(event);
 }
 
@@ -283,7 +286,6 @@ void PrintDialog::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     pageShown();
-    m_pageCheck.start();
 }
 
 void PrintDialog::done(int result)

@@ -99,6 +99,7 @@ void PrintDialog::accept()
     if (isVisible() && !isReadyToSend()) {
         // It has thousands of pages; checking and measuring go on, and the window stays alive meanwhile.
         m_printsWhenReady = true;
+        m_pageCheck.start();
         if (!m_sender.needsStrip())
             m_pageCheck.hurry();
         m_sendBar->begin(m_draft.title);
