@@ -32,6 +32,9 @@ function(kv_folder name)
         add_library(kv_${name} STATIC ${arg_SOURCES})
     endif()
     set_target_properties(kv_${name} PROPERTIES AUTOMOC ON)
+    # Most code runs once, while the user waits for the window: what has to be read from the disk and kept in
+    # memory counts, not loops. Sources that look at each pixel ask for -O2.
+    target_compile_options(kv_${name} PRIVATE $<$<CONFIG:Release>:-Os>)
     target_include_directories(kv_${name} PUBLIC "${root}")
     target_link_libraries(kv_${name} PUBLIC ${used_targets} ${arg_LIBRARIES} PRIVATE kv_compiler)
     if(KV_PRECOMPILE AND arg_USES)
