@@ -6,7 +6,8 @@
 set -u
 status=0
 for program; do
-    runpath=$(readelf -d "$program" | sed -n 's/.*(RUNPATH).*\[\(.*\)\]/\1/p; s/.*(RPATH).*\[\(.*\)\]/\1/p')
+    dynamic=$(readelf -d "$program") || exit 1
+    runpath=$(printf '%s\n' "$dynamic" | sed -n 's/.*(RUNPATH).*\[\(.*\)\]/\1/p; s/.*(RPATH).*\[\(.*\)\]/\1/p')
     case ":$runpath:" in
     ::) continue ;;
     *::*) echo "$program: empty part in RUNPATH $runpath" >&2; status=1; continue ;;
