@@ -48,7 +48,8 @@ void LabelPictures::show(std::vector<int> pages, double pixelsPerMillimetre)
             m_missing.push_back(page);
     }
     // Pages are mostly wanted in the middle of a painting, which another thread would make slower.
-    QMetaObject::invokeMethod(this, &LabelPictures::start, Qt::QueuedConnection);
+    if (!m_missing.empty())
+        QMetaObject::invokeMethod(this, &LabelPictures::start, Qt::QueuedConnection);
 }
 
 void LabelPictures::start()
