@@ -25,7 +25,7 @@ enum class PpdFailure {
     NotAFile,   ///< a folder, a pipe or a device
     Unreadable, ///< no permission, or the medium fails
     TooLarge,   ///< larger than any printer's description
-    Truncated,  ///< ends in the middle of a value or of an option
+    Truncated,  ///< ends in the middle of a value, or cannot be unpacked to its end
     NotAPpd,    ///< libcups does not understand it
 };
 using PpdError = Failure<PpdFailure>;

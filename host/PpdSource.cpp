@@ -137,9 +137,6 @@ Result<PpdHandle, PpdError> PpdSource::parse()
     if (m_text.isInsideValue())
         return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
                              PpdSourceText::tr("it ends in the middle of a value; the file is incomplete"));
-    if (m_text.isInsideOption())
-        return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
-                             PpdSourceText::tr("it ends in the middle of an option; the file is incomplete"));
     return ppd;
 }
 

@@ -56,11 +56,7 @@ void PpdText::addToValue(char character)
 
 void PpdText::endLine()
 {
-    if (m_head.starts_with("*OpenUI") || m_head.starts_with("*JCLOpenUI"))
-        m_insideOption = true;
-    else if (m_head.starts_with("*CloseUI") || m_head.starts_with("*JCLCloseUI"))
-        m_insideOption = false;
-    else if (m_colon) {
+    if (m_colon) {
         m_translations.addStatement(m_head);
         m_paperSizes.addStatement(m_head, m_value);
     }

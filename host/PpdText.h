@@ -11,11 +11,11 @@ namespace host {
 
 /// Follows the text of a PPD, piece by piece, for what libcups does not tell.
 ///
-/// It tells whether the text could end where it does: libcups takes a file that ends inside a value or an
-/// option for a whole one, so a half-downloaded PPD would open with options missing. It collects
-/// the translations: libcups keeps those of one language only, the one of the process's locale,
-/// which need not be the one that the dialog is shown in. And it collects the sizes of papers by their exact
-/// names, which libcups does not keep apart.
+/// It tells whether the text could end where it does: libcups takes a file that ends inside a value for a
+/// whole one, so a half-downloaded PPD would open with options missing. It collects the translations: libcups
+/// keeps those of one language only, the one of the process's locale, which need not be the one that the
+/// dialog is shown in. And it collects the sizes of papers by their exact names, which libcups does not keep
+/// apart.
 class PpdText {
 public:
     /// The next piece; pieces may break anywhere.
@@ -27,8 +27,6 @@ public:
     int line() const { return m_line; }
     /// Inside a quoted value.
     bool isInsideValue() const { return m_quoted; }
-    /// Between the beginning of an option and its end.
-    bool isInsideOption() const { return m_insideOption; }
     /// The translations met so far.
     const PpdTranslations &translations() const { return m_translations; }
     /// The sizes of papers met so far.
@@ -43,7 +41,6 @@ private:
     char m_previous = 0;
     bool m_colon = false;
     bool m_quoted = false;
-    bool m_insideOption = false;
     /// The line up to its colon, as far as libcups would read it.
     std::string m_head;
     /// What follows the colon, without quotes, as far as any value that is looked into.

@@ -157,7 +157,7 @@ TEST_F(PpdLoaderTest, ADamagedPpdIsToldAndNotKept)
     QFile ppd(file);
     ASSERT_TRUE(ppd.open(QIODevice::ReadWrite));
     const QByteArray whole = ppd.readAll();
-    ASSERT_TRUE(ppd.resize(whole.indexOf("*OpenUI *KvHalfCut") + 60));
+    ASSERT_TRUE(ppd.resize(whole.indexOf("*NickName: \"") + 14));
     const Outcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("incomplete")))

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <host/PpdOptions.h>
+
 #include <gtest/gtest.h>
 
 #include <cups/file.h>
@@ -50,10 +52,6 @@ TEST(PpdFile, RefusesWithTheReasonAndTheLine)
         {"a stray line", "*PPD-Adobe: \"4.3\"\n*NickName: \"x\"\nstray\n", PpdFailure::NotAPpd,
          "line 3: Missing asterisk"},
         {"cut in a value", cutAfter("*NickName: \"Kvel"), PpdFailure::Truncated, "in the middle of a value"},
-        {"cut in an option", cutAfter("*KvHalfCut OFF/Off: \"\"\n"), PpdFailure::Truncated,
-         "in the middle of an option"},
-        {"cut in an option's first line", cutAfter("*OpenUI *KvMirror/Mirror: PickOne\n"),
-         PpdFailure::Truncated, "in the middle of an option"},
     };
     const Sandbox sandbox;
     for (const BadPpd &row : rows) {
@@ -64,6 +62,27 @@ TEST(PpdFile, RefusesWithTheReasonAndTheLine)
         EXPECT_TRUE(ppd.error().message.contains(path)) << ppd.error().message.toStdString();
         EXPECT_TRUE(ppd.error().message.contains(QLatin1String(row.reason)))
             << row.name << ": " << ppd.error().message.toStdString();
+    }
+}
+
+// The PPDs of some printers lack the last *CloseUI; the server prints with them.
+TEST(PpdFile, OpensWithoutTheEndOfTheLastOption)
+{
+    const std::pair<QByteArray, int> rows[] = {
+        {cutAfter("*KvHalfCut OFF/Off: \"\"\n*KvHalfCut ON/On: \"\"\n"), 2},
+        {cutAfter("*KvHalfCut OFF/Off: \"\""), 1},
+        {cutAfter("*OpenUI *KvHalfCut/Half Cut: PickOne\n"), 0},
+        {tapePpd() + "*JCLOpenUI *KvHold/Hold: PickOne\n*DefaultKvHold: On\n*KvHold On/On: \"\"\n", 2},
+    };
+    const Sandbox sandbox;
+    for (const auto &[content, choices] : rows) {
+        auto ppd = PpdFile::open(sandbox.write(QStringLiteral("open.ppd"), content));
+        ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
+        ppd.value().markDefaults();
+        EXPECT_EQ(ppd.value().papers().size(), 4U);
+        const auto option = host::PpdOptions(ppd.value()).option("KvHalfCut");
+        ASSERT_TRUE(option);
+        EXPECT_EQ(option->choices.size(), choices);
     }
 }
 

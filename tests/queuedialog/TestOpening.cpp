@@ -167,7 +167,7 @@ TEST_F(OpeningTest, PpdsThatAreNoneAreToldAndTheQueuePrints)
     const QByteArray good = tapePpd();
     const QByteArray rows[] = {
         damagedPpdText(),
-        good.left(good.indexOf("*KvMirror ON") + 5),
+        good.left(good.indexOf("Kvelland Tape 9")),
         QByteArray("\0\xff\xfe*PPD", 8) + QByteArray(2000, '\x80'),
         "*PPD-Adobe: \"4.3\"\n*OpenUI *A: PickOne\n*OpenUI *B: PickOne\n" + QByteArray(100000, '"'),
     };

@@ -1403,10 +1403,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>sie endet mitten in einem Wert; die Datei ist unvollständig</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>sie endet mitten in einer Option; die Datei ist unvollständig</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

@@ -1402,10 +1402,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>termina en medio de un valor; el archivo está incompleto</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>termina en medio de una opción; el archivo está incompleto</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

@@ -1403,10 +1403,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>il se termine au milieu d’une valeur ; le fichier est incomplet</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>il se termine au milieu d’une option ; le fichier est incomplet</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

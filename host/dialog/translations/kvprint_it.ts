@@ -1403,10 +1403,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>finisce a metà di un valore; il file è incompleto</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>finisce a metà di un&apos;opzione; il file è incompleto</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

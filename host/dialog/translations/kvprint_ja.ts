@@ -1400,10 +1400,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>値の途中で終わっています。ファイルが不完全です</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>オプションの途中で終わっています。ファイルが不完全です</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

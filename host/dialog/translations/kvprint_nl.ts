@@ -1403,10 +1403,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>het eindigt midden in een waarde; het bestand is onvolledig</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>het eindigt midden in een optie; het bestand is onvolledig</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

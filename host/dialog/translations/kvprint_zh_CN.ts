@@ -1400,10 +1400,6 @@
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>在值的中间结束；文件不完整</translation>
     </message>
-    <message>
-        <source>it ends in the middle of an option; the file is incomplete</source>
-        <translation>在选项的中间结束；文件不完整</translation>
-    </message>
 </context>
 <context>
     <name>host::PpdOptions</name>

@@ -113,7 +113,7 @@ TEST_F(KvprintTest, BadInputIsNamedAndNothingIsWritten)
 {
     const QString empty = sandbox.write(QStringLiteral("empty.pdf"), "");
     const QString text = sandbox.write(QStringLiteral("text.pdf"), "no PDF");
-    const QByteArray truncated = tapePpd().left(tapePpd().indexOf("*KvMirror ON"));
+    const QByteArray truncated = tapePpd().left(tapePpd().indexOf("Kvelland Tape 9"));
     const QString cut = sandbox.write(QStringLiteral("cut.ppd"), truncated);
     const QString brokenBundle = QStringLiteral(KV_BINARY_DIR "/tests/bundles/needs_files");
     const QString blocked = sandbox.write(QStringLiteral("blocked"), "x");
