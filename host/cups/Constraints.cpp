@@ -138,6 +138,19 @@ QString Conflict::sentence() const
     return ConstraintsText::tr("%1 and %2 exclude each other.").arg(texts.join(QStringLiteral(", ")), last);
 }
 
+QHash<QString, QStringList> sentencesByKeyword(const std::vector<Conflict> &conflicts)
+{
+    QHash<QString, QStringList> sentences;
+    for (const Conflict &conflict : conflicts) {
+        const QString sentence = conflict.sentence();
+        for (const ConflictSide &side : conflict.sides)
+            sentences[side.keyword].append(sentence);
+    }
+    for (QStringList &each : sentences)
+        each.removeDuplicates();
+    return sentences;
+}
+
 QStringList sentencesAbout(const QStringList &keywords, const std::vector<Conflict> &conflicts)
 {
     QStringList sentences;
@@ -216,6 +229,8 @@ std::vector<Conflict> Constraints::conflicts(const PDEChoices &instead) const
     const auto holds = [&](int number) { return marks.holds[static_cast<std::size_t>(number)]; };
     std::vector<Conflict> conflicts;
     QSet<QStringList> told;
+    // One choice may stand in thousands of conflicts; its texts are looked up once.
+    QHash<std::pair<int, int>, ConflictSide> sides;
     for (const Constraint &constraint : m_constraints) {
         if (!std::ranges::all_of(constraint, holds))
             continue;
@@ -225,7 +240,10 @@ std::vector<Conflict> Constraints::conflicts(const PDEChoices &instead) const
             const auto &[option, choice] = m_terms.term(number);
             const int shown =
                 choice == ConstraintTerms::anyChoice ? *marks.last[static_cast<std::size_t>(option)] : choice;
-            const ConflictSide &added = conflict.sides.emplace_back(side(option, shown));
+            auto known = sides.constFind({option, shown});
+            if (known == sides.constEnd())
+                known = sides.insert({option, shown}, side(option, shown));
+            const ConflictSide &added = conflict.sides.emplace_back(*known);
             words << added.keyword << added.choiceText;
         }
         const qsizetype before = told.size();

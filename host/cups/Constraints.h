@@ -25,6 +25,8 @@ struct Conflict {
     bool involves(const QString &keyword) const;
 };
 
+/// The sentences of the conflicts by the options that they involve, each once for an option.
+QHash<QString, QStringList> sentencesByKeyword(const std::vector<Conflict> &conflicts);
 /// The sentences of the conflicts that involve one of the options, each once.
 QStringList sentencesAbout(const QStringList &keywords, const std::vector<Conflict> &conflicts);
 

@@ -4,6 +4,7 @@
 #include <host/PpdOptions.h>
 
 #include <QCoreApplication>
+#include <QHash>
 
 #include <algorithm>
 
@@ -51,23 +52,21 @@ public:
     }
     void send(const QByteArray &name) { at(name).isSent = true; }
     std::vector<JobOption> take() && { return std::move(m_options); }
-    bool has(const QByteArray &name) const { return find(name) != m_options.end(); }
+    bool has(const QByteArray &name) const { return m_positions.contains(name); }
 
 private:
-    std::vector<JobOption>::const_iterator find(const QByteArray &name) const
-    {
-        return std::find_if(m_options.begin(), m_options.end(),
-                            [&](const JobOption &each) { return each.name == name; });
-    }
     JobOption &at(const QByteArray &name)
     {
-        const auto found = find(name);
-        if (found != m_options.end())
-            return m_options[static_cast<std::size_t>(found - m_options.begin())];
+        const auto found = m_positions.constFind(name);
+        if (found != m_positions.constEnd())
+            return m_options[*found];
+        m_positions.insert(name, m_options.size());
         return m_options.emplace_back(JobOption{name, {}, Origin::Ppd, false});
     }
 
     std::vector<JobOption> m_options;
+    /// By the option's name: a PPD may have thousands.
+    QHash<QByteArray, std::size_t> m_positions;
 };
 
 void addPpdDefaults(Layers &layers, const PpdFile &ppd)

@@ -3,7 +3,16 @@
 
 #include <host/setup/SetupKeeper.h>
 
+#include <algorithm>
+
 namespace dialog {
+
+namespace {
+
+/// More than anybody reads; laying out the text of thousands would keep the dialog waiting.
+constexpr std::size_t maxSentences = 100;
+
+} // namespace
 
 ConflictBanner::ConflictBanner(host::SetupKeeper &keeper, QWidget *parent)
     : Banner(parent)
@@ -20,8 +29,10 @@ void ConflictBanner::setConflicts(const std::vector<host::Conflict> &conflicts,
                                   const std::optional<host::Remedy> &remedy)
 {
     QStringList sentences;
-    for (const host::Conflict &conflict : conflicts)
-        sentences.append(conflict.sentence());
+    for (std::size_t i = 0; i < std::min(conflicts.size(), maxSentences); ++i)
+        sentences.append(conflicts[i].sentence());
+    if (conflicts.size() > maxSentences)
+        sentences.append(QStringLiteral("\u2026"));
     m_shownRemedy = remedy;
     setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
 }

@@ -119,15 +119,15 @@ void OptionGroupPage::refresh()
         control->showMarked(options);
 }
 
-void OptionGroupPage::setConflicts(const std::vector<host::Conflict> &conflicts)
+void OptionGroupPage::setConflicts(const QHash<QString, QStringList> &sentences)
 {
-    m_conflicts = conflicts;
+    m_conflicts = sentences;
     showConflicts();
 }
 
 QStringList OptionGroupPage::sentencesAbout(const QByteArray &keyword) const
 {
-    return host::sentencesAbout({QString::fromUtf8(keyword)}, m_conflicts);
+    return m_conflicts.value(QString::fromUtf8(keyword));
 }
 
 QStringList OptionGroupPage::conflictSentences() const

@@ -27,8 +27,8 @@ public:
 
     /// Shows what is marked now, quietly.
     void refresh();
-    /// Shows each conflict at the options that it involves.
-    void setConflicts(const std::vector<host::Conflict> &conflicts);
+    /// Shows each conflict at the options that it involves; sentences by keywords.
+    void setConflicts(const QHash<QString, QStringList> &sentences);
     /// The sentences about options of this group.
     QStringList conflictSentences() const;
 
@@ -51,7 +51,7 @@ private:
     const host::PpdFile &m_ppd;
     std::vector<QByteArray> m_keywords;
     std::vector<OptionControl *> m_controls;
-    std::vector<host::Conflict> m_conflicts;
+    QHash<QString, QStringList> m_conflicts;
     /// The forms, one below the other; null until the page is shown.
     QVBoxLayout *m_column = nullptr;
     /// Where controls are being added.

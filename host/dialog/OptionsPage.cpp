@@ -124,8 +124,9 @@ void OptionsPage::refresh()
 
 void OptionsPage::setConflicts(const std::vector<host::Conflict> &conflicts)
 {
+    const QHash<QString, QStringList> byKeyword = host::sentencesByKeyword(conflicts);
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        m_pages[i]->setConflicts(conflicts);
+        m_pages[i]->setConflicts(byKeyword);
         const QStringList sentences = m_pages[i]->conflictSentences();
         QListWidgetItem *const item = m_groups->item(static_cast<int>(i));
         item->setIcon(sentences.isEmpty() ? QIcon() : style()->standardIcon(QStyle::SP_MessageBoxWarning));

@@ -233,6 +233,25 @@ TEST(Constraints, AgreeWithLibcups)
     EXPECT_GT(withRemedy, 20) << "seed " << seed;
 }
 
+TEST(Constraints, SentencesStandAtEveryOptionThatTheyAreAboutAndOnce)
+{
+    const auto side = [](const char *keyword) {
+        const QString name = QString::fromLatin1(keyword);
+        return host::ConflictSide{name, name, QStringLiteral("On")};
+    };
+    const std::vector<Conflict> conflicts = {{{side("A"), side("B")}},
+                                             {{side("B"), side("C")}},
+                                             {{side("A"), side("B")}},
+                                             {{side("D"), side("D")}}};
+    const QHash<QString, QStringList> found = host::sentencesByKeyword(conflicts);
+    EXPECT_EQ(found.size(), 4);
+    for (const char *const keyword : {"A", "B", "C", "D", "E"}) {
+        const QString name = QString::fromLatin1(keyword);
+        EXPECT_EQ(found.value(name), host::sentencesAbout({name}, conflicts)) << keyword;
+    }
+    EXPECT_EQ(found.value(QStringLiteral("B")).size(), 2);
+}
+
 TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
 {
     using host::ChoiceFailure;

@@ -2,6 +2,7 @@
 // Conflicts are told where their choices are made.
 #include "DialogFixture.h"
 
+#include <host/dialog/ConflictBanner.h>
 #include <host/dialog/PanelPage.h>
 #include <host/dialog/PaperChooser.h>
 #include <tests/support/Waiting.h>
@@ -102,6 +103,24 @@ TEST_F(ConflictNotesTest, TheNoteIsWholeAndThePanelTooAndOfManySentencesTheFirst
     }
     // The panel is not scrolled because of it.
     EXPECT_TRUE(page->rect().contains(QRect(box("mHalfCutChkBx")->mapTo(page, QPoint()), QSize(1, 1))));
+}
+
+TEST_F(ConflictNotesTest, OfThousandsTheBannerTellsTheFirst)
+{
+    openWith({});
+    std::vector<host::Conflict> conflicts;
+    for (int i = 0; i < 5000; ++i) {
+        const host::ConflictSide side{QStringLiteral("Option"), QStringLiteral("Option"), QString::number(i)};
+        conflicts.push_back({{side, side}});
+    }
+    auto *const banner = window->findChild<dialog::ConflictBanner *>();
+    ASSERT_TRUE(banner);
+    banner->setConflicts({conflicts.begin(), conflicts.begin() + 100}, {});
+    EXPECT_EQ(banner->message().count(QStringLiteral("exclude each other")), 100);
+    EXPECT_FALSE(banner->message().endsWith(u'\u2026'));
+    banner->setConflicts(conflicts, {});
+    EXPECT_EQ(banner->message().count(QStringLiteral("exclude each other")), 100);
+    EXPECT_TRUE(banner->message().endsWith(QStringLiteral("\n\u2026")));
 }
 
 TEST_F(ConflictNotesTest, TheNoteFitsFromTheBeginning)
