@@ -101,15 +101,20 @@ public:
     /// The choice's text for people; the choice itself when the PPD lacks it.
     QString choiceText(const QString &keyword, const QString &choice) const;
 
-    /// The choices of PageSize that the PPD names a size for, in its order, without the entry that stands for
-    /// free sizes.
+    /// The choices of PageSize that the PPD names a usable size for, in its order, without the entry that
+    /// stands for free sizes.
     std::vector<PpdPaper> papers() const;
     /// The paper of that name, compared byte for byte. "Custom.WIDTHxLENGTH", as customPaperSize() reads it,
     /// gives a free size, where the PPD has them and within its limits.
     std::optional<PpdPaper> paper(const QByteArray &name) const;
+    /// The width and length, in points, for which paper() gives nothing though the PPD has the paper or takes
+    /// free sizes: not numbers above 0, or beyond PpdPaperSizes::maxLongSide and maxShortSide. Nothing for
+    /// all other names.
+    std::optional<QSizeF> unusableSize(const QByteArray &name) const;
     /// The paper that is marked; nothing when none is.
     std::optional<PpdPaper> markedPaper() const;
-    /// The limits of free sizes; nothing when the PPD has only fixed ones.
+    /// The limits of free sizes, from 1 point to PpdPaperSizes::maxLongSide at the most; nothing when the PPD
+    /// has only fixed sizes, or limits between which there is none.
     std::optional<PpdCustomLimits> customLimits() const;
 
 private:

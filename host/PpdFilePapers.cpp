@@ -3,6 +3,7 @@
 
 #include "PpdNumber.h"
 #include "PpdOptions.h"
+#include "Units.h"
 
 #include <QSet>
 
@@ -46,7 +47,8 @@ std::optional<PpdPaper> PpdFile::paper(const QByteArray &name) const
 std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
 {
     const std::optional<PpdCustomLimits> limits = customLimits();
-    if (!limits || !customPaperSize(name))
+    const std::optional<QSizeF> named = customPaperSize(name);
+    if (!limits || !named || !PpdPaperSizes::isUsable(*named))
         return std::nullopt;
     const ppd_size_t *const record = ppdPageSize(m_ppd.get(), name.constData());
     if (!record)
@@ -68,6 +70,14 @@ std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
     return paper;
 }
 
+std::optional<QSizeF> PpdFile::unusableSize(const QByteArray &name) const
+{
+    if (choiceIndex(QString::fromLatin1(paperKeyword), QString::fromUtf8(name)))
+        return m_paperSizes.unusableSize(name);
+    const std::optional<QSizeF> custom = customLimits() ? customPaperSize(name) : std::nullopt;
+    return custom && !PpdPaperSizes::isUsable(*custom) ? custom : std::nullopt;
+}
+
 std::optional<PpdPaper> PpdFile::markedPaper() const
 {
     std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
@@ -86,8 +96,16 @@ std::optional<PpdCustomLimits> PpdFile::customLimits() const
 {
     if (!m_ppd->variable_sizes)
         return std::nullopt;
-    return PpdCustomLimits{QSizeF(double{m_ppd->custom_min[0]}, double{m_ppd->custom_min[1]}),
-                           QSizeF(double{m_ppd->custom_max[0]}, double{m_ppd->custom_max[1]})};
+    // Many PPDs allow any size from 0 on; a paper of less than a point is none.
+    constexpr double min = 1.0;
+    constexpr double max = PpdPaperSizes::maxLongSide * 1000.0 * pointsPerMillimetre;
+    const PpdCustomLimits limits{
+        {qMax(min, double{m_ppd->custom_min[0]}), qMax(min, double{m_ppd->custom_min[1]})},
+        {qMin(max, double{m_ppd->custom_max[0]}), qMin(max, double{m_ppd->custom_max[1]})}};
+    // Comparisons with NaN are false.
+    const bool hasSizes = limits.smallest.width() <= limits.largest.width() &&
+                          limits.smallest.height() <= limits.largest.height();
+    return hasSizes ? std::optional(limits) : std::nullopt;
 }
 
 } // namespace host

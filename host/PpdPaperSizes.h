@@ -20,8 +20,19 @@ public:
     /// something else is passed over.
     void addStatement(std::string_view statement, std::string_view value);
 
-    /// Width and length in points; nothing when the PPD does not tell.
+    /// The largest paper, in metres: longer than any roll of labels or of continuous paper, and as wide as
+    /// the widest printers. To draw such a paper takes a moment; one of a million kilometres takes all
+    /// memory.
+    static constexpr double maxLongSide = 100.0;
+    static constexpr double maxShortSide = 5.0;
+    /// Whether width and length, in points, are numbers above 0 and within the largest paper, either way
+    /// round.
+    static bool isUsable(const QSizeF &size);
+
+    /// Width and length in points; nothing when the PPD does not tell, or tells one that is not usable.
     std::optional<QSizeF> size(const QByteArray &paper) const;
+    /// What the PPD tells in place of a usable size; nothing when the size is usable or unknown.
+    std::optional<QSizeF> unusableSize(const QByteArray &paper) const;
     /// What the printer cannot reach at each edge, in points; nothing when the PPD does not tell.
     std::optional<QMarginsF> margins(const QByteArray &paper) const;
 

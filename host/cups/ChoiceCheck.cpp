@@ -102,6 +102,17 @@ QString choiceList(const PpdOption &option)
     return names.join(QStringLiteral(", "));
 }
 
+ChoiceError unusablePaper(const PpdFile &ppd, const QString &paper, const QSizeF &size)
+{
+    const QString text = ChoiceCheckText::tr(
+        "The printer \"%1\" cannot print on the paper \"%2\": its size is %3 × %4 points; width and "
+        "length must be above 0, one of them at most %5 m, the other at most %6 m.");
+    return {ChoiceFailure::UnusablePaper,
+            text.arg(ppd.printerName(), paper, QString::number(size.width()), QString::number(size.height()),
+                     QString::number(PpdPaperSizes::maxShortSide),
+                     QString::number(PpdPaperSizes::maxLongSide))};
+}
+
 } // namespace
 
 std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choice)
@@ -120,6 +131,8 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
     if (choice.name == "PageSize") {
         if (ppd.paper(choice.value))
             return std::nullopt;
+        if (const std::optional<QSizeF> size = ppd.unusableSize(choice.value))
+            return unusablePaper(ppd, value, *size);
         return ChoiceError{
             ChoiceFailure::UnknownPaper,
             ChoiceCheckText::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};

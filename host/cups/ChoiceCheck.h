@@ -11,6 +11,7 @@ enum class ChoiceFailure {
     UnknownOption, ///< neither the printer nor the print server has it
     UnknownChoice, ///< the option does not have it
     UnknownPaper,  ///< the printer does not have it, or not in that size
+    UnusablePaper, ///< no printer can print on the size that the PPD gives it
 };
 using ChoiceError = Failure<ChoiceFailure>;
 

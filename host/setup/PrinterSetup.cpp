@@ -149,11 +149,21 @@ void PrinterSetup::takePaper(const SetupWishes &wishes)
     }
     if (!m_paper)
         m_paper = defaultPaper();
-    if (!m_paper)
+    if (!m_paper) {
+        refuseUnusableDefault();
         return;
+    }
     // Marked and recorded before there is a panel, since a panel looks at the paper from the beginning.
     m_state->setPaper(panelPaper(*m_paper));
     m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(m_paper->name), nullptr);
+}
+
+void PrinterSetup::refuseUnusableDefault()
+{
+    // Without a choice, the server would print on it.
+    const QByteArray paper = PpdOptions(ppd()).defaultChoice(paperKeyword);
+    if (m_refusals.empty() && ppd().unusableSize(paper))
+        m_refusals.push_back(*checkChoice(ppd(), {paperKeyword, paper, Origin::Ppd}));
 }
 
 void PrinterSetup::keepRefused(const SetupWishes &wishes)

@@ -115,6 +115,8 @@ private:
     static std::optional<QByteArray> wishedPaper(const SetupWishes &wishes);
     std::optional<PpdPaper> defaultPaper() const;
     void takePaper(const SetupWishes &wishes);
+    /// For a PPD that has no usable paper, and one of an unusable size as its default.
+    void refuseUnusableDefault();
     void keepRefused(const SetupWishes &wishes);
     void loadPanels(const PanelSource &source);
     void startNoting();

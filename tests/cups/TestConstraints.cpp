@@ -258,7 +258,8 @@ TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
     const PpdFile ppd = openMarked(PpdBuilder()
                                        .options({"KvHalfCut", "KvCutLabel"})
                                        .option({"Many", "Many", {{"A", ""}, {"B", ""}}, "A", "PickMany"})
-                                       .paper("small", 68.0, 170.0));
+                                       .paper("small", 68.0, 170.0)
+                                       .paper("unusable", 0.0, 170.0));
     struct Row {
         const char *name;
         const char *value;
@@ -277,6 +278,7 @@ TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
         {"PageSize", "Small", ChoiceFailure::UnknownPaper},
         {"PageSize", "A4", ChoiceFailure::UnknownPaper},
         {"PageSize", "Custom.30x40mm", ChoiceFailure::UnknownPaper},
+        {"PageSize", "unusable", ChoiceFailure::UnusablePaper},
         {"job-hold-until", "night", {}},
         {"media", "anything", {}},
     };

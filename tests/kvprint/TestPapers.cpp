@@ -141,6 +141,52 @@ TEST_F(KvprintPapers, OfFreeSizeArriveAsTheyWereNamed)
     }
 }
 
+TEST_F(KvprintPapers, OfUnusableSizeAreRefusedAndTheOthersArePrintedOn)
+{
+    const QByteArray plain = PpdBuilder().allOptions().paper("W24H60", 68, 170).paper("Bad", 34, 170).ppd();
+    const QByteArray line = plain.mid(plain.indexOf("*PaperDimension Bad"));
+    const QByteArray bad = line.left(line.indexOf('\n'));
+    ASSERT_TRUE(bad.startsWith("*PaperDimension Bad"));
+    const std::pair<const char *, const char *> rows[] = {{"0 170", "0 × 170"},
+                                                          {"-34 170", "-34 × 170"},
+                                                          {"nan 170", "nan × 170"},
+                                                          {"1e30 1e30", "1e+30 × 1e+30"}};
+    int number = 0;
+    for (const auto &[size, told] : rows) {
+        const QString queue = QStringLiteral("tape%1").arg(++number);
+        cupsd.addQueue(queue,
+                       QByteArray(plain).replace(bad, QByteArray("*PaperDimension Bad: \"") + size + '"'));
+        for (const QStringList &way : waysToName("Bad"))
+            expectRefusal(QStringList{QStringLiteral("-d"), queue} + way + QStringList{picture()},
+                          {QStringLiteral("\"Bad\""), QString::fromUtf8(told), QStringLiteral("100 m")});
+        const RecordedDocument job =
+            printed({QStringLiteral("-d"), queue, QStringLiteral("--paper"), QStringLiteral("W24H60")});
+        EXPECT_EQ(job.option("PageSize"), "W24H60");
+    }
+}
+
+TEST_F(KvprintPapers, OfUnusableSizeAreNotPrintedOnByDefault)
+{
+    const QByteArray ppd = PpdBuilder().allOptions().paper("Good", 68, 170).paper("Bad", 34, 170).ppd();
+    const QByteArray line = ppd.mid(ppd.indexOf("*PaperDimension Bad"));
+    QByteArray text = QByteArray(ppd).replace(line.left(line.indexOf('\n')), "*PaperDimension Bad: \"0 0\"");
+    const QByteArray usual = text.mid(text.indexOf("*DefaultPageSize: "));
+    text.replace(usual.left(usual.indexOf('\n')), "*DefaultPageSize: Bad");
+    cupsd.addQueue(QStringLiteral("tape"), text);
+    const QByteArray chosen = printed({QStringLiteral("-d"), QStringLiteral("tape")}).option("PageSize");
+    EXPECT_FALSE(chosen.isEmpty());
+    EXPECT_NE(chosen, "Bad");
+    // Where there is no other paper, nothing is printed.
+    QByteArray none;
+    for (const QByteArray &each : text.split('\n')) {
+        const bool isOther = (each.startsWith("*PaperDimension ") && !each.startsWith("*PaperDimension Bad"));
+        none += isOther ? each.left(each.indexOf(':')) + ": \"0 0\"\n" : each + '\n';
+    }
+    cupsd.addQueue(QStringLiteral("nothing"), none);
+    expectRefusal({QStringLiteral("-d"), QStringLiteral("nothing"), picture()},
+                  {QStringLiteral("\"Bad\""), QStringLiteral("0 × 0"), QStringLiteral("100 m")});
+}
+
 TEST_F(KvprintPapers, EverySampleArrives)
 {
     addSampleQueue(QStringLiteral("tape"), QStringLiteral("kvelland-dz500"));

@@ -831,6 +831,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>Die Option „%1“ des Druckers „%2“ hat keine Auswahl „%3“; sie hat: %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>Der Drucker „%1“ kann nicht auf das Papier „%2“ drucken: Es ist %3 × %4 Punkt groß; Breite und Länge müssen größer als 0 sein, eine von beiden höchstens %5 m, die andere höchstens %6 m.</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

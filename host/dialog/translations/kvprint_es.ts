@@ -830,6 +830,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>La opción «%1» de la impresora «%2» no tiene el valor «%3»; tiene: %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>La impresora «%1» no puede imprimir en el papel «%2»: su tamaño es de %3 × %4 puntos; el ancho y el largo deben ser mayores que 0, uno de ellos de %5 m como máximo y el otro de %6 m como máximo.</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

@@ -831,6 +831,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>L’option « %1 » de l’imprimante « %2 » n’a pas de choix « %3 » ; elle a : %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>L’imprimante « %1 » ne peut pas imprimer sur le papier « %2 » : sa taille est de %3 × %4 points ; la largeur et la longueur doivent être supérieures à 0 ; l’une ne doit pas dépasser %5 m et l’autre %6 m.</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

@@ -831,6 +831,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>L&apos;opzione &quot;%1&quot; della stampante &quot;%2&quot; non ha la scelta &quot;%3&quot;; ha: %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>La stampante &quot;%1&quot; non può stampare sulla carta &quot;%2&quot;: le dimensioni sono %3 × %4 punti; larghezza e lunghezza devono essere maggiori di 0; una non deve superare %5 m e l'altra %6 m.</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

@@ -829,6 +829,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>プリンター「%2」のオプション「%1」に選択肢「%3」はありません。使える選択肢: %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>プリンタ「%1」は用紙「%2」に印刷できません。サイズが %3 × %4 ポイントです。幅と長さは 0 より大きく、一方は %5 m 以下、もう一方は %6 m 以下でなければなりません。</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

@@ -831,6 +831,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>De optie &quot;%1&quot; van de printer &quot;%2&quot; heeft geen keuze &quot;%3&quot;; wel: %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>De printer &quot;%1&quot; kan niet op het papier &quot;%2&quot; afdrukken: het formaat is %3 × %4 punten; breedte en lengte moeten groter zijn dan 0, de ene hoogstens %5 m en de andere hoogstens %6 m.</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

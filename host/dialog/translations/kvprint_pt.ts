@@ -830,6 +830,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>A opção &quot;%1&quot; da impressora &quot;%2&quot; não tem a escolha &quot;%3&quot;; tem: %4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>A impressora &quot;%1&quot; não pode imprimir no papel &quot;%2&quot;: o tamanho é de %3 × %4 pontos; a largura e o comprimento devem ser maiores que 0, um deles de no máximo %5 m e o outro de no máximo %6 m.</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>

@@ -829,6 +829,10 @@
         <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
         <translation>打印机“%2”的选项“%1”没有选择项“%3”；可用：%4</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>打印机“%1”无法在纸张“%2”上打印：其尺寸为 %3 × %4 点；宽度和长度必须大于 0，其中一边不超过 %5 米，另一边不超过 %6 米。</translation>
+    </message>
 </context>
 <context>
     <name>host::Constraints</name>
