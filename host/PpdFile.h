@@ -24,7 +24,7 @@ enum class PpdFailure {
     Missing,    ///< there is no such file
     NotAFile,   ///< a folder, a pipe or a device
     Unreadable, ///< no permission, or the medium fails
-    TooLarge,   ///< larger than any printer's description
+    TooLarge,   ///< more bytes or statements than any printer's description
     Truncated,  ///< ends in the middle of a value, or cannot be unpacked to its end
     NotAPpd,    ///< libcups does not understand it
 };

@@ -41,6 +41,16 @@ QString tooLarge(qint64 limit)
         .arg(limit / (qint64{1024} * 1024));
 }
 
+QString tooMany(const PpdCounts::Excess &excess)
+{
+    const QString count = QString::number(excess.count);
+    const QString max = QString::number(excess.max);
+    if (excess.keyword.isEmpty())
+        return PpdSourceText::tr("it has %1 statements; the maximum is %2").arg(count, max);
+    return PpdSourceText::tr("it has %1 \"%2\" statements; the maximum is %3")
+        .arg(count, QString::fromUtf8(excess.keyword), max);
+}
+
 PpdError damaged(const QString &path)
 {
     return failure(PpdFailure::Truncated, path,
@@ -101,6 +111,8 @@ std::optional<PpdError> PpdSource::check(qint64 largestText, int descriptor)
     const std::optional<quint32> announced = gzipLength(descriptor, status.st_size);
     if (announced && *announced != static_cast<quint32>(length.value()))
         return damaged(m_path);
+    if (const std::optional<PpdCounts::Excess> excess = m_text.counts().excess())
+        return failure(PpdFailure::TooLarge, m_path, tooMany(*excess));
     if (cupsFileRewind(m_file.get()) != 0)
         return systemFailure(m_path, errno);
     return std::nullopt;

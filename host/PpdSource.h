@@ -13,7 +13,7 @@ namespace host {
 class PpdSource {
 public:
     /// Opens the file and checks that it is one, that its text (unpacked) is no larger than largestText
-    /// bytes, and that it does not end too early.
+    /// bytes and has no more statements than PpdCounts allows, and that it does not end too early.
     static Result<PpdSource, PpdError> open(const QString &path, qint64 largestText);
 
     /// Has libcups read it.

@@ -56,7 +56,10 @@ void PpdText::addToValue(char character)
 
 void PpdText::endLine()
 {
-    if (m_colon) {
+    if (m_head.starts_with('*') && !m_head.starts_with("*%"))
+        m_counts.addStatement(m_head);
+    // More than the maximum is only counted, not kept.
+    if (m_colon && !m_counts.isFull()) {
         m_translations.addStatement(m_head);
         m_paperSizes.addStatement(m_head, m_value);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "PpdCounts.h"
 #include "PpdPaperSizes.h"
 #include "PpdTranslations.h"
 
@@ -14,8 +15,8 @@ namespace host {
 /// It tells whether the text could end where it does: libcups takes a file that ends inside a value for a
 /// whole one, so a half-downloaded PPD would open with options missing. It collects the translations: libcups
 /// keeps those of one language only, the one of the process's locale, which need not be the one that the
-/// dialog is shown in. And it collects the sizes of papers by their exact names, which libcups does not keep
-/// apart.
+/// dialog is shown in. It collects the sizes of papers by their exact names, which libcups does not keep
+/// apart. And it counts the statements that libcups takes long for.
 class PpdText {
 public:
     /// The next piece; pieces may break anywhere.
@@ -27,6 +28,8 @@ public:
     int line() const { return m_line; }
     /// Inside a quoted value.
     bool isInsideValue() const { return m_quoted; }
+    /// The statements met so far.
+    const PpdCounts &counts() const { return m_counts; }
     /// The translations met so far.
     const PpdTranslations &translations() const { return m_translations; }
     /// The sizes of papers met so far.
@@ -45,6 +48,7 @@ private:
     std::string m_head;
     /// What follows the colon, without quotes, as far as any value that is looked into.
     std::string m_value;
+    PpdCounts m_counts;
     PpdTranslations m_translations;
     PpdPaperSizes m_paperSizes;
 };

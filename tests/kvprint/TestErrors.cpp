@@ -207,6 +207,22 @@ TEST_F(KvprintErrors, RefusePpdsThatSayNothing)
     }
 }
 
+TEST_F(KvprintErrors, NameWhatAPpdHasTooManyOf)
+{
+    QByteArray ppd = samplePpd(QStringLiteral("kvelland-lx900"));
+    const qsizetype own = ppd.count("*OpenUI ");
+    constexpr int more = 100'000;
+    for (int i = 0; i < more; ++i) {
+        const QByteArray name = "Opt" + QByteArray::number(i);
+        ppd += "*OpenUI *" + name + "/Option: PickOne\n*Default" + name + ": A\n*" + name + " A: \"\"\n*" +
+               name + " B: \"\"\n*CloseUI: *" + name + '\n';
+    }
+    const QString path = file(QStringLiteral("large.ppd"), ppd);
+    expectRefusal(
+        {QStringLiteral("--ppd"), path, picture()},
+        {path, QStringLiteral("it has %1 \"*OpenUI\" statements; the maximum is 5000").arg(own + more)});
+}
+
 TEST_F(KvprintErrors, NameChangesOfAJobThatItsPrinterDoesNotHave)
 {
     cupsd.addRawQueue(word("raw"));

@@ -1404,6 +1404,14 @@
         <translation>die Datei ist leer</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>die Datei hat %1 Anweisungen; höchstens %2 sind möglich</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>die Datei hat %1 Anweisungen „%2“; höchstens %3 sind möglich</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>sie endet mitten in einem Wert; die Datei ist unvollständig</translation>
     </message>

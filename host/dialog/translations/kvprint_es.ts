@@ -1403,6 +1403,14 @@
         <translation>está vacío</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>tiene %1 instrucciones; el máximo es %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>tiene %1 instrucciones «%2»; el máximo es %3</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>termina en medio de un valor; el archivo está incompleto</translation>
     </message>

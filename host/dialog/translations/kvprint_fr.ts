@@ -1404,6 +1404,14 @@
         <translation>il est vide</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>il contient %1 instructions ; le maximum est %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>il contient %1 instructions « %2 » ; le maximum est %3</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>il se termine au milieu d’une valeur ; le fichier est incomplet</translation>
     </message>

@@ -1404,6 +1404,14 @@
         <translation>è vuoto</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>contiene %1 istruzioni; il massimo è %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>contiene %1 istruzioni &quot;%2&quot;; il massimo è %3</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>finisce a metà di un valore; il file è incompleto</translation>
     </message>

@@ -1401,6 +1401,14 @@
         <translation>空です</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>命令が %1 個あります。最大は %2 個です</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>「%2」の命令が %1 個あります。最大は %3 個です</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>値の途中で終わっています。ファイルが不完全です</translation>
     </message>

@@ -1404,6 +1404,14 @@
         <translation>het is leeg</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>het bevat %1 instructies; het maximum is %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>het bevat %1 instructies &quot;%2&quot;; het maximum is %3</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>het eindigt midden in een waarde; het bestand is onvolledig</translation>
     </message>

@@ -1403,6 +1403,14 @@
         <translation>está vazio</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>ele contém %1 instruções; o máximo é %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>ele contém %1 instruções &quot;%2&quot;; o máximo é %3</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>termina a meio de um valor; o ficheiro está incompleto</translation>
     </message>

@@ -1401,6 +1401,14 @@
         <translation>为空</translation>
     </message>
     <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>它有 %1 条语句；最多允许 %2 条</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>它有 %1 条“%2”语句；最多允许 %3 条</translation>
+    </message>
+    <message>
         <source>it ends in the middle of a value; the file is incomplete</source>
         <translation>在值的中间结束；文件不完整</translation>
     </message>
