@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "BrokenPipeSilence.h"
+
+#include <ctime>
+
+namespace platform {
+
+BrokenPipeSilence::BrokenPipeSilence()
+{
+    sigemptyset(&m_signal);
+    sigaddset(&m_signal, SIGPIPE);
+    sigset_t pending;
+    sigpending(&pending);
+    m_wasPending = sigismember(&pending, SIGPIPE) == 1;
+    pthread_sigmask(SIG_BLOCK, &m_signal, &m_previousMask);
+}
+
+BrokenPipeSilence::~BrokenPipeSilence()
+{
+    // One that was pending before is somebody else's and stays.
+    constexpr timespec atOnce{0, 0};
+    if (m_raised && !m_wasPending)
+        sigtimedwait(&m_signal, nullptr, &atOnce);
+    pthread_sigmask(SIG_SETMASK, &m_previousMask, nullptr);
+}
+
+} // namespace platform
