@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "TemporaryFile.h"
+
+#include <QDirIterator>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+constexpr int randomDigits = 16;
+
+/// A name that is hidden and that no user gives to a file.
+QString nameWith(const QString &random)
+{
+    return QStringLiteral(".kvprint-%1.tmp").arg(random);
+}
+
+QString randomName()
+{
+    return nameWith(QStringLiteral("%1").arg(QRandomGenerator::system()->generate64(), randomDigits, 16,
+                                             QLatin1Char('0')));
+}
+
+/// Locks the file for as long as the descriptor is open. False when another program is just removing it.
+bool claim(int descriptor)
+{
+    // A file system without locks has none for removeLeftOvers() either, which then removes nothing.
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0)
+        return errno != EWOULDBLOCK;
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 && status.st_nlink > 0;
+}
+
+bool isSame(const struct stat &one, const struct stat &other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+bool isOwnFile(const struct stat &status)
+{
+    return S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
+}
+
+/// Removes the file unless the program that made it still runs.
+void removeAbandoned(const QByteArray &name)
+{
+    struct stat found = {};
+    // Asked before opening, since opening alone makes some devices do something.
+    if (::lstat(name.constData(), &found) != 0 || !isOwnFile(found))
+        return;
+    constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const int descriptor = ::open(name.constData(), flags); // NOLINT
+    if (descriptor < 0)
+        return;
+    struct stat opened = {};
+    // Only who has the lock looks again: until then the file may get its final name, and another one its
+    // name.
+    if (::fstat(descriptor, &opened) == 0 && isOwnFile(opened) &&
+        ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::lstat(name.constData(), &found) == 0 &&
+        isSame(opened, found))
+        ::unlink(name.constData());
+    ::close(descriptor);
+}
+
+} // namespace
+
+TemporaryFile::TemporaryFile(QString folder)
+    : m_folder(std::move(folder))
+{
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (m_isTemporary)
+        ::unlink(QFile::encodeName(m_path).constData());
+}
+
+bool TemporaryFile::fail(int error)
+{
+    setErrorString(qt_error_string(error));
+    return false;
+}
+
+bool TemporaryFile::create()
+{
+    for (;;) {
+        const QString path = m_folder + u'/' + randomName();
+        const QByteArray name = QFile::encodeName(path);
+        constexpr int flags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        const int descriptor = ::open(name.constData(), flags, S_IRUSR | S_IWUSR); // NOLINT
+        if (descriptor < 0 && errno == EEXIST)
+            continue;
+        if (descriptor < 0)
+            return fail(errno);
+        if (!claim(descriptor)) {
+            ::close(descriptor);
+            continue;
+        }
+        ::fchmod(descriptor, S_IRUSR | S_IWUSR); // the umask may have taken them
+        m_path = path;
+        m_isTemporary = true;
+        return open(descriptor, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle);
+    }
+}
+
+bool TemporaryFile::moveTo(const QString &path)
+{
+    if (!flush())
+        return false;
+    // Without this, a computer that loses power may afterwards have an empty file under the final name. Some
+    // file systems cannot be asked for it.
+    if (::fsync(handle()) != 0 && errno != EINVAL && errno != ENOTSUP)
+        return fail(errno);
+    if (::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(path).constData()) != 0)
+        return fail(errno);
+    m_path = path;
+    m_isTemporary = false;
+    return true;
+}
+
+void TemporaryFile::removeLeftOvers(const QString &folder)
+{
+    const QStringList names{nameWith(QString(randomDigits, u'?'))};
+    QDirIterator files(folder, names, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    while (files.hasNext())
+        removeAbandoned(QFile::encodeName(files.next()));
+}
+
+} // namespace platform
