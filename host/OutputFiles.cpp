@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OutputFiles.h"
 
+#include <platform/PrivateFolder.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-
-#include <filesystem>
 
 namespace host {
 
@@ -45,11 +45,9 @@ void OutputFiles::makeFolder()
     while (!QFileInfo::exists(QFileInfo(missing).path()))
         missing = QFileInfo(missing).path();
     m_madeFolder = missing;
-    std::error_code reason;
-    std::filesystem::create_directories(QFile::encodeName(m_folder).toStdString(), reason);
-    if (reason)
+    if (const std::optional<QString> reason = platform::makePrivateFolders(m_folder))
         fail(OutputFailure::NoFolder, m_folder,
-             OutputFilesText::tr("the folder cannot be made: %1").arg(qt_error_string(reason.value())));
+             OutputFilesText::tr("the folder cannot be made: %1").arg(*reason));
 }
 
 void OutputFiles::fail(OutputFailure kind, const QString &path, const QString &reason)
@@ -62,25 +60,22 @@ void OutputFiles::write(const QString &name, const std::function<bool(QIODevice 
 {
     if (m_error)
         return;
-    auto file = std::make_unique<QSaveFile>(m_folder + u'/' + name);
-    if (!file->open(QIODevice::WriteOnly) || !writer(file.get()) || file->error() != QFileDevice::NoError ||
-        !file->flush())
-        fail(OutputFailure::NotWritten, file->fileName(), file->errorString());
+    auto file = std::make_unique<platform::OutputFile>(m_folder + u'/' + name);
+    if (!file->write(writer))
+        fail(OutputFailure::NotWritten, file->path(), file->errorString());
     m_files.push_back(std::move(file));
 }
 
 std::optional<OutputError> OutputFiles::commit()
 {
     QStringList placed;
-    for (const std::unique_ptr<QSaveFile> &file : m_files) {
+    for (const std::unique_ptr<platform::OutputFile> &file : m_files) {
         if (m_error)
             break;
-        if (QFileInfo(file->fileName()).isDir())
-            fail(OutputFailure::NotWritten, file->fileName(), OutputFilesText::tr("it is a folder"));
-        else if (!file->commit())
-            fail(OutputFailure::NotWritten, file->fileName(), file->errorString());
-        else
-            placed.append(file->fileName());
+        if (!file->commit())
+            fail(OutputFailure::NotWritten, file->path(), file->errorString());
+        else if (file->hasPlacedFile())
+            placed.append(file->path());
     }
     m_done = !m_error;
     if (m_error) {

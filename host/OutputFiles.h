@@ -3,7 +3,7 @@
 
 #include "VirtualPrinter.h"
 
-#include <QSaveFile>
+#include <platform/OutputFile.h>
 
 #include <functional>
 #include <memory>
@@ -11,10 +11,10 @@
 namespace host {
 
 /// Several files that appear in a folder together or not at all: each is written beside its place first,
-/// and only when all are whole do they take their places.
+/// and only when all are whole do they take their places. What platform::OutputFile refuses is refused.
 class OutputFiles {
 public:
-    /// Makes the folder, with those above it, when it is not there.
+    /// Makes the folder, with those above it, for this user alone when it is not there.
     explicit OutputFiles(QString folder);
     /// Takes away what was made, unless commit() succeeded.
     ~OutputFiles();
@@ -34,7 +34,7 @@ private:
     QString m_folder;
     /// The topmost folder that was made.
     QString m_madeFolder;
-    std::vector<std::unique_ptr<QSaveFile>> m_files;
+    std::vector<std::unique_ptr<platform::OutputFile>> m_files;
     std::optional<OutputError> m_error;
     bool m_done = false;
 };

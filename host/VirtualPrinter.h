@@ -25,9 +25,9 @@ public:
     static const QString dialogName;
 
     /// Prints the strip and the job's options, for programs, into the folder, which is made when it is not
-    /// there. A picture of the dialog is put beside the strip unless it is null. Either all files are there
-    /// afterwards or, as far as the file system permits, none of them is, nor a folder that was made for
-    /// them.
+    /// there. Files and folder are for this user alone. A picture of the dialog is put beside the strip
+    /// unless it is null. Either all files are there afterwards or, as far as the file system permits, none
+    /// of them is, nor a folder that was made for them.
     static std::optional<OutputError> print(const PrintedStrip &strip, const QJsonObject &job,
                                             const QImage &dialog, const QString &folder);
 

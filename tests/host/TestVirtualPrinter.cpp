@@ -8,6 +8,7 @@
 #include <host/StripPdf.h>
 #include <host/Units.h>
 #include <host/VirtualPrinter.h>
+#include <tests/support/SpecialFiles.h>
 
 #include <QBuffer>
 #include <QDir>
@@ -220,6 +221,35 @@ TEST_F(VirtualPrinterTest, LeavesNothingWhenOneFileCannotBePlaced)
               QStringList{QStringLiteral("job.json")});
 }
 
+TEST_F(VirtualPrinterTest, WhatIsPrintedIsForThisUserOnly)
+{
+    const test_support::UmaskScope scope(0);
+    ASSERT_FALSE(print(plan(), sandbox.path(QStringLiteral("made/out")), picture()));
+    for (const char *const folder : {"made", "made/out"})
+        EXPECT_EQ(test_support::permissionsOf(sandbox.path(QLatin1String(folder))), 0700U) << folder;
+    for (const char *const name : {"strip.pdf", "job.json", "dialog.png"})
+        EXPECT_EQ(
+            test_support::permissionsOf(sandbox.path(QStringLiteral("made/out/") + QLatin1String(name))),
+            0600U)
+            << name;
+}
+
+TEST_F(VirtualPrinterTest, FollowsNoLinks)
+{
+    const QString victim = sandbox.write(QStringLiteral("victim"), "x");
+    const QString folder = sandbox.path(QStringLiteral("out"));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_TRUE(QFile::link(victim, folder + QStringLiteral("/job.json")));
+    const auto error = print(plan(), folder);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->kind, OutputFailure::NotWritten);
+    EXPECT_TRUE(error->message.contains(QStringLiteral("job.json\": it is a symbolic link")))
+        << error->message.toStdString();
+    EXPECT_EQ(read(QStringLiteral("victim")), "x");
+    EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("job.json")});
+}
+
 TEST_F(VirtualPrinterTest, SaysWhenTheDiskIsFull)
 {
     // The device that is always full.
@@ -258,6 +288,23 @@ TEST(OutputFiles, AppearOnlyTogether)
     EXPECT_FALSE(files.commit());
     EXPECT_TRUE(QFile::exists(sandbox.path(QStringLiteral("out/one"))));
     EXPECT_TRUE(QFile::exists(sandbox.path(QStringLiteral("out/two"))));
+}
+
+TEST(OutputFiles, TakeBackNothingThatTheyHaveNotMade)
+{
+    const Sandbox sandbox;
+    const QString fifo = sandbox.path(QStringLiteral("fifo"));
+    test_support::makeFifo(fifo);
+    const int reader = ::open(QFile::encodeName(fifo).constData(), O_RDONLY | O_NONBLOCK); // NOLINT
+    ASSERT_GE(reader, 0);
+    ASSERT_TRUE(QDir().mkdir(sandbox.path(QStringLiteral("later"))));
+    host::OutputFiles files(sandbox.path(QStringLiteral(".")));
+    files.write(QStringLiteral("fifo"), [](QIODevice *device) { return device->write("1") == 1; });
+    files.write(QStringLiteral("later/file"), [](QIODevice *device) { return device->write("2") == 1; });
+    ASSERT_TRUE(QDir().mkdir(sandbox.path(QStringLiteral("later/file"))));
+    EXPECT_TRUE(files.commit());
+    EXPECT_TRUE(S_ISFIFO(test_support::statusOf(fifo).st_mode));
+    ::close(reader);
 }
 
 TEST(VirtualPrinter, EveryJobGetsAFolderOfItsOwn)

@@ -1659,9 +1659,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>es ist eine symbolische Verknüpfung</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>es ist ein Socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>es ist ein Blockgerät</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>niemand liest davon</translation>
     </message>
 </context>
 </TS>

@@ -1658,9 +1658,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>No se puede escribir «%1»: %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>es un enlace simbólico</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>es un socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>es un dispositivo de bloques</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>nadie lee de ahí</translation>
     </message>
 </context>
 </TS>

@@ -1659,9 +1659,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>Impossible d’écrire « %1 » : %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>c’est un lien symbolique</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>c’est un socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>c’est un périphérique de type bloc</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>personne n’y lit</translation>
     </message>
 </context>
 </TS>

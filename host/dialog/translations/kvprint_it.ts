@@ -1659,9 +1659,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>Impossibile scrivere &quot;%1&quot;: %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>è una cartella</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>è un collegamento simbolico</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>è un socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>è un dispositivo a blocchi</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>nessuno sta leggendo da lì</translation>
     </message>
 </context>
 </TS>

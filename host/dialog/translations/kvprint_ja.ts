@@ -1656,9 +1656,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>「%1」に書き込めません: %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>シンボリックリンクです</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>ソケットです</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>ブロックデバイスです</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>読み取っているプログラムがありません</translation>
     </message>
 </context>
 </TS>

@@ -1659,9 +1659,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>Kan &quot;%1&quot; niet schrijven: %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>het is een map</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>het is een symbolische koppeling</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>het is een socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>het is een blokapparaat</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>niemand leest eruit</translation>
     </message>
 </context>
 </TS>

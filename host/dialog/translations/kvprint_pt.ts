@@ -1658,9 +1658,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>Não é possível escrever &quot;%1&quot;: %2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>é uma pasta</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>é uma ligação simbólica</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>é um socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>é um dispositivo de bloco</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>ninguém está a ler daí</translation>
     </message>
 </context>
 </TS>

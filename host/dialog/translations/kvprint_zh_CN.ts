@@ -1656,9 +1656,28 @@
         <source>Cannot write &quot;%1&quot;: %2</source>
         <translation>无法写入“%1”：%2</translation>
     </message>
+</context>
+<context>
+    <name>platform::OutputFile</name>
     <message>
         <source>it is a folder</source>
         <translation>它是文件夹</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>它是符号链接</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>它是套接字</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>它是块设备</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>没有程序在读取</translation>
     </message>
 </context>
 </TS>

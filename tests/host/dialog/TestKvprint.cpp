@@ -122,6 +122,8 @@ TEST_F(KvprintTest, BadInputIsNamedAndNothingIsWritten)
         int status;
         QStringList named;
     };
+    const QString link = sandbox.path(QStringLiteral("link.png"));
+    ASSERT_TRUE(QFile::link(text, link));
     const QString ppdOption = QStringLiteral("--ppd");
     const QString outputOption = QStringLiteral("--output");
     const Row rows[] = {
@@ -141,6 +143,9 @@ TEST_F(KvprintTest, BadInputIsNamedAndNothingIsWritten)
         {{ppdOption, ppd, document, QStringLiteral("--screenshot"), blocked + QStringLiteral("/x.png")},
          1,
          {blocked}},
+        {{ppdOption, ppd, document, QStringLiteral("--screenshot"), link},
+         1,
+         {link, QStringLiteral("symbolic link")}},
         {{document}, 2, {ppdOption}},
     };
     for (const Row &row : rows) {

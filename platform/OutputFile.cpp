@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OutputFile.h"
+
+#include "BrokenPipeSilence.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+struct OutputFileText {
+    Q_DECLARE_TR_FUNCTIONS(platform::OutputFile)
+};
+
+/// Why nothing is written to what is there; nothing for what can be replaced or written to.
+std::optional<QString> refusalOf(const struct stat &status)
+{
+    if (S_ISDIR(status.st_mode))
+        return OutputFileText::tr("it is a folder");
+    if (S_ISLNK(status.st_mode))
+        return OutputFileText::tr("it is a symbolic link");
+    if (S_ISSOCK(status.st_mode))
+        return OutputFileText::tr("it is a socket");
+    if (S_ISBLK(status.st_mode))
+        return OutputFileText::tr("it is a block device");
+    return std::nullopt;
+}
+
+} // namespace
+
+OutputFile::OutputFile(QString path)
+    : m_path(std::move(path))
+{
+}
+
+bool OutputFile::refuse(const QString &reason)
+{
+    m_error = reason;
+    m_way = Way::Refuse;
+    m_file.reset();
+    return false;
+}
+
+OutputFile::Way OutputFile::findWay()
+{
+    // The system would take the name to end at U+0000.
+    if (m_path.isEmpty() || m_path.contains(QChar::Null)) {
+        refuse(qt_error_string(m_path.isEmpty() ? ENOENT : EINVAL));
+        return Way::Refuse;
+    }
+    const QByteArray name = QFile::encodeName(m_path);
+    struct stat status = {};
+    if (::lstat(name.constData(), &status) != 0) {
+        // Where there is no folder, making the file fails and says so.
+        if (errno == ENOENT && !QFileInfo(m_path).fileName().isEmpty())
+            return Way::Replace;
+        refuse(qt_error_string(errno));
+        return Way::Refuse;
+    }
+    struct stat target = {};
+    if (S_ISLNK(status.st_mode) && ::stat(name.constData(), &target) == 0 && S_ISCHR(target.st_mode))
+        return Way::FollowLink;
+    if (const std::optional<QString> reason = refusalOf(status)) {
+        refuse(*reason);
+        return Way::Refuse;
+    }
+    if (!S_ISREG(status.st_mode))
+        return Way::WriteThrough;
+    // A file that is protected from being written to is not to be replaced either.
+    if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) == 0)
+        return Way::Replace;
+    refuse(qt_error_string(errno));
+    return Way::Refuse;
+}
+
+bool OutputFile::write(const std::function<bool(QIODevice *)> &writer)
+{
+    m_way = findWay();
+    if (m_way == Way::Refuse)
+        return false;
+    if (m_way != Way::Replace) {
+        m_buffer.open(QIODevice::WriteOnly);
+        return writer(&m_buffer) || refuse(m_buffer.errorString());
+    }
+    const QString folder = QFileInfo(m_path).path();
+    TemporaryFile::removeLeftOvers(folder);
+    m_file = std::make_unique<TemporaryFile>(folder);
+    if (m_file->create() && writer(m_file.get()) && m_file->error() == QFileDevice::NoError &&
+        m_file->flush())
+        return true;
+    return refuse(m_file->errorString());
+}
+
+bool OutputFile::commit(const QDateTime &modified)
+{
+    if (m_way == Way::Refuse)
+        return false;
+    if (m_way != Way::Replace)
+        return writeToDevice();
+    // Something else may have come there since write().
+    const Way way = findWay();
+    if (way == Way::Refuse)
+        return false;
+    if (way != Way::Replace)
+        return refuse(qt_error_string(EEXIST));
+    if (modified.isValid())
+        m_file->setFileTime(modified, QFileDevice::FileModificationTime);
+    if (!m_file->moveTo(m_path))
+        return refuse(m_file->errorString());
+    m_file.reset();
+    m_hasPlacedFile = true;
+    return true;
+}
+
+bool OutputFile::writeToDevice()
+{
+    // Without O_NONBLOCK, opening a FIFO would wait for a reader, perhaps for ever.
+    const int flags =
+        O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (m_way == Way::FollowLink ? 0 : O_NOFOLLOW);
+    const int descriptor = ::open(QFile::encodeName(m_path).constData(), flags); // NOLINT
+    if (descriptor < 0)
+        return refuse(errno == ENXIO ? OutputFileText::tr("nobody reads from it") : qt_error_string(errno));
+    struct stat status = {};
+    const bool isDevice =
+        ::fstat(descriptor, &status) == 0 &&
+        (S_ISCHR(status.st_mode) || (S_ISFIFO(status.st_mode) && m_way == Way::WriteThrough));
+    // Something else may have come there since write(). Opening has not changed it.
+    const bool isWritten = isDevice ? writeAll(descriptor) : refuse(qt_error_string(EEXIST));
+    const bool isClosed = ::close(descriptor) == 0;
+    return isWritten && (isClosed || refuse(qt_error_string(errno)));
+}
+
+bool OutputFile::writeAll(int descriptor)
+{
+    // The reader may be slower than this program.
+    ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) & ~O_NONBLOCK); // NOLINT
+    BrokenPipeSilence silence;
+    QByteArrayView left(m_buffer.data());
+    while (!left.isEmpty()) {
+        const ssize_t written = ::write(descriptor, left.data(), static_cast<std::size_t>(left.size()));
+        if (written >= 0) {
+            left = left.sliced(written);
+            continue;
+        }
+        if (errno == EINTR)
+            continue;
+        const int error = errno;
+        if (error == EPIPE)
+            silence.raised();
+        return refuse(qt_error_string(error));
+    }
+    return true;
+}
+
+} // namespace platform
