@@ -2,12 +2,12 @@
 #include "PanelInspection.h"
 
 #include <options/OptionPDE.h>
+#include <platform/OutputFile.h>
 #include <ppd/TapeInfo.h>
 #include <textentry/FormatterTrial.h>
 
 #include <QImageWriter>
 #include <QPixmap>
-#include <QSaveFile>
 
 QJsonObject PanelInspection::panelState(PDEPanel *panel) const
 {
@@ -26,9 +26,9 @@ bool PanelInspection::savePreview(PDEPanel *panel, const QString &path, QString 
     QImage picture(preview->size(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     preview->render(&picture, QPoint(), QRegion(), QWidget::RenderFlags());
-    QSaveFile file(path);
-    QImageWriter writer(&file, "png");
-    if (!file.open(QIODevice::WriteOnly) || !writer.write(picture) || !file.commit()) {
+    platform::OutputFile file(path);
+    if (!file.write([&](QIODevice *device) { return QImageWriter(device, "png").write(picture); }) ||
+        !file.commit()) {
         *error = QStringLiteral("%1: %2").arg(path, file.errorString());
         return false;
     }

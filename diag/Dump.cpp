@@ -3,8 +3,7 @@
 
 #include <platform/FormatString.h>
 #include <platform/Log.h>
-
-#include <QSaveFile>
+#include <platform/OutputFile.h>
 
 #include <cstddef>
 
@@ -74,8 +73,8 @@ void _PDELog_PMPrintSettings_WriteToFile(PMPrintSettings settings, const std::op
     QByteArray data;
     if (PMPrintSettingsCreateDataRepresentation(settings, &data) != platform::noError)
         return;
-    QSaveFile file(stringWithFormat("/KvPDE_%@.plist", *name));
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size())
+    platform::OutputFile file(stringWithFormat("/KvPDE_%@.plist", *name));
+    if (file.write([&](QIODevice *device) { return device->write(data) == data.size(); }))
         file.commit();
 }
 // NOLINTEND(bugprone-reserved-identifier)

@@ -7,11 +7,11 @@
 #include <host/PanelSession.h>
 #include <host/PpdForPanels.h>
 #include <platform/NotificationCenter.h>
+#include <platform/OutputFile.h>
 #include <plugin/protocol/PDEPanelInspection.h>
 
 #include <QImageWriter>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QWidget>
 
 namespace {
@@ -120,9 +120,10 @@ QJsonObject PanelDriver::picture(const DriverRequest &request)
 QJsonObject PanelDriver::screenshot(const DriverRequest &request)
 {
     const QString path = request.text("path");
-    QSaveFile file(path);
-    QImageWriter writer(&file, "png");
-    if (!file.open(QIODevice::WriteOnly) || !writer.write(m_view->grab().toImage()) || !file.commit())
+    platform::OutputFile file(path);
+    const QImage picture = m_view->grab().toImage();
+    if (!file.write([&](QIODevice *device) { return QImageWriter(device, "png").write(picture); }) ||
+        !file.commit())
         throw RequestError(QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString()));
     return {};
 }

@@ -21,7 +21,8 @@ public:
     /// "flags". The panel must come from the same bundle and have its view loaded.
     virtual QJsonObject panelState(PDEPanel *panel) const = 0;
 
-    /// Draws the panel's preview picture into an image file. False, with the reason, when it cannot.
+    /// Draws the panel's preview picture into an image file, or to what platform::OutputFile writes to.
+    /// False, with the reason, when it cannot.
     virtual bool savePreview(PDEPanel *panel, const QString &path, QString *error) const = 0;
 
     /// The paper as the bundle understands it: "status", "length" in millimetres, "kind" and "name".

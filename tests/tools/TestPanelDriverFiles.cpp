@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which files a request may name.
+#include "DriverFixture.h"
+
+#include <tests/support/SpecialFiles.h>
+
+#include <QDir>
+#include <QImage>
+
+#include <cerrno>
+
+using test_support::makeFifo;
+using test_support::makeFullDevice;
+using test_support::permissionsOf;
+using test_support::statusOf;
+using test_support::UmaskScope;
+
+namespace {
+
+class PanelDriverFiles : public test_support::PanelDriverTest {
+protected:
+    void SetUp() override
+    {
+        PanelDriverTest::SetUp();
+        show();
+    }
+
+    QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
+    /// Writing the picture there is refused with the words, and what is there stays.
+    void expectRefused(const char *op, const QString &target, const char *words)
+    {
+        const struct stat before = statusOf(target);
+        const QString error = errorOf(m_driver.handle({{"op", op}, {"path", target}}));
+        EXPECT_TRUE(error.contains(target)) << op << error.toStdString();
+        EXPECT_TRUE(error.contains(QLatin1String(words))) << op << error.toStdString();
+        EXPECT_EQ(statusOf(target).st_ino, before.st_ino);
+        EXPECT_EQ(statusOf(target).st_mode, before.st_mode);
+    }
+};
+
+constexpr const char *operations[] = {"picture", "screenshot"};
+
+} // namespace
+
+TEST_F(PanelDriverFiles, PicturesAreForThisUserOnly)
+{
+    const UmaskScope scope(0);
+    for (const char *const op : operations) {
+        EXPECT_EQ(m_driver.handle({{"op", op}, {"path", path(op)}}).value("ok"), true);
+        EXPECT_EQ(permissionsOf(path(op)), 0600U) << op;
+        EXPECT_FALSE(QImage(path(op)).isNull()) << op;
+    }
+}
+
+TEST_F(PanelDriverFiles, NothingButAFileIsReplacedByAPicture)
+{
+    makeFifo(path("fifo"));
+    ASSERT_TRUE(QDir().mkdir(path("folder")));
+    ASSERT_TRUE(QFile::link(m_ppd, path("link")));
+    const qint64 size = QFileInfo(m_ppd).size();
+    for (const char *const op : operations) {
+        expectRefused(op, path("fifo"), "nobody reads from it");
+        expectRefused(op, path("folder"), "it is a folder");
+        expectRefused(op, path("link"), "it is a symbolic link");
+    }
+    EXPECT_EQ(QFileInfo(m_ppd).size(), size);
+}
+
+TEST_F(PanelDriverFiles, APictureDoesNotReplaceADevice)
+{
+    const std::optional<QString> device = makeFullDevice(path("full"));
+    if (!device)
+        GTEST_SKIP() << "devices cannot be made here";
+    for (const char *const op : operations)
+        expectRefused(op, *device, strerror(ENOSPC));
+}
