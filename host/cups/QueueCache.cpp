@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QueueCache.h"
 
+#include <platform/OutputFile.h>
+#include <platform/PrivateFolder.h>
+
 #include <QCborArray>
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <cups/http.h>
@@ -23,19 +24,31 @@ QString fileName(const QString &text)
     return QString::fromLatin1(text.toUtf8().toPercentEncoding({}, ".~")).replace(u'%', u'+');
 }
 
+/// The folder of all that the program keeps.
+QString topFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+           QStringLiteral("/kvprint");
+}
+
+/// Makes the folder, which lies in the top folder, and takes it and those above it away from other users, who
+/// could see its files' names: who prints where is nobody else's business.
+bool prepareFolder(const QString &folder)
+{
+    if (platform::makePrivateFolders(folder))
+        return false;
+    const QString top = topFolder();
+    for (QString each = folder; each.startsWith(top); each = QFileInfo(each).path())
+        platform::closeToOthers(each);
+    return true;
+}
+
 void write(const QString &path, const QByteArray &content, const QDateTime &modified)
 {
-    // Who prints where is nobody else's business.
-    constexpr QFileDevice::Permissions ownersOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-    if (!QDir().mkpath(QFileInfo(path).path()))
-        return;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
-        return;
-    file.setPermissions(ownersOnly);
-    if (modified.isValid())
-        file.setFileTime(modified, QFileDevice::FileModificationTime);
-    file.commit();
+    platform::OutputFile file(path);
+    if (prepareFolder(QFileInfo(path).path()) &&
+        file.write([&](QIODevice *device) { return device->write(content) == content.size(); }))
+        file.commit(modified);
 }
 
 const QString allName = QStringLiteral("/queues.cbor");
@@ -44,8 +57,7 @@ const QString lastName = QStringLiteral("/last.cbor");
 } // namespace
 
 QueueCache::QueueCache(const CupsServer &server)
-    : m_folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-               QStringLiteral("/kvprint/cups/") + fileName(server.displayName()))
+    : m_folder(topFolder() + QStringLiteral("/cups/") + fileName(server.displayName()))
 {
 }
 

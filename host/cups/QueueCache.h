@@ -8,7 +8,8 @@ namespace host {
 
 /// What was known of a server when it was asked last, so that a dialog can show it before the server answers:
 /// queues, their states and their PPDs. Kept in $XDG_CACHE_HOME/kvprint/cups/SERVER, one file each,
-/// always written whole. A file that is missing or damaged is one that was never kept.
+/// always written whole, in folders that only this user can open. A file that is missing or damaged is one
+/// that was never kept.
 ///
 /// Safe to use by several programs and threads at once: a reader sees the old file or the new one.
 class QueueCache {

@@ -5,6 +5,7 @@
 #include <host/cups/QueueCache.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
+#include <tests/support/SpecialFiles.h>
 #include <tests/support/Waiting.h>
 
 #include <QDir>
@@ -196,4 +197,21 @@ TEST_F(PpdLoaderTest, AQueueNameMayHoldWhatAFileNameMayNot)
     EXPECT_TRUE(load(name).unchanged);
     const QString kept = *host::QueueCache(server).ppdPath(name);
     EXPECT_TRUE(QFileInfo(kept).fileName().endsWith(QStringLiteral(".ppd")));
+}
+
+TEST_F(PpdLoaderTest, WhatIsKeptIsForThisUserOnly)
+{
+    const test_support::UmaskScope scope(0);
+    const QString folder = host::QueueCache(server).folder();
+    const QString program = QFileInfo(QFileInfo(folder).path()).path();
+    EXPECT_EQ(QFileInfo(program).fileName(), QStringLiteral("kvprint"));
+    // As earlier versions have made them.
+    ASSERT_TRUE(QDir().mkpath(folder));
+    for (const QString &open : {folder, program})
+        ASSERT_EQ(::chmod(QFile::encodeName(open).constData(), 0755), 0);
+    ASSERT_TRUE(load(tape).ppd);
+    const QString ppd = *host::QueueCache(server).ppdPath(tape);
+    EXPECT_EQ(test_support::permissionsOf(ppd), 0600U);
+    for (const QString &own : {QFileInfo(ppd).path(), folder, QFileInfo(folder).path(), program})
+        EXPECT_EQ(test_support::permissionsOf(own), 0700U) << own.toStdString();
 }
