@@ -31,7 +31,7 @@ Result<QByteArray, DocumentProblem> readWhole(QFile &file, qint64 most)
 }
 
 /// Turns an image or an SVG into a PDF.
-std::optional<DocumentProblem> convert(QFile &file, DocumentKind kind, QTemporaryFile &pdf)
+std::optional<DocumentProblem> convert(QFile &file, DocumentKind kind, platform::TemporaryFile &pdf)
 {
     const bool isSvg = kind == DocumentKind::Svg;
     const auto content =

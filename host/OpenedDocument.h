@@ -4,7 +4,7 @@
 #include "PdfPages.h"
 #include "RegularFile.h"
 
-#include <QTemporaryFile>
+#include <platform/TemporaryFile.h>
 
 #include <memory>
 
@@ -38,7 +38,7 @@ public:
 private:
     OpenedDocument() = default;
 
-    std::unique_ptr<QTemporaryFile> m_temporary;
+    std::unique_ptr<platform::TemporaryFile> m_temporary;
     QString m_path;
     FileStamp m_stamp;
     std::unique_ptr<PdfPages> m_pages;

@@ -36,22 +36,22 @@ ssize_t readPiece(char *buffer, std::size_t size)
 
 } // namespace
 
-Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> makeTemporaryFile()
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> makeTemporaryFile()
 {
-    auto file = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/kvprint-XXXXXX.pdf"));
-    if (!file->open())
+    auto file = std::make_unique<platform::TemporaryFile>(QDir::tempPath());
+    if (!file->create())
         return notStored(*file);
     return file;
 }
 
-DocumentProblem notStored(const QTemporaryFile &file)
+DocumentProblem notStored(const platform::TemporaryFile &file)
 {
     return {
         DocumentFailure::NotStored,
         StandardInputText::tr("it cannot be kept in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
 }
 
-Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> readStandardInput(qint64 limit)
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardInput(qint64 limit)
 {
     auto file = makeTemporaryFile();
     if (!file)

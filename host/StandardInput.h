@@ -3,7 +3,7 @@
 
 #include "DocumentError.h"
 
-#include <QTemporaryFile>
+#include <platform/TemporaryFile.h>
 
 #include <memory>
 
@@ -14,12 +14,12 @@ namespace host {
 inline constexpr qint64 mostInput = 1024LL * 1024 * 1024;
 
 /// An empty file among the system's temporary ones that only this user can read, gone with the object.
-Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> makeTemporaryFile();
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> makeTemporaryFile();
 /// Why the temporary file could not be written.
-DocumentProblem notStored(const QTemporaryFile &file);
+DocumentProblem notStored(const platform::TemporaryFile &file);
 
 /// Reads standard input to its end, waiting for whoever writes it, into a temporary file. The limit is in
 /// bytes; nothing is kept when there is more.
-Result<std::unique_ptr<QTemporaryFile>, DocumentProblem> readStandardInput(qint64 limit = mostInput);
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardInput(qint64 limit = mostInput);
 
 } // namespace host

@@ -5,9 +5,11 @@
 #include "DiscoveredQueue.h"
 #include "QueueCache.h"
 
+#include <platform/TemporaryFile.h>
+
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
 
 namespace host {
 
@@ -50,8 +52,8 @@ Result<PpdFile, PpdError> openContent(const QByteArray &content, const std::opti
         if (file.open(QIODevice::ReadOnly) && file.readAll() == content)
             return PpdFile::open(*cachePath);
     }
-    QTemporaryFile file;
-    if (!file.open() || file.write(content) != content.size() || !file.flush())
+    platform::TemporaryFile file(QDir::tempPath());
+    if (!file.create() || file.write(content) != content.size() || !file.flush())
         return PpdError{PpdFailure::Unreadable, file.errorString()};
     return PpdFile::open(file.fileName());
 }

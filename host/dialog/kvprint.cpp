@@ -4,8 +4,10 @@
 #include "Translations.h"
 
 #include <host/cups/Background.h>
+#include <platform/TemporaryFile.h>
 
 #include <QApplication>
+#include <QDir>
 
 #include <fontconfig/fontconfig.h>
 
@@ -105,6 +107,7 @@ int main(int argc, char **argv)
     command.value().noDialog = command.value().noDialog || !attended;
     const dialog::Console console{[&](const QString &text) { return streams.out(text); },
                                   dialog::StandardStreams::error};
+    platform::TemporaryFile::removeLeftOvers(QDir::tempPath());
     const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run(), streams);
     if (host::Background::wasUsed())
         std::_Exit(outcome);

@@ -79,6 +79,26 @@ TEST_F(KvprintSignals, TakeBackTheJobThatIsBeingSent)
     EXPECT_TRUE(cupsd.documents().empty());
 }
 
+TEST_F(KvprintSignals, WhatAKilledProgramLeavesGoesWhenTheNextOneStarts)
+{
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 20000});
+    QProcess killed;
+    start(killed, slow);
+    waitUntilSending(1);
+    QProcess running;
+    start(running, slow);
+    waitUntilSending(2);
+    const QStringList ofBoth = temporaryFiles();
+    ASSERT_EQ(kill(static_cast<pid_t>(killed.processId()), SIGKILL), 0);
+    ASSERT_TRUE(killed.waitForFinished(failureMilliseconds));
+    EXPECT_EQ(temporaryFiles(), ofBoth);
+    EXPECT_EQ(kvprint.run({QStringLiteral("--list")}).status, 0);
+    EXPECT_EQ(temporaryFiles().size() * 2, ofBoth.size()) << "those of the program that runs stay";
+    ASSERT_EQ(kill(static_cast<pid_t>(running.processId()), SIGTERM), 0);
+    EXPECT_TRUE(running.waitForFinished(failureMilliseconds));
+    EXPECT_EQ(temporaryFiles(), QStringList());
+}
+
 TEST_F(KvprintSignals, EndTheWaitForAServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});
