@@ -41,6 +41,15 @@ QString DriverRequest::text(const char *name, const QString &whenMissing) const
     return has(name) ? text(name) : whenMissing;
 }
 
+QString DriverRequest::path(const char *name) const
+{
+    // For the system the path would end there: it would open another file than the one that is named.
+    QString value = text(name);
+    if (value.contains(QChar::Null))
+        throw illTyped(name, "a path without U+0000");
+    return value;
+}
+
 std::optional<QString> DriverRequest::textOrNull(const char *name) const
 {
     const QJsonValue value = required(name);

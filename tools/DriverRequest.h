@@ -30,6 +30,8 @@ public:
 
     QString text(const char *name) const;
     QString text(const char *name, const QString &whenMissing) const;
+    /// A text that the system takes for a path as a whole, without U+0000.
+    QString path(const char *name) const;
     /// A text or null.
     std::optional<QString> textOrNull(const char *name) const;
     bool flag(const char *name, bool whenMissing) const;

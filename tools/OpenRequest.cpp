@@ -51,7 +51,7 @@ std::optional<platform::Paper> paperMember(const DriverRequest &request)
 }
 
 OpenRequest::OpenRequest(const DriverRequest &request)
-    : ppd(request.text("ppd"))
+    : ppd(request.path("ppd"))
     , markDefaults(request.flag("markDefaults", true))
     , marks(marksMember(request))
     , printSettings(request.flag("printSettings", true))

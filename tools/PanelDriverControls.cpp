@@ -112,14 +112,14 @@ QJsonObject PanelDriver::localized(const DriverRequest &request)
 QJsonObject PanelDriver::picture(const DriverRequest &request)
 {
     QString error;
-    if (!inspection().savePreview(m_panel, request.text("path"), &error))
+    if (!inspection().savePreview(m_panel, request.path("path"), &error))
         throw RequestError(error);
     return {};
 }
 
 QJsonObject PanelDriver::screenshot(const DriverRequest &request)
 {
-    const QString path = request.text("path");
+    const QString path = request.path("path");
     platform::OutputFile file(path);
     const QImage picture = m_view->grab().toImage();
     if (!file.write([&](QIODevice *device) { return QImageWriter(device, "png").write(picture); }) ||

@@ -74,3 +74,17 @@ TEST_F(PanelDriverFiles, APictureDoesNotReplaceADevice)
     for (const char *const op : operations)
         expectRefused(op, *device, strerror(ENOSPC));
 }
+
+TEST_F(PanelDriverFiles, APathIsNotCutShort)
+{
+    const QString cut = path("cut.png");
+    const QString rest = QChar(QChar::Null) + QStringLiteral(".png");
+    for (const char *const op : operations) {
+        EXPECT_EQ(errorOf(m_driver.handle({{"op", op}, {"path", cut + rest}})),
+                  QStringLiteral("member \"path\" must be a path without U+0000"))
+            << op;
+    }
+    EXPECT_FALSE(QFile::exists(cut));
+    EXPECT_EQ(errorOf(open({{"ppd", m_ppd + rest}})),
+              QStringLiteral("member \"ppd\" must be a path without U+0000"));
+}
