@@ -3,18 +3,22 @@
 
 #include "OptionControl.h"
 
-#include <QDeadlineTimer>
 #include <QFormLayout>
 #include <QLabel>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <chrono>
+
 namespace dialog {
 
 namespace {
 
-/// A form is laid out anew with every row; a long one takes longer than the making of its controls.
-constexpr std::size_t optionsPerForm = 50;
+/// What one event adds.
+constexpr std::size_t optionsPerForm = 12;
+
+/// How long an event builds: with what else it does, shorter than one picture of the screen.
+constexpr std::chrono::milliseconds slice{8};
 
 } // namespace
 
@@ -39,6 +43,7 @@ void OptionGroupPage::build()
 {
     if (m_column)
         return;
+    const QDeadlineTimer deadline(slice);
     auto *const content = new QWidget(this);
     m_column = new QVBoxLayout(content);
     m_column->addStretch(1);
@@ -46,34 +51,33 @@ void OptionGroupPage::build()
     // slice.
     m_column->setSizeConstraint(QLayout::SetMinimumSize);
     m_labelWidth = labelWidth();
-    // More than what is seen at first in any window.
-    constexpr std::chrono::milliseconds firstSlice{20};
-    buildSlice(firstSlice);
+    buildSlice(deadline);
     setWidget(content);
 }
 
-void OptionGroupPage::buildSlice(std::chrono::milliseconds duration)
+void OptionGroupPage::buildSlice(QDeadlineTimer deadline)
 {
-    const QDeadlineTimer deadline(duration);
     const host::PpdOptions options(m_ppd);
-    for (; m_next < m_keywords.size() && !deadline.hasExpired(); ++m_next) {
-        if (m_next % optionsPerForm == 0)
-            addForm();
-        const std::optional<host::PpdOption> option = options.option(m_keywords[m_next]);
+    addForm();
+    for (std::size_t row = 0; row < optionsPerForm && m_next < m_keywords.size() && !deadline.hasExpired();
+         ++row) {
+        const std::optional<host::PpdOption> option = options.option(m_keywords[m_next++]);
         if (!option)
             continue;
         OptionControl *const control = addControl(*option);
         control->showMarked(options);
         control->setConflicts(sentencesAbout(control->keyword()));
     }
-    static constexpr std::chrono::milliseconds slice{10};
+    m_form->parentWidget()->show();
     if (m_next < m_keywords.size())
-        QTimer::singleShot(0, this, [this] { buildSlice(slice); });
+        QTimer::singleShot(0, this, [this] { buildSlice(QDeadlineTimer(slice)); });
 }
 
 void OptionGroupPage::addForm()
 {
     auto *const part = new QWidget(m_column->parentWidget());
+    // Shown with all its rows; a widget that is added to a visible form is shown by an event of its own.
+    part->hide();
     m_form = new QFormLayout(part);
     m_form->setContentsMargins({});
     m_form->setRowWrapPolicy(QFormLayout::WrapLongRows);
@@ -86,11 +90,13 @@ int OptionGroupPage::labelWidth() const
 {
     if (m_keywords.size() <= optionsPerForm)
         return 0;
+    const QFontMetrics metrics = fontMetrics();
+    const int limit = metrics.averageCharWidth() * 29;
     int widest = 0;
-    for (const QByteArray &keyword : m_keywords)
-        widest = qMax(widest, fontMetrics().horizontalAdvance(m_ppd.optionText(QString::fromUtf8(keyword))));
+    for (auto keyword = m_keywords.begin(); keyword != m_keywords.end() && widest < limit; ++keyword)
+        widest = qMax(widest, metrics.horizontalAdvance(m_ppd.optionText(QString::fromUtf8(*keyword))));
     // A label is a little wider than its letters.
-    return qMin(widest + fontMetrics().averageCharWidth(), fontMetrics().averageCharWidth() * 30);
+    return qMin(widest, limit) + metrics.averageCharWidth();
 }
 
 OptionControl *OptionGroupPage::addControl(const host::PpdOption &option)

@@ -4,9 +4,8 @@
 #include <host/PpdOptions.h>
 #include <host/cups/Constraints.h>
 
+#include <QDeadlineTimer>
 #include <QScrollArea>
-
-#include <chrono>
 
 class QFormLayout;
 class QVBoxLayout;
@@ -41,7 +40,8 @@ protected:
 
 private:
     void build();
-    void buildSlice(std::chrono::milliseconds duration);
+    /// Adds a form of options, fewer when the deadline expires, and continues in an event of its own.
+    void buildSlice(QDeadlineTimer deadline);
     void addForm();
     int labelWidth() const;
     OptionControl *addControl(const host::PpdOption &option);
