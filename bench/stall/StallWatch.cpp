@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StallWatch.h"
 
+#include "TimedApplication.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -13,16 +15,24 @@ namespace {
 
 constexpr std::chrono::milliseconds interval{1};
 
+void setMeasuringEvents(bool measuring)
+{
+    if (auto *const application = dynamic_cast<TimedApplication *>(QCoreApplication::instance()))
+        application->setMeasuring(measuring);
+}
+
 } // namespace
 
 StallWatch::StallWatch()
     : m_mainThread(gettid())
     , m_watcher([this] { watch(); })
 {
+    setMeasuringEvents(true);
 }
 
 StallWatch::~StallWatch()
 {
+    setMeasuringEvents(false);
     {
         const std::scoped_lock lock(m_mutex);
         m_isEnding = true;

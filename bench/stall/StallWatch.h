@@ -16,6 +16,8 @@ namespace bench {
 /// wakes up does not matter. While the main thread is ready to run, but other programs have the processor,
 /// the time is not counted.
 ///
+/// While it lives, the application measures its events, too (TimedApplication).
+///
 /// Made and ended on the main thread, around what must not stall the window.
 class StallWatch {
 public:
