@@ -3,6 +3,7 @@
 
 #include "DiscoveredQueue.h"
 #include "DocumentSource.h"
+#include "JobHold.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -18,9 +19,10 @@ struct JobUploadText {
 /// One job on its way, over one connection.
 class Upload {
 public:
-    Upload(CupsConnection &connection, const JobTicket &ticket, BackgroundTask &task)
+    Upload(CupsConnection &connection, const JobTicket &ticket, const JobHold &hold, BackgroundTask &task)
         : m_connection(connection)
         , m_ticket(ticket)
+        , m_hold(hold)
         , m_task(task)
     {
     }
@@ -30,7 +32,7 @@ public:
         IppPointer request = m_connection.newRequest(IPP_OP_CREATE_JOB, m_ticket.destination.queue);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                      sendableTitle(m_ticket.title).toUtf8().constData());
-        encodeJobOptions(request.get(), m_ticket.options);
+        encodeJobOptions(request.get(), m_hold.optionsForCreation(m_ticket));
         const Result<IppPointer, CupsError> answer =
             m_connection.exchangeToTheEnd(std::move(request), queueResource(m_ticket.destination.queue));
         if (!answer)
@@ -53,6 +55,14 @@ public:
                 return error;
         }
         return std::nullopt;
+    }
+
+    /// Lets the job go, whose documents the server has. Nothing, or why it is held still.
+    std::optional<CupsError> release()
+    {
+        if (m_hold.isNeeded() && m_task.isCancelled())
+            return m_connection.noAnswer();
+        return m_hold.end(m_connection, m_ticket.destination.queue, m_jobId);
     }
 
 private:
@@ -105,12 +115,13 @@ private:
 
     CupsConnection &m_connection;
     const JobTicket &m_ticket;
+    const JobHold &m_hold;
     BackgroundTask &m_task;
     int m_jobId = 0;
 };
 
-/// The reason with what has become of the job.
-CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, CupsError reason)
+/// The reason with what has become of the job, which may be held.
+CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, bool isHeld, CupsError reason)
 {
     // The task may be cancelled, and the connection is in the middle of a document: both anew.
     BackgroundTask task;
@@ -121,12 +132,16 @@ CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, C
     if (!error)
         return reason;
     // Not what was asked for, even if giving up was.
+    if (isHeld)
+        return {
+            error->kind,
+            JobUploadText::tr("%1 Job %2-%3 could not be canceled; it is held on the print server "
+                              "\"%4\" and is not printed unless it is released: %5")
+                .arg(reason.message, queue, QString::number(jobId), server.displayName(), error->message)};
     return {error->kind,
             JobUploadText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print "
                               "again: %4")
-                .arg(reason.message, queue)
-                .arg(jobId)
-                .arg(error->message)};
+                .arg(reason.message, queue, QString::number(jobId), error->message)};
 }
 
 } // namespace
@@ -169,12 +184,20 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         return *error;
     if (task.isCancelled())
         return connection.value().lastError();
-    Upload upload(connection.value(), ticket, task);
+    const Result<JobHold, CupsError> hold = JobHold::forTicket(connection.value(), ticket);
+    if (!hold)
+        return hold.error();
+    if (task.isCancelled())
+        return connection.value().lastError();
+    Upload upload(connection.value(), ticket, hold.value(), task);
     Result<int, CupsError> job = upload.createJob();
     if (!job)
         return job.error();
-    if (const std::optional<CupsError> error = upload.sendDocuments(sources, progress))
-        return takenBack(server, ticket.destination.queue, job.value(), *error);
+    std::optional<CupsError> error = upload.sendDocuments(sources, progress);
+    if (!error)
+        error = upload.release();
+    if (error)
+        return takenBack(server, ticket.destination.queue, job.value(), hold.value().isNeeded(), *error);
     return job;
 }
 

@@ -111,6 +111,11 @@ void FaultyServer::serve(QTcpSocket *client)
     ++m_connectionCount;
     if (m_faults.silent)
         return;
+    if (m_isGone) {
+        client->abort();
+        client->deleteLater();
+        return;
+    }
     auto *const real = new QTcpSocket(client);
     std::erase_if(m_all, [](const Pair &pair) { return !pair.client || !pair.real; });
     m_all.push_back({client, real});
@@ -146,8 +151,31 @@ void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
     client->setProperty("answers", client->property("answers").toInt() + 1);
     if (client->property("answers").toInt() == m_faults.breakAtAnswer)
         client->abort();
-    else
+    else if (!breaksAnswer(client, real))
         beginAnswer(client, real);
+}
+
+bool FaultyServer::breaksAnswer(QTcpSocket *client, QTcpSocket *real)
+{
+    const int operation = client->property("operation").toInt();
+    const bool isCut = operation != 0 && operation == m_faults.cutAnswerTo;
+    const bool isLost = operation != 0 && operation == m_faults.loseAnswerTo;
+    if (isCut) {
+        const QByteArray bytes = real->readAll();
+        const qsizetype content = bytes.lastIndexOf(endOfHeader) + endOfHeader.size();
+        client->write(bytes.first(content + (bytes.size() - content) / 2));
+        client->flush();
+    }
+    if (isCut || isLost)
+        breakConnection(client);
+    return isCut || isLost;
+}
+
+void FaultyServer::breakConnection(QTcpSocket *client)
+{
+    m_isGone = m_isGone || m_faults.isGoneAfterwards;
+    // Not abort(), which would take back what was sent.
+    client->disconnectFromHost();
 }
 
 void FaultyServer::beginAnswer(QTcpSocket *client, QTcpSocket *real)
@@ -258,6 +286,11 @@ void FaultyServer::take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket 
     if (isRefused(bytes, client))
         return;
     countRequest(bytes, client);
+    const int operation = client->property("operation").toInt();
+    if (operation != 0 && operation == m_faults.breakAtOperation) {
+        breakConnection(client);
+        return;
+    }
     const qint64 taken = client->property("taken").toLongLong() + bytes.size();
     client->setProperty("taken", taken);
     m_takenBytes += bytes.size();

@@ -44,6 +44,15 @@ struct Faults {
     QByteArray earlyAnswer = {};
     /// Breaks every connection instead of giving this answer on it, counted from 1; 0 never.
     int breakAtAnswer = 0;
+    /// Breaks the connection on which a request of this operation of IPP comes, instead of passing it on; 0
+    /// none.
+    int breakAtOperation = 0;
+    /// Breaks the connection instead of giving the answer to this operation; 0 none.
+    int loseAnswerTo = 0;
+    /// Gives half of the answer to this operation and breaks the connection; 0 none.
+    int cutAnswerTo = 0;
+    /// Breaks every connection after one of these three faults, as when the link is down.
+    bool isGoneAfterwards = false;
     /// Requires "user:password" before anything else; empty requires none.
     QByteArray credentials = {};
 };
@@ -90,6 +99,8 @@ private:
     void countRequest(const QByteArray &bytes, QTcpSocket *client);
     bool isRefused(const QByteArray &bytes, QTcpSocket *client);
     bool stalls(QTcpSocket *client);
+    bool breaksAnswer(QTcpSocket *client, QTcpSocket *real);
+    void breakConnection(QTcpSocket *client);
     void passAnswer(QTcpSocket *client, QTcpSocket *real);
     void beginAnswer(QTcpSocket *client, QTcpSocket *real);
     void passInPieces(QTcpSocket *client, QTcpSocket *real);
@@ -101,6 +112,7 @@ private:
     const quint16 m_realPort;
     /// Only its own thread uses it while that runs.
     Faults m_faults;
+    bool m_isGone = false;
     quint16 m_port = 0;
     std::atomic<int> m_requestCount = 0;
     std::atomic<int> m_refusedCount = 0;

@@ -99,6 +99,21 @@ TEST_F(KvprintSignals, WhatAKilledProgramLeavesGoesWhenTheNextOneStarts)
     EXPECT_EQ(temporaryFiles(), QStringList());
 }
 
+TEST_F(KvprintSignals, AKilledProgramLeavesNoPartOfAJobToBePrinted)
+{
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 20000});
+    QProcess killed;
+    start(killed, slow);
+    waitUntilSending(1);
+    ASSERT_EQ(kill(static_cast<pid_t>(killed.processId()), SIGKILL), 0);
+    ASSERT_TRUE(killed.waitForFinished(failureMilliseconds));
+    // The server has the first document. Any other hold ends with its MultipleOperationTimeout.
+    const QMap<QByteArray, QByteArray> job = jobAttributes(1);
+    EXPECT_EQ(job.value("number-of-documents"), "1");
+    EXPECT_EQ(job.value("job-state"), "pending-held");
+    EXPECT_EQ(job.value("job-hold-until"), "indefinite");
+}
+
 TEST_F(KvprintSignals, EndTheWaitForAServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});

@@ -1197,6 +1197,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>Der Druckserver „%1“ hat „%2“ nicht ganz angenommen.</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird: %5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>

@@ -1196,6 +1196,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>El servidor de impresión «%1» no ha aceptado todo «%2».</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere: %5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>

@@ -1197,6 +1197,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>Le serveur d’impression « %1 » n’a pas accepté la totalité de « %2 ».</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée : %5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>

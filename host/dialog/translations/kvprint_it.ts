@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>La stampante &quot;%1&quot; non può stampare sulla carta &quot;%2&quot;: le dimensioni sono %3 × %4 punti; larghezza e lunghezza devono essere maggiori di 0; una non deve superare %5 m e l'altra %6 m.</translation>
+        <translation>La stampante &quot;%1&quot; non può stampare sulla carta &quot;%2&quot;: le dimensioni sono %3 × %4 punti; larghezza e lunghezza devono essere maggiori di 0; una non deve superare %5 m e l&apos;altra %6 m.</translation>
     </message>
 </context>
 <context>
@@ -1196,6 +1196,10 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>Il server di stampa &quot;%1&quot; non ha accettato tutto &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato: %5</translation>
     </message>
 </context>
 <context>

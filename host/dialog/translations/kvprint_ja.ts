@@ -1195,6 +1195,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>プリントサーバー「%1」は「%2」のすべてを受け取りませんでした。</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません: %5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>

@@ -1197,6 +1197,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>De printserver &quot;%1&quot; heeft &quot;%2&quot; niet helemaal aangenomen.</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven: %5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>

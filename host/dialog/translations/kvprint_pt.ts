@@ -1196,6 +1196,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>O servidor de impressão &quot;%1&quot; não aceitou a totalidade de &quot;%2&quot;.</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Não foi possível retirar o trabalho %2-%3; está retido no servidor de impressão &quot;%4&quot; e não é impresso enquanto não for libertado: %5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>

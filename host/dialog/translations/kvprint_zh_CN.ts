@@ -1195,6 +1195,10 @@
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>打印服务器“%1”没有接收完整的“%2”。</translation>
     </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印：%5</translation>
+    </message>
 </context>
 <context>
     <name>host::LabelDocument</name>
