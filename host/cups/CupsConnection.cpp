@@ -200,9 +200,12 @@ IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue) 
 
 Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const QByteArray &resource)
 {
+    m_state->lacksAnswer = false;
     const http_status_t status = askUntilAllowed("POST", resource, [&] {
         const http_status_t sent =
             cupsSendRequest(m_http.get(), request.get(), resource.constData(), ippLength(request.get()));
+        // Where the answer does not come, libcups tells no request that was sent from one that was not.
+        m_state->lacksAnswer = sent == HTTP_STATUS_ERROR;
         return sent == HTTP_STATUS_CONTINUE || sent == HTTP_STATUS_OK ? awaitAnswer() : sent;
     });
     return readAnswer(status);
@@ -227,6 +230,8 @@ http_status_t CupsConnection::awaitAnswer()
     http_status_t status = HTTP_STATUS_CONTINUE;
     while (status == HTTP_STATUS_CONTINUE)
         status = httpUpdate(m_http.get());
+    // The header of an answer is not all of it; a refusal is said by its header.
+    m_state->lacksAnswer = status == HTTP_STATUS_ERROR || status == HTTP_STATUS_OK;
     return status;
 }
 
@@ -261,6 +266,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
         state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
     if (state == IPP_STATE_ERROR)
         return noAnswer();
+    m_state->lacksAnswer = false;
     httpFlush(m_http.get());
     const ipp_status_t outcome = ippGetStatusCode(answer.get());
     if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE)

@@ -48,6 +48,10 @@ public:
     /// cancelled, since only the answer tells what there is to be taken back.
     Result<IppPointer, CupsError> exchangeToTheEnd(IppPointer request, const QByteArray &resource);
 
+    /// Whether the last request was sent, or most of it, and no whole answer came: the server may have done
+    /// what it says.
+    bool lacksAnswer() const { return m_state->lacksAnswer; }
+
     /// Ends a document that was sent in pieces (cupsStartDocument(), cupsWriteRequestData()) and waits for
     /// the answer.
     Result<IppPointer, CupsError> finishDocument();
@@ -93,6 +97,7 @@ private:
         bool wasSilent = false;
         /// What is on its way is waited for even when the task is cancelled.
         bool finishesFirst = false;
+        bool lacksAnswer = false;
         int triedPasswords = 0;
         /// The server was not told the password that it wanted.
         bool lacksPassword = false;

@@ -23,6 +23,7 @@ enum class CupsFailure {
     Refused,       ///< it answered with another error
     BadDocument,   ///< a document cannot be read
     Cancelled,     ///< given up on request
+    OutcomeUnknown ///< a job may be left on the server, or printed: the message says which
 };
 using CupsError = Failure<CupsFailure>;
 

@@ -18,7 +18,7 @@ struct JobStatusText {
 
 constexpr std::array requestedAttributes = {
     "job-hold-until", "job-media-sheets-completed", "job-printer-state-message", "job-printer-state-reasons",
-    "job-state",      "job-state-reasons",
+    "job-state",      "job-state-reasons",          "number-of-documents",
 };
 
 QStringList texts(ipp_t *answer, const char *name)
@@ -99,6 +99,8 @@ Result<JobStatus, CupsError> queryJob(CupsConnection &connection, const QString 
     job.message = texts(attributes, "job-printer-state-message").value(0);
     job.heldUntil = texts(attributes, "job-hold-until").value(0);
     job.sheetsCompleted = number("job-media-sheets-completed", IPP_TAG_INTEGER);
+    if (ippFindAttribute(attributes, "number-of-documents", IPP_TAG_INTEGER))
+        job.documents = number("number-of-documents", IPP_TAG_INTEGER);
     return job;
 }
 

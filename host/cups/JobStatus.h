@@ -33,6 +33,8 @@ struct JobStatus {
     QString heldUntil = {};
     /// Labels that have come out, as far as the printer tells.
     int sheetsCompleted = 0;
+    /// How many documents the server has; nothing when it does not tell.
+    std::optional<int> documents = {};
     /// The server has had the job and knows nothing of it any more, as servers do that keep no history. How
     /// it came to its end nobody can tell.
     bool isForgotten = false;

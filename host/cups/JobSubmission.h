@@ -27,7 +27,8 @@ Q_SIGNALS:
     void progressed(const host::UploadProgress &progress);
     /// The server has the job and all its documents.
     void submitted(int jobId);
-    /// Nothing of the job is printed, unless the message says that it could not be canceled.
+    /// Nothing of the job is printed and nothing is left of it, unless this is CupsFailure::OutcomeUnknown:
+    /// then the message says what may be left or printed.
     void failed(const host::CupsError &error);
 
 private:

@@ -3,10 +3,11 @@
 
 #include "DiscoveredQueue.h"
 #include "DocumentSource.h"
-#include "JobHold.h"
+#include "JobFate.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QUuid>
 
 namespace host {
 
@@ -27,11 +28,18 @@ public:
     {
     }
 
+    const QByteArray &uuid() const { return m_uuid; }
+    /// Whether the last document was sent to its last byte and nobody knows whether it has arrived.
+    bool isDocumentUnanswered() const { return m_isDocumentUnanswered; }
+    bool lacksAnswer() const { return m_connection.lacksAnswer(); }
+
     Result<int, CupsError> createJob()
     {
         IppPointer request = m_connection.newRequest(IPP_OP_CREATE_JOB, m_ticket.destination.queue);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                      sendableTitle(m_ticket.title).toUtf8().constData());
+        // By this the job is found again when the answer is lost; names are not unique.
+        ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, "job-uuid", nullptr, m_uuid.constData());
         encodeJobOptions(request.get(), m_hold.optionsForCreation(m_ticket));
         const Result<IppPointer, CupsError> answer =
             m_connection.exchangeToTheEnd(std::move(request), queueResource(m_ticket.destination.queue));
@@ -101,6 +109,7 @@ private:
         // then.
         const Result<IppPointer, CupsError> answer =
             isWhole ? m_connection.finishDocument() : m_connection.earlyAnswer();
+        m_isDocumentUnanswered = isWhole && isLast && m_connection.lacksAnswer() && !m_task.isCancelled();
         if (!answer)
             return answer.error();
         return isWhole ? std::nullopt : std::optional(cutShort(document));
@@ -117,31 +126,22 @@ private:
     const JobTicket &m_ticket;
     const JobHold &m_hold;
     BackgroundTask &m_task;
+    const QByteArray m_uuid = "urn:uuid:" + QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
     int m_jobId = 0;
+    bool m_isDocumentUnanswered = false;
 };
 
-/// The reason with what has become of the job, which may be held.
-CupsError takenBack(const CupsServer &server, const QString &queue, int jobId, bool isHeld, CupsError reason)
+/// Sends the documents of a job that the server has made, and lets it go. Nothing, or why it is not printed
+/// and what has become of it.
+std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
+                                int jobId, const std::function<void(const UploadProgress &)> &progress)
 {
-    // The task may be cancelled, and the connection is in the middle of a document: both anew.
-    BackgroundTask task;
-    CupsServer quiet = server;
-    // Nobody hears this task's questions; a password that was given before still counts.
-    quiet.askPassword = nullptr;
-    const std::optional<CupsError> error = cancelJob(quiet, queue, jobId, task);
-    if (!error)
-        return reason;
-    // Not what was asked for, even if giving up was.
-    if (isHeld)
-        return {
-            error->kind,
-            JobUploadText::tr("%1 Job %2-%3 could not be canceled; it is held on the print server "
-                              "\"%4\" and is not printed unless it is released: %5")
-                .arg(reason.message, queue, QString::number(jobId), server.displayName(), error->message)};
-    return {error->kind,
-            JobUploadText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print "
-                              "again: %4")
-                .arg(reason.message, queue, QString::number(jobId), error->message)};
+    if (const std::optional<CupsError> error = upload.sendDocuments(sources, progress))
+        return upload.isDocumentUnanswered() ? fate.ofUnansweredDocument(jobId, *error)
+                                             : fate.takenBack(jobId, *error);
+    if (const std::optional<CupsError> error = upload.release())
+        return upload.lacksAnswer() ? fate.ofUnansweredRelease(jobId, *error) : fate.takenBack(jobId, *error);
+    return std::nullopt;
 }
 
 } // namespace
@@ -190,15 +190,12 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     if (task.isCancelled())
         return connection.value().lastError();
     Upload upload(connection.value(), ticket, hold.value(), task);
-    Result<int, CupsError> job = upload.createJob();
+    const JobFate fate(server, ticket, hold.value());
+    const Result<int, CupsError> job = upload.createJob();
     if (!job)
-        return job.error();
-    std::optional<CupsError> error = upload.sendDocuments(sources, progress);
-    if (!error)
-        error = upload.release();
-    if (error)
-        return takenBack(server, ticket.destination.queue, job.value(), hold.value().isNeeded(), *error);
-    return job;
+        return upload.lacksAnswer() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
+    const std::optional<CupsError> error = finish(upload, fate, sources, job.value(), progress);
+    return error ? Result<int, CupsError>(*error) : job;
 }
 
 } // namespace host

@@ -3,6 +3,8 @@
 #include "FaultyServer.h"
 #include "PrintingTest.h"
 
+#include <cups/ipp.h>
+
 using host::CupsFailure;
 using host::CupsServer;
 using host::JobSubmission;
@@ -63,14 +65,16 @@ TEST_F(EarlyAnswersTest, ARefusalInTheMiddleOfADocumentIsTold)
 TEST_F(EarlyAnswersTest, APasswordThatWasGivenIsNotBlamedForABrokenConnection)
 {
     cupsd.pause(QStringLiteral("tape"));
-    const FaultyServer faulty(cupsd.port(), {.breakAtAnswer = 2, .credentials = "anna:secret"});
+    const FaultyServer faulty(
+        cupsd.port(),
+        {.loseAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true, .credentials = "anna:secret"});
     CupsServer guarded = at(faulty);
     guarded.askPassword = [](const host::PasswordRequest &request) {
         request.answer(QStringLiteral("anna"), QStringLiteral("secret"));
     };
     const Outcome outcome = print(ticket(), guarded);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << qPrintable(outcome.error->message);
+    EXPECT_EQ(outcome.error->kind, CupsFailure::OutcomeUnknown) << qPrintable(outcome.error->message);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("broke")))
         << qPrintable(outcome.error->message);
 }

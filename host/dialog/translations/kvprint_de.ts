@@ -1017,6 +1017,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 In der Warteschlange „%3“ des Druckservers „%4“ kann ein Auftrag „%2“ ohne Dokumente zurückgeblieben sein; davon wird nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 Der Druckserver „%2“ hat alle Dokumente des Auftrags %3-%4 und hat nicht gemeldet, ob er ihn freigibt: Der Auftrag wird gedruckt, oder er wird zurückgehalten und nicht gedruckt. Sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Auftrag %2-%3 auf dem Druckserver „%4“ kann gedruckt worden sein; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird: %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken: %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Auftrag %2-%3: %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1182,10 +1209,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken: %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>Es gibt kein Dokument zu drucken.</translation>
     </message>
@@ -1196,10 +1219,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>Der Druckserver „%1“ hat „%2“ nicht ganz angenommen.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird: %5</translation>
     </message>
 </context>
 <context>

@@ -1016,6 +1016,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 Es posible que en la cola «%3» del servidor de impresión «%4» haya quedado un trabajo «%2» sin documentos; no se imprime nada de él.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 El servidor de impresión «%2» tiene todos los documentos del trabajo %3-%4 y no ha dicho si lo libera: el trabajo se imprime, o está retenido y no se imprime. Revise la cola antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Es posible que el trabajo %2-%3 del servidor de impresión «%4» se haya impreso; revise la cola antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere: %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir: %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Trabajo %2-%3: %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1181,10 +1208,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir: %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>No hay ningún documento que imprimir.</translation>
     </message>
@@ -1195,10 +1218,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>El servidor de impresión «%1» no ha aceptado todo «%2».</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere: %5</translation>
     </message>
 </context>
 <context>

@@ -1017,6 +1017,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 Une tâche « %2 » sans documents est peut-être restée dans la file d’attente « %3 » du serveur d’impression « %4 » ; rien n’en est imprimé.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 Le serveur d’impression « %2 » a tous les documents de la tâche %3-%4 et n’a pas indiqué s’il la libère : la tâche est imprimée, ou elle est retenue et n’est pas imprimée. Regardez la file d’attente avant d’imprimer à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 La tâche %2-%3 du serveur d’impression « %4 » a peut-être été imprimée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée : %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau : %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Tâche %2-%3 : %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1182,10 +1209,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau : %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>Il n’y a aucun document à imprimer.</translation>
     </message>
@@ -1196,10 +1219,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>Le serveur d’impression « %1 » n’a pas accepté la totalité de « %2 ».</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée : %5</translation>
     </message>
 </context>
 <context>

@@ -1017,6 +1017,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 Nella coda &quot;%3&quot; del server di stampa &quot;%4&quot; potrebbe essere rimasto un lavoro &quot;%2&quot; senza documenti; non ne viene stampato nulla.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 Il server di stampa &quot;%2&quot; ha tutti i documenti del lavoro %3-%4 e non ha comunicato se lo rilascia: il lavoro viene stampato, oppure è trattenuto e non viene stampato. Controllare la coda prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Il lavoro %2-%3 sul server di stampa &quot;%4&quot; potrebbe essere stato stampato; controllare la coda prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato: %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo: %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Lavoro %2-%3: %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1182,10 +1209,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo: %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>Non ci sono documenti da stampare.</translation>
     </message>
@@ -1196,10 +1219,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>Il server di stampa &quot;%1&quot; non ha accettato tutto &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato: %5</translation>
     </message>
 </context>
 <context>

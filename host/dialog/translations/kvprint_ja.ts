@@ -1015,6 +1015,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 プリントサーバー「%4」のキュー「%3」に、文書のないジョブ「%2」が残っている可能性があります。このジョブは印刷されません。</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 プリントサーバー「%2」はジョブ %3-%4 のすべての文書を受け取りましたが、保留を解除したかどうかを知らせていません。ジョブは印刷されるか、保留されたまま印刷されません。もう一度印刷する前にキューを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 プリントサーバー「%4」のジョブ %2-%3 は印刷された可能性があります。もう一度印刷する前にキューを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません: %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください: %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 ジョブ %2-%3: %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1180,10 +1207,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください: %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>印刷する文書がありません。</translation>
     </message>
@@ -1194,10 +1217,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>プリントサーバー「%1」は「%2」のすべてを受け取りませんでした。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません: %5</translation>
     </message>
 </context>
 <context>

@@ -1017,6 +1017,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 In de wachtrij &quot;%3&quot; van de printserver &quot;%4&quot; kan een taak &quot;%2&quot; zonder documenten zijn achtergebleven; daarvan wordt niets afgedrukt.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 De printserver &quot;%2&quot; heeft alle documenten van taak %3-%4 en heeft niet gemeld of hij de taak vrijgeeft: de taak wordt afgedrukt, of ze wordt vastgehouden en niet afgedrukt. Kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Taak %2-%3 op de printserver &quot;%4&quot; kan afgedrukt zijn; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven: %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt: %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Taak %2-%3: %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1182,10 +1209,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt: %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>Er is geen document om af te drukken.</translation>
     </message>
@@ -1196,10 +1219,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>De printserver &quot;%1&quot; heeft &quot;%2&quot; niet helemaal aangenomen.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven: %5</translation>
     </message>
 </context>
 <context>

@@ -1016,6 +1016,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 É possível que na fila &quot;%3&quot; do servidor de impressão &quot;%4&quot; tenha ficado um trabalho &quot;%2&quot; sem documentos; nada dele é impresso.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 O servidor de impressão &quot;%2&quot; tem todos os documentos do trabalho %3-%4 e não indicou se o liberta: o trabalho é impresso, ou está retido e não é impresso. Verifique a fila antes de voltar a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 É possível que o trabalho %2-%3 no servidor de impressão &quot;%4&quot; tenha sido impresso; verifique a fila antes de voltar a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 Não foi possível retirar o trabalho %2-%3; está retido no servidor de impressão &quot;%4&quot; e não é impresso enquanto não for libertado: %5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 Não foi possível retirar o trabalho %2-%3; verifique a fila antes de voltar a imprimir: %4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Trabalho %2-%3: %4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1181,10 +1208,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Não foi possível retirar o trabalho %2-%3; verifique a fila antes de voltar a imprimir: %4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>Não há nenhum documento para imprimir.</translation>
     </message>
@@ -1195,10 +1218,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>O servidor de impressão &quot;%1&quot; não aceitou a totalidade de &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Não foi possível retirar o trabalho %2-%3; está retido no servidor de impressão &quot;%4&quot; e não é impresso enquanto não for libertado: %5</translation>
     </message>
 </context>
 <context>

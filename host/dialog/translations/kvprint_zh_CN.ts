@@ -1015,6 +1015,33 @@
     </message>
 </context>
 <context>
+    <name>host::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 打印服务器“%4”的队列“%3”中可能留有一个没有文档的作业“%2”；它不会打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 打印服务器“%2”已有作业 %3-%4 的全部文档，但没有说明是否释放它：该作业会打印，或者被保留而不打印。再次打印前请查看队列。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 打印服务器“%4”上的作业 %2-%3 可能已经打印；再次打印前请查看队列。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
+        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印：%5</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
+        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列：%4</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 作业 %2-%3：%4</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1180,10 +1207,6 @@
 <context>
     <name>host::JobUpload</name>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列：%4</translation>
-    </message>
-    <message>
         <source>There is no document to print.</source>
         <translation>没有要打印的文档。</translation>
     </message>
@@ -1194,10 +1217,6 @@
     <message>
         <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
         <translation>打印服务器“%1”没有接收完整的“%2”。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印：%5</translation>
     </message>
 </context>
 <context>

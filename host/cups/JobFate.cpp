@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobFate.h"
+
+#include "JobUpload.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace host {
+
+namespace {
+
+struct JobFateText {
+    Q_DECLARE_TR_FUNCTIONS(host::JobFate)
+};
+
+/// The number of the job with the identifier in an answer to Get-Jobs.
+std::optional<int> jobWith(const QByteArray &uuid, ipp_t *jobs)
+{
+    // The jobs stand one after the other, with something that is no attribute between them.
+    std::optional<int> jobId;
+    bool isMeant = false;
+    for (ipp_attribute_t *each = ippFirstAttribute(jobs); each; each = ippNextAttribute(jobs)) {
+        const QByteArray name = ippGetName(each);
+        if (name.isEmpty()) {
+            jobId.reset();
+            isMeant = false;
+        }
+        if (name == "job-id")
+            jobId = ippGetInteger(each, 0);
+        if (name == "job-uuid")
+            isMeant = uuid == ippGetString(each, 0, nullptr);
+        if (isMeant && jobId)
+            return jobId;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+JobFate::JobFate(const CupsServer &server, const JobTicket &ticket, const JobHold &hold)
+    : m_server(server)
+    , m_ticket(ticket)
+    , m_hold(hold)
+{
+    m_server.askPassword = nullptr;
+}
+
+Result<std::optional<int>, CupsError> JobFate::find(const QByteArray &uuid) const
+{
+    BackgroundTask task;
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
+    if (!connection)
+        return connection.error();
+    const QString &queue = m_ticket.destination.queue;
+    constexpr std::array wanted = {"job-id", "job-uuid"};
+    IppPointer request = connection.value().newRequest(IPP_OP_GET_JOBS, queue);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "my-jobs", 1);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const Result<IppPointer, CupsError> jobs =
+        connection.value().exchange(std::move(request), queueResource(queue));
+    if (!jobs)
+        return jobs.error();
+    return jobWith(uuid, jobs.value().get());
+}
+
+CupsError JobFate::ofUnansweredCreation(const QByteArray &uuid, const CupsError &reason) const
+{
+    const Result<std::optional<int>, CupsError> job = find(uuid);
+    if (job)
+        return job.value() ? takenBack(*job.value(), reason) : reason;
+    return {CupsFailure::OutcomeUnknown,
+            JobFateText::tr("%1 A job \"%2\" without documents may be left in the queue \"%3\" of the print "
+                            "server \"%4\"; nothing of it is printed.")
+                .arg(reason.message, sendableTitle(m_ticket.title), m_ticket.destination.queue,
+                     m_server.displayName())};
+}
+
+Result<JobStatus, CupsError> JobFate::ask(CupsConnection &connection, int jobId) const
+{
+    return queryJob(connection, m_ticket.destination.queue, jobId);
+}
+
+bool JobFate::hasAllDocuments(const JobStatus &job) const
+{
+    // A server that does not count them prints nothing before it has them, unless it is told to wait.
+    return job.documents ? *job.documents >= static_cast<int>(m_ticket.documents.size())
+                         : job.state != JobState::Held;
+}
+
+std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError &reason) const
+{
+    // The job is not released yet, so that it can only be held.
+    const auto notKnown = [&](const CupsError &obstacle) {
+        return m_hold.isNeeded() ? isLeft(jobId, reason, obstacle) : mayBePrinted(jobId, reason);
+    };
+    BackgroundTask task;
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
+    if (!connection)
+        return notKnown(connection.error());
+    const Result<JobStatus, CupsError> job = ask(connection.value(), jobId);
+    if (!job)
+        return notKnown(job.error());
+    if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
+        return isOver(job.value(), reason);
+    if (!hasAllDocuments(job.value()))
+        return takenBack(jobId, reason);
+    const std::optional<CupsError> error = m_hold.end(connection.value(), m_ticket.destination.queue, jobId);
+    if (!error)
+        return std::nullopt;
+    return connection.value().lacksAnswer() ? ofUnansweredRelease(jobId, *error) : takenBack(jobId, *error);
+}
+
+std::optional<CupsError> JobFate::ofUnansweredRelease(int jobId, const CupsError &reason) const
+{
+    const auto notKnown = [&]() -> CupsError {
+        return {CupsFailure::OutcomeUnknown,
+                JobFateText::tr("%1 The print server \"%2\" has all documents of job %3-%4 and did not say "
+                                "whether it releases them: the job is printed, or it is held and not "
+                                "printed. Check the queue before you print again.")
+                    .arg(reason.message, m_server.displayName(), m_ticket.destination.queue,
+                         QString::number(jobId))};
+    };
+    BackgroundTask task;
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
+    const Result<JobStatus, CupsError> job = connection ? ask(connection.value(), jobId) : connection.error();
+    if (!job)
+        return notKnown();
+    if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
+        return isOver(job.value(), reason);
+    if (job.value().state == JobState::Held && m_hold.isStillOn(job.value().heldUntil))
+        return takenBack(jobId, reason);
+    return std::nullopt;
+}
+
+CupsError JobFate::takenBack(int jobId, const CupsError &reason) const
+{
+    BackgroundTask task;
+    const std::optional<CupsError> error = cancelJob(m_server, m_ticket.destination.queue, jobId, task);
+    return error ? isLeft(jobId, reason, *error) : reason;
+}
+
+CupsError JobFate::mayBePrinted(int jobId, const CupsError &reason) const
+{
+    return {
+        CupsFailure::OutcomeUnknown,
+        JobFateText::tr("%1 Job %2-%3 on the print server \"%4\" may have been printed; check the queue "
+                        "before you print again.")
+            .arg(reason.message, m_ticket.destination.queue, QString::number(jobId), m_server.displayName())};
+}
+
+CupsError JobFate::isLeft(int jobId, const CupsError &reason, const CupsError &obstacle) const
+{
+    // Not what was asked for, even if giving up was.
+    if (m_hold.isNeeded())
+        return {CupsFailure::OutcomeUnknown,
+                JobFateText::tr("%1 Job %2-%3 could not be canceled; it is held on the print server \"%4\" "
+                                "and is not printed unless it is released: %5")
+                    .arg(reason.message, m_ticket.destination.queue, QString::number(jobId),
+                         m_server.displayName(), obstacle.message)};
+    return {CupsFailure::OutcomeUnknown,
+            JobFateText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print again: %4")
+                .arg(reason.message, m_ticket.destination.queue, QString::number(jobId), obstacle.message)};
+}
+
+CupsError JobFate::isOver(const JobStatus &job, const CupsError &reason) const
+{
+    return {CupsFailure::Refused,
+            JobFateText::tr("%1 Job %2-%3: %4")
+                .arg(reason.message, job.queue, QString::number(job.jobId), job.sentences().join(u' '))};
+}
+
+} // namespace host
