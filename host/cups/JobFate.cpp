@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobFate.h"
 
+#include "JobSearch.h"
 #include "JobUpload.h"
 
 #include <QCoreApplication>
-
-#include <array>
 
 namespace host {
 
@@ -14,28 +13,6 @@ namespace {
 struct JobFateText {
     Q_DECLARE_TR_FUNCTIONS(host::JobFate)
 };
-
-/// The number of the job with the identifier in an answer to Get-Jobs.
-std::optional<int> jobWith(const QByteArray &uuid, ipp_t *jobs)
-{
-    // The jobs stand one after the other, with something that is no attribute between them.
-    std::optional<int> jobId;
-    bool isMeant = false;
-    for (ipp_attribute_t *each = ippFirstAttribute(jobs); each; each = ippNextAttribute(jobs)) {
-        const QByteArray name = ippGetName(each);
-        if (name.isEmpty()) {
-            jobId.reset();
-            isMeant = false;
-        }
-        if (name == "job-id")
-            jobId = ippGetInteger(each, 0);
-        if (name == "job-uuid")
-            isMeant = uuid == ippGetString(each, 0, nullptr);
-        if (isMeant && jobId)
-            return jobId;
-    }
-    return std::nullopt;
-}
 
 } // namespace
 
@@ -53,17 +30,7 @@ Result<std::optional<int>, CupsError> JobFate::find(const QByteArray &uuid) cons
     Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
     if (!connection)
         return connection.error();
-    const QString &queue = m_ticket.destination.queue;
-    constexpr std::array wanted = {"job-id", "job-uuid"};
-    IppPointer request = connection.value().newRequest(IPP_OP_GET_JOBS, queue);
-    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "my-jobs", 1);
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(wanted.size()), nullptr, wanted.data());
-    const Result<IppPointer, CupsError> jobs =
-        connection.value().exchange(std::move(request), queueResource(queue));
-    if (!jobs)
-        return jobs.error();
-    return jobWith(uuid, jobs.value().get());
+    return findJob(connection.value(), m_ticket.destination.queue, uuid);
 }
 
 CupsError JobFate::ofUnansweredCreation(const QByteArray &uuid, const CupsError &reason) const

@@ -4,6 +4,7 @@
 #include "DiscoveredQueue.h"
 #include "DocumentSource.h"
 #include "JobFate.h"
+#include "JobJournal.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -29,6 +30,17 @@ public:
     }
 
     const QByteArray &uuid() const { return m_uuid; }
+    /// The job as the journal keeps it.
+    JobRecord record() const
+    {
+        const CupsServer &server = m_connection.server();
+        return {.server = server.displayName(),
+                .encrypts = server.encryption == Encryption::Required,
+                .user = server.user,
+                .queue = m_ticket.destination.queue,
+                .title = sendableTitle(m_ticket.title),
+                .uuid = m_uuid};
+    }
     /// Whether the last document was sent to its last byte and nobody knows whether it has arrived.
     bool isDocumentUnanswered() const { return m_isDocumentUnanswered; }
     bool lacksAnswer() const { return m_connection.lacksAnswer(); }
@@ -144,6 +156,19 @@ std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector
     return std::nullopt;
 }
 
+/// Creates the job and sends it. Its number, or why it is not printed and what has become of it.
+Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry &entry,
+                            std::vector<DocumentSource> &sources,
+                            const std::function<void(const UploadProgress &)> &progress)
+{
+    const Result<int, CupsError> job = upload.createJob();
+    if (!job)
+        return upload.lacksAnswer() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
+    entry.setJobId(job.value());
+    const std::optional<CupsError> error = finish(upload, fate, sources, job.value(), progress);
+    return error ? Result<int, CupsError>(*error) : job;
+}
+
 } // namespace
 
 std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
@@ -190,12 +215,13 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     if (task.isCancelled())
         return connection.value().lastError();
     Upload upload(connection.value(), ticket, hold.value(), task);
-    const JobFate fate(server, ticket, hold.value());
-    const Result<int, CupsError> job = upload.createJob();
-    if (!job)
-        return upload.lacksAnswer() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
-    const std::optional<CupsError> error = finish(upload, fate, sources, job.value(), progress);
-    return error ? Result<int, CupsError>(*error) : job;
+    JobJournalEntry entry(upload.record());
+    const Result<int, CupsError> job =
+        send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
+    // What may be left on the server is told again by the next program.
+    if (job || job.error().kind != CupsFailure::OutcomeUnknown)
+        entry.remove();
+    return job;
 }
 
 } // namespace host

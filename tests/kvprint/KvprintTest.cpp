@@ -18,6 +18,7 @@ KvprintTest::KvprintTest()
     // Every test has a home of its own, so that no lpoptions and no cache are shared.
     kvprint.environment.insert(QStringLiteral("HOME"), folder.filePath(QStringLiteral("home")));
     kvprint.environment.insert(QStringLiteral("XDG_CACHE_HOME"), folder.filePath(QStringLiteral("cache")));
+    kvprint.environment.insert(QStringLiteral("XDG_STATE_HOME"), folder.filePath(QStringLiteral("state")));
     QDir(folder.path()).mkpath(QStringLiteral("home/.cups"));
 }
 

@@ -263,6 +263,14 @@
   129, 130, 143  von einem Signal beendet, bevor der Auftrag gesendet war
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>Nimmt einen Auftrag zurück, den ein beendetes Programm auf einem Druckserver zurückgelassen hat.</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>Druckt, was der Druckserver von einem solchen Auftrag hat, vielleicht nicht alle Dokumente.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -509,6 +517,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>&amp;Auftrag abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Auftrag zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Drucken, was da ist</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>„kvprint --cancel-left %1“ nimmt ihn zurück, „kvprint --release-left %1“ druckt, was der Server davon hat.</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>Aufträge „%1“ sind auf mehreren Druckservern zurückgeblieben; nennen Sie einen von diesen: %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>Es gibt keinen Auftrag „%1“, den ein beendetes Programm zurückgelassen hat; es ist keiner zurückgeblieben</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>Es gibt keinen Auftrag „%1“, den ein beendetes Programm zurückgelassen hat; zurückgeblieben sind: %2</translation>
     </message>
 </context>
 <context>
@@ -1044,6 +1086,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>Die Aufzeichnung „%1“ eines Auftrags, der gesendet wurde, ist beschädigt und wurde entfernt; sehen Sie in Ihren Warteschlangen nach, ob ein Auftrag zurückgeblieben ist.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1341,6 +1390,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>Der Druckserver „%1“ hat keinen Auftrag „%2“ in der Warteschlange „%3“ mehr, oder er ist beendet.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ wird nicht zurückgehalten: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist freigegeben.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht Auftrag %1 („%2“) auf dem Druckserver „%3“ zurückgelassen, möglicherweise ohne alle Dokumente.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht einen Auftrag „%1“ ohne Dokumente in der Warteschlange „%2“ des Druckservers „%3“ zurückgelassen.</translation>
     </message>
 </context>
 <context>

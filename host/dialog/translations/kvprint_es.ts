@@ -262,6 +262,14 @@
   129, 130, 143  detenido por una señal antes de enviar el trabajo
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>Retira un trabajo que un programa dejó en un servidor de impresión al ser detenido.</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>Imprime lo que el servidor de impresión tiene de ese trabajo, quizá no todos los documentos.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -508,6 +516,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>Cancelar el &amp;trabajo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Retirar el trabajo</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Imprimir lo que haya</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>«kvprint --cancel-left %1» lo retira, «kvprint --release-left %1» imprime lo que el servidor tiene de él.</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>Han quedado trabajos «%1» en varios servidores de impresión; nombre uno de estos: %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>No hay ningún trabajo «%1» dejado por un programa detenido; no ha quedado ninguno</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>No hay ningún trabajo «%1» dejado por un programa detenido; han quedado estos: %2</translation>
     </message>
 </context>
 <context>
@@ -1043,6 +1085,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>El registro «%1» de un trabajo que se estaba enviando está dañado y se ha eliminado; compruebe en sus colas si ha quedado algún trabajo.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1340,6 +1389,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>El servidor de impresión «%1» ya no tiene ningún trabajo «%2» en la cola «%3», o ha terminado.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>El trabajo %1-%2 del servidor de impresión «%3» no está retenido: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha liberado.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha retirado.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Un programa que se detuvo mientras imprimía puede haber dejado el trabajo %1 («%2») en el servidor de impresión «%3», quizá sin todos sus documentos.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Un programa que se detuvo mientras imprimía puede haber dejado un trabajo «%1» sin documentos en la cola «%2» del servidor de impresión «%3».</translation>
     </message>
 </context>
 <context>

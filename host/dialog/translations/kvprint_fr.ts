@@ -263,6 +263,14 @@
   129, 130, 143  arrêté par un signal avant l’envoi de la tâche
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>Retire une tâche qu’un programme arrêté a laissée sur un serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>Imprime ce que le serveur d’impression a d’une telle tâche, peut-être pas tous les documents.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -509,6 +517,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>Annuler la &amp;tâche</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Masquer</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Retirer la tâche</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Imprimer ce qui est là</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>« kvprint --cancel-left %1 » la retire, « kvprint --release-left %1 » imprime ce que le serveur en a.</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>Des tâches « %1 » sont restées sur plusieurs serveurs d’impression ; nommez l’une de celles-ci : %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>Il n’y a pas de tâche « %1 » laissée par un programme arrêté ; aucune n’est restée</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>Il n’y a pas de tâche « %1 » laissée par un programme arrêté ; celles-ci sont restées : %2</translation>
     </message>
 </context>
 <context>
@@ -1044,6 +1086,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>L’enregistrement « %1 » d’une tâche en cours d’envoi est endommagé et a été supprimé ; vérifiez dans vos files d’attente si une tâche est restée.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1341,6 +1390,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>Le serveur d’impression « %1 » n’a plus de tâche « %2 » dans la file d’attente « %3 », ou elle est terminée.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>La tâche %1-%2 du serveur d’impression « %3 » n’est pas retenue : %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>La tâche %1-%2 du serveur d’impression « %3 » est libérée.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>La tâche %1-%2 du serveur d’impression « %3 » est retirée.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Un programme arrêté pendant l’impression a peut-être laissé la tâche %1 (« %2 ») sur le serveur d’impression « %3 », peut-être sans tous ses documents.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Un programme arrêté pendant l’impression a peut-être laissé une tâche « %1 » sans documents dans la file d’attente « %2 » du serveur d’impression « %3 ».</translation>
     </message>
 </context>
 <context>

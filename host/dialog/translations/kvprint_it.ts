@@ -263,6 +263,14 @@
   129, 130, 143  interrotto da un segnale prima dell&apos;invio del lavoro
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>Ritira un lavoro che un programma interrotto ha lasciato su un server di stampa.</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>Stampa ciò che il server di stampa ha di tale lavoro, forse non tutti i documenti.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -509,6 +517,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>Annulla il &amp;lavoro</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Nascondi</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Ritira il lavoro</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Stampa ciò che c’è</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>&quot;kvprint --cancel-left %1&quot; lo ritira, &quot;kvprint --release-left %1&quot; stampa ciò che il server ne ha.</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>Sono rimasti lavori &quot;%1&quot; su più server di stampa; indicare uno di questi: %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>Non c’è alcun lavoro &quot;%1&quot; lasciato da un programma interrotto; non ne è rimasto nessuno</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>Non c’è alcun lavoro &quot;%1&quot; lasciato da un programma interrotto; sono rimasti questi: %2</translation>
     </message>
 </context>
 <context>
@@ -1044,6 +1086,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>La registrazione &quot;%1&quot; di un lavoro in corso di invio è danneggiata ed è stata rimossa; controllare nelle proprie code se è rimasto un lavoro.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1341,6 +1390,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha più alcun lavoro &quot;%2&quot; nella coda &quot;%3&quot;, oppure è terminato.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; non è trattenuto: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato rilasciato.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato ritirato.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Un programma interrotto durante la stampa potrebbe aver lasciato il lavoro %1 (&quot;%2&quot;) sul server di stampa &quot;%3&quot;, forse senza tutti i documenti.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Un programma interrotto durante la stampa potrebbe aver lasciato un lavoro &quot;%1&quot; senza documenti nella coda &quot;%2&quot; del server di stampa &quot;%3&quot;.</translation>
     </message>
 </context>
 <context>

@@ -262,6 +262,14 @@
   129, 130, 143  ジョブの送信前にシグナルで中断された
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>停止されたプログラムがプリントサーバーに残したジョブを取り消します。</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>プリントサーバーが受け取ったそのようなジョブの内容を印刷します。すべての文書とは限りません。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -507,6 +515,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>ジョブをキャンセル(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>ジョブを取り消す</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>届いた分を印刷</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>「kvprint --cancel-left %1」で取り消し、「kvprint --release-left %1」でサーバーにある分を印刷します。</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>ジョブ「%1」が複数のプリントサーバーに残っています。次のいずれかを指定してください: %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>停止されたプログラムが残したジョブ「%1」はありません。残っているジョブはありません</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>停止されたプログラムが残したジョブ「%1」はありません。残っているジョブ: %2</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1084,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>送信中だったジョブの記録「%1」は壊れていたため削除されました。使用するキューにジョブが残っていないか確認してください。</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1338,6 +1387,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>プリントサーバー「%1」のキュー「%3」にジョブ「%2」はもうないか、すでに終了しています。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>プリントサーバー「%3」のジョブ %1-%2 は保留されていません: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>プリントサーバー「%3」のジョブ %1-%2 の保留を解除しました。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>プリントサーバー「%3」のジョブ %1-%2 を取り消しました。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」にジョブ %1（「%2」）を残した可能性があります。すべての文書が届いていないかもしれません。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」のキュー「%2」に文書のないジョブ「%1」を残した可能性があります。</translation>
     </message>
 </context>
 <context>

@@ -263,6 +263,14 @@
   129, 130, 143  door een signaal gestopt voordat de taak was verzonden
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>Neemt een taak terug die een gestopt programma op een printserver heeft achtergelaten.</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>Drukt af wat de printserver van zo’n taak heeft, misschien niet alle documenten.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -509,6 +517,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>&amp;Taak annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verbergen</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Taak terugnemen</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Afdrukken wat er is</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>&quot;kvprint --cancel-left %1&quot; neemt de taak terug, &quot;kvprint --release-left %1&quot; drukt af wat de server ervan heeft.</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>Taken &quot;%1&quot; zijn op meerdere printservers achtergebleven; noem een van deze: %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>Er is geen taak &quot;%1&quot; die een gestopt programma heeft achtergelaten; er is geen enkele achtergebleven</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>Er is geen taak &quot;%1&quot; die een gestopt programma heeft achtergelaten; deze zijn achtergebleven: %2</translation>
     </message>
 </context>
 <context>
@@ -1044,6 +1086,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>Het bestand &quot;%1&quot; over een taak die werd verzonden, is beschadigd en verwijderd; kijk in uw wachtrijen of er een taak is achtergebleven.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1341,6 +1390,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>het bevat afbeeldingen met meer pixels dan kunnen worden afgedrukt</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>De printserver &quot;%1&quot; heeft geen taak &quot;%2&quot; meer in de wachtrij &quot;%3&quot;, of ze is afgelopen.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>Taak %1-%2 op de printserver &quot;%3&quot; wordt niet vastgehouden: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>Taak %1-%2 op de printserver &quot;%3&quot; is vrijgegeven.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>Taak %1-%2 op de printserver &quot;%3&quot; is teruggenomen.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien taak %1 (&quot;%2&quot;) op de printserver &quot;%3&quot; achtergelaten, mogelijk zonder alle documenten.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien een taak &quot;%1&quot; zonder documenten in de wachtrij &quot;%2&quot; van de printserver &quot;%3&quot; achtergelaten.</translation>
     </message>
 </context>
 <context>

@@ -262,6 +262,14 @@
   129, 130, 143  interrompido por um sinal antes de o trabalho ser enviado
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>Retira um trabalho que um programa interrompido deixou num servidor de impressão.</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>Imprime o que o servidor de impressão tem desse trabalho, talvez não todos os documentos.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -508,6 +516,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>Cancelar o &amp;trabalho</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ocultar</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Retirar o trabalho</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Imprimir o que existe</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>&quot;kvprint --cancel-left %1&quot; retira-o, &quot;kvprint --release-left %1&quot; imprime o que o servidor tem dele.</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>Ficaram trabalhos &quot;%1&quot; em vários servidores de impressão; indique um destes: %2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>Não há nenhum trabalho &quot;%1&quot; deixado por um programa interrompido; não ficou nenhum</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>Não há nenhum trabalho &quot;%1&quot; deixado por um programa interrompido; ficaram estes: %2</translation>
     </message>
 </context>
 <context>
@@ -1043,6 +1085,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>O registo &quot;%1&quot; de um trabalho que estava a ser enviado está danificado e foi removido; verifique nas suas filas se ficou algum trabalho.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1340,6 +1389,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>contém imagens com mais píxeis do que se pode imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>O servidor de impressão &quot;%1&quot; já não tem nenhum trabalho &quot;%2&quot; na fila &quot;%3&quot;, ou ele terminou.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>O trabalho %1-%2 no servidor de impressão &quot;%3&quot; não está retido: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>O trabalho %1-%2 no servidor de impressão &quot;%3&quot; foi libertado.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>O trabalho %1-%2 no servidor de impressão &quot;%3&quot; foi retirado.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Um programa interrompido durante a impressão pode ter deixado o trabalho %1 (&quot;%2&quot;) no servidor de impressão &quot;%3&quot;, talvez sem todos os documentos.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Um programa interrompido durante a impressão pode ter deixado um trabalho &quot;%1&quot; sem documentos na fila &quot;%2&quot; do servidor de impressão &quot;%3&quot;.</translation>
     </message>
 </context>
 <context>

@@ -262,6 +262,14 @@
   129, 130, 143  在作业发送之前被信号中断
 </translation>
     </message>
+    <message>
+        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <translation>撤回被中止的程序留在打印服务器上的作业。</translation>
+    </message>
+    <message>
+        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <translation>打印服务器上已有的此类作业内容，可能不是全部文档。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::Console</name>
@@ -507,6 +515,40 @@
     <message>
         <source>Cancel the &amp;job</source>
         <translation>取消作业(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>忽略</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>撤回作业</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>打印已有内容</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::LeftJobsRun</name>
+    <message>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <translation>“kvprint --cancel-left %1”撤回它，“kvprint --release-left %1”打印服务器上已有的内容。</translation>
+    </message>
+    <message>
+        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <translation>多个打印服务器上留有作业“%1”；请指定其中之一：%2</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <translation>没有被中止的程序留下的作业“%1”；没有留下任何作业</translation>
+    </message>
+    <message>
+        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <translation>没有被中止的程序留下的作业“%1”；留下的作业有：%2</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1084,13 @@
     </message>
 </context>
 <context>
+    <name>host::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>正在发送的作业的记录“%1”已损坏并被删除；请查看您使用的队列中是否留有作业。</translation>
+    </message>
+</context>
+<context>
     <name>host::JobOptions</name>
     <message>
         <source>printer default</source>
@@ -1338,6 +1387,33 @@
     <message>
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>其中的图片像素过多，无法打印</translation>
+    </message>
+</context>
+<context>
+    <name>host::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>打印服务器“%1”的队列“%3”中已没有作业“%2”，或者它已结束。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>打印服务器“%3”上的作业 %1-%2 未被保留：%4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>打印服务器“%3”上的作业 %1-%2 已释放。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>打印服务器“%3”上的作业 %1-%2 已撤回。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>一个在打印时被中止的程序可能在打印服务器“%3”上留下了作业 %1（“%2”），也许缺少部分文档。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>一个在打印时被中止的程序可能在打印服务器“%3”的队列“%2”中留下了没有文档的作业“%1”。</translation>
     </message>
 </context>
 <context>
