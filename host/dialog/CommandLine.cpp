@@ -22,6 +22,11 @@ UsageError wrong(const QString &message)
     return {UsageProblem::Wrong, message};
 }
 
+bool takesDocuments(Task task)
+{
+    return task == Task::Print || task == Task::Summary || task == Task::DryRun;
+}
+
 /// Reads the words one after the other, as lp does: letters may stand together ("-sd tape"), and a value is
 /// the rest of its word or the next word, whatever that looks like.
 class Reader {
@@ -132,8 +137,7 @@ private:
 
     std::optional<UsageError> checkDocuments() const
     {
-        const bool takesDocuments = m_command.task != Task::List && m_command.task != Task::ChangeJob;
-        if (!takesDocuments && !m_command.documents.isEmpty())
+        if (!takesDocuments(m_command.task) && !m_command.documents.isEmpty())
             return wrong(CommandLineText::tr("\"%1\" takes no documents, and \"%2\" was named")
                              .arg(taskSpelling(), m_command.documents.constFirst()));
         if (m_command.documents.count(QStringLiteral("-")) > 1)
@@ -187,8 +191,7 @@ host::Result<CommandLine, UsageError> CommandLine::parse(const QStringList &argu
 
 std::optional<UsageError> CommandLine::checkInput(bool inputIsTerminal) const
 {
-    const bool wantsDocument = task != Task::List && task != Task::ChangeJob;
-    if (!wantsDocument || !documents.isEmpty() || !inputIsTerminal)
+    if (!takesDocuments(task) || !documents.isEmpty() || !inputIsTerminal)
         return std::nullopt;
     return wrong(CommandLineText::tr("No document was named; name a file, or \"-\" to type one in"));
 }

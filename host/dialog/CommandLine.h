@@ -39,10 +39,12 @@ inline ExitStatus statusOfSignal(int signal)
 /// What a run of the program is for.
 enum class Task {
     Print,
-    List,      ///< tells the destinations
-    Summary,   ///< tells what the dialog's summary shows
-    DryRun,    ///< does everything but sending
-    ChangeJob, ///< changes a job that waits
+    List,        ///< tells the destinations
+    Summary,     ///< tells what the dialog's summary shows
+    DryRun,      ///< does everything but sending
+    ChangeJob,   ///< changes a job that waits
+    CancelLeft,  ///< cancels a job that a killed program has left on a print server
+    ReleaseLeft, ///< prints what a server has of such a job
 };
 
 /// What kvprint was asked to do.
@@ -74,6 +76,8 @@ struct CommandLine {
     std::optional<QString> title;
     /// The number of the job that ChangeJob is about; its queue is the destination, if one was named.
     std::optional<int> jobToChange;
+    /// The name or the identifier of the job that CancelLeft and ReleaseLeft are about.
+    QString leftJob;
     /// Without the message that a job was sent.
     bool quiet = false;
     /// The user wants to be told by mail when the job is over; quiet then, as lp is.

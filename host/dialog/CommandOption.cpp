@@ -74,6 +74,13 @@ Complaint takePaper(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
+template<Task Wanted>
+Complaint takeLeftJob(CommandLine &command, const QString &value)
+{
+    command.task = Wanted;
+    return takeText<&CommandLine::leftJob>(command, value);
+}
+
 /// Documents are always copied before the program ends.
 Complaint takeCopyFlag(CommandLine &, const QString &)
 {
@@ -133,6 +140,14 @@ constexpr CommandOption options[] = {
     {'i', nullptr, "[QUEUE-]JOB",
      QT_TRANSLATE_NOOP("dialog::CommandLine", "Changes a job that was sent before."), bit(Task::ChangeJob),
      Queue, takeJob},
+    {0, "cancel-left", "JOB",
+     QT_TRANSLATE_NOOP("dialog::CommandLine",
+                       "Cancels a job that a program left on a print server when it was stopped."),
+     bit(Task::CancelLeft), Queue, takeLeftJob<Task::CancelLeft>},
+    {0, "release-left", "JOB",
+     QT_TRANSLATE_NOOP("dialog::CommandLine",
+                       "Prints what the print server has of such a job, perhaps not all documents."),
+     bit(Task::ReleaseLeft), Queue, takeLeftJob<Task::ReleaseLeft>},
     {0, "no-dialog", nullptr,
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "Prints at once, with the settings that the dialog would open with."),

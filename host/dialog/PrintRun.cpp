@@ -5,6 +5,7 @@
 #include "CommandWishes.h"
 #include "HeadlessRun.h"
 #include "JobWindow.h"
+#include "LeftJobsRun.h"
 #include "PasswordDialog.h"
 #include "QueueSender.h"
 #include "Screenshot.h"
@@ -142,6 +143,7 @@ ExitStatus PrintRun::runOnQueue()
     host::CupsServer server = cupsServer(m_command);
     if (m_command.noDialog || m_command.task != Task::Print) {
         server.askPassword = askOnTerminal();
+        LeftJobsRun(m_command, m_console).tell();
         return HeadlessRun(m_command, m_console, server, std::move(document)).run();
     }
 
@@ -212,6 +214,11 @@ ExitStatus PrintRun::run()
         host::CupsServer server = cupsServer(m_command);
         server.askPassword = askOnTerminal();
         return ServerRun(m_command, m_console, server).run();
+    }
+    if (m_command.task == Task::CancelLeft || m_command.task == Task::ReleaseLeft) {
+        host::CupsServer server = cupsServer(m_command);
+        server.askPassword = askOnTerminal();
+        return LeftJobsRun(m_command, m_console).settle(server);
     }
     return m_command.ppd ? runVirtual() : runOnQueue();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ServerRun.h"
 
+#include "BackgroundOutcome.h"
 #include "DestinationReport.h"
 
 #include <host/cups/ChoiceCheck.h>
@@ -10,27 +11,6 @@
 #include <QEventLoop>
 
 namespace dialog {
-
-namespace {
-
-/// Runs the work in the background and the event loop meanwhile; answers what came of it.
-template<typename Work>
-auto outcomeOf(Work work)
-{
-    host::Background background;
-    QEventLoop loop;
-    std::optional<decltype(work(std::declval<host::BackgroundTask &>()))> outcome;
-    background.start([&, work](host::BackgroundTask &task) {
-        task.deliver([&, now = work(task)] {
-            outcome = now;
-            loop.quit();
-        });
-    });
-    loop.exec();
-    return *outcome;
-}
-
-} // namespace
 
 ServerRun::ServerRun(const CommandLine &command, const Console &console, host::CupsServer server)
     : m_command(command)

@@ -56,7 +56,7 @@ _kvprint() {
     local command=$1 current=$2 previous=$3
     local letters='-d -h -U -E -n -P -o -t -q -H -m -s -c -i --'
     local names='--paper --no-dialog --list --summary --dry-run --json --force --screenshot --bundle --ppd
-        --output --help --version'
+        --output --cancel-left --release-left --help --version'
     local IFS=$' \t\n'
     COMPREPLY=()
     case $previous in
@@ -72,7 +72,7 @@ _kvprint() {
         ;;
     -U) COMPREPLY=($(compgen -u -- "$current")) ;;
     -h) COMPREPLY=($(compgen -A hostname -- "$current")) ;;
-    -n | -P | -q | -t | -i) ;;
+    -n | -P | -q | -t | -i | --cancel-left | --release-left) ;;
     --bundle | --output)
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -d -- "$current")

@@ -114,6 +114,46 @@ TEST_F(KvprintSignals, AKilledProgramLeavesNoPartOfAJobToBePrinted)
     EXPECT_EQ(job.value("job-hold-until"), "indefinite");
 }
 
+TEST_F(KvprintSignals, TheJobOfAKilledProgramIsToldAndSettledOnRequest)
+{
+    const FaultyServer slow(cupsd.port(), {.bytesPerSecond = 20000});
+    const auto dryRun = [&] {
+        return kvprint.run({QStringLiteral("--dry-run"), QStringLiteral("-d"), tape, picture()});
+    };
+    for (int jobId = 1; jobId <= 2; ++jobId) {
+        QProcess killed;
+        start(killed, slow);
+        waitUntilSending(jobId);
+        // A program that runs leaves nothing.
+        EXPECT_EQ(dryRun().error, QByteArray());
+        ASSERT_EQ(kill(static_cast<pid_t>(killed.processId()), SIGKILL), 0);
+        ASSERT_TRUE(killed.waitForFinished(failureMilliseconds));
+        const QByteArray name = "tape-" + QByteArray::number(jobId);
+        const Outcome told = dryRun();
+        EXPECT_EQ(told.status, 0) << told;
+        EXPECT_TRUE(told.error.contains("may have left job " + name)) << told;
+        EXPECT_TRUE(told.error.contains(slow.address().toUtf8())) << told;
+        EXPECT_TRUE(told.error.contains("kvprint --cancel-left " + name)) << told;
+        // Nothing happens to it by itself.
+        EXPECT_EQ(jobStates().value(jobId), 4);
+
+        const Outcome none = kvprint.run({QStringLiteral("--cancel-left"), QStringLiteral("tape-7")});
+        EXPECT_EQ(none.status, 1) << none;
+        EXPECT_TRUE(none.error.contains("these are left: " + name)) << none;
+        const QString action =
+            jobId == 1 ? QStringLiteral("--cancel-left") : QStringLiteral("--release-left");
+        const Outcome settled = kvprint.run({action, QString::fromUtf8(name)});
+        EXPECT_EQ(settled.status, 0) << settled;
+        EXPECT_TRUE(settled.out.contains("Job " + name)) << settled;
+        EXPECT_EQ(dryRun().error, QByteArray());
+    }
+    EXPECT_EQ(jobStates().value(1), 7);
+    EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, 2);
+    const Outcome none = kvprint.run({QStringLiteral("--release-left"), QStringLiteral("tape-2")});
+    EXPECT_EQ(none.status, 1) << none;
+    EXPECT_TRUE(none.error.contains("none is left")) << none;
+}
+
 TEST_F(KvprintSignals, EndTheWaitForAServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});
