@@ -39,20 +39,39 @@ void Banner::build()
     m_view->setWidgetResizable(true);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->viewport()->setBackgroundRole(QPalette::ToolTipBase);
-    m_remedy = new ElidedButton(this);
-    m_remedy->setAutoDefault(false);
+    m_remedy = makeButton();
     connect(m_remedy, &QPushButton::clicked, this, &Banner::remedyClicked);
+    m_alternative = makeButton();
+    connect(m_alternative, &QPushButton::clicked, this, &Banner::alternativeClicked);
+    auto *const buttons = new QHBoxLayout;
+    buttons->addWidget(m_remedy);
+    buttons->addWidget(m_alternative);
+    buttons->addStretch();
     auto *const layout = new QGridLayout(this);
     layout->addWidget(icon, 0, 0, Qt::AlignTop);
     layout->addWidget(m_view, 0, 1);
     // Below the text: beside it, a long remedy would leave the text no room.
-    layout->addWidget(m_remedy, 1, 1, Qt::AlignLeading);
+    layout->addLayout(buttons, 1, 1);
     layout->setColumnStretch(1, 1);
     // Before it is shown: the window would make room for a whole empty page.
     fitText();
 }
 
-void Banner::setMessage(const QString &message, const QString &remedy)
+ElidedButton *Banner::makeButton()
+{
+    auto *const button = new ElidedButton(this);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void Banner::setButton(ElidedButton *button, const QString &text)
+{
+    // An ampersand in a PPD's text is no shortcut.
+    button->setText(QString(text).replace(u'&', QStringLiteral("&&")));
+    button->setVisible(!text.isEmpty());
+}
+
+void Banner::setMessage(const QString &message, const QString &remedy, const QString &alternative)
 {
     if (!m_text && message.isEmpty())
         return;
@@ -61,9 +80,8 @@ void Banner::setMessage(const QString &message, const QString &remedy)
     if (message != m_text->text())
         m_view->verticalScrollBar()->setValue(0);
     m_text->setText(message);
-    // An ampersand in a PPD's text is no shortcut.
-    m_remedy->setText(QString(remedy).replace(u'&', QStringLiteral("&&")));
-    m_remedy->setVisible(!remedy.isEmpty());
+    setButton(m_remedy, remedy);
+    setButton(m_alternative, alternative);
     setAccessibleName(message);
     m_view->setAccessibleName(message);
     setVisible(!message.isEmpty());

@@ -19,12 +19,13 @@ class Banner : public QFrame {
 public:
     explicit Banner(QWidget *parent);
 
-    /// Shows the message; an empty one hides the banner. The button says what it does; empty for no button.
-    void setMessage(const QString &message, const QString &remedy = {});
+    /// Shows the message; an empty one hides the banner. The buttons say what they do; empty for no button.
+    void setMessage(const QString &message, const QString &remedy = {}, const QString &alternative = {});
     QString message() const;
 
 Q_SIGNALS:
     void remedyClicked();
+    void alternativeClicked();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -33,6 +34,8 @@ protected:
 
 private:
     void build();
+    ElidedButton *makeButton();
+    static void setButton(ElidedButton *button, const QString &text);
     void fitText();
 
     // Null until there is something to tell; most dialogs never have any of it.
@@ -40,6 +43,8 @@ private:
     /// Where the text is scrolled.
     QScrollArea *m_view = nullptr;
     ElidedButton *m_remedy = nullptr;
+    /// For what can be done instead.
+    ElidedButton *m_alternative = nullptr;
 };
 
 } // namespace dialog

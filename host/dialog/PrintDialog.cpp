@@ -6,6 +6,7 @@
 #include "ConflictQuestion.h"
 #include "DialogPages.h"
 #include "FittedLabel.h"
+#include "LeftJobBanner.h"
 #include "PageOptions.h"
 #include "PanelWatch.h"
 #include "ProblemBanner.h"
@@ -62,6 +63,7 @@ void PrintDialog::build(const DialogWishes &wishes)
     m_stripPreview = new StripPreview(m_content);
     // With lines in reserve, the window does not grow at every click.
     m_figures = new FittedLabel(3, 20, this);
+    auto *const leftJobs = session ? new LeftJobBanner(session->server(), this) : nullptr;
     m_sendBar = new SendBar(this);
     m_buttons = new QDialogButtonBox(this);
     m_printButton = m_buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
@@ -81,6 +83,10 @@ void PrintDialog::build(const DialogWishes &wishes)
     layout->addWidget(m_figures);
     layout->addWidget(m_conflictBanner);
     layout->addWidget(m_problemBanner);
+    if (leftJobs) {
+        layout->addWidget(leftJobs);
+        leftJobs->lookForJobs();
+    }
     layout->addWidget(m_sendBar);
     layout->addWidget(m_buttons);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LeftJobBanner.h"
+
+namespace dialog {
+
+LeftJobBanner::LeftJobBanner(host::CupsServer server, QWidget *parent)
+    : Banner(parent)
+    , m_server(std::move(server))
+{
+    connect(this, &Banner::remedyClicked, this, [this] {
+        if (m_jobs.empty())
+            setMessage({});
+        else
+            settle(host::LeftJobAction::Cancel);
+    });
+    connect(this, &Banner::alternativeClicked, this, [this] { settle(host::LeftJobAction::Release); });
+}
+
+void LeftJobBanner::lookForJobs()
+{
+    host::JobJournal::Left left = host::JobJournal().left();
+    m_jobs = std::move(left.jobs);
+    m_news = left.damages;
+    showNext();
+}
+
+void LeftJobBanner::showNext()
+{
+    if (m_jobs.empty()) {
+        setMessage(m_news.join(u'\n'), m_news.isEmpty() ? QString() : tr("Dismiss"));
+        return;
+    }
+    const QStringList sentences = m_news + QStringList{host::leftJobSentence(m_jobs.front())};
+    setMessage(sentences.join(u'\n'), tr("Cancel the job"), tr("Print what is there"));
+}
+
+void LeftJobBanner::settle(host::LeftJobAction action)
+{
+    // Not pressed twice while the server is asked.
+    setEnabled(false);
+    m_server.passwords->forgetRefusal();
+    m_background.start([this, server = m_server, job = m_jobs.front(), action](host::BackgroundTask &task) {
+        const auto outcome = host::settleLeftJob(server, job, action, task);
+        task.deliver([this, outcome] { takeOutcome(outcome); });
+    });
+}
+
+void LeftJobBanner::takeOutcome(const host::Result<QString, host::CupsError> &outcome)
+{
+    setEnabled(true);
+    if (outcome)
+        m_jobs.erase(m_jobs.begin());
+    m_news = {outcome ? outcome.value() : outcome.error().message};
+    showNext();
+}
+
+} // namespace dialog
