@@ -59,25 +59,21 @@ bool JobFate::hasAllDocuments(const JobStatus &job) const
 
 std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError &reason) const
 {
-    // The job is not released yet, so that it can only be held.
-    const auto notKnown = [&](const CupsError &obstacle) {
-        return m_hold.isNeeded() ? isLeft(jobId, reason, obstacle) : mayBePrinted(jobId, reason);
-    };
+    // What the server counts as a document may be the half of one, which is not to be released.
+    if (m_hold.isNeeded())
+        return takenBack(jobId, reason);
     BackgroundTask task;
     Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
     if (!connection)
-        return notKnown(connection.error());
+        return mayBePrinted(jobId, reason);
     const Result<JobStatus, CupsError> job = ask(connection.value(), jobId);
     if (!job)
-        return notKnown(job.error());
+        return mayBePrinted(jobId, reason);
     if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
         return isOver(job.value(), reason);
     if (!hasAllDocuments(job.value()))
         return takenBack(jobId, reason);
-    const std::optional<CupsError> error = m_hold.end(connection.value(), m_ticket.destination.queue, jobId);
-    if (!error)
-        return std::nullopt;
-    return connection.value().lacksAnswer() ? ofUnansweredRelease(jobId, *error) : takenBack(jobId, *error);
+    return std::nullopt;
 }
 
 std::optional<CupsError> JobFate::ofUnansweredRelease(int jobId, const CupsError &reason) const

@@ -18,8 +18,9 @@ public:
     /// The answer to Create-Job is lost. Cancels the job if the server has made it, which has no documents
     /// then; answers the reason, and what may be left when nobody can tell.
     CupsError ofUnansweredCreation(const QByteArray &uuid, const CupsError &reason) const;
-    /// The last document was sent to its last byte and the answer is lost. Nothing when the server has all
-    /// documents and the job goes its way; otherwise the reason with what has become of the job.
+    /// The last document was sent to its last byte and the answer is lost. A job that is held is canceled. Of
+    /// another one: nothing when the server has all documents and the job goes its way; otherwise the reason
+    /// with what has become of the job.
     std::optional<CupsError> ofUnansweredDocument(int jobId, const CupsError &reason) const;
     /// The answer to the job's release is lost. Nothing when the server has released it.
     std::optional<CupsError> ofUnansweredRelease(int jobId, const CupsError &reason) const;

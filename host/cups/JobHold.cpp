@@ -42,8 +42,6 @@ bool canHold(ipp_t *queue)
 Result<JobHold, CupsError> JobHold::forTicket(CupsConnection &connection, const JobTicket &ticket)
 {
     JobHold hold;
-    if (ticket.documents.size() < 2)
-        return hold;
     const Result<IppPointer, CupsError> queue = askQueue(connection, ticket.destination.queue);
     if (!queue)
         return queue.error();

@@ -6,20 +6,20 @@
 
 namespace host {
 
-/// Holds a job with several documents until the server has all of them.
+/// Holds a job until the server has all of its documents.
 ///
 /// A server prints the documents that it has when the rest does not come within its
 /// MultipleOperationTimeout: without the hold, a program that is killed or a link that breaks between two
-/// documents makes it print the first ones alone. A job with a single document needs no hold: the server
-/// takes a document only when its last byte has come, and does not print a job without documents.
+/// documents makes it print the first ones alone. A single document needs the hold as well: cupsd may take
+/// a connection that is closed in the middle of a document for the document's end, and begins to print the
+/// half of it before anybody can cancel the job.
 class JobHold {
 public:
-    /// The hold that the ticket's job needs while it is sent. Asks the server about the queue when the job
-    /// has several documents; an error when it does not tell. For tasks in the background.
+    /// The hold of the ticket's job while it is sent. Asks the server about the queue; an error when it does
+    /// not tell. For tasks in the background.
     static Result<JobHold, CupsError> forTicket(CupsConnection &connection, const JobTicket &ticket);
 
-    /// Whether the job is held while it is sent; not when it has one document only, and when the queue knows
-    /// no hold without end.
+    /// Whether the job is held while it is sent; not when the queue knows no hold without end.
     bool isNeeded() const { return m_isNeeded; }
     /// The ticket's options with the hold, for Create-Job.
     std::vector<JobOption> optionsForCreation(const JobTicket &ticket) const;

@@ -21,8 +21,8 @@ struct UploadProgress {
 /// anything fails later, or the task is cancelled, the job is taken back, so that nothing of it is
 /// printed and sending it again prints it once. When the server's answer is lost, the server is asked what it
 /// has: a job of which it has everything is sent. CupsFailure::OutcomeUnknown when something may be left on
-/// the server or printed, in words. Nothing of a job with several documents is printed before the server has
-/// all of them: see JobHold. The progress is told on the task's thread.
+/// the server or printed, in words. Nothing of a job is printed before the server has
+/// all of it: see JobHold. The progress is told on the task's thread.
 Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
                                  const std::function<void(const UploadProgress &)> &progress);
 
