@@ -8,6 +8,7 @@
 set -u
 status=0
 fortified=$1
+checked=false
 shift
 
 # fails PROGRAM WHAT
@@ -33,7 +34,8 @@ for program; do
     esac
     printf '%s\n' "$header" | grep -q 'GNU_STACK.* RW ' || fails "$program" "the stack can be executed"
     printf '%s\n' "$symbols" | grep -q '__stack_chk_fail' || fails "$program" "no -fstack-protector-strong"
-    [ "$fortified" = plain ] || printf '%s\n' "$symbols" | grep -q '_chk@' ||
-        fails "$program" "no _FORTIFY_SOURCE"
+    printf '%s\n' "$symbols" | grep -v __stack_chk_fail | grep -q '_chk@' && checked=true
 done
+# Not every program calls a function of the C library that has a checked form.
+[ "$fortified" = plain ] || $checked || fails "$*" "no _FORTIFY_SOURCE in any of them"
 exit $status
