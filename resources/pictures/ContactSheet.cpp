@@ -18,7 +18,8 @@ constexpr QSize popUpList(138, 60);
 constexpr QSize popUpButton(66, 29);
 constexpr int reductionTop = pictureTop + naturalSize.height() + gap;
 constexpr int twiceLeft = gap + popUpList.width() + gap + popUpButton.width() + gap;
-constexpr QSize row(twiceLeft + 2 * naturalSize.width() + gap, pictureTop + 2 * naturalSize.height() + gap);
+constexpr QSize rowSize(twiceLeft + 2 * naturalSize.width() + gap,
+                        pictureTop + 2 * naturalSize.height() + gap);
 
 void drawReduced(QPainter &painter, QPoint where, const QImage &twice, QSize size)
 {
@@ -34,7 +35,7 @@ Problems drawRow(QPainter &painter, const PictureSpec &spec, Theme theme)
             return *problems;
     }
     const QImage &dense = std::get<QImage>(twice);
-    painter.fillRect(QRect(QPoint(0, 0), row), windowColour(theme));
+    painter.fillRect(QRect(QPoint(0, 0), rowSize), windowColour(theme));
     painter.setPen(theme == Theme::Light ? Qt::black : Qt::white);
     painter.drawText(gap, nameBase, spec.name);
     painter.drawImage(gap, pictureTop, std::get<QImage>(single));
@@ -49,15 +50,15 @@ Problems drawRow(QPainter &painter, const PictureSpec &spec, Theme theme)
 std::variant<QImage, Problems> contactSheet()
 {
     const std::vector<PictureSpec> &all = allPictures();
-    QImage sheet(2 * row.width(), row.height() * static_cast<int>(all.size()),
+    QImage sheet(2 * rowSize.width(), rowSize.height() * static_cast<int>(all.size()),
                  QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&sheet);
     Problems problems;
     for (const PictureSpec &spec : all) {
         problems += drawRow(painter, spec, Theme::Light);
-        painter.translate(row.width(), 0);
+        painter.translate(rowSize.width(), 0);
         problems += drawRow(painter, spec, Theme::Dark);
-        painter.translate(-row.width(), row.height());
+        painter.translate(-rowSize.width(), rowSize.height());
     }
     painter.end();
     if (!problems.isEmpty())
