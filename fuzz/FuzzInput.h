@@ -18,6 +18,8 @@ public:
     {
     }
 
+    bool isEmpty() const { return m_size == 0; }
+
     template<typename Number>
     Number number()
     {

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+// A command line, its arguments ended by NUL as the system hands them over. A refusal has words.
+#include <host/dialog/CommandLine.h>
+
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    QStringList arguments{QStringLiteral("kvprint")};
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    for (const QByteArray &argument : bytes.split('\0'))
+        arguments.append(QString::fromUtf8(argument));
+    const auto command = dialog::CommandLine::parse(arguments);
+    if (!command && command.error().message.isEmpty())
+        qFatal("refused without a word");
+    return 0;
+}

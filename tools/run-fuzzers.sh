@@ -1,0 +1,38 @@
+#!/bin/sh
+# SPDX-License-Identifier: Apache-2.0
+# tools/run-fuzzers.sh [SECONDS [NAME...]]: builds the fuzzers and runs each for so many seconds, 20 by default, under
+# AddressSanitizer and UndefinedBehaviorSanitizer, two at a time. Starts from fuzz/corpus, which stays as it is; new
+# inputs go to build/fuzz/corpus. An input that fails lies in build/fuzz/findings; the exit status is 1 then.
+set -eu
+here=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
+. "$here/tools/frontdoor.sh"
+seconds=${1:-20}
+[ $# -eq 0 ] || shift
+
+command -v clang++-14 >/dev/null || { echo "It needs the packages clang-14 and libclang-rt-14-dev." >&2; exit 1; }
+install_missing_packages "$here"
+build "$here" fuzz fuzzers
+names=${*:-$(sed -n 's/^kv_fuzzer(//p' "$here/fuzz/Fuzzers.cmake")}
+findings="$here/build/fuzz/findings"
+rm -rf "$findings"
+mkdir -p "$findings"
+export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 LSAN_OPTIONS=suppressions="$here/tests/support/lsan.supp"
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANGUAGE=en
+
+# shellcheck disable=SC2086 # the list is words
+printf '%s\n' $names | xargs -n 1 -P "$(nproc)" sh -c '
+    here=$1 seconds=$2 findings=$3 name=$4
+    new="$here/build/fuzz/corpus/$name"
+    mkdir -p "$new"
+    dictionary=""
+    [ ! -f "$here/fuzz/$name.dict" ] || dictionary="-dict=$here/fuzz/$name.dict"
+    log="$findings/$name.log"
+    if "$here/build/fuzz/fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
+        -artifact_prefix="$findings/$name-" ${dictionary:+"$dictionary"} "$new" "$here/fuzz/corpus/$name" \
+        >"$log" 2>&1; then
+        echo "fuzz_$name: $(grep -a "^Done" "$log" | tail -1)"
+    else
+        tail -n 40 "$log"
+        echo "fuzz_$name: failed; the whole log is $log"
+        exit 1
+    fi' sh "$here" "$seconds" "$findings"
