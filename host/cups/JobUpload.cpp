@@ -216,7 +216,7 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         return connection.value().lastError();
     Upload upload(connection.value(), ticket, hold.value(), task);
     JobJournalEntry entry(upload.record());
-    const Result<int, CupsError> job =
+    Result<int, CupsError> job =
         send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
     // What may be left on the server is told again by the next program.
     if (job || job.error().kind != CupsFailure::OutcomeUnknown)

@@ -23,7 +23,7 @@ LeftJobsRun::LeftJobsRun(const CommandLine &command, const Console &console)
 
 host::JobJournal::Left LeftJobsRun::takeLeft() const
 {
-    const host::JobJournal::Left left = host::JobJournal().left();
+    host::JobJournal::Left left = host::JobJournal().left();
     for (const QString &damage : left.damages)
         m_console.complain(damage);
     return left;
