@@ -34,8 +34,7 @@ inline void makeFifo(const QString &path)
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
 }
 
-/// Makes the character device that is always full. Tests that run as root use no device of the system: one
-/// that was replaced would be missed. Nothing where devices cannot be made or are not usable.
+/// Makes the character device that is always full; nothing where devices cannot be made or are not usable.
 inline std::optional<QString> makeFullDevice(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -88,6 +87,24 @@ public:
 
 private:
     bool m_isRoot;
+};
+
+/// The character device that is always full: one of the test's own, or the system's where none can be made.
+/// While the system's is used, the process is not root, so that a fault in what is tested cannot replace it.
+class FullDevice {
+public:
+    /// The path is where the test's own is made.
+    explicit FullDevice(const QString &path)
+        : m_own(makeFullDevice(path))
+    {
+        if (!m_own)
+            m_user.emplace();
+    }
+    QString path() const { return m_own.value_or(QStringLiteral("/dev/full")); }
+
+private:
+    std::optional<QString> m_own;
+    std::optional<OrdinaryUser> m_user;
 };
 
 } // namespace test_support
