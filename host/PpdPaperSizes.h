@@ -29,9 +29,9 @@ public:
     /// round.
     static bool isUsable(const QSizeF &size);
 
-    /// Width and length in points; nothing when the PPD does not tell, or tells one that is not usable.
+    /// Width and length in points; nothing when the PPD has none, or one that is not usable.
     std::optional<QSizeF> size(const QByteArray &paper) const;
-    /// What the PPD tells in place of a usable size; nothing when the size is usable or unknown.
+    /// The size that the PPD has in place of a usable one; nothing when the size is usable or unknown.
     std::optional<QSizeF> unusableSize(const QByteArray &paper) const;
     /// What the printer cannot reach at each edge, in points; nothing when the PPD does not tell.
     std::optional<QMarginsF> margins(const QByteArray &paper) const;

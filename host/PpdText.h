@@ -12,7 +12,7 @@ namespace host {
 
 /// Follows the text of a PPD, piece by piece, for what libcups does not tell.
 ///
-/// It tells whether the text could end where it does: libcups takes a file that ends inside a value for a
+/// It reports whether the text may end where it does: libcups takes a file that ends inside a value for a
 /// whole one, so a half-downloaded PPD would open with options missing. It collects the translations: libcups
 /// keeps those of one language only, the one of the process's locale, which need not be the one that the
 /// dialog is shown in. It collects the sizes of papers by their exact names, which libcups does not keep

@@ -126,7 +126,8 @@ bool OutputFile::writeToDevice()
         O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (m_way == Way::FollowLink ? 0 : O_NOFOLLOW);
     const int descriptor = ::open(QFile::encodeName(m_path).constData(), flags); // NOLINT
     if (descriptor < 0)
-        return refuse(errno == ENXIO ? OutputFileText::tr("nobody reads from it") : qt_error_string(errno));
+        return refuse(errno == ENXIO ? OutputFileText::tr("no program reads from it")
+                                     : qt_error_string(errno));
     struct stat status = {};
     const bool isDevice =
         ::fstat(descriptor, &status) == 0 &&

@@ -15,10 +15,10 @@ namespace platform {
 /// A file that the program writes where the user says. It takes its place whole or not at all, can be read by
 /// this user only (0600), and replaces nothing but a regular file:
 ///
-/// - Character devices and FIFOs that somebody reads from are written to, and stay what they are.
+/// - Character devices and FIFOs with a reader are written to, and stay what they are.
 /// - Folders, sockets and block devices are refused.
-/// - Symbolic links are refused, so that nobody who may write to the folder chooses which file is
-///   overwritten; except for those to character devices, such as /dev/stdout.
+/// - Symbolic links are refused, so that another user with write access to the folder cannot choose which
+///   file is overwritten; except for those to character devices, such as /dev/stdout.
 class OutputFile {
 public:
     explicit OutputFile(QString path);

@@ -60,8 +60,8 @@ void removeAbandoned(const QByteArray &name)
     if (descriptor < 0)
         return;
     struct stat opened = {};
-    // Only who has the lock looks again: until then the file may get its final name, and another one its
-    // name.
+    // The name is compared again under the lock: until then the file may get its final name, and another file
+    // this one.
     if (::fstat(descriptor, &opened) == 0 && isOwnFile(opened) &&
         ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::lstat(name.constData(), &found) == 0 &&
         isSame(opened, found))

@@ -7,8 +7,8 @@ namespace platform {
 
 /// A file that only this user can read and write (0600), whatever the umask is; gone with the object.
 ///
-/// The program holds a lock on the file as long as it is open. A file of this name that nobody has locked is
-/// what a killed program has left; removeLeftOvers() takes it away.
+/// The program holds a lock on the file as long as it is open. A file of this name that no program has locked
+/// is what a killed program has left; removeLeftOvers() takes it away.
 class TemporaryFile : public QFile {
 public:
     /// For a file in the folder, which must be there.

@@ -37,7 +37,7 @@ CupsError JobFate::ofUnansweredCreation(const QByteArray &uuid, const CupsError 
 {
     const Result<std::optional<int>, CupsError> job = find(uuid);
     if (job)
-        return job.value() ? takenBack(*job.value(), reason) : reason;
+        return job.value() ? cancel(*job.value(), reason) : reason;
     return {CupsFailure::OutcomeUnknown,
             JobFateText::tr("%1 A job \"%2\" without documents may be left in the queue \"%3\" of the print "
                             "server \"%4\"; nothing of it is printed.")
@@ -52,7 +52,7 @@ Result<JobStatus, CupsError> JobFate::ask(CupsConnection &connection, int jobId)
 
 bool JobFate::hasAllDocuments(const JobStatus &job) const
 {
-    // A server that does not count them prints nothing before it has them, unless it is told to wait.
+    // A server that does not count them prints nothing before it has them, unless the job is held.
     return job.documents ? *job.documents >= static_cast<int>(m_ticket.documents.size())
                          : job.state != JobState::Held;
 }
@@ -61,7 +61,7 @@ std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsErro
 {
     // What the server counts as a document may be the half of one, which is not to be released.
     if (m_hold.isNeeded())
-        return takenBack(jobId, reason);
+        return cancel(jobId, reason);
     BackgroundTask task;
     Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
     if (!connection)
@@ -72,7 +72,7 @@ std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsErro
     if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
         return isOver(job.value(), reason);
     if (!hasAllDocuments(job.value()))
-        return takenBack(jobId, reason);
+        return cancel(jobId, reason);
     return std::nullopt;
 }
 
@@ -94,11 +94,11 @@ std::optional<CupsError> JobFate::ofUnansweredRelease(int jobId, const CupsError
     if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
         return isOver(job.value(), reason);
     if (job.value().state == JobState::Held && m_hold.isStillOn(job.value().heldUntil))
-        return takenBack(jobId, reason);
+        return cancel(jobId, reason);
     return std::nullopt;
 }
 
-CupsError JobFate::takenBack(int jobId, const CupsError &reason) const
+CupsError JobFate::cancel(int jobId, const CupsError &reason) const
 {
     BackgroundTask task;
     const std::optional<CupsError> error = cancelJob(m_server, m_ticket.destination.queue, jobId, task);

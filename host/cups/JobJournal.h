@@ -20,13 +20,13 @@ struct JobRecord {
     /// "host:port" or the path of a local socket, as the programs of CUPS take it after -h.
     QString server;
     bool encrypts = false;
-    /// For whom it is printed; nothing for libcups's own choice.
+    /// The user of the job; nothing for libcups's own choice.
     std::optional<QString> user = {};
     QString queue;
     QString title;
     /// "urn:uuid:...", by which the server knows the job as well.
     QByteArray uuid;
-    /// The server's number of the job; nothing as long as the server has not told it.
+    /// The server's number of the job; nothing until the server has answered.
     std::optional<int> jobId = {};
 
     /// A short name that no other job has: the beginning of the identifier.
@@ -37,7 +37,7 @@ struct JobRecord {
 
 /// The jobs that are being sent, in $XDG_STATE_HOME/kvprint/jobs: one file for each, which only this user can
 /// read (0600, in folders of 0700), from before the job is created until its fate is known. A file whose
-/// program has ended tells of a job that may be left on a server.
+/// program has ended stands for a job that may be left on a server.
 class JobJournal {
 public:
     JobJournal();
@@ -50,7 +50,7 @@ public:
     };
     /// The jobs whose programs have ended; those of programs that still run are left alone.
     Left left() const;
-    /// Forgets a job whose fate is known.
+    /// Removes a job whose fate is known.
     void remove(const JobRecord &record) const;
 
     const QString &folder() const { return m_folder; }

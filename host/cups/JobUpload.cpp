@@ -41,7 +41,7 @@ public:
                 .title = sendableTitle(m_ticket.title),
                 .uuid = m_uuid};
     }
-    /// Whether the last document was sent to its last byte and nobody knows whether it has arrived.
+    /// Whether the last document was sent to its last byte and its answer is missing.
     bool isDocumentUnanswered() const { return m_isDocumentUnanswered; }
     bool lacksAnswer() const { return m_connection.lacksAnswer(); }
 
@@ -77,7 +77,7 @@ public:
         return std::nullopt;
     }
 
-    /// Lets the job go, whose documents the server has. Nothing, or why it is held still.
+    /// Releases the job when the server has all documents. Nothing, or why the job is still held.
     std::optional<CupsError> release()
     {
         if (m_hold.isNeeded() && m_task.isCancelled())
@@ -143,20 +143,20 @@ private:
     bool m_isDocumentUnanswered = false;
 };
 
-/// Sends the documents of a job that the server has made, and lets it go. Nothing, or why it is not printed
-/// and what has become of it.
+/// Sends the documents of a job that the server has created, and releases the job. Nothing, or why it is not
+/// printed, with the state of the job.
 std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
                                 int jobId, const std::function<void(const UploadProgress &)> &progress)
 {
     if (const std::optional<CupsError> error = upload.sendDocuments(sources, progress))
         return upload.isDocumentUnanswered() ? fate.ofUnansweredDocument(jobId, *error)
-                                             : fate.takenBack(jobId, *error);
+                                             : fate.cancel(jobId, *error);
     if (const std::optional<CupsError> error = upload.release())
-        return upload.lacksAnswer() ? fate.ofUnansweredRelease(jobId, *error) : fate.takenBack(jobId, *error);
+        return upload.lacksAnswer() ? fate.ofUnansweredRelease(jobId, *error) : fate.cancel(jobId, *error);
     return std::nullopt;
 }
 
-/// Creates the job and sends it. Its number, or why it is not printed and what has become of it.
+/// Creates the job and sends it. Its number, or why it is not printed, with the state of the job.
 Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry &entry,
                             std::vector<DocumentSource> &sources,
                             const std::function<void(const UploadProgress &)> &progress)
@@ -218,7 +218,7 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     JobJournalEntry entry(upload.record());
     Result<int, CupsError> job =
         send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
-    // What may be left on the server is told again by the next program.
+    // The next program reports again what may be left on the server.
     if (job || job.error().kind != CupsFailure::OutcomeUnknown)
         entry.remove();
     return job;

@@ -18,7 +18,7 @@ enum class LeftJobAction {
 QString leftJobSentence(const JobRecord &record);
 
 /// Does it on the job's own server, asking for passwords as the given server does, and takes the job out of
-/// the journal. Answers in a sentence what has become of the job; one that is over or gone is taken out as
+/// the journal. Returns the state of the job in a sentence; one that is completed or purged is removed as
 /// well. An error leaves it in the journal. For tasks in the background.
 Result<QString, CupsError> settleLeftJob(const CupsServer &asking, const JobRecord &record,
                                          LeftJobAction action, BackgroundTask &task);

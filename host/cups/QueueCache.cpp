@@ -32,7 +32,7 @@ QString topFolder()
 }
 
 /// Makes the folder, which lies in the top folder, and takes it and those above it away from other users, who
-/// could see its files' names: who prints where is nobody else's business.
+/// could see its files' names: they name the servers and queues that the user prints on.
 bool prepareFolder(const QString &folder)
 {
     if (platform::makePrivateFolders(folder))

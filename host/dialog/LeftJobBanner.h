@@ -8,8 +8,8 @@
 
 namespace dialog {
 
-/// Tells one after the other of the jobs that killed programs have left on print servers, and offers to
-/// cancel or release them. Nothing happens to a job before the user says so.
+/// Shows, one after the other, the jobs that killed programs have left on print servers, and offers to cancel
+/// or release them. A job stays as it is until the user presses a button.
 class LeftJobBanner : public Banner {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private:
 
     host::CupsServer m_server;
     std::vector<host::JobRecord> m_jobs;
-    /// What is to be read before the next job: damaged files, and what became of the job before.
+    /// What is to be read before the next job: damaged files, and the state of the job before.
     QStringList m_news;
     host::Background m_background;
 };

@@ -14,14 +14,14 @@ public:
     /// Both are borrowed.
     LeftJobsRun(const CommandLine &command, const Console &console);
 
-    /// Tells of every job that is left, and by which options it is canceled or released. Asks no server.
+    /// Prints every job that is left, and by which options it is canceled or released. Asks no server.
     void tell() const;
     /// Cancels or releases the job that the command line names; the server asks for passwords.
     ExitStatus settle(const host::CupsServer &server) const;
 
 private:
     host::JobJournal::Left takeLeft() const;
-    /// The job that is meant; nothing, with the reason told, when it is none or one of several.
+    /// The job that is meant; nothing, with the reason printed, when there is none or more than one.
     std::optional<host::JobRecord> meant() const;
 
     const CommandLine &m_command;

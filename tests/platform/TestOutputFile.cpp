@@ -220,7 +220,7 @@ TEST_P(OutputFileTest, ALinkToADeviceIsWrittenThroughAndStays)
 TEST_P(OutputFileTest, AFifoIsWrittenToAndStays)
 {
     makeFifo(path("fifo"));
-    expectRefused(path("fifo"), "nobody reads from it");
+    expectRefused(path("fifo"), "no program reads from it");
     const FifoReader reader(path("fifo"));
     OutputFile file(path("fifo"));
     ASSERT_TRUE(file.write([](QIODevice *device) { return device->write(newContent) > 0; }));

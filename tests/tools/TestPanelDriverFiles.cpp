@@ -59,7 +59,7 @@ TEST_F(PanelDriverFiles, NothingButAFileIsReplacedByAPicture)
     ASSERT_TRUE(QFile::link(m_ppd, path("link")));
     const qint64 size = QFileInfo(m_ppd).size();
     for (const char *const op : operations) {
-        expectRefused(op, path("fifo"), "nobody reads from it");
+        expectRefused(op, path("fifo"), "no program reads from it");
         expectRefused(op, path("folder"), "it is a folder");
         expectRefused(op, path("link"), "it is a symbolic link");
     }

@@ -1778,7 +1778,7 @@
         <translation>es ist ein Blockgerät</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>niemand liest davon</translation>
     </message>
 </context>

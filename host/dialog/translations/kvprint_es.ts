@@ -1777,7 +1777,7 @@
         <translation>es un dispositivo de bloques</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>nadie lee de ahí</translation>
     </message>
 </context>

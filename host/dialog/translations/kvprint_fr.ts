@@ -1778,7 +1778,7 @@
         <translation>c’est un périphérique de type bloc</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>personne n’y lit</translation>
     </message>
 </context>

@@ -1778,7 +1778,7 @@
         <translation>è un dispositivo a blocchi</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>nessuno sta leggendo da lì</translation>
     </message>
 </context>

@@ -1775,7 +1775,7 @@
         <translation>ブロックデバイスです</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>読み取っているプログラムがありません</translation>
     </message>
 </context>

@@ -1778,7 +1778,7 @@
         <translation>het is een blokapparaat</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>niemand leest eruit</translation>
     </message>
 </context>

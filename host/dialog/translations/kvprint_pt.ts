@@ -1777,7 +1777,7 @@
         <translation>é um dispositivo de bloco</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>ninguém está a ler daí</translation>
     </message>
 </context>

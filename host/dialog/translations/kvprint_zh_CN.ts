@@ -1775,7 +1775,7 @@
         <translation>它是块设备</translation>
     </message>
     <message>
-        <source>nobody reads from it</source>
+        <source>no program reads from it</source>
         <translation>没有程序在读取</translation>
     </message>
 </context>
