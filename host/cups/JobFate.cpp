@@ -6,6 +6,10 @@
 
 #include <QCoreApplication>
 
+#include <array>
+#include <chrono>
+#include <thread>
+
 namespace host {
 
 namespace {
@@ -33,9 +37,25 @@ Result<std::optional<int>, CupsError> JobFate::find(const QByteArray &uuid) cons
     return findJob(connection.value(), m_ticket.destination.queue, uuid);
 }
 
+Result<std::optional<int>, CupsError> JobFate::findLate(const QByteArray &uuid) const
+{
+    // The request may have reached the server without having been read by it: the server reads it before it
+    // answers the next questions, unless the network still carries it.
+    constexpr std::array pauses = {std::chrono::milliseconds(0), std::chrono::milliseconds(100),
+                                   std::chrono::milliseconds(400)};
+    Result<std::optional<int>, CupsError> job = std::optional<int>();
+    for (const std::chrono::milliseconds pause : pauses) {
+        std::this_thread::sleep_for(pause);
+        job = find(uuid);
+        if (!job || job.value())
+            break;
+    }
+    return job;
+}
+
 CupsError JobFate::ofUnansweredCreation(const QByteArray &uuid, const CupsError &reason) const
 {
-    const Result<std::optional<int>, CupsError> job = find(uuid);
+    const Result<std::optional<int>, CupsError> job = findLate(uuid);
     if (job)
         return job.value() ? cancel(*job.value(), reason) : reason;
     return {CupsFailure::OutcomeUnknown,
@@ -76,7 +96,7 @@ std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsErro
     return std::nullopt;
 }
 
-std::optional<CupsError> JobFate::ofUnansweredRelease(int jobId, const CupsError &reason) const
+std::optional<CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &reason) const
 {
     const auto notKnown = [&]() -> CupsError {
         return {CupsFailure::OutcomeUnknown,
@@ -86,6 +106,15 @@ std::optional<CupsError> JobFate::ofUnansweredRelease(int jobId, const CupsError
                     .arg(reason.message, m_server.displayName(), m_ticket.destination.queue,
                          QString::number(jobId))};
     };
+    // Not canceled at once: the server may have released the job or read the request only now, and a part of
+    // it would be printed. The second request is refused when the first one has arrived.
+    if (reason.kind != CupsFailure::Cancelled) {
+        const std::optional<CupsError> error = release(jobId);
+        if (!error)
+            return std::nullopt;
+        if (error->kind == CupsFailure::Silent)
+            return notKnown();
+    }
     BackgroundTask task;
     Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
     const Result<JobStatus, CupsError> job = connection ? ask(connection.value(), jobId) : connection.error();
@@ -96,6 +125,14 @@ std::optional<CupsError> JobFate::ofUnansweredRelease(int jobId, const CupsError
     if (job.value().state == JobState::Held && m_hold.isStillOn(job.value().heldUntil))
         return cancel(jobId, reason);
     return std::nullopt;
+}
+
+std::optional<CupsError> JobFate::release(int jobId) const
+{
+    BackgroundTask task;
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
+    return connection ? m_hold.end(connection.value(), m_ticket.destination.queue, jobId)
+                      : std::optional(connection.error());
 }
 
 CupsError JobFate::cancel(int jobId, const CupsError &reason) const

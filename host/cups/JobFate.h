@@ -22,14 +22,19 @@ public:
     /// another one, returns nothing when the server has all documents and processes the job, otherwise the
     /// reason with the state of the job.
     std::optional<CupsError> ofUnansweredDocument(int jobId, const CupsError &reason) const;
-    /// The answer to the job's release is lost. Nothing when the server has released it.
-    std::optional<CupsError> ofUnansweredRelease(int jobId, const CupsError &reason) const;
+    /// The job's release failed, or its answer is lost. Releases the job again, unless the upload was
+    /// canceled, and cancels a job that is still held then. Nothing when the server has released it.
+    std::optional<CupsError> ofFailedRelease(int jobId, const CupsError &reason) const;
     /// Cancels the job. Returns the reason, with what is left on the server when the job cannot be canceled.
     CupsError cancel(int jobId, const CupsError &reason) const;
 
 private:
-    Result<JobStatus, CupsError> ask(CupsConnection &connection, int jobId) const;
     Result<std::optional<int>, CupsError> find(const QByteArray &uuid) const;
+    /// The job that the server has created from a request that was sent, also when the server reads the
+    /// request only now; nothing when there is none.
+    Result<std::optional<int>, CupsError> findLate(const QByteArray &uuid) const;
+    Result<JobStatus, CupsError> ask(CupsConnection &connection, int jobId) const;
+    std::optional<CupsError> release(int jobId) const;
     bool hasAllDocuments(const JobStatus &job) const;
     /// The reason, and the number of the job with the server where it is.
     CupsError mayBePrinted(int jobId, const CupsError &reason) const;

@@ -152,7 +152,7 @@ std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector
         return upload.isDocumentUnanswered() ? fate.ofUnansweredDocument(jobId, *error)
                                              : fate.cancel(jobId, *error);
     if (const std::optional<CupsError> error = upload.release())
-        return upload.lacksAnswer() ? fate.ofUnansweredRelease(jobId, *error) : fate.cancel(jobId, *error);
+        return fate.ofFailedRelease(jobId, *error);
     return std::nullopt;
 }
 
