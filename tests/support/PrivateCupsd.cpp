@@ -296,6 +296,13 @@ std::vector<RecordedDocument> PrivateCupsd::documents() const
     return documents;
 }
 
+void PrivateCupsd::forgetDocuments()
+{
+    const QDir records(path(QStringLiteral("records")));
+    for (const QString &name : records.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        EXPECT_TRUE(QDir(records.filePath(name)).removeRecursively());
+}
+
 std::vector<RecordedDocument> PrivateCupsd::waitForDocuments(std::size_t count)
 {
     // Counted only: reading all of them again and again would take longer than printing many.

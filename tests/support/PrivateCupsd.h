@@ -74,6 +74,8 @@ public:
 
     /// What filters were given so far, in the order in which they finished.
     std::vector<RecordedDocument> documents() const;
+    /// Removes what filters were given so far. To be called while nothing is printed.
+    void forgetDocuments();
     /// Waits until so many documents have passed the filters. Fails the test when they do not.
     std::vector<RecordedDocument> waitForDocuments(std::size_t count);
 

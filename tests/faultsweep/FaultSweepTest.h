@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "../cups/PrintingTest.h"
+#include <host/cups/JobJournal.h>
+#include <host/cups/JobStatus.h>
+#include <tests/support/FaultProxy.h>
+
+#include <map>
+#include <random>
+
+/// Prints one job after the other through a proxy that makes a fault, and compares what the user is told with
+/// what the server has and has printed.
+class FaultSweepTest : public PrintingTest {
+protected:
+    /// How a job ended, in the user's eyes and on the server.
+    struct Ending {
+        Outcome outcome;
+        /// The address at which the job was sent.
+        QString address;
+        /// The jobs on the server, none of which is waiting or being printed.
+        std::vector<host::JobStatus> jobs;
+        /// The contents of the documents that were printed, in their order.
+        std::vector<QByteArray> printed;
+        /// The records in the journal.
+        int records = 0;
+        bool hasStruck = false;
+        /// On how many connections the server was silent.
+        int silences = 0;
+    };
+
+    void SetUp() override;
+
+    /// The messages of a job that is printed without a fault.
+    std::vector<test_support::PassedMessage> trace(int documents);
+    /// Prints a job of so many documents.
+    Ending printThrough(const test_support::ProxyFault &fault, int documents);
+
+    /// The user is told what is so: printed once, not printed, or not known.
+    void expectTruth(const Ending &ending, int documents);
+    /// Nothing is printed twice or in part, whatever the answers say.
+    void expectNoHalfAndNoDouble(const Ending &ending, int documents) const;
+
+    /// Places in the message: its first byte, its end, the borders of its parts, and some at random.
+    std::vector<qint64> sampleOf(const test_support::PassedMessage &message);
+    int random(int max);
+
+    /// The server at the address, waited for as long as the fault makes sensible.
+    static host::CupsServer serverFor(const test_support::ProxyFault &fault, const QString &address);
+
+    /// How often each kind of ending was seen, for the report.
+    std::map<std::string, int> endings;
+
+private:
+    std::vector<host::JobStatus> settledJobs();
+    std::vector<QByteArray> contents(int documents) const;
+    host::JobTicket ticketOf(int documents) const;
+    void expectPrinted(const Ending &ending, int documents) const;
+    void expectNotPrinted(const Ending &ending) const;
+    void expectReportedAsUnknown(const Ending &ending, int documents) const;
+
+    void TearDown() override;
+
+    host::JobJournal m_journal;
+    int m_lastJob = 0;
+    std::mt19937 m_random;
+};
