@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CupsConnection.h"
 
+#include "FailureReason.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -156,7 +158,7 @@ CupsError CupsConnection::noAnswer() const
     if (!m_http)
         return {CupsFailure::Unreachable,
                 CupsConnectionText::tr("Cannot connect to the print server \"%1\": %2")
-                    .arg(name, QString::fromUtf8(cupsLastErrorString()))};
+                    .arg(name, connectionFailureReason(cupsServer(), ippPort()))};
     return {CupsFailure::Unreachable,
             CupsConnectionText::tr("The connection to the print server \"%1\" broke.").arg(name)};
 }
@@ -256,7 +258,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
         if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
             return noAnswer();
         httpFlush(m_http.get());
-        return serverError(failureFor(status), QString::fromUtf8(httpStatus(status)));
+        return serverError(failureFor(status), statusReason(status));
     }
     // Not ippRead(): it takes the first pause between two pieces of an answer for its end, when there is a
     // limit on silence.
@@ -337,7 +339,7 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
         const CupsFailure kind = failureFor(status);
         if (kind == CupsFailure::NotAuthorized && m_state->lacksPassword)
             return passwordError();
-        return failure(kind, QString::fromUtf8(httpStatus(status)));
+        return failure(kind, statusReason(status));
     }
     File file;
     const char *const modified = httpGetField(m_http.get(), HTTP_FIELD_LAST_MODIFIED);

@@ -153,16 +153,17 @@ CupsError JobFate::mayBePrinted(int jobId, const CupsError &reason) const
 
 CupsError JobFate::isLeft(int jobId, const CupsError &reason, const CupsError &obstacle) const
 {
-    // Not what was asked for, even if giving up was.
-    if (m_hold.isNeeded())
-        return {CupsFailure::OutcomeUnknown,
-                JobFateText::tr("%1 Job %2-%3 could not be canceled; it is held on the print server \"%4\" "
-                                "and is not printed unless it is released: %5")
-                    .arg(reason.message, m_ticket.destination.queue, QString::number(jobId),
-                         m_server.displayName(), obstacle.message)};
-    return {CupsFailure::OutcomeUnknown,
-            JobFateText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print again: %4")
-                .arg(reason.message, m_ticket.destination.queue, QString::number(jobId), obstacle.message)};
+    const QString state =
+        m_hold.isNeeded()
+            ? JobFateText::tr("%1 Job %2-%3 could not be canceled; it is held on the print server \"%4\" and "
+                              "is not printed unless it is released.")
+                  .arg(reason.message, m_ticket.destination.queue, QString::number(jobId),
+                       m_server.displayName())
+            : JobFateText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print again.")
+                  .arg(reason.message, m_ticket.destination.queue, QString::number(jobId));
+    // The kind is not that of the reason, even if that is a cancellation on request.
+    const bool isSameObstacle = obstacle.message == reason.message;
+    return {CupsFailure::OutcomeUnknown, isSameObstacle ? state : state + u' ' + obstacle.message};
 }
 
 CupsError JobFate::isOver(const JobStatus &job, const CupsError &reason) const

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLoggingCategory>
 
 #include <fontconfig/fontconfig.h>
 
@@ -53,6 +54,13 @@ void passOnMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         usualHandler(type, context, message);
 }
 
+/// The readers of Qt report what they pass over in a document, "libpng warning: ...". The program names what
+/// it cannot print in words of its own. QT_LOGGING_RULES still turns the reports on.
+void silenceReaders()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.svg*=false\nqt.pdf*=false"));
+}
+
 /// Nobody may take a part of the output for all of it.
 int status(dialog::ExitStatus status, const dialog::StandardStreams &streams)
 {
@@ -86,6 +94,7 @@ int main(int argc, char **argv)
     const bool attended = chooseScreen(arguments);
     if (!attended)
         usualHandler = qInstallMessageHandler(passOnMessage);
+    silenceReaders();
     // One heap for all threads: they allocate little, and each would keep a heap of its own.
     mallopt(M_ARENA_MAX, 1);
     // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it

@@ -130,6 +130,7 @@ TEST_F(LostAnswersTest, AJobThatWaitsForItsReleaseIsToldAsHeld)
     expectUnknown(left, QStringLiteral("Job tape-2 could not be canceled; it is held on the print server "
                                        "\"%1\" and is not printed unless it is released"));
     EXPECT_EQ(state(2), JobState::Held);
+    EXPECT_EQ(left.error->message.count(QStringLiteral("broke")), 1) << told(left);
     const Outcome released =
         printOver({.loseAnswerTo = IPP_OP_RELEASE_JOB, .isGoneAfterwards = true}, ticketOfTwo());
     expectUnknown(released, QStringLiteral("The print server \"%1\" has all documents of job tape-3"));

@@ -154,6 +154,24 @@ TEST_F(KvprintErrors, NameDocumentsThatCannotBePrinted)
         expectRefusalOnTape({QStringLiteral("-P"), word(pages)}, {QStringLiteral("page")});
 }
 
+TEST_F(KvprintErrors, DoNotHoldWhatReadersPassOver)
+{
+    QFile whole(picture());
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    QByteArray png = whole.readAll();
+    // PNG: a chunk of text with a wrong checksum behind the signature and the header.
+    constexpr qsizetype headerEnd = 8 + 25;
+    png.insert(headerEnd, QByteArray("\0\0\0\4tEXtabcd\0\0\0\0", 16));
+    const QString svg =
+        file(word("unresolved.svg"), "<svg xmlns='http://www.w3.org/2000/svg' width='9mm' height='9mm'>"
+                                     "<rect width='4' height='4' fill='url(#nowhere)'/></svg>");
+    for (const QString &document : {file(word("checksum.png"), png), svg}) {
+        const Outcome outcome = kvprint.run({QStringLiteral("-d"), tape, document});
+        EXPECT_EQ(outcome.status, 0) << outcome;
+        EXPECT_EQ(outcome.error, QByteArray());
+    }
+}
+
 TEST_F(KvprintErrors, NameQueuesThatCannotBePrintedOn)
 {
     expectRefusal({QStringLiteral("-d"), QStringLiteral("nowhere"), picture()},

@@ -45,7 +45,9 @@ protected:
 TEST_F(KvprintFaults, AServerThatIsNotThere)
 {
     expectFailureAt(QStringLiteral("127.0.0.1:1"), picture(), "127.0.0.1:1");
+    expectFailureAt(QStringLiteral("127.0.0.1:1"), picture(), "Connection refused");
     expectFailureAt(folder.filePath(QStringLiteral("no.sock")), picture(), "no.sock");
+    expectFailureAt(folder.filePath(QStringLiteral("no.sock")), picture(), "No such file");
     expectFailureAt(QStringLiteral("host.invalid"), picture(), "host.invalid");
     for (const QStringList &words :
          {QStringList{QStringLiteral("--list")}, QStringList{QStringLiteral("-i"), QStringLiteral("7"),
@@ -137,7 +139,7 @@ TEST_F(KvprintFaults, ASpoolThatIsFull)
 {
     // The server answers as it does when it cannot write.
     cupsd.configure("MaxRequestSize 100k\n");
-    expectFailureAt(cupsd.address(), largePicture(), "kvprint: ");
+    expectFailureAt(cupsd.address(), largePicture(), "It cannot store the document: the disk is full");
     expectNothingPrinted();
     cupsd.configure("MaxJobs 1\n");
     cupsd.pause(tape);

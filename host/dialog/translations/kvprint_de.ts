@@ -1059,6 +1059,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Er kann das Dokument nicht speichern: Die Platte ist voll, oder das Dokument ist größer, als er es annimmt.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1073,12 +1080,12 @@
         <translation>%1 Auftrag %2-%3 auf dem Druckserver „%4“ kann gedruckt worden sein; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird: %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken: %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

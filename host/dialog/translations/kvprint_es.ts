@@ -1058,6 +1058,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>No puede guardar el documento: el disco está lleno o el documento es mayor de lo que acepta.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1072,12 +1079,12 @@
         <translation>%1 Es posible que el trabajo %2-%3 del servidor de impresión «%4» se haya impreso; revise la cola antes de volver a imprimir.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere: %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir: %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir.</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

@@ -1059,6 +1059,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Il ne peut pas enregistrer le document : le disque est plein, ou le document est plus grand que ce qu’il accepte.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1073,12 +1080,12 @@
         <translation>%1 La tâche %2-%3 du serveur d’impression « %4 » a peut-être été imprimée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée : %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau : %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

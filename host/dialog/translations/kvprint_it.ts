@@ -1059,6 +1059,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Non può salvare il documento: il disco è pieno oppure il documento è più grande di quanto accetti.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1073,12 +1080,12 @@
         <translation>%1 Il lavoro %2-%3 sul server di stampa &quot;%4&quot; potrebbe essere stato stampato; controllare la coda prima di stampare di nuovo.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato: %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo: %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo.</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

@@ -1057,6 +1057,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>文書を保存できません。ディスクがいっぱいか、文書がサーバーの受け付ける大きさを超えています。</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1071,12 +1078,12 @@
         <translation>%1 プリントサーバー「%4」のジョブ %2-%3 は印刷された可能性があります。もう一度印刷する前にキューを確認してください。</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません: %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません。</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください: %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください。</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

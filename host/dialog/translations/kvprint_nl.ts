@@ -1059,6 +1059,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Hij kan het document niet opslaan: de schijf is vol, of het document is groter dan hij accepteert.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1073,12 +1080,12 @@
         <translation>%1 Taak %2-%3 op de printserver &quot;%4&quot; kan afgedrukt zijn; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven: %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt: %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

@@ -1058,6 +1058,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Não consegue guardar o documento: o disco está cheio ou o documento é maior do que aceita.</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1072,12 +1079,12 @@
         <translation>%1 É possível que o trabalho %2-%3 no servidor de impressão &quot;%4&quot; tenha sido impresso; verifique a fila antes de voltar a imprimir.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 Não foi possível retirar o trabalho %2-%3; está retido no servidor de impressão &quot;%4&quot; e não é impresso enquanto não for libertado: %5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Não foi possível retirar o trabalho %2-%3; está retido no servidor de impressão &quot;%4&quot; e não é impresso enquanto não for libertado.</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 Não foi possível retirar o trabalho %2-%3; verifique a fila antes de voltar a imprimir: %4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Não foi possível retirar o trabalho %2-%3; verifique a fila antes de voltar a imprimir.</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>

@@ -1057,6 +1057,13 @@
     </message>
 </context>
 <context>
+    <name>host::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>它无法存储文档：磁盘已满，或者文档超过了它接受的大小。</translation>
+    </message>
+</context>
+<context>
     <name>host::JobFate</name>
     <message>
         <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
@@ -1071,12 +1078,12 @@
         <translation>%1 打印服务器“%4”上的作业 %2-%3 可能已经打印；再次打印前请查看队列。</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released: %5</source>
-        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印：%5</translation>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印。</translation>
     </message>
     <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again: %4</source>
-        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列：%4</translation>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列。</translation>
     </message>
     <message>
         <source>%1 Job %2-%3: %4</source>
