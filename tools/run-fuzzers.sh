@@ -9,14 +9,17 @@ here=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
 seconds=${1:-20}
 [ $# -eq 0 ] || shift
 
-command -v clang++-14 >/dev/null || { echo "It needs the packages clang-14 and libclang-rt-14-dev." >&2; exit 1; }
 install_missing_packages "$here"
 build "$here" fuzz fuzzers
 names=${*:-$(sed -n 's/^kv_fuzzer(//p' "$here/fuzz/Fuzzers.cmake")}
 findings="$here/build/fuzz/findings"
 rm -rf "$findings"
 mkdir -p "$findings"
-export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 LSAN_OPTIONS=suppressions="$here/tests/support/lsan.supp"
+suppressions="$here/build/fuzz/lsan.supp"
+cat "$here/tests/support/lsan.supp" "$here/fuzz/lsan.supp" >"$suppressions"
+export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 LSAN_OPTIONS=suppressions="$suppressions"
+# Finds the names of functions for reports, and for the suppressions.
+export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANGUAGE=en
 
 # shellcheck disable=SC2086 # the list is words
