@@ -42,10 +42,10 @@ void forEachEntry(plist_t dictionary, const Action &action)
 
 QString toText(plist_t string)
 {
-    char *text = nullptr;
-    plist_get_string_val(string, &text);
-    const TextPointer owned(text);
-    return QString::fromUtf8(text);
+    // Not plist_get_string_val(), which ends the program when the text holds U+0000.
+    std::uint64_t length = 0;
+    const char *const text = plist_get_string_ptr(string, &length);
+    return QString::fromUtf8(text, static_cast<qsizetype>(length));
 }
 
 QVariantMap toMap(plist_t dictionary)
