@@ -31,6 +31,12 @@ constexpr std::pair<const char *, std::vector<NamedValue> Destination::*> option
     {"userOptions", &Destination::userOptions},
 };
 
+/// 0 for what is no integer: QCborValue::toInteger() converts doubles of any size.
+qint64 integer(const QCborValue &value)
+{
+    return value.isInteger() ? value.toInteger() : 0;
+}
+
 QString key(const char *name)
 {
     return QString::fromLatin1(name);
@@ -99,10 +105,10 @@ std::optional<Destination> Destination::fromCbor(const QCborMap &map)
             (destination.*field)
                 .push_back({pair.toArray().at(0).toByteArray(), pair.toArray().at(1).toByteArray()});
     }
-    const qint64 state = map.value(QStringLiteral("state")).toInteger();
+    const qint64 state = integer(map.value(QStringLiteral("state")));
     if (state >= static_cast<int>(QueueState::Ready) && state <= static_cast<int>(QueueState::Paused))
         destination.state = static_cast<QueueState>(state);
-    destination.configured = map.value(QStringLiteral("configured")).toInteger();
+    destination.configured = integer(map.value(QStringLiteral("configured")));
     const QCborValue instance = map.value(QStringLiteral("instance"));
     if (instance.isString())
         destination.instance = instance.toString();

@@ -68,7 +68,7 @@ std::vector<Destination> QueueCache::read(const QString &name) const
         return {};
     QCborParserError error;
     const QCborArray entries = QCborValue::fromCbor(file.readAll(), &error).toArray();
-    if (error.error != QCborError::NoError || entries.isEmpty() || entries.first().toInteger() != formVersion)
+    if (error.error != QCborError::NoError || entries.isEmpty() || entries.first() != QCborValue(formVersion))
         return {};
     std::vector<Destination> destinations;
     for (qsizetype i = 1; i < entries.size(); ++i) {
