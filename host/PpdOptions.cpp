@@ -7,7 +7,10 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <string_view>
+#include <tuple>
 
 namespace host {
 
@@ -48,18 +51,24 @@ double exactly(float number)
     return QByteArray::number(double{number}, 'g', floatDigits).toDouble();
 }
 
+/// What a field can show: PPDs may say "nan" and "inf".
+double showable(double number)
+{
+    constexpr double most = std::numeric_limits<int>::max();
+    return std::isnan(number) ? 0 : std::clamp(number, -most, most);
+}
+
 void readNumber(PpdParameter &parameter, double minimum, double maximum, double current)
 {
-    parameter.minimum = minimum;
-    parameter.maximum = maximum;
+    // Some PPDs name the larger one first.
+    std::tie(parameter.minimum, parameter.maximum) = std::minmax({showable(minimum), showable(maximum)});
     // libcups starts with 0, whatever the limits.
-    parameter.number = qMax(minimum, qMin(current, maximum));
+    parameter.number = std::clamp(showable(current), parameter.minimum, parameter.maximum);
 }
 
 void readCharacters(PpdParameter &parameter, int minimum, int maximum, const char *current)
 {
-    parameter.minimum = qMax(0, minimum);
-    parameter.maximum = maximum;
+    std::tie(parameter.minimum, parameter.maximum) = std::minmax({qMax(0, minimum), qMax(0, maximum)});
     parameter.characters = QString::fromUtf8(current);
 }
 
