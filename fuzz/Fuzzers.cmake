@@ -10,6 +10,9 @@ kv_fuzzer(command_line
 kv_fuzzer(image
     SOURCES FuzzImage.cpp
     USES host)
+kv_fuzzer(job_journal
+    SOURCES FuzzJobJournal.cpp
+    USES cups)
 kv_fuzzer(keystroke
     SOURCES FuzzKeystroke.cpp ../tests/textentry/KeystrokeReference.cpp
     USES textentry)

@@ -89,7 +89,7 @@ std::optional<JobRecord> fromJson(const QJsonObject &json)
 
 bool isProgramRunning(const QJsonObject &json)
 {
-    const auto pid = static_cast<qint64>(json.value(QStringLiteral("pid")).toDouble());
+    const qint64 pid = json.value(QStringLiteral("pid")).toInteger();
     const QString start = startOf(pid);
     return !start.isEmpty() && start == json.value(QStringLiteral("started")).toString() &&
            bootIdentifier() == json.value(QStringLiteral("boot")).toString();
