@@ -80,6 +80,16 @@ private:
     const QString &m_language;
 };
 
+/// libcups's own list. Whoever walks through it may not look for an option meanwhile, which moves its
+/// position: where two options have the same name, back to the first one, for ever.
+std::vector<ppd_option_t *> allOptions(ppd_file_t *ppd)
+{
+    std::vector<ppd_option_t *> options;
+    for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd))
+        options.push_back(option);
+    return options;
+}
+
 /// Takes the marks off all choices. libcups cannot itself, where an option may have several.
 void unmark(ppd_file_t *ppd, ppd_option_t &option)
 {
@@ -151,12 +161,13 @@ void PpdFile::localize(const QString &language)
 
 void PpdFile::markDefaults()
 {
-    for (ppd_option_t *option = ppdFirstOption(m_ppd.get()); option; option = ppdNextOption(m_ppd.get())) {
+    const std::vector<ppd_option_t *> options = allOptions(m_ppd.get());
+    for (ppd_option_t *const option : options) {
         if (option->ui == PPD_UI_PICKMANY)
             unmark(m_ppd.get(), *option);
     }
     ppdMarkDefaults(m_ppd.get());
-    for (ppd_option_t *option = ppdFirstOption(m_ppd.get()); option; option = ppdNextOption(m_ppd.get())) {
+    for (ppd_option_t *const option : options) {
         if (option->ui != PPD_UI_PICKMANY)
             correctMark(m_ppd.get(), *option, option->defchoice);
     }
