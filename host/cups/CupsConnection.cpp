@@ -28,7 +28,8 @@ int unsentBytes(http_t *http)
     return ioctl(httpGetFd(http), SIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
-CupsFailure failureFor(ipp_status_t status)
+/// The status as a number: a server may send one that "ipp_status_t" cannot hold.
+CupsFailure failureForIpp(int status)
 {
     switch (status) {
     case IPP_STATUS_ERROR_NOT_FOUND:
@@ -67,6 +68,12 @@ CupsFailure failureFor(http_status_t status)
 }
 
 } // namespace
+
+http_status_t knownStatus(int status)
+{
+    const bool isKnown = status >= HTTP_STATUS_ERROR && status <= HTTP_STATUS_CUPS_PKI_ERROR;
+    return isKnown ? static_cast<http_status_t>(status) : HTTP_STATUS_ERROR;
+}
 
 QByteArray queueUri(const QString &queue)
 {
@@ -167,11 +174,11 @@ CupsError CupsConnection::lastError() const
 {
     // Without an answer, libcups means the connection by an internal error, or leaves the outcome of the
     // request before.
-    const ipp_status_t status = cupsLastError();
+    const int status = cupsLastError();
     const bool isRefusal = status >= IPP_STATUS_REDIRECTION_OTHER_SITE && status != IPP_STATUS_ERROR_INTERNAL;
     if (!m_http || m_state->wasSilent || m_state->task->isCancelled() || !isRefusal)
         return noAnswer();
-    return serverError(failureFor(status), QString::fromUtf8(cupsLastErrorString()));
+    return serverError(failureForIpp(status), QString::fromUtf8(cupsLastErrorString()));
 }
 
 CupsError CupsConnection::passwordError() const
@@ -204,8 +211,8 @@ Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const
 {
     m_state->lacksAnswer = false;
     const http_status_t status = askUntilAllowed("POST", resource, [&] {
-        const http_status_t sent =
-            cupsSendRequest(m_http.get(), request.get(), resource.constData(), ippLength(request.get()));
+        const http_status_t sent = knownStatus(
+            cupsSendRequest(m_http.get(), request.get(), resource.constData(), ippLength(request.get())));
         // Where the answer does not come, libcups tells no request that was sent from one that was not.
         m_state->lacksAnswer = sent == HTTP_STATUS_ERROR;
         return sent == HTTP_STATUS_CONTINUE || sent == HTTP_STATUS_OK ? awaitAnswer() : sent;
@@ -231,7 +238,7 @@ http_status_t CupsConnection::awaitAnswer()
 {
     http_status_t status = HTTP_STATUS_CONTINUE;
     while (status == HTTP_STATUS_CONTINUE)
-        status = httpUpdate(m_http.get());
+        status = knownStatus(httpUpdate(m_http.get()));
     // The header of an answer is not all of it; a refusal is said by its header.
     m_state->lacksAnswer = status == HTTP_STATUS_ERROR || status == HTTP_STATUS_OK;
     return status;
@@ -270,12 +277,13 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
         return noAnswer();
     m_state->lacksAnswer = false;
     httpFlush(m_http.get());
-    const ipp_status_t outcome = ippGetStatusCode(answer.get());
+    const int outcome = ippGetStatusCode(answer.get());
     if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE)
         return answer;
     const char *const words =
         ippGetString(ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT), 0, nullptr);
-    return serverError(failureFor(outcome), QString::fromUtf8(words ? words : ippErrorString(outcome)));
+    return serverError(failureForIpp(outcome),
+                       QString::fromUtf8(words ? words : ippErrorString(ippGetStatusCode(answer.get()))));
 }
 
 Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer request, const QByteArray &resource)

@@ -131,6 +131,10 @@ private:
     HttpPointer m_http;
 };
 
+/// The status of an answer as libcups returns it. A server may send any number: one that cannot be a status
+/// of HTTP counts as no answer.
+http_status_t knownStatus(int status);
+
 /// The address of a queue or class on whatever server it is sent to.
 QByteArray queueUri(const QString &queue);
 /// Where requests about a queue are sent.

@@ -96,8 +96,9 @@ private:
         if (m_task.isCancelled())
             return m_connection.lastError();
         m_connection.beginWaiting();
-        http_status_t status = cupsStartDocument(m_connection.http(), queue.constData(), m_jobId,
-                                                 name.constData(), format.constData(), isLast ? 1 : 0);
+        http_status_t status =
+            knownStatus(cupsStartDocument(m_connection.http(), queue.constData(), m_jobId, name.constData(),
+                                          format.constData(), isLast ? 1 : 0));
         const bool hasBegun = status == HTTP_STATUS_CONTINUE;
         bool isWhole = false;
         while (hasBegun && !m_task.isCancelled()) {
@@ -108,8 +109,8 @@ private:
             if (isWhole || status == HTTP_STATUS_OK)
                 break;
             m_connection.beginWaiting();
-            status = cupsWriteRequestData(m_connection.http(), piece.value().constData(),
-                                          static_cast<std::size_t>(piece.value().size()));
+            status = knownStatus(cupsWriteRequestData(m_connection.http(), piece.value().constData(),
+                                                      static_cast<std::size_t>(piece.value().size())));
             now.sent += piece.value().size();
             progress(now);
             if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK)
