@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "VirtualPrinter.h"
 
+#include "OutOfMemory.h"
 #include "OutputFiles.h"
 #include "StripPdf.h"
 
@@ -27,7 +28,11 @@ std::optional<OutputError> VirtualPrinter::print(const PrintedStrip &strip, cons
     });
     if (!dialog.isNull())
         files.write(dialogName, [&](QIODevice *device) { return QImageWriter(device, "png").write(dialog); });
-    return files.commit();
+    // From here on files appear in the folder, one by one.
+    OutOfMemory::setJobProgress(JobProgress::Underway);
+    std::optional<OutputError> error = files.commit();
+    OutOfMemory::setJobProgress(error ? JobProgress::Nothing : JobProgress::Printed);
+    return error;
 }
 
 QString VirtualPrinter::freshFolder()

@@ -3,6 +3,8 @@
 
 #include "FailureReason.h"
 
+#include <host/LibraryMemory.h>
+
 #include <QCoreApplication>
 
 #include <array>
@@ -271,6 +273,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
     // limit on silence.
     IppPointer answer(ippNew());
     ipp_state_t state = IPP_STATE_IDLE;
+    const LibraryMemory memory;
     while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
         state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
     if (state == IPP_STATE_ERROR)

@@ -6,6 +6,8 @@
 #include "JobFate.h"
 #include "JobJournal.h"
 
+#include <host/OutOfMemory.h>
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QUuid>
@@ -217,11 +219,14 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         return connection.value().lastError();
     Upload upload(connection.value(), ticket, hold.value(), task);
     JobJournalEntry entry(upload.record());
+    OutOfMemory::setJobProgress(JobProgress::Underway);
     Result<int, CupsError> job =
         send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
     // The next program reports again what may be left on the server.
-    if (job || job.error().kind != CupsFailure::OutcomeUnknown)
+    if (job || job.error().kind != CupsFailure::OutcomeUnknown) {
+        OutOfMemory::setJobProgress(job ? JobProgress::Printed : JobProgress::Nothing);
         entry.remove();
+    }
     return job;
 }
 

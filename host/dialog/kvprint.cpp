@@ -3,6 +3,7 @@
 #include "StandardStreams.h"
 #include "Translations.h"
 
+#include <host/OutOfMemory.h>
 #include <host/cups/Background.h>
 #include <platform/TemporaryFile.h>
 
@@ -40,6 +41,22 @@ bool chooseScreen(const QStringList &arguments)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     return !platform.startsWith("offscreen") && !platform.startsWith("minimal");
+}
+
+/// Reads the configuration of the fonts, before Qt has fontconfig read it: fontconfig would try again for
+/// ever when there is no memory for it.
+void readFonts()
+{
+    FcConfig *const fonts = FcInitLoadConfigAndFonts();
+    if (!fonts)
+        host::OutOfMemory::end();
+    FcConfigSetCurrent(fonts);
+}
+
+/// Whether the command draws anything.
+bool needsFonts(dialog::Task task)
+{
+    return task == dialog::Task::Print || task == dialog::Task::Summary || task == dialog::Task::DryRun;
 }
 
 QtMessageHandler usualHandler = nullptr;
@@ -84,9 +101,10 @@ dialog::ExitStatus refuse(const dialog::UsageError &error, dialog::StandardStrea
 
 } // namespace
 
-// NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program either way
+// NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program
 int main(int argc, char **argv)
 {
+    host::OutOfMemory::endsProgram();
     dialog::StandardStreams streams;
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -99,7 +117,7 @@ int main(int argc, char **argv)
     mallopt(M_ARENA_MAX, 1);
     // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it
     // done, having been busy with the display meanwhile.
-    const std::jthread fonts = attended ? std::jthread(FcInit) : std::jthread();
+    const std::jthread fonts = attended ? std::jthread(readFonts) : std::jthread();
     // Qt would take options of its own out of what are lp's words: "-title" says "-t itle".
     argc = 1;
     const QApplication application(argc, argv);
@@ -107,6 +125,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(KV_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kvprint.kvprint"));
     dialog::installTranslations(QLocale());
+    host::OutOfMemory::translate();
 
     auto command = dialog::CommandLine::parse(arguments);
     if (!command)
@@ -117,6 +136,8 @@ int main(int argc, char **argv)
     const dialog::Console console{[&](const QString &text) { return streams.out(text); },
                                   dialog::StandardStreams::error};
     platform::TemporaryFile::removeLeftOvers(QDir::tempPath());
+    if (!attended && needsFonts(command.value().task))
+        readFonts();
     const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run(), streams);
     if (host::Background::wasUsed())
         std::_Exit(outcome);

@@ -1434,6 +1434,21 @@
     </message>
 </context>
 <context>
+    <name>host::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Kein Arbeitsspeicher mehr; es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Kein Arbeitsspeicher mehr; der Auftrag ist vielleicht unvollständig oder auf dem Druckserver zurückgeblieben.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Kein Arbeitsspeicher mehr. Der Auftrag wurde trotzdem gesendet.</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>

@@ -1433,6 +1433,21 @@
     </message>
 </context>
 <context>
+    <name>host::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Memoria agotada; no se ha impreso nada.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Memoria agotada; es posible que el trabajo esté incompleto o haya quedado en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Memoria agotada. El trabajo se envió de todos modos.</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>

@@ -1434,6 +1434,21 @@
     </message>
 </context>
 <context>
+    <name>host::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Mémoire épuisée ; rien n’a été imprimé.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Mémoire épuisée ; la tâche est peut-être incomplète, ou restée sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Mémoire épuisée. La tâche a tout de même été envoyée.</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>

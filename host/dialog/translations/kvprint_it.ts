@@ -1434,6 +1434,21 @@
     </message>
 </context>
 <context>
+    <name>host::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Memoria esaurita; non è stato stampato nulla.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Memoria esaurita; il lavoro potrebbe essere incompleto o rimasto sul server di stampa.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Memoria esaurita. Il lavoro è stato comunque inviato.</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>

@@ -1431,6 +1431,21 @@
     </message>
 </context>
 <context>
+    <name>host::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>メモリーが足りません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>メモリーが足りません。ジョブは不完全か、プリントサーバーに残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>メモリーが足りません。ジョブは送信されています。</translation>
+    </message>
+</context>
+<context>
     <name>host::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OutOfMemory.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+
+#include <array>
+#include <atomic>
+#include <cstring>
+#include <exception>
+#include <new>
+#include <system_error>
+
+#include <sys/uio.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+struct OutOfMemoryText {
+    Q_DECLARE_TR_FUNCTIONS(host::OutOfMemory)
+};
+
+/// In the order of JobProgress.
+constexpr std::array texts = {
+    QT_TRANSLATE_NOOP("host::OutOfMemory", "Out of memory; nothing was printed."),
+    QT_TRANSLATE_NOOP("host::OutOfMemory",
+                      "Out of memory; the job may be incomplete, or left on the print server."),
+    QT_TRANSLATE_NOOP("host::OutOfMemory", "Out of memory. The job was sent all the same."),
+};
+
+/// As they are written: in English, later in the language of the program.
+std::array<std::atomic<const char *>, texts.size()> sentences = {texts[0], texts[1], texts[2]};
+std::atomic<JobProgress> jobProgress = JobProgress::Nothing;
+std::atomic_flag isEnding;
+std::terminate_handler usualEnd = nullptr;
+
+/// Whether the exception that is on its way means that memory, or threads, have run out.
+bool lacksMemory(const std::exception_ptr &exception)
+{
+    if (!exception)
+        return false;
+    try {
+        std::rethrow_exception(exception);
+    } catch (const std::bad_alloc &) {
+        return true;
+    } catch (const std::system_error &error) {
+        return error.code() == std::errc::resource_unavailable_try_again ||
+               error.code() == std::errc::not_enough_memory;
+    } catch (...) {
+        return false;
+    }
+}
+
+void endUncaught()
+{
+    if (lacksMemory(std::current_exception()))
+        OutOfMemory::end();
+    usualEnd();
+}
+
+/// Writes it as a line without any memory of its own.
+void writeError(const char *sentence)
+{
+    const std::array<const char *, 3> parts = {"kvprint: ", sentence, "\n"};
+    std::array<iovec, parts.size()> vector{};
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        vector.at(i) = {const_cast<char *>(parts.at(i)), std::strlen(parts.at(i))};
+    [[maybe_unused]] const ssize_t written =
+        ::writev(STDERR_FILENO, vector.data(), static_cast<int>(vector.size()));
+}
+
+} // namespace
+
+void OutOfMemory::endsProgram()
+{
+    usualEnd = std::set_terminate(endUncaught);
+    std::set_new_handler(end);
+}
+
+void OutOfMemory::translate()
+{
+    // Needed to the very end of the program, hence never destroyed.
+    static auto &translated = *new std::array<QByteArray, texts.size()>;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        translated.at(i) = OutOfMemoryText::tr(texts.at(i)).toLocal8Bit();
+        sentences.at(i) = translated.at(i).constData();
+    }
+}
+
+void OutOfMemory::end()
+{
+    // Another thread may be just ending the program.
+    while (isEnding.test_and_set())
+        ::pause();
+    writeError(sentences.at(static_cast<std::size_t>(jobProgress.load())));
+    ::_exit(1);
+}
+
+void OutOfMemory::setJobProgress(JobProgress progress)
+{
+    jobProgress = progress;
+}
+
+} // namespace host

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+// A library to be preloaded into a program: makes its allocations fail. It counts malloc(), calloc(),
+// realloc() and the aligned kinds, and with them operator new, in all threads from the beginning of main()
+// on. Read from the environment:
+//
+//   KV_FAIL_AT      the number of the allocation that fails, from 1 on; without it none fails
+//   KV_FAIL_SINCE   when it is set, all later allocations fail as well
+//   KV_FAIL_COUNT   a file of 8 bytes, to which the number of allocations is written as it grows
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <cstdlib>
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+extern "C" {
+// The C library's own, for those who replace the public ones.
+void *__libc_malloc(std::size_t size);                          // NOLINT(bugprone-reserved-identifier)
+void *__libc_calloc(std::size_t count, std::size_t size);       // NOLINT(bugprone-reserved-identifier)
+void *__libc_realloc(void *memory, std::size_t size);           // NOLINT(bugprone-reserved-identifier)
+void *__libc_memalign(std::size_t alignment, std::size_t size); // NOLINT(bugprone-reserved-identifier)
+}
+
+namespace {
+
+using Counter = std::atomic<std::uint64_t>;
+static_assert(sizeof(Counter) == sizeof(std::uint64_t) && Counter::is_always_lock_free);
+
+Counter ownCounter = 0;
+Counter *counter = &ownCounter;
+std::uint64_t failing = 0;
+bool failsSince = false;
+std::atomic<bool> isCounting = false;
+
+using Main = int (*)(int, char **, char **);
+Main realMain = nullptr;
+
+/// Shared with the file, so that it is right however the program ends.
+Counter *sharedCounter(const char *path)
+{
+    const int descriptor = open(path, O_RDWR | O_CLOEXEC); // NOLINT
+    void *const memory = mmap(nullptr, sizeof(Counter), PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
+    close(descriptor);
+    return memory == MAP_FAILED ? &ownCounter : static_cast<Counter *>(memory); // NOLINT
+}
+
+int countedMain(int count, char **words, char **environment)
+{
+    if (const char *const path = std::getenv("KV_FAIL_COUNT"))
+        counter = sharedCounter(path);
+    constexpr int decimal = 10;
+    if (const char *const number = std::getenv("KV_FAIL_AT"))
+        failing = std::strtoull(number, nullptr, decimal);
+    failsSince = std::getenv("KV_FAIL_SINCE") != nullptr;
+    isCounting = true;
+    return realMain(count, words, environment);
+}
+
+bool fails()
+{
+    if (!isCounting)
+        return false;
+    const std::uint64_t number = ++*counter;
+    const bool isFailing = failing > 0 && (number == failing || (failsSince && number > failing));
+    if (isFailing)
+        errno = ENOMEM;
+    return isFailing;
+}
+
+} // namespace
+
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
+extern "C" {
+
+__attribute__((visibility("default"))) int __libc_start_main(Main main, int count, char **words,
+                                                             void (*begin)(), void (*end)(),
+                                                             void (*endOfLinker)(), void *stack)
+{
+    realMain = main;
+    const auto start = reinterpret_cast<decltype(&__libc_start_main)>(dlsym(RTLD_NEXT, "__libc_start_main"));
+    return start(countedMain, count, words, begin, end, endOfLinker, stack);
+}
+
+__attribute__((visibility("default"))) void *malloc(std::size_t size)
+{
+    return fails() ? nullptr : __libc_malloc(size);
+}
+
+__attribute__((visibility("default"))) void *calloc(std::size_t count, std::size_t size)
+{
+    return fails() ? nullptr : __libc_calloc(count, size);
+}
+
+__attribute__((visibility("default"))) void *realloc(void *memory, std::size_t size)
+{
+    return fails() ? nullptr : __libc_realloc(memory, size);
+}
+
+__attribute__((visibility("default"))) void *memalign(std::size_t alignment, std::size_t size)
+{
+    return fails() ? nullptr : __libc_memalign(alignment, size);
+}
+
+__attribute__((visibility("default"))) void *aligned_alloc(std::size_t alignment, std::size_t size)
+{
+    return memalign(alignment, size);
+}
+
+__attribute__((visibility("default"))) int posix_memalign(void **memory, std::size_t alignment,
+                                                          std::size_t size)
+{
+    void *const aligned = memalign(alignment, size);
+    if (!aligned)
+        return ENOMEM;
+    *memory = aligned;
+    return 0;
+}
+
+} // extern "C"
+// NOLINTEND(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
