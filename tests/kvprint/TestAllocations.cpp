@@ -15,6 +15,7 @@ using test_support::RecordedDocument;
 namespace {
 
 const QString tape = QStringLiteral("tape");
+constexpr int printedWithoutPanel = 3;
 const char *const sentAllTheSame = "The job was sent all the same";
 
 /// Without what is another in each run: the times and numbers of jobs.
@@ -98,7 +99,8 @@ private:
         }
         if (job == 0)
             return;
-        const bool isSent = outcome.status == 0 || outcome.error.contains(sentAllTheSame);
+        // A library may crash after the job's number was printed.
+        const bool isSent = outcome.jobId() == job || outcome.error.contains(sentAllTheSame);
         const int state = jobStates().value(job);
         // A program that could not find out what became of the job has left its record.
         const bool isRecorded = !QDir(records()).isEmpty();
@@ -115,7 +117,10 @@ private:
             << whole.content.size();
         EXPECT_EQ(document.title, whole.title);
         EXPECT_EQ(document.copies, whole.copies);
-        EXPECT_EQ(comparable(document.optionText), comparable(whole.optionText));
+        // Without its page there are no cut options.
+        if (outcome.status != printedWithoutPanel) {
+            EXPECT_EQ(comparable(document.optionText), comparable(whole.optionText));
+        }
     }
 
     RecordedDocument waitFor(int job)
