@@ -222,6 +222,22 @@ QList<QByteArray> oddPaperNames()
 
 } // namespace
 
+TEST_F(PrintingTest, JobNumbersMayBeAsLargeAsIppAllows)
+{
+    // IPP: a job's number is an integer up to 2**31 - 1.
+    constexpr int largeNumber = 2147483640;
+    cupsd.kill();
+    QFile cache(cupsd.path(QStringLiteral("cache/job.cache")));
+    ASSERT_TRUE(cache.open(QIODevice::WriteOnly));
+    cache.write("NextJobId " + QByteArray::number(largeNumber) + '\n');
+    cache.close();
+    cupsd.restart();
+    EXPECT_EQ(print(ticket()).jobId, largeNumber);
+    EXPECT_EQ(cupsd.waitForDocuments(1).back().job, largeNumber);
+    Followed followed(server, largeNumber);
+    EXPECT_TRUE(waitUntil([&] { return followed.last.state == JobState::Completed; }));
+}
+
 TEST_F(PrintingTest, PapersKeepTheirNamesByteForByte)
 {
     PpdBuilder builder;
