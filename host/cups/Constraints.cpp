@@ -107,11 +107,16 @@ private:
         const ConstraintTerms::Option &option = m_terms.option(position);
         const QSet<int> &marked = m_marks.choices[static_cast<std::size_t>(position)];
         const auto name = [&](int choice) { return option.choices[static_cast<std::size_t>(choice)]; };
+        // A PPD may have a choice twice, or in another case of letters: to its constraints it is one.
+        QSet<QByteArray> known;
+        for (const int choice : marked)
+            known.insert(name(choice).toLower());
         std::vector<int> choices;
         for (int i = 0; i < static_cast<int>(option.choices.size()); ++i) {
             const bool isFree = name(i).compare(PpdOptions::freeChoice, Qt::CaseInsensitive) == 0;
-            if (!marked.contains(i) && !isFree)
+            if (!isFree && !known.contains(name(i).toLower()))
                 choices.push_back(i);
+            known.insert(name(i).toLower());
         }
         const auto rank = [&](int choice) {
             return name(choice) == option.defaultChoice ? 0 : ConstraintTerms::isOff(name(choice)) ? 1 : 2;
