@@ -71,7 +71,7 @@ void DestinationList::refresh(Discovery discovery)
                 Q_EMIT failed(answer.error());
         });
         if (discovery == Discovery::Yes)
-            discoverDestinations(server, task, discoveryTime, [&](const Destination &found) {
+            discoverDestinations(task, discoveryTime, [&](const Destination &found) {
                 task.deliver([this, found] { addDiscovered(found); });
             });
     });

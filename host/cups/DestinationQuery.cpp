@@ -212,11 +212,14 @@ Result<Destination, CupsError> queryDestination(CupsConnection &connection, cons
     return destination;
 }
 
-void discoverDestinations(const CupsServer &server, BackgroundTask &task, std::chrono::milliseconds time,
+void discoverDestinations(BackgroundTask &task, std::chrono::milliseconds time,
                           const std::function<void(const Destination &)> &found)
 {
-    // The network needs no password; a server that requires one for the queues it shares is passed over.
-    const CupsThreadScope scope(server);
+    // libcups asks a server for its queues first, over a connection whose certificate it does not check. They
+    // are known already from queryDestinations(): no server listens here.
+    CupsServer none;
+    none.address = QStringLiteral("/dev/null");
+    const CupsThreadScope scope(none);
     SearchedPrinters discovery{.task = task, .found = found};
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, static_cast<int>(time.count()), task.cancelFlag(),
                   CUPS_PRINTER_DISCOVERED, CUPS_PRINTER_DISCOVERED, discovered, &discovery);

@@ -17,9 +17,9 @@ Result<std::vector<Destination>, CupsError> queryDestinations(CupsConnection &co
 Result<Destination, CupsError> queryDestination(CupsConnection &connection, const QString &queue,
                                                 const std::optional<QString> &instance);
 
-/// Looks for printers on the network that the server has no queue for, until the time is over or the task
-/// is cancelled, and hands over each as soon as it is found. For tasks in the background.
-void discoverDestinations(const CupsServer &server, BackgroundTask &task, std::chrono::milliseconds time,
+/// Looks for printers on the network, until the time is over or the task is cancelled, and hands over each as
+/// soon as it is found. Asks no server. For tasks in the background.
+void discoverDestinations(BackgroundTask &task, std::chrono::milliseconds time,
                           const std::function<void(const Destination &)> &found);
 
 } // namespace host

@@ -283,8 +283,8 @@ TEST_F(DestinationListTest, APasswordIsAskedForOnceAndRemembered)
     EXPECT_EQ(asked, 1);
 }
 
-/// libcups searches the network on the thread whose connection gave the password, and asks the server again.
-TEST_F(DestinationListTest, TheNetworkIsSearchedAfterAPasswordWasGiven)
+/// libcups searches the network on the thread whose connection gave the password.
+TEST_F(DestinationListTest, TheSearchOfTheNetworkAsksTheServerNothing)
 {
     const FaultyServer guarded(cupsd->port(), {.credentials = "anna:secret"});
     server.address = guarded.address();
@@ -293,12 +293,15 @@ TEST_F(DestinationListTest, TheNetworkIsSearchedAfterAPasswordWasGiven)
         ++asked;
         request.answer(QStringLiteral("anna"), QStringLiteral("secret"));
     };
-    for (int time = 0; time < 8; ++time) {
+    constexpr int times = 8;
+    for (int time = 0; time < times; ++time) {
         DestinationList list(server);
         EXPECT_TRUE(refresh(list, host::Discovery::Yes).refreshed);
     }
     test_support::awaitBackgroundThreads();
     EXPECT_EQ(asked, 1);
+    // Each list is asked for without the password and with it.
+    EXPECT_EQ(guarded.connectionCount(), 2 * times);
 }
 
 TEST_F(DestinationListTest, TheConnectionIsEncryptedWhenAskedFor)
