@@ -2,14 +2,12 @@
 #include "CupsConnection.h"
 
 #include "FailureReason.h"
-
-#include <host/LibraryMemory.h>
+#include "ServerCertificate.h"
 
 #include <QCoreApplication>
 
-#include <array>
-
 #include <linux/sockios.h>
+#include <poll.h>
 #include <sys/ioctl.h>
 
 namespace host {
@@ -30,66 +28,19 @@ int unsentBytes(http_t *http)
     return ioctl(httpGetFd(http), SIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
-/// The status as a number: a server may send one that "ipp_status_t" cannot hold.
-CupsFailure failureForIpp(int status)
+/// Whether the connection takes another request as it is: it is open, and libcups does not replace it.
+bool isUsable(http_t *http)
 {
-    switch (status) {
-    case IPP_STATUS_ERROR_NOT_FOUND:
-    case IPP_STATUS_ERROR_GONE:
-        return CupsFailure::NotFound;
-    case IPP_STATUS_ERROR_FORBIDDEN:
-    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
-    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
-    case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
-        return CupsFailure::NotAuthorized;
-    case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
-    case IPP_STATUS_ERROR_CUPS_PKI:
-        return CupsFailure::Unreachable;
-    default:
-        return CupsFailure::Refused;
-    }
-}
-
-CupsFailure failureFor(http_status_t status)
-{
-    switch (status) {
-    case HTTP_STATUS_NOT_FOUND:
-    case HTTP_STATUS_GONE:
-        return CupsFailure::NotFound;
-    case HTTP_STATUS_UNAUTHORIZED:
-    case HTTP_STATUS_FORBIDDEN:
-    case HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED:
-        return CupsFailure::NotAuthorized;
-    case HTTP_STATUS_SERVICE_UNAVAILABLE:
-    case HTTP_STATUS_UPGRADE_REQUIRED:
-    case HTTP_STATUS_CUPS_PKI_ERROR:
-        return CupsFailure::Unreachable;
-    default:
-        return CupsFailure::Refused;
-    }
+    if (!http || httpGetFd(http) < 0)
+        return false;
+    const http_status_t last = httpGetStatus(http);
+    const bool isReplaced = last == HTTP_STATUS_ERROR || last >= HTTP_STATUS_BAD_REQUEST;
+    const bool isEnding = qstricmp(httpGetField(http, HTTP_FIELD_CONNECTION), "close") == 0;
+    pollfd socket{.fd = httpGetFd(http), .events = POLLRDHUP, .revents = 0};
+    return !isReplaced && !isEnding && ::poll(&socket, 1, 0) == 0;
 }
 
 } // namespace
-
-http_status_t knownStatus(int status)
-{
-    const bool isKnown = status >= HTTP_STATUS_ERROR && status <= HTTP_STATUS_CUPS_PKI_ERROR;
-    return isKnown ? static_cast<http_status_t>(status) : HTTP_STATUS_ERROR;
-}
-
-QByteArray queueUri(const QString &queue)
-{
-    std::array<char, HTTP_MAX_URI> uri = {};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", ippPort(),
-                     "/printers/%s", queue.toUtf8().constData());
-    return uri.data();
-}
-
-QByteArray queueResource(const QString &queue)
-{
-    // libcups encodes what a request line may not hold.
-    return "/printers/" + queue.toUtf8();
-}
 
 Result<CupsConnection, CupsError> CupsConnection::open(const CupsServer &server, BackgroundTask &task)
 {
@@ -97,6 +48,7 @@ Result<CupsConnection, CupsError> CupsConnection::open(const CupsServer &server,
     state->server = server;
     state->task = &task;
     state->threadScope.emplace(server, password, state.get());
+    state->encryption = cupsEncryption();
     CupsConnection connection(std::move(state));
     if (!connection.connect())
         return connection.noAnswer();
@@ -105,6 +57,8 @@ Result<CupsConnection, CupsError> CupsConnection::open(const CupsServer &server,
 
 bool CupsConnection::connect()
 {
+    m_http.reset();
+    m_state->unsent = 0;
     beginWaiting();
     errno = 0;
     // Encryption is switched on afterwards, when the limits on silence hold already.
@@ -113,12 +67,41 @@ bool CupsConnection::connect()
     if (!m_http)
         return false;
     httpSetTimeout(m_http.get(), lookInterval, mayWaitOn, m_state.get());
-    const bool encrypts = cupsEncryption() >= HTTP_ENCRYPTION_REQUIRED;
-    if (encrypts && httpEncryption(m_http.get(), cupsEncryption()) != 0) {
+    const bool encrypts = m_state->encryption >= HTTP_ENCRYPTION_REQUIRED;
+    // Port 443 is encrypted by libcups in any case.
+    if ((encrypts && httpEncryption(m_http.get(), m_state->encryption) != 0) || !isTrusted())
         m_http.reset();
-        return false;
+    return m_http != nullptr;
+}
+
+bool CupsConnection::reconnect()
+{
+    const QByteArray authorization = m_http ? httpGetAuthString(m_http.get()) : nullptr;
+    const bool isPassword = authorization.startsWith("Basic ") || authorization.startsWith("Digest ");
+    if (m_http && !authorization.isEmpty() && !isPassword) {
+        // libcups counts in the connection how often a proof of its own was refused.
+        beginWaiting();
+        httpClearFields(m_http.get());
+        if (httpReconnect2(m_http.get(), static_cast<int>(timeout()), m_state->task->cancelFlag()) != 0 ||
+            !isTrusted())
+            m_http.reset();
+        return m_http != nullptr;
     }
+    // It keeps the password there too, and would send a refused one once more.
+    const bool wasReadable = m_http && isReadable(m_http.get());
+    if (!connect())
+        return false;
+    // The name may lead to another address than before.
+    if (isPassword && (wasReadable || !isReadable(m_http.get())))
+        httpSetAuthString(m_http.get(), authorization.constData(), nullptr);
     return true;
+}
+
+bool CupsConnection::prepare()
+{
+    beginWaiting();
+    // libcups would reconnect by itself, without a check of the certificate.
+    return isUsable(m_http.get()) || reconnect();
 }
 
 int CupsConnection::mayWaitOn(http_t *http, void *data)
@@ -134,23 +117,6 @@ int CupsConnection::mayWaitOn(http_t *http, void *data)
     return !state.wasSilent && (state.finishesFirst || !state.task->isCancelled());
 }
 
-const char *CupsConnection::password(const char *prompt, http_t *, const char *, const char *, void *data)
-{
-    State &state = *static_cast<State *>(data);
-    const PasswordRequest request(QString::fromUtf8(prompt), QString::fromUtf8(cupsUser()));
-    const std::optional<PasswordRequest::Credentials> answer =
-        state.server.passwords->get(request, *state.task, state.server.askPassword, state.triedPasswords);
-    // Who gives up has not kept a password back.
-    state.lacksPassword = !answer && !state.task->isCancelled();
-    if (!answer)
-        return nullptr;
-    // libcups keeps no copy.
-    state.credentials = *answer;
-    state.threadScope->setUser(state.credentials.user);
-    state.restartSilence();
-    return state.credentials.password.constData();
-}
-
 bool CupsConnection::wasGivenUp() const
 {
     return m_state->wasSilent || (m_state->task->isCancelled() && !m_state->finishesFirst);
@@ -161,6 +127,8 @@ CupsError CupsConnection::noAnswer() const
     const QString name = server().displayName();
     if (m_state->task->isCancelled())
         return {CupsFailure::Cancelled, CupsConnectionText::tr("Canceled on request.")};
+    if (m_state->certificateError)
+        return *m_state->certificateError;
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
         return {CupsFailure::Silent,
                 CupsConnectionText::tr("The print server \"%1\" does not answer.").arg(name)};
@@ -170,207 +138,6 @@ CupsError CupsConnection::noAnswer() const
                     .arg(name, connectionFailureReason(cupsServer(), ippPort()))};
     return {CupsFailure::Unreachable,
             CupsConnectionText::tr("The connection to the print server \"%1\" broke.").arg(name)};
-}
-
-CupsError CupsConnection::lastError() const
-{
-    // Without an answer, libcups means the connection by an internal error, or leaves the outcome of the
-    // request before.
-    const int status = cupsLastError();
-    const bool isRefusal = status >= IPP_STATUS_REDIRECTION_OTHER_SITE && status != IPP_STATUS_ERROR_INTERNAL;
-    if (!m_http || m_state->wasSilent || m_state->task->isCancelled() || !isRefusal)
-        return noAnswer();
-    return serverError(failureForIpp(status), QString::fromUtf8(cupsLastErrorString()));
-}
-
-CupsError CupsConnection::passwordError() const
-{
-    return {CupsFailure::NotAuthorized,
-            CupsConnectionText::tr(
-                "The print server \"%1\" wants a password for the user \"%2\", and none was given.")
-                .arg(server().displayName(), QString::fromUtf8(cupsUser()))};
-}
-
-CupsError CupsConnection::serverError(CupsFailure kind, const QString &reason) const
-{
-    if (m_state->lacksPassword && kind == CupsFailure::NotAuthorized)
-        return passwordError();
-    return {kind,
-            CupsConnectionText::tr("The print server \"%1\" says: %2").arg(server().displayName(), reason)};
-}
-
-IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue) const
-{
-    IppPointer request(ippNewRequest(operation));
-    if (!queue.isEmpty())
-        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-                     queueUri(queue).constData());
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    return request;
-}
-
-Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const QByteArray &resource)
-{
-    m_state->lacksAnswer = false;
-    const http_status_t status = askUntilAllowed("POST", resource, [&] {
-        const http_status_t sent = knownStatus(
-            cupsSendRequest(m_http.get(), request.get(), resource.constData(), ippLength(request.get())));
-        // Where the answer does not come, libcups tells no request that was sent from one that was not.
-        m_state->lacksAnswer = sent == HTTP_STATUS_ERROR;
-        return sent == HTTP_STATUS_CONTINUE || sent == HTTP_STATUS_OK ? awaitAnswer() : sent;
-    });
-    return readAnswer(status);
-}
-
-Result<IppPointer, CupsError> CupsConnection::earlyAnswer()
-{
-    beginWaiting();
-    return readAnswer(awaitAnswer());
-}
-
-Result<IppPointer, CupsError> CupsConnection::finishDocument()
-{
-    beginWaiting();
-    // What ends a document of unknown length. If it does not get through, the server has something to say.
-    httpWrite2(m_http.get(), "", 0);
-    return readAnswer(awaitAnswer());
-}
-
-http_status_t CupsConnection::awaitAnswer()
-{
-    http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE)
-        status = knownStatus(httpUpdate(m_http.get()));
-    // The header of an answer is not all of it; a refusal is said by its header.
-    m_state->lacksAnswer = status == HTTP_STATUS_ERROR || status == HTTP_STATUS_OK;
-    return status;
-}
-
-ssize_t CupsConnection::readPiece(void *connection, ipp_uchar_t *buffer, std::size_t length)
-{
-    const CupsConnection &self = *static_cast<CupsConnection *>(connection);
-    std::size_t known = 0;
-    while (known < length) {
-        const ssize_t read = httpRead2(self.http(), reinterpret_cast<char *>(buffer) + known, length - known);
-        if (read <= 0)
-            return -1;
-        self.beginWaiting();
-        known += static_cast<std::size_t>(read);
-    }
-    return static_cast<ssize_t>(known);
-}
-
-Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
-{
-    if (status != HTTP_STATUS_OK) {
-        // What was refused has made nothing that there is to be taken back.
-        if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
-            return noAnswer();
-        httpFlush(m_http.get());
-        return serverError(failureFor(status), statusReason(status));
-    }
-    // Not ippRead(): it takes the first pause between two pieces of an answer for its end, when there is a
-    // limit on silence.
-    IppPointer answer(ippNew());
-    ipp_state_t state = IPP_STATE_IDLE;
-    const LibraryMemory memory;
-    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
-        state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
-    if (state == IPP_STATE_ERROR)
-        return noAnswer();
-    m_state->lacksAnswer = false;
-    httpFlush(m_http.get());
-    const int outcome = ippGetStatusCode(answer.get());
-    if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE)
-        return answer;
-    const char *const words =
-        ippGetString(ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT), 0, nullptr);
-    return serverError(failureForIpp(outcome),
-                       QString::fromUtf8(words ? words : ippErrorString(ippGetStatusCode(answer.get()))));
-}
-
-Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer request, const QByteArray &resource)
-{
-    m_state->finishesFirst = true;
-    Result<IppPointer, CupsError> answer = exchange(std::move(request), resource);
-    m_state->finishesFirst = false;
-    return answer;
-}
-
-http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArray &resource,
-                                              const std::function<http_status_t()> &ask)
-{
-    // Encryption may be asked for, and a password more than once: the first one may be wrong.
-    constexpr int mostAttempts = 4;
-    for (int attempt = 1;; ++attempt) {
-        beginWaiting();
-        const http_status_t status = ask();
-        const bool isRefused = status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_UPGRADE_REQUIRED;
-        if (wasGivenUp() || !isRefused || attempt == mostAttempts)
-            return status;
-        httpFlush(m_http.get());
-        if (status == HTTP_STATUS_UNAUTHORIZED &&
-            cupsDoAuthentication(m_http.get(), method, resource.constData()))
-            return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-        beginWaiting();
-        if (httpReconnect2(m_http.get(), static_cast<int>(timeout()), m_state->task->cancelFlag()))
-            return HTTP_STATUS_ERROR;
-        if (status == HTTP_STATUS_UPGRADE_REQUIRED && httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED))
-            return HTTP_STATUS_ERROR;
-    }
-}
-
-http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &unlessModifiedSince)
-{
-    return askUntilAllowed("GET", resource, [&] {
-        httpClearFields(m_http.get());
-        if (!unlessModifiedSince.isEmpty())
-            httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, unlessModifiedSince.constData());
-        httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, httpGetAuthString(m_http.get()));
-        return httpGet(m_http.get(), resource.constData()) == 0 ? awaitAnswer() : HTTP_STATUS_ERROR;
-    });
-}
-
-Result<std::optional<CupsConnection::File>, CupsError>
-CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifiedSince, qint64 mostBytes)
-{
-    const auto failure = [&](CupsFailure kind, const QString &reason) -> CupsError {
-        return {kind, CupsConnectionText::tr("The print server \"%1\" does not give \"%2\": %3")
-                          .arg(server().displayName(), QString::fromUtf8(resource), reason)};
-    };
-    const http_status_t status = get(resource, unlessModifiedSince);
-    if (wasGivenUp() || status == HTTP_STATUS_ERROR)
-        return noAnswer();
-    if (status == HTTP_STATUS_NOT_MODIFIED) {
-        httpFlush(m_http.get());
-        return std::optional<File>();
-    }
-    if (status != HTTP_STATUS_OK) {
-        httpFlush(m_http.get());
-        const CupsFailure kind = failureFor(status);
-        if (kind == CupsFailure::NotAuthorized && m_state->lacksPassword)
-            return passwordError();
-        return failure(kind, statusReason(status));
-    }
-    File file;
-    const char *const modified = httpGetField(m_http.get(), HTTP_FIELD_LAST_MODIFIED);
-    file.modified = *modified ? httpGetDateTime(modified) : 0;
-    const bool chunked = *httpGetField(m_http.get(), HTTP_FIELD_TRANSFER_ENCODING) != 0;
-    const off_t announced = chunked ? 0 : httpGetLength2(m_http.get());
-    std::array<char, 32768> piece = {};
-    ssize_t length = 0;
-    while (beginWaiting(), (length = httpRead2(m_http.get(), piece.data(), piece.size())) > 0) {
-        file.content.append(piece.data(), length);
-        if (file.content.size() > mostBytes)
-            return failure(CupsFailure::Refused,
-                           CupsConnectionText::tr("it is larger than %1 MB").arg(mostBytes >> 20));
-    }
-    if (wasGivenUp())
-        return noAnswer();
-    if (length < 0 || (announced > 0 && file.content.size() != announced))
-        return failure(CupsFailure::Unreachable,
-                       CupsConnectionText::tr("the connection broke in the middle"));
-    return std::optional(file);
 }
 
 } // namespace host

@@ -33,13 +33,11 @@ public:
     /// destroyed, on the same thread. The task must outlive the connection.
     static Result<CupsConnection, CupsError> open(const CupsServer &server, BackgroundTask &task);
 
-    /// For libcups; owned by the connection.
-    http_t *http() const { return m_http.get(); }
     const CupsServer &server() const { return m_state->server; }
 
     /// A request of this operation with the fields that every request has, for a queue's or the server's
-    /// own address.
-    IppPointer newRequest(ipp_op_t operation, const QString &queue = {}) const;
+    /// own address, or for a job of the queue.
+    IppPointer newRequest(ipp_op_t operation, const QString &queue = {}, std::optional<int> jobId = {}) const;
     /// Sends the request and waits for the answer. An answer that refuses is an error, which says what the
     /// server said.
     Result<IppPointer, CupsError> exchange(IppPointer request, const QByteArray &resource);
@@ -52,12 +50,23 @@ public:
     /// what it says.
     bool lacksAnswer() const { return m_state->lacksAnswer; }
 
-    /// Ends a document that was sent in pieces (cupsStartDocument(), cupsWriteRequestData()) and waits for
-    /// the answer.
+    /// Begins to send a document: sends the request that it belongs to, and waits for a moment whether the
+    /// server wants something first, such as a password. Nothing when the document may follow, or why it may
+    /// not.
+    std::optional<CupsError> beginDocument(IppPointer request, const QByteArray &resource);
+    /// Sends a piece of the document. False when the server has answered already or the connection is
+    /// broken; earlyAnswer() returns the answer or says so.
+    bool writeDocument(const QByteArray &piece);
+    /// Ends the document and waits for the answer.
     Result<IppPointer, CupsError> finishDocument();
     /// The answer that came, or may have come, before the whole document was sent. No end of the document is
     /// sent first, lest the server prints the half of it.
     Result<IppPointer, CupsError> earlyAnswer();
+    /// Whether the server has refused the document for want of a password after it was begun.
+    bool lacksPasswordForDocument() const;
+    /// Asks for that password. Nothing when the document may be sent again from its beginning, or why it may
+    /// not.
+    std::optional<CupsError> authenticateDocument();
 
     /// Fetches a file of the server into memory. Not more than that many bytes; what is longer is refused.
     /// Nothing when it has not changed since the date and length, as they stand in a "If-Modified-Since"
@@ -70,15 +79,6 @@ public:
     Result<std::optional<File>, CupsError> fetch(const QByteArray &resource,
                                                  const QByteArray &unlessModifiedSince, qint64 mostBytes);
 
-    /// Starts counting the server's silence anew.
-    void beginWaiting() const
-    {
-        m_state->restartSilence();
-        m_state->wasSilent = false;
-    }
-    /// Why a call of libcups failed that has just told so itself: given up, silent, broken, or refused by the
-    /// server before it looked at the request.
-    CupsError lastError() const;
     /// Why there was no answer: given up, silent, broken, or never connected.
     CupsError noAnswer() const;
 
@@ -98,9 +98,25 @@ private:
         /// What is on its way is waited for even when the task is cancelled.
         bool finishesFirst = false;
         bool lacksAnswer = false;
+        /// Where the document goes that is being sent; empty when there is none.
+        QByteArray documentResource;
+        /// The server has answered before the whole document was sent.
+        std::optional<http_status_t> earlyStatus;
+        /// Whether the server says that it is ready for a document ("Expect: 100-continue").
+        bool expectsContinue = true;
+        /// What the connection needs at least; a server may require encryption later than at the beginning.
+        http_encryption_t encryption = HTTP_ENCRYPTION_IF_REQUESTED;
         int triedPasswords = 0;
-        /// The server was not told the password that it wanted.
+        /// The server wants a password and was sent none.
         bool lacksPassword = false;
+        /// None was sent because others on the network could have read it.
+        bool wouldBeReadable = false;
+        /// The last request had a password, which the server has not accepted so far.
+        bool isPasswordUnconfirmed = false;
+        /// How many passwords in a row were refused.
+        int refusedPasswords = 0;
+        /// Why the server is not trusted.
+        std::optional<CupsError> certificateError;
         PasswordRequest::Credentials credentials;
         /// Its callback's data is this state.
         std::optional<CupsThreadScope> threadScope;
@@ -116,11 +132,37 @@ private:
     bool wasGivenUp() const;
     CupsError serverError(CupsFailure kind, const QString &reason) const;
     CupsError passwordError() const;
+    /// Starts counting the server's silence anew.
+    void beginWaiting() const
+    {
+        m_state->restartSilence();
+        m_state->wasSilent = false;
+    }
+    /// Connects and checks the server's certificate before anything is sent.
     bool connect();
+    /// The same again, with the password or what else the server is to get.
+    bool reconnect();
+    /// Reconnects when the server has closed the connection or libcups would do so.
+    bool prepare();
+    /// Whether the connection is to this machine, not encrypted, or encrypted with a trusted certificate;
+    /// certificateError says why not.
+    bool isTrusted();
+    /// Nothing when the certificate is trusted; asks the user if need be.
+    std::optional<CupsError> checkCertificate() const;
+    /// What an answer says about the password of its request.
+    void noteStatus(http_status_t status);
+    /// Does what the server wants before it takes the request: a password, encryption. The request may be
+    /// sent again over a new connection then; false when the server wants nothing of the kind, or does not
+    /// get it.
+    bool clearTheWay(http_status_t status, const char *method, const QByteArray &resource);
     http_status_t askUntilAllowed(const char *method, const QByteArray &resource,
                                   const std::function<http_status_t()> &ask);
+    void setAuthorization();
+    bool post(ipp_t *request, const QByteArray &resource, std::size_t length);
+    http_status_t readStatus();
     http_status_t awaitAnswer();
     Result<IppPointer, CupsError> readAnswer(http_status_t status);
+    Result<IppPointer, CupsError> readDocumentAnswer(http_status_t status);
     static ssize_t readPiece(void *connection, ipp_uchar_t *buffer, std::size_t length);
     http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);
     static int mayWaitOn(http_t *http, void *state);

@@ -19,4 +19,10 @@ QString CupsServer::displayName() const
     return name.startsWith(u'/') ? name : QStringLiteral("%1:%2").arg(name).arg(ippPort());
 }
 
+void CupsServer::forgetRefusals() const
+{
+    passwords->forgetRefusal();
+    trust->forgetRefusals();
+}
+
 } // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Passwords.h"
+#include "Trust.h"
 
 #include <host/Result.h>
 
@@ -18,6 +19,7 @@ namespace host {
 enum class CupsFailure {
     Unreachable,   ///< no connection: no such host, nobody listening, no encryption
     Silent,        ///< it took the connection or the request and does not answer
+    Untrusted,     ///< its certificate is not verified, or it is another one than before
     NotAuthorized, ///< it wants a password, or another one
     NotFound,      ///< it has no such queue or job
     Refused,       ///< it answered with another error
@@ -48,6 +50,17 @@ struct CupsServer {
     PasswordHandler askPassword;
     /// What the user has answered; shared by all copies, so that nobody is asked twice.
     std::shared_ptr<PasswordMemory> passwords = std::make_shared<PasswordMemory>();
+    /// Asks the user, on the main thread, what the connection to another machine may do; without one, the
+    /// answer is no.
+    TrustHandler askTrust;
+    /// What the user has answered; shared by all copies.
+    std::shared_ptr<TrustMemory> trust = std::make_shared<TrustMemory>();
+    /// The folder with the certificates that the user trusts; nothing for libcups's own, which all programs
+    /// on libcups read.
+    std::optional<QString> certificates;
+
+    /// Begins a new action of the user: what the user has refused before may be asked for again.
+    void forgetRefusals() const;
 
     /// "host:port" or the path of the socket, for messages and as a name for what is kept of it. Asks no
     /// network.

@@ -109,4 +109,12 @@ Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
     return piece;
 }
 
+bool DocumentSource::rewind()
+{
+    if (m_size < 0 || ::lseek(m_descriptor, 0, SEEK_SET) != 0)
+        return false;
+    m_taken = 0;
+    return true;
+}
+
 } // namespace host

@@ -24,6 +24,8 @@ public:
     /// The next piece; empty at the end. A file that has changed meanwhile is an error, at the end at the
     /// latest: nobody has seen what was read of it. Gives up waiting for input when the task is cancelled.
     Result<QByteArray, CupsError> read(const BackgroundTask &task);
+    /// Goes back to the beginning. False for standard input, which cannot be read twice.
+    bool rewind();
 
 private:
     DocumentSource(QString path, int descriptor, qint64 size);

@@ -26,6 +26,7 @@ JobFate::JobFate(const CupsServer &server, const JobTicket &ticket, const JobHol
     , m_hold(hold)
 {
     m_server.askPassword = nullptr;
+    m_server.askTrust = nullptr;
 }
 
 Result<std::optional<int>, CupsError> JobFate::find(const QByteArray &uuid) const

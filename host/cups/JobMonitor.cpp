@@ -61,7 +61,7 @@ void JobMonitor::takeCancelled(const std::optional<CupsError> &error)
 void JobMonitor::cancelJob()
 {
     m_takingBack = TakingBack::Asked;
-    m_server.passwords->forgetRefusal();
+    m_server.forgetRefusals();
     m_background.start([this, server = m_server, queue = m_queue, jobId = m_jobId](BackgroundTask &task) {
         const std::optional<CupsError> error = host::cancelJob(server, queue, jobId, task);
         task.deliver([this, error] { takeCancelled(error); });

@@ -13,7 +13,7 @@ void JobSubmission::submit(const JobTicket &ticket)
 {
     Q_ASSERT(!m_isBusy);
     m_isBusy = true;
-    m_server.passwords->forgetRefusal();
+    m_server.forgetRefusals();
     m_task = m_background.start([this, server = m_server, ticket](BackgroundTask &task) {
         // "this" is only used in what is delivered, on the main thread and while it is there.
         const Result<int, CupsError> job =

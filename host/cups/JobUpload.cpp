@@ -88,39 +88,62 @@ public:
     }
 
 private:
+    IppPointer documentRequest(const JobDocument &document, bool isLast) const
+    {
+        const QByteArray name = QFileInfo(document.shownName()).fileName().toUtf8();
+        const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
+        IppPointer request =
+            m_connection.newRequest(IPP_OP_SEND_DOCUMENT, m_ticket.destination.queue, m_jobId);
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                     name.constData());
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                     format.constData());
+        ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
+        return request;
+    }
+
     std::optional<CupsError> send(DocumentSource &source, bool isLast, UploadProgress &now,
                                   const std::function<void(const UploadProgress &)> &progress)
     {
+        const UploadProgress before = now;
+        // One without a password, and three with one.
+        constexpr int mostAttempts = 4;
+        for (int attempt = 1;; ++attempt) {
+            now = before;
+            std::optional<CupsError> error = sendOnce(source, isLast, now, progress);
+            if (!error || !m_connection.lacksPasswordForDocument() || !source.rewind())
+                return error;
+            // The server has looked at the document's request only when it had the document.
+            if (std::optional<CupsError> refusal = m_connection.authenticateDocument())
+                return refusal;
+            if (attempt == mostAttempts)
+                return error;
+        }
+    }
+
+    std::optional<CupsError> sendOnce(DocumentSource &source, bool isLast, UploadProgress &now,
+                                      const std::function<void(const UploadProgress &)> &progress)
+    {
         const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
-        const QByteArray queue = m_ticket.destination.queue.toUtf8();
-        const QByteArray name = QFileInfo(document.shownName()).fileName().toUtf8();
-        const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
         if (m_task.isCancelled())
-            return m_connection.lastError();
-        m_connection.beginWaiting();
-        http_status_t status =
-            knownStatus(cupsStartDocument(m_connection.http(), queue.constData(), m_jobId, name.constData(),
-                                          format.constData(), isLast ? 1 : 0));
-        const bool hasBegun = status == HTTP_STATUS_CONTINUE;
+            return m_connection.noAnswer();
+        if (std::optional<CupsError> error = m_connection.beginDocument(
+                documentRequest(document, isLast), queueResource(m_ticket.destination.queue)))
+            return error;
         bool isWhole = false;
-        while (hasBegun && !m_task.isCancelled()) {
+        while (!m_task.isCancelled()) {
             const Result<QByteArray, CupsError> piece = source.read(m_task);
             if (!piece)
                 return piece.error();
             isWhole = piece.value().isEmpty();
-            if (isWhole || status == HTTP_STATUS_OK)
+            if (isWhole || !m_connection.writeDocument(piece.value()))
                 break;
-            m_connection.beginWaiting();
-            status = knownStatus(cupsWriteRequestData(m_connection.http(), piece.value().constData(),
-                                                      static_cast<std::size_t>(piece.value().size())));
             now.sent += piece.value().size();
             progress(now);
-            if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK)
-                break;
         }
-        if (m_task.isCancelled() || !hasBegun || status >= HTTP_STATUS_MULTIPLE_CHOICES)
-            return m_connection.lastError();
-        // A server that has heard enough answers before the end, and says why; some close the connection
+        if (m_task.isCancelled())
+            return m_connection.noAnswer();
+        // A server that has read enough answers before the end, and says why; some close the connection
         // then.
         const Result<IppPointer, CupsError> answer =
             isWhole ? m_connection.finishDocument() : m_connection.earlyAnswer();
@@ -211,12 +234,12 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination, task))
         return *error;
     if (task.isCancelled())
-        return connection.value().lastError();
+        return connection.value().noAnswer();
     const Result<JobHold, CupsError> hold = JobHold::forTicket(connection.value(), ticket);
     if (!hold)
         return hold.error();
     if (task.isCancelled())
-        return connection.value().lastError();
+        return connection.value().noAnswer();
     Upload upload(connection.value(), ticket, hold.value(), task);
     JobJournalEntry entry(upload.record());
     OutOfMemory::setJobProgress(JobProgress::Underway);

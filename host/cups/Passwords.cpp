@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Passwords.h"
 
-#include "Background.h"
-
 namespace host {
 
 PasswordRequest::PasswordRequest(QString prompt, QString user)
@@ -13,31 +11,12 @@ PasswordRequest::PasswordRequest(QString prompt, QString user)
 
 void PasswordRequest::answer(const QString &user, const QString &password) const
 {
-    reply(Credentials{user.toUtf8(), password.toUtf8()});
+    m_reply.give(Credentials{user.toUtf8(), password.toUtf8()});
 }
 
 void PasswordRequest::refuse() const
 {
-    reply(std::nullopt);
-}
-
-void PasswordRequest::reply(std::optional<Credentials> credentials) const
-{
-    const std::scoped_lock lock(m_reply->mutex);
-    if (m_reply->isGiven)
-        return;
-    m_reply->isGiven = true;
-    m_reply->credentials = std::move(credentials);
-    m_reply->given.notify_all();
-}
-
-std::optional<PasswordRequest::Credentials> PasswordRequest::wait(const BackgroundTask &task) const
-{
-    std::unique_lock lock(m_reply->mutex);
-    // Nobody answers a wish whose dialog has been closed; the task is cancelled then.
-    while (!m_reply->isGiven && !task.isCancelled())
-        m_reply->given.wait_for(lock, std::chrono::milliseconds(100));
-    return m_reply->credentials;
+    m_reply.give(std::nullopt);
 }
 
 bool PasswordMemory::waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task)
@@ -54,7 +33,7 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     std::unique_lock lock(m_mutex);
     if (!waitForTurn(lock, task))
         return std::nullopt;
-    if (m_count > tried) {
+    if (m_count > tried && m_credentials) {
         tried = m_count;
         return m_credentials;
     }
@@ -66,7 +45,7 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     std::optional<PasswordRequest::Credentials> answer = request.wait(task);
     lock.lock();
     m_isAsking = false;
-    // A task that is cancelled has not been refused anything.
+    // Cancelling a task is no refusal.
     m_isRefused = !answer && !task.isCancelled();
     if (answer) {
         m_credentials = answer;
@@ -74,6 +53,15 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     }
     m_answered.notify_all();
     return answer;
+}
+
+void PasswordMemory::refuse(int tried)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (tried != m_count)
+        return;
+    m_credentials.reset();
+    m_isRefused = true;
 }
 
 void PasswordMemory::forgetRefusal()

@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Reply.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <condition_variable>
 #include <functional>
-#include <memory>
-#include <mutex>
-#include <optional>
 
 namespace host {
-
-class BackgroundTask;
 
 /// A server's wish for a password, put to the user on the main thread while the thread that talks to the
 /// server waits. Copies are the same wish; the first answer counts.
@@ -35,21 +32,12 @@ public:
         QByteArray password;
     };
     /// For the waiting thread: the answer; nothing when refused or the task was cancelled.
-    std::optional<Credentials> wait(const BackgroundTask &task) const;
+    std::optional<Credentials> wait(const BackgroundTask &task) const { return m_reply.wait(task); }
 
 private:
-    struct Reply {
-        std::mutex mutex;
-        std::condition_variable given;
-        bool isGiven = false;
-        std::optional<Credentials> credentials;
-    };
-
-    void reply(std::optional<Credentials> credentials) const;
-
     QString m_prompt;
     QString m_user;
-    std::shared_ptr<Reply> m_reply = std::make_shared<Reply>();
+    Reply<Credentials> m_reply;
 };
 
 /// Shows the wish to the user and sees that it is answered or refused, now or later.
@@ -65,6 +53,9 @@ public:
     /// tried in vain are not taken again; tried counts them and is 0 at first.
     std::optional<PasswordRequest::Credentials>
     get(const PasswordRequest &request, const BackgroundTask &task, const PasswordHandler &ask, int &tried);
+    /// The server has refused the answer with that count, and those before it. It is sent no more and the
+    /// user is asked no more, as after a refusal of the user; unless there is another answer by now.
+    void refuse(int tried);
     /// The user wants something of the server anew, and may be asked again after having refused.
     void forgetRefusal();
 
@@ -73,7 +64,7 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_answered;
-    /// Given last; it may be wrong.
+    /// Given last; it may be wrong. Nothing when it is known to be.
     std::optional<PasswordRequest::Credentials> m_credentials;
     /// How many passwords were given so far.
     int m_count = 0;

@@ -64,7 +64,7 @@ void QueueSession::start(Discovery discovery)
     m_hasStarted = true;
     m_isSettled = false;
     m_listError.reset();
-    m_server.passwords->forgetRefusal();
+    m_server.forgetRefusals();
     m_discovery = discovery;
     m_destinations.refresh(discovery);
     if (m_chosen)
@@ -88,7 +88,7 @@ void QueueSession::choose(const QString &name)
     if (!found)
         return;
     m_userHasChosen = true;
-    m_server.passwords->forgetRefusal();
+    m_server.forgetRefusals();
     if (!m_chosen || m_chosen->name() != found->name())
         setChosen(*found);
 }

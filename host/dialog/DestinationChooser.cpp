@@ -116,9 +116,11 @@ QString DestinationChooser::stateText() const
     const bool isFromLastTime = m_session.destinations().isStale();
     const std::optional<host::CupsError> &error = m_session.listError();
     const bool wantsPassword = error && error->kind == host::CupsFailure::NotAuthorized;
+    const bool isUntrusted = error && error->kind == host::CupsFailure::Untrusted;
     if (!m_session.chosen())
         return !m_session.isSettled() ? tr("Waiting for the print server's answer…")
                : wantsPassword        ? tr("The print server wants a password.")
+               : isUntrusted          ? tr("The print server is not trusted.")
                : isFromLastTime       ? tr("The print server does not answer.")
                                       : tr("There is no such printer.");
     const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
@@ -126,6 +128,8 @@ QString DestinationChooser::stateText() const
         return tr("Last time: %1").arg(sentences);
     if (isFromLastTime && wantsPassword)
         return tr("The print server wants a password. Last time: %1").arg(sentences);
+    if (isFromLastTime && isUntrusted)
+        return tr("The print server is not trusted. Last time: %1").arg(sentences);
     return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
 }
 

@@ -12,6 +12,8 @@
 #include "ServerRun.h"
 #include "SignalWatch.h"
 #include "TerminalPassword.h"
+#include "TerminalTrust.h"
+#include "TrustDialog.h"
 #include "VirtualSender.h"
 
 #include <QApplication>
@@ -26,6 +28,13 @@ namespace {
 struct PrintRunText {
     Q_DECLARE_TR_FUNCTIONS(dialog::PrintRun)
 };
+
+/// The run has no window.
+void askOnTerminalFor(host::CupsServer &server)
+{
+    server.askPassword = askOnTerminal();
+    server.askTrust = askTrustOnTerminal();
+}
 
 /// Lets the window appear before anything else is begun, which would take processors and memory from it.
 void waitForPainting(const QWidget &window)
@@ -142,7 +151,7 @@ ExitStatus PrintRun::runOnQueue()
         return ExitStatus::Failed;
     host::CupsServer server = cupsServer(m_command);
     if (m_command.noDialog || m_command.task != Task::Print) {
-        server.askPassword = askOnTerminal();
+        askOnTerminalFor(server);
         LeftJobsRun(m_command, m_console).tell();
         return HeadlessRun(m_command, m_console, server, std::move(document)).run();
     }
@@ -156,6 +165,7 @@ ExitStatus PrintRun::runOnQueue()
     };
     PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
+    server.askTrust = [&](const host::TrustRequest &request) { askTrustWithDialog(window)(request); };
     host::QueueSession session(server, m_command.destination);
     host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
     QueueSender sender(server);
@@ -212,12 +222,12 @@ ExitStatus PrintRun::run()
 {
     if (m_command.task == Task::List || m_command.task == Task::ChangeJob) {
         host::CupsServer server = cupsServer(m_command);
-        server.askPassword = askOnTerminal();
+        askOnTerminalFor(server);
         return ServerRun(m_command, m_console, server).run();
     }
     if (m_command.task == Task::CancelLeft || m_command.task == Task::ReleaseLeft) {
         host::CupsServer server = cupsServer(m_command);
-        server.askPassword = askOnTerminal();
+        askOnTerminalFor(server);
         return LeftJobsRun(m_command, m_console).settle(server);
     }
     return m_command.ppd ? runVirtual() : runOnQueue();

@@ -50,9 +50,11 @@ void ProblemBanner::refresh()
     QStringList problems{m_sending, m_server ? m_server->message : QString(), m_refusals};
     problems.removeAll(QString());
     problems.removeDuplicates();
-    // A server that is out of reach is asked again and again; for a password only the user can be asked.
-    const bool wantsPassword = m_server && m_server->kind == host::CupsFailure::NotAuthorized;
-    setMessage(problems.join(u'\n'), wantsPassword ? tr("Try again") : QString());
+    // A server that is out of reach is asked again and again; for a password or for trust only the
+    // user can be asked.
+    const bool wantsUser = m_server && (m_server->kind == host::CupsFailure::NotAuthorized ||
+                                        m_server->kind == host::CupsFailure::Untrusted);
+    setMessage(problems.join(u'\n'), wantsUser ? tr("Try again") : QString());
 }
 
 } // namespace dialog

@@ -67,11 +67,11 @@ TerminalPassword::~TerminalPassword()
         ::close(m_terminal);
 }
 
-std::optional<QString> TerminalPassword::ask(const QString &prompt) const
+std::optional<QString> TerminalPassword::ask(const QString &prompt, Typing typing) const
 {
     if (!isThere())
         return std::nullopt;
-    const std::optional<QByteArray> line = readLine(prompt.toLocal8Bit() + ' ');
+    const std::optional<QByteArray> line = readLine(prompt.toLocal8Bit() + ' ', typing);
     say("\n");
     return line ? std::optional(QString::fromLocal8Bit(*line)) : std::nullopt;
 }
@@ -83,12 +83,14 @@ void TerminalPassword::say(const QByteArray &text) const
         ::write(m_terminal, text.constData(), static_cast<std::size_t>(text.size()));
 }
 
-std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt) const
+std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt, Typing shown) const
 {
     const UnseenTyping typing(m_terminal);
     // Not before: somebody quick would see the first letters, and they would be lost.
     say(prompt);
     QByteArray line;
+    // Rewritten from the start of its row after each key.
+    const QByteArray row = prompt.mid(prompt.lastIndexOf('\n') + 1);
     while (typing.works()) {
         // The program's end is asked for by signals too, which may come at any moment.
         constexpr int lookInterval = 100; // milliseconds
@@ -110,6 +112,8 @@ std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt) c
             line.clear();
         else
             line += typed;
+        if (shown == Typing::Shown)
+            say("\r\x1b[K" + row + line);
     }
     return std::nullopt;
 }

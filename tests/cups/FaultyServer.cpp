@@ -14,6 +14,8 @@ namespace {
 
 const QByteArray encouragement = "HTTP/1.1 100 Continue\r\n\r\n";
 const QByteArray endOfHeader = "\r\n\r\n";
+/// Of a document of unknown length.
+const QByteArray endOfDocument = "0\r\n\r\n";
 /// How often a slow server takes something, in a second.
 constexpr int takesPerSecond = 50;
 
@@ -40,10 +42,11 @@ std::optional<int> operationOf(const QByteArray &request)
 
 FaultyServer::FaultyServer(quint16 realPort, const Faults &faults)
     : m_realPort(realPort)
+    , m_host(faults.host)
     , m_faults(faults)
     , m_server(new QTcpServer) // ends with its thread, below
 {
-    EXPECT_TRUE(m_server->listen(QHostAddress::LocalHost));
+    EXPECT_TRUE(m_server->listen(QHostAddress(m_faults.host)));
     if (m_faults.bytesPerSecond > 0 || m_faults.stallAfter > 0) {
         // The system's own room for what comes would hide how slowly it is read.
         const int room = 32768;
@@ -69,7 +72,7 @@ FaultyServer::~FaultyServer()
 
 QString FaultyServer::address() const
 {
-    return QStringLiteral("127.0.0.1:%1").arg(m_port);
+    return QStringLiteral("%1:%2").arg(m_host).arg(m_port);
 }
 
 int FaultyServer::requestCount(int operation) const
@@ -131,7 +134,8 @@ void FaultyServer::serve(QTcpSocket *client)
     QObject::connect(real, &QTcpSocket::errorOccurred, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::readyRead, client,
                      [this, client, real] { passAnswer(client, real); });
-    real->connectToHost(QHostAddress(QHostAddress::LocalHost), m_realPort);
+    // A real server that is reached by the loopback interface takes no requests to another address.
+    real->connectToHost(QHostAddress(m_host), m_realPort);
 }
 
 void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
@@ -267,23 +271,67 @@ void FaultyServer::countRequest(const QByteArray &bytes, QTcpSocket *client)
     }
 }
 
+bool FaultyServer::hasCredentials(const QByteArray &request)
+{
+    if (request.contains("Authorization: Basic "))
+        ++m_passwordCount;
+    return request.contains("Authorization: Basic " + m_faults.credentials.toBase64());
+}
+
 bool FaultyServer::isRefused(const QByteArray &bytes, QTcpSocket *client)
 {
     const bool isRequest = bytes.startsWith("POST ") || bytes.startsWith("GET ");
-    if (!isRequest || m_faults.credentials.isEmpty() ||
-        bytes.contains("Authorization: Basic " + m_faults.credentials.toBase64()))
+    if (!isRequest || m_faults.credentials.isEmpty() || hasCredentials(bytes))
         return false;
+    refuse(client);
+    return true;
+}
+
+bool FaultyServer::isOperationRefused(QByteArray &bytes, QTcpSocket *client)
+{
+    if (!client->property("isRefused").toBool()) {
+        // All is withheld until the operation is known.
+        const QByteArray withheld = client->property("withheld").toByteArray();
+        if (withheld.isEmpty() && !bytes.startsWith("POST "))
+            return false;
+        bytes.prepend(withheld);
+        const std::optional<int> operation = operationOf(bytes);
+        client->setProperty("withheld", operation ? QByteArray() : bytes);
+        if (!operation)
+            return true;
+        if (*operation != m_faults.lockedOperation || hasCredentials(bytes))
+            return false;
+        client->setProperty("isRefused", true);
+    }
+    const QByteArray end = client->property("end").toByteArray() + bytes;
+    client->setProperty("end", end.right(endOfDocument.size()));
+    if (!m_faults.refusesLate || end.endsWith(endOfDocument))
+        refuse(client);
+    return true;
+}
+
+void FaultyServer::refuse(QTcpSocket *client)
+{
     ++m_requestCount;
     ++m_refusedCount;
     client->write("HTTP/1.1 401 Unauthorized\r\nConnection: close\r\nContent-Length: 0\r\n"
                   "WWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n");
     client->disconnectFromHost();
+}
+
+bool FaultyServer::refusesEncryption(const QByteArray &bytes, QTcpSocket *client)
+{
+    if (!m_faults.refusesEncryption || !bytes.startsWith("OPTIONS "))
+        return false;
+    client->write("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n");
     return true;
 }
 
-void FaultyServer::take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real)
+void FaultyServer::take(QByteArray bytes, QTcpSocket *client, QTcpSocket *real)
 {
-    if (isRefused(bytes, client))
+    const bool lacksPassword =
+        m_faults.lockedOperation != 0 ? isOperationRefused(bytes, client) : isRefused(bytes, client);
+    if (lacksPassword || refusesEncryption(bytes, client))
         return;
     countRequest(bytes, client);
     const int operation = client->property("operation").toInt();

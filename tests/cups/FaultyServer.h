@@ -55,10 +55,18 @@ struct Faults {
     bool isGoneAfterwards = false;
     /// Requires "user:password" before anything else; empty requires none.
     QByteArray credentials = {};
+    /// Requires them for requests of this operation of IPP only; 0 for all.
+    int lockedOperation = 0;
+    /// Refuses such a request when all of it has come, with the document that belongs to it, and not before.
+    bool refusesLate = false;
+    /// Answers every request to encrypt the connection as a server does that cannot.
+    bool refusesEncryption = false;
+    /// The address that it and the real server listen on.
+    QString host = QStringLiteral("127.0.0.1");
 };
 
-/// A server on the loopback interface that stands in front of the real one and misbehaves. It has a thread of
-/// its own, so that it serves while the test's thread waits.
+/// A server, on the loopback interface unless Faults::host says otherwise, that stands in front of the real
+/// one and misbehaves. It has a thread of its own, so that it serves while the test's thread waits.
 class FaultyServer {
 public:
     /// For the server on the port of the loopback interface; 0 when there is none behind it.
@@ -67,7 +75,7 @@ public:
     FaultyServer(const FaultyServer &) = delete;
     FaultyServer &operator=(const FaultyServer &) = delete;
 
-    /// "127.0.0.1:PORT"
+    /// "HOST:PORT"
     QString address() const;
     /// How many requests came in.
     int requestCount() const { return m_requestCount; }
@@ -75,6 +83,8 @@ public:
     int requestCount(int operation) const;
     /// How many requests without the password came in.
     int refusedCount() const { return m_refusedCount; }
+    /// How many requests came in with a password, right or wrong.
+    int passwordCount() const { return m_passwordCount; }
     /// How many connections were made.
     int connectionCount() const { return m_connectionCount; }
     /// How many bytes were taken from all connections.
@@ -98,6 +108,10 @@ private:
     void serve(QTcpSocket *client);
     void countRequest(const QByteArray &bytes, QTcpSocket *client);
     bool isRefused(const QByteArray &bytes, QTcpSocket *client);
+    bool isOperationRefused(QByteArray &bytes, QTcpSocket *client);
+    bool hasCredentials(const QByteArray &request);
+    void refuse(QTcpSocket *client);
+    bool refusesEncryption(const QByteArray &bytes, QTcpSocket *client);
     bool stalls(QTcpSocket *client);
     bool breaksAnswer(QTcpSocket *client, QTcpSocket *real);
     void breakConnection(QTcpSocket *client);
@@ -107,15 +121,17 @@ private:
     static void passRest(QTcpSocket *client, QTcpSocket *real, const QByteArray &rest);
     void takeSlowly(QTcpSocket *client, QTcpSocket *real);
     void takeAll(QTcpSocket *client, QTcpSocket *real);
-    void take(const QByteArray &bytes, QTcpSocket *client, QTcpSocket *real);
+    void take(QByteArray bytes, QTcpSocket *client, QTcpSocket *real);
 
     const quint16 m_realPort;
+    const QString m_host;
     /// Only its own thread uses it while that runs.
     Faults m_faults;
     bool m_isGone = false;
     quint16 m_port = 0;
     std::atomic<int> m_requestCount = 0;
     std::atomic<int> m_refusedCount = 0;
+    std::atomic<int> m_passwordCount = 0;
     std::atomic<int> m_connectionCount = 0;
     std::atomic<qint64> m_takenBytes = 0;
     std::atomic<int> m_heldCount = 0;

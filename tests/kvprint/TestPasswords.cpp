@@ -1,100 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "KvprintTest.h"
+#include "Terminal.h"
 
 #include <FaultyServer.h>
-#include <tests/support/Waiting.h>
 
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <csignal>
-#include <poll.h>
-#include <pty.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-using test_support::failureMilliseconds;
-
-namespace {
-
-/// A program on a terminal of its own, and a person in front of it.
-class Terminal {
-public:
-    Terminal(const QStringList &command, const QProcessEnvironment &environment)
-    {
-        QList<QByteArray> texts;
-        for (const QString &text : command + environment.toStringList())
-            texts.append(text.toLocal8Bit());
-        std::vector<char *> words;
-        std::vector<char *> variables;
-        for (qsizetype i = 0; i < texts.size(); ++i)
-            (i < command.size() ? words : variables).push_back(texts[i].data());
-        words.push_back(nullptr);
-        variables.push_back(nullptr);
-        m_child = forkpty(&m_terminal, nullptr, nullptr, nullptr);
-        if (m_child == 0) {
-            execve(words[0], words.data(), variables.data());
-            _exit(127);
-        }
-    }
-    ~Terminal() { close(m_terminal); }
-    Terminal(const Terminal &) = delete;
-    Terminal &operator=(const Terminal &) = delete;
-
-    /// Everything shown so far, once the text is among it that has not been waited for yet.
-    QByteArray waitFor(const char *text)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (m_shown.indexOf(text, m_waitedFor) < 0 && timer.elapsed() < failureMilliseconds && readSome())
-            ;
-        const qsizetype found = m_shown.indexOf(text, m_waitedFor);
-        EXPECT_GE(found, 0) << "not shown: " << text << "\n" << m_shown.toStdString();
-        m_waitedFor = qMax(found, qsizetype(0)) + static_cast<qsizetype>(qstrlen(text));
-        return m_shown;
-    }
-    void type(const QByteArray &keys) const
-    {
-        EXPECT_EQ(write(m_terminal, keys.constData(), static_cast<std::size_t>(keys.size())), keys.size());
-    }
-    /// Reads until the program ends and answers its status.
-    int end()
-    {
-        while (readSome())
-            ;
-        if (m_isStuck)
-            kill(m_child, SIGKILL);
-        int status = 0;
-        waitpid(m_child, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-    void signal(int number) const { EXPECT_EQ(kill(m_child, number), 0); }
-    const QByteArray &shown() const { return m_shown; }
-
-private:
-    bool readSome()
-    {
-        pollfd input = {m_terminal, POLLIN, 0};
-        m_isStuck = poll(&input, 1, failureMilliseconds) <= 0;
-        if (m_isStuck)
-            return false;
-        char bytes[1024];
-        const ssize_t length = read(m_terminal, bytes, sizeof bytes);
-        // Once all programs are off the terminal, reading fails.
-        if (length <= 0)
-            return false;
-        m_shown.append(bytes, length);
-        return true;
-    }
-
-    pid_t m_child = -1;
-    int m_terminal = -1;
-    bool m_isStuck = false;
-    QByteArray m_shown;
-    qsizetype m_waitedFor = 0;
-};
-
-} // namespace
+#include <cups/ipp.h>
 
 class KvprintPasswords : public KvprintTest {
 protected:
@@ -137,10 +51,24 @@ TEST_F(KvprintPasswords, MayBeTypedAgain)
     Terminal terminal = start();
     terminal.waitFor("anna");
     terminal.type("wrong\n");
+    terminal.waitFor("is wrong");
     terminal.waitFor("anna");
     terminal.type("se cret-\xc3\xa4\n");
     EXPECT_EQ(terminal.end(), 0) << terminal.shown().toStdString();
     recorded(1);
+}
+
+TEST_F(KvprintPasswords, AreAskedForThreeTimesAtMost)
+{
+    Terminal terminal = start();
+    for (int attempt = 1; attempt <= 3; ++attempt) {
+        terminal.waitFor("anna");
+        terminal.type("wrong\n");
+    }
+    terminal.waitFor("does not accept the password");
+    EXPECT_EQ(terminal.end(), 1) << terminal.shown().toStdString();
+    EXPECT_EQ(results(), QByteArray());
+    EXPECT_TRUE(jobStates().isEmpty());
 }
 
 TEST_F(KvprintPasswords, NeedNotBeGiven)
@@ -177,6 +105,25 @@ TEST_F(KvprintPasswords, AreNotWaitedForWithoutATerminal)
     const Outcome list = kvprint.run(server + QStringList{QStringLiteral("--list")});
     EXPECT_EQ(list.status, 1);
     EXPECT_TRUE(list.error.contains("wants a password")) << list;
+}
+
+TEST_F(KvprintPasswords, AreAskedForWhenOnlyTheDocumentNeedsOne)
+{
+    const FaultyServer guarded{cupsd.port(),
+                               {.credentials = "anna:secret", .lockedOperation = IPP_OP_SEND_DOCUMENT}};
+    for (const char *const keys : {"secret\n", "\x03"}) {
+        Terminal terminal({QStringLiteral(KV_PROGRAM), QStringLiteral("--no-dialog"), QStringLiteral("-h"),
+                           guarded.address(), QStringLiteral("-U"), QStringLiteral("anna"),
+                           QStringLiteral("-d"), QStringLiteral("tape"), picture()},
+                          kvprint.environment);
+        terminal.waitFor("Password for");
+        terminal.type(keys);
+        const bool isGiven = keys[0] == 's';
+        EXPECT_EQ(terminal.end(), isGiven ? 0 : 1) << terminal.shown().toStdString();
+        EXPECT_EQ(terminal.shown().count("wants a password"), isGiven ? 0 : 1)
+            << terminal.shown().toStdString();
+    }
+    recorded(1);
 }
 
 TEST_F(KvprintPasswords, MayBeWantedForPrintingOnly)

@@ -189,6 +189,24 @@ TEST_F(DestinationsTest, APasswordIsAskedForOnceWrongThenRight)
     EXPECT_EQ(passwordQuestions, 2);
 }
 
+TEST_F(DestinationsTest, APasswordForPrintingOnlyIsAskedForWhenPrinting)
+{
+    const FaultyServer guarded(cupsd->port(),
+                               {.credentials = "ann:secret", .lockedOperation = IPP_OP_CREATE_JOB});
+    host::CupsServer server = serverAt(guarded.address());
+    server.user = QStringLiteral("ann");
+    openAndSettle(QStringLiteral("tape"), server);
+    EXPECT_EQ(passwordQuestions, 0);
+    // The server may have been restarted since it was asked last.
+    cupsd->kill();
+    cupsd->restart();
+    Hands::click(button(QStringLiteral("Print")));
+    answer(passwordDialog(), QStringLiteral("secret"));
+    EXPECT_TRUE(waitUntil([this] { return !window->isSending() && !window->isVisible(); }))
+        << told().toStdString();
+    EXPECT_EQ(passwordQuestions, 1);
+}
+
 TEST_F(DestinationsTest, WithNothingKnownARefusedPasswordCanBeGivenAfterAll)
 {
     const FaultyServer guarded(cupsd->port(), {.credentials = "ann:secret"});

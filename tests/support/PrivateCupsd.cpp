@@ -193,6 +193,45 @@ void PrivateCupsd::configure(const QByteArray &lines)
     restart();
 }
 
+void PrivateCupsd::configureForNetwork(const QString &host, const QByteArray &lines)
+{
+    m_networkName = host;
+    configure("Listen " + host.toLatin1() + ':' + QByteArray::number(port()) + "\nServerName " +
+              host.toLatin1() + "\nServerAlias *\n" + lines);
+}
+
+void PrivateCupsd::replaceCertificate()
+{
+    kill();
+    QDir(path(QStringLiteral("etc/ssl"))).removeRecursively();
+    QDir().mkpath(path(QStringLiteral("etc/ssl")));
+    restart();
+}
+
+void PrivateCupsd::useExpiredCertificate()
+{
+    kill();
+    const QString folder = path(QStringLiteral("etc/ssl"));
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    for (const char *const suffix : {".crt", ".key"})
+        EXPECT_TRUE(QFile::copy(QStringLiteral(KV_TEST_DATA "/certificates/expired") + QLatin1String(suffix),
+                                folder + u'/' + m_networkName + QLatin1String(suffix)));
+    restart();
+}
+
+void PrivateCupsd::removeCertificate()
+{
+    write(path(QStringLiteral("etc/cups-files.conf")),
+          cupsFilesConf(m_folder.path()) + "CreateSelfSignedCerts no\n");
+    replaceCertificate();
+}
+
+QString PrivateCupsd::certificatePath() const
+{
+    return path(QStringLiteral("etc/ssl/%1.crt").arg(m_networkName));
+}
+
 void PrivateCupsd::kill()
 {
     m_process.kill();

@@ -82,6 +82,19 @@ public:
     /// Starts the server anew with these lines at the end of its configuration, in place of earlier ones.
     void configure(const QByteArray &lines);
 
+    /// Has the server listen on that address of this machine too, which it calls its name; lines as for
+    /// configure().
+    void configureForNetwork(const QString &host, const QByteArray &lines = {});
+    /// Gives the server another certificate.
+    void replaceCertificate();
+    /// Gives the server, which was configured for a network, one that has expired.
+    void useExpiredCertificate();
+    /// Removes the server's certificate, so that it cannot encrypt.
+    void removeCertificate();
+    /// The certificate's file, for a server that was configured for a network and has been asked once to
+    /// encrypt.
+    QString certificatePath() const;
+
     /// Ends the server at once, as a crash would.
     void kill();
     /// Starts it again on the same port, with all its queues and jobs.
@@ -101,6 +114,7 @@ private:
     QTemporaryDir m_folder;
     QProcess m_process;
     ReservedPort m_port;
+    QString m_networkName;
     /// When addQueue() was done with each queue, in seconds since 1970.
     QHash<QString, qint64> m_configured;
 };

@@ -345,6 +345,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>Der Druckserver verlangt ein Kennwort. Zuletzt: %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>Dem Druckserver wird nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>Dem Druckserver wird nicht vertraut. Zuletzt: %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -853,6 +861,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>Geben Sie „%1“ ein, um fortzufahren:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Verbindung ohne Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>Der Druckserver „%1“ verlangt ein Kennwort, und die Verbindung zu ihm ist nicht verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Andere im Netzwerk können das Kennwort mitlesen.</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>Trotzdem senden</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Zertifikat des Druckservers</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>Sein SHA-256-Fingerabdruck lautet:
+%1
+Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck nennt. Ihm wird von da an vertraut.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Vertrauen</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -934,6 +988,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“, und es wurde keines angegeben.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>Der Druckserver „%1“ hat kein Zertifikat.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Das Zertifikat des Druckservers „%1“ ist nicht das, dem für diesen Rechner vertraut wird. Das vertraute hat den SHA-256-Fingerabdruck %2, das des Servers %3. Möglicherweise wurde das Zertifikat des Servers ersetzt, auf demselben Rechner läuft ein weiterer Druckserver, oder jemand fängt die Verbindung ab. Wenn der Verwalter des Servers den Fingerabdruck bestätigt, löschen Sie die Datei „%4“ und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Dem Zertifikat des Druckservers „%1“ mit dem SHA-256-Fingerabdruck %2 darf nicht vertraut werden: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2. Sein SHA-256-Fingerabdruck ist %3. Vergleichen Sie ihn mit dem, den der Verwalter des Servers nennt, und bestätigen Sie ihn, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>Der Benutzername oder das Kennwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“. Es wurde keines gesendet, weil die Verbindung nicht verschlüsselt ist und andere es mitlesen könnten. Verschlüsseln Sie die Verbindung (-E), oder bestätigen Sie es, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ nimmt das Kennwort des Benutzers „%2“ nicht an.</translation>
     </message>
 </context>
 <context>

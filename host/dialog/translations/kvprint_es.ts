@@ -344,6 +344,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>El servidor de impresión pide una contraseña. La última vez: %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>No se confía en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>No se confía en el servidor de impresión. La última vez: %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -852,6 +860,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>Escriba «%1» para continuar:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Conexión sin cifrar</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>El servidor de impresión «%1» pide una contraseña y la conexión con él no está cifrada.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Otros en la red pueden leer la contraseña.</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>Enviar de todos modos</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificado del servidor de impresión</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>No se confía en el certificado del servidor de impresión «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>Su huella SHA-256 es:
+%1
+Confíe en él solo si el administrador del servidor indica la misma huella. A partir de entonces se confía en él.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Confiar</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -933,6 +987,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2» y no se indicó ninguna.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>El servidor de impresión «%1» no tiene certificado.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>El certificado del servidor de impresión «%1» no es el que está marcado como de confianza para este equipo. El de confianza tiene la huella SHA-256 %2; el del servidor, %3. Puede que se haya sustituido el certificado del servidor, que en el mismo equipo funcione otro servidor de impresión o que alguien esté interceptando la conexión. Si el administrador del servidor confirma la huella, elimine el archivo «%4» e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>No se permite confiar en el certificado del servidor de impresión «%1» con la huella SHA-256 %2: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>No se confía en el certificado del servidor de impresión «%1»: %2. Su huella SHA-256 es %3. Compárela con la que indica el administrador del servidor y confírmela cuando se le pregunte, en la ventana o en un terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>El nombre de usuario o la contraseña son incorrectos.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2». No se ha enviado ninguna porque la conexión no está cifrada y otros podrían leerla. Cifre la conexión (-E) o confírmelo cuando se le pregunte, en la ventana o en un terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no acepta la contraseña del usuario «%2».</translation>
     </message>
 </context>
 <context>

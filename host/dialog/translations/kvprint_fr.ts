@@ -345,6 +345,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>Le serveur d’impression demande un mot de passe. La dernière fois : %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>Le serveur d’impression n’est pas approuvé.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>Le serveur d’impression n’est pas approuvé. La dernière fois : %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -853,6 +861,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>Tapez « %1 » pour continuer :</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Connexion non chiffrée</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>Le serveur d’impression « %1 » demande un mot de passe et la connexion n’est pas chiffrée.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>D’autres personnes sur le réseau peuvent lire le mot de passe.</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>Envoyer quand même</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificat du serveur d’impression</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>Son empreinte SHA-256 est :
+%1
+Ne l’approuvez que si l’administrateur du serveur indique la même empreinte. Il reste approuvé par la suite.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Approuver</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -934,6 +988,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 », et aucun n’a été donné.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>Le serveur d’impression « %1 » n’a pas de certificat.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Le certificat du serveur d’impression « %1 » n’est pas celui qui est approuvé pour cet hôte. Celui qui est approuvé a l’empreinte SHA-256 %2, celui du serveur a %3. Le certificat du serveur a peut-être été remplacé, un autre serveur d’impression fonctionne peut-être sur le même hôte, ou quelqu’un intercepte peut-être la connexion. Si l’administrateur du serveur confirme l’empreinte, supprimez le fichier « %4 » et réessayez.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Le certificat du serveur d’impression « %1 » avec l’empreinte SHA-256 %2 ne doit pas être approuvé : %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2. Son empreinte SHA-256 est %3. Comparez-la avec celle qu’indique l’administrateur du serveur et confirmez-la lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe est incorrect.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 ». Aucun n’a été envoyé, car la connexion n’est pas chiffrée et d’autres pourraient le lire. Chiffrez la connexion (-E) ou confirmez lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » n’accepte pas le mot de passe de l’utilisateur « %2 ».</translation>
     </message>
 </context>
 <context>

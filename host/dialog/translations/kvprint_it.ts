@@ -345,6 +345,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>Il server di stampa richiede una password. L&apos;ultima volta: %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>Il server di stampa non è attendibile.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>Il server di stampa non è attendibile. L&apos;ultima volta: %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -853,6 +861,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>Digitare &quot;%1&quot; per continuare:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Connessione non cifrata</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>Il server di stampa &quot;%1&quot; richiede una password e la connessione non è cifrata.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Altri sulla rete possono leggere la password.</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>Invia comunque</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificato del server di stampa</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>La sua impronta SHA-256 è:
+%1
+Considerarlo attendibile solo se l&apos;amministratore del server indica la stessa impronta. Da quel momento resta attendibile.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Considera attendibile</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -934,6 +988,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot; e non ne è stata indicata alcuna.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha un certificato.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; non è quello considerato attendibile per questo host. Quello attendibile ha l’impronta SHA-256 %2, quello del server %3. Il certificato del server potrebbe essere stato sostituito, sullo stesso host potrebbe essere in funzione un altro server di stampa oppure qualcuno potrebbe intercettare la connessione. Se l’amministratore del server conferma l’impronta, eliminare il file &quot;%4&quot; e riprovare.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; con l&apos;impronta SHA-256 %2 non può essere considerato attendibile: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2. La sua impronta SHA-256 è %3. Confrontarla con quella indicata dall&apos;amministratore del server e confermarla quando viene chiesto, nella finestra o su un terminale.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>Il nome utente o la password non è corretto.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot;. Non ne è stata inviata alcuna, perché la connessione non è cifrata e altri potrebbero leggerla. Cifrare la connessione (-E) o confermare quando viene chiesto, nella finestra o su un terminale.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non accetta la password dell&apos;utente &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>

@@ -344,6 +344,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>プリントサーバーがパスワードを求めています。前回: %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>プリントサーバーは信頼されていません。</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>プリントサーバーは信頼されていません。前回: %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -851,6 +859,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>続行するには「%1」と入力してください:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>暗号化されていない接続</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>プリントサーバー「%1」はパスワードを求めていますが、接続が暗号化されていません。</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>ネットワーク上の他の人がパスワードを読み取れます。</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>それでも送信</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>プリントサーバーの証明書</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>SHA-256 フィンガープリント:
+%1
+サーバーの管理者が示すフィンガープリントと同じ場合にのみ信頼してください。以後は信頼されます。</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>信頼する</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -932,6 +986,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めていますが、入力されていません。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>プリントサーバー「%1」には証明書がありません。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>プリントサーバー「%1」の証明書は、このホストに対して信頼されている証明書ではありません。信頼されている証明書の SHA-256 フィンガープリントは %2、サーバーのものは %3 です。サーバーの証明書が置き換えられたか、同じホストで別のプリントサーバーが動作しているか、または何者かが接続を傍受している可能性があります。サーバーの管理者がフィンガープリントを確認した場合は、ファイル「%4」を削除してもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>プリントサーバー「%1」の証明書 (SHA-256 フィンガープリント %2) は信頼できません: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。SHA-256 フィンガープリントは %3 です。サーバーの管理者が示すものと比べ、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>ユーザー名またはパスワードが正しくありません。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めています。接続が暗号化されておらず、他の人に読み取られるおそれがあるため、送信していません。接続を暗号化する (-E) か、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを受け付けません。</translation>
     </message>
 </context>
 <context>

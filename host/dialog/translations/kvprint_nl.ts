@@ -345,6 +345,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>De printserver vraagt een wachtwoord. De vorige keer: %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>De printserver wordt niet vertrouwd.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>De printserver wordt niet vertrouwd. De vorige keer: %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -853,6 +861,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>Typ &quot;%1&quot; om door te gaan:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Verbinding zonder versleuteling</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord en de verbinding is niet versleuteld.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Anderen op het netwerk kunnen het wachtwoord lezen.</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>Toch verzenden</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificaat van de printserver</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>De SHA-256-vingerafdruk is:
+%1
+Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. Het wordt vanaf dan vertrouwd.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Vertrouwen</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -934,6 +988,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;, maar er is geen opgegeven.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>De printserver &quot;%1&quot; heeft geen certificaat.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; is niet het certificaat dat voor deze host wordt vertrouwd. Het vertrouwde heeft de SHA-256-vingerafdruk %2, dat van de server heeft %3. Mogelijk is het certificaat van de server vervangen, draait er een andere printserver op dezelfde host of onderschept iemand de verbinding. Als de beheerder van de server de vingerafdruk bevestigt, verwijder dan het bestand &quot;%4&quot; en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; met de SHA-256-vingerafdruk %2 mag niet worden vertrouwd: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2. De SHA-256-vingerafdruk is %3. Vergelijk die met de vingerafdruk die de beheerder van de server noemt en bevestig die wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>De gebruikersnaam of het wachtwoord is onjuist.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;. Er is er geen verzonden, omdat de verbinding niet is versleuteld en anderen het zouden kunnen lezen. Versleutel de verbinding (-E) of bevestig het wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; accepteert het wachtwoord van de gebruiker &quot;%2&quot; niet.</translation>
     </message>
 </context>
 <context>

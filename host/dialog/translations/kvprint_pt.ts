@@ -344,6 +344,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>O servidor de impressão pede uma palavra-passe. Da última vez: %1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>O servidor de impressão não é confiável.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>O servidor de impressão não é confiável. Da última vez: %1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -852,6 +860,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>Escreva &quot;%1&quot; para continuar:</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Ligação sem encriptação</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>O servidor de impressão &quot;%1&quot; pede uma palavra-passe e a ligação não está encriptada.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Outras pessoas na rede podem ler a palavra-passe.</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>Enviar mesmo assim</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificado do servidor de impressão</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>O certificado do servidor de impressão &quot;%1&quot; não é confiável: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>A impressão digital SHA-256 dele é:
+%1
+Confie nele somente se o administrador do servidor informar a mesma impressão digital. A partir de então, ele é confiável.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Confiar</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -933,6 +987,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>O servidor de impressão &quot;%1&quot; pede uma palavra-passe para o utilizador &quot;%2&quot; e não foi indicada nenhuma.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>O servidor de impressão &quot;%1&quot; não tem certificado.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>O certificado do servidor de impressão &quot;%1&quot; não é aquele em que se confia para este computador. O certificado de confiança tem a impressão digital SHA-256 %2, o do servidor tem %3. O certificado do servidor pode ter sido substituído, pode haver outro servidor de impressão no mesmo computador ou alguém pode estar a intercetar a ligação. Se o administrador do servidor confirmar a impressão digital, remova o ficheiro &quot;%4&quot; e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Não é permitido confiar no certificado do servidor de impressão &quot;%1&quot; com a impressão digital SHA-256 %2: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>O certificado do servidor de impressão &quot;%1&quot; não é confiável: %2. A impressão digital SHA-256 é %3. Compare-a com a que o administrador do servidor informa e confirme-a quando for perguntado, na janela ou num terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>O nome de utilizador ou a palavra-passe está incorreto.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>O servidor de impressão &quot;%1&quot; pede uma palavra-passe para o utilizador &quot;%2&quot;. Nenhuma foi enviada, porque a ligação não está encriptada e outras pessoas poderiam lê-la. Encripte a ligação (-E) ou confirme quando for perguntado, na janela ou num terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>O servidor de impressão &quot;%1&quot; não aceita a palavra-passe do utilizador &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>

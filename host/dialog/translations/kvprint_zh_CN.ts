@@ -344,6 +344,14 @@
         <source>The print server wants a password. Last time: %1</source>
         <translation>打印服务器要求密码。上次状态：%1</translation>
     </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>打印服务器不受信任。</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>打印服务器不受信任。上次：%1</translation>
+    </message>
 </context>
 <context>
     <name>dialog::DestinationReport</name>
@@ -851,6 +859,52 @@
     </message>
 </context>
 <context>
+    <name>dialog::TerminalTrust</name>
+    <message>
+        <source>Type &quot;%1&quot; to continue:</source>
+        <translation>输入“%1”以继续：</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>未加密的连接</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>打印服务器“%1”需要密码，而与它的连接未加密。</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>网络上的其他人可以读取该密码。</translation>
+    </message>
+    <message>
+        <source>Send Anyway</source>
+        <translation>仍然发送</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>打印服务器的证书</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>打印服务器“%1”的证书不受信任：%2。</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>其 SHA-256 指纹为：
+%1
+仅当服务器管理员给出相同的指纹时才信任它。此后它将一直受信任。</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>信任</translation>
+    </message>
+</context>
+<context>
     <name>dialog::VirtualSender</name>
     <message>
         <source>The PPD file names no paper to print on</source>
@@ -932,6 +986,34 @@
     <message>
         <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
         <translation>打印服务器“%1”要求用户“%2”的密码，但未提供。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>打印服务器“%1”没有证书。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>打印服务器“%1”的证书不是此主机受信任的证书。受信任证书的 SHA-256 指纹是 %2，服务器证书的指纹是 %3。服务器的证书可能已被更换，同一主机上可能运行着另一台打印服务器，或者可能有人正在拦截连接。如果服务器管理员确认该指纹，请删除文件“%4”并重试。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>不允许信任打印服务器“%1”的证书（SHA-256 指纹 %2）：%3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>打印服务器“%1”的证书不受信任：%2。其 SHA-256 指纹为 %3。请将其与服务器管理员给出的指纹比较，并在窗口或终端中询问时确认。</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>用户名或密码错误。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>打印服务器“%1”需要用户“%2”的密码。由于连接未加密，其他人可能读取密码，因此未发送。请加密连接 (-E)，或在窗口或终端中询问时确认。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”不接受用户“%2”的密码。</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: Apache-2.0
+// Certificates, passwords and encryption: what comes before a server takes a request.
+#include "CupsConnection.h"
+#include "ServerCertificate.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace host {
+
+namespace {
+
+struct CupsConnectionTrustText {
+    Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
+};
+
+} // namespace
+
+http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArray &resource,
+                                              const std::function<http_status_t()> &ask)
+{
+    // More than encryption, the proofs that libcups has of its own and all passwords together need.
+    constexpr int mostAttempts = 20;
+    m_state->lacksPassword = false;
+    for (int attempt = 1;; ++attempt) {
+        if (!prepare())
+            return HTTP_STATUS_ERROR;
+        const http_status_t status = ask();
+        noteStatus(status);
+        if (wasGivenUp() || attempt == mostAttempts || !clearTheWay(status, method, resource))
+            return status;
+        if (!reconnect())
+            return HTTP_STATUS_ERROR;
+    }
+}
+
+void CupsConnection::noteStatus(http_status_t status)
+{
+    // Any other answer means that the password was accepted. "Continue" is none: the server may not have read
+    // the whole request.
+    if (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_CONTINUE)
+        m_state->isPasswordUnconfirmed = false;
+}
+
+bool CupsConnection::clearTheWay(http_status_t status, const char *method, const QByteArray &resource)
+{
+    switch (status) {
+    case HTTP_STATUS_UNAUTHORIZED:
+        return cupsDoAuthentication(m_http.get(), method, resource.constData()) == 0;
+    case HTTP_STATUS_UPGRADE_REQUIRED:
+        return std::exchange(m_state->encryption, HTTP_ENCRYPTION_REQUIRED) < HTTP_ENCRYPTION_REQUIRED;
+    case HTTP_STATUS_EXPECTATION_FAILED:
+        return std::exchange(m_state->expectsContinue, false);
+    default:
+        return false;
+    }
+}
+
+bool CupsConnection::isTrusted()
+{
+    m_state->certificateError.reset();
+    if (!httpIsEncrypted(m_http.get()) || isToThisMachine(m_http.get()))
+        return true;
+    m_state->certificateError = checkCertificate();
+    // The time that the user took for the answer is not the server's.
+    beginWaiting();
+    return !m_state->certificateError;
+}
+
+std::optional<CupsError> CupsConnection::checkCertificate() const
+{
+    const auto untrusted = [](const QString &message) { return CupsError{CupsFailure::Untrusted, message}; };
+    const QString name = server().displayName();
+    const std::optional<ServerCertificate> certificate = ServerCertificate::of(m_http.get());
+    if (!certificate)
+        return untrusted(
+            CupsConnectionTrustText::tr("The print server \"%1\" has no certificate.").arg(name));
+    const std::optional<QString> reason = certificate->verificationError();
+    if (!reason)
+        return std::nullopt;
+    const QString fingerprint = certificate->fingerprint();
+    const std::optional<QByteArray> trusted = certificate->trusted(server().certificates);
+    if (trusted && *trusted != certificate->der())
+        return untrusted(
+            CupsConnectionTrustText::tr(
+                "The certificate of the print server \"%1\" is not the one that is trusted for this host. "
+                "The "
+                "trusted one has the SHA-256 fingerprint %2, the server's has %3. The server's certificate "
+                "may "
+                "have been replaced, another print server may run on the same host, or someone may be "
+                "intercepting the connection. If the server's administrator confirms the fingerprint, remove "
+                "the file \"%4\" and try again.")
+                .arg(name, ServerCertificate::fingerprintOf(*trusted), fingerprint,
+                     certificate->path(server().certificates)));
+    if (const std::optional<QString> error = certificate->policyError())
+        return untrusted(CupsConnectionTrustText::tr("The certificate of the print server \"%1\" with the "
+                                                     "SHA-256 fingerprint %2 must not be trusted: %3")
+                             .arg(name, fingerprint, *error));
+    if (trusted)
+        return std::nullopt;
+    const auto request = TrustRequest::certificate(name, fingerprint, *reason);
+    if (!server().trust->isGranted(request, *m_state->task, server().askTrust))
+        return untrusted(CupsConnectionTrustText::tr(
+                             "The certificate of the print server \"%1\" is not trusted: %2. Its SHA-256 "
+                             "fingerprint is %3. Compare it with the one that the server's administrator "
+                             "names, and confirm it when you are asked, in the window or on a terminal.")
+                             .arg(name, *reason, fingerprint));
+    // If it cannot be saved, it is trusted until the program ends.
+    certificate->save(server().certificates);
+    return std::nullopt;
+}
+
+const char *CupsConnection::password(const char *prompt, http_t *http, const char *, const char *, void *data)
+{
+    State &state = *static_cast<State *>(data);
+    const auto trust = TrustRequest::readablePassword(state.server.displayName());
+    state.wouldBeReadable =
+        isReadable(http) && !state.server.trust->isGranted(trust, *state.task, state.server.askTrust);
+    state.lacksPassword = state.wouldBeReadable && !state.task->isCancelled();
+    if (state.wouldBeReadable)
+        return nullptr;
+    constexpr int mostPasswords = 3;
+    state.refusedPasswords = state.isPasswordUnconfirmed ? state.refusedPasswords + 1 : 0;
+    if (state.refusedPasswords >= mostPasswords) {
+        state.server.passwords->refuse(state.triedPasswords);
+        return nullptr;
+    }
+    QString text = QString::fromUtf8(prompt);
+    if (state.isPasswordUnconfirmed)
+        text.prepend(CupsConnectionTrustText::tr("The user name or the password is wrong.") + u'\n');
+    else
+        state.triedPasswords = 0; // one that was accepted before is sent again
+    const std::optional<PasswordRequest::Credentials> answer =
+        state.server.passwords->get(PasswordRequest(text, QString::fromUtf8(cupsUser())), *state.task,
+                                    state.server.askPassword, state.triedPasswords);
+    // A task that is cancelled is no refusal of the user.
+    state.lacksPassword = !answer && !state.task->isCancelled();
+    if (!answer)
+        return nullptr;
+    // libcups keeps no copy.
+    state.credentials = *answer;
+    state.isPasswordUnconfirmed = true;
+    state.threadScope->setUser(state.credentials.user);
+    state.restartSilence();
+    return state.credentials.password.constData();
+}
+
+CupsError CupsConnection::passwordError() const
+{
+    const QString name = server().displayName();
+    const QString user = QString::fromUtf8(cupsUser());
+    if (m_state->lacksPassword && m_state->wouldBeReadable)
+        return {
+            CupsFailure::NotAuthorized,
+            CupsConnectionTrustText::tr(
+                "The print server \"%1\" wants a password for the user \"%2\". None was sent, because the "
+                "connection is not encrypted and others could read it. Encrypt the connection (-E), or "
+                "confirm when you are asked, in the window or on a terminal.")
+                .arg(name, user)};
+    if (m_state->isPasswordUnconfirmed)
+        return {CupsFailure::NotAuthorized,
+                CupsConnectionTrustText::tr(
+                    "The print server \"%1\" does not accept the password of the user \"%2\".")
+                    .arg(name, user)};
+    return {CupsFailure::NotAuthorized,
+            CupsConnectionTrustText::tr(
+                "The print server \"%1\" wants a password for the user \"%2\", and none was given.")
+                .arg(name, user)};
+}
+
+} // namespace host

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Trust.h"
+
+namespace host {
+
+namespace {
+
+/// Two questions are the same when they are about the same certificate of the same server, or about passwords
+/// to the same server.
+QString identifierOf(const TrustRequest &request)
+{
+    // A server's name has no line end.
+    return request.server() + u'\n' + request.fingerprint();
+}
+
+} // namespace
+
+TrustRequest::TrustRequest(Subject subject, QString server, QString fingerprint, QString reason)
+    : m_subject(subject)
+    , m_server(std::move(server))
+    , m_fingerprint(std::move(fingerprint))
+    , m_reason(std::move(reason))
+{
+}
+
+TrustRequest TrustRequest::certificate(const QString &server, const QString &fingerprint,
+                                       const QString &reason)
+{
+    return {Subject::Certificate, server, fingerprint, reason};
+}
+
+TrustRequest TrustRequest::readablePassword(const QString &server)
+{
+    return {Subject::ReadablePassword, server, {}, {}};
+}
+
+bool TrustMemory::isGranted(const TrustRequest &request, const BackgroundTask &task, const TrustHandler &ask)
+{
+    const QString identifier = identifierOf(request);
+    std::unique_lock lock(m_mutex);
+    while (m_isAsking && !m_granted.contains(identifier) && !task.isCancelled())
+        m_answered.wait_for(lock, std::chrono::milliseconds(100));
+    if (m_granted.contains(identifier))
+        return true;
+    if (m_refused.contains(identifier) || !ask || task.isCancelled())
+        return false;
+    m_isAsking = true;
+    lock.unlock();
+    task.deliver([ask, request] { ask(request); });
+    const bool isGranted = request.wait(task);
+    lock.lock();
+    m_isAsking = false;
+    // Cancelling a task is no refusal.
+    if (isGranted || !task.isCancelled())
+        (isGranted ? m_granted : m_refused).insert(identifier);
+    m_answered.notify_all();
+    return isGranted;
+}
+
+void TrustMemory::forgetRefusals()
+{
+    const std::scoped_lock lock(m_mutex);
+    m_refused.clear();
+}
+
+} // namespace host

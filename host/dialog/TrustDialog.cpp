@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "TrustDialog.h"
+
+#include "TrustWords.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QPushButton>
+
+namespace dialog {
+
+TrustDialog::TrustDialog(const host::TrustRequest &request, QWidget *parent)
+    : QMessageBox(parent)
+    , m_request(request)
+{
+    const TrustWords words(request);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setIcon(Warning);
+    setTextFormat(Qt::PlainText);
+    setWindowTitle(words.title);
+    setText(words.question);
+    setInformativeText(words.details);
+    // Fingerprints are compared with what stands elsewhere.
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    QPushButton *const trust = addButton(words.action, AcceptRole);
+    setDefaultButton(addButton(Cancel));
+    connect(this, &QMessageBox::buttonClicked, this, [this, trust](QAbstractButton *pressed) {
+        if (pressed == trust)
+            m_request.grant();
+    });
+}
+
+TrustDialog::~TrustDialog()
+{
+    m_request.refuse();
+}
+
+host::TrustHandler askTrustWithDialog(QWidget *parent)
+{
+    return [window = QPointer<QWidget>(parent)](const host::TrustRequest &request) {
+        // A window that blocks all others must not block this one.
+        QWidget *const blocking = QApplication::activeModalWidget();
+        auto *const question = new TrustDialog(request, blocking ? blocking : window.data());
+        question->setWindowModality(Qt::WindowModal);
+        question->show();
+    };
+}
+
+} // namespace dialog
