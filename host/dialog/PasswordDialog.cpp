@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PasswordDialog.h"
 
-#include <QApplication>
+#include "QuestionParent.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -52,9 +53,7 @@ void PasswordDialog::done(int result)
 host::PasswordHandler askWithDialog(QWidget *parent)
 {
     return [window = QPointer<QWidget>(parent)](const host::PasswordRequest &request) {
-        // A window that blocks all others must not block this one.
-        QWidget *const blocking = QApplication::activeModalWidget();
-        auto *const question = new PasswordDialog(request, blocking ? blocking : window.data());
+        auto *const question = new PasswordDialog(request, questionParent(window.data()));
         question->setWindowModality(Qt::WindowModal);
         question->show();
     };

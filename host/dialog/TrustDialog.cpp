@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TrustDialog.h"
 
+#include "QuestionParent.h"
 #include "TrustWords.h"
 
-#include <QApplication>
 #include <QPointer>
 #include <QPushButton>
 
@@ -38,9 +38,7 @@ TrustDialog::~TrustDialog()
 host::TrustHandler askTrustWithDialog(QWidget *parent)
 {
     return [window = QPointer<QWidget>(parent)](const host::TrustRequest &request) {
-        // A window that blocks all others must not block this one.
-        QWidget *const blocking = QApplication::activeModalWidget();
-        auto *const question = new TrustDialog(request, blocking ? blocking : window.data());
+        auto *const question = new TrustDialog(request, questionParent(window.data()));
         question->setWindowModality(Qt::WindowModal);
         question->show();
     };

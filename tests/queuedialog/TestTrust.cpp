@@ -31,6 +31,7 @@ public:
     {
         return waitUntil([this] { return m_session.chosen() && m_keeper.setup(); });
     }
+    bool isParentOf(const QWidget *question) const { return question->parentWidget() == &m_window; }
 
 private:
     host::CupsServer withQuestions(host::CupsServer server)
@@ -190,4 +191,27 @@ TEST_F(TrustDialogTest, TwoWindowsOnOneServerAskOnce)
     EXPECT_TRUE(isKnown()) << told().toStdString();
     EXPECT_TRUE(other.isKnown());
     EXPECT_TRUE(allShown<dialog::TrustDialog>().isEmpty());
+}
+
+TEST_F(TrustDialogTest, TwoWindowsOnTwoServersAskEachOnItsOwn)
+{
+    open(QStringLiteral("tape"), encryptedServer());
+    const auto *const first = shown<dialog::TrustDialog>();
+    ASSERT_TRUE(first);
+    // Another host to the program, with its own certificates.
+    const QTemporaryDir otherCertificates;
+    host::CupsServer otherServer = encryptedServer();
+    otherServer.trust = std::make_shared<host::TrustMemory>();
+    otherServer.certificates = otherCertificates.path();
+    const OtherWindow other(documentPath, otherServer);
+    EXPECT_TRUE(waitUntil([] { return allShown<dialog::TrustDialog>().size() == 2; }));
+    // The question of a window that is closed goes with it; the other window's stays.
+    close();
+    EXPECT_TRUE(waitUntil([] { return allShown<dialog::TrustDialog>().size() == 1; }));
+    const auto *const second = shown<dialog::TrustDialog>();
+    ASSERT_TRUE(second);
+    EXPECT_TRUE(other.isParentOf(second));
+    Hands::click(button(second, QStringLiteral("Trust")));
+    EXPECT_TRUE(other.isKnown());
+    EXPECT_TRUE(QDir(certificates.path()).entryList(QDir::Files).isEmpty());
 }
