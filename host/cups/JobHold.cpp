@@ -71,8 +71,7 @@ std::optional<CupsError> JobHold::end(CupsConnection &connection, const QString 
     if (!m_isNeeded || m_wanted == endlessHold)
         return std::nullopt;
     IppPointer request =
-        connection.newRequest(m_wanted == noHold ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+        connection.newRequest(m_wanted == noHold ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, queue, jobId);
     // To RFC 8011 a time of day is no keyword but a name.
     if (m_wanted != noHold)
         ippAddString(request.get(), IPP_TAG_OPERATION,

@@ -79,8 +79,7 @@ QStringList JobStatus::sentences() const
 
 Result<JobStatus, CupsError> queryJob(CupsConnection &connection, const QString &queue, int jobId)
 {
-    IppPointer request = connection.newRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    IppPointer request = connection.newRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(requestedAttributes.size()), nullptr, requestedAttributes.data());
     const Result<IppPointer, CupsError> answer = connection.exchange(std::move(request), "/jobs");

@@ -203,8 +203,7 @@ std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queu
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return connection.error();
-    IppPointer request = connection.value().newRequest(IPP_OP_CANCEL_JOB, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    IppPointer request = connection.value().newRequest(IPP_OP_CANCEL_JOB, queue, jobId);
     const Result<IppPointer, CupsError> answer = connection.value().exchange(std::move(request), "/jobs");
     return answer ? std::nullopt : std::optional(answer.error());
 }

@@ -45,8 +45,7 @@ Result<QString, CupsError> settle(CupsConnection &connection, const JobRecord &r
         return LeftJobText::tr("Job %1-%2 on the print server \"%3\" is not held: %4")
             .arg(record.queue, number, record.server, job.value().sentences().join(u' '));
     const ipp_op_t operation = action == LeftJobAction::Release ? IPP_OP_RELEASE_JOB : IPP_OP_CANCEL_JOB;
-    IppPointer request = connection.newRequest(operation, record.queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    IppPointer request = connection.newRequest(operation, record.queue, jobId);
     const Result<IppPointer, CupsError> answer = connection.exchangeToTheEnd(std::move(request), "/jobs");
     if (!answer)
         return answer.error();
