@@ -92,6 +92,34 @@ TEST_F(PpdOptionsTest, ReadsParametersWithTheirLimits)
     EXPECT_TRUE(named(parameters, "Secret").isComplete());
 }
 
+TEST_F(PpdOptionsTest, LimitsThatAreReversedOrNoNumbersArePutRight)
+{
+    QByteArray text = optionsPpd();
+    text.replace("1 points 10 144", "1 points 144 10").replace("2 real -1.5 2.5", "2 real nan 1e30");
+    text.replace("3 passcode 4 6", "3 passcode 6 -1");
+    const auto parameters = PpdOptions(openPpd(sandbox, text)).parameters("Offset");
+    const PpdParameter left = named(parameters, "Left");
+    EXPECT_EQ(left.minimum, 10);
+    EXPECT_EQ(left.maximum, 144);
+    const PpdParameter gain = named(parameters, "Gain");
+    EXPECT_EQ(gain.minimum, 0);
+    EXPECT_EQ(gain.maximum, std::numeric_limits<int>::max());
+    EXPECT_EQ(gain.number, 0);
+    const PpdParameter key = named(parameters, "Key");
+    EXPECT_EQ(key.minimum, 0);
+    EXPECT_EQ(key.maximum, 6);
+}
+
+TEST_F(PpdOptionsTest, AnOptionOfTwoGroupsDoesNotKeepThePpdFromOpening)
+{
+    const QByteArray option = "*OpenUI *Twice/Twice: PickOne\n*DefaultTwice: B\n*Twice A/A: \"\"\n"
+                              "*Twice B/B: \"\"\n*CloseUI: *Twice\n";
+    const QByteArray groups = "*OpenGroup: One/One\n" + option + "*CloseGroup: One\n*OpenGroup: Two/Two\n" +
+                              option + "*CloseGroup: Two\n";
+    const host::PpdFile twice = openPpd(sandbox, optionsPpd() + groups);
+    EXPECT_EQ(markedIn(twice, "Twice"), QByteArrayList{"B"});
+}
+
 TEST_F(PpdOptionsTest, TranslatesFreeChoicesAndTheirParameters)
 {
     ppd.localize(QStringLiteral("de"));
