@@ -7,13 +7,23 @@
 
 namespace host {
 
+namespace {
+
+/// How many there are in the thread; an inner one leaves what an outer one waits for.
+thread_local int depth = 0;
+
+} // namespace
+
 LibraryMemory::LibraryMemory()
 {
-    errno = 0;
+    if (depth == 0)
+        errno = 0;
+    ++depth;
 }
 
 LibraryMemory::~LibraryMemory()
 {
+    --depth;
     if (errno == ENOMEM)
         OutOfMemory::end();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PdfPages.h"
 
+#include "LibraryMemory.h"
+
 #include <QCoreApplication>
 #include <QPainter>
 
@@ -46,7 +48,7 @@ PdfPages::PdfPages(std::unique_ptr<QFile> file, PageSizes sizes)
 Result<std::unique_ptr<PdfPages>, DocumentProblem> PdfPages::open(std::unique_ptr<QFile> file)
 {
     std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file), {}));
-    pages->m_pdf.load(pages->m_file.get());
+    pages->load();
     if (auto problem = loadingProblem(pages->m_pdf.error()))
         return *problem;
     if (pages->pageCount() < 1)
@@ -61,8 +63,14 @@ std::unique_ptr<PdfPages> PdfPages::openAgain(PdfSource source)
 {
     std::unique_ptr<PdfPages> pages(new PdfPages(std::move(source.file), std::move(source.sizes)));
     if (pages->m_file)
-        pages->m_pdf.load(pages->m_file.get());
+        pages->load();
     return pages;
+}
+
+void PdfPages::load()
+{
+    const LibraryMemory memory;
+    m_pdf.load(m_file.get());
 }
 
 QSizeF PdfPages::pageSize(int page) const
@@ -92,6 +100,7 @@ QImage PdfPages::render(int page, QSize size) const
 QImage PdfPages::renderTransparent(int page, QSize size) const
 {
     ++m_drawingCount;
+    const LibraryMemory memory;
     return m_pdf.render(page, size);
 }
 

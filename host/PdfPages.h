@@ -64,6 +64,7 @@ public:
 private:
     PdfPages(std::unique_ptr<QFile> file, PageSizes sizes);
 
+    void load();
     std::optional<DocumentProblem> checkPagesUpTo(int end) const;
 
     std::unique_ptr<QFile> m_file;

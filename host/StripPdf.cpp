@@ -2,6 +2,7 @@
 #include "StripPdf.h"
 
 #include "CutPlanWords.h"
+#include "LibraryMemory.h"
 #include "StripPainter.h"
 
 #include <QCoreApplication>
@@ -140,6 +141,7 @@ private:
 
 bool writeStripPdf(const PrintedStrip &strip, QIODevice *device)
 {
+    const LibraryMemory memory;
     return PdfStrip(strip, device).write();
 }
 
