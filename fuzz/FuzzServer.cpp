@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <csignal>
+#include <pthread.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -40,6 +42,10 @@ void FuzzServer::setAnswer(const QByteArray &bytes)
 
 void FuzzServer::serve()
 {
+    // libFuzzer's alarm, each second, would interrupt waiting for a connection.
+    sigset_t all{};
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, nullptr);
     for (;;) {
         const int connection = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
         if (connection < 0)
