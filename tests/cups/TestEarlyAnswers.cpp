@@ -57,7 +57,7 @@ TEST_F(EarlyAnswersTest, ARefusalInTheMiddleOfADocumentIsTold)
     const Outcome outcome = print(largeTicket(), at(full));
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsFailure::Refused) << qPrintable(outcome.error->message);
-    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("Request Entity Too Large")))
+    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("the disk is full")))
         << qPrintable(outcome.error->message);
     expectNothingWaits();
 }
