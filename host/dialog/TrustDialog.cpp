@@ -9,6 +9,20 @@
 
 namespace dialog {
 
+namespace {
+
+/// The text with the fingerprint in lines of eight bytes: a message box would break it anywhere.
+QString withFingerprintInLines(QString text, const QString &fingerprint)
+{
+    constexpr qsizetype lineLength = 8 * 3;
+    QString lines = fingerprint;
+    for (qsizetype end = lineLength; end < lines.size(); end += lineLength + 1)
+        lines.insert(end, u'\n');
+    return fingerprint.isEmpty() ? text : text.replace(fingerprint, lines);
+}
+
+} // namespace
+
 TrustDialog::TrustDialog(const host::TrustRequest &request, QWidget *parent)
     : QMessageBox(parent)
     , m_request(request)
@@ -19,7 +33,7 @@ TrustDialog::TrustDialog(const host::TrustRequest &request, QWidget *parent)
     setTextFormat(Qt::PlainText);
     setWindowTitle(words.title);
     setText(words.question);
-    setInformativeText(words.details);
+    setInformativeText(withFingerprintInLines(words.details, request.fingerprint()));
     // Fingerprints are compared with what stands elsewhere.
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     QPushButton *const trust = addButton(words.action, AcceptRole);

@@ -27,7 +27,7 @@ TrustWords::TrustWords(const host::TrustRequest &request)
     title = TrustWordsText::tr("Certificate of the print server");
     question = TrustWordsText::tr("The certificate of the print server \"%1\" is not trusted: %2.")
                    .arg(request.server(), request.reason());
-    details = TrustWordsText::tr("Its SHA-256 fingerprint is:\n%1\nTrust it only if the server's "
+    details = TrustWordsText::tr("Its SHA-256 fingerprint is:\n%1\n\nTrust it only if the server's "
                                  "administrator names the same fingerprint. It is trusted from then on.")
                   .arg(request.fingerprint());
     action = TrustWordsText::tr("Trust");

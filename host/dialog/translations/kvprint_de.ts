@@ -896,9 +896,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>Sein SHA-256-Fingerabdruck lautet:
 %1
+
 Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck nennt. Ihm wird von da an vertraut.</translation>
     </message>
     <message>

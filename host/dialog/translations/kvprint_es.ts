@@ -895,9 +895,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>Su huella SHA-256 es:
 %1
+
 Confíe en él solo si el administrador del servidor indica la misma huella. A partir de entonces se confía en él.</translation>
     </message>
     <message>

@@ -896,9 +896,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>Son empreinte SHA-256 est :
 %1
+
 Ne l’approuvez que si l’administrateur du serveur indique la même empreinte. Il reste approuvé par la suite.</translation>
     </message>
     <message>

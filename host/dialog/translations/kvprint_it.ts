@@ -896,9 +896,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>La sua impronta SHA-256 è:
 %1
+
 Considerarlo attendibile solo se l&apos;amministratore del server indica la stessa impronta. Da quel momento resta attendibile.</translation>
     </message>
     <message>

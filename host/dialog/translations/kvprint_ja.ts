@@ -894,9 +894,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>SHA-256 フィンガープリント:
 %1
+
 サーバーの管理者が示すフィンガープリントと同じ場合にのみ信頼してください。以後は信頼されます。</translation>
     </message>
     <message>

@@ -896,9 +896,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>De SHA-256-vingerafdruk is:
 %1
+
 Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. Het wordt vanaf dan vertrouwd.</translation>
     </message>
     <message>

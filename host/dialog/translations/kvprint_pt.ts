@@ -895,9 +895,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>A impressão digital SHA-256 dele é:
 %1
+
 Confie nele somente se o administrador do servidor informar a mesma impressão digital. A partir de então, ele é confiável.</translation>
     </message>
     <message>

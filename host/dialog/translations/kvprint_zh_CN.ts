@@ -894,9 +894,11 @@
     <message>
         <source>Its SHA-256 fingerprint is:
 %1
+
 Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
         <translation>其 SHA-256 指纹为：
 %1
+
 仅当服务器管理员给出相同的指纹时才信任它。此后它将一直受信任。</translation>
     </message>
     <message>
