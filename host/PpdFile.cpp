@@ -81,8 +81,8 @@ private:
     const QString &m_language;
 };
 
-/// libcups's own list. Whoever walks through it may not look for an option meanwhile, which moves its
-/// position: where two options have the same name, back to the first one, for ever.
+/// All options, in libcups's order. A copy: a search for an option moves the position from which
+/// ppdNextOption() continues, where two options have the same name back to the first one, for ever.
 std::vector<ppd_option_t *> allOptions(ppd_file_t *ppd)
 {
     std::vector<ppd_option_t *> options;

@@ -262,7 +262,7 @@ ssize_t CupsConnection::readPiece(void *connection, ipp_uchar_t *buffer, std::si
 Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
 {
     if (status != HTTP_STATUS_OK) {
-        // What was refused has made nothing that there is to be taken back.
+        // A refused request has created nothing that has to be canceled.
         if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
             return noAnswer();
         httpFlush(m_http.get());

@@ -9,7 +9,7 @@
 #include <map>
 #include <random>
 
-/// Prints one job after the other through a proxy that makes a fault, and compares what the user is told with
+/// Prints one job after the other through a proxy that makes a fault, and compares what is reported with
 /// what the server has and has printed.
 class FaultSweepTest : public PrintingTest {
 protected:
@@ -36,7 +36,7 @@ protected:
     /// Prints a job of so many documents.
     Ending printThrough(const test_support::ProxyFault &fault, int documents);
 
-    /// The user is told what is so: printed once, not printed, or not known.
+    /// What is reported is true: printed once, not printed, or not known.
     void expectTruth(const Ending &ending, int documents);
     /// Nothing is printed twice or in part, whatever the answers say.
     void expectNoHalfAndNoDouble(const Ending &ending, int documents) const;

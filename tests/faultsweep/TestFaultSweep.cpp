@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // One fault at every boundary between two messages and at a sample of bytes, while a job is printed. The end
-// is one of three: printed once, not printed, not known; and the user is told which. KV_FAULT_SWEEP_SEED
+// is one of three: printed once, not printed, not known; and the program reports which. KV_FAULT_SWEEP_SEED
 // repeats the sample.
 #include "FaultSweepTest.h"
 

@@ -186,7 +186,7 @@ void FaultProxy::pass(Link &link, Direction direction)
             passBytes(link, direction, ahead > 0 ? ahead : source(link, direction)->bytesAvailable(),
                       unchanged);
     }
-    // What nobody gets any more must not fill the system's buffers.
+    // Answers that are not passed on must not fill the system's buffers.
     if (link.state == State::Closed && direction == Direction::ToClient)
         link.server->readAll();
 }
