@@ -78,11 +78,11 @@ std::optional<QString> ServerCertificate::verificationError() const
     QList<QSslCertificate> certificates;
     for (void *each = cupsArrayFirst(m_chain.get()); each; each = cupsArrayNext(m_chain.get()))
         certificates.append(QSslCertificate(derOf(each), QSsl::Der));
-    QStringList reasons;
+    QStringList errors;
     for (const QSslError &error : QSslCertificate::verify(certificates, QString::fromUtf8(m_server)))
-        reasons.append(error.errorString());
-    reasons.removeDuplicates();
-    return reasons.isEmpty() ? std::nullopt : std::optional(reasons.join(QStringLiteral("; ")));
+        errors.append(error.errorString());
+    errors.removeDuplicates();
+    return errors.isEmpty() ? std::nullopt : std::optional(errors.join(QStringLiteral("; ")));
 }
 
 std::optional<QString> ServerCertificate::policyError() const

@@ -14,7 +14,7 @@ namespace {
 /// The text with the fingerprint in lines of eight bytes: a message box would break it anywhere.
 QString withFingerprintInLines(QString text, const QString &fingerprint)
 {
-    constexpr qsizetype lineLength = 8 * 3;
+    constexpr qsizetype lineLength = qsizetype{8} * 3;
     QString lines = fingerprint;
     for (qsizetype end = lineLength; end < lines.size(); end += lineLength + 1)
         lines.insert(end, u'\n');
