@@ -101,3 +101,21 @@ TEST_F(PasswordsTest, OneForCreatingAJobIsAskedForOnce)
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(guarded.refusedCount(), 1);
 }
+
+TEST_F(PasswordsTest, AServerThatIsRestartedWhileOneIsTypedPrintsOnce)
+{
+    const FaultyServer guarded(cupsd.port(),
+                               {.credentials = "anna:secret", .lockedOperation = IPP_OP_CREATE_JOB});
+    CupsServer restarted = at(guarded, {QStringLiteral("secret")});
+    restarted.askPassword = [this, answer = restarted.askPassword](const host::PasswordRequest &request) {
+        cupsd.kill();
+        cupsd.restart();
+        answer(request);
+    };
+    expectPrintedOnce(print(largeTicket(), restarted));
+    // The password is known from now on.
+    cupsd.kill();
+    cupsd.restart();
+    EXPECT_TRUE(print(ticket(), restarted).jobId);
+    EXPECT_EQ(asked, 1);
+}

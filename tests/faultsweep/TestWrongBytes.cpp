@@ -66,6 +66,11 @@ std::vector<QByteArray> forgeries()
     return {
         "HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n",
         "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"CUPS\"\r\nContent-Length: 0\r\n\r\n",
+        // Kerberos, without a ticket; and a scheme that does not exist.
+        "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Negotiate\r\nContent-Length: 0\r\n\r\n",
+        "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Unheard\r\nContent-Length: 0\r\n\r\n",
+        "HTTP/1.1 401 Unauthorized\r\nContent-Length: 0\r\n"
+        "WWW-Authenticate: Digest realm=\"CUPS\", nonce=\"0\", qop=\"auth\"\r\n\r\n",
         "HTTP/1.1 426 Upgrade Required\r\nConnection: Upgrade\r\nUpgrade: TLS/1.2\r\nContent-Length: "
         "0\r\n\r\n",
         "HTTP/1.1 301 Moved Permanently\r\nLocation: http://127.0.0.1:9/\r\nContent-Length: 0\r\n\r\n",
