@@ -17,7 +17,7 @@ rm -rf "$findings"
 mkdir -p "$findings"
 suppressions="$here/build/fuzz/lsan.supp"
 cat "$here/tests/support/lsan.supp" "$here/fuzz/lsan.supp" >"$suppressions"
-export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 LSAN_OPTIONS=suppressions="$suppressions"
+export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 LSAN_OPTIONS="suppressions='$suppressions'"
 # Finds the names of functions for reports, and for the suppressions.
 export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANGUAGE=en
