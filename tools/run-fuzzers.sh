@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: Apache-2.0
 # tools/run-fuzzers.sh [SECONDS [NAME...]]: builds the fuzzers and runs each for so many seconds, 20 by default, under
 # AddressSanitizer and UndefinedBehaviorSanitizer, two at a time. Starts from fuzz/corpus, which stays as it is; new
-# inputs go to build/fuzz/corpus. An input that fails lies in build/fuzz/findings; the exit status is 1 then.
+# inputs go to build/fuzz/corpus. An input that fails lies in build/fuzz/findings; the exit status is 1 then. KV_FUZZ_SEED
+# is the seed: 1 by default, so that a short run repeats itself; 0 chooses one at random, for long runs.
 set -eu
 here=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
 . "$here/tools/frontdoor.sh"
@@ -30,7 +31,8 @@ printf '%s\n' $names | xargs -n 1 -P "$(nproc)" sh -c '
     dictionary=""
     [ ! -f "$here/fuzz/$name.dict" ] || dictionary="-dict=$here/fuzz/$name.dict"
     log="$findings/$name.log"
-    if "$here/build/fuzz/fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
+    if "$here/build/fuzz/fuzz/fuzz_$name" -seed="${KV_FUZZ_SEED:-1}" -max_total_time="$seconds" -timeout=10 \
+        -rss_limit_mb=2048 \
         -artifact_prefix="$findings/$name-" ${dictionary:+"$dictionary"} "$new" "$here/fuzz/corpus/$name" \
         >"$log" 2>&1; then
         echo "fuzz_$name: $(grep -a "^Done" "$log" | tail -1)"
