@@ -31,6 +31,9 @@ protected:
 
     void SetUp() override;
 
+    /// The jobs since the last call, as soon as none of them waits or is being printed; those that are held
+    /// are canceled then.
+    std::vector<host::JobStatus> settledJobs();
     /// The messages of a job that is printed without a fault.
     std::vector<test_support::PassedMessage> trace(int documents);
     /// Prints a job of so many documents.
@@ -52,7 +55,6 @@ protected:
     std::map<std::string, int> endings;
 
 private:
-    std::vector<host::JobStatus> settledJobs();
     std::vector<QByteArray> contents(int documents) const;
     host::JobTicket ticketOf(int documents) const;
     void expectPrinted(const Ending &ending, int documents) const;
