@@ -2,7 +2,6 @@
 #include "ImagePdf.h"
 
 #include "ImageFacts.h"
-#include "LibraryMemory.h"
 #include "PdfPages.h"
 
 #include <QBuffer>
@@ -222,7 +221,6 @@ private:
 
 std::optional<DocumentProblem> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf)
 {
-    const LibraryMemory memory;
     ImageSource source(image, kind);
     if (auto problem = source.check())
         return problem;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PdfPages.h"
 
-#include "LibraryMemory.h"
-
 #include <QCoreApplication>
 #include <QPainter>
 
@@ -69,7 +67,6 @@ std::unique_ptr<PdfPages> PdfPages::openAgain(PdfSource source)
 
 void PdfPages::load()
 {
-    const LibraryMemory memory;
     m_pdf.load(m_file.get());
 }
 
@@ -100,7 +97,6 @@ QImage PdfPages::render(int page, QSize size) const
 QImage PdfPages::renderTransparent(int page, QSize size) const
 {
     ++m_drawingCount;
-    const LibraryMemory memory;
     return m_pdf.render(page, size);
 }
 

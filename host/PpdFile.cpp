@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdFile.h"
 
-#include "LibraryMemory.h"
 #include "PpdOptions.h"
 #include "PpdSource.h"
 
@@ -162,7 +161,6 @@ void PpdFile::localize(const QString &language)
 
 void PpdFile::markDefaults()
 {
-    const LibraryMemory memory;
     const std::vector<ppd_option_t *> options = allOptions(m_ppd.get());
     for (ppd_option_t *const option : options) {
         if (option->ui == PPD_UI_PICKMANY)
@@ -177,7 +175,6 @@ void PpdFile::markDefaults()
 
 void PpdFile::mark(const QString &keyword, const QString &choice)
 {
-    const LibraryMemory memory;
     const QByteArray name = keyword.toUtf8();
     const QByteArray value = choice.toUtf8();
     ppd_option_t *const option = ppdFindOption(m_ppd.get(), name.constData());

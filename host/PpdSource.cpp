@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdSource.h"
 
-#include "LibraryMemory.h"
-
 #include <QCoreApplication>
 #include <QFile>
 
@@ -141,11 +139,7 @@ Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)
 
 Result<PpdHandle, PpdError> PpdSource::parse()
 {
-    PpdHandle ppd;
-    {
-        const LibraryMemory memory;
-        ppd.reset(ppdOpen2(m_file.get()));
-    }
+    PpdHandle ppd(ppdOpen2(m_file.get()));
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);

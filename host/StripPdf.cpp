@@ -2,7 +2,6 @@
 #include "StripPdf.h"
 
 #include "CutPlanWords.h"
-#include "LibraryMemory.h"
 #include "StripPainter.h"
 
 #include <QCoreApplication>
@@ -141,7 +140,6 @@ private:
 
 bool writeStripPdf(const PrintedStrip &strip, QIODevice *device)
 {
-    const LibraryMemory memory;
     return PdfStrip(strip, device).write();
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SvgPdf.h"
 
-#include "LibraryMemory.h"
 #include "PdfPages.h"
 #include "SvgSource.h"
 
@@ -74,7 +73,6 @@ QByteArray draw(QSvgRenderer &renderer, QSizeF size)
 
 std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf)
 {
-    const LibraryMemory memory;
     const auto source = SvgSource::read(svg);
     if (!source)
         return source.error();

@@ -6,8 +6,6 @@
 #include "FailureReason.h"
 #include "ServerCertificate.h"
 
-#include <host/LibraryMemory.h>
-
 #include <QCoreApplication>
 
 #include <array>
@@ -272,7 +270,6 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
     // limit on silence.
     IppPointer answer(ippNew());
     ipp_state_t state = IPP_STATE_IDLE;
-    const LibraryMemory memory;
     while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
         state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
     if (state == IPP_STATE_ERROR)

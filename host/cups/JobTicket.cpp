@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobTicket.h"
 
-#include <host/LibraryMemory.h>
-
 #include <QTextBoundaryFinder>
 
 #include <cups/cups.h>
@@ -56,7 +54,6 @@ const JobOption *findUnsendable(const std::vector<JobOption> &options)
 
 void encodeJobOptions(ipp_t *request, const std::vector<JobOption> &options)
 {
-    const LibraryMemory memory;
     cups_option_t *usual = nullptr;
     int count = 0;
     for (const JobOption &option : options) {

@@ -43,22 +43,6 @@ bool chooseScreen(const QStringList &arguments)
     return !platform.startsWith("offscreen") && !platform.startsWith("minimal");
 }
 
-/// Reads the configuration of the fonts, before Qt has fontconfig read it: fontconfig would try again for
-/// ever when there is no memory for it.
-void readFonts()
-{
-    FcConfig *const fonts = FcInitLoadConfigAndFonts();
-    if (!fonts)
-        host::OutOfMemory::end();
-    FcConfigSetCurrent(fonts);
-}
-
-/// Whether the command draws anything.
-bool needsFonts(dialog::Task task)
-{
-    return task == dialog::Task::Print || task == dialog::Task::Summary || task == dialog::Task::DryRun;
-}
-
 QtMessageHandler usualHandler = nullptr;
 
 /// Without a screen Qt tells at every start what its screenless platform lacks, which is no news to
@@ -117,7 +101,7 @@ int main(int argc, char **argv)
     mallopt(M_ARENA_MAX, 1);
     // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it
     // done, having been busy with the display meanwhile.
-    const std::jthread fonts = attended ? std::jthread(readFonts) : std::jthread();
+    const std::jthread fonts = attended ? std::jthread(FcInit) : std::jthread();
     // Qt would take options of its own out of what are lp's words: "-title" says "-t itle".
     argc = 1;
     const QApplication application(argc, argv);
@@ -136,8 +120,6 @@ int main(int argc, char **argv)
     const dialog::Console console{[&](const QString &text) { return streams.out(text); },
                                   dialog::StandardStreams::error};
     platform::TemporaryFile::removeLeftOvers(QDir::tempPath());
-    if (!attended && needsFonts(command.value().task))
-        readFonts();
     const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run(), streams);
     if (host::Background::wasUsed())
         std::_Exit(outcome);

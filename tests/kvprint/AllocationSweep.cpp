@@ -69,18 +69,20 @@ Outcome AllocationSweep::run(const Kvprint &kvprint, const QStringList &words, q
 std::vector<quint64> AllocationSweep::numbers(quint64 count)
 {
     std::set<quint64> numbers;
-    const int half = qMax(1, m_points / 2);
-    for (int i = 0; i <= half; ++i)
-        numbers.insert(static_cast<quint64>(std::pow(static_cast<double>(count), double(i) / half)));
+    const int third = qMax(1, m_points / 3);
+    for (int i = 0; i <= third; ++i) {
+        const auto distance = static_cast<quint64>(std::pow(static_cast<double>(count), double(i) / third));
+        numbers.insert({distance, count + 1 - distance});
+    }
     std::uniform_int_distribution<quint64> anywhere(1, count);
-    for (int i = 0; i < half; ++i)
+    for (int i = 0; i < third; ++i)
         numbers.insert(anywhere(m_random));
     return {numbers.begin(), numbers.end()};
 }
 
 void AllocationSweep::note(const Outcome &outcome)
 {
-    QByteArray ending = "crashed in a library";
+    QByteArray ending = "ended by a signal";
     if (outcome.status >= 0)
         ending = "status " + QByteArray::number(outcome.status) + ' ' +
                  (outcome.status == 0 ? QByteArray() : outcome.error.trimmed().split('\n').last());

@@ -26,8 +26,8 @@ public:
     /// Runs the program with the allocation of this number failing.
     Outcome run(const Kvprint &kvprint, const QStringList &words, quint64 number, Failing failing);
 
-    /// Numbers up to the count: half of them ever further apart, since most runs are alike at first, half
-    /// random.
+    /// Numbers up to the count. A third is dense at the start, a third at the end, where the job is sent, and
+    /// a third is random.
     std::vector<quint64> numbers(quint64 count);
     /// Counts an ending for the report, by what the program has said.
     void note(const Outcome &outcome);

@@ -28,13 +28,6 @@ QByteArray comparable(QByteArray text)
     return QString::fromLatin1(text).remove(changing).toLatin1();
 }
 
-/// The number of labels in the PDF of a strip. How they are drawn is not compared: Qt PDF and fontconfig
-/// leave out a glyph, or replace a font, that they have no memory for, and report nothing.
-qsizetype labelsIn(const QByteArray &pdf)
-{
-    return pdf.count("/Subtype /Image");
-}
-
 } // namespace
 
 class KvprintAllocations : public KvprintTest {
@@ -45,9 +38,10 @@ protected:
         kvprint.environment.insert(QStringLiteral("QT_HASH_SEED"), QStringLiteral("0"));
     }
 
-    /// What a program that could not go on must say, unless a library has crashed.
-    static void expectWords(const Outcome &outcome)
+    /// A program that fails ends by itself, with a message.
+    static void expectMessage(const Outcome &outcome)
     {
+        EXPECT_GE(outcome.status, 0) << outcome;
         if (outcome.status > 0) {
             EXPECT_TRUE(outcome.error.contains("kvprint: ")) << outcome;
         }
@@ -76,7 +70,7 @@ protected:
             const QList<int> before = jobStates().keys();
             const Outcome outcome = sweep.run(kvprint, words, number, failing);
             sweep.note(outcome);
-            expectWords(outcome);
+            expectMessage(outcome);
             QList<int> jobs = jobStates().keys();
             EXPECT_LE(jobs.size(), before.size() + 1) << outcome;
             jobs.removeIf([&](int job) { return before.contains(job); });
@@ -94,7 +88,6 @@ private:
         }
         if (job == 0)
             return;
-        // A library may crash after the job's number was printed.
         const bool isSent = outcome.jobId() == job || outcome.error.contains(sentAllTheSame);
         const int state = jobStates().value(job);
         // A program that could not find out what became of the job has left its record.
@@ -186,9 +179,7 @@ protected:
         if (name.endsWith(QStringLiteral(".json"))) {
             EXPECT_EQ(file, whole);
         } else if (name.endsWith(QStringLiteral(".pdf"))) {
-            EXPECT_TRUE(file.trimmed().endsWith("%%EOF"));
-            EXPECT_GT(labelsIn(whole), 0);
-            EXPECT_EQ(labelsIn(file), labelsIn(whole));
+            EXPECT_TRUE(comparable(file) == comparable(whole)) << qPrintable(name);
         } else {
             EXPECT_FALSE(QImage::fromData(file).isNull());
         }
@@ -207,7 +198,7 @@ protected:
             QDir(output).removeRecursively();
             const Outcome outcome = sweep.run(kvprint, wordsFor(output), number, failing);
             sweep.note(outcome);
-            expectWords(outcome);
+            expectMessage(outcome);
             const QMap<QString, QByteArray> files = filesIn(output);
             if (outcome.status == 0) {
                 EXPECT_EQ(files.keys(), whole.keys()) << outcome;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// A library to be preloaded into a program: makes its allocations fail. It counts malloc(), calloc(),
-// realloc() and the aligned kinds, and with them operator new, in all threads from the beginning of main()
-// on. Read from the environment:
+// A library to be preloaded into a program that has a malloc() of its own: makes the allocations of the C
+// library fail on which it builds. It counts malloc(), calloc(), realloc() and the aligned kinds, and with
+// them operator new, in all threads from the beginning of main() on. Read from the environment:
 //
 //   KV_FAIL_AT      the number of the allocation that fails, from 1 on; without it none fails
 //   KV_FAIL_SINCE   when it is set, all later allocations fail as well
@@ -15,14 +15,6 @@
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
-
-extern "C" {
-// The C library's own, for those who replace the public ones.
-void *__libc_malloc(std::size_t size);                          // NOLINT(bugprone-reserved-identifier)
-void *__libc_calloc(std::size_t count, std::size_t size);       // NOLINT(bugprone-reserved-identifier)
-void *__libc_realloc(void *memory, std::size_t size);           // NOLINT(bugprone-reserved-identifier)
-void *__libc_memalign(std::size_t alignment, std::size_t size); // NOLINT(bugprone-reserved-identifier)
-}
 
 namespace {
 
@@ -70,6 +62,13 @@ bool fails()
     return isFailing;
 }
 
+/// The function of the C library that this library hides.
+template<typename Function>
+Function *hidden(const char *name)
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
 } // namespace
 
 // NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
@@ -84,39 +83,28 @@ __attribute__((visibility("default"))) int __libc_start_main(Main main, int coun
     return start(countedMain, count, words, begin, end, endOfLinker, stack);
 }
 
-__attribute__((visibility("default"))) void *malloc(std::size_t size)
+__attribute__((visibility("default"))) void *__libc_malloc(std::size_t size)
 {
-    return fails() ? nullptr : __libc_malloc(size);
+    static const auto allocate = hidden<void *(std::size_t)>("__libc_malloc");
+    return fails() ? nullptr : allocate(size);
 }
 
-__attribute__((visibility("default"))) void *calloc(std::size_t count, std::size_t size)
+__attribute__((visibility("default"))) void *__libc_calloc(std::size_t count, std::size_t size)
 {
-    return fails() ? nullptr : __libc_calloc(count, size);
+    static const auto allocate = hidden<void *(std::size_t, std::size_t)>("__libc_calloc");
+    return fails() ? nullptr : allocate(count, size);
 }
 
-__attribute__((visibility("default"))) void *realloc(void *memory, std::size_t size)
+__attribute__((visibility("default"))) void *__libc_realloc(void *memory, std::size_t size)
 {
-    return fails() ? nullptr : __libc_realloc(memory, size);
+    static const auto allocate = hidden<void *(void *, std::size_t)>("__libc_realloc");
+    return fails() ? nullptr : allocate(memory, size);
 }
 
-__attribute__((visibility("default"))) void *memalign(std::size_t alignment, std::size_t size)
+__attribute__((visibility("default"))) void *__libc_memalign(std::size_t alignment, std::size_t size)
 {
-    return fails() ? nullptr : __libc_memalign(alignment, size);
-}
-
-__attribute__((visibility("default"))) void *aligned_alloc(std::size_t alignment, std::size_t size)
-{
-    return memalign(alignment, size);
-}
-
-__attribute__((visibility("default"))) int posix_memalign(void **memory, std::size_t alignment,
-                                                          std::size_t size)
-{
-    void *const aligned = memalign(alignment, size);
-    if (!aligned)
-        return ENOMEM;
-    *memory = aligned;
-    return 0;
+    static const auto allocate = hidden<void *(std::size_t, std::size_t)>("__libc_memalign");
+    return fails() ? nullptr : allocate(alignment, size);
 }
 
 } // extern "C"
