@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CutPlan.h"
+#include "LabelExtent.h"
 #include "PageThread.h"
 
 #include <QElapsedTimer>

@@ -2,26 +2,13 @@
 #pragma once
 
 #include "CutSettings.h"
+#include "LabelExtent.h"
 
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace host {
-
-/// A page of the document as it lies on the tape; lengths along the tape in millimetres.
-struct LabelExtent {
-    double length = 0.0;
-    /// Blank before the first and after the last mark on the label.
-    double leadingBlank = 0.0;
-    double trailingBlank = 0.0;
-    /// Nothing is on the label at all.
-    bool whollyBlank = false;
-    /// Whether the blank is known. Until then it counts as 0.
-    bool isMeasured = true;
-
-    bool operator==(const LabelExtent &) const = default;
-};
 
 /// What the printer does to the tape after a label.
 struct LabelEnd {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CutPlan.h"
 #include "LabelDocument.h"
+#include "LabelExtent.h"
 
 namespace host {
 

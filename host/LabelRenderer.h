@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CutPlan.h"
 #include "LabelDrawing.h"
+#include "LabelExtent.h"
 
 #include <QCache>
 #include <QHash>

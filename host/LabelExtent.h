@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+namespace host {
+
+/// A page of the document as it lies on the tape; lengths along the tape in millimetres.
+struct LabelExtent {
+    double length = 0.0;
+    /// Blank before the first and after the last mark on the label.
+    double leadingBlank = 0.0;
+    double trailingBlank = 0.0;
+    /// Nothing is on the label at all.
+    bool whollyBlank = false;
+    /// Whether the blank is known. Until then it counts as 0.
+    bool isMeasured = true;
+
+    bool operator==(const LabelExtent &) const = default;
+};
+
+} // namespace host
