@@ -24,12 +24,10 @@ const QStringList asOrdinaryUser =
 
 class KvprintTrust : public KvprintTest {
 protected:
+    static void SetUpTestSuite() { host = test_support::networkAddress(); }
+
     void SetUp() override
     {
-        const std::optional<QString> address = test_support::networkAddress();
-        if (!address)
-            GTEST_SKIP() << test_support::noNetwork;
-        host = *address;
         const QString home = folder.filePath(QStringLiteral("home"));
         QDir().mkpath(home + QStringLiteral("/.cups"));
         QDir().mkpath(folder.filePath(QStringLiteral("cache")));
@@ -92,7 +90,7 @@ protected:
             EXPECT_TRUE(outcome.error.contains(part)) << part.toStdString() << "\n" << outcome;
     }
 
-    QString host;
+    inline static QString host;
 };
 
 TEST_F(KvprintTrust, AnUnknownCertificateIsAnErrorWithoutATerminal)

@@ -4,22 +4,23 @@
 #include <QHostAddress>
 #include <QNetworkInterface>
 
-#include <optional>
+#include <gtest/gtest.h>
 
 namespace test_support {
 
 /// An address of this machine on a network: a server that listens on it is reached as one on another machine
-/// is, and nothing leaves this machine. Nothing where there is no network.
-inline std::optional<QString> networkAddress()
+/// is, and nothing leaves this machine. Where there is none, the address is empty and the test fails,
+/// or in SetUpTestSuite() the suite, without running its tests.
+inline QString networkAddress()
 {
     for (const QHostAddress &address : QNetworkInterface::allAddresses()) {
         if (address.protocol() == QAbstractSocket::IPv4Protocol && !address.isLoopback())
             return address.toString();
     }
-    return std::nullopt;
+    ADD_FAILURE()
+        << "No network interface that is up has an IPv4 address, except the loopback interface. The "
+           "test needs one to reach this machine as another machine.";
+    return {};
 }
-
-/// What a test says that needs one.
-constexpr const char *noNetwork = "this machine has no address but the loopback interface's";
 
 } // namespace test_support
