@@ -31,6 +31,13 @@ protected:
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
     }
     void removeLeftOvers() const { TemporaryFile::removeLeftOvers(folder.path()); }
+    /// Makes a file that all users can read and write.
+    static void makeForAll(const QString &name)
+    {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(file.setPermissions(QFile::Permissions(0x6666)));
+    }
 
     QTemporaryDir folder;
 };
@@ -144,26 +151,41 @@ TEST_F(TemporaryFileTest, FilesOfOtherNamesAndOtherThingsStay)
 
 TEST_F(TemporaryFileTest, FilesOfOtherUsersStay)
 {
-    if (::geteuid() != 0)
-        GTEST_SKIP() << "only root can make files of other users";
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0777), 0);
-    const QString roots = path(QStringLiteral(".kvprint-0000000000000000.tmp"));
-    const QString users = path(QStringLiteral(".kvprint-1111111111111111.tmp"));
-    for (const QString &name : {roots, users}) {
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_TRUE(file.setPermissions(QFile::Permissions(0x6666)));
-    }
-    ASSERT_EQ(::chown(QFile::encodeName(users).constData(), OrdinaryUser::number, ::getegid()), 0);
+    const QString own = path(QStringLiteral(".kvprint-0000000000000000.tmp"));
+    const QString given = path(QStringLiteral(".kvprint-1111111111111111.tmp"));
+    makeForAll(own);
+    makeForAll(given);
+    const bool isRoot = ::geteuid() == 0;
+    const uid_t other = isRoot ? OrdinaryUser::number : 0;
+    const int result = ::chown(QFile::encodeName(given).constData(), other, ::getegid());
+    ASSERT_EQ(result, isRoot ? 0 : -1) << "only root can make files of other users";
     removeLeftOvers();
-    EXPECT_EQ(entries(), QStringList{QFileInfo(users).fileName()}) << "root's own is gone, and no other";
+    EXPECT_EQ(entries(), isRoot ? QStringList{QFileInfo(given).fileName()} : QStringList())
+        << "the user's own are gone, and no other";
+    if (!isRoot)
+        return;
 
-    QFile file(roots);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.setPermissions(QFile::Permissions(0x6666)));
+    makeForAll(own);
     const OrdinaryUser user;
     removeLeftOvers();
-    EXPECT_EQ(entries(), QStringList{QFileInfo(roots).fileName()}) << "the user's own is gone, and no other";
+    EXPECT_EQ(entries(), QStringList{QFileInfo(own).fileName()}) << "the user's own is gone, and no other";
+}
+
+TEST_F(TemporaryFileTest, FilesInAFolderThatTheUserCannotWriteStay)
+{
+    const QByteArray name = QFile::encodeName(folder.path());
+    ASSERT_EQ(::chmod(name.constData(), 0777), 0);
+    {
+        const OrdinaryUser user;
+        makeForAll(path(QStringLiteral(".kvprint-0000000000000000.tmp")));
+    }
+    for (const mode_t mode : {0555U, 0777U}) {
+        ASSERT_EQ(::chmod(name.constData(), mode), 0);
+        const OrdinaryUser user;
+        removeLeftOvers();
+        EXPECT_EQ(entries().isEmpty(), mode == 0777U);
+    }
 }
 
 TEST_F(TemporaryFileTest, AreSafeFromOtherProgramsThatCleanUpMeanwhile)
