@@ -55,6 +55,14 @@ protected:
         return job;
     }
 
+    /// As ticket(), with a second document of this size in bytes.
+    host::JobTicket ticketOfTwo(const host::JobSettings &settings = {}, qsizetype secondSize = 10) const
+    {
+        host::JobTicket job = ticket({}, settings);
+        job.documents.push_back({document(QStringLiteral("second.txt"), QByteArray(secondSize, 'b'))});
+        return job;
+    }
+
     static Outcome wait(host::JobSubmission &submission, const host::JobTicket &job)
     {
         Outcome outcome;

@@ -11,10 +11,8 @@
 #include <cups/ipp.h>
 
 using host::CupsFailure;
-using host::JobSettings;
 using host::JobState;
 using host::JobSubmission;
-using host::JobTicket;
 
 namespace {
 
@@ -22,14 +20,6 @@ const QString tape = QStringLiteral("tape");
 
 class JobHoldTest : public PrintingTest {
 protected:
-    JobTicket ticketOfTwo(const JobSettings &settings = {}, qsizetype secondSize = 10) const
-    {
-        JobTicket job = ticket({}, settings);
-        job.documents = {{document(QStringLiteral("first.txt"), "first\n")},
-                         {document(QStringLiteral("second.txt"), QByteArray(secondSize, 'b'))}};
-        return job;
-    }
-
     host::JobStatus status(int jobId) const
     {
         host::BackgroundTask task;

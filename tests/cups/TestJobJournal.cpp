@@ -17,7 +17,6 @@ using host::CupsFailure;
 using host::JobJournal;
 using host::JobState;
 using host::JobSubmission;
-using host::JobTicket;
 using host::LeftJobAction;
 using test_support::abandonRecords;
 
@@ -29,13 +28,6 @@ protected:
     {
         PrintingTest::SetUp();
         QDir(journal.folder()).removeRecursively();
-    }
-
-    JobTicket ticketOfTwo(qsizetype secondSize = 10) const
-    {
-        JobTicket job = ticket();
-        job.documents.push_back({document(QStringLiteral("second.txt"), QByteArray(secondSize, 'b'))});
-        return job;
     }
 
     QStringList files() const { return QDir(journal.folder()).entryList(QDir::Files | QDir::Hidden); }
@@ -86,7 +78,7 @@ TEST_F(JobJournalTest, AJobIsRememberedUntilItIsSent)
     JobSubmission submission(serverAt(stalling.address()));
     bool isSent = false;
     QObject::connect(&submission, &JobSubmission::submitted, [&] { isSent = true; });
-    submission.submit(ticketOfTwo(20'000'000));
+    submission.submit(ticketOfTwo({}, 20'000'000));
     ASSERT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
     ASSERT_EQ(files().size(), 1);
     QFile file(journal.folder() + u'/' + files().front());

@@ -17,13 +17,6 @@ namespace {
 
 class LostAnswersTest : public PrintingTest {
 protected:
-    JobTicket ticketOfTwo() const
-    {
-        JobTicket job = ticket();
-        job.documents.push_back({document(QStringLiteral("second.txt"), "second\n")});
-        return job;
-    }
-
     Outcome printOver(const Faults &faults, const JobTicket &job)
     {
         const FaultyServer faulty(cupsd.port(), faults);

@@ -19,13 +19,6 @@ namespace {
 
 class QueueWithoutHoldTest : public PrintingTest {
 protected:
-    host::JobTicket ticketOfTwo() const
-    {
-        host::JobTicket job = ticket();
-        job.documents.push_back({document(QStringLiteral("second.txt"), "second\n")});
-        return job;
-    }
-
     /// Prints over a server with these faults whose queue knows "no-hold" only.
     Outcome printOver(const Faults &faults, const host::JobTicket &job)
     {
