@@ -1,7 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# Runs clang-tidy with .clang-tidy over every source of the programs and the bundle, in batches of sources:
-# most of its time goes into the headers of Qt, which it reads once for each batch. A batch includes its sources, which is no mistake here.
+# Runs clang-tidy with .clang-tidy over every source of the programs and the bundle, in batches of sources: most of its
+# time goes into the headers of Qt, which it reads once for each batch. A batch includes its sources, which is no
+# mistake here.
 set -eu
 cd -- "$(dirname -- "$0")/.."
 . tools/frontdoor.sh
