@@ -21,7 +21,7 @@ TrustWords::TrustWords(const host::TrustRequest &request)
                                       "not encrypted.")
                        .arg(request.server());
         details = TrustWordsText::tr("Others on the network can read the password.");
-        action = TrustWordsText::tr("Send Anyway");
+        action = TrustWordsText::tr("Send anyway");
         return;
     }
     title = TrustWordsText::tr("Certificate of the print server");

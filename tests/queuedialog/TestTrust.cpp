@@ -163,7 +163,7 @@ TEST_F(TrustDialogTest, APasswordThatOthersCanReadIsSentWhenTheUserAgrees)
     Hands::click(button(QStringLiteral("Try again")));
     const auto *const again = shown<dialog::TrustDialog>();
     ASSERT_TRUE(again);
-    Hands::click(button(again, QStringLiteral("Send Anyway")));
+    Hands::click(button(again, QStringLiteral("Send anyway")));
     auto *const password = shown<dialog::PasswordDialog>();
     ASSERT_TRUE(password);
     Hands::typeInto(password->findChildren<QLineEdit *>().at(1), QStringLiteral("secret"));

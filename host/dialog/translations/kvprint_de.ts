@@ -882,7 +882,7 @@
         <translation>Andere im Netzwerk können das Kennwort mitlesen.</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>Trotzdem senden</translation>
     </message>
     <message>

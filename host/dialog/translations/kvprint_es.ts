@@ -881,7 +881,7 @@
         <translation>Otros en la red pueden leer la contraseña.</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>Enviar de todos modos</translation>
     </message>
     <message>

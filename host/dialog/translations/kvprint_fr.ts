@@ -882,7 +882,7 @@
         <translation>D’autres personnes sur le réseau peuvent lire le mot de passe.</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>Envoyer quand même</translation>
     </message>
     <message>

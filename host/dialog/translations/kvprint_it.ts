@@ -882,7 +882,7 @@
         <translation>Altri sulla rete possono leggere la password.</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>Invia comunque</translation>
     </message>
     <message>

@@ -880,7 +880,7 @@
         <translation>ネットワーク上の他の人がパスワードを読み取れます。</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>それでも送信</translation>
     </message>
     <message>

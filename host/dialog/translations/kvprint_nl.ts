@@ -882,7 +882,7 @@
         <translation>Anderen op het netwerk kunnen het wachtwoord lezen.</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>Toch verzenden</translation>
     </message>
     <message>

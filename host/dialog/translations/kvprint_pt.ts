@@ -881,7 +881,7 @@
         <translation>Outras pessoas na rede podem ler a palavra-passe.</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>Enviar mesmo assim</translation>
     </message>
     <message>

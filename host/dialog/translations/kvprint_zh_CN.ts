@@ -880,7 +880,7 @@
         <translation>网络上的其他人可以读取该密码。</translation>
     </message>
     <message>
-        <source>Send Anyway</source>
+        <source>Send anyway</source>
         <translation>仍然发送</translation>
     </message>
     <message>
