@@ -7,10 +7,13 @@
 
 #include <host/dialog/JobWindow.h>
 #include <host/dialog/OptionsPage.h>
+#include <tests/support/FaultProxy.h>
 
 #include <QLineEdit>
 
 #include <cups/ipp.h>
+
+using test_support::FaultProxy;
 
 namespace bench {
 
@@ -86,7 +89,8 @@ StallScenarios::Duration StallScenarios::serverThatIsGone()
 StallScenarios::Duration StallScenarios::serverThatBreaks()
 {
     fillCache(tape);
-    const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
+    const FaultProxy breaking(cupsd->port(),
+                              {.kind = test_support::ProxyFault::Kind::Cut, .byte = 10, .isLinkDown = true});
     open(tape, knownServer(breaking.address()));
     StallWatch watch;
     waitUntil([this] { return session->isSettled() && !told().isEmpty(); });
@@ -205,15 +209,14 @@ StallScenarios::Duration StallScenarios::password()
     return watch.longest();
 }
 
-StallScenarios::Duration StallScenarios::sendTo(const Faults &faults,
-                                                const std::function<void(const FaultyServer &)> &whileSending)
+StallScenarios::Duration StallScenarios::sendTo(const host::CupsServer &server,
+                                                const std::function<void()> &whileSending)
 {
-    const FaultyServer server(cupsd->port(), faults);
-    sendingServer = faults.silent ? silentServerAt(server.address()) : serverAt(server.address());
+    sendingServer = server;
     openAndSettle(tape);
     StallWatch watch;
     Hands::click(button(QStringLiteral("Print")));
-    whileSending(server);
+    whileSending();
     waitUntil([this] { return !window->isSending(); });
     return watch.longest();
 }
@@ -221,7 +224,7 @@ StallScenarios::Duration StallScenarios::sendTo(const Faults &faults,
 StallScenarios::Duration StallScenarios::refusedJob()
 {
     cupsd->reject(tape, QStringLiteral("closed"));
-    const Duration longest = sendTo({}, [](const FaultyServer &) {});
+    const Duration longest = sendTo(serverAt(cupsd->address()));
     cupsd->run(QStringLiteral("cupsaccept"), {tape});
     return longest;
 }
@@ -229,36 +232,40 @@ StallScenarios::Duration StallScenarios::refusedJob()
 StallScenarios::Duration StallScenarios::brokenUpload()
 {
     makeDocumentLarger(largeDocument);
-    return sendTo({.breakAfter = 1'000'000}, [](const FaultyServer &) {});
+    const FaultProxy breaking(cupsd->port(), test_support::cutRequests(IPP_OP_SEND_DOCUMENT, 1'000'000));
+    return sendTo(serverAt(breaking.address()));
 }
 
 StallScenarios::Duration StallScenarios::fullSpool()
 {
     makeDocumentLarger(largeDocument);
     cupsd->setSpoolFull(true);
-    const Duration longest = sendTo({}, [](const FaultyServer &) {});
+    const Duration longest = sendTo(serverAt(cupsd->address()));
     cupsd->setSpoolFull(false);
     return longest;
 }
 
 StallScenarios::Duration StallScenarios::silentWhileSending()
 {
-    return sendTo({.silent = true}, [](const FaultyServer &) {});
+    const FaultyServer silent(0, {.silent = true});
+    return sendTo(silentServerAt(silent.address()));
 }
 
 StallScenarios::Duration StallScenarios::stoppedUpload()
 {
     makeDocumentLarger(largeDocument);
-    return sendTo({.stallAfter = 500'000}, [this](const FaultyServer &server) {
-        waitUntil([&] { return server.stalledCount() == 1; });
+    const FaultyServer stalling(cupsd->port(), {.stallAfter = 500'000});
+    return sendTo(serverAt(stalling.address()), [&] {
+        waitUntil([&] { return stalling.stalledCount() == 1; });
         Hands::click(button(QStringLiteral("Stop sending")));
     });
 }
 
 StallScenarios::Duration StallScenarios::closedWhileSending()
 {
-    return sendTo({.delay = slowness}, [this](const FaultyServer &server) {
-        waitUntil([&] { return server.requestCount(IPP_OP_CREATE_JOB) == 1; });
+    const FaultyServer slow(cupsd->port(), {.delay = slowness});
+    return sendTo(serverAt(slow.address()), [&] {
+        waitUntil([&] { return slow.requestCount(IPP_OP_CREATE_JOB) == 1; });
         window->close();
     });
 }
@@ -267,7 +274,7 @@ StallScenarios::Duration StallScenarios::thousandsOfPages()
 {
     const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
     documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
-    return sendTo({}, [](const FaultyServer &) {});
+    return sendTo(serverAt(cupsd->address()));
 }
 
 StallScenarios::Duration StallScenarios::followedJob()

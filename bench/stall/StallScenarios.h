@@ -53,7 +53,9 @@ private:
     /// Gives the window as much time as an answer of any scenario's server takes.
     static void linger();
     Duration openOn(const QByteArray &ppd);
-    Duration sendTo(const Faults &faults, const std::function<void(const FaultyServer &)> &meanwhile);
+    /// Presses "Print", with the server to print to; calls the function while the job is sent.
+    Duration sendTo(
+        const host::CupsServer &server, const std::function<void()> &whileSending = [] {});
 };
 
 } // namespace bench

@@ -114,11 +114,6 @@ void FaultyServer::serve(QTcpSocket *client)
     ++m_connectionCount;
     if (m_faults.silent)
         return;
-    if (m_isGone) {
-        client->abort();
-        client->deleteLater();
-        return;
-    }
     auto *const real = new QTcpSocket(client);
     std::erase_if(m_all, [](const Pair &pair) { return !pair.client || !pair.real; });
     m_all.push_back({client, real});
@@ -140,9 +135,7 @@ void FaultyServer::serve(QTcpSocket *client)
 
 void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
 {
-    const bool isSilent =
-        m_faults.silentAfter > 0 && client->property("taken").toLongLong() > m_faults.silentAfter;
-    if (isSilent || client->property("holding").toBool())
+    if (client->property("holding").toBool())
         return;
     // The encouragement to go on with a request is no answer yet.
     const bool isEncouragement = real->bytesAvailable() == encouragement.size();
@@ -152,34 +145,7 @@ void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
         return;
     }
     client->setProperty("asked", false);
-    client->setProperty("answers", client->property("answers").toInt() + 1);
-    if (client->property("answers").toInt() == m_faults.breakAtAnswer)
-        client->abort();
-    else if (!breaksAnswer(client, real))
-        beginAnswer(client, real);
-}
-
-bool FaultyServer::breaksAnswer(QTcpSocket *client, QTcpSocket *real)
-{
-    const int operation = client->property("operation").toInt();
-    const bool isCut = operation != 0 && operation == m_faults.cutAnswerTo;
-    const bool isLost = operation != 0 && operation == m_faults.loseAnswerTo;
-    if (isCut) {
-        const QByteArray bytes = real->readAll();
-        const qsizetype content = bytes.lastIndexOf(endOfHeader) + endOfHeader.size();
-        client->write(bytes.first(content + (bytes.size() - content) / 2));
-        client->flush();
-    }
-    if (isCut || isLost)
-        breakConnection(client);
-    return isCut || isLost;
-}
-
-void FaultyServer::breakConnection(QTcpSocket *client)
-{
-    m_isGone = m_isGone || m_faults.isGoneAfterwards;
-    // Not abort(), which would take back what was sent.
-    client->disconnectFromHost();
+    beginAnswer(client, real);
 }
 
 void FaultyServer::beginAnswer(QTcpSocket *client, QTcpSocket *real)
@@ -334,18 +300,9 @@ void FaultyServer::take(QByteArray bytes, QTcpSocket *client, QTcpSocket *real)
     if (lacksPassword || refusesEncryption(bytes, client))
         return;
     countRequest(bytes, client);
-    const int operation = client->property("operation").toInt();
-    if (operation != 0 && operation == m_faults.breakAtOperation) {
-        breakConnection(client);
-        return;
-    }
     const qint64 taken = client->property("taken").toLongLong() + bytes.size();
     client->setProperty("taken", taken);
     m_takenBytes += bytes.size();
-    if (m_faults.breakAfter > 0 && taken > m_faults.breakAfter) {
-        client->abort();
-        return;
-    }
     if (m_faults.answersAfter > 0 && taken > m_faults.answersAfter) {
         if (!client->property("hasAnswered").toBool())
             client->write(m_faults.earlyAnswer);

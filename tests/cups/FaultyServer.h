@@ -14,13 +14,10 @@
 class QTcpServer;
 class QTcpSocket;
 
-/// How a server misbehaves.
+/// How a server misbehaves. Connections that break are test_support::FaultProxy's.
 struct Faults {
     /// Accepts connections and never answers.
     bool silent = false;
-    /// Passes on all that the client sends but none of the answers to it, on every connection on which more
-    /// bytes than these have come; 0 never.
-    qint64 silentAfter = 0;
     /// Withholds answers until release().
     bool holds = false;
     /// The operation of IPP that is meant by holds; 0 any request.
@@ -31,8 +28,6 @@ struct Faults {
     int gap = 0;
     /// Passes on the headers of answers and withholds their contents until release().
     bool holdsContent = false;
-    /// Breaks every connection when so many bytes of one have come from the client; 0 never.
-    qint64 breakAfter = 0;
     /// Takes no more than so many bytes in a second from each client, and leaves the rest in the client's
     /// system, as a slow link does; 0 takes all at once.
     int bytesPerSecond = 0;
@@ -42,17 +37,6 @@ struct Faults {
     /// client; 0 never.
     qint64 answersAfter = 0;
     QByteArray earlyAnswer = {};
-    /// Breaks every connection instead of giving this answer on it, counted from 1; 0 never.
-    int breakAtAnswer = 0;
-    /// Breaks the connection on which a request of this operation of IPP comes, instead of passing it on; 0
-    /// none.
-    int breakAtOperation = 0;
-    /// Breaks the connection instead of giving the answer to this operation; 0 none.
-    int loseAnswerTo = 0;
-    /// Gives half of the answer to this operation and breaks the connection; 0 none.
-    int cutAnswerTo = 0;
-    /// Breaks every connection after one of these three faults, as when the link is down.
-    bool isGoneAfterwards = false;
     /// Requires "user:password" before anything else; empty requires none.
     QByteArray credentials = {};
     /// Requires them for requests of this operation of IPP only; 0 for all.
@@ -77,6 +61,7 @@ public:
 
     /// "HOST:PORT"
     QString address() const;
+    quint16 port() const { return m_port; }
     /// How many requests came in.
     int requestCount() const { return m_requestCount; }
     /// How many requests of the operation of IPP came in, without those that lacked the password.
@@ -113,8 +98,6 @@ private:
     void refuse(QTcpSocket *client);
     bool refusesEncryption(const QByteArray &bytes, QTcpSocket *client);
     bool stalls(QTcpSocket *client);
-    bool breaksAnswer(QTcpSocket *client, QTcpSocket *real);
-    void breakConnection(QTcpSocket *client);
     void passAnswer(QTcpSocket *client, QTcpSocket *real);
     void beginAnswer(QTcpSocket *client, QTcpSocket *real);
     void passInPieces(QTcpSocket *client, QTcpSocket *real);
@@ -127,7 +110,6 @@ private:
     const QString m_host;
     /// Only its own thread uses it while that runs.
     Faults m_faults;
-    bool m_isGone = false;
     quint16 m_port = 0;
     std::atomic<int> m_requestCount = 0;
     std::atomic<int> m_refusedCount = 0;

@@ -3,6 +3,8 @@
 #include "FaultyServer.h"
 #include "PrintingTest.h"
 
+#include <tests/support/FaultProxy.h>
+
 #include <cups/ipp.h>
 
 using host::CupsFailure;
@@ -65,10 +67,10 @@ TEST_F(EarlyAnswersTest, ARefusalInTheMiddleOfADocumentIsTold)
 TEST_F(EarlyAnswersTest, APasswordThatWasGivenIsNotBlamedForABrokenConnection)
 {
     cupsd.pause(QStringLiteral("tape"));
-    const FaultyServer faulty(
-        cupsd.port(),
-        {.loseAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true, .credentials = "anna:secret"});
-    CupsServer guarded = at(faulty);
+    const FaultyServer locked(cupsd.port(), {.credentials = "anna:secret"});
+    const test_support::FaultProxy proxy(
+        locked.port(), test_support::lostAnswer(IPP_OP_SEND_DOCUMENT, test_support::OtherConnections::Close));
+    CupsServer guarded = serverAt(proxy.address());
     guarded.askPassword = [](const host::PasswordRequest &request) {
         request.answer(QStringLiteral("anna"), QStringLiteral("secret"));
     };

@@ -6,6 +6,7 @@
 
 #include <host/cups/JobStatus.h>
 
+#include <tests/support/FaultProxy.h>
 #include <tests/support/LaterHold.h>
 
 #include <cups/ipp.h>
@@ -90,7 +91,7 @@ TEST_F(JobHoldTest, ASingleDocumentIsHeldAsWell)
 
 TEST_F(JobHoldTest, AJobThatIsNotReleasedIsCanceled)
 {
-    const FaultyServer breaking(cupsd.port(), {.breakAtOperation = IPP_OP_RELEASE_JOB});
+    const test_support::FaultProxy breaking(cupsd.port(), test_support::cutRequests(IPP_OP_RELEASE_JOB));
     const Outcome outcome = print(ticketOfTwo(), serverAt(breaking.address()));
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << qPrintable(outcome.error->message);

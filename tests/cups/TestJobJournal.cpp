@@ -6,6 +6,7 @@
 #include <host/cups/JobStatus.h>
 #include <host/cups/LeftJob.h>
 #include <tests/support/AbandonedRecords.h>
+#include <tests/support/FaultProxy.h>
 
 #include <QDir>
 #include <QJsonDocument>
@@ -19,6 +20,10 @@ using host::JobState;
 using host::JobSubmission;
 using host::LeftJobAction;
 using test_support::abandonRecords;
+using test_support::cutRequests;
+using test_support::FaultProxy;
+using test_support::lostAnswer;
+using test_support::OtherConnections;
 
 namespace {
 
@@ -35,9 +40,8 @@ protected:
     /// Leaves a job on the server that is held, with its record.
     host::JobRecord leaveJob()
     {
-        const FaultyServer faulty(cupsd.port(),
-                                  {.loseAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true});
-        const Outcome outcome = print(ticketOfTwo(), serverAt(faulty.address()));
+        const FaultProxy proxy(cupsd.port(), lostAnswer(IPP_OP_SEND_DOCUMENT, OtherConnections::Close));
+        const Outcome outcome = print(ticketOfTwo(), serverAt(proxy.address()));
         EXPECT_TRUE(outcome.error);
         // As long as the program runs, it has told what there is to tell.
         EXPECT_TRUE(journal.left().jobs.empty());
@@ -116,7 +120,7 @@ TEST_F(JobJournalTest, AJobThatIsNotCreatedYetIsRemembered)
 
 TEST_F(JobJournalTest, AJobThatIsRefusedOrCanceledIsForgotten)
 {
-    const FaultyServer breaking(cupsd.port(), {.breakAtOperation = IPP_OP_RELEASE_JOB});
+    const FaultProxy breaking(cupsd.port(), cutRequests(IPP_OP_RELEASE_JOB));
     EXPECT_TRUE(print(ticketOfTwo(), serverAt(breaking.address())).error);
     EXPECT_EQ(files(), QStringList());
     cupsd.reject(QStringLiteral("tape"), QStringLiteral("closed"));

@@ -5,6 +5,7 @@
 #include "PrintingTest.h"
 
 #include <host/cups/JobStatus.h>
+#include <tests/support/FaultProxy.h>
 
 #include <cups/ipp.h>
 
@@ -12,16 +13,24 @@ using host::CupsFailure;
 using host::JobState;
 using host::JobSubmission;
 using host::JobTicket;
+using test_support::cutAnswer;
+using test_support::cutRequests;
+using test_support::FaultProxy;
+using test_support::lostAnswer;
+using test_support::OtherConnections;
+using test_support::ProxyFault;
 
 namespace {
 
 class LostAnswersTest : public PrintingTest {
 protected:
-    Outcome printOver(const Faults &faults, const JobTicket &job)
+    Outcome printOver(const ProxyFault &fault, const JobTicket &job)
     {
-        const FaultyServer faulty(cupsd.port(), faults);
-        address = faulty.address();
-        return print(job, serverAt(address));
+        const FaultProxy proxy(cupsd.port(), fault);
+        address = proxy.address();
+        Outcome outcome = print(job, serverAt(address));
+        EXPECT_TRUE(proxy.hasStruck());
+        return outcome;
     }
 
     host::JobState state(int jobId) const
@@ -58,9 +67,8 @@ TEST_F(LostAnswersTest, AJobThatWasMadeUnheardIsFoundAndCanceled)
     cupsd.pause(QStringLiteral("tape"));
     // Of the same name and user.
     ASSERT_TRUE(print(ticket()).jobId);
-    for (const Faults &faults :
-         {Faults{.loseAnswerTo = IPP_OP_CREATE_JOB}, Faults{.cutAnswerTo = IPP_OP_CREATE_JOB}}) {
-        const Outcome outcome = printOver(faults, ticket());
+    for (const ProxyFault &fault : {lostAnswer(IPP_OP_CREATE_JOB), cutAnswer(IPP_OP_CREATE_JOB)}) {
+        const Outcome outcome = printOver(fault, ticket());
         ASSERT_TRUE(outcome.error);
         EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << told(outcome);
     }
@@ -71,15 +79,14 @@ TEST_F(LostAnswersTest, AJobThatWasMadeUnheardIsFoundAndCanceled)
 
 TEST_F(LostAnswersTest, AJobThatMayHaveBeenMadeIsToldWhenNobodyCanBeAsked)
 {
-    const Outcome outcome =
-        printOver({.loseAnswerTo = IPP_OP_CREATE_JOB, .isGoneAfterwards = true}, ticket());
+    const Outcome outcome = printOver(lostAnswer(IPP_OP_CREATE_JOB, OtherConnections::Close), ticket());
     expectUnknown(outcome, QStringLiteral("A job \"Labels\" without documents may be left in the queue "
                                           "\"tape\" of the print server \"%1\"; nothing of it is printed."));
 }
 
 TEST_F(LostAnswersTest, ARequestThatDidNotArriveLeavesNothingToTell)
 {
-    const Outcome outcome = printOver({.breakAtOperation = IPP_OP_CREATE_JOB}, ticket());
+    const Outcome outcome = printOver(cutRequests(IPP_OP_CREATE_JOB), ticket());
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << told(outcome);
     EXPECT_FALSE(outcome.error->message.contains(QStringLiteral("left"))) << told(outcome);
@@ -90,9 +97,9 @@ TEST_F(LostAnswersTest, AJobThatTheServerHasIsSent)
 {
     int count = 0;
     for (const int operation : {IPP_OP_RELEASE_JOB}) {
-        for (const Faults &faults : {Faults{.loseAnswerTo = operation}, Faults{.cutAnswerTo = operation}}) {
+        for (const ProxyFault &fault : {lostAnswer(operation), cutAnswer(operation)}) {
             const JobTicket job = ticketOfTwo();
-            const Outcome outcome = printOver(faults, job);
+            const Outcome outcome = printOver(fault, job);
             ASSERT_TRUE(outcome.jobId) << told(outcome);
             count += static_cast<int>(job.documents.size());
             EXPECT_EQ(cupsd.waitForDocuments(static_cast<std::size_t>(count)).back().job, *outcome.jobId);
@@ -102,9 +109,9 @@ TEST_F(LostAnswersTest, AJobThatTheServerHasIsSent)
 
 TEST_F(LostAnswersTest, AJobThatMayHaveBeenPrintedIsToldWithItsNumberAndServer)
 {
-    for (const Faults &faults : {Faults{.loseAnswerTo = IPP_OP_RELEASE_JOB, .isGoneAfterwards = true},
-                                 Faults{.cutAnswerTo = IPP_OP_RELEASE_JOB, .isGoneAfterwards = true}}) {
-        const Outcome outcome = printOver(faults, ticket());
+    for (const ProxyFault &fault : {lostAnswer(IPP_OP_RELEASE_JOB, OtherConnections::Close),
+                                    cutAnswer(IPP_OP_RELEASE_JOB, OtherConnections::Close)}) {
+        const Outcome outcome = printOver(fault, ticket());
         expectUnknown(outcome, QStringLiteral("The print server \"%1\" has all documents of job tape-"));
         EXPECT_TRUE(told(outcome).find("the job is printed, or it is held") != std::string::npos)
             << told(outcome);
@@ -114,18 +121,17 @@ TEST_F(LostAnswersTest, AJobThatMayHaveBeenPrintedIsToldWithItsNumberAndServer)
 TEST_F(LostAnswersTest, AJobThatWaitsForItsReleaseIsToldAsHeld)
 {
     // Between the documents, the job is canceled; it is left when the link is down.
-    const Outcome between = printOver({.loseAnswerTo = IPP_OP_SEND_DOCUMENT}, ticketOfTwo());
+    const Outcome between = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT), ticketOfTwo());
     ASSERT_TRUE(between.error);
     EXPECT_EQ(between.error->kind, CupsFailure::Unreachable) << told(between);
     EXPECT_EQ(state(1), JobState::Cancelled);
-    const Outcome left =
-        printOver({.loseAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true}, ticketOfTwo());
+    const Outcome left = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT, OtherConnections::Close), ticketOfTwo());
     expectUnknown(left, QStringLiteral("Job tape-2 could not be canceled; it is held on the print server "
                                        "\"%1\" and is not printed unless it is released"));
     EXPECT_EQ(state(2), JobState::Held);
     EXPECT_EQ(left.error->message.count(QStringLiteral("broke")), 1) << told(left);
     const Outcome released =
-        printOver({.loseAnswerTo = IPP_OP_RELEASE_JOB, .isGoneAfterwards = true}, ticketOfTwo());
+        printOver(lostAnswer(IPP_OP_RELEASE_JOB, OtherConnections::Close), ticketOfTwo());
     expectUnknown(released, QStringLiteral("The print server \"%1\" has all documents of job tape-3"));
     EXPECT_TRUE(told(released).find("held and not printed") != std::string::npos) << told(released);
 }

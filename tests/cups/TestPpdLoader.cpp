@@ -3,6 +3,7 @@
 #include "Servers.h"
 #include <host/cups/PpdLoader.h>
 #include <host/cups/QueueCache.h>
+#include <tests/support/FaultProxy.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/PrivateCupsd.h>
 #include <tests/support/SpecialFiles.h>
@@ -132,7 +133,8 @@ TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
 TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdStays)
 {
     ASSERT_TRUE(load(tape).ppd);
-    const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
+    const test_support::FaultProxy breaking(
+        cupsd->port(), {.kind = test_support::ProxyFault::Kind::Cut, .byte = 10, .isLinkDown = true});
     const CupsServer through = serverAt(breaking.address());
     const host::QueueCache cache(through);
     cache.storePpd(tape, PpdBuilder().allOptions().ppd(), 1);

@@ -4,6 +4,7 @@
 #include "PrintingTest.h"
 
 #include <host/cups/JobMonitor.h>
+#include <tests/support/FaultProxy.h>
 
 #include <cups/ipp.h>
 #include <sys/stat.h>
@@ -205,7 +206,8 @@ TEST_F(PrintingFaultsTest, AJobWhoseDocumentBreaksOffIsTakenBack)
     JobTicket job = ticket();
     job.documents = {{document(QStringLiteral("first.txt"), QByteArray(1000, 'a'))},
                      {document(QStringLiteral("large.txt"), QByteArray(2000000, 'b'))}};
-    const FaultyServer breaking(cupsd.port(), {.breakAfter = 500000});
+    const test_support::FaultProxy breaking(cupsd.port(),
+                                            test_support::cutRequests(IPP_OP_SEND_DOCUMENT, 500'000));
     const Outcome outcome = print(job, serverAt(breaking.address()));
     ASSERT_TRUE(outcome.error);
     EXPECT_FALSE(outcome.error->message.contains(QStringLiteral("could not be canceled")))

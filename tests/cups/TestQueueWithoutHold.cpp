@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Print servers that cannot hold a job without end: the job is sent as it is, and an answer that is lost
 // leaves more in the dark.
-#include "FaultyServer.h"
 #include "PrintingTest.h"
 
 #include <host/cups/JobStatus.h>
@@ -12,24 +11,26 @@
 using host::CupsFailure;
 using test_support::Direction;
 using test_support::FaultProxy;
-using test_support::PassedMessage;
+using test_support::lostAnswer;
+using test_support::OtherConnections;
 using test_support::ProxyFault;
 
 namespace {
 
 class QueueWithoutHoldTest : public PrintingTest {
 protected:
-    /// Prints over a server with these faults whose queue knows "no-hold" only.
-    Outcome printOver(const Faults &faults, const host::JobTicket &job)
+    /// Prints over a server with this fault whose queue knows "no-hold" only.
+    Outcome printOver(const ProxyFault &fault, const host::JobTicket &job)
     {
-        const FaultyServer faulty(cupsd.port(), faults);
-        const auto port = static_cast<quint16>(faulty.address().section(u':', 1).toUInt());
-        const FaultProxy proxy(
-            port,
-            {.kind = ProxyFault::Kind::Forge, .message = queueAnswer(), .forgery = descriptionWithoutHold()});
+        const FaultProxy faulty(cupsd.port(), fault);
+        const FaultProxy proxy(faulty.port(), {.kind = ProxyFault::Kind::Forge,
+                                               .operation = IPP_OP_GET_PRINTER_ATTRIBUTES,
+                                               .direction = Direction::ToClient,
+                                               .forgery = descriptionWithoutHold()});
         address = proxy.address();
         Outcome outcome = print(job, serverAt(address));
         EXPECT_TRUE(proxy.hasStruck());
+        EXPECT_EQ(faulty.hasStruck(), fault.kind != ProxyFault::Kind::None);
         return outcome;
     }
 
@@ -41,26 +42,6 @@ protected:
     QString address;
 
 private:
-    /// Which message of a job's traffic is the description of the queue.
-    int queueAnswer()
-    {
-        const FaultProxy proxy(cupsd.port());
-        cupsd.pause(QStringLiteral("tape"));
-        const Outcome outcome = print(ticket(), serverAt(proxy.address()));
-        cupsd.run(QStringLiteral("cancel"), {QStringLiteral("-a")});
-        cupsd.resume(QStringLiteral("tape"));
-        EXPECT_TRUE(outcome.jobId);
-        const std::vector<PassedMessage> messages = proxy.messages();
-        for (std::size_t i = 0; i < messages.size(); ++i) {
-            const bool isDescription = messages[i].operation == IPP_OP_GET_PRINTER_ATTRIBUTES &&
-                                       messages[i].startLine.endsWith("200 OK");
-            if (isDescription && messages[i].direction == Direction::ToClient)
-                return static_cast<int>(i);
-        }
-        ADD_FAILURE() << "the queue is not asked for";
-        return 0;
-    }
-
     static QByteArray descriptionWithoutHold()
     {
         // IPP 1.1, successful; the printer's attributes; one keyword; the end.
@@ -83,8 +64,7 @@ TEST_F(QueueWithoutHoldTest, PrintsAndReleasesNothing)
 
 TEST_F(QueueWithoutHoldTest, AJobMayHaveBeenPrintedWhenTheServerCannotBeAsked)
 {
-    const Outcome outcome =
-        printOver({.loseAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true}, ticket());
+    const Outcome outcome = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT, OtherConnections::Close), ticket());
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsFailure::OutcomeUnknown) << message(outcome);
     const int job = cupsd.waitForDocuments(1).back().job;
@@ -95,14 +75,14 @@ TEST_F(QueueWithoutHoldTest, AJobMayHaveBeenPrintedWhenTheServerCannotBeAsked)
 
 TEST_F(QueueWithoutHoldTest, AJobThatTheServerHasIsSent)
 {
-    const Outcome outcome = printOver({.loseAnswerTo = IPP_OP_SEND_DOCUMENT}, ticket());
+    const Outcome outcome = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT), ticket());
     ASSERT_TRUE(outcome.jobId) << message(outcome);
     EXPECT_EQ(cupsd.waitForDocuments(1).back().job, *outcome.jobId);
 }
 
 TEST_F(QueueWithoutHoldTest, AJobThatLacksADocumentIsCanceled)
 {
-    const Outcome outcome = printOver({.loseAnswerTo = IPP_OP_SEND_DOCUMENT}, ticketOfTwo());
+    const Outcome outcome = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT), ticketOfTwo());
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << message(outcome);
     expectNothingWaits();

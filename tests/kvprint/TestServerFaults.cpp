@@ -2,11 +2,14 @@
 #include "KvprintTest.h"
 
 #include <FaultyServer.h>
+#include <tests/support/FaultProxy.h>
 #include <tests/support/Waiting.h>
 
 #include <QProcess>
 
 #include <cups/ipp.h>
+
+using test_support::FaultProxy;
 
 namespace {
 
@@ -70,7 +73,9 @@ TEST_F(KvprintFaults, AServerThatIsSilent)
 TEST_F(KvprintFaults, AServerThatFallsSilentWhenItHasTheDocument)
 {
     cupsd.pause(tape);
-    const FaultyServer silent(cupsd.port(), {.silentAfter = 100000});
+    const FaultProxy silent(cupsd.port(), {.kind = test_support::ProxyFault::Kind::Silence,
+                                           .operation = IPP_OP_SEND_DOCUMENT,
+                                           .direction = test_support::Direction::ToClient});
     expectFailureAt(silent.address(), largePicture(), "does not answer");
     // It has the whole document and would print it.
     EXPECT_EQ(jobAttributes(1).value("number-of-documents"), "1");
@@ -83,8 +88,8 @@ TEST_F(KvprintFaults, AServerThatFallsSilentWhenItHasTheDocument)
 
 TEST_F(KvprintFaults, AJobThatMayBeLeftIsToldWithItsNumberAndServer)
 {
-    const FaultyServer breaking(cupsd.port(),
-                                {.cutAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true});
+    const FaultProxy breaking(
+        cupsd.port(), test_support::cutAnswer(IPP_OP_SEND_DOCUMENT, test_support::OtherConnections::Close));
     expectFailureAt(breaking.address(), picture(),
                     qPrintable(QStringLiteral("Job tape-1 could not be canceled; it is held on the print "
                                               "server \"%1\" and is not printed")
@@ -103,7 +108,7 @@ TEST_F(KvprintFaults, AServerThatIsSlowPrintsOnce)
 
 TEST_F(KvprintFaults, AConnectionThatBreaksWhileTheDocumentIsSent)
 {
-    const FaultyServer breaking(cupsd.port(), {.breakAfter = 100000});
+    const FaultProxy breaking(cupsd.port(), test_support::cutRequests(IPP_OP_SEND_DOCUMENT, 100'000));
     expectFailureAt(breaking.address(), largePicture(), "kvprint: ");
     EXPECT_EQ(jobStates().size(), 1);
     expectNothingPrinted();

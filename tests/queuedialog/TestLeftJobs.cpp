@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Jobs that killed programs have left on print servers, as the dialog tells of them.
-#include "FaultyServer.h"
 #include "QueueDialogFixture.h"
 #include "SamplePpd.h"
 
 #include <host/cups/JobJournal.h>
 #include <tests/support/AbandonedRecords.h>
+#include <tests/support/FaultProxy.h>
 #include <tests/support/Waiting.h>
 
 #include <QDir>
@@ -33,13 +33,14 @@ protected:
     /// Leaves a job of two documents on the server, which has the first one; answers its number.
     int leaveJob()
     {
-        const FaultyServer faulty(cupsd->port(),
-                                  {.loseAnswerTo = IPP_OP_SEND_DOCUMENT, .isGoneAfterwards = true});
+        const test_support::FaultProxy proxy(
+            cupsd->port(),
+            test_support::lostAnswer(IPP_OP_SEND_DOCUMENT, test_support::OtherConnections::Close));
         host::JobTicket job;
         job.destination.queue = QStringLiteral("tape");
         job.title = QStringLiteral("Labels");
         job.documents = {{documentPath}, {documentPath}};
-        host::JobSubmission submission(serverAt(faulty.address()));
+        host::JobSubmission submission(serverAt(proxy.address()));
         bool hasFailed = false;
         QObject::connect(&submission, &host::JobSubmission::failed, [&] { hasFailed = true; });
         submission.submit(job);

@@ -8,6 +8,7 @@
 
 #include <host/cups/PpdLoader.h>
 #include <host/cups/QueueCache.h>
+#include <tests/support/FaultProxy.h>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -74,7 +75,8 @@ TEST_F(OpeningTest, AServerThatIsAbsentSilentOrDeadIsToldAndTheDialogStays)
     fillCache(QStringLiteral("tape"));
     const test_support::ReservedPort absent;
     const FaultyServer silent(0, {.silent = true});
-    const FaultyServer breaking(cupsd->port(), {.breakAfter = 10});
+    const test_support::FaultProxy breaking(
+        cupsd->port(), {.kind = test_support::ProxyFault::Kind::Cut, .byte = 10, .isLinkDown = true});
     struct Row {
         const char *name;
         QString address;

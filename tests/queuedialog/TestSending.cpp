@@ -6,6 +6,7 @@
 #include "SamplePpd.h"
 
 #include <host/dialog/JobWindow.h>
+#include <tests/support/FaultProxy.h>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -118,7 +119,8 @@ TEST_F(SendingTest, ARefusalIsToldInTheServersWordsAndTheNextTimePrintsOnce)
 TEST_F(SendingTest, AConnectionThatBreaksLeavesNothingAndTheNextTimePrintsOnce)
 {
     makeDocumentLarger(3'000'000);
-    const FaultyServer breaking(cupsd->port(), {.breakAfter = 1'000'000});
+    const test_support::FaultProxy breaking(cupsd->port(),
+                                            test_support::cutRequests(IPP_OP_SEND_DOCUMENT, 1'000'000));
     openAndSettle(QStringLiteral("tape"), serverAt(breaking.address()));
     set();
     const std::size_t before = cupsd->documents().size();

@@ -112,6 +112,11 @@ FaultProxy::Stream &FaultProxy::stream(Link &link, Direction direction)
     return direction == Direction::ToServer ? link.toServer : link.toClient;
 }
 
+const FaultProxy::Stream &FaultProxy::stream(const Link &link, Direction direction)
+{
+    return direction == Direction::ToServer ? link.toServer : link.toClient;
+}
+
 void FaultProxy::accept(QTcpSocket *client)
 {
     m_links.push_back(std::make_unique<Link>());
@@ -174,21 +179,43 @@ void FaultProxy::delay(Link &link)
 void FaultProxy::pass(Link &link, Direction direction)
 {
     while (link.state == State::Passing && source(link, direction)->bytesAvailable() > 0) {
-        Stream &current = stream(link, direction);
-        if (!current.message)
+        if (!stream(link, direction).message)
             begin(link, direction);
-        const bool isStruck =
-            !m_hasStruck && m_fault.kind != ProxyFault::Kind::None && current.message == m_fault.message;
-        const qint64 ahead = isStruck ? m_fault.byte - current.read : -1;
+        const std::optional<qint64> ahead = bytesToFault(link, direction);
         if (ahead == 0)
             strike(link, direction);
         else
-            passBytes(link, direction, ahead > 0 ? ahead : source(link, direction)->bytesAvailable(),
-                      unchanged);
+            passBytes(link, direction, ahead.value_or(source(link, direction)->bytesAvailable()), unchanged);
     }
     // Answers that are not passed on must not fill the system's buffers.
     if (link.state == State::Closed && direction == Direction::ToClient)
         link.server->readAll();
+}
+
+/// How many bytes of the message pass before the fault. Nothing if the fault is made in another message, and
+/// while that is not known: what has come of the message then passes.
+std::optional<qint64> FaultProxy::bytesToFault(const Link &link, Direction direction) const
+{
+    const Stream &current = stream(link, direction);
+    const bool hasOperation = m_fault.operation != 0;
+    const bool isOther = hasOperation ? direction != m_fault.direction : current.message != m_fault.message;
+    const bool isOver = m_hasStruck && !m_fault.isEveryTime;
+    if (isOver || m_fault.kind == ProxyFault::Kind::None || isOther)
+        return std::nullopt;
+    HttpFraming framing = current.framing;
+    framing.read(source(link, direction)->peek(source(link, direction)->bytesAvailable()));
+    if (hasOperation) {
+        const int operation = direction == Direction::ToServer ? operationIn(framing) : link.operation;
+        if (operation != m_fault.operation || framing.header().startsWith("HTTP/1.1 100 "))
+            return std::nullopt;
+    }
+    if (m_fault.isInContent && !framing.header().endsWith("\r\n\r\n"))
+        return std::nullopt;
+    const qint64 start = m_fault.isInContent ? framing.header().size() : 0;
+    const qint64 missing = start + m_fault.byte - current.read;
+    if (missing < 0 && !hasOperation)
+        return std::nullopt;
+    return std::max<qint64>(missing, 0);
 }
 
 void FaultProxy::begin(Link &link, Direction direction)

@@ -31,7 +31,7 @@ struct PassedMessage {
     qint64 bytes = 0;
 };
 
-/// What goes wrong, once, at one byte of one message.
+/// What goes wrong at one byte of one message, or of each one of an operation.
 struct ProxyFault {
     enum class Kind {
         None,
@@ -46,15 +46,53 @@ struct ProxyFault {
     };
 
     Kind kind = Kind::None;
-    /// Counted from 0 in the order in which messages begin, over all connections and both directions.
+    /// Counted from 0 in the order in which messages begin, over all connections and both directions. Ignored
+    /// with an operation.
     int message = 0;
-    /// Counted from 0. A message that is shorter passes unharmed.
+    /// The operation of IPP in whose first request or answer, by the direction, the fault is made; 0 for the
+    /// message of the number. A "100 Continue" is no answer. Not for Replay.
+    int operation = 0;
+    Direction direction = Direction::ToServer;
+    /// Counted from 0. A message that is shorter passes unharmed, and the next one of the operation is tried.
+    /// In a request of an operation, the byte may lie in front of the IPP message's head: the fault is then
+    /// made as soon as that has come, and before it passes.
     qint64 byte = 0;
+    /// The byte is counted from the beginning of the content, behind the header.
+    bool isInContent = false;
     QByteArray forgery = {};
     /// Every connection that exists or comes later suffers the same, as when the link is down: it is closed
     /// after a Cut, and silent after Silence.
     bool isLinkDown = false;
+    /// The fault is made in all requests or answers of the operation, not only in the first. For Cut.
+    bool isEveryTime = false;
 };
+
+/// What becomes of other and later connections when one is closed.
+enum class OtherConnections { Pass, Close };
+
+/// The connection is closed in front of the answer to the first request of the operation.
+inline ProxyFault lostAnswer(int operation, OtherConnections others = OtherConnections::Pass)
+{
+    return {.kind = ProxyFault::Kind::Cut,
+            .operation = operation,
+            .direction = Direction::ToClient,
+            .isLinkDown = others == OtherConnections::Close};
+}
+
+/// As lostAnswer(), but the header and the beginning of the IPP message pass.
+inline ProxyFault cutAnswer(int operation, OtherConnections others = OtherConnections::Pass)
+{
+    ProxyFault fault = lostAnswer(operation, others);
+    fault.byte = 20;
+    fault.isInContent = true;
+    return fault;
+}
+
+/// The connection is closed in front of the byte of each request of the operation.
+inline ProxyFault cutRequests(int operation, qint64 byte = 0)
+{
+    return {.kind = ProxyFault::Kind::Cut, .operation = operation, .byte = byte, .isEveryTime = true};
+}
 
 /// Stands in front of a real server of HTTP, passes everything on in both directions and makes one fault.
 /// Records what has passed, so that a run without a fault shows where faults can be made. It has a thread of
@@ -70,6 +108,7 @@ public:
 
     /// "127.0.0.1:PORT"
     QString address() const;
+    quint16 port() const { return m_port; }
     /// The messages that have begun, in this order.
     std::vector<PassedMessage> messages() const;
     /// Whether the fault was made: the message and the byte have come.
@@ -105,6 +144,7 @@ private:
 
     void accept(QTcpSocket *client);
     void pass(Link &link, Direction direction);
+    std::optional<qint64> bytesToFault(const Link &link, Direction direction) const;
     void passBytes(Link &link, Direction direction, qint64 max, Change change);
     void begin(Link &link, Direction direction);
     void record(Link &link, Direction direction);
@@ -117,6 +157,7 @@ private:
     static QTcpSocket *source(const Link &link, Direction direction);
     static QTcpSocket *target(const Link &link, Direction direction);
     static Stream &stream(Link &link, Direction direction);
+    static const Stream &stream(const Link &link, Direction direction);
 
     const quint16 m_serverPort;
     const ProxyFault m_fault;
