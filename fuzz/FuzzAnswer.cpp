@@ -4,9 +4,9 @@
 #include "FuzzInput.h"
 #include "FuzzServer.h"
 
-#include <host/cups/CupsConnection.h>
-#include <host/cups/DestinationQuery.h>
-#include <host/cups/JobStatus.h>
+#include <host/cups/jobs/JobStatus.h>
+#include <host/cups/queues/DestinationQuery.h>
+#include <host/cups/server/CupsConnection.h>
 
 namespace {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A command line, its arguments ended by NUL as the system hands them over. A refusal has words.
-#include <host/dialog/CommandLine.h>
+#include <programs/kvprint/CommandLine.h>
 
 #include <cstdint>
 

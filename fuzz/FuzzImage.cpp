@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What PNGs and JPEGs say beside their pixels. The first byte of each signature decides which reader has
 // something to do; both get all bytes.
-#include <host/ImageFacts.h>
+#include <host/documents/ImageFacts.h>
 
 #include <cstdint>
 

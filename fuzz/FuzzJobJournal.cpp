@@ -3,8 +3,8 @@
 // the file: it is read whole, or removed and reported.
 #include "FuzzFile.h"
 
-#include <host/cups/JobJournal.h>
-#include <host/cups/LeftJob.h>
+#include <host/cups/jobs/JobJournal.h>
+#include <host/cups/jobs/LeftJob.h>
 
 #include <cstdint>
 

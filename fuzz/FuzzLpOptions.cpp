@@ -2,7 +2,7 @@
 // lpoptions, which users edit by hand.
 #include "FuzzFile.h"
 
-#include <host/cups/LpOptions.h>
+#include <host/cups/queues/LpOptions.h>
 
 #include <cstdint>
 

@@ -3,7 +3,7 @@
 // file: what is read back is stored and read as the same.
 #include "FuzzFile.h"
 
-#include <host/cups/QueueCache.h>
+#include <host/cups/queues/QueueCache.h>
 
 #include <QDirIterator>
 

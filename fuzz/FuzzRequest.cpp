@@ -3,8 +3,8 @@
 // or written harmlessly: pictures go to its own folder, and the sample printers are the PPDs.
 #include "FuzzFile.h"
 
-#include <tools/LineReader.h>
-#include <tools/PanelDriver.h>
+#include <programs/kvpanel/LineReader.h>
+#include <programs/kvpanel/PanelDriver.h>
 
 #include <QApplication>
 #include <QJsonDocument>

@@ -3,41 +3,41 @@
 # defined by who includes this file, as a libFuzzer program or as a test that replays the corpus.
 kv_fuzzer(answer
     SOURCES FuzzAnswer.cpp FuzzServer.cpp
-    USES cups)
+    USES host/cups/jobs)
 kv_fuzzer(command_line
     SOURCES FuzzCommandLine.cpp
-    USES dialog)
+    USES programs/kvprint)
 kv_fuzzer(image
     SOURCES FuzzImage.cpp
-    USES host)
+    USES host/documents)
 kv_fuzzer(job_journal
     SOURCES FuzzJobJournal.cpp
-    USES cups)
+    USES host/cups/jobs)
 kv_fuzzer(keystroke
-    SOURCES FuzzKeystroke.cpp ../tests/textentry/KeystrokeReference.cpp
-    USES textentry)
+    SOURCES FuzzKeystroke.cpp ../tests/panels/cutoptions/textentry/KeystrokeReference.cpp
+    USES panels/cutoptions/textentry)
 kv_fuzzer(lpoptions
     SOURCES FuzzLpOptions.cpp
-    USES cups)
+    USES host/cups/jobs)
 kv_fuzzer(message
     SOURCES FuzzMessage.cpp
-    USES platform)
+    USES platform/text)
 kv_fuzzer(ppd
     SOURCES FuzzPpd.cpp PpdExamination.cpp
-    USES cups host)
+    USES host/cups/jobs)
 kv_fuzzer(ppd_structure
     SOURCES FuzzPpdStructure.cpp PpdExamination.cpp
-    USES cups host)
+    USES host/cups/jobs)
 kv_fuzzer(property_list
     SOURCES FuzzPropertyList.cpp
-    USES platform)
+    USES platform/text)
 kv_fuzzer(queue_cache
     SOURCES FuzzQueueCache.cpp
-    USES cups)
+    USES host/cups/jobs)
 kv_fuzzer(request
     SOURCES FuzzRequest.cpp
-    USES tools
+    USES programs/kvpanel
     NEEDS KVLXDZOptions)
 kv_fuzzer(svg
     SOURCES FuzzSvg.cpp
-    USES host)
+    USES host/documents)

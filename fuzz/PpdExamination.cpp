@@ -3,10 +3,10 @@
 
 #include "FuzzFile.h"
 
-#include <host/PpdOptions.h>
-#include <host/PpdPaperSizes.h>
-#include <host/cups/Constraints.h>
-#include <host/cups/JobOptions.h>
+#include <host/cups/jobs/Constraints.h>
+#include <host/cups/jobs/JobOptions.h>
+#include <host/printer/PpdOptions.h>
+#include <host/printer/PpdPaperSizes.h>
 
 namespace {
 

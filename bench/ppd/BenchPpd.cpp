@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // What grows with the options and the constraints of a PPD, up to the maximum of each: opening it, which is
 // libcups's part, the options of a job, the conflicts and their sentences.
-#include "OptionsPpd.h"
 
-#include <host/PpdCounts.h>
-#include <host/cups/Constraints.h>
-#include <host/cups/JobOptions.h>
+#include <host/cups/jobs/Constraints.h>
+#include <host/cups/jobs/JobOptions.h>
+#include <host/printer/PpdCounts.h>
+#include <tests/samples/OptionsPpd.h>
 
 #include <benchmark/benchmark.h>
 

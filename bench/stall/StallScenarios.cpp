@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StallScenarios.h"
 
-#include "OptionsPpd.h"
-#include "SamplePdf.h"
-#include "SamplePpd.h"
-
-#include <host/dialog/JobWindow.h>
-#include <host/dialog/OptionsPage.h>
+#include <dialog/job/JobWindow.h>
+#include <dialog/options/OptionsPage.h>
+#include <tests/samples/OptionsPpd.h>
+#include <tests/samples/SamplePdf.h>
+#include <tests/samples/SamplePpd.h>
 #include <tests/support/FaultProxy.h>
 
 #include <QLineEdit>

@@ -3,8 +3,8 @@
 
 #include "StallWatch.h"
 
-#include <FaultyServer.h>
 #include <QueueDialogFixture.h>
+#include <tests/servers/FaultyServer.h>
 
 namespace bench {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TimedApplication.h"
 
-#include "SamplePdf.h"
-#include "SamplePpd.h"
-
-#include <host/Units.h>
-#include <host/dialog/PrintDialog.h>
-#include <host/dialog/StripPreview.h>
+#include <dialog/window/PrintDialog.h>
+#include <dialog/window/StripPreview.h>
+#include <host/base/Units.h>
+#include <tests/samples/SamplePdf.h>
+#include <tests/samples/SamplePpd.h>
 #include <tests/support/TestHome.h>
 
 #include <QCheckBox>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobReport.h"
 
-#include <host/CutPlanWords.h>
-#include <host/StandardInput.h>
-#include <host/Units.h>
-#include <host/cups/LpCommand.h>
+#include <host/base/Units.h>
+#include <host/cups/jobs/LpCommand.h>
+#include <host/documents/StandardInput.h>
+#include <host/strip/CutPlanWords.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

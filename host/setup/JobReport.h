@@ -3,7 +3,7 @@
 
 #include "Ticket.h"
 
-#include <host/cups/CupsServer.h>
+#include <host/cups/server/CupsServer.h>
 
 #include <QJsonObject>
 

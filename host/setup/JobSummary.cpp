@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobSummary.h"
 
-#include <host/CutPlanWords.h>
+#include <host/strip/CutPlanWords.h>
 
 #include <QCoreApplication>
 #include <QJsonObject>

@@ -3,6 +3,8 @@
 
 #include "SetupJob.h"
 
+#include <host/strip/CutPlan.h>
+
 #include <QJsonArray>
 
 #include <utility>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/PanelSession.h>
+#include <host/panels/PanelSession.h>
 
 namespace host {
 

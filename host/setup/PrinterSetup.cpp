@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrinterSetup.h"
 
-#include <host/CutSettings.h>
+#include <host/strip/CutSettings.h>
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>

@@ -3,9 +3,9 @@
 
 #include "SetupPanels.h"
 
-#include <host/cups/ChoiceCheck.h>
-#include <host/cups/Constraints.h>
-#include <host/cups/JobOptions.h>
+#include <host/cups/jobs/ChoiceCheck.h>
+#include <host/cups/jobs/Constraints.h>
+#include <host/cups/jobs/JobOptions.h>
 
 namespace host {
 

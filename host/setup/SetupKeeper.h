@@ -3,7 +3,7 @@
 
 #include "PrinterSetup.h"
 
-#include <host/cups/QueueSession.h>
+#include <host/cups/queues/QueueSession.h>
 
 #include <map>
 

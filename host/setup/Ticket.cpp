@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Ticket.h"
 
-#include <host/Units.h>
+#include <host/base/Units.h>
 
 #include <algorithm>
 

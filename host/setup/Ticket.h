@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/CutSettings.h>
-#include <host/LabelRenderer.h>
-#include <host/PageChoices.h>
-#include <host/PanelSettings.h>
-#include <host/cups/Constraints.h>
-#include <host/cups/JobTicket.h>
+#include <host/cups/jobs/Constraints.h>
+#include <host/cups/jobs/JobTicket.h>
+#include <host/documents/LabelRenderer.h>
+#include <host/documents/PageChoices.h>
+#include <host/panels/PanelSettings.h>
+#include <host/strip/CutPlan.h>
 
 namespace host {
 

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# libcups's types and functions for PPDs are used by host/Ppd*.{h,cpp} only: a later libcups does not have them.
+# libcups's types and functions for PPDs are used by host/printer only: a later libcups does not have them.
 # The panel's side of the protocol (plugin, ppd, options and what they stand on) is made of them and not looked at.
 #   check-ppd.sh SOURCE-DIRECTORY
 set -eu
@@ -18,13 +18,13 @@ uses() {
     done
 }
 
-failures=$(uses host tools | grep -vE '^host/Ppd[A-Za-z]*\.(h|cpp):' |
+failures=$(uses host dialog programs | grep -vE '^host/printer/Ppd[A-Za-z]*\.(h|cpp):' |
     # The protocol's own way of asking for it.
     grep -vF 'ppd_file_t *ppdFile() const override' || true)
 if [ -n "$failures" ]; then
-    echo "PPDs are read through host/PpdFile and host/PpdOptions:"
+    echo "PPDs are read through host/printer/PpdFile and host/printer/PpdOptions:"
     echo "$failures"
     exit 1
 fi
 # The words that are looked for are those that are there.
-[ "$(uses host | grep -c '^host/Ppd')" -gt 20 ]
+[ "$(uses host | grep -c '^host/printer/Ppd')" -gt 20 ]

@@ -8,7 +8,7 @@
 #include "PaperRows.h"
 #include "Views.h"
 
-#include <host/dialog/ConflictBanner.h>
+#include <dialog/options/ConflictBanner.h>
 
 #include <QApplication>
 #include <QLineEdit>

@@ -3,8 +3,8 @@
 
 #include "Gestures.h"
 
-#include <host/PpdOptions.h>
-#include <host/dialog/OptionControl.h>
+#include <dialog/options/OptionControl.h>
+#include <host/printer/PpdOptions.h>
 
 namespace dialogwalk {
 

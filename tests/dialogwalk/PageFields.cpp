@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageFields.h"
 
-#include <host/dialog/PageOptions.h>
+#include <dialog/job/PageOptions.h>
 
 #include <QLineEdit>
 #include <QSpinBox>

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SampleLabels.h"
 
-#include "SamplePdf.h"
-
-#include <host/Units.h>
+#include <host/base/Units.h>
+#include <tests/samples/SamplePdf.h>
 
 namespace dialogwalk {
 

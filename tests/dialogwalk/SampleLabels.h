@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Sandbox.h"
 #include "StripOracle.h"
+
+#include <tests/samples/Sandbox.h>
 
 namespace dialogwalk {
 

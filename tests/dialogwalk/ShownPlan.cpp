@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ShownPlan.h"
 
-#include <host/CutPlan.h>
+#include <host/strip/CutPlan.h>
 
 #include <QRegularExpression>
 

@@ -3,9 +3,9 @@
 
 #include "ShownPlan.h"
 
-#include <host/CutPlanWords.h>
-#include <host/VirtualPrinter.h>
 #include <host/setup/JobReport.h>
+#include <host/strip/CutPlanWords.h>
+#include <host/strip/VirtualPrinter.h>
 #include <platform/PopUpButton.h>
 
 #include <QFile>

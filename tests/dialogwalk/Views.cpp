@@ -3,8 +3,8 @@
 
 #include "ShownPlan.h"
 
-#include <host/dialog/FittedLabel.h>
-#include <host/dialog/StripPreview.h>
+#include <dialog/widgets/FittedLabel.h>
+#include <dialog/window/StripPreview.h>
 
 #include <QLabel>
 #include <QLineEdit>

@@ -3,8 +3,8 @@
 
 #include "Hands.h"
 
-#include <host/dialog/Banner.h>
-#include <host/dialog/StripPreview.h>
+#include <dialog/widgets/Banner.h>
+#include <dialog/window/StripPreview.h>
 
 #include <QApplication>
 #include <QTabBar>

@@ -4,8 +4,8 @@
 #include "PanelBoxes.h"
 #include "WalkedServer.h"
 
-#include <host/dialog/PrintDialog.h>
-#include <host/dialog/QueueSender.h>
+#include <dialog/job/QueueSender.h>
+#include <dialog/window/PrintDialog.h>
 
 namespace dialogwalk {
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WalkedServer.h"
 
-#include "OptionsPpd.h"
-
 #include <QFile>
 
+#include <tests/samples/OptionsPpd.h>
 #include <tests/support/Waiting.h>
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "../cups/PrintingTest.h"
-#include <host/cups/JobJournal.h>
-#include <host/cups/JobStatus.h>
+#include <host/cups/jobs/JobJournal.h>
+#include <host/cups/jobs/JobStatus.h>
+#include <tests/servers/PrintingTest.h>
 #include <tests/support/FaultProxy.h>
 
 #include <map>

@@ -3,7 +3,7 @@
 // asked again, and an error when it cannot.
 #include "FaultSweepTest.h"
 
-#include <host/cups/JobMonitor.h>
+#include <host/cups/jobs/JobMonitor.h>
 
 using test_support::FaultProxy;
 using test_support::PassedMessage;

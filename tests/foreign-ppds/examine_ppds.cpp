@@ -5,7 +5,7 @@
 // line has the counts.
 #include <PpdExamination.h>
 
-#include <host/PpdFile.h>
+#include <host/printer/PpdFile.h>
 
 #include <cups/cups.h>
 #include <cups/ppd.h>

@@ -31,7 +31,8 @@ QRect readRect(QXmlStreamReader &xml)
 
 const LayoutFile &LayoutFile::ofSources()
 {
-    static const LayoutFile layout(QStringLiteral(KV_SOURCE_DIR "/resources/layout/OptionPDE.ui"));
+    static const LayoutFile layout(
+        QStringLiteral(KV_SOURCE_DIR "/panels/cutoptions/resources/layout/OptionPDE.ui"));
     return layout;
 }
 

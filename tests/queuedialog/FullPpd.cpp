@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FullPpd.h"
 
-#include "OptionsPpd.h"
-#include "SamplePpd.h"
+#include <tests/samples/OptionsPpd.h>
+#include <tests/samples/SamplePpd.h>
 
 QByteArray fullPpd()
 {

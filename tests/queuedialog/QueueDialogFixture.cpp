@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QueueDialogFixture.h"
 
-#include "SamplePdf.h"
-
-#include <host/Units.h>
-#include <host/cups/QueueCache.h>
-#include <host/dialog/Banner.h>
-#include <host/dialog/PasswordDialog.h>
+#include <dialog/job/PasswordDialog.h>
+#include <dialog/widgets/Banner.h>
+#include <host/base/Units.h>
+#include <host/cups/queues/QueueCache.h>
+#include <tests/samples/SamplePdf.h>
 #include <tests/support/BackgroundThreads.h>
 
 #include <QApplication>

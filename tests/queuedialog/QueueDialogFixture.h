@@ -2,12 +2,12 @@
 #pragma once
 
 #include "Hands.h"
-#include "Sandbox.h"
-#include "Servers.h"
 
-#include <host/dialog/OptionControl.h>
-#include <host/dialog/PrintDialog.h>
-#include <host/dialog/QueueSender.h>
+#include <dialog/job/QueueSender.h>
+#include <dialog/options/OptionControl.h>
+#include <dialog/window/PrintDialog.h>
+#include <tests/samples/Sandbox.h>
+#include <tests/servers/Servers.h>
 #include <tests/support/PrivateCupsd.h>
 
 #include <QCheckBox>

@@ -2,11 +2,10 @@
 // The choice of the printer, and how the chosen one is.
 #include "QueueDialogFixture.h"
 
-#include "FaultyServer.h"
-#include "OptionsPpd.h"
-#include "SamplePpd.h"
-
-#include <host/dialog/PasswordDialog.h>
+#include <dialog/job/PasswordDialog.h>
+#include <tests/samples/OptionsPpd.h>
+#include <tests/samples/SamplePpd.h>
+#include <tests/servers/FaultyServer.h>
 
 #include <QApplication>
 #include <QLineEdit>

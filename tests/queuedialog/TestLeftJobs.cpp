@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Jobs that killed programs have left on print servers, as the dialog tells of them.
 #include "QueueDialogFixture.h"
-#include "SamplePpd.h"
 
-#include <host/cups/JobJournal.h>
+#include <host/cups/jobs/JobJournal.h>
+#include <tests/samples/SamplePpd.h>
 #include <tests/support/AbandonedRecords.h>
 #include <tests/support/FaultProxy.h>
 #include <tests/support/Waiting.h>

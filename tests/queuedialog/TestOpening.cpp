@@ -2,12 +2,11 @@
 // The dialog is there before the server has answered, and no server can make it stop.
 #include "QueueDialogFixture.h"
 
-#include "FaultyServer.h"
-#include "OptionsPpd.h"
-#include "SamplePpd.h"
-
-#include <host/cups/PpdLoader.h>
-#include <host/cups/QueueCache.h>
+#include <host/cups/queues/PpdLoader.h>
+#include <host/cups/queues/QueueCache.h>
+#include <tests/samples/OptionsPpd.h>
+#include <tests/samples/SamplePpd.h>
+#include <tests/servers/FaultyServer.h>
 #include <tests/support/FaultProxy.h>
 
 #include <QApplication>

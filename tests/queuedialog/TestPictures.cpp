@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // Pictures of every state of the dialog, for people to look at; and what can be checked of them without eyes:
 // that no text is cut off and that windows fit on small screens.
-#include "FaultyServer.h"
 #include "FullPpd.h"
 #include "QueueDialogFixture.h"
-#include "SamplePpd.h"
 
-#include <host/dialog/JobWindow.h>
-#include <host/dialog/OptionControl.h>
-#include <host/dialog/PasswordDialog.h>
-#include <host/dialog/Translations.h>
+#include <dialog/job/JobWindow.h>
+#include <dialog/job/PasswordDialog.h>
+#include <dialog/options/OptionControl.h>
+#include <dialog/translations/Translations.h>
+#include <tests/samples/SamplePpd.h>
+#include <tests/servers/FaultyServer.h>
 
 #include <QApplication>
 #include <QDir>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // What becomes of the dialog and the job when the sending does not go well, and the job's way to its end.
-#include "FaultyServer.h"
 #include "QueueDialogFixture.h"
-#include "SamplePdf.h"
-#include "SamplePpd.h"
 
-#include <host/dialog/JobWindow.h>
+#include <dialog/job/JobWindow.h>
+#include <tests/samples/SamplePdf.h>
+#include <tests/samples/SamplePpd.h>
+#include <tests/servers/FaultyServer.h>
 #include <tests/support/FaultProxy.h>
 
 #include <QApplication>

@@ -2,11 +2,10 @@
 // What the window asks about connections to another machine, which is this one by its address on the network.
 #include "QueueDialogFixture.h"
 
-#include "FaultyServer.h"
-#include "SamplePpd.h"
-
-#include <host/dialog/PasswordDialog.h>
-#include <host/dialog/TrustDialog.h>
+#include <dialog/job/PasswordDialog.h>
+#include <dialog/job/TrustDialog.h>
+#include <tests/samples/SamplePpd.h>
+#include <tests/servers/FaultyServer.h>
 #include <tests/support/NetworkAddress.h>
 
 #include <QApplication>

@@ -2,10 +2,10 @@
 // What is set in the dialog is exactly what the printer's filter gets.
 #include "FullPpd.h"
 #include "QueueDialogFixture.h"
-#include "SamplePdf.h"
 
-#include <host/Units.h>
-#include <host/dialog/OptionControl.h>
+#include <dialog/options/OptionControl.h>
+#include <host/base/Units.h>
+#include <tests/samples/SamplePdf.h>
 
 #include <QApplication>
 #include <QClipboard>

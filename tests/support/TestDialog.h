@@ -3,7 +3,7 @@
 
 #include "PpdBuilder.h"
 
-#include <plugin/protocol/PDEPluginCallback.h>
+#include <protocol/PDEPluginCallback.h>
 
 #include <QString>
 #include <QStringList>

@@ -5,8 +5,8 @@
 #include "Dice.h"
 #include "Episode.h"
 
+#include <programs/kvpanel/PanelDriver.h>
 #include <tests/model/DriverModel.h>
-#include <tools/PanelDriver.h>
 
 #include <QTemporaryDir>
 

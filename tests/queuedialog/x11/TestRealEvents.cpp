@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // The dialog on an X server: mouse and keys come from there, through the whole of the window system.
 #include "QueueDialogFixture.h"
-#include "SamplePpd.h"
+
+#include <tests/samples/SamplePpd.h>
 
 #include <QApplication>
 #include <QProcess>

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/cups/server/Background.h>
+
+#include <QEventLoop>
+
+#include <optional>
+
+namespace dialog {
+
+/// Runs the work in the background and the event loop meanwhile; answers what came of it.
+template<typename Work>
+auto outcomeOf(Work work)
+{
+    host::Background background;
+    QEventLoop loop;
+    std::optional<decltype(work(std::declval<host::BackgroundTask &>()))> outcome;
+    background.start([&, work](host::BackgroundTask &task) {
+        task.deliver([&, now = work(task)] {
+            outcome = now;
+            loop.quit();
+        });
+    });
+    loop.exec();
+    return *outcome;
+}
+
+} // namespace dialog

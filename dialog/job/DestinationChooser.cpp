@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DestinationChooser.h"
+
+#include <dialog/widgets/FittedLabel.h>
+#include <dialog/widgets/PlainToolTip.h>
+#include <host/cups/queues/QueueWords.h>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace dialog {
+
+namespace {
+
+QString listText(const host::Destination &destination)
+{
+    // Two queues may have one description, and an instance has that of its queue.
+    if (destination.description.isEmpty() || destination.description == destination.name())
+        return destination.name();
+    return QStringLiteral("%1 – %2").arg(destination.name(), destination.description);
+}
+
+QString describe(const host::Destination &destination)
+{
+    QStringList lines;
+    if (destination.isClass)
+        lines.append(DestinationChooser::tr("Class of printers: %1")
+                         .arg(destination.members.join(QStringLiteral(", "))));
+    if (!destination.makeAndModel.isEmpty())
+        lines.append(destination.makeAndModel);
+    if (!destination.location.isEmpty())
+        lines.append(destination.location);
+    return lines.join(u'\n');
+}
+
+QStyle::StandardPixmap icon(host::StateSeverity severity)
+{
+    switch (severity) {
+    case host::StateSeverity::Good:
+        return QStyle::SP_MessageBoxInformation;
+    case host::StateSeverity::Warning:
+        return QStyle::SP_MessageBoxWarning;
+    case host::StateSeverity::Error:
+        break;
+    }
+    return QStyle::SP_MessageBoxCritical;
+}
+
+} // namespace
+
+DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *parent)
+    : QWidget(parent)
+    , m_session(session)
+    , m_list(new QComboBox(this))
+    , m_icon(new QLabel(this))
+    // With room for what a paused queue says, papers do not jump when a state comes and goes.
+    , m_state(new FittedLabel(3, 6, this))
+{
+    auto *const label = new QLabel(tr("P&rinter"), this);
+    label->setBuddy(m_list);
+    m_list->setAccessibleName(tr("Printer"));
+    // As wide as the papers below it, however long the printers' descriptions are.
+    m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_list->setMinimumContentsLength(20);
+    m_icon->setAlignment(Qt::AlignTop);
+
+    auto *const state = new QHBoxLayout;
+    state->addWidget(m_icon);
+    state->addWidget(m_state, 1);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(label);
+    layout->addWidget(m_list);
+    layout->addLayout(state);
+    connect(&session, &host::QueueSession::destinationsChanged, this, &DestinationChooser::showDestinations);
+    connect(&session, &host::QueueSession::chosenChanged, this, &DestinationChooser::showChosen);
+    connect(&session, &host::QueueSession::stateChanged, this, &DestinationChooser::showState);
+    connect(&session, &host::QueueSession::settled, this, &DestinationChooser::showState);
+    connect(m_list, &QComboBox::activated, this,
+            [this](int index) { m_session.choose(m_list->itemData(index).toString()); });
+    showDestinations();
+}
+
+void DestinationChooser::showDestinations()
+{
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const host::Destination &destination : m_session.destinations().destinations()) {
+        m_list->addItem(listText(destination), destination.name());
+        m_list->setItemData(m_list->count() - 1, plainToolTip(describe(destination)), Qt::ToolTipRole);
+    }
+    showChosen();
+}
+
+void DestinationChooser::showChosen()
+{
+    const QString name = m_session.chosenName();
+    int index = m_list->findData(name);
+    if (index < 0 && !name.isEmpty()) {
+        // Asked for and not there yet, or an instance that nobody has made.
+        m_list->insertItem(0, name, name);
+        index = 0;
+    }
+    m_list->setCurrentIndex(index);
+    // Descriptions may be longer than the list is wide.
+    m_list->setToolTip(plainToolTip(m_list->currentText()));
+    showState();
+}
+
+QString DestinationChooser::stateText() const
+{
+    const bool isFromLastTime = m_session.destinations().isStale();
+    const std::optional<host::CupsError> &error = m_session.listError();
+    const bool wantsPassword = error && error->kind == host::CupsFailure::NotAuthorized;
+    const bool isUntrusted = error && error->kind == host::CupsFailure::Untrusted;
+    if (!m_session.chosen())
+        return !m_session.isSettled() ? tr("Waiting for the print server's answer…")
+               : wantsPassword        ? tr("The print server wants a password.")
+               : isUntrusted          ? tr("The print server is not trusted.")
+               : isFromLastTime       ? tr("The print server does not answer.")
+                                      : tr("There is no such printer.");
+    const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
+    if (isFromLastTime && !m_session.isSettled())
+        return tr("Last time: %1").arg(sentences);
+    if (isFromLastTime && wantsPassword)
+        return tr("The print server wants a password. Last time: %1").arg(sentences);
+    if (isFromLastTime && isUntrusted)
+        return tr("The print server is not trusted. Last time: %1").arg(sentences);
+    return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
+}
+
+void DestinationChooser::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    // So that the server's words can be copied. Not before there is a mouse to do it: laying out a text that
+    // can be selected takes many times as long.
+    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+void DestinationChooser::showState()
+{
+    const QString text = stateText();
+    m_state->setWords(text);
+    m_state->setToolTip(plainToolTip(text));
+    m_list->setAccessibleDescription(text);
+    const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();
+    const host::StateSeverity severity =
+        isKnown ? host::queueSeverity(*m_session.chosen()) : host::StateSeverity::Warning;
+    // A printer that is well needs no sign.
+    m_icon->setVisible(isKnown && severity != host::StateSeverity::Good);
+    if (m_icon->isHidden())
+        return;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icon->setPixmap(style()->standardIcon(icon(severity)).pixmap(size));
+}
+
+} // namespace dialog

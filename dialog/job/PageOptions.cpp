@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PageOptions.h"
+
+#include <dialog/widgets/ClearButton.h>
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+namespace dialog {
+
+using host::Collate;
+using host::PageOrder;
+
+PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
+    : QWidget(parent)
+    , m_pageCounts(std::move(pageCounts))
+    , m_copies(new QSpinBox(this))
+    , m_collate(new QCheckBox(tr("Set &by set"), this))
+    , m_pages(new QLineEdit(this))
+    , m_lastFirst(new QCheckBox(tr("Last page first"), this))
+{
+    build();
+    show();
+    connectAll();
+}
+
+void PageOptions::build()
+{
+    m_copies->setRange(1, host::mostCopies);
+    m_copies->setAccelerated(true);
+    m_collate->setToolTip(
+        tr("All pages once, then all pages again; otherwise all copies of a page together"));
+    m_pages->setPlaceholderText(tr("all, or for example 1-3, 5"));
+    addClearButton(m_pages);
+    auto *const layout = new QFormLayout(this);
+    layout->setContentsMargins({});
+    layout->addRow(tr("&Copies"), m_copies);
+    layout->addRow(QString(), m_collate);
+    layout->addRow(tr("Pa&ges"), m_pages);
+    layout->addRow(QString(), m_lastFirst);
+}
+
+void PageOptions::connectAll()
+{
+    connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
+        m_wishes.copies = copies;
+        m_collate->setEnabled(copies > 1);
+        Q_EMIT changed();
+    });
+    // A number that is typed is the user's, even where the printer's defaults show the same: QSpinBox reports
+    // no change then, and another printer has other defaults.
+    connect(m_copies->findChild<QLineEdit *>(), &QLineEdit::textEdited, this, [this] {
+        if (!m_copies->hasAcceptableInput() || m_wishes.copies == m_copies->value())
+            return;
+        m_wishes.copies = m_copies->value();
+        Q_EMIT changed();
+    });
+    connect(m_collate, &QCheckBox::toggled, this, [this](bool isOn) {
+        m_wishes.collate = isOn ? Collate::Yes : Collate::No;
+        Q_EMIT changed();
+    });
+    connect(m_pages, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_wishes.pageRanges = text;
+        Q_EMIT changed();
+    });
+    connect(m_lastFirst, &QCheckBox::toggled, this, [this](bool isOn) {
+        m_wishes.order = isOn ? PageOrder::LastFirst : PageOrder::FirstFirst;
+        Q_EMIT changed();
+    });
+}
+
+void PageOptions::show()
+{
+    const QSignalBlocker quiet[] = {QSignalBlocker(m_copies), QSignalBlocker(m_collate),
+                                    QSignalBlocker(m_pages), QSignalBlocker(m_lastFirst)};
+    const host::JobSettings shown = withDefaults(m_wishes, m_defaults);
+    m_copies->setValue(shown.copies.value_or(1));
+    m_collate->setChecked(shown.collate == Collate::Yes);
+    m_collate->setEnabled(m_copies->value() > 1);
+    m_pages->setText(shown.pageRanges.value_or(QString()));
+    m_lastFirst->setChecked(shown.order == PageOrder::LastFirst);
+}
+
+host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
+{
+    return host::choosePages(m_wishes, m_defaults, m_pageCounts);
+}
+
+void PageOptions::setSettings(const host::JobSettings &settings)
+{
+    m_wishes = settings;
+    show();
+}
+
+void PageOptions::setDefaults(const host::JobSettings &defaults)
+{
+    if (m_defaults == defaults)
+        return;
+    m_defaults = defaults;
+    show();
+}
+
+void PageOptions::writeTo(host::JobSettings &settings) const
+{
+    settings.copies = m_wishes.copies;
+    settings.collate = m_wishes.collate;
+    settings.pageRanges = m_wishes.pageRanges;
+    settings.pageSet = m_wishes.pageSet;
+    settings.order = m_wishes.order;
+}
+
+} // namespace dialog

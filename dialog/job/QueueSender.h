@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "JobSender.h"
+
+#include <host/cups/jobs/JobSubmission.h>
+
+namespace dialog {
+
+/// Sends to a queue of a print server, in the background.
+class QueueSender : public JobSender {
+    Q_OBJECT
+
+public:
+    explicit QueueSender(host::CupsServer server, QObject *parent = nullptr);
+
+    void send(const ReadyJob &job) override;
+    void cancel() override { m_submission.cancel(); }
+
+    /// The job that was sent last.
+    const QString &queue() const { return m_queue; }
+    int jobId() const { return m_jobId; }
+
+private:
+    host::JobSubmission m_submission;
+    QString m_queue;
+    int m_jobId = 0;
+};
+
+} // namespace dialog

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SendBar.h"
+
+#include <dialog/widgets/PlainToolTip.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace dialog {
+
+SendBar::SendBar(QWidget *parent)
+    : QWidget(parent)
+    , m_title(new QLabel(this))
+    , m_bar(new QProgressBar(this))
+    , m_cancel(new QPushButton(tr("Stop sending"), this))
+{
+    m_title->setTextFormat(Qt::PlainText);
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_title);
+    layout->addWidget(m_bar, 1);
+    layout->addWidget(m_cancel);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        // Shows that it was heard: taking a job back from a slow server takes a while.
+        showStopping();
+        Q_EMIT cancelled();
+    });
+    hide();
+}
+
+void SendBar::begin(const QString &title)
+{
+    // Beside the bar: most styles show no text in a bar that does not know how far it is.
+    const QString text = tr("Sending \"%1\"").arg(title);
+    const int widest = 40 * fontMetrics().averageCharWidth();
+    m_title->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, widest));
+    m_title->setToolTip(plainToolTip(text));
+    m_bar->setAccessibleName(text);
+    m_cancel->setEnabled(true);
+    setProgress(-1);
+    show();
+}
+
+void SendBar::setProgress(int percent)
+{
+    // A range of nothing is how progress bars show that they do not know.
+    m_bar->setRange(0, percent < 0 ? 0 : 100);
+    m_bar->setValue(qMax(percent, 0));
+}
+
+void SendBar::showStopping()
+{
+    m_cancel->setEnabled(false);
+}
+
+void SendBar::end()
+{
+    hide();
+}
+
+} // namespace dialog

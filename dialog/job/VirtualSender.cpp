@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "VirtualSender.h"
+
+#include <host/setup/JobReport.h>
+#include <host/strip/VirtualPrinter.h>
+
+#include <QDir>
+
+namespace dialog {
+
+VirtualSender::VirtualSender(std::optional<QString> folder, QObject *parent)
+    : JobSender(parent)
+    , m_folder(std::move(folder))
+{
+}
+
+void VirtualSender::send(const ReadyJob &job)
+{
+    if (!job.plan || !job.renderer) {
+        Q_EMIT failed(tr("The PPD file names no paper to print on"));
+        return;
+    }
+    const QString folder = m_folder.value_or(host::VirtualPrinter::freshFolder());
+    const QImage picture = m_takePicture ? m_takePicture() : QImage();
+    const host::PrintedStrip strip{*job.plan, *job.renderer, job.ticket.document, job.ticket.printer,
+                                   job.ticket.paper->text};
+    const QJsonObject options = host::printedJobJson(job.ticket, job.document, job.ppdPath, *job.plan);
+    if (const std::optional<host::OutputError> error =
+            host::VirtualPrinter::print(strip, options, picture, folder)) {
+        Q_EMIT failed(error->message);
+        return;
+    }
+    m_usedFolder = QDir(folder).absolutePath();
+    Q_EMIT sent();
+}
+
+} // namespace dialog

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FreeChoiceFields.h"
+
+#include <dialog/widgets/LengthField.h>
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace dialog {
+
+namespace {
+
+/// Characters that the parameter takes. Braces are none: to the server, one that is not closed takes in all
+/// options that come after it.
+QRegularExpression characters(host::PpdParameterKind kind)
+{
+    return QRegularExpression(kind == host::PpdParameterKind::Passcode ? QStringLiteral("[0-9]*")
+                                                                       : QStringLiteral("[^{}\\t\\n]*"));
+}
+
+} // namespace
+
+FreeChoiceFields::FreeChoiceFields(std::vector<host::PpdParameter> parameters, QWidget *parent)
+    : QWidget(parent)
+    , m_parameters(std::move(parameters))
+    , m_missing(new QLabel(this))
+{
+    auto *const form = new QFormLayout(this);
+    form->setContentsMargins({});
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    for (std::size_t i = 0; i < m_parameters.size(); ++i)
+        addField(form, i);
+    m_missing->setWordWrap(true);
+    m_missing->setTextFormat(Qt::PlainText);
+    form->addRow(m_missing);
+    if (!m_fields.empty())
+        setFocusProxy(m_fields.front());
+    showValues(m_parameters);
+}
+
+void FreeChoiceFields::addField(QFormLayout *form, std::size_t index)
+{
+    const host::PpdParameter &parameter = m_parameters[index];
+    QWidget *const field = parameter.isNumber() ? makeNumber(index) : makeText(index);
+    field->setObjectName(QString::fromUtf8(parameter.name));
+    field->setAccessibleName(parameter.text);
+    form->addRow(QString(parameter.text).replace(u'&', QStringLiteral("&&")), field);
+    m_fields.push_back(field);
+}
+
+QWidget *FreeChoiceFields::makeNumber(std::size_t index)
+{
+    const host::PpdParameter &parameter = m_parameters[index];
+    if (parameter.kind == host::PpdParameterKind::Points) {
+        auto *const field = new LengthField(parameter.minimum, parameter.maximum, this);
+        connect(field, &LengthField::valueChanged, this, [this, field, index] {
+            m_parameters[index].number = field->points();
+            changed();
+        });
+        return field;
+    }
+    const int decimals = parameter.kind == host::PpdParameterKind::Integer ? 0 : 4;
+    auto *const field = new NumberField(parameter.minimum, parameter.maximum, decimals, this);
+    connect(field, &NumberField::valueChanged, this, [this, index](double number) {
+        m_parameters[index].number = number;
+        changed();
+    });
+    return field;
+}
+
+QWidget *FreeChoiceFields::makeText(std::size_t index)
+{
+    const host::PpdParameter &parameter = m_parameters[index];
+    auto *const field = new QLineEdit(this);
+    field->setMaxLength(static_cast<int>(parameter.maximum));
+    field->setValidator(new QRegularExpressionValidator(characters(parameter.kind), field));
+    if (parameter.kind != host::PpdParameterKind::Text)
+        field->setEchoMode(QLineEdit::Password);
+    connect(field, &QLineEdit::textEdited, this, [this, index](const QString &text) {
+        m_parameters[index].characters = text;
+        changed();
+    });
+    return field;
+}
+
+void FreeChoiceFields::changed()
+{
+    const auto missing =
+        std::ranges::find_if(m_parameters, [](const host::PpdParameter &each) { return !each.isComplete(); });
+    m_missing->setVisible(missing != m_parameters.end());
+    for (QWidget *const field : m_fields)
+        field->setAccessibleDescription({});
+    if (missing == m_parameters.end()) {
+        Q_EMIT edited();
+        return;
+    }
+    m_missing->setText(
+        tr("\"%1\" needs %n character(s) at least. Until then the setting is as it was before.", nullptr,
+           static_cast<int>(missing->minimum))
+            .arg(missing->text));
+    m_fields[static_cast<std::size_t>(missing - m_parameters.begin())]->setAccessibleDescription(
+        m_missing->text());
+}
+
+void FreeChoiceFields::showValues(const std::vector<host::PpdParameter> &parameters)
+{
+    // A text that is not long enough yet is not what is marked; it stays, to be finished.
+    if (!isComplete() && std::ranges::any_of(m_fields, [](QWidget *field) { return field->hasFocus(); }))
+        return;
+    m_parameters = parameters;
+    for (std::size_t i = 0; i < m_fields.size() && i < m_parameters.size(); ++i) {
+        host::PpdParameter &parameter = m_parameters[i];
+        // What is sent is what is shown, limits rounded to what can be entered included.
+        if (auto *const length = qobject_cast<LengthField *>(m_fields[i])) {
+            length->showPoints(parameter.number);
+            parameter.number = length->points();
+        } else if (auto *const number = qobject_cast<NumberField *>(m_fields[i])) {
+            number->showNumber(parameter.number);
+            parameter.number = number->value();
+        } else if (auto *const text = qobject_cast<QLineEdit *>(m_fields[i]);
+                   text && text->text() != parameter.characters) {
+            text->setText(parameter.characters);
+        }
+    }
+    const QSignalBlocker quiet(this);
+    changed();
+}
+
+bool FreeChoiceFields::isComplete() const
+{
+    return std::ranges::all_of(m_parameters, &host::PpdParameter::isComplete);
+}
+
+QByteArray FreeChoiceFields::value() const
+{
+    return host::freeChoiceValue(m_parameters);
+}
+
+} // namespace dialog

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LengthUnit.h"
+
+#include <host/base/Units.h>
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace dialog {
+
+namespace {
+
+struct LengthUnitText {
+    Q_DECLARE_TR_FUNCTIONS(dialog::LengthUnit)
+};
+
+QString numberText(double points, LengthUnit unit, int decimals)
+{
+    const QLocale locale;
+    QString number = locale.toString(points / pointsPer(unit), 'f', decimals);
+    while (number.endsWith(locale.zeroDigit()))
+        number.chop(1);
+    if (number.endsWith(locale.decimalPoint()))
+        number.chop(locale.decimalPoint().size());
+    return number;
+}
+
+QString exactNumber(double points, LengthUnit unit)
+{
+    return numberText(points, unit, exactDecimals(unit));
+}
+
+QString withUnit(const QString &number, LengthUnit unit)
+{
+    return LengthUnitText::tr("%1 %2", "a number and its unit").arg(number, unitText(unit));
+}
+
+} // namespace
+
+LengthUnit userLengthUnit()
+{
+    // Britain keeps miles, and measures paper in millimetres.
+    return QLocale().measurementSystem() == QLocale::ImperialUSSystem ? LengthUnit::Inch
+                                                                      : LengthUnit::Millimetre;
+}
+
+double pointsPer(LengthUnit unit)
+{
+    return unit == LengthUnit::Inch ? 72.0 : host::pointsPerMillimetre;
+}
+
+QString unitText(LengthUnit unit)
+{
+    return unit == LengthUnit::Inch ? LengthUnitText::tr("in", "inches")
+                                    : LengthUnitText::tr("mm", "millimetres");
+}
+
+int exactDecimals(LengthUnit unit)
+{
+    return unit == LengthUnit::Inch ? 4 : 2;
+}
+
+QString exactLength(double points)
+{
+    const LengthUnit unit = userLengthUnit();
+    return withUnit(exactNumber(points, unit), unit);
+}
+
+QString roundLength(double points)
+{
+    const LengthUnit unit = userLengthUnit();
+    return withUnit(numberText(points, unit, unit == LengthUnit::Inch ? 2 : 1), unit);
+}
+
+QString exactSize(const QSizeF &points)
+{
+    const LengthUnit unit = userLengthUnit();
+    return LengthUnitText::tr("%1 \u00d7 %2 %3", "width, length and their unit")
+        .arg(exactNumber(points.width(), unit), exactNumber(points.height(), unit), unitText(unit));
+}
+
+} // namespace dialog

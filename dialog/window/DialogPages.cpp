@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DialogPages.h"
+
+#include "PagePreview.h"
+#include "PanelPage.h"
+
+#include <dialog/job/JobPage.h>
+#include <dialog/job/SentPage.h>
+#include <dialog/options/OptionsPage.h>
+#include <dialog/widgets/LazyPage.h>
+
+#include <QApplication>
+#include <QStyle>
+#include <QStyleOptionTabWidgetFrame>
+#include <QTabBar>
+
+namespace dialog {
+
+namespace {
+
+/// The control with the focus, by the name of it or of what it is part of; empty when none within has it.
+QString nameOfFocus(const QWidget *within)
+{
+    const QWidget *each = QApplication::focusWidget();
+    if (!within || !within->isAncestorOf(each))
+        return {};
+    // Qt names the parts of its own widgets.
+    while (each != within && (each->objectName().isEmpty() || each->objectName().startsWith(u"qt_")))
+        each = each->parentWidget();
+    return each == within ? QString() : each->objectName();
+}
+
+void focusByName(const QWidget *within, const QString &name)
+{
+    auto *const named = name.isEmpty() ? nullptr : within->findChild<QWidget *>(name);
+    if (!named)
+        return;
+    QList<QWidget *> candidates = named->findChildren<QWidget *>();
+    candidates.prepend(named);
+    for (QWidget *const each : candidates) {
+        if (each->focusPolicy() & Qt::TabFocus && each->isVisibleTo(within) && each->isEnabled()) {
+            each->setFocus();
+            return;
+        }
+    }
+}
+
+} // namespace
+
+DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent)
+    : QTabWidget(parent)
+    , m_server(server)
+    , m_pagePreview(new PagePreview(document, this))
+{
+    setAccessibleName(tr("Options, preview and summary"));
+    if (m_server)
+        addTab(new LazyPage([this](QWidget *page) { return makeJobPage(page); }, this), tr("&Job"));
+    addTab(m_pagePreview, tr("Page pre&view"));
+    addTab(new LazyPage([this](QWidget *page) { return m_summaryPage = new SummaryPage(page); }, this),
+           tr("&Summary"));
+    // Who has turned to another page while the printer is awaited stays there.
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        if (!m_setup)
+            m_front = Front::Other;
+    });
+    if (!m_server)
+        return;
+    addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
+           tr("&What will be sent"));
+    // A printer's pages mostly come later; the window has their room from the beginning, so that it does not
+    // jump under the mouse.
+    constexpr int lines = 23;
+    makeRoom(tabBar()->sizeHint().width() * 3 / 2);
+    setMinimumHeight(lines * fontMetrics().lineSpacing());
+}
+
+QWidget *DialogPages::makeJobPage(QWidget *parent)
+{
+    m_jobPage = new JobPage(parent);
+    m_jobPage->setSettings(m_job.settings);
+    m_jobPage->setTitle(m_job.title);
+    connect(m_jobPage, &JobPage::changed, this, &DialogPages::chosen);
+    return m_jobPage;
+}
+
+DialogPages::~DialogPages()
+{
+    // The panel's view must leave before its panel goes, and taking its page away changes the front page.
+    const QSignalBlocker quiet(this);
+    dropSetup();
+}
+
+void DialogPages::takeSetup(host::PrinterSetup &setup)
+{
+    const bool isInUse = currentWidget() && currentWidget()->isAncestorOf(QApplication::focusWidget());
+    if (!m_setup && isInUse)
+        m_front = Front::Other;
+    m_setup = &setup;
+    const QSignalBlocker quiet(this);
+    if (setup.hasPpd())
+        addOptions();
+    if (PDEPanel *const panel = setup.panel())
+        addPanel(*panel);
+    makeRoom(tabBar()->sizeHint().width());
+    restoreUse();
+}
+
+void DialogPages::makeRoom(int titleWidth)
+{
+    // All titles are in sight, as long as no language makes novels of them.
+    const int widest = 120 * fontMetrics().averageCharWidth();
+    const int titles = qMin(titleWidth + tabBar()->fontMetrics().height(), widest);
+    // So is the whole panel, which is laid out for its own width.
+    QStyleOptionTabWidgetFrame frame;
+    initStyleOption(&frame);
+    const QSize panel = m_panelPage ? m_panelPage->minimumSizeHint() : QSize(0, 0);
+    const int around = style()->sizeFromContents(QStyle::CT_TabWidget, &frame, panel, this).width();
+    setMinimumWidth(qMax(titles, around));
+}
+
+void DialogPages::addPanel(PDEPanel &panel)
+{
+    m_panelPage = new PanelPage(panel, this);
+    m_setup->panelHost()->setPanelViewDidResizeHook([this] {
+        m_panelPage->fitView();
+        makeRoom(tabBar()->sizeHint().width());
+    });
+    QString title = panel.panelName();
+    insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
+}
+
+void DialogPages::addOptions()
+{
+    if (!OptionsPage::hasOptions(m_setup->ppd(), m_setup->claimedKeywords()))
+        return;
+    m_optionsPlace = new LazyPage([this](QWidget *page) { return makeOptionsPage(page); }, this);
+    insertTab(0, m_optionsPlace, tr("&Options"));
+}
+
+QWidget *DialogPages::makeOptionsPage(QWidget *parent)
+{
+    m_optionsPage = new OptionsPage(m_setup->ppd(), m_setup->claimedKeywords(), parent);
+    setConflicts(std::vector(m_conflicts));
+    connect(m_optionsPage, &OptionsPage::chosen, this,
+            [this](const QByteArray &keyword, const QByteArray &value) {
+                m_setup->choose(keyword, value);
+                Q_EMIT chosen();
+            });
+    return m_optionsPage;
+}
+
+void DialogPages::writeJobTo(host::JobDraft &draft) const
+{
+    draft.settings = m_jobPage ? m_jobPage->settings() : m_job.settings;
+    draft.title = m_jobPage ? m_jobPage->title() : m_job.title;
+}
+
+void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
+{
+    m_conflicts = conflicts;
+    if (m_panelPage)
+        m_panelPage->setConflicts(host::sentencesAbout(m_setup->claimedKeywords(), conflicts));
+    if (!m_optionsPage)
+        return;
+    m_optionsPage->refresh();
+    m_optionsPage->setConflicts(conflicts);
+}
+
+void DialogPages::dropSetup()
+{
+    if (m_setup && m_setup->panelHost())
+        m_setup->panelHost()->setPanelViewDidResizeHook([] {});
+    const QSignalBlocker quiet(this);
+    if (m_setup)
+        rememberUse();
+    // The options first: else they would be made, to be shown in the panel's place.
+    delete m_optionsPlace;
+    m_optionsPlace = nullptr;
+    m_optionsPage = nullptr;
+    delete m_panelPage;
+    m_panelPage = nullptr;
+    m_setup = nullptr;
+}
+
+void DialogPages::rememberUse()
+{
+    m_group = m_optionsPage ? m_optionsPage->shownGroup() : QString();
+    m_focused = nameOfFocus(currentWidget());
+    if (m_optionsPlace && currentWidget() == m_optionsPlace)
+        m_front = Front::Options;
+    else
+        m_front = !m_panelPage || currentWidget() == m_panelPage ? Front::Panel : Front::Other;
+}
+
+void DialogPages::restoreUse()
+{
+    if (m_front == Front::Panel && m_panelPage)
+        setCurrentWidget(m_panelPage);
+    if (m_front == Front::Options && m_optionsPlace) {
+        setCurrentWidget(m_optionsPlace);
+        if (m_optionsPage)
+            m_optionsPage->showGroup(m_group);
+    }
+    if (m_front != Front::Other)
+        focusByName(currentWidget(), m_focused);
+}
+
+void DialogPages::setRenderer(const host::LabelRenderer &renderer)
+{
+    m_pagePreview->setRenderer(renderer);
+}
+
+void DialogPages::refresh()
+{
+    if (m_summary && m_summaryPage && m_summaryPage->isVisible())
+        m_summaryPage->setSections(m_summary());
+    if (!m_sentPage || !m_ticket || !m_sentPage->isVisible())
+        return;
+    const host::JobTicket *const ticket = m_ticket();
+    // While another printer is awaited, what is shown is not true.
+    m_sentPage->setEnabled(ticket != nullptr);
+    if (ticket)
+        m_sentPage->setTicket(*m_server, *ticket);
+}
+
+void DialogPages::announceFront()
+{
+    if (m_panelPage && currentWidget() == m_panelPage)
+        m_setup->announcePanel();
+}
+
+void DialogPages::announceClosing(QWidget *window)
+{
+    if (m_panelPage)
+        m_panelPage->panel().printWindowWillClose(window);
+}
+
+} // namespace dialog

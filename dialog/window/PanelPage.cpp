@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PanelPage.h"
+
+#include <dialog/options/ConflictNote.h>
+#include <platform/NotificationCenter.h>
+
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace dialog {
+
+namespace {
+
+/// A panel that needs more room than the dialog had waits for this announcement from its view.
+const QString viewIsLaidOut = QStringLiteral("NSViewDidUpdateTrackingAreasNotification");
+
+} // namespace
+
+PanelPage::PanelPage(PDEPanel &panel, QWidget *parent)
+    : QWidget(parent)
+    , m_panel(panel)
+    , m_view(panel.panelView())
+    , m_frame(new QWidget)
+    , m_scrolled(new QScrollArea(this))
+    , m_note(new ConflictNote(this))
+{
+    m_view->setParent(m_frame);
+    m_view->move(0, 0);
+    m_view->show();
+    m_scrolled->setFrameShape(QFrame::NoFrame);
+    m_scrolled->setWidget(m_frame);
+    m_scrolled->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    // One ground, for the note too.
+    setAutoFillBackground(true);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this);
+    m_note->setContentsMargins(margin, margin, margin, 0);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_note);
+    layout->addWidget(m_scrolled, 1);
+    fitView();
+}
+
+PanelPage::~PanelPage()
+{
+    if (!m_view)
+        return;
+    m_view->hide();
+    m_view->setParent(nullptr);
+}
+
+void PanelPage::fitView()
+{
+    if (!m_view)
+        return;
+    // The panel lays out its view itself; the page only gives it the room that it needs.
+    m_frame->setFixedSize(m_view->size());
+    const int frame = 2 * m_scrolled->frameWidth();
+    m_scrolled->setMinimumSize(m_view->size() + QSize(frame, frame));
+}
+
+void PanelPage::postLaidOut() const
+{
+    if (m_view)
+        platform::NotificationCenter::defaultCenter().post(viewIsLaidOut, m_view);
+}
+
+void PanelPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    postLaidOut();
+}
+
+void PanelPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    postLaidOut();
+}
+
+void PanelPage::setConflicts(const QStringList &sentences)
+{
+    m_note->setSentences(sentences);
+}
+
+} // namespace dialog

@@ -1,0 +1,320 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrintDialog.h"
+
+#include "ChoicesColumn.h"
+#include "DialogPages.h"
+#include "PanelWatch.h"
+#include "StripPreview.h"
+#include "WaitingWords.h"
+
+#include <dialog/job/LeftJobBanner.h>
+#include <dialog/job/PageOptions.h>
+#include <dialog/job/ProblemBanner.h>
+#include <dialog/job/SendBar.h>
+#include <dialog/options/ConflictBanner.h>
+#include <dialog/options/ConflictQuestion.h>
+#include <dialog/widgets/FittedLabel.h>
+#include <host/documents/BlankMeasurer.h>
+#include <host/strip/CutPlanWords.h>
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace dialog {
+
+PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
+                         JobSender &sender, const DialogWishes &wishes, QWidget *parent)
+    : QDialog(parent)
+    , m_document(std::move(document))
+    , m_keeper(keeper)
+    , m_sender(sender)
+{
+    m_draft.settings = wishes.settings;
+    m_draft.title = wishes.title.value_or(host::defaultTitle(*m_document));
+    setWindowTitle(tr("Print %1").arg(m_document->title()));
+    build(wishes);
+    m_pages->showJob(m_draft);
+    connectAll();
+    takeSetup();
+    m_problemBanner->setSendingProblem(wishes.problem);
+}
+
+PrintDialog::~PrintDialog()
+{
+    m_pages->disconnect(this);
+    dropSetup();
+}
+
+void PrintDialog::build(const DialogWishes &wishes)
+{
+    m_content = new QWidget(this);
+    m_panelBanner = new Banner(this);
+    m_conflictBanner = new ConflictBanner(m_keeper, this);
+    m_problemBanner = new ProblemBanner(this);
+    // The keys go from here to the printer's pages, and on to the strip.
+    m_choices = new ChoicesColumn(*m_document, m_keeper, wishes.settings, m_content);
+    const host::QueueSession *const session = m_keeper.session();
+    m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
+    m_panelWatch = new PanelWatch(this);
+    m_stripPreview = new StripPreview(m_content);
+    // With lines in reserve, the window does not grow at every click.
+    m_figures = new FittedLabel(3, 20, this);
+    auto *const leftJobs = session ? new LeftJobBanner(session->server(), this) : nullptr;
+    m_sendBar = new SendBar(this);
+    m_buttons = new QDialogButtonBox(this);
+    m_printButton = m_buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
+    m_printButton->setDefault(true);
+    m_buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+
+    auto *const upper = new QHBoxLayout;
+    upper->addWidget(m_choices);
+    upper->addWidget(m_pages, 1);
+    auto *const content = new QVBoxLayout(m_content);
+    content->setContentsMargins({});
+    content->addLayout(upper, 1);
+    content->addWidget(m_stripPreview);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(m_panelBanner);
+    layout->addWidget(m_content, 1);
+    layout->addWidget(m_figures);
+    layout->addWidget(m_conflictBanner);
+    layout->addWidget(m_problemBanner);
+    if (leftJobs) {
+        layout->addWidget(leftJobs);
+        leftJobs->lookForJobs();
+    }
+    layout->addWidget(m_sendBar);
+    layout->addWidget(m_buttons);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void PrintDialog::connectAll()
+{
+    connect(&m_choices->pages(), &PageOptions::changed, this, &PrintDialog::refreshLater);
+    connect(m_choices, &ChoicesColumn::paperChosen, this, &PrintDialog::changePaper);
+    connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
+    connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
+    m_pages->setSummary([this] { return summary(); });
+    m_pages->setTicket([this] { return m_ticket && m_pagesError.isEmpty() ? &m_ticket->job : nullptr; });
+    connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::lookAtPanel);
+    connect(&m_pageCheck, &host::PageCheck::done, this, &PrintDialog::refreshLater);
+    connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
+    connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
+    connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
+    if (host::QueueSession *const session = m_keeper.session()) {
+        m_problemBanner->follow(*session);
+        connect(session, &host::QueueSession::settled, this, &PrintDialog::refreshLater);
+        connect(session, &host::QueueSession::ppdChanged, this, &PrintDialog::refreshLater);
+        connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
+    }
+    connect(m_sendBar, &SendBar::cancelled, &m_sender, &JobSender::cancel);
+    connect(m_sendBar, &SendBar::cancelled, this, [this] {
+        if (!m_isSending)
+            stayOpen();
+    });
+    connect(&m_sender, &JobSender::progressed, m_sendBar, &SendBar::setProgress);
+    connect(&m_sender, &JobSender::sent, this, [this] {
+        m_isSending = false;
+        QDialog::accept();
+    });
+    connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
+        // Something to say keeps the window open: a job that could not be canceled, for instance.
+        const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
+        stayOpen();
+        m_problemBanner->setSendingProblem(problem);
+        if (closes)
+            QDialog::reject();
+    });
+}
+
+void PrintDialog::takeSetup()
+{
+    host::PrinterSetup *const setup = m_keeper.setup();
+    const bool hasProblem = setup && setup->panelProblem();
+    m_panelBanner->setMessage(
+        hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
+                   : QString());
+    if (setup) {
+        m_pages->takeSetup(*setup);
+        setup->setDidChangeHook([this] { refreshLater(); });
+        m_panelWatch->follow(setup->panel() ? setup->panel()->panelView() : nullptr);
+    }
+    m_choices->showPapers();
+    applyPaper();
+    if (isVisible())
+        m_pages->announceFront();
+    refresh();
+}
+
+void PrintDialog::dropSetup()
+{
+    m_panelWatch->follow(nullptr);
+    m_stripPreview->clear();
+    m_plan.reset();
+    m_ticket.reset();
+    if (m_keeper.setup())
+        m_keeper.setup()->setDidChangeHook({});
+    m_pages->dropSetup();
+    m_conflictBanner->setConflicts({});
+}
+
+void PrintDialog::changePaper()
+{
+    m_keeper.setup()->choosePaper(m_choices->chosenPaper());
+    applyPaper();
+    refresh();
+}
+
+void PrintDialog::applyPaper()
+{
+    // What shows the old labels lets go of them first.
+    m_stripPreview->clear();
+    m_plan.reset();
+    const host::PrinterSetup *const setup = m_keeper.setup();
+    const QSizeF paper = host::shownPaper(setup, *m_document);
+    auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper, m_pageThread);
+    connect(renderer->measurer(), &host::BlankMeasurer::measured, this, &PrintDialog::refreshLater);
+    m_pages->setRenderer(*renderer);
+    m_renderer = std::move(renderer);
+}
+
+void PrintDialog::refreshLater()
+{
+    if (m_refreshPending)
+        return;
+    m_refreshPending = true;
+    QTimer::singleShot(0, this, [this] {
+        if (m_refreshPending)
+            refresh();
+    });
+}
+
+void PrintDialog::refresh()
+{
+    m_refreshPending = false;
+    m_stripPreview->clear();
+    m_plan.reset();
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (setup) {
+        // A panel that asks a question has not changed anything yet.
+        if (!m_isBlocked && !setup->isPanelBusy())
+            setup->notePanelInput();
+        m_choices->pages().setDefaults(host::defaultPageSettings(setup->destination()));
+    }
+    const auto choices = m_choices->pages().choices();
+    m_pagesError = choices ? QString() : choices.error().message;
+    m_draft.pages = choices ? choices.value() : host::PageChoices();
+    m_pages->writeJobTo(m_draft);
+    m_choices->pages().writeTo(m_draft.settings);
+    m_ticket = setup ? std::optional(host::ticketFor(*setup, *m_document, m_draft)) : std::nullopt;
+    m_printButton->setEnabled(setup && choices && !m_isSending);
+    refreshStrip();
+    refreshMessages();
+    m_pages->refresh();
+    if (m_printsWhenReady && isReadyToSend())
+        QMetaObject::invokeMethod(this, &PrintDialog::printWhenReady, Qt::QueuedConnection);
+}
+
+void PrintDialog::refreshStrip()
+{
+    if (!m_pagesError.isEmpty()) {
+        m_figures->setWords(m_pagesError);
+        return;
+    }
+    if (!m_ticket) {
+        m_figures->setWords(waitingWords(m_keeper.session()));
+        return;
+    }
+    m_stripPreview->setVisible(m_ticket->paper.has_value());
+    if (!m_ticket->paper) {
+        m_figures->setWords(tr("The printer has no description, so its papers and cuts are not known here."));
+        return;
+    }
+    if (!m_ticket->cuts.removeBlank)
+        m_renderer->measurer()->cancel();
+    m_plan = host::makePlan(*m_ticket, *m_document, *m_renderer);
+    m_stripPreview->setPlan(*m_plan, *m_renderer);
+    m_figures->setWords(host::cutPlanFigures(*m_plan) + u'\n' + host::cutPlanSentences(*m_plan).join(u' '));
+}
+
+void PrintDialog::refreshMessages()
+{
+    const std::vector<host::Conflict> conflicts =
+        m_ticket ? m_ticket->conflicts : std::vector<host::Conflict>();
+    m_pages->setConflicts(conflicts);
+    m_choices->setConflicts(conflicts);
+    m_conflictBanner->setConflicts(conflicts, m_ticket ? m_ticket->remedy : std::nullopt);
+    if (const host::PrinterSetup *const setup = m_keeper.setup())
+        m_problemBanner->setRefusals(setup->refusals(), setup->replacedChoices());
+}
+
+void PrintDialog::lookAtPanel()
+{
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (setup && m_ticket && !setup->isPanelBusy() && setup->panelSettings() != m_ticket->panel)
+        refresh();
+}
+
+void PrintDialog::pageShown()
+{
+    m_pages->announceFront();
+    refresh();
+}
+
+bool PrintDialog::event(QEvent *event)
+{
+    // A question about the printer is about the one that is shown.
+    if (event->type() == QEvent::WindowBlocked) {
+        m_isBlocked = true;
+        m_keeper.hold();
+    }
+    if (event->type() == QEvent::WindowUnblocked) {
+        m_isBlocked = false;
+        QTimer::singleShot(0, this, [this] {
+            if (!m_isBlocked)
+                m_keeper.release();
+        });
+    }
+    // The pages wait for the first painting: another thread would make it slower.
+    if (event->type() == QEvent::Paint)
+        m_pageCheck.start();
+    return QDialog::event(event);
+}
+
+void PrintDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    pageShown();
+}
+
+void PrintDialog::done(int result)
+{
+    m_pages->announceClosing(this);
+    QDialog::done(result);
+}
+
+const QString &PrintDialog::problem() const
+{
+    return m_problemBanner->sendingProblem();
+}
+
+bool PrintDialog::hasPanelProblem() const
+{
+    return m_keeper.setup() && m_keeper.setup()->panelProblem();
+}
+
+std::vector<SummarySection> PrintDialog::summary() const
+{
+    if (!m_keeper.setup() || !m_ticket)
+        return {};
+    return host::summarize(*m_ticket, *m_keeper.setup(), m_plan ? &*m_plan : nullptr);
+}
+
+} // namespace dialog

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: Apache-2.0
+// From Print to the job's end: checking, asking about conflicts, sending, canceling.
+#include "PrintDialog.h"
+
+#include "WaitingWords.h"
+
+#include <dialog/job/ProblemBanner.h>
+#include <dialog/job/SendBar.h>
+#include <dialog/options/ConflictBanner.h>
+#include <dialog/options/ConflictQuestion.h>
+#include <host/documents/BlankMeasurer.h>
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+namespace dialog {
+
+bool PrintDialog::isReadyToSend() const
+{
+    const bool isMeasured = !m_plan || m_plan->isMeasured();
+    return m_pageCheck.isDone() && (isMeasured || !m_sender.needsStrip());
+}
+
+void PrintDialog::printWhenReady()
+{
+    if (std::exchange(m_printsWhenReady, false))
+        accept();
+}
+
+std::optional<QString> PrintDialog::prepare()
+{
+    if (!m_keeper.setup())
+        return waitingWords(m_keeper.session());
+    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
+        return error->message;
+    refresh();
+    if (m_sender.needsStrip())
+        finishMeasuring();
+    if (m_ticket && m_ticket->panel.error)
+        return m_ticket->panel.error;
+    return m_pagesError.isEmpty() ? std::nullopt : std::optional(m_pagesError);
+}
+
+void PrintDialog::finishMeasuring()
+{
+    if (!m_plan || m_plan->isMeasured())
+        return;
+    m_renderer->measurer()->finish();
+    refresh();
+}
+
+bool PrintDialog::isPrepared()
+{
+    m_problemBanner->setSendingProblem(prepare().value_or(QString()));
+    if (!problem().isEmpty())
+        stayOpen();
+    return problem().isEmpty();
+}
+
+void PrintDialog::print()
+{
+    if (isPrepared())
+        send();
+}
+
+void PrintDialog::send()
+{
+    m_isSending = true;
+    m_content->setEnabled(false);
+    m_printButton->setEnabled(false);
+    m_sendBar->begin(m_draft.title);
+    const host::PpdFile *const ppd = m_keeper.setup()->ppdOrNull();
+    m_sender.send({*m_ticket, *m_document, ppd ? ppd->path() : QString(), m_plan ? &*m_plan : nullptr,
+                   m_renderer.get()});
+}
+
+void PrintDialog::stayOpen()
+{
+    m_isSending = false;
+    m_printsWhenReady = false;
+    m_content->setEnabled(true);
+    m_buttons->setEnabled(true);
+    m_sendBar->end();
+    refresh();
+}
+
+void PrintDialog::accept()
+{
+    if (m_isSending)
+        return;
+    // What was changed just now decides whether there is something to measure.
+    if (m_refreshPending)
+        refresh();
+    if (!m_printButton->isEnabled()) {
+        // Since Print was pressed, while a long document was checked.
+        m_sendBar->end();
+        return;
+    }
+    if (isVisible() && !isReadyToSend()) {
+        // It has thousands of pages; checking and measuring go on, and the window stays alive meanwhile.
+        m_printsWhenReady = true;
+        m_pageCheck.start();
+        if (!m_sender.needsStrip())
+            m_pageCheck.hurry();
+        m_sendBar->begin(m_draft.title);
+        return;
+    }
+    if (!isPrepared())
+        return;
+    const QString conflicts = m_conflictBanner->message();
+    if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
+        send();
+    else
+        stayOpen();
+}
+
+void PrintDialog::reject()
+{
+    m_printsWhenReady = false;
+    if (!m_isSending) {
+        QDialog::reject();
+        return;
+    }
+    // The job is canceled first, so that no part of it stays on the server.
+    m_closesAfterSending = true;
+    m_sendBar->showStopping();
+    m_buttons->setEnabled(false);
+    m_sender.cancel();
+}
+
+} // namespace dialog

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/strip/OutputFiles.h>
+
+#include <QImage>
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+namespace dialog {
+
+/// A picture of the window as it looks when all that is drawn and measured in the background is done; returns
+/// then, and handles events meanwhile.
+QImage completePicture(QWidget &window);
+
+/// Saves a complete picture of the window as a PNG file, all of it or nothing. Nothing, or why it cannot be
+/// saved.
+std::optional<host::OutputError> saveScreenshot(QWidget &window, const QString &path);
+
+} // namespace dialog

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobOptions.h"
+
+#include <host/printer/PpdOptions.h>
+
+#include <QCoreApplication>
+#include <QHash>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct JobOptionsText {
+    Q_DECLARE_TR_FUNCTIONS(host::JobOptions)
+};
+
+/// Other ways of naming a paper, which could only contradict the exact one.
+bool namesPaperLoosely(const QByteArray &name)
+{
+    return name == "media" || name == "PageRegion";
+}
+
+/// What is said of the documents' format is said with each of them.
+bool namesFormat(const QByteArray &name)
+{
+    return name == "raw" || name == "document-format";
+}
+
+/// The options of a job while its layers are put over each other.
+class Layers {
+public:
+    /// A layer that the server applies by itself.
+    void setByServer(const QByteArray &name, const QByteArray &value, Origin origin)
+    {
+        JobOption &option = at(name);
+        option.value = value;
+        option.origin = origin;
+        option.isSent = false;
+    }
+    /// A layer that the server does not know; a sent option stays one, lest what lies below show through.
+    void set(const QByteArray &name, const QByteArray &value, Origin origin)
+    {
+        const bool isNew = !has(name);
+        JobOption &option = at(name);
+        const bool isRemembered = origin == Origin::UserDefault || origin == Origin::Panel;
+        option.isSent =
+            option.isSent || isNew || isRemembered || option.value != value || name == paperKeyword;
+        option.value = value;
+        option.origin = origin;
+    }
+    void send(const QByteArray &name) { at(name).isSent = true; }
+    std::vector<JobOption> take() && { return std::move(m_options); }
+    bool has(const QByteArray &name) const { return m_positions.contains(name); }
+
+private:
+    JobOption &at(const QByteArray &name)
+    {
+        const auto found = m_positions.constFind(name);
+        if (found != m_positions.constEnd())
+            return m_options[*found];
+        m_positions.insert(name, m_options.size());
+        return m_options.emplace_back(JobOption{name, {}, Origin::Ppd, false});
+    }
+
+    std::vector<JobOption> m_options;
+    /// By the option's name: a PPD may have thousands.
+    QHash<QByteArray, std::size_t> m_positions;
+};
+
+void addPpdDefaults(Layers &layers, const PpdFile &ppd)
+{
+    const PpdOptions options(ppd);
+    for (const PpdGroup &group : options.groups()) {
+        for (const QByteArray &keyword : group.keywords) {
+            if (!namesPaperLoosely(keyword))
+                layers.setByServer(keyword, options.defaultChoice(keyword), Origin::Ppd);
+        }
+    }
+}
+
+} // namespace
+
+QString originText(Origin origin)
+{
+    switch (origin) {
+    case Origin::Ppd:
+        return JobOptionsText::tr("printer default");
+    case Origin::Queue:
+        return JobOptionsText::tr("queue default");
+    case Origin::UserDefault:
+        return JobOptionsText::tr("your default (lpoptions)");
+    case Origin::Preset:
+        return JobOptionsText::tr("preset");
+    case Origin::Panel:
+        return JobOptionsText::tr("cut options");
+    case Origin::You:
+        return JobOptionsText::tr("set by you");
+    }
+    return {};
+}
+
+void setJobChoice(std::vector<JobChoice> &choices, const JobChoice &choice)
+{
+    const bool isPanels = choice.isPanels || choice.origin == Origin::Panel;
+    const auto known = std::ranges::find(choices, choice.name, &JobChoice::name);
+    if (known == choices.end()) {
+        choices.push_back({choice.name, choice.value, choice.origin, isPanels});
+        return;
+    }
+    known->isPanels = known->isPanels || isPanels;
+    if (known->value == choice.value)
+        return;
+    known->value = choice.value;
+    known->origin = choice.origin;
+}
+
+std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
+                                      const std::vector<JobChoice> &choices, const JobSettings &settings)
+{
+    Layers layers;
+    if (ppd)
+        addPpdDefaults(layers, *ppd);
+    for (const NamedValue &option : destination.queueOptions) {
+        if (!namesPaperLoosely(option.name))
+            layers.setByServer(option.name, option.value, Origin::Queue);
+    }
+    const bool hasPaper = layers.has(paperKeyword);
+    const auto ownPaper = hasPaper && ppd ? queuePaper(destination, *ppd) : std::nullopt;
+    if (ownPaper)
+        layers.setByServer(paperKeyword, *ownPaper, Origin::Queue);
+    for (const NamedValue &option : destination.userOptions) {
+        if (!namesFormat(option.name) && (!hasPaper || !namesPaperLoosely(option.name)))
+            layers.set(option.name, option.value, Origin::UserDefault);
+    }
+    for (const JobChoice &choice : choices) {
+        layers.set(choice.name, choice.value, choice.origin);
+        if (choice.isPanels)
+            layers.send(choice.name);
+    }
+    for (const NamedValue &setting : settingValues(settings)) {
+        // All pages come out by themselves.
+        const bool saysNothing = setting.value == "1-" && !layers.has(setting.name);
+        if (!saysNothing)
+            layers.set(setting.name, setting.value, Origin::You);
+    }
+    if (hasPaper)
+        layers.send(paperKeyword);
+    return std::move(layers).take();
+}
+
+std::optional<QByteArray> queuePaper(const Destination &destination, const PpdFile &ppd)
+{
+    for (const char *const name : {paperKeyword, "media"}) {
+        const QByteArray *const paper = findValue(destination.queueOptions, name);
+        if (paper && ppd.paper(*paper))
+            return *paper;
+    }
+    return std::nullopt;
+}
+
+void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
+{
+    ppd.markDefaults();
+    const auto markNamed = [&](const std::vector<NamedValue> &options) {
+        for (const NamedValue &option : options) {
+            const QString name = QString::fromUtf8(option.name);
+            if (ppd.hasOption(name))
+                ppd.mark(name, QString::fromUtf8(option.value));
+        }
+    };
+    markNamed(destination.queueOptions);
+    if (const std::optional<QByteArray> paper = queuePaper(destination, ppd))
+        ppd.mark(QString::fromLatin1(paperKeyword), QString::fromUtf8(*paper));
+    // Users may say "media" and "sides"; libcups finds the PPD's options for them. For the queue's own
+    // "media" it must not, where that is a name of IPP: the server has it from the PPD, and of two papers of
+    // one size it may be the other.
+    std::vector<std::pair<QByteArray, QByteArray>> options;
+    for (const NamedValue &option : destination.userOptions)
+        options.emplace_back(option.name, option.value);
+    ppd.markJobOptions(options);
+    markNamed(destination.userOptions);
+}
+
+} // namespace host

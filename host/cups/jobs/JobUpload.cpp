@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "JobUpload.h"
+
+#include "DocumentSource.h"
+#include "JobFate.h"
+#include "JobJournal.h"
+
+#include <host/base/OutOfMemory.h>
+#include <host/cups/queues/DiscoveredQueue.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QUuid>
+
+namespace host {
+
+namespace {
+
+struct JobUploadText {
+    Q_DECLARE_TR_FUNCTIONS(host::JobUpload)
+};
+
+/// One job on its way, over one connection.
+class Upload {
+public:
+    Upload(CupsConnection &connection, const JobTicket &ticket, const JobHold &hold, BackgroundTask &task)
+        : m_connection(connection)
+        , m_ticket(ticket)
+        , m_hold(hold)
+        , m_task(task)
+    {
+    }
+
+    const QByteArray &uuid() const { return m_uuid; }
+    /// The job as the journal keeps it.
+    JobRecord record() const
+    {
+        const CupsServer &server = m_connection.server();
+        return {.server = server.displayName(),
+                .encrypts = server.encryption == Encryption::Required,
+                .user = server.user,
+                .queue = m_ticket.destination.queue,
+                .title = sendableTitle(m_ticket.title),
+                .uuid = m_uuid};
+    }
+    /// Whether the last document was sent to its last byte and its answer is missing.
+    bool isDocumentUnanswered() const { return m_isDocumentUnanswered; }
+    bool lacksAnswer() const { return m_connection.lacksAnswer(); }
+
+    Result<int, CupsError> createJob()
+    {
+        IppPointer request = m_connection.newRequest(IPP_OP_CREATE_JOB, m_ticket.destination.queue);
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                     sendableTitle(m_ticket.title).toUtf8().constData());
+        // By this the job is found again when the answer is lost; names are not unique.
+        ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, "job-uuid", nullptr, m_uuid.constData());
+        encodeJobOptions(request.get(), m_hold.optionsForCreation(m_ticket));
+        const Result<IppPointer, CupsError> answer =
+            m_connection.exchangeToTheEnd(std::move(request), queueResource(m_ticket.destination.queue));
+        if (!answer)
+            return answer.error();
+        m_jobId = ippGetInteger(ippFindAttribute(answer.value().get(), "job-id", IPP_TAG_INTEGER), 0);
+        return m_jobId;
+    }
+
+    /// Nothing, or why the documents could not be sent.
+    std::optional<CupsError> sendDocuments(std::vector<DocumentSource> &sources,
+                                           const std::function<void(const UploadProgress &)> &progress)
+    {
+        UploadProgress now;
+        for (const DocumentSource &source : sources)
+            now.total = source.size() < 0 || now.total < 0 ? -1 : now.total + source.size();
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            now.document = static_cast<int>(i);
+            progress(now);
+            if (std::optional<CupsError> error = send(sources[i], i + 1 == sources.size(), now, progress))
+                return error;
+        }
+        return std::nullopt;
+    }
+
+    /// Releases the job when the server has all documents. Nothing, or why the job is still held.
+    std::optional<CupsError> release()
+    {
+        if (m_hold.isNeeded() && m_task.isCancelled())
+            return m_connection.noAnswer();
+        return m_hold.end(m_connection, m_ticket.destination.queue, m_jobId);
+    }
+
+private:
+    IppPointer documentRequest(const JobDocument &document, bool isLast) const
+    {
+        const QByteArray name = QFileInfo(document.shownName()).fileName().toUtf8();
+        const QByteArray format = document.format.isEmpty() ? CUPS_FORMAT_AUTO : document.format;
+        IppPointer request =
+            m_connection.newRequest(IPP_OP_SEND_DOCUMENT, m_ticket.destination.queue, m_jobId);
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                     name.constData());
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                     format.constData());
+        ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
+        return request;
+    }
+
+    std::optional<CupsError> send(DocumentSource &source, bool isLast, UploadProgress &now,
+                                  const std::function<void(const UploadProgress &)> &progress)
+    {
+        const UploadProgress before = now;
+        // One without a password, and three with one.
+        constexpr int mostAttempts = 4;
+        for (int attempt = 1;; ++attempt) {
+            now = before;
+            std::optional<CupsError> error = sendOnce(source, isLast, now, progress);
+            if (!error || !m_connection.lacksPasswordForDocument() || !source.rewind())
+                return error;
+            // The server has looked at the document's request only when it had the document.
+            if (std::optional<CupsError> refusal = m_connection.authenticateDocument())
+                return refusal;
+            if (attempt == mostAttempts)
+                return error;
+        }
+    }
+
+    std::optional<CupsError> sendOnce(DocumentSource &source, bool isLast, UploadProgress &now,
+                                      const std::function<void(const UploadProgress &)> &progress)
+    {
+        const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
+        if (m_task.isCancelled())
+            return m_connection.noAnswer();
+        if (std::optional<CupsError> error = m_connection.beginDocument(
+                documentRequest(document, isLast), queueResource(m_ticket.destination.queue)))
+            return error;
+        bool isWhole = false;
+        while (!m_task.isCancelled()) {
+            const Result<QByteArray, CupsError> piece = source.read(m_task);
+            if (!piece)
+                return piece.error();
+            isWhole = piece.value().isEmpty();
+            if (isWhole || !m_connection.writeDocument(piece.value()))
+                break;
+            now.sent += piece.value().size();
+            progress(now);
+        }
+        if (m_task.isCancelled())
+            return m_connection.noAnswer();
+        // A server that has read enough answers before the end, and says why; some close the connection
+        // then.
+        const Result<IppPointer, CupsError> answer =
+            isWhole ? m_connection.finishDocument() : m_connection.earlyAnswer();
+        m_isDocumentUnanswered = isWhole && isLast && m_connection.lacksAnswer() && !m_task.isCancelled();
+        if (!answer)
+            return answer.error();
+        return isWhole ? std::nullopt : std::optional(cutShort(document));
+    }
+
+    /// A server that is content with a part of a document would print that part.
+    CupsError cutShort(const JobDocument &document) const
+    {
+        return {CupsFailure::Refused, JobUploadText::tr("The print server \"%1\" did not take all of \"%2\".")
+                                          .arg(m_connection.server().displayName(), document.shownName())};
+    }
+
+    CupsConnection &m_connection;
+    const JobTicket &m_ticket;
+    const JobHold &m_hold;
+    BackgroundTask &m_task;
+    const QByteArray m_uuid = "urn:uuid:" + QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
+    int m_jobId = 0;
+    bool m_isDocumentUnanswered = false;
+};
+
+/// Sends the documents of a job that the server has created, and releases the job. Nothing, or why it is not
+/// printed, with the state of the job.
+std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
+                                int jobId, const std::function<void(const UploadProgress &)> &progress)
+{
+    if (const std::optional<CupsError> error = upload.sendDocuments(sources, progress))
+        return upload.isDocumentUnanswered() ? fate.ofUnansweredDocument(jobId, *error)
+                                             : fate.cancel(jobId, *error);
+    if (const std::optional<CupsError> error = upload.release())
+        return fate.ofFailedRelease(jobId, *error);
+    return std::nullopt;
+}
+
+/// Creates the job and sends it. Its number, or why it is not printed, with the state of the job.
+Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry &entry,
+                            std::vector<DocumentSource> &sources,
+                            const std::function<void(const UploadProgress &)> &progress)
+{
+    const Result<int, CupsError> job = upload.createJob();
+    if (!job)
+        return upload.lacksAnswer() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
+    entry.setJobId(job.value());
+    const std::optional<CupsError> error = finish(upload, fate, sources, job.value(), progress);
+    return error ? Result<int, CupsError>(*error) : job;
+}
+
+} // namespace
+
+std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
+                                   BackgroundTask &task)
+{
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return connection.error();
+    IppPointer request = connection.value().newRequest(IPP_OP_CANCEL_JOB, queue, jobId);
+    const Result<IppPointer, CupsError> answer = connection.value().exchange(std::move(request), "/jobs");
+    return answer ? std::nullopt : std::optional(answer.error());
+}
+
+Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
+                                 const std::function<void(const UploadProgress &)> &progress)
+{
+    std::vector<DocumentSource> sources;
+    for (const JobDocument &document : ticket.documents) {
+        Result<DocumentSource, CupsError> source = DocumentSource::open(document.path, document.stamp);
+        if (!source)
+            return source.error();
+        sources.push_back(std::move(source).value());
+    }
+    if (sources.empty())
+        return CupsError{CupsFailure::BadDocument, JobUploadText::tr("There is no document to print.")};
+
+    if (const JobOption *const option = findUnsendable(ticket.options))
+        return CupsError{
+            CupsFailure::Refused,
+            JobUploadText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
+                .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))};
+
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return connection.error();
+    if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination, task))
+        return *error;
+    if (task.isCancelled())
+        return connection.value().noAnswer();
+    const Result<JobHold, CupsError> hold = JobHold::forTicket(connection.value(), ticket);
+    if (!hold)
+        return hold.error();
+    if (task.isCancelled())
+        return connection.value().noAnswer();
+    Upload upload(connection.value(), ticket, hold.value(), task);
+    JobJournalEntry entry(upload.record());
+    OutOfMemory::setJobProgress(JobProgress::Underway);
+    Result<int, CupsError> job =
+        send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
+    // The next program reports again what may be left on the server.
+    if (job || job.error().kind != CupsFailure::OutcomeUnknown) {
+        OutOfMemory::setJobProgress(job ? JobProgress::Printed : JobProgress::Nothing);
+        entry.remove();
+    }
+    return job;
+}
+
+} // namespace host

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PpdLoader.h"
+
+#include "DiscoveredQueue.h"
+#include "QueueCache.h"
+
+#include <host/cups/server/CupsConnection.h>
+#include <platform/TemporaryFile.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace host {
+
+namespace {
+
+/// Reading so much takes some tens of milliseconds. Hardly any printer's PPD is larger.
+constexpr qint64 mostAtOnce = qint64{512} * 1024;
+
+bool isLarge(const QString &path)
+{
+    return QFileInfo(path).size() > mostAtOnce;
+}
+
+/// The PPD; nothing when it cannot be used.
+std::optional<PpdFile> openQuietly(const QString &path)
+{
+    Result<PpdFile, PpdError> ppd = PpdFile::open(path);
+    return ppd ? std::optional(std::move(ppd).value()) : std::nullopt;
+}
+
+} // namespace
+
+/// What came of asking: exactly one of a PPD, an error, "there is none", or nothing new.
+struct PpdLoader::Outcome {
+    std::shared_ptr<PpdFile> ppd;
+    std::optional<CupsError> error;
+    bool isAbsent = false;
+    /// The PPD's.
+    QByteArray stamp = {};
+};
+
+namespace {
+
+/// The PPD from its bytes, by way of a file, which libcups needs. The cache's is as good as any, unless the
+/// cache cannot be written or another program has put another PPD there.
+Result<PpdFile, PpdError> openContent(const QByteArray &content, const std::optional<QString> &cachePath)
+{
+    if (cachePath) {
+        QFile file(*cachePath);
+        if (file.open(QIODevice::ReadOnly) && file.readAll() == content)
+            return PpdFile::open(*cachePath);
+    }
+    platform::TemporaryFile file(QDir::tempPath());
+    if (!file.create() || file.write(content) != content.size() || !file.flush())
+        return PpdError{PpdFailure::Unreadable, file.errorString()};
+    return PpdFile::open(file.fileName());
+}
+
+} // namespace
+
+PpdLoader::PpdLoader(CupsServer server, QObject *parent)
+    : QObject(parent)
+    , m_server(std::move(server))
+{
+}
+
+std::optional<PpdFile> PpdLoader::cached(const QString &queue)
+{
+    const QueueCache cache(m_server);
+    m_given.erase(queue);
+    const std::optional<QString> path = cache.ppdPath(queue);
+    if (!path || isLarge(*path))
+        return std::nullopt;
+    // First the stamp: if the file is replaced in between, the server gives the new one once more.
+    const QByteArray stamp = cache.ppdStamp(queue);
+    std::optional<PpdFile> ppd = openQuietly(*path);
+    if (ppd)
+        m_given[queue] = stamp;
+    return ppd;
+}
+
+void PpdLoader::load(const Destination &destination, LargeCached largeCached)
+{
+    if (m_task)
+        m_task->cancel();
+    const auto known = m_given.find(destination.queue);
+    const QByteArray given = known == m_given.end() ? QByteArray() : known->second;
+    const int turn = ++m_turn;
+    m_task = m_background.start(
+        [this, server = m_server, destination, given, turn, largeCached](BackgroundTask &task) {
+            std::optional<QByteArray> remembered;
+            if (largeCached == LargeCached::Wanted)
+                remembered = bringLarge(server, destination.queue, turn, task);
+            const Outcome outcome = ask(server, destination, remembered.value_or(given), task);
+            if (!task.isCancelled()) // "this" is only used on the main thread, while it is there
+                task.deliver([this, turn, queue = destination.queue, outcome] {
+                    if (turn == m_turn)
+                        report(queue, outcome);
+                });
+        });
+}
+
+std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const QString &queue, int turn,
+                                                BackgroundTask &task)
+{
+    const QueueCache cache(server);
+    const std::optional<QString> path = cache.ppdPath(queue);
+    if (!path || !isLarge(*path))
+        return std::nullopt;
+    const QByteArray stamp = cache.ppdStamp(queue);
+    std::optional<PpdFile> ppd = openQuietly(*path);
+    if (!ppd)
+        return std::nullopt;
+    // "this" is only used on the main thread, while it is there
+    task.deliver([this, turn, queue, stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
+        if (turn != m_turn)
+            return;
+        m_given[queue] = stamp;
+        Q_EMIT remembered(queue, known);
+    });
+    return stamp;
+}
+
+PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &destination,
+                                  const QByteArray &given, BackgroundTask &task)
+{
+    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
+    if (!connection)
+        return {nullptr, connection.error(), false};
+    if (const std::optional<CupsError> error = ensureQueue(connection.value(), destination, task))
+        return {nullptr, error, false};
+
+    const QueueCache cache(server);
+    const QString &queue = destination.queue;
+    const auto file = connection.value().fetch(queueResource(queue) + ".ppd", given, PpdFile::largestText);
+    if (!file && file.error().kind == CupsFailure::NotFound) {
+        cache.removePpd(queue);
+        return {nullptr, std::nullopt, true};
+    }
+    if (!file)
+        return {nullptr, file.error(), false};
+    if (!file.value())
+        return {};
+    const QByteArray &content = file.value()->content;
+    cache.storePpd(queue, content, file.value()->modified);
+    Result<PpdFile, PpdError> ppd = openContent(content, cache.ppdPath(queue));
+    if (!ppd) {
+        // Not kept: next time the server may have a better one that looks as old.
+        cache.removePpd(queue);
+        return {nullptr, CupsError{CupsFailure::Refused, ppd.error().message}, false};
+    }
+    return {std::make_shared<PpdFile>(std::move(ppd).value()), std::nullopt, false,
+            QueueCache::stamp(file.value()->modified, content.size())};
+}
+
+void PpdLoader::report(const QString &queue, const Outcome &outcome)
+{
+    if (outcome.ppd)
+        m_given[queue] = outcome.stamp;
+    else if (outcome.isAbsent)
+        m_given.erase(queue);
+    if (outcome.ppd)
+        Q_EMIT loaded(queue, outcome.ppd);
+    else if (outcome.error)
+        Q_EMIT failed(queue, *outcome.error);
+    else if (outcome.isAbsent)
+        Q_EMIT absent(queue);
+    else
+        Q_EMIT unchanged(queue);
+}
+
+} // namespace host

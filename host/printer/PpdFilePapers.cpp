@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PpdFile.h"
+
+#include "PpdNumber.h"
+#include "PpdOptions.h"
+
+#include <host/base/Units.h>
+
+#include <QSet>
+
+namespace host {
+
+std::optional<PpdPaper> PpdFile::fixedPaper(const QByteArray &name, const QString &text) const
+{
+    const std::optional<QSizeF> size = m_paperSizes.size(name);
+    if (!size || name == PpdOptions::freeChoice)
+        return std::nullopt;
+    return PpdPaper{name, text.isEmpty() ? QString::fromUtf8(name) : text, *size, m_paperSizes.margins(name)};
+}
+
+std::vector<PpdPaper> PpdFile::papers() const
+{
+    const ppd_option_t *const option = ppdFindOption(m_ppd.get(), "PageSize");
+    std::vector<PpdPaper> papers;
+    QSet<QByteArray> names;
+    for (int i = 0; option && i < option->num_choices; ++i) {
+        const ppd_choice_t &choice = option->choices[i];
+        std::optional<PpdPaper> paper = fixedPaper(choice.choice, QString::fromUtf8(choice.text));
+        if (!paper || names.contains(paper->name))
+            continue;
+        names.insert(paper->name);
+        papers.push_back(*std::move(paper));
+    }
+    return papers;
+}
+
+std::optional<PpdPaper> PpdFile::paper(const QByteArray &name) const
+{
+    const QString pageSize = QStringLiteral("PageSize");
+    const QString choice = QString::fromUtf8(name);
+    if (choiceIndex(pageSize, choice)) {
+        if (std::optional<PpdPaper> fixed = fixedPaper(name, choiceText(pageSize, choice)))
+            return fixed;
+    }
+    return customPaper(name);
+}
+
+std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
+{
+    const std::optional<PpdCustomLimits> limits = customLimits();
+    const std::optional<QSizeF> named = customPaperSize(name);
+    if (!limits || !named || !PpdPaperSizes::isUsable(*named))
+        return std::nullopt;
+    const ppd_size_t *const record = ppdPageSize(m_ppd.get(), name.constData());
+    if (!record)
+        return std::nullopt;
+    const QSizeF size(double{record->width}, double{record->length});
+    // A free size given in millimetres may miss a limit by its rounding to floats.
+    constexpr double tolerance = 0.01;
+    const bool fits = size.width() >= limits->smallest.width() - tolerance &&
+                      size.height() >= limits->smallest.height() - tolerance &&
+                      size.width() <= limits->largest.width() + tolerance &&
+                      size.height() <= limits->largest.height() + tolerance;
+    if (!fits)
+        return std::nullopt;
+    PpdPaper paper{name, QString::fromUtf8(name), size, std::nullopt};
+    if (record->right > record->left && record->top > record->bottom) {
+        paper.margins = QMarginsF(double{record->left}, size.height() - double{record->top},
+                                  size.width() - double{record->right}, double{record->bottom});
+    }
+    return paper;
+}
+
+std::optional<QSizeF> PpdFile::unusableSize(const QByteArray &name) const
+{
+    if (choiceIndex(QString::fromLatin1(paperKeyword), QString::fromUtf8(name)))
+        return m_paperSizes.unusableSize(name);
+    const std::optional<QSizeF> custom = customLimits() ? customPaperSize(name) : std::nullopt;
+    return custom && !PpdPaperSizes::isUsable(*custom) ? custom : std::nullopt;
+}
+
+std::optional<PpdPaper> PpdFile::markedPaper() const
+{
+    std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
+    // Of the two keywords for one thing, libcups keeps the mark that came last.
+    if (!name)
+        name = markedChoice(QStringLiteral("PageRegion"));
+    if (name != QLatin1String(PpdOptions::freeChoice))
+        return name ? paper(name->toUtf8()) : std::nullopt;
+    const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
+    if (!size)
+        return std::nullopt;
+    return paper(customPaperName(QSizeF(double{size->width}, double{size->length})));
+}
+
+std::optional<PpdCustomLimits> PpdFile::customLimits() const
+{
+    if (!m_ppd->variable_sizes)
+        return std::nullopt;
+    // Many PPDs allow any size from 0 on; a paper of less than a point is none.
+    constexpr double min = 1.0;
+    constexpr double max = PpdPaperSizes::maxLongSide * 1000.0 * pointsPerMillimetre;
+    const PpdCustomLimits limits{
+        {qMax(min, double{m_ppd->custom_min[0]}), qMax(min, double{m_ppd->custom_min[1]})},
+        {qMin(max, double{m_ppd->custom_max[0]}), qMin(max, double{m_ppd->custom_max[1]})}};
+    // Comparisons with NaN are false.
+    const bool hasSizes = limits.smallest.width() <= limits.largest.width() &&
+                          limits.smallest.height() <= limits.largest.height();
+    return hasSizes ? std::optional(limits) : std::nullopt;
+}
+
+} // namespace host

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PpdNumber.h"
+
+#include <host/base/Units.h>
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+namespace host {
+
+namespace {
+
+/// Points in one of each unit that the server's filters know.
+constexpr std::pair<const char *, double> units[] = {
+    {"", 1.0},           {"pt", 1.0},         {"in", 72.0},         {"ft", 864.0},
+    {"cm", 72.0 / 2.54}, {"mm", 72.0 / 25.4}, {"m", 72.0 / 0.0254},
+};
+
+/// Digits, with a point or a sign where these belong, and nothing else: no blank, exponent or infinity.
+std::optional<double> decimalNumber(const QByteArray &text)
+{
+    double number = 0.0;
+    const auto [end, error] = std::from_chars(text.begin(), text.end(), number, std::chars_format::fixed);
+    const bool isPlain = std::string_view(text.constData(), static_cast<std::size_t>(text.size()))
+                             .find_first_not_of("-.0123456789") == std::string_view::npos;
+    if (error != std::errc() || end != text.end() || !isPlain)
+        return std::nullopt;
+    return number;
+}
+
+/// Where the unit at the end of a length begins.
+qsizetype unitStart(const QByteArray &length)
+{
+    qsizetype start = length.size();
+    while (start > 0 && length[start - 1] >= 'a' && length[start - 1] <= 'z')
+        --start;
+    return start;
+}
+
+} // namespace
+
+std::optional<double> lengthInPoints(const QByteArray &length)
+{
+    const qsizetype start = unitStart(length);
+    const QByteArray unit = length.mid(start);
+    const auto *const found =
+        std::ranges::find_if(units, [&](const auto &each) { return unit == each.first; });
+    const std::optional<double> number = decimalNumber(length.left(start));
+    if (!number || found == std::end(units))
+        return std::nullopt;
+    return *number * found->second;
+}
+
+std::optional<QSizeF> customPaperSize(const QByteArray &name)
+{
+    constexpr QByteArrayView prefix("Custom.");
+    const qsizetype cross = name.indexOf('x');
+    if (!name.startsWith(prefix) || cross < 0)
+        return std::nullopt;
+    const QByteArray number = name.mid(prefix.size(), cross - prefix.size());
+    const QByteArray unit = name.mid(unitStart(name));
+    const std::optional<double> width = decimalNumber(number) ? lengthInPoints(number + unit) : std::nullopt;
+    const std::optional<double> length = lengthInPoints(name.mid(cross + 1));
+    if (!width || !length)
+        return std::nullopt;
+    return QSizeF(*width, *length);
+}
+
+QByteArray ppdNumber(double number)
+{
+    QByteArray text = QByteArray::number(number, 'f', 4);
+    while (text.endsWith('0'))
+        text.chop(1);
+    if (text.endsWith('.'))
+        text.chop(1);
+    return text == "-0" ? QByteArray("0") : text;
+}
+
+QByteArray customPaperName(const QSizeF &points)
+{
+    return "Custom." + ppdNumber(points.width() * millimetresPerPoint) + 'x' +
+           ppdNumber(points.height() * millimetresPerPoint) + "mm";
+}
+
+} // namespace host

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ImageVariant.h"
+
+#include <platform/PngFile.h>
+
+#include <QFile>
+
+namespace platform {
+
+ImageVariant::ImageVariant(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    m_bytes = file.readAll();
+    // Reading leaves room to grow, for each of a hundred files.
+    m_bytes.squeeze();
+    if (const std::optional<QSize> size = sizeOfIntactPng(m_bytes)) {
+        m_size = *size;
+        return;
+    }
+    // Other kinds of files have no checksums: only decoding shows that they are whole.
+    if (!path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive))
+        m_pixmap.loadFromData(m_bytes);
+    m_bytes.clear();
+    m_size = m_pixmap.size();
+}
+
+const QPixmap &ImageVariant::pixmap() const
+{
+    if (!m_bytes.isEmpty())
+        m_pixmap.loadFromData(std::exchange(m_bytes, QByteArray()));
+    return m_pixmap;
+}
+
+} // namespace platform

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandChecks.h"
+
+#include <dialog/job/QueueSender.h>
+
+#include <QCoreApplication>
+
+namespace dialog {
+
+namespace {
+
+struct CommandChecksText {
+    Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
+};
+
+/// The papers' names for a message, and "…" in place of most of them when there are many.
+QString paperNames(const host::PpdFile &ppd)
+{
+    constexpr int max = 12;
+    QStringList names;
+    for (const host::PpdPaper &paper : ppd.papers())
+        names.append(QString::fromUtf8(paper.name));
+    if (names.size() > max)
+        names = names.first(max) << QStringLiteral("…");
+    return names.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+CommandChecks::CommandChecks(const CommandLine &command, const Console &console)
+    : m_command(command)
+    , m_console(console)
+{
+}
+
+QString CommandChecks::errorText(const host::ChoiceError &error, const host::PrinterSetup &setup) const
+{
+    const bool isPaperOfFile =
+        m_command.ppd && m_command.paper && error.kind == host::ChoiceFailure::UnknownPaper;
+    if (!isPaperOfFile)
+        return error.message;
+    return QCoreApplication::translate("dialog::PrintRun",
+                                       "The PPD file \"%1\" has no paper \"%2\"; it has: %3")
+        .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), paperNames(setup.ppd()));
+}
+
+bool CommandChecks::accepts(const host::PrinterSetup &setup) const
+{
+    for (const host::ChoiceError &error : setup.refusals())
+        m_console.complain(errorText(error, setup));
+    if (!setup.refusals().empty() && !m_command.force)
+        return false;
+    const auto problem = setup.panelProblem();
+    if (problem)
+        m_console.complain(problem->message);
+    return !problem || problem->kind != host::PanelFailure::BrokenBundle;
+}
+
+void CommandChecks::reportReplaced(const host::PrinterSetup &setup) const
+{
+    // By the names that the command line uses.
+    for (const auto &[keyword, choice, saved] : setup.replaced())
+        m_console.complain(host::PrinterSetup::replacedSentence(keyword, choice, saved));
+}
+
+bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const
+{
+    if (ticket.panel.error) {
+        m_console.complain(*ticket.panel.error);
+        return false;
+    }
+    reportReplaced(setup);
+    for (const host::Conflict &conflict : ticket.conflicts)
+        m_console.complain(conflict.sentence());
+    if (ticket.remedy)
+        m_console.complain(CommandChecksText::tr("This would help: %1").arg(ticket.remedy->sentence()));
+    // A summary of conflicting settings reports the conflicts, as the dialog does.
+    return ticket.conflicts.empty() || m_command.force || m_command.task == Task::Summary;
+}
+
+void CommandChecks::printRequestId(const QueueSender &sender) const
+{
+    if (!m_command.quiet)
+        m_console.tellRequestId(sender.queue(), sender.jobId(),
+                                qMax(qsizetype(1), m_command.documents.size()));
+}
+
+ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &setup)
+{
+    return status == ExitStatus::Printed && setup.panelProblem() ? ExitStatus::PrintedWithoutPanel : status;
+}
+
+} // namespace dialog

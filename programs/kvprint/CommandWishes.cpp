@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandWishes.h"
+
+#include <host/cups/jobs/MailRecipient.h>
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace dialog {
+
+host::CupsServer cupsServer(const CommandLine &command)
+{
+    host::CupsServer server;
+    server.address = command.server;
+    server.user = command.user;
+    if (command.encrypt)
+        server.encryption = host::Encryption::Required;
+    return server;
+}
+
+host::SetupWishes setupWishes(const CommandLine &command)
+{
+    host::SetupWishes wishes{command.options, command.paper, QLocale().name(), command.force};
+    constexpr const char *recipient = "notify-recipient-uri";
+    const bool isNamed = std::ranges::find(wishes.choices, QByteArray(recipient), &host::JobChoice::name) !=
+                         wishes.choices.end();
+    if (command.mail && !isNamed)
+        wishes.choices.push_back({recipient, host::mailRecipient(command.user)});
+    return wishes;
+}
+
+host::PanelSource panelSource(const CommandLine &command)
+{
+    return {command.bundle, QLocale().uiLanguages()};
+}
+
+} // namespace dialog

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/cups/queues/Destination.h>
+
+namespace dialog {
+
+/// The destinations for people: each one's name at the beginning of a line, with what is known of it on
+/// indented lines below, so that the names alone can be taken out. Empty for none.
+QString destinationsInPlainText(const std::vector<host::Destination> &destinations);
+
+/// The destinations for programs, a JSON array (UTF-8, with a line end) of one object each:
+///
+///   name           "queue" or "queue/instance", as -d takes it
+///   queue          the queue alone
+///   instance       the name of the set of options; null for the queue itself
+///   description, location, makeAndModel, uri    texts, empty when the server tells nothing
+///   class          whether it is a class; members: its queues
+///   default        whether jobs go there that name no destination
+///   accepting      whether it takes jobs
+///   state          "ready", "printing", "paused" or "unknown"
+///   reasons        IPP's keywords for the state
+///   message        the server's own words
+QByteArray destinationsAsJson(const std::vector<host::Destination> &destinations);
+
+} // namespace dialog

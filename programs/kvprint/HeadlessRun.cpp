@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "HeadlessRun.h"
+
+#include "CommandChecks.h"
+#include "CommandWishes.h"
+
+#include <dialog/job/QueueSender.h>
+#include <dialog/window/PrintDialog.h>
+#include <dialog/window/Screenshot.h>
+#include <host/cups/queues/LpOptions.h>
+#include <host/setup/JobReport.h>
+#include <host/setup/JobSummary.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QTimer>
+
+namespace dialog {
+
+namespace {
+
+struct HeadlessRunText {
+    Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
+};
+
+/// A printer on the network that has no queue yet announces itself within this time.
+constexpr std::chrono::milliseconds discoveryTimeout{1500};
+
+bool isPpdKnown(const host::QueueSession &session)
+{
+    return session.ppdKnowledge() != host::PpdKnowledge::Asked &&
+           session.ppdKnowledge() != host::PpdKnowledge::Cached;
+}
+
+/// Runs the event loop until the condition holds or a signal comes, or until the timeout; answers
+/// whether it holds.
+bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::function<bool()> &holds,
+               std::optional<std::chrono::milliseconds> timeout = std::nullopt)
+{
+    QEventLoop loop;
+    const auto look = [&] {
+        if (holds())
+            loop.quit();
+    };
+    QObject::connect(&session, &host::QueueSession::settled, &loop, look);
+    QObject::connect(&session, &host::QueueSession::chosenChanged, &loop, look);
+    QObject::connect(&session, &host::QueueSession::ppdChanged, &loop, look);
+    QObject::connect(&watch, &SignalWatch::caught, &loop, &QEventLoop::quit);
+    if (timeout)
+        QTimer::singleShot(*timeout, &loop, &QEventLoop::quit);
+    if (!holds() && !watch.signal())
+        loop.exec();
+    return holds();
+}
+
+} // namespace
+
+HeadlessRun::HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
+                         std::shared_ptr<const host::LabelDocument> document)
+    : m_command(command)
+    , m_console(console)
+    , m_server(std::move(server))
+    , m_document(std::move(document))
+{
+}
+
+host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper)
+{
+    std::optional<host::CupsError> failure;
+    QObject::connect(&session, &host::QueueSession::failed, &keeper,
+                     [&](const host::CupsError &error) { failure = error; });
+    session.start(host::Discovery::No);
+    waitUntil(session, m_signals,
+              [&] { return session.isSettled() && (!session.chosen() || isPpdKnown(session)); });
+    const bool mayBeDiscovered = !session.chosen() && failure && failure->kind == host::CupsFailure::NotFound;
+    if (mayBeDiscovered) {
+        session.start(host::Discovery::Yes);
+        const auto isThere = [&] { return session.chosen().has_value(); };
+        if (waitUntil(session, m_signals, isThere, discoveryTimeout)) {
+            failure.reset();
+            // The server asks the printer what it can do before there is a PPD.
+            waitUntil(session, m_signals, [&] { return isPpdKnown(session); });
+        }
+    }
+    if (m_signals.signal())
+        return nullptr;
+    if (!failure && !session.chosen())
+        failure =
+            host::CupsError{host::CupsFailure::NotFound,
+                            HeadlessRunText::tr("The print server \"%1\" has no destination to print on")
+                                .arg(m_server.displayName())};
+    // The dialog shows any other queue then; without it, nobody would see where the labels go.
+    const bool isAnyQueue = !m_command.destination && !host::LpOptions::read().defaultName() &&
+                            !session.destinations().defaultDestination();
+    if (!failure && isAnyQueue)
+        failure = host::CupsError{
+            host::CupsFailure::NotFound,
+            HeadlessRunText::tr("There is no default destination on the print server \"%1\"; name one "
+                                "with \"-d\"")
+                .arg(m_server.displayName())};
+    if (failure)
+        m_console.complain(failure->message);
+    // A PPD that cannot be used says nothing of what would come out.
+    const bool mayGoOn = !failure || (m_command.force && failure->kind == host::CupsFailure::Refused);
+    return mayGoOn ? keeper.setup() : nullptr;
+}
+
+bool HeadlessRun::canPrintDocument() const
+{
+    const auto pages = host::choosePages(m_command.settings, {}, m_document->pageCounts());
+    if (!pages)
+        m_console.complain(pages.error().message);
+    const auto error = pages ? m_document->checkForPrinting() : std::nullopt;
+    if (error)
+        m_console.complain(error->message);
+    return pages && !error;
+}
+
+std::optional<host::JobDraft> HeadlessRun::makeDraft(const host::PrinterSetup &setup) const
+{
+    auto pages = host::choosePages(m_command.settings, defaultPageSettings(setup.destination()),
+                                   m_document->pageCounts());
+    if (!pages) {
+        m_console.complain(pages.error().message);
+        return std::nullopt;
+    }
+    return host::JobDraft{m_command.settings, m_command.title.value_or(host::defaultTitle(*m_document)),
+                          std::move(pages).value()};
+}
+
+bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
+{
+    if (!m_command.screenshot)
+        return true;
+    QueueSender sender(m_server);
+    PrintDialog dialog(m_document, keeper, sender, {m_command.settings, m_command.title, {}});
+    dialog.show();
+    QCoreApplication::processEvents();
+    const std::optional<host::OutputError> error = saveScreenshot(dialog, *m_command.screenshot);
+    if (error)
+        m_console.complain(error->message);
+    return !error;
+}
+
+ExitStatus HeadlessRun::run()
+{
+    // What cannot be printed anywhere needs no server to say so.
+    if (!canPrintDocument())
+        return ExitStatus::Failed;
+    host::QueueSession session(m_server, m_command.destination);
+    host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
+    host::PrinterSetup *const setup = waitForSetup(session, keeper);
+    // From here on the printer stays as it was found, whatever the server tells meanwhile.
+    QObject::disconnect(&session, nullptr, &keeper, nullptr);
+    if (const std::optional<int> signal = m_signals.signal())
+        return endedBy(*signal);
+    const CommandChecks checks(m_command, m_console);
+    if (!setup || !checks.accepts(*setup) || !takeScreenshot(keeper))
+        return ExitStatus::Failed;
+    const std::optional<host::JobDraft> draft = makeDraft(*setup);
+    if (!draft)
+        return ExitStatus::Failed;
+    const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
+    return checks.accepts(ticket, *setup) ? CommandChecks::statusOf(finish(*setup, ticket), *setup)
+                                          : ExitStatus::Failed;
+}
+
+ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Ticket &ticket)
+{
+    const auto print = [&](const auto &json, const QString &text) {
+        m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(json).toJson()) : text);
+        return ExitStatus::Printed;
+    };
+    if (m_command.task == Task::DryRun)
+        return print(host::ticketJson(m_server, ticket), host::ticketInPlainText(m_server, ticket));
+    if (m_command.task == Task::Summary) {
+        const host::LabelRenderer renderer(*m_document, host::shownPaper(&setup, *m_document));
+        std::optional<host::CutPlan> plan;
+        if (ticket.paper)
+            plan = host::makePlan(ticket, *m_document, renderer);
+        const auto summary = host::summarize(ticket, setup, plan ? &*plan : nullptr);
+        return print(host::summaryJson(summary), host::summaryInPlainText(summary));
+    }
+    return send(ticket);
+}
+
+ExitStatus HeadlessRun::endedBy(int signal) const
+{
+    m_console.complain(HeadlessRunText::tr("Stopped by a signal; nothing was printed."));
+    return statusOfSignal(signal);
+}
+
+ExitStatus HeadlessRun::send(const host::Ticket &ticket)
+{
+    QueueSender sender(m_server);
+    QEventLoop loop;
+    std::optional<QString> problem;
+    QObject::connect(&sender, &JobSender::sent, &loop, &QEventLoop::quit);
+    QObject::connect(&sender, &JobSender::failed, &loop, [&](const QString &text) {
+        problem = text;
+        loop.quit();
+    });
+    QObject::connect(&m_signals, &SignalWatch::caught, &sender, &JobSender::cancel);
+    if (const std::optional<int> signal = m_signals.signal())
+        return endedBy(*signal);
+    sender.send({ticket, *m_document, {}});
+    loop.exec();
+    const std::optional<int> signal = m_signals.signal();
+    // Nothing is said of what was given up on request, by the signal.
+    if (problem && signal && problem->isEmpty())
+        return endedBy(*signal);
+    if (problem) {
+        m_console.complain(*problem);
+        return signal ? statusOfSignal(*signal) : ExitStatus::Failed;
+    }
+    CommandChecks(m_command, m_console).printRequestId(sender);
+    return ExitStatus::Printed;
+}
+
+} // namespace dialog

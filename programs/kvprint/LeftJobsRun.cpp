@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LeftJobsRun.h"
+
+#include <dialog/job/BackgroundOutcome.h>
+
+#include <QCoreApplication>
+
+namespace dialog {
+
+namespace {
+
+struct LeftJobsRunText {
+    Q_DECLARE_TR_FUNCTIONS(dialog::LeftJobsRun)
+};
+
+} // namespace
+
+LeftJobsRun::LeftJobsRun(const CommandLine &command, const Console &console)
+    : m_command(command)
+    , m_console(console)
+{
+}
+
+host::JobJournal::Left LeftJobsRun::takeLeft() const
+{
+    host::JobJournal::Left left = host::JobJournal().left();
+    for (const QString &damage : left.damages)
+        m_console.complain(damage);
+    return left;
+}
+
+void LeftJobsRun::tell() const
+{
+    for (const host::JobRecord &job : takeLeft().jobs) {
+        m_console.complain(host::leftJobSentence(job));
+        m_console.complain(LeftJobsRunText::tr("\"kvprint --cancel-left %1\" cancels it, \"kvprint "
+                                               "--release-left %1\" prints what the server has of it.")
+                               .arg(job.name()));
+    }
+}
+
+std::optional<host::JobRecord> LeftJobsRun::meant() const
+{
+    QStringList all;
+    QStringList several;
+    std::optional<host::JobRecord> found;
+    for (const host::JobRecord &job : takeLeft().jobs) {
+        all.append(job.name());
+        if (m_command.leftJob != job.name() && m_command.leftJob != job.identifier())
+            continue;
+        several.append(QStringLiteral("%1 (%2)").arg(job.identifier(), job.server));
+        found = job;
+    }
+    if (several.size() == 1)
+        return found;
+    const QString separator = QStringLiteral(", ");
+    if (several.size() > 1)
+        m_console.complain(
+            LeftJobsRunText::tr("Jobs \"%1\" are left on several print servers; name one of these: %2")
+                .arg(m_command.leftJob, several.join(separator)));
+    else if (all.isEmpty())
+        m_console.complain(
+            LeftJobsRunText::tr("There is no job \"%1\" that was left by a program that was stopped; "
+                                "none is left")
+                .arg(m_command.leftJob));
+    else
+        m_console.complain(
+            LeftJobsRunText::tr("There is no job \"%1\" that was left by a program that was stopped; "
+                                "these are left: %2")
+                .arg(m_command.leftJob, all.join(separator)));
+    return std::nullopt;
+}
+
+ExitStatus LeftJobsRun::settle(const host::CupsServer &server) const
+{
+    const std::optional<host::JobRecord> job = meant();
+    if (!job)
+        return ExitStatus::Failed;
+    const host::LeftJobAction action =
+        m_command.task == Task::ReleaseLeft ? host::LeftJobAction::Release : host::LeftJobAction::Cancel;
+    const auto outcome = outcomeOf([server, job = *job, action](host::BackgroundTask &task) {
+        return host::settleLeftJob(server, job, action, task);
+    });
+    if (!outcome) {
+        m_console.complain(outcome.error().message);
+        return ExitStatus::Failed;
+    }
+    m_console.out(outcome.value() + u'\n');
+    return ExitStatus::Printed;
+}
+
+} // namespace dialog

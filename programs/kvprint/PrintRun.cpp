@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrintRun.h"
+
+#include "CommandChecks.h"
+#include "CommandWishes.h"
+#include "HeadlessRun.h"
+#include "LeftJobsRun.h"
+#include "ServerRun.h"
+#include "SignalWatch.h"
+#include "TerminalPassword.h"
+#include "TerminalTrust.h"
+
+#include <dialog/job/JobWindow.h>
+#include <dialog/job/PasswordDialog.h>
+#include <dialog/job/QueueSender.h>
+#include <dialog/job/TrustDialog.h>
+#include <dialog/job/VirtualSender.h>
+#include <dialog/window/Screenshot.h>
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <QTimer>
+#include <QWindow>
+
+namespace dialog {
+
+namespace {
+
+struct PrintRunText {
+    Q_DECLARE_TR_FUNCTIONS(dialog::PrintRun)
+};
+
+/// The run has no window.
+void askOnTerminalFor(host::CupsServer &server)
+{
+    server.askPassword = askOnTerminal();
+    server.askTrust = askTrustOnTerminal();
+}
+
+/// Lets the window appear before anything else is begun, which would take processors and memory from it.
+void waitForPainting(const QWidget &window)
+{
+    // Some desktops show no window before it is wanted, on another workspace for instance.
+    constexpr std::chrono::milliseconds longest{200};
+    bool isLate = false;
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [&] { isLate = true; });
+    timer.start(longest);
+    while (!isLate && window.isVisible() && !window.windowHandle()->isExposed())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+} // namespace
+
+PrintRun::PrintRun(CommandLine command, Console console)
+    : m_command(std::move(command))
+    , m_console(std::move(console))
+{
+}
+
+std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
+{
+    auto document = host::LabelDocument::open(m_command.documents.isEmpty() ? QStringList{QStringLiteral("-")}
+                                                                            : m_command.documents);
+    if (document)
+        return std::move(document).value();
+    m_console.complain(document.error().message);
+    return nullptr;
+}
+
+DialogWishes PrintRun::dialogWishes() const
+{
+    return {m_command.settings, m_command.title, {}};
+}
+
+std::unique_ptr<host::PrinterSetup> PrintRun::openPrinter()
+{
+    auto ppd = host::PpdFile::open(*m_command.ppd);
+    if (!ppd) {
+        m_console.complain(ppd.error().message);
+        return nullptr;
+    }
+    auto setup = std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(),
+                                                      setupWishes(m_command), panelSource(m_command));
+    if (!CommandChecks(m_command, m_console).accepts(*setup))
+        return nullptr;
+    if (!setup->paper()) {
+        m_console.complain(
+            PrintRunText::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
+        return nullptr;
+    }
+    return setup;
+}
+
+ExitStatus PrintRun::runVirtual()
+{
+    std::unique_ptr<host::PrinterSetup> setup = openPrinter();
+    std::unique_ptr<host::LabelDocument> document = setup ? openDocument() : nullptr;
+    if (!document)
+        return ExitStatus::Failed;
+    host::SetupKeeper keeper(std::move(setup));
+    VirtualSender sender(m_command.output);
+    PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    return CommandChecks::statusOf(showVirtual(dialog, sender, *keeper.setup()), *keeper.setup());
+}
+
+bool PrintRun::canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const
+{
+    if (const std::optional<QString> problem = dialog.prepare()) {
+        m_console.complain(*problem);
+        return false;
+    }
+    return CommandChecks(m_command, m_console).accepts(*dialog.ticket(), setup);
+}
+
+ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, const host::PrinterSetup &setup)
+{
+    dialog.show();
+    // Layout and first painting happen here, so that the picture shows what a person would see.
+    QApplication::processEvents();
+    if (!takeScreenshot(dialog))
+        return ExitStatus::Failed;
+    const bool printsAtOnce = m_command.noDialog && m_command.task == Task::Print;
+    if ((printsAtOnce || m_command.task != Task::Print) && !canPrintAtOnce(dialog, setup))
+        return ExitStatus::Failed;
+    if (m_command.task != Task::Print) {
+        tellSummary(dialog.summary());
+        return ExitStatus::Printed;
+    }
+    if (printsAtOnce) {
+        sender.setPictureTaker([&] { return completePicture(dialog); });
+        dialog.print();
+        if (!dialog.problem().isEmpty()) {
+            m_console.complain(dialog.problem());
+            dialog.done(QDialog::Rejected);
+            return ExitStatus::Failed;
+        }
+    } else if (dialog.exec() != QDialog::Accepted) {
+        return ExitStatus::Cancelled;
+    }
+    tellSummary(dialog.summary());
+    m_console.out(PrintRunText::tr("The label strip is in:") + u'\n');
+    m_console.out(sender.folder() + u'\n');
+    return ExitStatus::Printed;
+}
+
+ExitStatus PrintRun::runOnQueue()
+{
+    std::unique_ptr<host::LabelDocument> document = openDocument();
+    if (!document)
+        return ExitStatus::Failed;
+    host::CupsServer server = cupsServer(m_command);
+    if (m_command.noDialog || m_command.task != Task::Print) {
+        askOnTerminalFor(server);
+        LeftJobsRun(m_command, m_console).tell();
+        return HeadlessRun(m_command, m_console, server, std::move(document)).run();
+    }
+
+    // The dialog is closed as by hand, so that a job on its way is taken back.
+    SignalWatch watch;
+    QObject::connect(&watch, &SignalWatch::caught, qApp, &QApplication::closeAllWindows);
+    const auto cancelled = [&] {
+        const std::optional<int> signal = watch.signal();
+        return signal ? statusOfSignal(*signal) : ExitStatus::Cancelled;
+    };
+    PrintDialog *window = nullptr;
+    server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
+    server.askTrust = [&](const host::TrustRequest &request) { askTrustWithDialog(window)(request); };
+    host::QueueSession session(server, m_command.destination);
+    host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
+    QueueSender sender(server);
+    PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    window = &dialog;
+    dialog.show();
+    waitForPainting(dialog);
+    session.start(host::Discovery::Yes);
+    QApplication::processEvents();
+    if (!dialog.isVisible())
+        return dialog.result() == QDialog::Accepted ? follow(dialog, sender, server) : cancelled();
+    if (!takeScreenshot(dialog))
+        return ExitStatus::Failed;
+    if (dialog.exec() != QDialog::Accepted)
+        return cancelled();
+    return follow(dialog, sender, server);
+}
+
+ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
+{
+    CommandChecks(m_command, m_console).printRequestId(sender);
+    JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
+    window.exec();
+    if (const auto &status = window.status()) {
+        if (status->state == host::JobState::Aborted) {
+            m_console.complain(status->sentences().join(u' '));
+            return ExitStatus::Failed;
+        }
+        // The window has closed too soon to be read, as after any job that was printed.
+        if (status->isForgotten && status->state == host::JobState::Completed)
+            m_console.complain(status->sentences().join(u' '));
+        if (status->state == host::JobState::Cancelled)
+            return ExitStatus::Cancelled;
+    }
+    const bool withoutPanel = dialog.hasPanelProblem();
+    return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
+}
+
+bool PrintRun::takeScreenshot(PrintDialog &dialog)
+{
+    const auto error = m_command.screenshot ? saveScreenshot(dialog, *m_command.screenshot) : std::nullopt;
+    if (error)
+        m_console.complain(error->message);
+    return !error;
+}
+
+void PrintRun::tellSummary(const std::vector<SummarySection> &summary)
+{
+    m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(host::summaryJson(summary)).toJson())
+                                 : host::summaryInPlainText(summary));
+}
+
+ExitStatus PrintRun::run()
+{
+    if (m_command.task == Task::List || m_command.task == Task::ChangeJob) {
+        host::CupsServer server = cupsServer(m_command);
+        askOnTerminalFor(server);
+        return ServerRun(m_command, m_console, server).run();
+    }
+    if (m_command.task == Task::CancelLeft || m_command.task == Task::ReleaseLeft) {
+        host::CupsServer server = cupsServer(m_command);
+        askOnTerminalFor(server);
+        return LeftJobsRun(m_command, m_console).settle(server);
+    }
+    return m_command.ppd ? runVirtual() : runOnQueue();
+}
+
+} // namespace dialog

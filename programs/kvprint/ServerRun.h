@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CommandLine.h"
+#include "Console.h"
+
+#include <host/cups/jobs/JobChange.h>
+#include <host/printer/PpdFile.h>
+
+#include <memory>
+
+namespace dialog {
+
+/// What kvprint does with a print server alone: telling its destinations, and changing a job that waits.
+class ServerRun {
+public:
+    ServerRun(const CommandLine &command, const Console &console, host::CupsServer server);
+
+    ExitStatus run();
+
+private:
+    ExitStatus tellDestinations();
+    ExitStatus changeJob();
+    /// Whether the job's printer has all that is to be changed, or nobody can tell because it has no PPD;
+    /// tells what it does not have.
+    bool printerHas(const host::JobChange &change);
+    /// Of the queue that the job is in; null when that has none.
+    host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ppdOfJob(int jobId);
+
+    const CommandLine &m_command;
+    const Console &m_console;
+    host::CupsServer m_server;
+};
+
+} // namespace dialog

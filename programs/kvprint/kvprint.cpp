@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PrintRun.h"
+#include "StandardStreams.h"
+
+#include <dialog/translations/Translations.h>
+#include <host/base/OutOfMemory.h>
+#include <host/cups/server/Background.h>
+#include <platform/TemporaryFile.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QLoggingCategory>
+
+#include <fontconfig/fontconfig.h>
+
+#include <cstdlib>
+#include <thread>
+
+#include <malloc.h>
+#include <unistd.h>
+
+namespace {
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/// Whether the arguments ask for the dialog; not when they only make the program tell something.
+bool asksForDialog(const QStringList &arguments)
+{
+    const auto command = dialog::CommandLine::parse(arguments);
+    return command && command.value().task == dialog::Task::Print && !command.value().noDialog;
+}
+
+/// Whether somebody sees the windows. Decided before there is an application, which could not start
+/// without a display.
+bool chooseScreen(const QStringList &arguments)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && (!asksForDialog(arguments) || !hasDisplay()))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    return !platform.startsWith("offscreen") && !platform.startsWith("minimal");
+}
+
+QtMessageHandler usualHandler = nullptr;
+
+/// Without a screen Qt tells at every start what its screenless platform lacks, which is no news to
+/// anybody who reads the program's messages.
+void passOnMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const bool knownLack = message.startsWith(QStringLiteral("This plugin does not support ")) ||
+                           message.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR not set"));
+    if (!knownLack)
+        usualHandler(type, context, message);
+}
+
+/// The readers of Qt report what they pass over in a document, "libpng warning: ...". The program names what
+/// it cannot print in words of its own. QT_LOGGING_RULES still turns the reports on.
+void silenceReaders()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.svg*=false\nqt.pdf*=false"));
+}
+
+/// Nobody may take a part of the output for all of it.
+int status(dialog::ExitStatus status, const dialog::StandardStreams &streams)
+{
+    const bool seemsGood =
+        status == dialog::ExitStatus::Printed || status == dialog::ExitStatus::PrintedWithoutPanel;
+    return static_cast<int>(seemsGood && streams.isOutputIncomplete() ? dialog::ExitStatus::Failed : status);
+}
+
+dialog::ExitStatus refuse(const dialog::UsageError &error, dialog::StandardStreams &streams)
+{
+    if (error.kind != dialog::UsageProblem::Wrong) {
+        streams.out(error.message);
+        return dialog::ExitStatus::Printed;
+    }
+    dialog::StandardStreams::error(
+        QStringLiteral("kvprint: %1\n%2\n")
+            .arg(error.message,
+                 QCoreApplication::translate("dialog::CommandLine", "Try \"kvprint --help\".")));
+    return dialog::ExitStatus::WrongUsage;
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program
+int main(int argc, char **argv)
+{
+    host::OutOfMemory::endsProgram();
+    dialog::StandardStreams streams;
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const bool attended = chooseScreen(arguments);
+    if (!attended)
+        usualHandler = qInstallMessageHandler(passOnMessage);
+    silenceReaders();
+    // One heap for all threads: they allocate little, and each would keep a heap of its own.
+    mallopt(M_ARENA_MAX, 1);
+    // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it
+    // done, having been busy with the display meanwhile.
+    const std::jthread fonts = attended ? std::jthread(FcInit) : std::jthread();
+    // Qt would take options of its own out of what are lp's words: "-title" says "-t itle".
+    argc = 1;
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kvprint"));
+    QApplication::setApplicationVersion(QStringLiteral(KV_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.kvprint.kvprint"));
+    dialog::installTranslations(QLocale());
+    host::OutOfMemory::translate();
+
+    auto command = dialog::CommandLine::parse(arguments);
+    if (!command)
+        return status(refuse(command.error(), streams), streams);
+    if (const auto error = command.value().checkInput(isatty(STDIN_FILENO) == 1))
+        return status(refuse(*error, streams), streams);
+    command.value().noDialog = command.value().noDialog || !attended;
+    const dialog::Console console{[&](const QString &text) { return streams.out(text); },
+                                  dialog::StandardStreams::error};
+    platform::TemporaryFile::removeLeftOvers(QDir::tempPath());
+    const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run(), streams);
+    if (host::Background::wasUsed())
+        std::_Exit(outcome);
+    return outcome;
+}

@@ -1,0 +1,314 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include <host/documents/LabelDocument.h>
+#include <host/documents/LabelRenderer.h>
+#include <host/documents/OpenedDocument.h>
+#include <host/documents/PageCheck.h>
+#include <host/documents/PageThread.h>
+#include <tests/samples/SampleImages.h>
+#include <tests/samples/SamplePdf.h>
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using host::DocumentFailure;
+using host::LabelDocument;
+
+namespace {
+
+constexpr double pixel = 72.0 / 96.0;
+
+struct Refused {
+    const char *name;
+    QByteArray content;
+    DocumentFailure kind;
+};
+
+void expectRefused(const Refused &row)
+{
+    const Sandbox sandbox;
+    const Sandbox temporary;
+    qputenv("TMPDIR", QFile::encodeName(temporary.path({})));
+    const QString path = sandbox.write(QStringLiteral("hostile"), row.content);
+    const auto document = LabelDocument::open(path);
+    EXPECT_TRUE(temporary.entries().isEmpty()) << row.name;
+    qunsetenv("TMPDIR");
+    ASSERT_FALSE(document) << row.name;
+    EXPECT_EQ(document.error().kind, row.kind) << row.name << ": " << document.error().message.toStdString();
+    EXPECT_TRUE(document.error().message.contains(path)) << row.name;
+}
+
+/// The most memory that the program has had, in bytes.
+qint64 peakMemory()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<qint64>(usage.ru_maxrss) * 1024;
+}
+
+bool isWhite(const QImage &image)
+{
+    QImage white(image.size(), QImage::Format_RGB32);
+    white.fill(Qt::white);
+    return image == white;
+}
+
+/// Elements that use each other, twice each, so that the last one stands for a million times the first.
+QByteArray nestedUses()
+{
+    QByteArray content = R"(<g id="u0"><rect width="1" height="1"/></g>)";
+    for (int i = 1; i <= 20; ++i) {
+        const QByteArray use = "<use xlink:href=\"#u" + QByteArray::number(i - 1) + "\"/>";
+        content += "<g id=\"u" + QByteArray::number(i) + "\">" + use + use + "</g>";
+    }
+    return content;
+}
+
+QByteArray entityBomb()
+{
+    QByteArray type = "<!ENTITY a \"aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa\">";
+    for (char name = 'b'; name < 'k'; ++name) {
+        const char before = static_cast<char>(name - 1);
+        type +=
+            QByteArray("<!ENTITY ") + name + " \"" + (QByteArray("&") + before + ';').repeated(10) + "\">";
+    }
+    return withDeclarations(type, svg(R"(width="40" height="40")", "<text>&j;</text>"));
+}
+
+} // namespace
+
+TEST(HostileDocuments, CutShortAnywhere)
+{
+    const std::pair<const char *, QByteArray> rows[] = {
+        {"pdf", handWrittenPdf({"[0 0 100 100]"})},
+        {"png", encoded(corners(20, 10), "png")},
+        {"jpeg", encoded(corners(200, 100), "jpeg")},
+        {"svg", svg(R"(width="40" height="40")")},
+    };
+    const Sandbox sandbox;
+    for (const auto &[name, content] : rows) {
+        // Without the last bytes a PDF may still be whole; the other kinds are not.
+        for (qsizetype length = content.size() - 12; length > 0; length -= 7) {
+            const auto document =
+                LabelDocument::open(sandbox.write(QStringLiteral("cut"), content.first(length)));
+            if (document) {
+                EXPECT_STREQ(name, "pdf") << length;
+                continue;
+            }
+            EXPECT_TRUE(document.error().message.contains(sandbox.path(QStringLiteral("cut"))));
+        }
+    }
+}
+
+TEST(HostileDocuments, BytesTurnedAround)
+{
+    const QByteArray samples[] = {handWrittenPdf({"[0 0 100 100]"}), encoded(corners(60, 40), "png"),
+                                  encoded(corners(60, 40), "jpeg"),
+                                  svg(R"(width="40" height="40" viewBox="0 0 4 4")", nestedUses())};
+    const Sandbox sandbox;
+    unsigned seed = 1;
+    for (const QByteArray &sample : samples) {
+        for (int round = 0; round < 150; ++round) {
+            QByteArray content = sample;
+            for (int i = 0; i < 3; ++i) {
+                seed = seed * 1103515245 + 12345;
+                content[static_cast<qsizetype>(seed >> 8) % content.size()] = static_cast<char>(seed >> 4);
+            }
+            // Whatever it is now: an error or a page.
+            const auto document = LabelDocument::open(sandbox.write(QStringLiteral("turned"), content));
+            if (document) {
+                EXPECT_FALSE(document.value()->render(0, {50, 50}).isNull());
+            }
+        }
+    }
+}
+
+TEST(HostileDocuments, Images)
+{
+    const Refused rows[] = {
+        {"60000 x 60000", claimingPng(60000, 60000), DocumentFailure::TooLarge},
+        {"a million wide", claimingPng(1'000'000, 1'000), DocumentFailure::TooLarge},
+        {"2 billion wide", claimingPng(0x7FFFFFFF, 1), DocumentFailure::Damaged},
+        {"more than can be decoded", claimingPng(7'000, 6'000), DocumentFailure::TooLarge},
+        {"no width", claimingPng(0, 10), DocumentFailure::Damaged},
+        {"no pixels", claimingPng(100, 100), DocumentFailure::Damaged},
+        {"a dot a metre", encoded(corners(100, 100, 1, 1), "png"), DocumentFailure::BadPage},
+        {"too many dots a metre", encoded(corners(100, 100, 2'000'000'000, 3780), "png"),
+         DocumentFailure::BadPage},
+        {"only a head", encoded(corners(10, 10), "jpeg").first(20), DocumentFailure::Damaged},
+    };
+    for (const Refused &row : rows)
+        expectRefused(row);
+    EXPECT_LT(peakMemory(), 1024LL * 1024 * 1024);
+}
+
+TEST(HostileDocuments, ALargeImageIsPrinted)
+{
+    // Four metres of tape at 300 dots an inch.
+    QImage image(280, 47244, QImage::Format_Grayscale8);
+    image.setDotsPerMeterX(11811);
+    image.setDotsPerMeterY(11811);
+    image.fill(Qt::white);
+    image.setPixelColor(0, image.height() - 1, Qt::black);
+    const Sandbox sandbox;
+    const auto document = LabelDocument::open(sandbox.write(QStringLiteral("long"), encoded(image, "png")));
+    ASSERT_TRUE(document) << document.error().message.toStdString();
+    EXPECT_NEAR(document.value()->pageSize(0).height(), 4.0 / 0.0254 * 72.0, 1.0);
+    EXPECT_FALSE(isWhite(document.value()->render(0, {280, 4724})));
+}
+
+TEST(HostileDocuments, Svgs)
+{
+    const QByteArray box = R"(width="40" height="40")";
+    const QByteArray innerSvg = svg(box, R"(<image xlink:href="/etc/hostname" width="9" height="9"/>)");
+    const Refused rows[] = {
+        {"html", "<!DOCTYPE html><html><body/></html>", DocumentFailure::UnknownKind},
+        {"no XML", "<<<", DocumentFailure::UnknownKind},
+        {"two roots", svg(box) + svg(box).mid(svg(box).indexOf("<svg")), DocumentFailure::Damaged},
+        {"zero wide", svg(R"(width="0" height="40")"), DocumentFailure::BadPage},
+        {"less than nothing", svg(R"(width="-4" height="40")"), DocumentFailure::BadPage},
+        {"nothing drawn", svg("", ""), DocumentFailure::BadPage},
+        {"a view box of nothing", svg(R"(width="40" height="40" viewBox="0 0 0 0")"),
+         DocumentFailure::BadPage},
+        {"ten metres", svg(R"(width="10000mm" height="40")"), DocumentFailure::BadPage},
+        {"enormous", svg(R"(width="1e30" height="1e30")"), DocumentFailure::BadPage},
+        {"infinite", svg(R"(width="1e999" height="1e999")"), DocumentFailure::BadPage},
+        {"enormous view box", svg(R"(viewBox="0 0 1e300 1e300")"), DocumentFailure::BadPage},
+        {"a file", svg(box, R"(<image xlink:href="/etc/hostname" width="9" height="9"/>)"),
+         DocumentFailure::NeedsOthers},
+        {"a file by URL", svg(box, R"(<image href="file:///dev/zero" width="9" height="9"/>)"),
+         DocumentFailure::NeedsOthers},
+        {"the network", svg(box, R"(<image href="http://localhost/x.png" width="9" height="9"/>)"),
+         DocumentFailure::NeedsOthers},
+        {"another drawing", svg(box, R"(<use href="other.svg#a"/>)"), DocumentFailure::NeedsOthers},
+        {"a style sheet",
+         "<?xml-stylesheet href=\"/etc/hostname\" type=\"text/css\"?>" +
+             svg(box).mid(svg(box).indexOf("<svg")),
+         DocumentFailure::NeedsOthers},
+        {"a file in a picture",
+         svg(box, "<image href=\"data:image/png;base64," + innerSvg.toBase64() + "\" width='9' height='9'/>"),
+         DocumentFailure::UnknownKind},
+        {"an enormous picture",
+         svg(box, "<image href=\"data:image/png;base64," + claimingPng(60000, 60000).toBase64() + "\"/>"),
+         DocumentFailure::TooLarge},
+        {"a file as entity",
+         withDeclarations("<!ENTITY x SYSTEM \"file:///etc/hostname\">", svg(box, "<text>&x;</text>")),
+         DocumentFailure::NeedsOthers},
+        {"entities in entities", entityBomb(), DocumentFailure::Damaged},
+        {"deep", svg(box, QByteArray("<g>").repeated(100'000) + QByteArray("</g>").repeated(100'000)),
+         DocumentFailure::TooLarge},
+        {"many", svg(box, QByteArray("<g/>").repeated(600'000)), DocumentFailure::TooLarge},
+    };
+    for (const Refused &row : rows)
+        expectRefused(row);
+}
+
+TEST(HostileDocuments, SvgsThatAreDrawnInBoundedTime)
+{
+    const QByteArray box = R"(width="40" height="40")";
+    const std::pair<const char *, QByteArray> rows[] = {
+        {"uses of uses", svg(box, nestedUses())},
+        {"uses itself",
+         svg(box, R"(<g id="a"><use xlink:href="#b"/></g><g id="b"><use xlink:href="#a"/></g>)")},
+        {"gradients in a ring",
+         svg(box, "<linearGradient id='a' xlink:href='#b'/><linearGradient id='b' xlink:href='#a'/>"
+                  "<rect width='9' height='9' fill='url(#a)'/>")},
+        {"numbers without end",
+         svg(box, R"(<rect x="-1e30" width="1e300" height="nan" rx="1e38"/>)"
+                  R"(<path d="M 0 0 L 1e38 1e38 A 1e38 1e38 0 0 0 0 1" stroke="red"/>)")},
+        {"the finest dashes", svg(box, R"(<path d="M0 0H40" stroke="red" stroke-dasharray="0.00001"/>)")},
+        {"an enormous text", svg(box, R"(<text font-size="1e9">A</text>)")},
+        {"a style from elsewhere",
+         svg(box, R"svg(<style>@import url("/dev/zero");</style><rect width="9" height="9"/>)svg")},
+    };
+    const Sandbox sandbox;
+    for (const auto &[name, content] : rows) {
+        const auto document = LabelDocument::open(sandbox.write(QStringLiteral("drawing"), content));
+        ASSERT_TRUE(document) << name << ": " << document.error().message.toStdString();
+        EXPECT_EQ(document.value()->pageSize(0), QSizeF(40, 40) * pixel) << name;
+        EXPECT_FALSE(document.value()->render(0, {60, 60}).isNull()) << name;
+    }
+}
+
+TEST(HostileDocuments, PipesFoldersAndDevices)
+{
+    const Sandbox sandbox;
+    const QString pipe = sandbox.path(QStringLiteral("pipe"));
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    const QString good = sandbox.write(QStringLiteral("good.pdf"), handWrittenPdf({"[0 0 10 10]"}));
+    for (const QString &path :
+         {pipe, sandbox.path({}), QStringLiteral("/dev/zero"), QStringLiteral("/dev/tty")}) {
+        const auto document = LabelDocument::open(QStringList{good, path});
+        ASSERT_FALSE(document) << path.toStdString();
+        EXPECT_EQ(document.error().kind, DocumentFailure::NotAFile) << document.error().message.toStdString();
+        EXPECT_TRUE(document.error().message.contains(path));
+    }
+}
+
+TEST(HostileDocuments, TenThousandPagesOpenAtOnce)
+{
+    const Sandbox sandbox;
+    std::vector<QByteArray> boxes(10'000, "[0 0 100 100]");
+    boxes[9'000] = "[0 0 100 28346]";
+    boxes[9'001] = "[0 0 0 0.001]";
+    const QString path = sandbox.write(QStringLiteral("many.pdf"), handWrittenPdf(boxes));
+    const auto document = LabelDocument::open(path);
+    ASSERT_TRUE(document) << document.error().message.toStdString();
+    EXPECT_EQ(document.value()->pageCount(), 10'000);
+    EXPECT_EQ(document.value()->pageSize(9'999), QSizeF(100, 100));
+
+    // Those behind the first are read in the background, the bad ones too.
+    host::PageThread thread(*document.value());
+    host::PageCheck check(*document.value(), thread);
+    check.start();
+    while (!check.isDone())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+
+    // The bad pages can be shown, and are told of before anything is printed.
+    const host::LabelRenderer renderer(*document.value(), QSizeF(68, 170));
+    for (const int page : {9'000, 9'001})
+        EXPECT_FALSE(renderer.render(page, 4.0).isNull());
+    for (int time = 0; time < 2; ++time) {
+        const auto problem = document.value()->checkForPrinting();
+        ASSERT_TRUE(problem);
+        EXPECT_EQ(problem->kind, DocumentFailure::BadPage);
+        EXPECT_TRUE(problem->message.contains(QStringLiteral("page 9001 ")))
+            << problem->message.toStdString();
+    }
+}
+
+TEST(HostileDocuments, AFileThatShrinksOrChangesIsNotPrinted)
+{
+    const Sandbox sandbox;
+    const QByteArray content = handWrittenPdf(std::vector<QByteArray>(2'000, "[0 0 100 100]"));
+    const QString other = sandbox.write(QStringLiteral("other.pdf"), handWrittenPdf({"[0 0 10 10]"}));
+    const std::function<void(const QString &)> changes[] = {
+        [](const QString &path) { EXPECT_EQ(truncate(path.toLocal8Bit().constData(), 100), 0); },
+        [](const QString &path) { EXPECT_EQ(truncate(path.toLocal8Bit().constData(), 0), 0); },
+        [&](const QString &) {
+            sandbox.write(QStringLiteral("changing.pdf"), QByteArray(content.size(), 'x'));
+        },
+        [&](const QString &path) {
+            ASSERT_EQ(rename(other.toLocal8Bit().constData(), path.toLocal8Bit().constData()), 0);
+        },
+        [](const QString &path) { EXPECT_TRUE(QFile::remove(path)); },
+    };
+    for (const auto &change : changes) {
+        const QString path = sandbox.write(QStringLiteral("changing.pdf"), content);
+        const auto document = LabelDocument::open(path);
+        ASSERT_TRUE(document) << document.error().message.toStdString();
+        EXPECT_FALSE(document.value()->checkForPrinting());
+        change(path);
+        EXPECT_TRUE(isWhite(document.value()->render(1'900, {50, 50})));
+        EXPECT_TRUE(document.value()->pageSize(1'950).isValid());
+        const auto problem = document.value()->checkForPrinting();
+        ASSERT_TRUE(problem);
+        EXPECT_EQ(problem->kind, DocumentFailure::Changed);
+        EXPECT_TRUE(problem->message.contains(path));
+    }
+}

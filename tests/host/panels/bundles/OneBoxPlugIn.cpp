@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: Apache-2.0
+// A bundle as small as one can be: one panel with one check box for the option "KvMirror". It tells in its
+// summary what it heard from the dialog. While its view has the property "refusesJobs", it lets no job pass;
+// it counts in "askedForJobs" how often it was asked.
+#include <protocol/PDEPlugIn.h>
+#include <protocol/PDEUserChoices.h>
+
+#include <QCheckBox>
+#include <QObject>
+#include <QtPlugin>
+
+namespace {
+
+class OneBoxPanel : public PDEPanel, public PDEUserChoices_v1 {
+public:
+    explicit OneBoxPanel(std::shared_ptr<PDEPluginCallback13_v400_> callback)
+        : m_callback(std::move(callback))
+    {
+        QObject::connect(&m_box, &QCheckBox::clicked, [this](bool on) {
+            m_callback->willChangePPDOptionKeyValue(QStringLiteral("KvMirror"),
+                                                    on ? QStringLiteral("ON") : QStringLiteral("OFF"));
+        });
+    }
+
+    QWidget *panelView() override { return &m_box; }
+    QString panelName() override { return QStringLiteral("One box"); }
+    QString panelKind() const override { return QStringLiteral("org.example.OneBox"); }
+    std::optional<QStringList> supportedPPDOptionKeys() override
+    {
+        return QStringList{QStringLiteral("KvMirror")};
+    }
+    void willShow() override { m_heard.append(QStringLiteral("willShow")); }
+    void printWindowWillClose(QWidget *) override {}
+    bool shouldHide() const override { return false; }
+    bool shouldPrint() override
+    {
+        m_box.setProperty("askedForJobs", m_box.property("askedForJobs").toInt() + 1);
+        return !m_box.property("refusesJobs").toBool();
+    }
+    bool shouldShowHelp() const override { return false; }
+    void PPDOptionKeyValueDidChange(const std::optional<QString> &key,
+                                    const std::optional<QString> &choice) override
+    {
+        m_heard.append(key.value_or(QStringLiteral("nil")) + u'=' + choice.value_or(QStringLiteral("nil")));
+    }
+    bool restoreValuesAndReturnError(QString *) override { return true; }
+    bool saveValuesAndReturnError(QString *) override { return true; }
+    std::optional<QVariantMap> summaryInfo() override
+    {
+        return QVariantMap{{QStringLiteral("Heard"), m_heard.join(u' ')},
+                           {PDESummaryDisplayOrderKey, QStringList{QStringLiteral("Heard")}}};
+    }
+
+    PDEChoices shownChoices() const override
+    {
+        return {
+            {QStringLiteral("KvMirror"), m_box.isChecked() ? QStringLiteral("ON") : QStringLiteral("OFF")}};
+    }
+    int combinationsChosen() const override { return 0; }
+    void applyUserChoices(const PDEChoices &choices) override
+    {
+        for (const auto &[keyword, choice] : choices) {
+            const bool asksForOn = choice == QStringLiteral("ON");
+            const bool isChoice = asksForOn || choice == QStringLiteral("OFF");
+            // The box is what would be saved. A click is the user's, so the dialog receives the choice.
+            if (keyword == QStringLiteral("KvMirror") && isChoice && asksForOn != m_box.isChecked())
+                m_box.click();
+        }
+    }
+
+private:
+    std::shared_ptr<PDEPluginCallback13_v400_> m_callback;
+    QCheckBox m_box;
+    QStringList m_heard;
+};
+
+class OneBoxPlugIn : public PDEPlugIn {
+public:
+    bool initWithBundle(const platform::Bundle *) override { return TEST_ACCEPTS; }
+    std::optional<PDEPanelList> PDEPanelsForType(const QString &type,
+                                                 std::shared_ptr<PDEPluginCallback13_v400_> hostInfo) override
+    {
+        if (type != PDEPrintDialogType)
+            return PDEPanelList();
+        return PDEPanelList{std::make_shared<OneBoxPanel>(std::move(hostInfo))};
+    }
+};
+
+} // namespace
+
+class OneBoxEntry : public QObject, public PDEPlugInFactory {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID TEST_IID FILE TEST_METADATA)
+    Q_INTERFACES(PDEPlugInFactory)
+
+public:
+    std::unique_ptr<PDEPlugIn> createPlugIn() override { return std::make_unique<OneBoxPlugIn>(); }
+};
+
+#include "OneBoxPlugIn.moc"

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+// The bundle as a print dialog meets it: loaded at run time, known by the protocol alone.
+#include <host/panels/DialogState.h>
+#include <host/panels/PanelSession.h>
+#include <protocol/PDEPanelInspection.h>
+#include <tests/support/PpdBuilder.h>
+
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+
+namespace {
+
+const QString bundleFolder = QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle");
+
+} // namespace
+
+TEST(Bundle, AnswersThePrintDialogWithOnePanel)
+{
+    const QTemporaryDir folder;
+    const QString ppdPath = folder.filePath(QStringLiteral("printer.ppd"));
+    ASSERT_TRUE(test_support::PpdBuilder().allOptions().writeTo(ppdPath));
+    auto ppd = host::PpdFile::open(ppdPath);
+    ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
+    auto bundle = host::PanelBundle::load(bundleFolder, {QStringLiteral("de")});
+    ASSERT_TRUE(bundle) << bundle.error().message.toStdString();
+    const auto state = std::make_shared<host::DialogState>(std::move(ppd).value());
+    const host::PanelSession session(std::move(bundle).value(), std::make_shared<host::PanelHost>(state));
+    PDEPanel *const panel = session.firstPanel();
+    ASSERT_TRUE(panel);
+    EXPECT_EQ(session.panels()->size(), 1U);
+    EXPECT_NE(panel->panelName(), QStringLiteral("OP_PANEL_NAME"));
+    ASSERT_TRUE(panel->panelView());
+    panel->restoreValuesAndReturnError(nullptr);
+    panel->willShow();
+    ASSERT_TRUE(session.bundle().inspection());
+    EXPECT_EQ(session.bundle().inspection()->panelState(panel)["preview"].toObject()["picture"].toString(),
+              QStringLiteral("AHCMOffOffOffOff"));
+}
+
+TEST(Bundle, ExportsItsFunctionsByName)
+{
+    void *const library =
+        dlopen(qPrintable(bundleFolder + QStringLiteral("/KVLXDZOptions.so")), RTLD_NOW | RTLD_LOCAL);
+    ASSERT_TRUE(library) << dlerror();
+    for (const char *name :
+         {"GetTapeInfo", "GetTapeInfo2", "GetTapeInfo3", "GetTicketFromSession", "RoundDouble", "MiriToInch",
+          "InchToMiri", "debugLog", "debugLogFd", "memoryCheck", "memoryCheckFd", "_PDEProlog", "_PDEEpilog",
+          "_PDELog", "_PDELog_ppd_option_t", "_PDELog_PMPrintSettings_WriteToFile"})
+        EXPECT_NE(dlsym(library, name), nullptr) << name;
+    auto *const roundDouble = reinterpret_cast<long (*)(double)>(dlsym(library, "RoundDouble"));
+    ASSERT_TRUE(roundDouble);
+    EXPECT_EQ(roundDouble(-2.5), -3);
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <host/documents/PageThread.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QSemaphore>
+
+#include <memory>
+
+/// Holds a page thread in its first task, so that a test decides what is done while others wait. The task is
+/// running when the constructor returns.
+class ClosedGate {
+public:
+    explicit ClosedGate(host::PageThread &thread)
+    {
+        const auto begun = std::make_shared<QSemaphore>();
+        thread.run(host::PageThread::Urgency::Shown, &m_receiver,
+                   [begun, opened = m_opened](const host::LabelDocument &, const auto &) {
+                       begun->release();
+                       opened->acquire();
+                       return [] {};
+                   });
+        begun->acquire();
+    }
+    ~ClosedGate() { open(); }
+    ClosedGate(const ClosedGate &) = delete;
+    ClosedGate &operator=(const ClosedGate &) = delete;
+
+    void open() { m_opened->release(); }
+
+private:
+    QObject m_receiver;
+    std::shared_ptr<QSemaphore> m_opened = std::make_shared<QSemaphore>();
+};
+
+/// Returns when the thread has run all its tasks and the main thread all deliveries.
+inline void awaitTasks(host::PageThread &thread)
+{
+    // A delivery may have begun another task; the least urgent one comes after it.
+    for (int round = 0; round < 3; ++round) {
+        QEventLoop loop;
+        thread.run(host::PageThread::Urgency::Checked, &loop,
+                   [&loop](const host::LabelDocument &, const auto &) { return [&loop] { loop.quit(); }; });
+        loop.exec();
+    }
+}

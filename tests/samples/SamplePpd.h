@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Sandbox.h"
+
+#include <host/printer/PpdFile.h>
+
+#include <QByteArray>
+
+/// The text of a small tape printer's PPD: papers with and without a printable area, two of equal size,
+/// free lengths, German texts, all nine cut options.
+QByteArray tapePpd();
+/// The same with so many papers more, "Extra0" and so on.
+QByteArray tapePpdWithMorePapers(int count);
+/// 50 megabytes that begin as a PPD does and are none.
+QByteArray damagedPpdText();
+
+/// The same, open with its defaults marked. Ends the test program when it cannot be opened.
+host::PpdFile openTapePpd(const Sandbox &sandbox);
