@@ -105,7 +105,7 @@ void ChoiceControl::showMarked(const host::PpdOptions &options)
     m_isWaiting = false;
     m_marked = now;
     const auto found = std::ranges::find(m_option.choices, now, &host::PpdChoice::name);
-    const bool isFree = m_option.freeText && qstricmp(now.constData(), host::PpdOptions::freeChoice) == 0;
+    const bool isFree = m_option.freeText && qstricmp(now.constData(), host::freeChoiceName) == 0;
     const bool isKnown = isFree || found != m_option.choices.end();
     m_list->setCurrentIndex(isKnown ? static_cast<int>(found - m_option.choices.begin()) : -1);
     showFields(isFree);

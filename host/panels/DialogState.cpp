@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DialogState.h"
 
-#include "PanelHost.h"
-
 #include <platform/NotificationCenter.h>
 
 namespace host {
@@ -31,7 +29,7 @@ void DialogState::postPaperDidChange() const
 }
 
 void DialogState::changeOption(const std::optional<QString> &keyword, const std::optional<QString> &choice,
-                               const PanelHost *origin)
+                               const OptionListener *origin)
 {
     if (keyword && choice) {
         m_ppd.mark(*keyword, *choice);
@@ -39,10 +37,10 @@ void DialogState::changeOption(const std::optional<QString> &keyword, const std:
             m_recorded.record(*keyword, *choice);
     }
     // A panel may answer with a change of its own, so the list is walked as it was.
-    const std::vector<PanelHost *> hosts = m_panelHosts;
-    for (PanelHost *const host : hosts) {
-        if (host != origin)
-            host->tellPanels(keyword, choice);
+    const std::vector<OptionListener *> listeners = m_listeners;
+    for (OptionListener *const listener : listeners) {
+        if (listener != origin)
+            listener->optionChanged(keyword, choice);
     }
 }
 

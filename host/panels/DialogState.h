@@ -13,7 +13,14 @@
 
 namespace host {
 
-class PanelHost;
+/// Receives the changes of options in a DialogState.
+class OptionListener {
+public:
+    virtual ~OptionListener() = default;
+    /// The choice of the option is another one now. Either may be absent, as the change was.
+    virtual void optionChanged(const std::optional<QString> &keyword,
+                               const std::optional<QString> &choice) = 0;
+};
 
 /// What one print dialog holds: the printer's PPD with its markings, the paper, and the settings of the
 /// job that it is going to print. Without widgets; the dialog and the panel driver stand on it alike.
@@ -51,11 +58,15 @@ public:
     /// The printer's address; nothing when it cannot be asked.
     void setDeviceURI(const std::optional<QString> &uri) { m_printer.deviceURI = uri; }
 
-    /// Marks the choice, records it for the job, and tells every panel of every bundle but the given one,
-    /// from which the change came; null when it came from the dialog itself. With an absent keyword or
-    /// choice nothing is marked or recorded, and the panels hear of it as it is.
+    /// Marks the choice, records it for the job, and reports it to all listeners but the origin, which made
+    /// the change; null when the dialog itself made it. With an absent keyword or choice nothing is marked or
+    /// recorded, and the change is reported as it is.
     void changeOption(const std::optional<QString> &keyword, const std::optional<QString> &choice,
-                      const PanelHost *origin);
+                      const OptionListener *origin);
+
+    /// Reports changes to the listener, which is borrowed and must be removed before it is destroyed.
+    void addListener(OptionListener *listener) { m_listeners.push_back(listener); }
+    void removeListener(OptionListener *listener) { std::erase(m_listeners, listener); }
 
     /// What panels and dialog have chosen for the job, in the order of the first choosing.
     const RecordedChoices &recorded() const { return m_recorded; }
@@ -67,8 +78,6 @@ public:
     ::PMPrinter printer() { return &m_printer; }
 
 private:
-    friend class PanelHost;
-
     PpdFile m_ppd;
     platform::PrintSession m_session;
     platform::PrintSettings m_settings;
@@ -76,8 +85,8 @@ private:
     platform::Printer m_printer;
     bool m_hasSettings = true;
     RecordedChoices m_recorded;
-    /// Borrowed; each takes itself out when it ends.
-    std::vector<PanelHost *> m_panelHosts;
+    /// Borrowed.
+    std::vector<OptionListener *> m_listeners;
 };
 
 } // namespace host

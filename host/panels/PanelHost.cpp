@@ -8,12 +8,12 @@ namespace host {
 PanelHost::PanelHost(std::shared_ptr<DialogState> state)
     : m_state(std::move(state))
 {
-    m_state->m_panelHosts.push_back(this);
+    m_state->addListener(this);
 }
 
 PanelHost::~PanelHost()
 {
-    std::erase(m_state->m_panelHosts, this);
+    m_state->removeListener(this);
 }
 
 void PanelHost::setPanels(const PDEPanelList &panels)
@@ -21,7 +21,7 @@ void PanelHost::setPanels(const PDEPanelList &panels)
     m_panels.assign(panels.begin(), panels.end());
 }
 
-void PanelHost::tellPanels(const std::optional<QString> &keyword, const std::optional<QString> &choice)
+void PanelHost::optionChanged(const std::optional<QString> &keyword, const std::optional<QString> &choice)
 {
     for (const std::weak_ptr<PDEPanel> &panel : m_panels) {
         if (const std::shared_ptr<PDEPanel> alive = panel.lock())

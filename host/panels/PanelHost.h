@@ -15,7 +15,7 @@ namespace host {
 /// The callback object that one bundle's panels are given: what they may ask of the dialog, and their
 /// one way to change a printer option. There is one for each bundle, so that a change is told to
 /// every other bundle's panels and not back to where it came from.
-class PanelHost : public PDEPluginCallback13_v400_ {
+class PanelHost : public PDEPluginCallback13_v400_, public OptionListener {
 public:
     /// For panels of the dialog that the state belongs to; shares the state.
     explicit PanelHost(std::shared_ptr<DialogState> state);
@@ -26,8 +26,8 @@ public:
     /// The panels that were made with this object. They are told of changes from elsewhere as long as
     /// they live; this object does not keep them.
     void setPanels(const PDEPanelList &panels);
-    /// Tells these panels of a change that was made elsewhere.
-    void tellPanels(const std::optional<QString> &keyword, const std::optional<QString> &choice);
+    /// Reports a change that was made elsewhere to these panels.
+    void optionChanged(const std::optional<QString> &keyword, const std::optional<QString> &choice) override;
 
     /// Runs the function, which asks these panels something. What they want to change meanwhile is collected
     /// and not carried out: nothing is marked, recorded, or reported to other panels, and no hook is called.

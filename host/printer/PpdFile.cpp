@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdFile.h"
 
-#include "PpdOptions.h"
 #include "PpdSource.h"
 
 #include <QFileInfo>
@@ -56,9 +55,9 @@ private:
     /// A free choice has its texts under keywords of its own.
     void localizeFreeChoice(ppd_option_t &option, const ppd_coption_t &free) const
     {
-        const QByteArray choice = PpdOptions::freeChoice + QByteArray(option.keyword);
+        const QByteArray choice = freeChoiceName + QByteArray(option.keyword);
         for (int i = 0; i < option.num_choices; ++i) {
-            if (qstricmp(option.choices[i].choice, PpdOptions::freeChoice) == 0)
+            if (qstricmp(option.choices[i].choice, freeChoiceName) == 0)
                 localize(option.choices[i].text, choice.constData(), "True");
         }
         const QByteArray parameters = "Param" + choice;

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "PpdError.h"
+#include "PpdHandle.h"
 #include "PpdPaperSizes.h"
 #include "PpdTranslations.h"
-
-#include <host/base/Result.h>
 
 #include <QByteArray>
 #include <QMarginsF>
 #include <QSizeF>
 #include <QString>
 
-#include <cups/ppd.h>
-
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -21,24 +18,10 @@ namespace host {
 
 class PpdText;
 
-enum class PpdFailure {
-    Missing,    ///< there is no such file
-    NotAFile,   ///< a folder, a pipe or a device
-    Unreadable, ///< no permission, or the medium fails
-    TooLarge,   ///< more bytes or statements than any printer's description
-    Truncated,  ///< ends in the middle of a value, or cannot be unpacked to its end
-    NotAPpd,    ///< libcups does not understand it
-};
-using PpdError = Failure<PpdFailure>;
-
-struct PpdClose {
-    void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
-};
-/// Owns what libcups opened.
-using PpdHandle = std::unique_ptr<ppd_file_t, PpdClose>;
-
 /// The keyword of the option that selects the paper, as PPD 4.3 names it.
 inline constexpr const char *paperKeyword = "PageSize";
+/// The name of the entry that stands for a free choice, as PPD 4.3 names it.
+inline constexpr const char *freeChoiceName = "Custom";
 
 /// A paper of the PPD.
 struct PpdPaper {

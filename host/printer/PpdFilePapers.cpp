@@ -2,7 +2,6 @@
 #include "PpdFile.h"
 
 #include "PpdNumber.h"
-#include "PpdOptions.h"
 
 #include <host/base/Units.h>
 
@@ -13,7 +12,7 @@ namespace host {
 std::optional<PpdPaper> PpdFile::fixedPaper(const QByteArray &name, const QString &text) const
 {
     const std::optional<QSizeF> size = m_paperSizes.size(name);
-    if (!size || name == PpdOptions::freeChoice)
+    if (!size || name == freeChoiceName)
         return std::nullopt;
     return PpdPaper{name, text.isEmpty() ? QString::fromUtf8(name) : text, *size, m_paperSizes.margins(name)};
 }
@@ -85,7 +84,7 @@ std::optional<PpdPaper> PpdFile::markedPaper() const
     // Of the two keywords for one thing, libcups keeps the mark that came last.
     if (!name)
         name = markedChoice(QStringLiteral("PageRegion"));
-    if (name != QLatin1String(PpdOptions::freeChoice))
+    if (name != QLatin1String(freeChoiceName))
         return name ? paper(name->toUtf8()) : std::nullopt;
     const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
     if (!size)

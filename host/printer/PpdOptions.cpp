@@ -198,7 +198,7 @@ std::optional<PpdOption> PpdOptions::option(const QByteArray &keyword) const
     for (int i = 0; i < source->num_choices; ++i) {
         const ppd_choice_t &choice = source->choices[i];
         const QString text = textOr(choice.text, choice.choice);
-        if (hasParameters && qstricmp(choice.choice, freeChoice) == 0)
+        if (hasParameters && qstricmp(choice.choice, freeChoiceName) == 0)
             option.freeText = text;
         else
             option.choices.push_back({choice.choice, text});

@@ -75,9 +75,6 @@ using PpdConstraint = std::vector<PpdConstraintSide>;
 /// make; the PPD is borrowed.
 class PpdOptions {
 public:
-    /// The name of the entry that stands for a free choice.
-    static constexpr const char *freeChoice = "Custom";
-
     explicit PpdOptions(const PpdFile &ppd);
 
     /// The groups that have options, those of subgroups among them.

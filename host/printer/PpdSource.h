@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "PpdFile.h"
+#include "PpdError.h"
+#include "PpdHandle.h"
 #include "PpdText.h"
 
 #include <cups/file.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "VirtualPrinter.h"
+#include "OutputError.h"
 
 #include <platform/OutputFile.h>
 

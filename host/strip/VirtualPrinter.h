@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "OutputError.h"
 #include "StripPdf.h"
-
-#include <host/base/Result.h>
 
 #include <QImage>
 #include <QJsonObject>
 
 namespace host {
-
-enum class OutputFailure {
-    NoFolder, ///< the folder is not there and cannot be made
-    NotWritten,
-};
-using OutputError = Failure<OutputFailure>;
 
 /// The printer that needs no print server: its output is a folder with the label strip as a PDF and the
 /// job's options as JSON.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FaultSweepTest.h"
 
+#include <host/cups/jobs/JobCancellation.h>
+
 #include <QDir>
 
 #include <array>

@@ -96,7 +96,7 @@ QString choiceList(const PpdOption &option)
     for (const PpdChoice &choice : option.choices)
         names.append(QString::fromUtf8(choice.name));
     if (option.freeText)
-        names.append(QLatin1String(PpdOptions::freeChoice) + QStringLiteral(".…"));
+        names.append(QLatin1String(freeChoiceName) + QStringLiteral(".…"));
     if (names.size() > mostChoices)
         names = names.first(mostChoices) << QStringLiteral("…");
     return names.join(QStringLiteral(", "));

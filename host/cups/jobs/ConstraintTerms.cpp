@@ -60,7 +60,7 @@ int ConstraintTerms::addOption(const PpdOption &option)
     for (const PpdChoice &choice : option.choices)
         added.choices.push_back(choice.name);
     if (option.freeText)
-        added.choices.emplace_back(PpdOptions::freeChoice);
+        added.choices.emplace_back(freeChoiceName);
     QHash<QByteArray, int> positions;
     // The first of several stays.
     for (std::size_t i = added.choices.size(); i > 0; --i)

@@ -113,7 +113,7 @@ private:
             known.insert(name(choice).toLower());
         std::vector<int> choices;
         for (int i = 0; i < static_cast<int>(option.choices.size()); ++i) {
-            const bool isFree = name(i).compare(PpdOptions::freeChoice, Qt::CaseInsensitive) == 0;
+            const bool isFree = name(i).compare(freeChoiceName, Qt::CaseInsensitive) == 0;
             if (!isFree && !known.contains(name(i).toLower()))
                 choices.push_back(i);
             known.insert(name(i).toLower());

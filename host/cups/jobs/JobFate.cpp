@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobFate.h"
 
+#include "JobCancellation.h"
 #include "JobSearch.h"
-#include "JobUpload.h"
 
 #include <QCoreApplication>
 

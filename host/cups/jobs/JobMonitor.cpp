@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobMonitor.h"
 
-#include "JobUpload.h"
+#include "JobCancellation.h"
 
 namespace host {
 

@@ -197,17 +197,6 @@ Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry
 
 } // namespace
 
-std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
-                                   BackgroundTask &task)
-{
-    Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
-    if (!connection)
-        return connection.error();
-    IppPointer request = connection.value().newRequest(IPP_OP_CANCEL_JOB, queue, jobId);
-    const Result<IppPointer, CupsError> answer = connection.value().exchange(std::move(request), "/jobs");
-    return answer ? std::nullopt : std::optional(answer.error());
-}
-
 Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
                                  const std::function<void(const UploadProgress &)> &progress)
 {

@@ -27,8 +27,4 @@ struct UploadProgress {
 Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
                                  const std::function<void(const UploadProgress &)> &progress);
 
-/// Takes a job back. Nothing, or why it cannot be.
-std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
-                                   BackgroundTask &task);
-
 } // namespace host

@@ -297,8 +297,8 @@ private:
     /// The controls have been filled for the first time.
     bool set_formatSetting = false;
     // Part of the panel's state that other tools read; nothing here does.
-    bool usb_dec = false;
-    bool column_dec = false;
-    bool checkValues_dec = false;
-    const void *choice_PaperSize = nullptr;
+    [[maybe_unused]] bool usb_dec = false;
+    [[maybe_unused]] bool column_dec = false;
+    [[maybe_unused]] bool checkValues_dec = false;
+    [[maybe_unused]] const void *choice_PaperSize = nullptr;
 };

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cups/ppd.h>
+
+#include <memory>
+
+namespace host {
+
+struct PpdClose {
+    void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
+};
+/// Owns what libcups opened.
+using PpdHandle = std::unique_ptr<ppd_file_t, PpdClose>;
+
+} // namespace host
