@@ -1,4 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
+# shellcheck shell=sh
 # Shared by ./run, ./test and .ci/run: packages, build, tests. Sourced, not executed.
 
 # install_missing_packages ROOT: installs what apt-packages.txt lists and is not there yet.
@@ -62,6 +63,7 @@ run_tests() {
 # results; a program that left none (a script, or one that crashed) counts as one.
 count_results() {
     # From inside the folder, so that blanks in its path do not matter.
+    # shellcheck disable=SC2046 # the list is words
     (cd "$1" && awk '
     function attribute(line, name,    value) {
         if (!match(line, name "=\"[^\"]*\"")) return ""

@@ -5,7 +5,7 @@
 # inputs go to build/fuzz/corpus. An input that fails lies in build/fuzz/findings; the exit status is 1 then.
 # KV_FUZZ_SEED is the seed: 1 by default, so that a short run repeats itself; 0 chooses one at random, for long runs.
 set -eu
-here=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
+here=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
 . "$here/tools/frontdoor.sh"
 seconds=${1:-20}
 [ $# -eq 0 ] || shift

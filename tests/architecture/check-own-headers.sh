@@ -5,9 +5,12 @@
 #   check-own-headers.sh SOURCE-DIRECTORY
 set -eu
 cd -- "$1"
+scratch=$(mktemp)
+trap 'rm -f "$scratch"' EXIT
 checked=0
 failures=0
-for source in $(find platform protocol panels host dialog programs -name '*.cpp'); do
+find platform protocol panels host dialog programs -name '*.cpp' >"$scratch"
+while IFS= read -r source; do
     header=${source%.cpp}.h
     [ -f "$header" ] || continue
     checked=$((checked + 1))
@@ -16,6 +19,6 @@ for source in $(find platform protocol panels host dialog programs -name '*.cpp'
         echo "$source includes something before its own header: $first" >&2
         failures=$((failures + 1))
     }
-done
+done <"$scratch"
 echo "$checked headers, $failures wrong"
 [ "$failures" -eq 0 ] && [ "$checked" -gt 100 ]

@@ -4,7 +4,7 @@
 # prints which of them only libcups opens. The exit status is 1 then. The packages are fetched into a temporary folder
 # and not installed; python3 unpacks them.
 set -eu
-here=$(CDPATH= cd -- "$(dirname -- "$0")/../.." && pwd)
+here=$(CDPATH='' cd -- "$(dirname -- "$0")/../.." && pwd)
 . "$here/tools/frontdoor.sh"
 packages="foomatic-db-compressed-ppds openprinting-ppds hpijs-ppds"
 

@@ -7,7 +7,7 @@
 # break: file, the original, the replacement and the rule, separated by " @@ ". The original must occur
 # exactly once in the file.
 set -eu
-here=$(CDPATH= cd -- "$(dirname -- "$0")/../.." && pwd)
+here=$(CDPATH='' cd -- "$(dirname -- "$0")/../.." && pwd)
 copy=${1:-$(mktemp -d)}
 mkdir -p "$copy"
 git -C "$here" archive HEAD | tar -x -C "$copy"
