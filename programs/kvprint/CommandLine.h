@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/base/Result.h>
 #include <host/cups/jobs/JobOptions.h>
 
 #include <QByteArray>
@@ -10,13 +9,6 @@
 #include <optional>
 
 namespace dialog {
-
-enum class UsageProblem {
-    HelpWanted,    ///< the message is the help text
-    VersionWanted, ///< the message is the version
-    Wrong,         ///< the message says what is wrong
-};
-using UsageError = host::Failure<UsageProblem>;
 
 /// The statuses with which kvprint ends.
 enum class ExitStatus {
@@ -91,13 +83,6 @@ struct CommandLine {
     /// Send in spite of choices that the PPD does not have, and of conflicts.
     bool force = false;
     bool json = false;
-
-    /// Reads the arguments, the program's name first. Needs no application object.
-    static host::Result<CommandLine, UsageError> parse(const QStringList &arguments);
-
-    /// Nothing, or why standard input cannot be printed although no document was named: when it is a
-    /// terminal, the program would seem to hang.
-    std::optional<UsageError> checkInput(bool inputIsTerminal) const;
 };
 
 } // namespace dialog

@@ -2,13 +2,11 @@
 #pragma once
 
 #include "CommandLine.h"
+#include "Complaint.h"
 
 #include <span>
 
 namespace dialog {
-
-/// Nothing when a value was good, otherwise what is wrong with it.
-using Complaint = std::optional<QString>;
 
 /// One option of the command line: a row of the table that parser and help are made from.
 struct CommandOption {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobWords.h"
 
+#include "CommandLine.h"
+
 #include <cups/cups.h>
 
 #include <QCoreApplication>

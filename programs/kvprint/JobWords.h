@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CommandOption.h"
+#include "Complaint.h"
 
 namespace dialog {
+
+struct CommandLine;
 
 // What lp's letters say of a job, with lp's meaning. Each function puts the value where it belongs in the
 // command, or answers what is wrong with it and leaves the command as it was.

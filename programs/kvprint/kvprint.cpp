@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CommandParser.h"
 #include "PrintRun.h"
 #include "StandardStreams.h"
 
@@ -29,7 +30,7 @@ bool hasDisplay()
 /// Whether the arguments ask for the dialog; not when they only make the program tell something.
 bool asksForDialog(const QStringList &arguments)
 {
-    const auto command = dialog::CommandLine::parse(arguments);
+    const auto command = dialog::parseCommandLine(arguments);
     return command && command.value().task == dialog::Task::Print && !command.value().noDialog;
 }
 
@@ -111,10 +112,10 @@ int main(int argc, char **argv)
     dialog::installTranslations(QLocale());
     host::OutOfMemory::translate();
 
-    auto command = dialog::CommandLine::parse(arguments);
+    auto command = dialog::parseCommandLine(arguments);
     if (!command)
         return status(refuse(command.error(), streams), streams);
-    if (const auto error = command.value().checkInput(isatty(STDIN_FILENO) == 1))
+    if (const auto error = checkInput(command.value(), isatty(STDIN_FILENO) == 1))
         return status(refuse(*error, streams), streams);
     command.value().noDialog = command.value().noDialog || !attended;
     const dialog::Console console{[&](const QString &text) { return streams.out(text); },

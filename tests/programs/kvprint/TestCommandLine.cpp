@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <programs/kvprint/CommandHelp.h>
-#include <programs/kvprint/CommandLine.h>
 #include <programs/kvprint/CommandOption.h>
+#include <programs/kvprint/CommandParser.h>
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 host::Result<CommandLine, dialog::UsageError> parse(const QStringList &words)
 {
-    return CommandLine::parse(QStringList{QStringLiteral("kvprint")} + words);
+    return dialog::parseCommandLine(QStringList{QStringLiteral("kvprint")} + words);
 }
 
 host::Result<CommandLine, dialog::UsageError> parse(const char *line)
@@ -259,14 +259,14 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
 
 TEST(CommandLine, ATerminalIsNoDocument)
 {
-    const auto hint = read("-d tape").checkInput(true);
+    const auto hint = checkInput(read("-d tape"), true);
     ASSERT_TRUE(hint);
     EXPECT_EQ(hint->kind, UsageProblem::Wrong);
     EXPECT_TRUE(hint->message.contains(QStringLiteral("\"-\""))) << qPrintable(hint->message);
-    EXPECT_TRUE(read("--dry-run").checkInput(true));
-    EXPECT_FALSE(read("-d tape").checkInput(false));
+    EXPECT_TRUE(checkInput(read("--dry-run"), true));
+    EXPECT_FALSE(checkInput(read("-d tape"), false));
     for (const char *const line : {"-d tape -", "a.pdf", "--list", "-i 5 -q 1"})
-        EXPECT_FALSE(read(line).checkInput(true)) << line;
+        EXPECT_FALSE(checkInput(read(line), true)) << line;
 }
 
 TEST(CommandLine, HelpNamesEveryOptionAndExitStatus)

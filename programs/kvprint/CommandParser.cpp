@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CommandLine.h"
+#include "CommandParser.h"
 
 #include "CommandHelp.h"
 #include "CommandOption.h"
@@ -13,7 +13,7 @@ namespace dialog {
 
 namespace {
 
-struct CommandLineText {
+struct CommandParserText {
     Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
 };
 
@@ -65,9 +65,10 @@ private:
         const CommandOption *const option = findOption(QStringView(name));
         if (!option)
             m_error =
-                wrong(CommandLineText::tr("There is no option \"%1\"").arg(QStringLiteral("--") + name));
+                wrong(CommandParserText::tr("There is no option \"%1\"").arg(QStringLiteral("--") + name));
         else if (!option->value && equals >= 0)
-            m_error = wrong(CommandLineText::tr("The option \"%1\" takes no value").arg(option->spelling()));
+            m_error =
+                wrong(CommandParserText::tr("The option \"%1\" takes no value").arg(option->spelling()));
         else
             use(*option, equals < 0 ? std::nullopt : std::optional(word.mid(equals + 1)));
     }
@@ -77,7 +78,7 @@ private:
         for (qsizetype i = 1; i < word.size() && !m_error; ++i) {
             const CommandOption *const option = findOption(word[i]);
             if (!option) {
-                m_error = wrong(CommandLineText::tr("There is no option \"%1\"")
+                m_error = wrong(CommandParserText::tr("There is no option \"%1\"")
                                     .arg(QStringLiteral("-") + word.mid(i, 1)));
                 return;
             }
@@ -97,7 +98,7 @@ private:
         }
         if (option.value && !value) {
             if (m_words.isEmpty()) {
-                m_error = wrong(CommandLineText::tr("The option \"%1\" needs a value: %2")
+                m_error = wrong(CommandParserText::tr("The option \"%1\" needs a value: %2")
                                     .arg(option.spelling(), QString::fromLatin1(option.value)));
                 return;
             }
@@ -124,13 +125,13 @@ private:
             if (option->printer == CommandOption::Printer::Queue && m_command.ppd)
                 return notTogether(*option, QStringLiteral("--ppd"));
             if (option->printer == CommandOption::Printer::Virtual && !m_command.ppd)
-                return wrong(
-                    CommandLineText::tr("The option \"%1\" is about the virtual printer and needs \"--ppd\"")
-                        .arg(option->spelling()));
+                return wrong(CommandParserText::tr(
+                                 "The option \"%1\" is about the virtual printer and needs \"--ppd\"")
+                                 .arg(option->spelling()));
         }
         if (m_command.settings.hold && holdNeedsJob(*m_command.settings.hold) && !m_command.jobToChange)
             return wrong(
-                CommandLineText::tr("-H: \"%1\" is about a job that was sent before and needs \"-i\"")
+                CommandParserText::tr("-H: \"%1\" is about a job that was sent before and needs \"-i\"")
                     .arg(*m_command.settings.hold));
         return checkDocuments();
     }
@@ -138,10 +139,10 @@ private:
     std::optional<UsageError> checkDocuments() const
     {
         if (!takesDocuments(m_command.task) && !m_command.documents.isEmpty())
-            return wrong(CommandLineText::tr("\"%1\" takes no documents, and \"%2\" was named")
+            return wrong(CommandParserText::tr("\"%1\" takes no documents, and \"%2\" was named")
                              .arg(taskSpelling(), m_command.documents.constFirst()));
         if (m_command.documents.count(QStringLiteral("-")) > 1)
-            return wrong(CommandLineText::tr("Standard input (\"-\") can be printed only once"));
+            return wrong(CommandParserText::tr("Standard input (\"-\") can be printed only once"));
         return std::nullopt;
     }
 
@@ -157,7 +158,7 @@ private:
 
     static UsageError notTogether(const CommandOption &option, const QString &other)
     {
-        return wrong(CommandLineText::tr("The option \"%1\" does not go together with \"%2\"")
+        return wrong(CommandParserText::tr("The option \"%1\" does not go together with \"%2\"")
                          .arg(option.spelling(), other));
     }
 
@@ -172,7 +173,7 @@ private:
                     tasks.append(each.spelling());
             }
         }
-        return wrong(CommandLineText::tr("The option \"%1\" goes only together with one of: %2")
+        return wrong(CommandParserText::tr("The option \"%1\" goes only together with one of: %2")
                          .arg(option.spelling(), tasks.join(QStringLiteral(", "))));
     }
 
@@ -184,16 +185,16 @@ private:
 
 } // namespace
 
-host::Result<CommandLine, UsageError> CommandLine::parse(const QStringList &arguments)
+host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &arguments)
 {
     return Reader(arguments.mid(1)).read();
 }
 
-std::optional<UsageError> CommandLine::checkInput(bool inputIsTerminal) const
+std::optional<UsageError> checkInput(const CommandLine &command, bool inputIsTerminal)
 {
-    if (!takesDocuments(task) || !documents.isEmpty() || !inputIsTerminal)
+    if (!takesDocuments(command.task) || !command.documents.isEmpty() || !inputIsTerminal)
         return std::nullopt;
-    return wrong(CommandLineText::tr("No document was named; name a file, or \"-\" to type one in"));
+    return wrong(CommandParserText::tr("No document was named; name a file, or \"-\" to type one in"));
 }
 
 } // namespace dialog

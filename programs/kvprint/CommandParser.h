@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CommandLine.h"
+
+#include <host/base/Result.h>
+
+namespace dialog {
+
+enum class UsageProblem {
+    HelpWanted,    ///< the message is the help text
+    VersionWanted, ///< the message is the version
+    Wrong,         ///< the message says what is wrong
+};
+using UsageError = host::Failure<UsageProblem>;
+
+/// Reads the arguments, the program's name first. Needs no application object.
+host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &arguments);
+
+/// Nothing, or why standard input cannot be printed although the command names no document: when standard
+/// input is a terminal, the program would seem to hang.
+std::optional<UsageError> checkInput(const CommandLine &command, bool inputIsTerminal);
+
+} // namespace dialog

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace dialog {
+
+/// Nothing when a value was good, otherwise what is wrong with it.
+using Complaint = std::optional<QString>;
+
+} // namespace dialog
