@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OptionControl.h"
 
-#include "ChoiceControl.h"
 #include "ConflictNote.h"
-#include "ManyControl.h"
-#include "SwitchControl.h"
 
 #include <QVBoxLayout>
 
 namespace dialog {
-
-OptionControl *OptionControl::make(const host::PpdOption &option, QWidget *parent)
-{
-    if (option.kind == host::PpdOptionKind::PickMany)
-        return new ManyControl(option, parent);
-    if (SwitchControl::suits(option))
-        return new SwitchControl(option, parent);
-    return new ChoiceControl(option, parent);
-}
 
 OptionControl::OptionControl(const host::PpdOption &option, QWidget *parent)
     : QWidget(parent)

@@ -17,9 +17,6 @@ class OptionControl : public QWidget {
     Q_OBJECT
 
 public:
-    /// The control that suits the option.
-    static OptionControl *make(const host::PpdOption &option, QWidget *parent);
-
     const QByteArray &keyword() const { return m_keyword; }
     /// The widget that a label before the control belongs to; null for controls that bear their own title.
     virtual QWidget *labelled() const { return nullptr; }

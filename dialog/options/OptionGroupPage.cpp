@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OptionGroupPage.h"
 
-#include "OptionControl.h"
+#include "OptionControls.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -101,7 +101,7 @@ int OptionGroupPage::labelWidth() const
 
 OptionControl *OptionGroupPage::addControl(const host::PpdOption &option)
 {
-    auto *const control = OptionControl::make(option, m_form->parentWidget());
+    auto *const control = makeOptionControl(option, m_form->parentWidget());
     m_controls.push_back(control);
     connect(control, &OptionControl::chosen, this,
             [this, control](const QByteArray &value) { Q_EMIT chosen(control->keyword(), value); });

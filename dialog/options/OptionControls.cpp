@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OptionControls.h"
+
+#include "ChoiceControl.h"
+#include "ManyControl.h"
+#include "SwitchControl.h"
+
+namespace dialog {
+
+OptionControl *makeOptionControl(const host::PpdOption &option, QWidget *parent)
+{
+    if (option.kind == host::PpdOptionKind::PickMany)
+        return new ManyControl(option, parent);
+    if (SwitchControl::suits(option))
+        return new SwitchControl(option, parent);
+    return new ChoiceControl(option, parent);
+}
+
+} // namespace dialog
