@@ -1,20 +1,28 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WaitingWords.h"
 
-#include "PrintDialog.h"
-
 #include <host/cups/queues/QueueSession.h>
 
+#include <QCoreApplication>
+
 namespace dialog {
+
+namespace {
+
+struct WaitingText {
+    Q_DECLARE_TR_FUNCTIONS(dialog::PrintDialog)
+};
+
+} // namespace
 
 QString waitingWords(const host::QueueSession *session)
 {
     if (session && session->ppdError())
-        return PrintDialog::tr("The printer's description is not known.");
+        return WaitingText::tr("The printer's description is not known.");
     if (!session || session->isSettled())
-        return session && session->chosen() ? PrintDialog::tr("Waiting for the printer's description…")
-                                            : PrintDialog::tr("No printer is chosen.");
-    return PrintDialog::tr("Waiting for the print server's answer…");
+        return session && session->chosen() ? WaitingText::tr("Waiting for the printer's description…")
+                                            : WaitingText::tr("No printer is chosen.");
+    return WaitingText::tr("Waiting for the print server's answer…");
 }
 
 } // namespace dialog
