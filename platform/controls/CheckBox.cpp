@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CheckBox.h"
 
-#include "CheckBoxAccess.h"
-
 #include <QHelpEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -13,7 +11,6 @@ namespace platform {
 CheckBox::CheckBox(QWidget *parent)
     : QCheckBox(parent)
 {
-    CheckBoxAccess::install();
 }
 
 QString CheckBox::shownTitle() const

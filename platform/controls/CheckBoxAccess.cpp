@@ -3,6 +3,8 @@
 
 #include "CheckBox.h"
 
+#include <QCoreApplication>
+
 namespace platform {
 
 namespace {
@@ -12,6 +14,14 @@ QAccessibleInterface *makeCheckBoxAccess(const QString &, QObject *object)
     auto *const box = qobject_cast<CheckBox *>(object);
     return box ? new CheckBoxAccess(box) : nullptr;
 }
+
+void installCheckBoxAccess()
+{
+    QAccessible::installFactory(makeCheckBoxAccess);
+}
+
+// Runs when the application starts, or at once when the library is loaded later than that.
+Q_COREAPP_STARTUP_FUNCTION(installCheckBoxAccess)
 
 /// The title without the marks of shortcuts; a doubled ampersand is a letter.
 QString withoutMnemonics(QString title)
@@ -26,11 +36,6 @@ QString withoutMnemonics(QString title)
 CheckBoxAccess::CheckBoxAccess(CheckBox *box)
     : QAccessibleWidget(box, QAccessible::CheckBox)
 {
-}
-
-void CheckBoxAccess::install()
-{
-    QAccessible::installFactory(makeCheckBoxAccess);
 }
 
 CheckBox *CheckBoxAccess::box() const

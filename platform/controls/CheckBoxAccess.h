@@ -11,10 +11,8 @@ class CheckBox;
 /// the box without clicked(), and the panel would not receive the choice.
 class CheckBoxAccess : public QAccessibleWidget {
 public:
+    /// Qt creates it for every CheckBox that it is asked about: it is registered when the application starts.
     explicit CheckBoxAccess(CheckBox *box);
-
-    /// Has Qt use this class for every CheckBox from now on. May be called again.
-    static void install();
 
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PopUpButton.h"
 
-#include "PopUpButtonAccess.h"
-
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
@@ -46,7 +44,6 @@ private:
 PopUpButton::PopUpButton(QWidget *parent)
     : QComboBox(parent)
 {
-    PopUpButtonAccess::install();
     connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { assignTags(); });
 }
 

@@ -4,6 +4,7 @@
 #include "PopUpButton.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 
 namespace platform {
 
@@ -15,16 +16,19 @@ QAccessibleInterface *makePopUpButtonAccess(const QString &, QObject *object)
     return popUp ? new PopUpButtonAccess(popUp) : nullptr;
 }
 
+void installPopUpButtonAccess()
+{
+    QAccessible::installFactory(makePopUpButtonAccess);
+}
+
+// Runs when the application starts, or at once when the library is loaded later than that.
+Q_COREAPP_STARTUP_FUNCTION(installPopUpButtonAccess)
+
 } // namespace
 
 PopUpButtonAccess::PopUpButtonAccess(PopUpButton *popUp)
     : QAccessibleWidget(popUp, QAccessible::ComboBox)
 {
-}
-
-void PopUpButtonAccess::install()
-{
-    QAccessible::installFactory(makePopUpButtonAccess);
 }
 
 PopUpButton *PopUpButtonAccess::popUp() const

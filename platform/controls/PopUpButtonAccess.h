@@ -12,10 +12,9 @@ class PopUpButton;
 /// item's position. Setting either chooses the item as the user does, unless the item is greyed.
 class PopUpButtonAccess : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
+    /// Qt creates it for every PopUpButton that it is asked about: it is registered when the application
+    /// starts.
     explicit PopUpButtonAccess(PopUpButton *popUp);
-
-    /// Has Qt use this class for every PopUpButton from now on. May be called again.
-    static void install();
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     int childCount() const override { return 1; }

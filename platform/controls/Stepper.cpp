@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Stepper.h"
 
-#include "StepperAccess.h"
-
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -28,7 +27,6 @@ constexpr double cornerRadius = 3.0;
 Stepper::Stepper(QWidget *parent)
     : QWidget(parent)
 {
-    StepperAccess::install();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

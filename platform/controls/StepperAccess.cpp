@@ -3,6 +3,8 @@
 
 #include "Stepper.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace platform {
@@ -15,16 +17,19 @@ QAccessibleInterface *makeStepperAccess(const QString &, QObject *object)
     return stepper ? new StepperAccess(stepper) : nullptr;
 }
 
+void installStepperAccess()
+{
+    QAccessible::installFactory(makeStepperAccess);
+}
+
+// Runs when the application starts, or at once when the library is loaded later than that.
+Q_COREAPP_STARTUP_FUNCTION(installStepperAccess)
+
 } // namespace
 
 StepperAccess::StepperAccess(Stepper *stepper)
     : QAccessibleWidget(stepper, QAccessible::SpinBox)
 {
-}
-
-void StepperAccess::install()
-{
-    QAccessible::installFactory(makeStepperAccess);
 }
 
 Stepper *StepperAccess::stepper() const

@@ -11,10 +11,8 @@ class Stepper;
 /// down. Whatever changes it is a step of the user.
 class StepperAccess : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
+    /// Qt creates it for every Stepper that it is asked about: it is registered when the application starts.
     explicit StepperAccess(Stepper *stepper);
-
-    /// Has Qt use this class for every Stepper from now on. May be called again.
-    static void install();
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TextField.h"
 
-#include "TextFieldAccess.h"
-
 namespace platform {
 
 TextField::TextField(QWidget *parent)
     : QLineEdit(parent)
 {
-    TextFieldAccess::install();
 }
 
 void TextField::enterText(const QString &text)

@@ -3,6 +3,8 @@
 
 #include "TextField.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace platform {
@@ -15,16 +17,19 @@ QAccessibleInterface *makeTextFieldAccess(const QString &, QObject *object)
     return field ? new TextFieldAccess(field) : nullptr;
 }
 
+void installTextFieldAccess()
+{
+    QAccessible::installFactory(makeTextFieldAccess);
+}
+
+// Runs when the application starts, or at once when the library is loaded later than that.
+Q_COREAPP_STARTUP_FUNCTION(installTextFieldAccess)
+
 } // namespace
 
 TextFieldAccess::TextFieldAccess(TextField *field)
     : QAccessibleWidget(field, QAccessible::EditableText)
 {
-}
-
-void TextFieldAccess::install()
-{
-    QAccessible::installFactory(makeTextFieldAccess);
 }
 
 TextField *TextFieldAccess::field() const

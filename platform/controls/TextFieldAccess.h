@@ -13,10 +13,9 @@ class TextFieldAccess : public QAccessibleWidget,
                         public QAccessibleTextInterface,
                         public QAccessibleEditableTextInterface {
 public:
+    /// Qt creates it for every TextField that it is asked about: it is registered when the application
+    /// starts.
     explicit TextFieldAccess(TextField *field);
-
-    /// Has Qt use this class for every TextField from now on. May be called again.
-    static void install();
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;

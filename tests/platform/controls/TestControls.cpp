@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // The platform's own controls, driven by real events.
 #include <platform/CheckBox.h>
+#include <platform/CheckBoxAccess.h>
 #include <platform/Geometry.h>
 #include <platform/PopUpButton.h>
+#include <platform/PopUpButtonAccess.h>
 #include <platform/StaticText.h>
 #include <platform/Stepper.h>
+#include <platform/StepperAccess.h>
+#include <platform/TextField.h>
+#include <platform/TextFieldAccess.h>
 #include <tests/support/Waiting.h>
 
 #include <QAbstractItemView>
@@ -45,6 +50,13 @@ std::unique_ptr<PopUpButton> makePopUp()
     popUp->setItemTags({QStringLiteral("4"), QStringLiteral("8"), QStringLiteral("12")});
     popUp->addItems({QStringLiteral("four"), QStringLiteral("eight"), QStringLiteral("twelve")});
     return popUp;
+}
+
+template<typename Access, typename Control>
+bool isSpokenBy()
+{
+    Control control;
+    return dynamic_cast<Access *>(QAccessible::queryAccessibleInterface(&control)) != nullptr;
 }
 
 } // namespace
@@ -201,6 +213,14 @@ TEST(CheckBox, ATitleTooLongForThePanelEndsInAnEllipsis)
     EXPECT_EQ(box.grab().toImage(), elided) << "only the beginning that both share is visible";
     box.setText(QStringLiteral("kurz"));
     EXPECT_NE(box.grab().toImage(), elided);
+}
+
+TEST(Controls, AreAccessibleFromTheirFirstMoment)
+{
+    EXPECT_TRUE((isSpokenBy<platform::CheckBoxAccess, platform::CheckBox>()));
+    EXPECT_TRUE((isSpokenBy<platform::PopUpButtonAccess, PopUpButton>()));
+    EXPECT_TRUE((isSpokenBy<platform::StepperAccess, Stepper>()));
+    EXPECT_TRUE((isSpokenBy<platform::TextFieldAccess, platform::TextField>()));
 }
 
 TEST(Geometry, FramesAreMeasuredFromTheBottomEdge)
