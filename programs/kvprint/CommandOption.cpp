@@ -21,12 +21,12 @@ constexpr unsigned bit(Task task)
     return 1U << static_cast<unsigned>(task);
 }
 
-constexpr unsigned printing = bit(Task::Print);
-constexpr unsigned sending = bit(Task::Print) | bit(Task::DryRun);
-constexpr unsigned documents = sending | bit(Task::Summary);
-constexpr unsigned jobs = documents | bit(Task::ChangeJob);
-constexpr unsigned telling = bit(Task::List) | bit(Task::Summary) | bit(Task::DryRun);
-constexpr unsigned all = jobs | telling;
+constexpr unsigned printingTasks = bit(Task::Print);
+constexpr unsigned sendingTasks = bit(Task::Print) | bit(Task::DryRun);
+constexpr unsigned documentTasks = sendingTasks | bit(Task::Summary);
+constexpr unsigned jobTasks = documentTasks | bit(Task::ChangeJob);
+constexpr unsigned reportTasks = bit(Task::List) | bit(Task::Summary) | bit(Task::DryRun);
+constexpr unsigned allTasks = jobTasks | reportTasks;
 
 template<auto Field>
 Complaint takeText(CommandLine &command, const QString &value)
@@ -91,52 +91,52 @@ constexpr auto Any = CommandOption::Printer::Any;
 constexpr auto Queue = CommandOption::Printer::Queue;
 constexpr auto Virtual = CommandOption::Printer::Virtual;
 
-constexpr CommandOption options[] = {
+constexpr CommandOption optionTable[] = {
     {'d', nullptr, "QUEUE[/INSTANCE]",
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "The queue to print on, with a named set of options. The default queue without it."),
-     documents, Queue, takeDestination},
-    {'h', nullptr, "HOST[:PORT]", QT_TRANSLATE_NOOP("dialog::CommandLine", "The print server."), all, Queue,
-     takeText<&CommandLine::server>},
-    {'U', nullptr, "USER", QT_TRANSLATE_NOOP("dialog::CommandLine", "The user for whom is printed."), all,
-     Queue, takeText<&CommandLine::user>},
+     documentTasks, Queue, takeDestination},
+    {'h', nullptr, "HOST[:PORT]", QT_TRANSLATE_NOOP("dialog::CommandLine", "The print server."), allTasks,
+     Queue, takeText<&CommandLine::server>},
+    {'U', nullptr, "USER", QT_TRANSLATE_NOOP("dialog::CommandLine", "The user for whom is printed."),
+     allTasks, Queue, takeText<&CommandLine::user>},
     {'E', nullptr, nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Encrypts the connection to the print server."), all, Queue,
-     takeFlag<&CommandLine::encrypt>},
+     QT_TRANSLATE_NOOP("dialog::CommandLine", "Encrypts the connection to the print server."), allTasks,
+     Queue, takeFlag<&CommandLine::encrypt>},
     {0, "paper", "NAME",
      QT_TRANSLATE_NOOP(
          "dialog::CommandLine",
          "The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes."),
-     jobs, Any, takePaper},
-    {'n', nullptr, "COPIES", QT_TRANSLATE_NOOP("dialog::CommandLine", "The number of copies."), jobs, Any,
+     jobTasks, Any, takePaper},
+    {'n', nullptr, "COPIES", QT_TRANSLATE_NOOP("dialog::CommandLine", "The number of copies."), jobTasks, Any,
      takeCopies},
     {'P', nullptr, "PAGES", QT_TRANSLATE_NOOP("dialog::CommandLine", "The pages to print, as in 1-3,5,8-."),
-     jobs, Any, takePages},
+     jobTasks, Any, takePages},
     {'o', nullptr, "NAME=VALUE",
      QT_TRANSLATE_NOOP(
          "dialog::CommandLine",
          "An option of the PPD or of the print server; several in one, with blanks between them, or one "
          "by one."),
-     jobs, Any, takeOptions},
-    {'t', nullptr, "TITLE", QT_TRANSLATE_NOOP("dialog::CommandLine", "The job's name in the queue."), jobs,
-     Any, takeTitle},
+     jobTasks, Any, takeOptions},
+    {'t', nullptr, "TITLE", QT_TRANSLATE_NOOP("dialog::CommandLine", "The job's name in the queue."),
+     jobTasks, Any, takeTitle},
     {'q', nullptr, "PRIORITY",
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "The job's priority, from 1 to 100 (first)."), jobs, Any,
+     QT_TRANSLATE_NOOP("dialog::CommandLine", "The job's priority, from 1 to 100 (first)."), jobTasks, Any,
      takePriority},
     {'H', nullptr, "WHEN",
      QT_TRANSLATE_NOOP(
          "dialog::CommandLine",
          "When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent "
          "before also resume and restart."),
-     jobs, Any, takeHold},
+     jobTasks, Any, takeHold},
     {'m', nullptr, nullptr,
      QT_TRANSLATE_NOOP("dialog::CommandLine", "Sends a mail when the job is over; -s is part of it."),
-     sending | bit(Task::ChangeJob), Queue, takeMail},
-    {'s', nullptr, nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Does not tell the job's number."), all,
-     Any, takeFlag<&CommandLine::quiet>},
+     sendingTasks | bit(Task::ChangeJob), Queue, takeMail},
+    {'s', nullptr, nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Does not tell the job's number."),
+     allTasks, Any, takeFlag<&CommandLine::quiet>},
     {'c', nullptr, nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Accepted for lp's sake: documents are always copied."), all,
-     Any, takeCopyFlag},
+     QT_TRANSLATE_NOOP("dialog::CommandLine", "Accepted for lp's sake: documents are always copied."),
+     allTasks, Any, takeCopyFlag},
     {'i', nullptr, "[QUEUE-]JOB",
      QT_TRANSLATE_NOOP("dialog::CommandLine", "Changes a job that was sent before."), bit(Task::ChangeJob),
      Queue, takeJob},
@@ -151,7 +151,7 @@ constexpr CommandOption options[] = {
     {0, "no-dialog", nullptr,
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "Prints at once, with the settings that the dialog would open with."),
-     all, Any, takeFlag<&CommandLine::noDialog>},
+     allTasks, Any, takeFlag<&CommandLine::noDialog>},
     {0, "list", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Lists the queues and how they are."),
      bit(Task::List), Queue, takeTask<Task::List>},
     {0, "summary", nullptr,
@@ -161,31 +161,32 @@ constexpr CommandOption options[] = {
     {0, "dry-run", nullptr,
      QT_TRANSLATE_NOOP("dialog::CommandLine", "Does everything but sending, and tells what would be sent."),
      bit(Task::DryRun), Any, takeTask<Task::DryRun>},
-    {0, "json", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Tells it as JSON."), telling, Any,
+    {0, "json", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Tells it as JSON."), reportTasks, Any,
      takeFlag<&CommandLine::json>},
     {0, "force", nullptr,
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "Sends even what the printer does not have, and what conflicts."),
-     sending | bit(Task::ChangeJob), Any, takeFlag<&CommandLine::force>},
+     sendingTasks | bit(Task::ChangeJob), Any, takeFlag<&CommandLine::force>},
     {0, "screenshot", "OUT.png",
      QT_TRANSLATE_NOOP("dialog::CommandLine", "Saves a picture of the dialog, as it opens, in a PNG file."),
-     documents, Any, takeText<&CommandLine::screenshot>},
+     documentTasks, Any, takeText<&CommandLine::screenshot>},
     {0, "bundle", "DIR",
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "The bundle with the cut-options panel, or the folder it is in."),
-     documents, Any, takeText<&CommandLine::bundle>},
+     documentTasks, Any, takeText<&CommandLine::bundle>},
     {0, "ppd", "FILE",
      QT_TRANSLATE_NOOP("dialog::CommandLine",
                        "A PPD file, plain or gzip: prints on a virtual printer instead of a queue."),
-     documents, Any, takeText<&CommandLine::ppd>},
+     documentTasks, Any, takeText<&CommandLine::ppd>},
     {0, "output", "DIR",
      QT_TRANSLATE_NOOP(
          "dialog::CommandLine",
          "The folder for the virtual printer's strip.pdf and job.json, made when it is not there. A new "
          "folder among the user's data without it."),
-     printing, Virtual, takeText<&CommandLine::output>},
-    {0, "help", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Shows this help."), all, Any, nullptr},
-    {0, "version", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Shows the version."), all, Any,
+     printingTasks, Virtual, takeText<&CommandLine::output>},
+    {0, "help", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Shows this help."), allTasks, Any,
+     nullptr},
+    {0, "version", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Shows the version."), allTasks, Any,
      nullptr},
 };
 
@@ -208,25 +209,25 @@ bool CommandOption::asksFor(Task task) const
 
 std::span<const CommandOption> commandOptions()
 {
-    return options;
+    return optionTable;
 }
 
 const CommandOption *findOption(QChar letter)
 {
     const auto *const found =
-        std::find_if(std::begin(options), std::end(options), [&](const CommandOption &each) {
+        std::find_if(std::begin(optionTable), std::end(optionTable), [&](const CommandOption &each) {
             return each.letter != 0 && letter == QLatin1Char(each.letter);
         });
-    return found == std::end(options) ? nullptr : found;
+    return found == std::end(optionTable) ? nullptr : found;
 }
 
 const CommandOption *findOption(QStringView name)
 {
     const auto *const found =
-        std::find_if(std::begin(options), std::end(options), [&](const CommandOption &each) {
+        std::find_if(std::begin(optionTable), std::end(optionTable), [&](const CommandOption &each) {
             return each.name && name == QLatin1String(each.name);
         });
-    return found == std::end(options) ? nullptr : found;
+    return found == std::end(optionTable) ? nullptr : found;
 }
 
 } // namespace dialog

@@ -144,7 +144,7 @@ Complaint takeLandscape(CommandLine &command, const QString &value)
                                  command.settings.orientation);
 }
 
-Complaint takePaper(CommandLine &command, const QString &value)
+Complaint takeMedia(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return JobWordsText::tr("it names no paper");
@@ -152,7 +152,7 @@ Complaint takePaper(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-Complaint takeTitle(CommandLine &command, const QString &value)
+Complaint takeJobName(CommandLine &command, const QString &value)
 {
     if (!value.isEmpty())
         command.title = value;
@@ -175,7 +175,7 @@ constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)>
     {"outputorder", takeOrder},
     {"job-priority", takePriority},
     {"job-hold-until", takeHoldOption},
-    {"job-name", takeTitle},
+    {"job-name", takeJobName},
     {"collate", takeCollate},
     {"multiple-document-handling", takeHandling},
     {"orientation-requested", takeOrientation},
@@ -183,9 +183,9 @@ constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)>
     {"landscape", takeLandscape},
     {"raw", refuseFormat},
     {"document-format", refuseFormat},
-    {"PageSize", takePaper},
-    {"PageRegion", takePaper},
-    {"media", takePaper},
+    {"PageSize", takeMedia},
+    {"PageRegion", takeMedia},
+    {"media", takeMedia},
 };
 
 /// Where a later option takes the place of an earlier one.
