@@ -54,9 +54,6 @@ function(kv_room path)
     target_include_directories(kv_${name} PRIVATE "${root}")
     kv_use(kv_${name} PUBLIC ${arg_USES})
     target_link_libraries(kv_${name} PUBLIC ${arg_LIBRARIES} PRIVATE kv_compiler)
-    if(KV_PRECOMPILE AND NOT arg_PART_OF AND TARGET kv_common_headers)
-        target_precompile_headers(kv_${name} REUSE_FROM kv_common_headers)
-    endif()
 endfunction()
 
 # kv_use(TARGET PUBLIC|PRIVATE|INTERFACE ROOM...): links the rooms, and lets the target itself include their
