@@ -7,16 +7,19 @@
 
 #include <QObject>
 
-/// What the bundle's library exports: makes principal objects whose panel is the cut-options panel.
+/// The object that the library of the bundle exports. It makes principal objects whose panel is the
+/// cut-options panel.
 class BundleEntry : public QObject, public PDEPlugInFactory {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID PDEPlugInFactory_iid FILE "bundle.json")
     Q_INTERFACES(PDEPlugInFactory)
 
 public:
-    /// Made once, when the library is loaded: from here on layout files can use the bundle's text fields.
+    /// Constructed once, when the library is loaded. Registers the text fields of the bundle, so that layout
+    /// files can use them.
     BundleEntry();
 
+    /// The factory protocol; see PDEPlugInFactory.
     std::unique_ptr<PDEPlugIn> createPlugIn() override;
     PDEPanelInspection *panelInspection() override { return &m_inspection; }
 

@@ -3,7 +3,7 @@
 
 #include <protocol/PDEPanelInspection.h>
 
-/// The bundle's look inside its cut-options panel.
+/// Gives tools access to the internal state of the cut-options panel; see PDEPanelInspection.
 class PanelInspection : public PDEPanelInspection {
 public:
     QJsonObject panelState(PDEPanel *panel) const override;

@@ -6,24 +6,27 @@
 class QCheckBox;
 class QWidget;
 
-/// Reading and writing controls that may not be loaded. A control that is not there reads as visible,
-/// disabled and off, and writing to it does nothing.
+/// Functions that read and write controls that may not be loaded. A null control reads as visible, disabled
+/// and off; writing to it does nothing.
 namespace controls {
 
+/// Whether the control itself is hidden, regardless of its parents; false for null.
 bool isHidden(const QWidget *control);
-/// The control's own enabled flag, whatever its surroundings are.
+/// Whether the control itself is enabled, regardless of its parents.
 bool isEnabled(const QWidget *control);
-/// Whether the control is there and not hidden itself.
+/// Whether the control is loaded and not hidden itself.
 bool isShown(const QWidget *control);
-/// 1 when the box is ticked, else 0.
+/// Returns 1 if the box is checked, otherwise 0.
 int state(const QCheckBox *box);
 
-/// Ticks the box for every index but 0, without telling anybody.
+/// Checks the box for every index except 0. Does not emit clicked().
 void setState(QCheckBox *box, int index);
+/// Enables or disables the control itself.
 void setEnabled(QWidget *control, bool enabled);
-/// Sets the enabled flag only where it differs. Answers whether it did.
+/// Enables or disables the control if its state differs. Returns whether it was changed.
 bool setEnabledIfDifferent(QWidget *control, bool enabled);
-/// Sets the title as it is written: an ampersand is a letter, not the mark of a shortcut.
+/// Sets the title literally: an ampersand is displayed and does not define a mnemonic. title() returns it in
+/// the same form.
 void setTitle(QCheckBox *box, const QString &title);
 QString title(const QCheckBox *box);
 

@@ -61,7 +61,7 @@ const std::array<Panel::OptionRow, OptionCount> Panel::optionTable = {{
 
 namespace {
 
-/// The part of a device URI before its first colon, exactly as written.
+/// Returns the part of a device URI before its first colon, unchanged; empty without a colon.
 QString schemeOf(const QString &uri)
 {
     return uri.left(std::max<qsizetype>(uri.indexOf(u':'), 0));
@@ -112,7 +112,8 @@ bool OptionPDE13_v400_::init(std::shared_ptr<PDEPluginCallback13_v400_> callback
 OptionPDE13_v400_::~OptionPDE13_v400_()
 {
     NotificationCenter::defaultCenter().removeObserver(this);
-    // The view goes while the panel that its controls report to is still whole; the preview is part of it.
+    // The view, which includes the preview, is deleted first: its controls report to the panel and need it
+    // complete.
     delete kPDEView.data();
 }
 
@@ -125,8 +126,8 @@ std::optional<QStringList> OptionPDE13_v400_::supportedPPDOptionKeys()
     for (const OptionRow &row : optionTable) {
         if (this->*row.option)
             keys.append(QLatin1String(row.keyword));
-        // The cut-every box writes the automatic cut, so its keyword is the panel's even where the PPD lacks
-        // it.
+        // The cut-every box writes the automatic cut, so the panel handles its keyword even if the PPD does
+        // not define it.
         if (row.kind == OptionKind::CutLabel && mCutEvery_Option && !mAutoCut_Option)
             keys.append(QLatin1String(OptionPDE13_v400_::row(OptionKind::AutoCut).keyword));
     }

@@ -20,29 +20,30 @@
 #include <array>
 #include <memory>
 
-/// The cut-options panel: how labels are cut and finished.
+/// The cut-options panel: it sets how labels are cut and finished.
 ///
-/// Nine options of the printer's PPD stand in nine rows, each with a check box; a row is there exactly when
-/// the PPD defines its keyword. The PPD's markings are the panel's state: a click hands the choice to
-/// the dialog, which marks it, and the row is refreshed from what is then marked. A pop-up offers ready-made
-/// combinations, a picture shows the one that is set, and rules grey what the paper or another option
-/// excludes.
+/// It has a row with a check box for each of nine options of the printer's PPD. A row is visible only if the
+/// PPD defines its keyword. The marks of the PPD are the panel's state: on a click the panel passes the
+/// choice to the dialog, which marks it, and the row is updated from the marked choice. A pop-up button
+/// offers predefined combinations, a picture shows the current one, and rules disable the controls that
+/// conflict with the paper or with another option.
 ///
-/// All rows work through one table (OptionRow), so that a new option is a new row. Controls that are not
-/// loaded yet read as visible, disabled and off, and are left alone when written, since a dialog may
-/// save or ask for the summary before it ever shows the panel.
+/// All rows are driven by one table (OptionRow), so that a new option is a new row. Controls that are not
+/// loaded yet read as visible, disabled and off, and writing to them does nothing, since a dialog may save or
+/// request the summary before it shows the panel.
 class OptionPDE13_v400_ : public BasePDE13_v400_, public PDEUserChoices_v1, public PDEChoiceSummary_v1 {
 public:
     using ChoicesField = std::unique_ptr<PDEChoiceList>;
 
-    /// A panel for the dialog that the callback object stands for; null without a dialog or a bundle. Reads
-    /// the PPD's options, and on heat-shrink tube, which the cutter cannot cut, marks automatic cutting off.
+    /// Makes a panel for the dialog that the callback object represents; null without a dialog or a bundle.
+    /// Reads the options of the PPD. For heat-shrink tube, which the cutter cannot cut, marks the automatic
+    /// cut as off.
     static std::shared_ptr<OptionPDE13_v400_>
     initWithCallback(std::shared_ptr<PDEPluginCallback13_v400_> callback,
                      std::shared_ptr<const platform::Bundle> bundle);
     ~OptionPDE13_v400_() override;
 
-    // What this panel answers differently from the base; see PDEPanel and BasePDE13_v400_.
+    // Overrides of the base class; see PDEPanel and BasePDE13_v400_.
     std::optional<QStringList> supportedPPDOptionKeys() override;
     void printWindowWillClose(QWidget *window) override;
     bool shouldPrint() override;
@@ -59,19 +60,23 @@ public:
     void updateUIItem(ItemTypes items) override;
     void updateMarkedSelections(ItemTypes items) override;
 
-    /// Special tape is applied first, since it enables and disables others, and the rest in table order. A
-    /// count whose field only the automatic cut enables follows it. A choice that a check box cannot show,
-    /// the third of a list, is skipped, and so is a count that typing its number would not choose.
+    /// Optional interfaces for choices; see PDEUserChoices_v1 and PDEChoiceSummary_v1. applyUserChoices()
+    /// applies special tape first, since it enables and disables other controls, and then the other options
+    /// in table order. A count whose field is enabled only by the automatic cut is applied after it. A choice
+    /// that a check box cannot show, for instance the third of a list, is skipped, and so is a count that
+    /// cannot be selected by typing its number.
     PDEChoices shownChoices() const override;
     int combinationsChosen() const override { return mCombinationsChosen; }
     void applyUserChoices(const PDEChoices &choices) override;
     std::optional<QVariantMap> summaryInfoFor(const PDEChoices &given) const override;
 
-    /// The layout is loaded and its controls are connected: shows the rows that the PPD defines, closes the
-    /// gaps, takes the presets out that this printer cannot do, and puts the preview in its place.
+    /// Called when the layout is loaded and its controls are connected. Shows the rows that the PPD defines,
+    /// closes the gaps between them, removes the presets that the printer does not support, and inserts the
+    /// preview.
     void awakeFromNib() override;
 
-    // CUTOPTION_initialize: each row as the PPD's defaults have it, and what may be touched.
+    /// CUTOPTION_initialize: each function sets the controls of one row to the defaults of the PPD and
+    /// enables or disables them.
     void initializeUI_CutLabel();
     void initializeUI_CutAtEnd() { initializeRow(OptionKind::CutAtEnd); }
     void initializeUI_Mirror() { initializeRow(OptionKind::Mirror); }
@@ -83,28 +88,29 @@ public:
     void initializeUI_CutMark() { initializeRow(OptionKind::CutMark); }
     void initializeUI_OtherStr() {}
 
-    /// Greys and ungreys the controls by paper and by each other; touches only those that change.
+    /// Enables and disables the controls according to the paper and the other options. Changes only controls
+    /// whose state differs.
     void enabledCheck_OP();
 
-    /// The tape kind (TapeKind) of the paper, as last read.
+    /// The tape kind (TapeKind) of the paper when it was last read.
     void setTapeState(std::int32_t state) { mTapeState = state; }
     std::int32_t getTapeState() const { return mTapeState; }
 
-    // CUTOPTION_IBAction: what the user does.
+    // CUTOPTION_IBAction: handlers of user actions.
 
-    /// A check box was clicked.
+    /// Called when a check box was clicked. Passes its choice to the dialog and updates the panel.
     void changeOption(const QWidget *sender);
-    /// The stepper stepped or the count was typed: clamps it to the counts that the printer knows, shows
-    /// the result in both controls and chooses it.
+    /// Called when the stepper was used or a count was typed. Limits the count to the range of the printer,
+    /// shows it in both controls and selects its choice.
     void changeCutEveryValue(const QWidget *sender);
-    /// A text changed: the count, when it is the count's field.
+    /// Called when a text was edited. Handles the count's field and ignores other objects.
     void controlTextDidChange(const QWidget *object);
-    /// A ready-made combination was chosen.
+    /// Called when a predefined combination was selected.
     void changeOptionPopUpButton(const QWidget *sender);
-    /// Whether the preset with the tag can be chosen on the present paper.
+    /// Whether the preset with this tag can be selected on the current paper.
     bool validateMenuItem(int tag) const;
 
-    // CUTOPTION_Save: each row's setting handed to the dialog.
+    /// CUTOPTION_Save: each function passes the setting of one row to the dialog.
     void saveSetting_CutLabel();
     void saveSetting_CutAtEnd() { saveSetting(OptionKind::CutAtEnd); }
     void saveSetting_Mirror() { saveSetting(OptionKind::Mirror); }
@@ -115,30 +121,31 @@ public:
     void saveSetting_RemoveBlkSpace();
     void saveSetting_CutMark() { saveSetting(OptionKind::CutMark); }
 
-    /// The choice index that a box stands for when special tape overrules it: 0 while special tape is
-    /// visible and on, or without a control; else the control's state.
+    /// The choice index of a box that special tape overrides: 0 without a control or while special tape is
+    /// visible and on, otherwise the state of the control.
     std::int32_t indexForSaveAutoChain(const QWidget *control) const;
 
-    /// The tag of the preset that describes the boxes as they are.
+    /// The tag of the preset that matches the current states of the boxes.
     int targetPopUpButtonTag() const;
-    /// The paper changed in the dialog.
+    /// Called when the paper was changed in the dialog.
     void checkChangeSettingWhenPageSizeChanged(const platform::Notification &notification);
     void tabView(QTabWidget *, int) {}
 
-    // Looking in, for tools and tests.
+    // The state of the panel, for tools and tests. The caller does not own any of the pointers. They are null
+    // if the PPD does not define the option, no choice is selected or the view is not loaded.
 
     const ppd_option_t *option(OptionKind kind) const { return this->*row(kind).option; }
     const PDEChoiceList *choices(OptionKind kind) const { return (this->*row(kind).choices).get(); }
     const PDEChoice *selection(OptionKind kind) const { return this->*row(kind).selection; }
     const PDEChoice *cutEveryAutoCutSelection() const { return mAutoCut_CutEvery_Selection; }
-    /// The row's check box; null while the view is not loaded.
+    /// The check box of the row; null while the view is not loaded.
     QCheckBox *checkBox(OptionKind kind) const { return this->*row(kind).box; }
     QLineEdit *countField() const { return mCutEveryTxBx; }
     platform::Stepper *countStepper() const { return mCutEveryStpr; }
     QLabel *countWord() const { return mCutEveryStr; }
     platform::PopUpButton *popUp() const { return mOptionPopUpButton; }
     OptionView13_v400_ *preview() const { return mOptionView; }
-    /// Everything that can be read back, as JSON; empty while the view is not loaded.
+    /// The state of all controls, selections and flags as JSON; empty while the view is not loaded.
     QJsonObject inspection() const;
 
 protected:
@@ -148,27 +155,28 @@ protected:
     bool connectOutlets(QWidget *view, QString *error) override;
 
 private:
-    /// What a row's saved choice index is taken from.
+    /// How the choice index that a row saves is determined.
     enum class SaveIndex : std::uint8_t { State, AutoChain };
 
-    /// One option: its names, and where the panel keeps what belongs to it.
+    /// One option: its names and the members of the panel that belong to it.
     struct OptionRow {
         OptionKind kind;
         const char *keyword;
         std::uint32_t item;
         const char *titleKey;
         const char *summaryKey;
-        /// The default choice that switches the box on when the panel is first shown.
+        /// The default choice for which the box is on when the panel is first shown.
         const char *onDefault;
         SaveIndex saveIndex;
-        /// The box's name in the layout file is the field's name.
+        /// The object name of the box in the layout file, equal to the name of the member.
         const char *boxName;
         QPointer<QCheckBox> OptionPDE13_v400_::*box;
         ppd_option_t *OptionPDE13_v400_::*option;
         ChoicesField OptionPDE13_v400_::*choices;
         const PDEChoice *OptionPDE13_v400_::*selection;
-        /// What the box itself edits: the row's own option, but for the cut-every row the automatic cut,
-        /// which two boxes share so that printers with and without a separate box behave alike.
+        /// The option that the box edits: the option of the row, except for the cut-every row. Its box edits
+        /// the automatic cut, which it shares with the auto-cut box, so that printers with and without a
+        /// separate box behave alike.
         const char *boxKeyword;
         ChoicesField OptionPDE13_v400_::*boxChoices;
         const PDEChoice *OptionPDE13_v400_::*boxSelection;
@@ -199,13 +207,13 @@ private:
     void applyCutEveryRules();
     QByteArray currentPaperName() const;
 
-    /// The counts that the printer knows, without gaps: the index of a count is its distance from the
-    /// smallest.
+    /// The counts that the printer supports, assumed to be without gaps: the index of a count is its distance
+    /// from the minimum.
     struct CountRange {
         int low;
         int high;
         int clamped(int count) const;
-        /// -1 for an index that no list can have.
+        /// The index of the count; -1 if it is negative or exceeds the range of int.
         int indexOf(int count) const;
     };
     CountRange countRange() const;
@@ -220,9 +228,9 @@ private:
     bool isBoxOn(OptionKind kind) const;
 
     void saveSetting(OptionKind kind);
-    /// What saving writes for an option that it writes; absent for a list without choices.
+    /// The choice that is saved for an option; absent for a list without choices.
     std::optional<QString> choiceToSave(OptionKind kind) const;
-    /// The choice that the option's control stands for, whatever special tape makes of it.
+    /// The choice that the option's control shows, without the override by special tape.
     std::optional<QString> choiceShown(OptionKind kind) const;
     int boxIndexToSave(const OptionRow &row) const;
     int countIndexToSave() const;
@@ -231,10 +239,10 @@ private:
     void sendChoice(const ppd_option_t *option, const std::optional<QString> &choice);
 
     static std::optional<QString> choiceGiven(OptionKind kind, const PDEChoices &given);
-    /// The place of the choice that is given for the option in its list; -1 when none is given or the list
-    /// lacks it.
+    /// The index of the option's given choice in its list; -1 if no choice is given or the list does not
+    /// contain it.
     int indexGiven(OptionKind kind, const PDEChoices &given) const;
-    /// The choice that counts for the option: the given one, else the selection. May be null.
+    /// The effective choice of the option: the given one, otherwise the selection. May be null.
     const PDEChoice *heldChoice(OptionKind kind, const PDEChoices &given) const;
     bool isInSummary(OptionKind kind, const PDEChoices &given) const;
     QString summaryValue(OptionKind kind, const PDEChoices &given) const;
@@ -259,7 +267,7 @@ private:
     ChoicesField mRemoveBlkSpace_Choices;
     ChoicesField mCutMark_Choices;
 
-    // Each points into its option's list.
+    // The selected choices; each points into the list of its option.
     const PDEChoice *mCutEvery_Selection = nullptr;
     const PDEChoice *mCutEnd_Selection = nullptr;
     const PDEChoice *mMirror_Selection = nullptr;
@@ -269,11 +277,11 @@ private:
     const PDEChoice *mSpecialTape_Selection = nullptr;
     const PDEChoice *mRemoveBlkSpace_Selection = nullptr;
     const PDEChoice *mCutMark_Selection = nullptr;
-    /// The automatic-cut choice as the cut-every row's box has it.
+    /// The choice of the automatic cut that the box of the cut-every row edits.
     const PDEChoice *mAutoCut_CutEvery_Selection = nullptr;
 
-    // Controls of the layout file, owned by the view. Each reads as absent again when it goes, with its view
-    // or without.
+    // Controls of the layout file, owned by the view. Each pointer becomes null when its control is deleted,
+    // even if the view still exists.
     QPointer<QCheckBox> mCutEveryChkBx;
     QPointer<QCheckBox> mCutAndEndChkBx;
     QPointer<QCheckBox> mMirrorPrintChkBx;
@@ -291,12 +299,12 @@ private:
     QPointer<OptionView13_v400_> mOptionView;
 
     std::int32_t mTapeState = 0;
-    /// The PPD gives automatic cutting a check box of its own.
+    /// Whether the automatic cut has its own check box, as the PPD requests.
     bool mAutoCutHideKey_dec = false;
     int mCombinationsChosen = 0;
-    /// The controls have been filled for the first time.
+    /// Whether the controls have been filled for the first time.
     bool set_formatSetting = false;
-    // Part of the panel's state that other tools read; nothing here does.
+    // Part of the panel's state for other tools; not used by the panel itself.
     [[maybe_unused]] bool usb_dec = false;
     [[maybe_unused]] bool column_dec = false;
     [[maybe_unused]] bool checkValues_dec = false;

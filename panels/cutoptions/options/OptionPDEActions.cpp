@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the user does with the controls, handed on as choices of the PPD.
+// Handlers of user actions, which pass the selected choices of the PPD to the dialog.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-// The counts of a printer that does not list its own.
+// The range of counts for a printer that does not list its counts.
 constexpr int smallestCount = 1;
 constexpr int largestCount = 99;
 
@@ -59,7 +59,8 @@ int OptionPDE13_v400_::CountRange::clamped(int count) const
 
 int OptionPDE13_v400_::CountRange::indexOf(int count) const
 {
-    // A list out of order can put the bounds anywhere.
+    // The bounds are arbitrary integers if the list is not sorted, so the difference may exceed the range of
+    // int.
     const auto index = static_cast<std::int64_t>(count) - low;
     return index >= 0 && index <= std::numeric_limits<int>::max() ? static_cast<int>(index) : -1;
 }
@@ -83,8 +84,8 @@ void OptionPDE13_v400_::changeCutEveryValue(const QWidget *sender)
         if (mCutEveryStpr)
             mCutEveryStpr->setValue(count);
         showCount(QString::number(count));
-        // Who clears the field wants to type another number: what stands there instead is selected, so that
-        // the next digit replaces it.
+        // A user who clears the field wants to type another number. The count that is inserted instead is
+        // selected, so that the next digit replaces it.
         if (typed && std::ranges::none_of(text, [](QChar character) { return character.isDigit(); }))
             mCutEveryTxBx->selectAll();
     }
@@ -97,7 +98,8 @@ void OptionPDE13_v400_::showCount(const QString &text)
 {
     if (!mCutEveryTxBx || mCutEveryTxBx->text() == text)
         return;
-    // The field may be rewritten while somebody types in it: the cursor stays before the same last digits.
+    // The text may change while the user is typing: the cursor stays before the same number of trailing
+    // digits.
     const qsizetype fromEnd = mCutEveryTxBx->text().size() - mCutEveryTxBx->cursorPosition();
     mCutEveryTxBx->setText(text);
     mCutEveryTxBx->setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - fromEnd, 0)));

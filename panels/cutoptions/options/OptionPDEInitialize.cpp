@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Each row as the PPD's defaults have it, the first time the panel is shown.
+// Sets each row to the defaults of the PPD when the panel is first shown.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -19,8 +19,8 @@ void OptionPDE13_v400_::initUI()
 
 void OptionPDE13_v400_::fillReplacedControls()
 {
-    // A view that is loaded after the first showing has fresh controls. Saving reads them from now on, so
-    // they show what is marked, not the defaults that are filled in first.
+    // A view that is loaded after the panel was first shown has new controls. Saving reads them from now on,
+    // so they must show the marked choices and not the defaults that are filled in first.
     if (!set_formatSetting)
         return;
     for (const OptionRow &row : optionTable)
@@ -90,7 +90,7 @@ void OptionPDE13_v400_::readTapeState()
 
 void OptionPDE13_v400_::enableRemoveBlankSpaceByTape()
 {
-    // Labels of a fixed length have no blank that could be taken off.
+    // Labels of a fixed length have no blank tape that could be removed.
     const bool removable = getTapeState() == TapeKindPlain || getTapeState() == TapeKindUnlisted;
     controls::setEnabled(mRemoveBlkSpaceChkBx, removable);
 }

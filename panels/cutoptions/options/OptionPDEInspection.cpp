@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The panel's state as JSON, for tools that check printers and reproduce reports.
+// The panel's state as JSON, for tools that check printers and reproduce bug reports.
 #include "Controls.h"
 #include "OptionPDE.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The panel's view: its controls connected, its rows laid out, the preview in its place.
+// The panel's view: connects its controls, lays out its rows and inserts the preview.
 #include "OptionPDE.h"
 
 #include <platform/Geometry.h>
@@ -38,7 +38,7 @@ void removeItems(platform::PopUpButton *popUp, Titles titles)
         popUp->removeItemWithTitle(QLatin1String(title));
 }
 
-/// Finds the control under its name; null, with the reason, when the layout lacks it.
+/// Finds the control by its name. Returns false and sets the error if the layout does not contain it.
 template<typename Control>
 bool connectOutlet(QWidget *view, const char *name, QPointer<Control> &field, QString *error)
 {
@@ -52,12 +52,13 @@ bool connectOutlet(QWidget *view, const char *name, QPointer<Control> &field, QS
 
 } // namespace
 
-/// One row of the panel, from top to bottom. The order is the order in which a strip is worked on: marks and
+/// One row of the panel, listed from top to bottom. The order follows the processing of a strip: marks and
 /// cuts first, print effects last.
 struct OptionPDE13_v400_::LayoutRow {
     OptionKind kind;
     double height;
-    /// Presets that make no sense on a printer with this option, and on one without it.
+    /// The presets that do not apply to a printer with this option, and those that do not apply to one
+    /// without it.
     Titles removedWhenShown;
     Titles removedWhenHidden;
 };
@@ -145,7 +146,7 @@ void OptionPDE13_v400_::layOutRows(double viewHeight, double *hiddenHeight)
             continue;
         }
         *hiddenHeight += row.height;
-        // Where the cut-every row stands, its box does what the missing auto-cut box would do.
+        // If the cut-every row is visible, its box replaces the missing auto-cut box.
         if (row.kind != OptionKind::AutoCut || !mCutEvery_Choices)
             removeItems(mOptionPopUpButton, row.removedWhenHidden);
     }
@@ -161,7 +162,7 @@ void OptionPDE13_v400_::placeRow(const LayoutRow &layout, double viewHeight, dou
         return;
     }
     const int countLine = static_cast<int>(*y - rowHeight);
-    // The three controls have different heights; these offsets put their middles on one line.
+    // The three controls differ in height; the offsets align their middle lines.
     platform::setBottomEdge(mCutEveryTxBx, countLine - 4, viewHeight);
     platform::setBottomEdge(mCutEveryStpr, countLine - 5, viewHeight);
     platform::setBottomEdge(mCutEveryStr, countLine + 2, viewHeight);
@@ -178,7 +179,7 @@ void OptionPDE13_v400_::dressPopUp()
         if (const std::optional<QString> path = nsPDEBundle->pathForImageResource(picture))
             mOptionPopUpButton->setItemIcon(
                 position, platform::iconFromImage(platform::Image::initWithContentsOfFile(*path)));
-        // The item shows only its picture; who cannot see it hears what the picture shows.
+        // The item shows only its picture, so the tool tip and the accessible text describe it.
         const QString spoken = localized(QStringLiteral("OP_PICTURE_") + picture);
         mOptionPopUpButton->setItemData(position, spoken, Qt::ToolTipRole);
         mOptionPopUpButton->setItemData(position, spoken, Qt::AccessibleTextRole);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The ready-made combinations of the picture pop-up.
+// The predefined combinations of the pop-up button with pictures.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -14,7 +14,7 @@ bool OptionPDE13_v400_::isBoxOn(OptionKind kind) const
 int OptionPDE13_v400_::targetPopUpButtonTag() const
 {
     const bool special = isBoxOn(OptionKind::SpecialTape);
-    // On special tape nothing is cut, whatever the boxes show.
+    // Special tape is never cut, regardless of the states of the other boxes.
     const bool half = !special && isBoxOn(OptionKind::HalfCut);
     const bool chain = !special && isBoxOn(OptionKind::ChainPrint);
     const bool cuts = !special && (isBoxOn(OptionKind::AutoCut) || isBoxOn(OptionKind::CutLabel));
@@ -52,7 +52,8 @@ void OptionPDE13_v400_::applyPreset(int tag)
 
 bool OptionPDE13_v400_::validateMenuItem(int tag) const
 {
-    // Flag labels can be cut after each label or not at all; the other combinations need parts that are off.
+    // Flag labels can be cut after each label or not at all; the other combinations need options that are
+    // disabled.
     static constexpr std::array<int, 7> notOnFlagPaper = {5, 6, 7, 9, 10, 11, 12};
     return !currentPaperName().startsWith("FL") ||
            std::ranges::find(notOnFlagPaper, tag) == notOnFlagPaper.end();

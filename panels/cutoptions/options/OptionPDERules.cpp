@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What may be touched: the paper and the options exclude each other.
+// Rules that enable and disable controls: the paper and some options exclude other options.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -17,7 +17,7 @@ void OptionPDE13_v400_::enabledCheck_OP()
     const bool flagPaper = paper.startsWith("FL");
     const bool fixedLength = flagPaper || paper.startsWith("DC") || paper.startsWith("AV");
     controls::setEnabledIfDifferent(mRemoveBlkSpaceChkBx, !fixedLength);
-    // Flag labels fold around a cable; a half cut would part the fold.
+    // Flag labels are folded around a cable; a half cut would divide the fold.
     if (flagPaper)
         controls::setEnabledIfDifferent(mHalfCutChkBx, false);
     if (!controls::isHidden(mSpecialTapeChkBx))
@@ -35,7 +35,7 @@ void OptionPDE13_v400_::applySpecialTapeRules(bool flagPaper)
     }
     controls::setEnabledIfDifferent(mSpecialTapeChkBx, true);
     if (controls::state(mSpecialTapeChkBx) == 1) {
-        // The cutter must not touch special tape, so nothing about cutting can be chosen.
+        // Special tape must not be cut, so the cut options are disabled.
         for (QWidget *const control : std::initializer_list<QWidget *>{
                  mAutoCutChkBx, mChainPrintChkBx, mHalfCutChkBx, mCutEveryChkBx, mCutEveryTxBx})
             controls::setEnabledIfDifferent(control, false);
@@ -50,7 +50,8 @@ void OptionPDE13_v400_::applySpecialTapeRules(bool flagPaper)
 
 void OptionPDE13_v400_::applyCutEveryRules()
 {
-    // The count's field and stepper follow the box together, and only while they agree with each other.
+    // The field and the stepper of the count are enabled together with the box, but only if both are
+    // currently in the same state.
     const bool fieldEnabled = controls::isEnabled(mCutEveryTxBx);
     const bool on = controls::state(mCutEveryChkBx) == 1;
     if (fieldEnabled != controls::isEnabled(mCutEveryStpr) || fieldEnabled == on)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Every setting handed to the dialog, and the check before a job.
+// Passes every setting to the dialog, and checks the options before a job.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -11,7 +11,8 @@ using platform::TextEncoding;
 
 namespace {
 
-/// The keyword of the choice at the index, which is held within the list.
+/// Returns the name of the choice at the index, which is limited to the range of the list; absent without
+/// choices.
 std::optional<QString> keywordAt(const PDEChoiceList *list, int index)
 {
     if (!list || list->empty())
@@ -84,8 +85,8 @@ int OptionPDE13_v400_::boxIndexToSave(const OptionRow &row) const
 int OptionPDE13_v400_::countIndexToSave() const
 {
     const OptionRow &row = OptionPDE13_v400_::row(OptionKind::CutLabel);
-    // The count reaches the job through the choice that typing and stepping have marked, so a loaded field
-    // has no default: with nothing marked it is the smallest count.
+    // Typing and stepping mark the choice of the count. If nothing is marked while the field is loaded, the
+    // minimum count is saved rather than the default.
     return mCutEveryTxBx ? indexOfMarkedOption(mCutEvery_Choices.get(), QLatin1String(row.keyword))
                          : markedElseDefault(mCutEvery_Choices.get(), row.keyword);
 }
@@ -116,7 +117,7 @@ void OptionPDE13_v400_::saveSetting_CutLabel()
     if (!mCutEvery_Choices || !printSettings)
         return;
     const std::optional<QString> count = choiceToSave(OptionKind::CutLabel);
-    // Without a box of its own the automatic cut follows the cut-every box, and is written first.
+    // Without its own box, the automatic cut follows the cut-every box and is written first.
     if (!mAutoCutHideKey_dec)
         sendChoice(mAutoCut_Option, choiceToSave(OptionKind::AutoCut));
     sendChoice(mCutEvery_Option, count);

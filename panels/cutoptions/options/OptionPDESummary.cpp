@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The panel's lines in the dialog's summary.
+// The panel's lines in the summary of the dialog.
 #include "OptionPDE.h"
 
 #include <ppd/TapeInfo.h>
@@ -8,7 +8,7 @@
 
 std::optional<QVariantMap> OptionPDE13_v400_::summaryInfoFor(const PDEChoices &given) const
 {
-    // Cuts come first, in the order in which the strip meets them.
+    // Cuts are listed first, in the order in which they are made.
     static constexpr std::array<OptionKind, OptionCount> displayOrder = {
         OptionKind::CutLabel, OptionKind::AutoCut,        OptionKind::CutAtEnd,
         OptionKind::HalfCut,  OptionKind::SpecialTape,    OptionKind::ChainPrint,
@@ -24,7 +24,8 @@ std::optional<QVariantMap> OptionPDE13_v400_::summaryInfoFor(const PDEChoices &g
         titles.append(title);
         summary.insert(title, summaryValue(kind, given));
     }
-    // Every title stands in the order, one without a text too: the dialog counts the lines by it.
+    // The display order contains every title, even one without a text: the dialog derives the number of lines
+    // from it.
     summary.insert(PDESummaryDisplayOrderKey, titles);
     return summary;
 }
@@ -56,7 +57,7 @@ bool OptionPDE13_v400_::isInSummary(OptionKind kind, const PDEChoices &given) co
 {
     if (!heldChoice(kind, given))
         return false;
-    // The cut-every line tells the automatic cut too.
+    // The cut-every line also describes the automatic cut.
     if (kind == OptionKind::AutoCut)
         return !heldChoice(OptionKind::CutLabel, given);
     if (kind == OptionKind::RemoveBlkSpace)
@@ -66,7 +67,7 @@ bool OptionPDE13_v400_::isInSummary(OptionKind kind, const PDEChoices &given) co
 
 QString OptionPDE13_v400_::summaryValue(OptionKind kind, const PDEChoices &given) const
 {
-    // Whether labels are cut every so often is the choice of the automatic cut.
+    // Whether labels are cut at intervals is the choice of the automatic cut.
     const OptionRow &chosen = row(kind == OptionKind::CutLabel ? OptionKind::AutoCut : kind);
     const int index = indexGiven(chosen.kind, given);
     const PDEChoice &held = *heldChoice(kind, given);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Keeping selections, controls and PPD in step.
+// Keeps selections, controls and PPD synchronized.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The choice at the index; null beyond the list.
+/// Returns the choice at the index; null if the index is out of range.
 const PDEChoice *choiceAt(const PDEChoiceList *list, int index)
 {
     if (!list || index < 0 || static_cast<std::size_t>(index) >= list->size())
@@ -18,7 +18,7 @@ const PDEChoice *choiceAt(const PDEChoiceList *list, int index)
     return (*list)[static_cast<std::size_t>(index)].get();
 }
 
-/// The place of the very choice in the list, or -1.
+/// Returns the index of this choice object in the list, or -1.
 int indexOf(const PDEChoiceList *list, const PDEChoice *choice)
 {
     if (!list || !choice)
@@ -98,7 +98,7 @@ void OptionPDE13_v400_::updateRow(const OptionRow &row)
                 mCutEveryStpr->setValue(platform::integerValue(count));
         }
     }
-    // These two keep what the user gave them while the paper greys them.
+    // These two boxes keep the state that the user has set while the paper disables them.
     const bool onlyWhileEnabled = row.kind == OptionKind::RemoveBlkSpace || row.kind == OptionKind::CutMark;
     if (onlyWhileEnabled && !controls::isEnabled(this->*row.box))
         return;

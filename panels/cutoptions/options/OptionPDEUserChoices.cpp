@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Choices that the user made before or elsewhere, made on the panel's own controls.
+// Applies choices that the user made before or elsewhere to the panel's own controls.
 #include "Controls.h"
 #include "OptionPDE.h"
 
@@ -20,8 +20,8 @@ PDEChoices OptionPDE13_v400_::shownChoices() const
 
 void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
 {
-    // Special tape comes first, since what is saved for the cutter depends on it. A control that the paper
-    // has disabled is set all the same: its state is saved, and a ready-made combination sets it too.
+    // Special tape is applied first, since the saved choices of the cut options depend on it. A control that
+    // the paper has disabled is set, too: its state is saved, and a predefined combination also sets it.
     static constexpr std::array<OptionKind, OptionCount> order = {
         OptionKind::SpecialTape, OptionKind::CutLabel,       OptionKind::CutAtEnd,
         OptionKind::Mirror,      OptionKind::AutoCut,        OptionKind::HalfCut,
@@ -40,7 +40,7 @@ void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
 
 int OptionPDE13_v400_::boxIndexGiven(OptionKind kind, const PDEChoices &choices) const
 {
-    // Without a box of its own the automatic cut is saved as ON and OFF, which its list need not have.
+    // Without its own box, the automatic cut is saved as ON or OFF, which may be missing in its list.
     if (kind == OptionKind::AutoCut && !mAutoCutHideKey_dec) {
         const std::optional<QString> choice = choiceGiven(kind, choices);
         if (choice == QStringLiteral("ON"))
@@ -53,7 +53,7 @@ int OptionPDE13_v400_::boxIndexGiven(OptionKind kind, const PDEChoices &choices)
 
 void OptionPDE13_v400_::applyToBox(OptionKind kind, int index)
 {
-    // Where the automatic cut has no box of its own, saving reads that of the cut-every row.
+    // If the automatic cut does not have its own box, saving reads the box of the cut-every row.
     const bool chained = kind == OptionKind::AutoCut && !mAutoCutHideKey_dec;
     const OptionRow &edited = row(chained ? OptionKind::CutLabel : kind);
     QCheckBox *const box = this->*edited.box;
@@ -73,7 +73,7 @@ void OptionPDE13_v400_::applyToCount(int index)
         return;
     const QString count =
         (*mCutEvery_Choices)[static_cast<std::size_t>(index)]->ppdTitle().value_or(QString());
-    // In a list with gaps the number of a choice may stand for another one.
+    // In a list with gaps, typing the number of this choice may select another one.
     const CountRange counts = countRange();
     if (counts.indexOf(counts.clamped(platform::integerValue(count))) != index)
         return;

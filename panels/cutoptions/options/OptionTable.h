@@ -8,7 +8,7 @@
 
 class QString;
 
-/// The nine cut options, in the order in which the panel visits them.
+/// The nine cut options, in the order in which the panel processes them.
 enum class OptionKind : std::uint8_t {
     CutLabel,
     CutAtEnd,
@@ -21,10 +21,11 @@ enum class OptionKind : std::uint8_t {
     CutMark,
 };
 
+/// The number of values of OptionKind.
 inline constexpr std::size_t OptionCount = 9;
 
-/// One bit for each control that can be refreshed; a set of controls is the OR of their bits. The cut-every
-/// row has one bit for both its keywords, the count and the automatic cut of its check box.
+/// One bit for each control that can be updated; a set of controls is the bitwise OR of their bits. The
+/// cut-every row has one bit for both of its keywords: the count and the automatic cut of its check box.
 namespace ItemType {
 inline constexpr std::uint32_t CutEvery = 0x100;
 inline constexpr std::uint32_t CutAtEnd = 0x200;
@@ -38,21 +39,22 @@ inline constexpr std::uint32_t OptionPopUp = 0x40000;
 inline constexpr std::uint32_t CutMark = 0x80000;
 } // namespace ItemType
 
-/// A ready-made combination in the picture pop-up.
+/// A predefined combination in the pop-up button with pictures.
 struct Preset {
+    /// The tag of the item in the layout file.
     int tag;
-    /// What choosing it does to each option's box, in the order of OptionKind: '0' switches it off, '1'
-    /// on, '.' leaves it. Every preset writes un-mirrored: who wants mirror writing ticks it last.
+    /// The effect of the preset on the box of each option, in the order of OptionKind: '0' clears it, '1'
+    /// checks it, '.' leaves it unchanged. No preset turns mirror printing on; the user checks it afterwards.
     std::string_view boxes;
-    /// Its picture, which is also its item's title in the layout file.
+    /// The name of the picture, which is also the title of the item in the layout file.
     std::string_view picture;
 
-    /// The state that the preset gives the option's box; nothing for one that it leaves alone.
+    /// The state of the option's box; absent if the preset leaves it unchanged.
     std::optional<bool> stateOf(OptionKind kind) const;
 };
 
 /// The presets in the order of their tags, 1 to 16.
 extern const std::array<Preset, 16> presets;
 
-/// The preset with the tag; null for any other tag.
+/// Returns the preset with this tag; null for any other tag. The presets are never deleted.
 const Preset *presetWithTag(int tag);

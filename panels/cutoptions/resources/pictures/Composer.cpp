@@ -7,25 +7,25 @@ namespace pictures {
 
 namespace {
 
-// Lines are one point wide and run along half points, so that they fill whole pixels at every density.
+// Lines are one point wide and lie at half points, so that they fill whole pixels at every pixel density.
 constexpr double halfLine = 0.5;
 
-// All lengths are points. Cuts have the border's middle in the middle of their gap.
+// All lengths are in points. The middle of a border is the middle of the gap of its cut.
 constexpr double fullCutGap = 8;
 constexpr double halfCutGap = 4;
 constexpr double stripStart = 2;
-constexpr double forbiddenRow = 11; // y of the middle of the sign above a strip that is never cut
-constexpr double signRow = 71;      // y of the middle of the signs below the strip
-constexpr double chainSign = 126;   // x of the middle of the chain, close to the end that it holds
+constexpr double forbiddenRow = 11; // y of the middle of the symbol above a strip that is never cut
+constexpr double signRow = 71;      // y of the middle of the symbols below the strip
+constexpr double chainSign = 126;   // x of the middle of the chain, close to the held end
 
-/// Measures of a kind of strip in points; y from the picture's top.
+/// The dimensions of a kind of strip, in points; y is measured from the top of the picture.
 struct Measures {
-    double pitch;     ///< from one border to the next
-    double top;       ///< of the label layer
-    double height;    ///< of the label layer; for a roll, of the web that carries the labels
-    double thickness; ///< of the backing that shows below the label layer
-    double lettering; ///< scale of the words
-    double mouth;     ///< x where the printer begins
+    double pitch;     ///< distance from one border to the next
+    double top;       ///< y of the label layer
+    double height;    ///< height of the label layer; for a roll, height of the web that carries the labels
+    double thickness; ///< height of the backing that is visible below the label layer
+    double lettering; ///< scale of the text
+    double mouth;     ///< x of the printer's left edge
 };
 
 const Measures &measuresOf(Stock stock)
@@ -59,8 +59,8 @@ public:
     }
 
 private:
-    // The middle of the border before the label; that of the first is just off the strip's start, so
-    // that all labels are equally long.
+    // The middle of the border before the label. The first border lies just before the start of the strip, so
+    // that all labels have the same length.
     double border(std::size_t label) const
     {
         return static_cast<double>(label) * m_measures.pitch - fullCutGap / 2 + stripStart;
@@ -84,7 +84,7 @@ private:
     Drawing m_drawing;
 };
 
-/// The pieces between full cuts; the last one ends behind the printer's mouth.
+/// Adds the pieces between full cuts; the last one ends behind the mouth of the printer.
 void Composer::addStrip()
 {
     double from = stripStart;
@@ -109,7 +109,7 @@ void Composer::addPiece(double from, double to)
         addLayers(from, to);
 }
 
-/// The label layer of one piece, parted by half cuts; a corner peels off at each.
+/// Adds the label layer of one piece, divided by half cuts; a corner of the label peels off at each half cut.
 void Composer::addLayers(double from, double to)
 {
     double layerStart = from;
@@ -150,7 +150,7 @@ void Composer::addLabels()
 void Composer::addBorders()
 {
     static const std::array<QString, 4> parts{QString(), QStringLiteral("knife"), QStringLiteral("scissors"),
-                                              QStringLiteral("cut-mark")}; // by Border
+                                              QStringLiteral("cut-mark")}; // indexed by Border
     for (std::size_t label = 0; label < m_spec.borders.size(); ++label) {
         const QString &part = parts[static_cast<std::size_t>(m_spec.borders[label])];
         if (!part.isEmpty())

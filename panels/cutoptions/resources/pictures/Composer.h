@@ -6,9 +6,9 @@
 
 namespace pictures {
 
-/// Puts the picture together: the printer at the right, the strip coming out of it to the left with
-/// the first label in front, knives and scissors above it, and below it the signs for what cannot be
-/// seen on the strip alone.
+/// Composes the picture: the printer at the right, the strip that leaves it to the left with the first label
+/// in front, knives and scissors above the strip, and below it the symbols for settings that the strip alone
+/// cannot show.
 Drawing compose(const PictureSpec &spec, Theme theme);
 
 } // namespace pictures

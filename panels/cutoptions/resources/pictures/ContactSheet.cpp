@@ -9,8 +9,8 @@ namespace pictures {
 
 namespace {
 
-// A row for one theme, in pixels: the name on top, below it at the left the picture at its natural
-// size over its two reductions, at the right the picture with twice the pixels.
+// The layout of a row for one theme, in pixels: the name at the top, below it at the left the picture in its
+// natural size above its two reduced sizes, at the right the picture with two pixels per point.
 constexpr int gap = 8;
 constexpr int nameBase = 16; // baseline of the name
 constexpr int pictureTop = 24;

@@ -5,9 +5,10 @@
 
 namespace pictures {
 
-/// All pictures on one sheet, for looking at them side by side. Each has a row with its name and, on
-/// the window colours of the light and of the dark theme, itself at one and at two pixels per point,
-/// as large as the list of the panel's pop-up shows it, and as small as the closed pop-up does.
+/// Draws all pictures on one sheet for comparison. Each picture has a row with its name and, on the window
+/// colours of the light and of the dark theme, the picture at one and at two pixels per point, in the size of
+/// the pop-up list of the panel and in the size of the closed pop-up button. Returns the errors if a picture
+/// cannot be rendered.
 std::variant<QImage, Problems> contactSheet();
 
 } // namespace pictures

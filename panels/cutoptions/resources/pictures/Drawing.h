@@ -11,28 +11,30 @@
 
 namespace pictures {
 
-/// The size of every picture in points. It fits the panel's preview, which draws it unscaled.
+/// The size of every picture in points. It fits the preview of the panel, which draws pictures unscaled.
 constexpr QSize naturalSize(184, 80);
 
-/// One picture while it is put together from the parts in parts/NAME.svg.
+/// Composes one picture from the parts in parts/NAME.svg.
 ///
-/// A part is a piece of SVG with names between at signs: those of the theme's colours, and numbers
-/// in points (x to the right, y downwards from the picture's upper left corner) that whoever adds
-/// the part gives. Later parts cover earlier ones.
+/// A part is an SVG fragment with placeholders of the form @NAME@. A placeholder stands for a colour of the
+/// theme or for a number that the caller of add() passes. Numbers are in points; x runs to the right and y
+/// downwards from the upper left corner of the picture. Later parts cover earlier ones.
 class Drawing {
 public:
+    /// The values of the numeric placeholders by name.
     using Numbers = std::initializer_list<std::pair<const char *, double>>;
 
+    /// An empty picture in the colours of the theme.
     explicit Drawing(Theme theme);
 
-    /// Draws the part with these numbers. A part that does not exist, or that names something
-    /// neither the theme nor the caller gives, is left out and becomes one of problems().
+    /// Adds the part with these numbers. A part that does not exist, or that has a placeholder without a
+    /// value, is skipped and reported by problems().
     void add(const QString &part, Numbers numbers);
 
-    /// The whole picture as an SVG document.
+    /// Returns the picture as an SVG document.
     QString svg() const;
 
-    /// What went wrong so far, one sentence each that names the part; empty when nothing did.
+    /// The errors so far, one sentence each that names the part; empty without errors.
     const QStringList &problems() const { return m_problems; }
 
 private:

@@ -17,8 +17,9 @@ QString name(const char *prefix, std::initializer_list<bool> options)
     return text;
 }
 
-/// Three labels. Automatic cut alone cuts after each; together with half cut the picture shows a cut
-/// after every second one, as half cuts are only made where the tape is not cut through.
+/// Returns a strip of three labels. The automatic cut alone cuts after each label. Together with half cut the
+/// picture shows a full cut after every second label, since half cuts are only made where the tape is not cut
+/// through.
 PictureSpec tape(bool autoCut, bool halfCut, bool chain, bool mirror)
 {
     const Border everyLabel = halfCut ? Border::HalfCut : autoCut ? Border::FullCut : Border::None;
@@ -40,14 +41,16 @@ PictureSpec specialTape(bool mirror)
             mirror};
 }
 
-/// A mark at the boundary of two labels and at the end of the strip. None of these pictures is mirrored.
+/// Returns a strip of two labels with a mark between them and at the end of the strip. None of these pictures
+/// is mirrored.
 PictureSpec markedTape(bool mark, bool chain)
 {
     const Border border = mark ? Border::CutMark : Border::None;
     return {name("CTMR", {mark, chain, false}), Stock::MarkedTape, {border, border}, chain, false};
 }
 
-/// Cutting every label cuts at the end too, so there are only three ways.
+/// Returns a roll of two labels. A cut after every label includes the cut at the end, so only three
+/// combinations exist.
 PictureSpec labelRoll(bool every, bool end, bool mirror)
 {
     const Border last = every || end ? Border::FullCut : Border::None;

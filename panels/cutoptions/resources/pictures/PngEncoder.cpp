@@ -19,8 +19,8 @@ void append(png_structp png, png_bytep data, std::size_t size)
 
 void flush(png_structp) {}
 
-/// Returns whether all of it is written. No object with a destructor lives here: an error of libpng jumps
-/// back.
+/// Returns whether the whole image was written. This function must not have objects with destructors: libpng
+/// reports errors with longjmp().
 bool write(png_structp png, png_infop info, const QImage &image)
 {
     if (setjmp(png_jmpbuf(png)) != 0)

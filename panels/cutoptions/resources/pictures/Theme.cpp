@@ -15,10 +15,10 @@ constexpr Colour palette[] = {
     {"tape", "#ffffff", "#f4f5f7"},        // label layer
     {"tapeEdge", "#7b8694", "#707b88"},    // its outline
     {"peel", "#cfd5dc", "#c3cad2"},        // its underside
-    {"backing", "#f4bd55", "#f0b548"},     // what the label layer peels off
+    {"backing", "#f4bd55", "#f0b548"},     // backing below the label layer
     {"backingEdge", "#b07d1c", "#8f6415"}, // its outline
-    {"ink", "#1d2733", "#1d2733"},         // what is printed
-    {"nextLabel", "#1a66c8", "#1a66c8"},   // what the next job prints
+    {"ink", "#1d2733", "#1d2733"},         // printed text
+    {"nextLabel", "#1a66c8", "#1a66c8"},   // label of the next job
     {"fabric", "#c3e6df", "#b3dcd4"},      // woven tape
     {"fabricEdge", "#3f8a7d", "#35786c"},  // its outline
     {"weave", "#8fcabe", "#83bfb2"},       // its threads
@@ -28,14 +28,14 @@ constexpr Colour palette[] = {
     {"bodyEdge", "#39444f", "#aab6c4"},    // its outline
     {"key", "#b9c4d0", "#c6d0db"},         // its keys
     {"lamp", "#7fd17a", "#7fd17a"},        // its lamp
-    {"mouth", "#2b343d", "#c3ccd6"},       // where the tape comes out
+    {"mouth", "#2b343d", "#c3ccd6"},       // slot where the tape comes out
     {"inside", "#47535f", "#39434e"},      // behind its window
     {"core", "#d9b27c", "#cfa771"},        // cardboard of a roll
     {"coreEdge", "#8d6a38", "#7d5d30"},    // its outline
     {"cut", "#d23a24", "#ff7e68"},         // scissors and knives
     {"steel", "#dfe5ec", "#e6eaef"},       // blade of the knife
-    {"mode", "#1a66c8", "#74b5ff"},        // signs below the strip
-    {"muted", "#4d5863", "#c0c9d3"},       // what is forbidden
+    {"mode", "#1a66c8", "#74b5ff"},        // symbols below the strip
+    {"muted", "#4d5863", "#c0c9d3"},       // forbidden action
 };
 
 QHash<QString, QString> coloursOf(const char *Colour::*theme)

@@ -7,15 +7,16 @@
 
 namespace pictures {
 
-/// Every picture is drawn twice: for windows with dark text on a light ground and the other way round.
+/// The colour theme of a picture. Every picture is drawn in both: for windows with dark text on a light
+/// background and with light text on a dark background.
 enum class Theme { Light, Dark };
 
-/// The colours of a theme as "#rrggbb" by the names that the parts use. Both themes name the same
-/// ones. What lies on tape keeps its colours, as tape is light in any theme; what lies on the
-/// window changes with it.
+/// The colours of a theme in the form "#rrggbb", by the names that the parts use. Both themes have the same
+/// names. Colours of the tape and its labels are almost equal, since tape is light in any theme; colours of
+/// everything that is drawn on the window differ.
 const QHash<QString, QString> &colours(Theme theme);
 
-/// The usual window colour of the theme, for looking at the pictures on it.
+/// The typical window colour of the theme, as a background for the contact sheet.
 QColor windowColour(Theme theme);
 
 } // namespace pictures

@@ -37,7 +37,7 @@ Problems writeContactSheet(const QString &path)
 
 int main(int argc, char **argv)
 {
-    // It only draws into files, on machines without a screen too.
+    // The program only writes files and must run on machines without a screen.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     QCommandLineParser parser;
