@@ -17,7 +17,8 @@ struct ChoiceCheckText {
     Q_DECLARE_TR_FUNCTIONS(host::ChoiceCheck)
 };
 
-// What the print server and its filters know beside the printer's options: lp(1) and the filters' documents.
+// The options of the print server and its filters in addition to the printer's, from lp(1) and the
+// documentation of the filters.
 constexpr const char *serverOptions[] = {
     "blackplot",
     "brightness",
@@ -90,7 +91,7 @@ bool isServerOption(const QByteArray &name)
 
 QString choiceList(const PpdOption &option)
 {
-    // A list that nobody would read helps nobody.
+    // A longer list would not be readable.
     constexpr qsizetype mostChoices = 12;
     QStringList names;
     for (const PpdChoice &choice : option.choices)
@@ -120,7 +121,7 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
     const QString name = QString::fromUtf8(choice.name);
     const QString value = QString::fromUtf8(choice.value);
     const std::optional<PpdOption> option = PpdOptions(ppd).option(choice.name);
-    // libcups finds options in any case of letters; to filters they are others.
+    // libcups finds options case-insensitively; filters do not.
     if (!option || choice.name != option->keyword) {
         if (isServerOption(choice.name))
             return std::nullopt;
@@ -138,7 +139,7 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
             ChoiceCheckText::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};
     }
     const bool takesSeveral = option->kind == PpdOptionKind::PickMany;
-    // Of several, none may be chosen.
+    // An option with several choices may have none.
     if (takesSeveral && choice.value.isEmpty())
         return std::nullopt;
     const QByteArrayList values = takesSeveral ? choice.value.split(',') : QByteArrayList{choice.value};

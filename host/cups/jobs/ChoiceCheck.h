@@ -7,26 +7,30 @@
 
 namespace host {
 
+/// Why a choice cannot be set.
 enum class ChoiceFailure {
-    UnknownOption, ///< neither the printer nor the print server has it
-    UnknownChoice, ///< the option does not have it
-    UnknownPaper,  ///< the printer does not have it, or not in that size
-    UnusablePaper, ///< no printer can print on the size that the PPD gives it
+    UnknownOption, ///< neither the printer nor the print server has the option
+    UnknownChoice, ///< the option does not have the choice
+    UnknownPaper,  ///< the printer does not have the paper, or not in that size
+    UnusablePaper, ///< no printer can print on the size that the PPD defines
 };
+/// An error with its message for the user.
 using ChoiceError = Failure<ChoiceFailure>;
 
-/// Whether the printer can be told the choice: nothing, or what is wrong with it, naming the option and what
-/// there is instead. Servers take any choice and ignore those that they do not know, so that labels come out
-/// otherwise than asked for. Options of the print server, such as "job-hold-until", are not looked into.
+/// Checks whether the printer has the choice. Returns no value, or an error that names the option and its
+/// available choices. Servers accept any choice and ignore unknown ones, so that labels would be printed
+/// otherwise than requested. Does not check the choices of the print server's own options, such as
+/// "job-hold-until".
 std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choice);
 
-/// What remains of choices when the queue's PPD is replaced by another.
+/// The choices that remain when the queue's PPD is replaced by another.
 struct CarriedChoices {
-    /// Those that the new PPD has too; they are marked in it.
+    /// The choices that the new PPD also has; they are marked in it.
     std::vector<JobChoice> kept;
-    /// Why each of the others is lost.
+    /// The errors of the choices that the new PPD does not have.
     std::vector<ChoiceError> lost;
 };
+/// Marks the choices in the new PPD, as far as it has them.
 CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &ppd);
 
 } // namespace host

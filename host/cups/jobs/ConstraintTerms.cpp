@@ -62,7 +62,7 @@ int ConstraintTerms::addOption(const PpdOption &option)
     if (option.freeText)
         added.choices.emplace_back(freeChoiceName);
     QHash<QByteArray, int> positions;
-    // The first of several stays.
+    // The first of several choices with the same name is kept.
     for (std::size_t i = added.choices.size(); i > 0; --i)
         positions.insert(added.choices[i - 1].toLower(), static_cast<int>(i - 1));
     m_options.push_back(std::move(added));
@@ -111,7 +111,7 @@ void ConstraintTerms::readMarks(int option, const QHash<int, int> &instead, Mark
 ConstraintTerms::Marks ConstraintTerms::marks(const PDEChoices &instead) const
 {
     const QHash<int, int> choices = positions(instead);
-    // PageRegion follows PageSize, whatever is marked for it.
+    // PageRegion follows PageSize, regardless of its own marks.
     std::vector<QByteArray> paper = m_ppdOptions.markedChoices("PageSize");
     if (paper.empty())
         paper = m_ppdOptions.markedChoices("PageRegion");

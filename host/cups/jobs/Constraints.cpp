@@ -20,7 +20,7 @@ QString quoted(const ConflictSide &side)
 
 } // namespace
 
-/// Looks for changes that end all conflicts, one conflict after the other.
+/// Searches for changes that resolve all conflicts, one conflict after the other.
 class Constraints::Search {
 public:
     Search(const Constraints &constraints, const ConstraintTerms::Marks &marks, std::set<QString> fixed)
@@ -44,7 +44,7 @@ public:
     }
 
 private:
-    /// So that no PPD, however tangled or large, keeps the user waiting.
+    /// Returns the maximum number of steps, so that the search takes little time with any PPD.
     static int looksFor(std::size_t constraints)
     {
         constexpr std::size_t most = 20'000;
@@ -101,13 +101,14 @@ private:
                !m_fixed.contains(QString::fromUtf8(option.keyword));
     }
 
-    /// The default first, then what switches off, then the others in the PPD's order; never free values.
+    /// Returns the choices in the order of preference: the default, those that switch the option off, then
+    /// the others in the PPD's order; no free values.
     std::vector<int> choicesToTry(int position) const
     {
         const ConstraintTerms::Option &option = m_terms.option(position);
         const QSet<int> &marked = m_marks.choices[static_cast<std::size_t>(position)];
         const auto name = [&](int choice) { return option.choices[static_cast<std::size_t>(choice)]; };
-        // A PPD may have a choice twice, or in another case of letters: to its constraints it is one.
+        // A PPD may contain a choice twice, or with different case: for its constraints, these are the same.
         QSet<QByteArray> known;
         for (const int choice : marked)
             known.insert(name(choice).toLower());
@@ -193,7 +194,7 @@ Constraints::Constraints(const PpdFile &ppd)
 
 void Constraints::read(const std::vector<PpdConstraint> &constraints)
 {
-    // PPDs must say "A B" and "B A"; to people that is one thing.
+    // PPDs must contain both "A B" and "B A"; for users, this is one constraint.
     QSet<Constraint> known;
     for (const PpdConstraint &each : constraints) {
         const std::optional<Constraint> constraint = numbered(each);
@@ -234,7 +235,7 @@ std::vector<Conflict> Constraints::conflicts(const PDEChoices &instead) const
     const auto holds = [&](int number) { return marks.holds[static_cast<std::size_t>(number)]; };
     std::vector<Conflict> conflicts;
     QSet<QStringList> told;
-    // One choice may stand in thousands of conflicts; its texts are looked up once.
+    // A choice may be part of thousands of conflicts; its texts are looked up once.
     QHash<std::pair<int, int>, ConflictSide> sides;
     for (const Constraint &constraint : m_constraints) {
         if (!std::ranges::all_of(constraint, holds))

@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// One of the choices that exclude each other, with its texts for people.
+/// One of the choices of a conflict, with its texts for users.
 struct ConflictSide {
     QString keyword;
     QString optionText;
@@ -16,22 +16,25 @@ struct ConflictSide {
     bool operator==(const ConflictSide &) const = default;
 };
 
-/// Choices that are marked and that the printer cannot do together; mostly two.
+/// Marked choices that the printer does not support together; usually two.
 struct Conflict {
     std::vector<ConflictSide> sides;
 
-    /// "Mirror: On" and "Paper: 24 mm" exclude each other; in the user's language, naming all sides.
+    /// Describes the conflict and names all sides, in the user's language: "Mirror: On" and "Paper: 24 mm"
+    /// exclude each other.
     QString sentence() const;
+    /// Returns whether the option is one of the sides.
     bool involves(const QString &keyword) const;
 };
 
-/// The sentences of the conflicts by the options that they involve, each once for an option.
+/// Returns the sentences of the conflicts by the keywords of their options, each sentence once per option.
 QHash<QString, QStringList> sentencesByKeyword(const std::vector<Conflict> &conflicts);
-/// The sentences of the conflicts that involve one of the options, each once.
+/// Returns the sentences of the conflicts that involve at least one of the options, each once.
 QStringList sentencesAbout(const QStringList &keywords, const std::vector<Conflict> &conflicts);
 
-/// Changes that end all conflicts and leave the paper as it is.
+/// Changes that resolve all conflicts without changing the paper.
 struct Remedy {
+    /// An option and its new choice, with their texts for users.
     struct Change {
         QString keyword;
         QString choice;
@@ -40,32 +43,32 @@ struct Remedy {
     };
     std::vector<Change> changes;
 
-    /// What the remedy does, to be written on its button: Set "Mirror" to "Off".
+    /// Describes the changes for the text of a button, in the user's language: Set "Mirror" to "Off".
     QString sentence() const;
 };
 
-/// What a PPD says about choices that exclude each other: its UIConstraints, NonUIConstraints and
-/// cupsUIConstraints, read as ppdConflicts() reads them. libcups tells which options are in conflict, but
-/// not with which others; and cupsResolveConflicts() changes the paper when that is the quickest way.
+/// The constraints of a PPD: its UIConstraints, NonUIConstraints and cupsUIConstraints, evaluated as by
+/// ppdConflicts(). libcups reports which options have conflicts, but not with which others; and
+/// cupsResolveConflicts() changes the paper if that needs the fewest changes.
 class Constraints {
 public:
     /// Reads the PPD's constraints. The PPD is borrowed.
     explicit Constraints(const PpdFile &ppd);
 
-    /// The conflicts among what is marked now, each once. The given choices count instead of what is marked
-    /// for their options.
+    /// Returns the conflicts among the marked choices, each once. The choices of the parameter instead
+    /// replace what is marked for their options.
     std::vector<Conflict> conflicts(const PDEChoices &instead = {}) const;
 
-    /// The fewest changes that end all those conflicts. PageSize stays as it is, and so
-    /// does what the printer has installed; options in keep (those just chosen) are changed only when nothing
-    /// else helps. Defaults are tried before other choices. Nothing when there is no conflict, or no remedy
-    /// of up to six changes.
+    /// Returns the smallest set of changes that resolves all these conflicts. PageSize and the installable
+    /// options do not change; options in keep (those just set by the user) change only if there is no other
+    /// resolution. Defaults are preferred to other choices. Returns no value if there is no conflict, or no
+    /// resolution with up to six changes.
     std::optional<Remedy> remedy(const std::set<QString> &keep = {}, const PDEChoices &instead = {}) const;
 
 private:
-    /// The numbers of its terms, in the PPD's order.
+    /// The numbers of the terms, in the PPD's order.
     using Constraint = QList<int>;
-    /// A choice by position, for each option that is to be changed.
+    /// The option and its new choice, by position.
     using Changes = std::vector<std::pair<int, int>>;
     class Search;
 

@@ -56,7 +56,7 @@ Result<DocumentSource, CupsError> DocumentSource::open(const QString &path,
 {
     if (path == QStringLiteral("-"))
         return DocumentSource(path, STDIN_FILENO, -1);
-    // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
+    // Without O_NONBLOCK, opening a pipe would wait for a writer.
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
     if (descriptor < 0)

@@ -7,23 +7,25 @@
 
 namespace host {
 
-/// A document's bytes, read piece by piece: of a file, or of standard input. Move-only.
+/// Reads the content of a document in parts, from a file or from standard input. Move-only.
 class DocumentSource {
 public:
-    /// Opens the file, or "-" for standard input. Folders, pipes and devices by name are refused: nobody
-    /// knows when they end. A file in another state than expected is refused as well.
+    /// Opens the file, or standard input for "-". Folders, and pipes and devices by name, are errors, because
+    /// their end is unknown. A file whose state differs from the expected one is also an error.
     static Result<DocumentSource, CupsError> open(const QString &path,
                                                   const std::optional<FileStamp> &expected = std::nullopt);
     ~DocumentSource();
     DocumentSource(DocumentSource &&other) noexcept;
     DocumentSource &operator=(DocumentSource &&) = delete;
 
-    /// In bytes; -1 for standard input.
+    /// The size in bytes; -1 for standard input.
     qint64 size() const { return m_size; }
-    /// The next piece; empty at the end. A file that has changed meanwhile is an error, at the end at the
-    /// latest: nobody has seen what was read of it. Gives up waiting for input when the task is cancelled.
+    /// Reads the next part; empty at the end. A file that changes while it is read is an error, which is
+    /// returned at the end at the latest: the content that was read was never shown to the user. Returns an
+    /// empty part if the task is canceled while waiting for standard input.
     Result<QByteArray, CupsError> read(const BackgroundTask &task);
-    /// Goes back to the beginning. False for standard input, which cannot be read twice.
+    /// Returns to the beginning. Returns false for standard input, which cannot be read twice, and if the
+    /// file cannot be positioned.
     bool rewind();
 
 private:

@@ -16,7 +16,7 @@ bool fitsNumber(const PpdParameter &parameter, const QByteArray &value)
 {
     bool isNumber = true;
     double number = 0.0;
-    // A length that was converted from the limit's own unit may miss it by a rounding.
+    // A length that was converted from the unit of the limit may differ from it by a rounding error.
     double slack = 0.0;
     if (parameter.kind == PpdParameterKind::Integer) {
         number = value.toInt(&isNumber);

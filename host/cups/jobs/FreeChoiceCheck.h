@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// Whether the choice gives values of its own to an option that takes them, "Custom.12" or
-/// "{Left=12mm Words=on}", each within the limits that the PPD names. Not for papers.
+/// Returns whether the choice consists of free values for an option that accepts them, "Custom.12" or
+/// "{Left=12mm Words=on}", each within the limits of the PPD. Not for papers.
 bool isFreeChoice(const PpdFile &ppd, const NamedValue &choice);
 
 } // namespace host

@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// Cancels a job, waiting or printed (IPP Cancel-Job). Nothing, or why it cannot be canceled. For tasks in
-/// the background.
+/// Cancels a waiting or printing job (IPP Cancel-Job). Returns no value, or why it cannot be canceled. For
+/// background tasks.
 std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
                                    BackgroundTask &task);
 

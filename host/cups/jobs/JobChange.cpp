@@ -19,7 +19,7 @@ bool isRestart(const JobChange &change)
     return change.settings.hold == QStringLiteral("restart");
 }
 
-/// The value of "job-hold-until" that makes the job wait; nothing when it is not to wait.
+/// Returns the value of "job-hold-until" that holds the job; empty if the job is not to be held.
 QByteArray holdUntil(const JobChange &change)
 {
     for (const JobOption &option : makeJobOptions({}, nullptr, {}, {.hold = change.settings.hold})) {
@@ -29,7 +29,7 @@ QByteArray holdUntil(const JobChange &change)
     return {};
 }
 
-/// What is changed under IPP's and the PPD's names, but not until when the job waits.
+/// Returns the changes by their IPP and PPD names, without the hold.
 std::vector<JobOption> changedOptions(const JobChange &change)
 {
     JobSettings settings = change.settings;
@@ -41,13 +41,13 @@ std::vector<JobOption> changedOptions(const JobChange &change)
     return makeJobOptions({}, nullptr, choices, settings);
 }
 
-/// The job's own address, by which one that was moved to another queue is found too.
+/// Returns the URI of the job, which remains valid when the job moves to another queue.
 QByteArray jobUri(int jobId)
 {
     return "ipp://localhost/jobs/" + QByteArray::number(jobId);
 }
 
-/// Requests about one job over one connection.
+/// Sends requests about one job over one connection.
 class JobRequests {
 public:
     JobRequests(CupsConnection &connection, int jobId)
@@ -56,7 +56,7 @@ public:
     {
     }
 
-    /// Nothing, or why it was not done. An empty hold is not sent.
+    /// Sends a request. Returns no value, or the error. An empty hold is not sent.
     std::optional<CupsError> send(ipp_op_t operation, const std::vector<JobOption> &options,
                                   const QByteArray &hold)
     {
@@ -64,7 +64,7 @@ public:
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
                      jobUri(m_jobId).constData());
         encodeJobOptions(request.get(), options);
-        // To RFC 8011 a time of day is no keyword but a name, and here the server insists on that.
+        // RFC 8011: a time of day is of type name; cupsd rejects a keyword here.
         if (!hold.isEmpty())
             ippAddString(request.get(), IPP_TAG_JOB, hold.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD,
                          "job-hold-until", nullptr, hold.constData());
@@ -75,14 +75,15 @@ public:
     std::optional<CupsError> change(const std::vector<JobOption> &options, const QByteArray &hold)
     {
         std::optional<CupsError> error = send(IPP_OP_SET_JOB_ATTRIBUTES, options, hold);
-        // The job is held now, but whoever asks is still told the old time; this puts that right. Its
-        // outcome changes nothing for the job.
+        // The job is held now, but the server still reports the old time; this request corrects it. Its
+        // result does not matter for the job.
         if (!error && !hold.isEmpty())
             send(IPP_OP_HOLD_JOB, {}, hold);
         return error;
     }
 
-    /// The server takes no changes with the restart, and without a hold it would print before they come.
+    /// The server accepts no changes in the restart request, and without a hold it would print the job before
+    /// they arrive.
     std::optional<CupsError> restart(const std::vector<JobOption> &options)
     {
         if (options.empty())

@@ -7,32 +7,32 @@
 
 namespace host {
 
-/// What is to become of a job that was sent before; what is not named stays as it is.
+/// The changes to a job that was sent before; absent values do not change.
 struct JobChange {
     int jobId = 0;
-    /// A new name.
+    /// The new name.
     std::optional<QString> title = {};
-    /// Options by their PPD or IPP names; the paper is one of them.
+    /// Options by their PPD or IPP names, including the paper.
     std::vector<JobChoice> options = {};
-    /// As for a new job. Its hold says what lp says with -i: "hold" and a time make the job wait, "resume"
-    /// and "immediate" let it go on, "restart" prints a job anew that is over, if the server has kept it.
+    /// As for a new job. The values of hold are those of lp -i: "hold" and a time hold the job, "resume" and
+    /// "immediate" release it, and "restart" reprints a job that is over, if the server has kept it.
     JobSettings settings = {};
 
-    /// Whether there is nothing to change.
+    /// Returns whether there is nothing to change.
     bool isEmpty() const;
 };
 
-/// Changes a job as "lp -i" does: all of it or, when the server refuses, nothing. Answers nothing, or why it
-/// was not done, with the job's number. For tasks in the background.
+/// Changes a job like "lp -i": makes all changes, or none if the server rejects them. Returns no value, or
+/// the error with the job's number. For background tasks.
 ///
-/// A job that is over cannot be changed, only restarted. With a restart the other changes are made before
-/// the job is printed; if they are refused, it is held.
+/// A job that is over can only be restarted, not changed. With a restart, the other changes are made before
+/// the job is printed; if they are rejected, the job is held.
 std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task);
 
-/// The queue or class that the job is in now, or why nobody knows. For tasks in the background.
+/// Returns the queue or class of the job, which may have been moved, or the error. For background tasks.
 Result<QString, CupsError> queueOfJob(const CupsServer &server, int jobId, BackgroundTask &task);
 
-/// The reason with what it means for the job: that it was not changed.
+/// Returns the reason with a message that the job was not changed.
 CupsError notChanged(int jobId, CupsError reason);
 
 } // namespace host

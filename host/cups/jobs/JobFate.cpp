@@ -40,8 +40,8 @@ Result<std::optional<int>, CupsError> JobFate::find(const QByteArray &uuid) cons
 
 Result<std::optional<int>, CupsError> JobFate::findLate(const QByteArray &uuid) const
 {
-    // The request may have reached the server without having been read by it: the server reads it before it
-    // answers the next questions, unless the network still carries it.
+    // The server may have received the request without having read it: it reads it before it responds to the
+    // next queries, unless the request is still on the network.
     constexpr std::array pauses = {std::chrono::milliseconds(0), std::chrono::milliseconds(100),
                                    std::chrono::milliseconds(400)};
     Result<std::optional<int>, CupsError> job = std::optional<int>();
@@ -73,14 +73,15 @@ Result<JobStatus, CupsError> JobFate::ask(CupsConnection &connection, int jobId)
 
 bool JobFate::hasAllDocuments(const JobStatus &job) const
 {
-    // A server that does not count them prints nothing before it has them, unless the job is held.
+    // A server that does not report the number prints nothing before it has all documents, unless the job is
+    // held.
     return job.documents ? *job.documents >= static_cast<int>(m_ticket.documents.size())
                          : job.state != JobState::Held;
 }
 
 std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError &reason) const
 {
-    // What the server counts as a document may be the half of one, which is not to be released.
+    // What the server counts as a document may be incomplete and must not be released.
     if (m_hold.isNeeded())
         return cancel(jobId, reason);
     BackgroundTask task;
@@ -107,8 +108,8 @@ std::optional<CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &re
                     .arg(reason.message, m_server.displayName(), m_ticket.destination.queue,
                          QString::number(jobId))};
     };
-    // Not canceled at once: the server may have released the job or read the request only now, and a part of
-    // it would be printed. The second request is refused when the first one has arrived.
+    // Does not cancel the job immediately: the server may have released the job or may read the request only
+    // now, and would print a part of it. The second request is rejected if the first one has arrived.
     if (reason.kind != CupsFailure::Cancelled) {
         const std::optional<CupsError> error = release(jobId);
         if (!error)
@@ -162,7 +163,7 @@ CupsError JobFate::isLeft(int jobId, const CupsError &reason, const CupsError &o
                        m_server.displayName())
             : JobFateText::tr("%1 Job %2-%3 could not be canceled; check the queue before you print again.")
                   .arg(reason.message, m_ticket.destination.queue, QString::number(jobId));
-    // The kind is not that of the reason, even if that is a cancellation on request.
+    // The kind is not that of the reason, even for a canceled upload.
     const bool isSameObstacle = obstacle.message == reason.message;
     return {CupsFailure::OutcomeUnknown, isSameObstacle ? state : state + u' ' + obstacle.message};
 }

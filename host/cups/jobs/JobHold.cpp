@@ -27,7 +27,7 @@ Result<IppPointer, CupsError> askQueue(CupsConnection &connection, const QString
     return connection.exchange(std::move(request), queueResource(queue));
 }
 
-/// Whether jobs can be held without end, and released.
+/// Returns whether jobs can be held indefinitely and released.
 bool canHold(ipp_t *queue)
 {
     ipp_attribute_t *const holds = ippFindAttribute(queue, "job-hold-until-supported", IPP_TAG_ZERO);
@@ -72,7 +72,7 @@ std::optional<CupsError> JobHold::end(CupsConnection &connection, const QString 
         return std::nullopt;
     IppPointer request =
         connection.newRequest(m_wanted == noHold ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, queue, jobId);
-    // To RFC 8011 a time of day is no keyword but a name.
+    // RFC 8011: a time of day is of type name, not keyword.
     if (m_wanted != noHold)
         ippAddString(request.get(), IPP_TAG_OPERATION,
                      m_wanted.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD, holdName, nullptr,

@@ -9,26 +9,26 @@ namespace host {
 
 /// Holds a job until the server has all of its documents.
 ///
-/// A server prints the documents that it has when the rest does not come within its
-/// MultipleOperationTimeout: without the hold, a program that is killed or a link that breaks between two
-/// documents makes it print the first ones alone. A single document needs the hold as well: cupsd may take
-/// a connection that is closed in the middle of a document for the document's end, and begins to print the
-/// half of it before the job can be canceled.
+/// A server prints the documents that it has if the others do not follow within its MultipleOperationTimeout:
+/// without the hold, it prints only the first ones if the program is killed or the connection breaks between
+/// two documents. A single document also needs the hold: cupsd may treat a connection that closes in the
+/// middle of a document as the document's end, and starts to print the incomplete document before the job can
+/// be canceled.
 class JobHold {
 public:
-    /// The hold of the ticket's job while it is sent. Asks the server about the queue; an error when it does
-    /// not answer. For tasks in the background.
+    /// Returns the hold of the ticket's job during its upload. Queries the server about the queue; returns an
+    /// error if that fails. For background tasks.
     static Result<JobHold, CupsError> forTicket(CupsConnection &connection, const JobTicket &ticket);
 
-    /// Whether the job is held while it is sent; not when the queue knows no hold without end.
+    /// Whether the job is held during its upload; false if the queue does not support an indefinite hold.
     bool isNeeded() const { return m_isNeeded; }
-    /// The ticket's options with the hold, for Create-Job.
+    /// Returns the ticket's options with the hold, for Create-Job.
     std::vector<JobOption> optionsForCreation(const JobTicket &ticket) const;
     /// Releases the job when the server has all documents, or sets the hold that the user or the queue
-    /// requests. Nothing, or why the server has not done so.
+    /// requests. Returns no value, or the error.
     std::optional<CupsError> end(CupsConnection &connection, const QString &queue, int jobId) const;
-    /// Whether a job with this "job-hold-until" is not released yet. Never true when the user requests a hold
-    /// without end, since such a job is not released.
+    /// Returns whether a job with this "job-hold-until" has not been released yet. Always false if the user
+    /// requests an indefinite hold, since such a job is not released.
     bool isStillOn(const QString &heldUntil) const;
 
 private:

@@ -38,10 +38,11 @@ QString bootIdentifier()
     return QString::fromLatin1(contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed());
 }
 
-/// When the process was started, in the system's ticks since it was; empty when there is no such process.
+/// Returns the start time of the process in clock ticks since the system was started; empty if there is no
+/// such process.
 QString startOf(qint64 pid)
 {
-    // Behind the program's name, which may hold anything, it is the twentieth field.
+    // The twentieth field after the program's name, which may contain any character.
     constexpr int startField = 19;
     const QByteArray status = contentOf(QStringLiteral("/proc/%1/stat").arg(pid));
     const qsizetype endOfName = status.lastIndexOf(')');
@@ -61,7 +62,7 @@ QJsonObject toJson(const JobRecord &record)
         json.insert(QStringLiteral("user"), *record.user);
     if (record.jobId)
         json.insert(QStringLiteral("job"), *record.jobId);
-    // A number alone may be another process's by the time it is read.
+    // The process number alone may belong to another process when the file is read.
     const qint64 pid = QCoreApplication::applicationPid();
     json.insert(QStringLiteral("pid"), pid);
     json.insert(QStringLiteral("started"), startOf(pid));
@@ -95,7 +96,8 @@ bool isProgramRunning(const QJsonObject &json)
            bootIdentifier() == json.value(QStringLiteral("boot")).toString();
 }
 
-/// Whether a program has the file open. That of another computer has, where they share the folder.
+/// Returns whether a program has locked the file, including a program on another computer with the same
+/// folder.
 bool isLocked(const QString &path)
 {
     constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
@@ -148,7 +150,7 @@ JobJournal::Left JobJournal::left() const
             continue;
         const QJsonObject json = QJsonDocument::fromJson(contentOf(path)).object();
         std::optional<JobRecord> record = fromJson(json);
-        // The file of another job would be removed with it.
+        // Removing the record would remove another job's file.
         if (record && this->path(*record) != path)
             record.reset();
         if (!record && QFile::remove(path))
@@ -195,7 +197,7 @@ void JobJournalEntry::write()
     platform::closeToOthers(QFileInfo(m_journal.folder()).path());
     const QByteArray content = QJsonDocument(toJson(m_record)).toJson();
     auto file = std::make_unique<platform::TemporaryFile>(m_journal.folder());
-    // Takes the earlier file's place whole, so that a program that is killed now leaves one of the two.
+    // Replaces the earlier file as a whole, so that one of the two remains if the program is killed now.
     if (file->create() && file->write(content) == content.size() && file->moveTo(m_journal.path(m_record)))
         m_file = std::move(file);
 }

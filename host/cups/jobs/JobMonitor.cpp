@@ -21,7 +21,7 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
             const Result<JobStatus, CupsError> now =
                 connection ? queryJob(connection.value(), queue, jobId) : connection.error();
             if (!now && now.error().kind == CupsFailure::NotFound) {
-                // It was there, since the server gave it its number.
+                // The job existed, since the server assigned its number.
                 last = JobStatus{
                     .jobId = jobId, .queue = queue, .state = JobState::Completed, .isForgotten = true};
                 task.deliver([this, status = *last] { tellForgotten(status); });
@@ -39,7 +39,7 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
 
 void JobMonitor::tellForgotten(JobStatus status)
 {
-    // Whether it was printed or taken back is what the answer to the taking back tells.
+    // The response to the cancellation shows whether the job was printed or canceled.
     if (m_takingBack == TakingBack::Asked) {
         m_forgotten = status;
         return;

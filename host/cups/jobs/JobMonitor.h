@@ -7,23 +7,25 @@
 
 namespace host {
 
-/// Follows a job that the server has taken to its end, for as long as it lives.
+/// Monitors a job that the server has accepted until the job is over or the monitor is destroyed.
 class JobMonitor : public QObject {
     Q_OBJECT
 
 public:
-    /// Asks the server now and again, with this pause after each answer.
+    /// Queries the server immediately, and again after the given pause following each response.
     JobMonitor(const CupsServer &server, const QString &queue, int jobId,
                std::chrono::milliseconds pause = std::chrono::seconds(1), QObject *parent = nullptr);
 
-    /// Takes the job back; changed() tells when it is over, failed() why it cannot be.
+    /// Cancels the job. changed() reports when the job is over, failed() why it cannot be canceled.
     void cancelJob();
 
 Q_SIGNALS:
-    /// The job as it is now; the first answer, and whenever something is different. The last one is over; a
-    /// job of which the server keeps no record is completed, or cancelled after cancelJob().
+    /// Emitted with the state of the job after the first response and after every change, the last time when
+    /// it is over. A job of which the server keeps no record counts as completed, or as canceled after
+    /// cancelJob().
     void changed(const host::JobStatus &status);
-    /// The server cannot be asked, or the job cannot be taken back. Told once; the monitor goes on asking.
+    /// Emitted when the query of the server fails, once for each kind of error, or when the job cannot be
+    /// canceled. The monitor continues its queries.
     void failed(const host::CupsError &error);
 
 private:
@@ -36,7 +38,7 @@ private:
     QString m_queue;
     int m_jobId;
     TakingBack m_takingBack = TakingBack::No;
-    /// Told when the server has answered whether it took the job back.
+    /// A purged job, which is reported when the server has responded to the cancellation.
     std::optional<JobStatus> m_forgotten;
     Background m_background;
 };

@@ -16,22 +16,22 @@ struct JobOptionsText {
     Q_DECLARE_TR_FUNCTIONS(host::JobOptions)
 };
 
-/// Other ways of naming a paper, which could only contradict the exact one.
+/// Returns whether the option is another name for the paper, which could only contradict the exact one.
 bool namesPaperLoosely(const QByteArray &name)
 {
     return name == "media" || name == "PageRegion";
 }
 
-/// What is said of the documents' format is said with each of them.
+/// Returns whether the option is about the format, which is sent with each document.
 bool namesFormat(const QByteArray &name)
 {
     return name == "raw" || name == "document-format";
 }
 
-/// The options of a job while its layers are put over each other.
+/// Combines the layers of a job's options.
 class Layers {
 public:
-    /// A layer that the server applies by itself.
+    /// Sets an option of a layer that the server applies by itself.
     void setByServer(const QByteArray &name, const QByteArray &value, Origin origin)
     {
         JobOption &option = at(name);
@@ -39,7 +39,8 @@ public:
         option.origin = origin;
         option.isSent = false;
     }
-    /// A layer that the server does not know; a sent option stays one, lest what lies below show through.
+    /// Sets an option of a layer that the server does not know. An option that is sent stays so, because the
+    /// server would otherwise apply the value below.
     void set(const QByteArray &name, const QByteArray &value, Origin origin)
     {
         const bool isNew = !has(name);
@@ -65,7 +66,7 @@ private:
     }
 
     std::vector<JobOption> m_options;
-    /// By the option's name: a PPD may have thousands.
+    /// By name: a PPD may have thousands of options.
     QHash<QByteArray, std::size_t> m_positions;
 };
 
@@ -140,7 +141,7 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
             layers.send(choice.name);
     }
     for (const NamedValue &setting : settingValues(settings)) {
-        // All pages come out by themselves.
+        // All pages are the default.
         const bool saysNothing = setting.value == "1-" && !layers.has(setting.name);
         if (!saysNothing)
             layers.set(setting.name, setting.value, Origin::You);
@@ -173,9 +174,9 @@ void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
     markNamed(destination.queueOptions);
     if (const std::optional<QByteArray> paper = queuePaper(destination, ppd))
         ppd.mark(QString::fromLatin1(paperKeyword), QString::fromUtf8(*paper));
-    // Users may say "media" and "sides"; libcups finds the PPD's options for them. For the queue's own
-    // "media" it must not, where that is a name of IPP: the server has it from the PPD, and of two papers of
-    // one size it may be the other.
+    // Users may set "media" and "sides"; libcups finds the corresponding options of the PPD. This must not be
+    // done for an IPP name in the queue's own "media": the server derives it from the PPD, and it may stand
+    // for the other of two papers of the same size.
     std::vector<std::pair<QByteArray, QByteArray>> options;
     for (const NamedValue &option : destination.userOptions)
         options.emplace_back(option.name, option.value);

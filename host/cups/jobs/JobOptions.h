@@ -7,53 +7,54 @@
 
 namespace host {
 
-/// Who set an option of a job. A later one stands over an earlier one.
+/// The origin of a job option. A later origin overrides an earlier one.
 enum class Origin { Ppd, Queue, UserDefault, Preset, Panel, You };
 
-/// The origin in words, "printer default", "set by you".
+/// Returns the origin as text in the user's language, "printer default", "set by you".
 QString originText(Origin origin);
 
-/// A choice made for the job: an option by its PPD or IPP name, byte for byte.
+/// A choice for the job: an option by its PPD or IPP name, byte for byte.
 struct JobChoice {
     QByteArray name;
     QByteArray value;
     /// Preset, Panel or You.
     Origin origin = Origin::You;
-    /// A panel hands it over, whoever has chosen it; the job carries it even where the queue does the same.
+    /// Whether a panel passes the choice, whatever its origin; the job then contains it even if it equals the
+    /// queue's default.
     bool isPanels = false;
 };
 
-/// Makes the choice one of the choices, each option once and in the order of the first choosing. A choice
-/// that was made before with the same value keeps its origin: a panel that saves what the user asked for has
-/// not chosen anything.
+/// Adds the choice or replaces that of the same option; each option occurs once, in the order in which it was
+/// first added. A choice whose value does not change keeps its origin: a panel that saves what the user
+/// requested has not made the choice.
 void setJobChoice(std::vector<JobChoice> &choices, const JobChoice &choice);
 
-/// An option of a job, with where it comes from.
+/// An option of a job, with its origin.
 struct JobOption {
     QByteArray name;
     QByteArray value;
     Origin origin = Origin::Ppd;
-    /// Whether the job carries it. The server sets the others to the same value by itself.
+    /// Whether the job contains the option. The server sets the other options to the same values by itself.
     bool isSent = false;
 
     bool operator==(const JobOption &) const = default;
 };
 
-/// Every option of the job: those of the PPD in the PPD's order, then all others.
+/// Returns all options of the job: those of the PPD in the PPD's order, then all others. ppd may be null.
 ///
-/// Sent are the paper, always and under the PPD's exact name; what a panel has recorded; what the user's
-/// lpoptions say, of which the server knows nothing; and whatever else differs from what the server does by
-/// itself. Without a PPD, the choices are sent as they are.
+/// The options that are sent are the paper, always and under the PPD's exact name; the options that a panel
+/// has saved; the user's lpoptions, which the server does not know; and all others that differ from what the
+/// server does by itself. Without a PPD, the choices are sent unchanged.
 std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
                                       const std::vector<JobChoice> &choices, const JobSettings &settings);
 
-/// The paper that the queue is set to use, instead of the PPD's default: of its "PageSize", else of its
-/// "media", which the server takes for any name. Nothing when it names none of the PPD's papers byte for
-/// byte: the names of IPP ("om_24mm_24x60mm") the server has made itself, from the PPD's default.
+/// Returns the paper of the queue that overrides the PPD's default: that of its "PageSize", otherwise that of
+/// its "media", for which the server accepts any name. Returns no value if it names none of the PPD's papers
+/// byte for byte: IPP names ("om_24mm_24x60mm") are created by the server itself from the PPD's default.
 std::optional<QByteArray> queuePaper(const Destination &destination, const PpdFile &ppd);
 
-/// Marks in the PPD what a job to the destination would have without any choice: the PPD's defaults and over
-/// them what the queue and the user's lpoptions say.
+/// Marks the default choices of a job to the destination in the PPD: the PPD's defaults, overridden by those
+/// of the queue and of the user's lpoptions.
 void markEffectiveDefaults(PpdFile &ppd, const Destination &destination);
 
 } // namespace host

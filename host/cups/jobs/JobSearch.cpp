@@ -7,10 +7,10 @@ namespace host {
 
 namespace {
 
-/// The number of the job with the identifier in an answer to Get-Jobs.
+/// Returns the number of the job with the UUID in a response to Get-Jobs.
 std::optional<int> jobWith(const QByteArray &uuid, ipp_t *jobs)
 {
-    // The jobs stand one after the other, with something that is no attribute between them.
+    // The jobs follow each other, separated by an attribute without a name.
     std::optional<int> jobId;
     bool isMeant = false;
     for (ipp_attribute_t *each = ippFirstAttribute(jobs); each; each = ippNextAttribute(jobs)) {

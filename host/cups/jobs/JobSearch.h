@@ -5,9 +5,9 @@
 
 namespace host {
 
-/// The number of the job in the queue that was created with this identifier ("urn:uuid:...") by the
-/// connection's user and is not over; nothing when there is none. Names do not tell jobs apart, and a server
-/// that lost its records gives numbers once more. For tasks in the background.
+/// Returns the number of the job in the queue that the connection's user has created with this UUID
+/// ("urn:uuid:...") and that is not over; no value if there is none. Names are not unique, and a server that
+/// has lost its records assigns numbers again. For background tasks.
 Result<std::optional<int>, CupsError> findJob(CupsConnection &connection, const QString &queue,
                                               const QByteArray &uuid);
 

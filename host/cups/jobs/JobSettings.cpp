@@ -15,7 +15,7 @@ struct JobSettingsText {
 
 constexpr int highestPriority = 100;
 
-/// The value as lp(1) and the server's filters take it for a switch.
+/// Parses the value of a switch as lp(1) and the server's filters do.
 std::optional<Collate> collateFrom(const QByteArray &value)
 {
     for (const char *yes : {"true", "yes", "on", "separate-documents-collated-copies"}) {
@@ -47,7 +47,7 @@ void takeDefault(JobSettings &settings, const NamedValue &option)
 QByteArray rangesValue(const QString &text)
 {
     const QString ranges = canonicalPageRanges(text);
-    // All pages have no name of their own.
+    // "page-ranges" has no value of its own for all pages.
     return ranges.isEmpty() ? "1-" : ranges.toUtf8();
 }
 

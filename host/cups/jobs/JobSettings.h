@@ -6,10 +6,10 @@
 
 namespace host {
 
-/// IPP's numbers.
+/// Orientations with the values of IPP's "orientation-requested".
 enum class Orientation { Portrait = 3, Landscape = 4, ReverseLandscape = 5, ReversePortrait = 6 };
 
-/// What the job says beside the printer's options; nothing stands for the queue's own setting.
+/// The settings of a job in addition to the printer's options; absent values stand for the queue's defaults.
 struct JobSettings {
     std::optional<int> copies = {};
     std::optional<Collate> collate = {};
@@ -18,29 +18,30 @@ struct JobSettings {
     std::optional<PageSet> pageSet = {};
     std::optional<PageOrder> order = {};
     std::optional<Orientation> orientation = {};
-    /// As lp takes it after -H: "hold", "resume", "immediate", "HH:MM" in UTC, "night" and so on.
+    /// In the syntax of the -H option of lp: "hold", "resume", "immediate", "HH:MM" in UTC, "night" and so
+    /// on.
     std::optional<QString> hold = {};
-    /// 1 to 100.
+    /// 1 to 100; 100 is the highest.
     std::optional<int> priority = {};
 
     bool operator==(const JobSettings &) const = default;
 };
 
-/// The settings under their IPP names, with the values that lp gives them.
+/// Returns the settings by their IPP names, with the values that lp sends.
 std::vector<NamedValue> settingValues(const JobSettings &settings);
 
-/// Which pages come out, how often and in which order, if a job to the destination says nothing of it: as the
-/// user's lpoptions have it, or else the queue. Orientation, hold and priority are left out.
+/// Returns the default pages, copies and order of a job to the destination: those of the user's lpoptions,
+/// otherwise those of the queue. Orientation, hold and priority are absent.
 JobSettings defaultPageSettings(const Destination &destination);
 
-/// The wishes, and where they say nothing of pages and copies, the defaults.
+/// Returns the requested settings, with the defaults for absent pages, copies and order.
 JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults);
 
-/// The pages of documents of so many pages each that come out with the wishes and, where they say nothing,
-/// the defaults. Nothing in both stands for what print servers do by themselves: one copy of all pages, and
-/// of several copies all of one page together. Copies are brought within 1 to mostCopies. An error when a
-/// page is wished for that no document has, when no page is left, and when the job would have more than
-/// mostLabels.
+/// Returns the pages that are printed of documents with the given numbers of pages, with the requested
+/// settings and, where they are absent, the defaults. A value absent from both stands for the behavior of
+/// print servers: one copy of all pages, and several copies uncollated. Copies are limited to 1 to
+/// mostCopies. Returns an error if a requested page is in no document, if no page remains, or if the job
+/// would have more than mostLabels.
 Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const JobSettings &defaults,
                                                 const std::vector<int> &pageCounts);
 

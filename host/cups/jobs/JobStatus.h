@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// What has become of a job so far; the numbers are IPP's.
+/// The state of a job; the values are those of IPP's "job-state".
 enum class JobState {
     Waiting = 3,
     Held = 4,
@@ -18,37 +18,37 @@ enum class JobState {
     Completed = 9,
 };
 
-/// A job as the server tells of it.
+/// A job as reported by the server.
 struct JobStatus {
     int jobId = 0;
     QString queue;
     JobState state = JobState::Waiting;
-    /// IPP's keywords, "job-hold-until-specified"; never "none".
+    /// IPP keywords such as "job-hold-until-specified"; never "none".
     QStringList reasons = {};
-    /// The printer's, "media-empty-error".
+    /// The printer's IPP keywords, such as "media-empty-error"; never "none".
     QStringList printerReasons = {};
-    /// The server's own words.
+    /// The server's message.
     QString message = {};
-    /// Until when the job is held, as in "job-hold-until".
+    /// The value of "job-hold-until"; empty if the server does not report it.
     QString heldUntil = {};
-    /// Labels that have come out, as far as the printer tells.
+    /// The number of printed labels, as far as the printer reports it.
     int sheetsCompleted = 0;
-    /// How many documents the server has; nothing when it does not tell.
+    /// The number of documents that the server has; absent if the server does not report it.
     std::optional<int> documents = {};
-    /// The server has had the job and knows nothing of it any more, as servers do that keep no history. How
-    /// it came to its end nobody can tell.
+    /// The job was purged: the server had the job and keeps no record of it, because it keeps no job history.
+    /// Whether the job was printed is unknown.
     bool isForgotten = false;
 
-    /// Nothing will happen to the job any more.
+    /// Whether the job is completed, canceled or aborted.
     bool isOver() const { return state >= JobState::Cancelled; }
-    /// One sentence each, in the user's language: how the job is, what the printer waits for, and the
-    /// server's own words when they say more.
+    /// Describes the job in one sentence each, in the user's language: its state, the printer's reasons to
+    /// wait, and the server's message if that adds something.
     QStringList sentences() const;
 
     bool operator==(const JobStatus &) const = default;
 };
 
-/// Asks for a job. For tasks in the background.
+/// Queries the state of a job. For background tasks.
 Result<JobStatus, CupsError> queryJob(CupsConnection &connection, const QString &queue, int jobId);
 
 } // namespace host

@@ -15,7 +15,7 @@ void JobSubmission::submit(const JobTicket &ticket)
     m_isBusy = true;
     m_server.forgetRefusals();
     m_task = m_background.start([this, server = m_server, ticket](BackgroundTask &task) {
-        // "this" is only used in what is delivered, on the main thread and while it is there.
+        // "this" is only used in deliveries, on the main thread and while the object exists.
         const Result<int, CupsError> job =
             uploadJob(server, ticket, task, [&](const UploadProgress &progress) {
                 task.deliver([this, progress] { Q_EMIT progressed(progress); });

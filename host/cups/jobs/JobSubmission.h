@@ -7,29 +7,31 @@
 
 namespace host {
 
-/// Sends one job after another from the main thread without making it wait, with progress and cancel.
+/// Sends jobs one after another, from the main thread without blocking it, with progress and cancellation.
 class JobSubmission : public QObject {
     Q_OBJECT
 
 public:
-    /// Destroying it while a job is on its way takes the job back; a program that is about to end should
-    /// cancel() and wait for the outcome instead.
+    /// Destroying the object while a job is being sent cancels the job. A program that is about to end should
+    /// call cancel() and wait for the result instead.
     explicit JobSubmission(CupsServer server, QObject *parent = nullptr);
 
-    /// Sends the job. One of submitted() and failed() follows; until then nothing else may be sent.
+    /// Sends the job. Emits submitted() or failed() when it is complete; until then, submit() must not be
+    /// called again.
     void submit(const JobTicket &ticket);
-    /// Whether a job is on its way.
+    /// Whether a job is being sent.
     bool isBusy() const { return m_isBusy; }
-    /// Stops sending and takes the job back. The outcome is failed() with CupsFailure::Cancelled; or
-    /// submitted(), if all was sent already.
+    /// Stops sending and cancels the job. Results in failed() with CupsFailure::Cancelled, or in submitted()
+    /// if everything was already sent.
     void cancel();
 
 Q_SIGNALS:
+    /// Emitted when another part of the job has been sent.
     void progressed(const host::UploadProgress &progress);
-    /// The server has the job and all its documents.
+    /// Emitted when the server has the job and all its documents.
     void submitted(int jobId);
-    /// Nothing of the job is printed and nothing is left of it, unless this is CupsFailure::OutcomeUnknown:
-    /// then the message says what may be left or printed.
+    /// Emitted when the job was not sent. Nothing of it is printed or left on the server, except with
+    /// CupsFailure::OutcomeUnknown: then the message describes what may be left or printed.
     void failed(const host::CupsError &error);
 
 private:

@@ -24,7 +24,7 @@ QString sendableTitle(const QString &title)
     }
     if (end > 0)
         return title.first(end);
-    // Marks without end on one letter: then between two of them.
+    // A single letter with too many combining marks: splits between two characters.
     qsizetype length = mostBytes;
     while ((all[length] & 0xC0) == 0x80)
         --length;
@@ -43,7 +43,7 @@ const JobOption *findUnsendable(const std::vector<JobOption> &options)
 {
     for (const JobOption &option : options) {
         int depth = 0;
-        // Closed once, a brace has no meaning any more.
+        // After the first brace is closed, braces have no special meaning.
         for (qsizetype i = 0; i < option.value.size() && (i == 0 || depth > 0); ++i)
             depth += option.value[i] == '{' ? 1 : option.value[i] == '}' && depth > 0 ? -1 : 0;
         if (option.isSent && depth > 0)

@@ -11,46 +11,48 @@ namespace host {
 
 /// One document of a job.
 struct JobDocument {
-    /// A file, or "-" for standard input.
+    /// The path of a file, or "-" for standard input.
     QString path;
-    /// Its MIME type; empty lets the server look at the content.
+    /// The MIME type; if empty, the server determines it from the content.
     QByteArray format = {};
-    /// What the user calls it, when a file made of it is sent; else empty.
+    /// The name that the user knows if the file is converted from the user's document; otherwise empty.
     QString name = {};
-    /// In which state the file was shown to the user, who wants that printed and nothing else; nothing when
-    /// nobody has looked at it.
+    /// The state of the file when it was shown to the user; a file in any other state is not sent. Absent if
+    /// the document was not shown.
     std::optional<FileStamp> stamp = {};
 
+    /// The name for messages.
     const QString &shownName() const { return name.isEmpty() ? path : name; }
 };
 
-/// A job, ready to be sent.
+/// A job that is ready to be sent.
 struct JobTicket {
     Destination destination;
-    /// The job's name, as it is shown in the queue: see sendableTitle().
+    /// The job's name in the queue; see sendableTitle().
     QString title;
-    /// As makeJobOptions() made them; only those marked as sent are.
+    /// The options from makeJobOptions(); only those marked as sent are sent.
     std::vector<JobOption> options;
-    /// Printed in this order.
+    /// The documents in printing order.
     std::vector<JobDocument> documents;
 };
 
-/// The job's name, or as much of its beginning as print servers take: 255 bytes of UTF-8. Of a longer one
-/// they would keep nothing at all. Never cut within what is read as one character.
+/// Returns the job's name, shortened to what print servers accept: 255 bytes of UTF-8. They would discard a
+/// longer name completely. Does not split characters as users perceive them (grapheme clusters), unless a
+/// single one is longer.
 QString sendableTitle(const QString &title);
 
-/// Puts the options that are sent into a Create-Job request, with the syntax that lp gives them; except where
-/// that would not arrive at the printer's filters: see isSentAsName().
+/// Adds the options that are sent to a Create-Job request, with the syntax of lp, except those that the
+/// printer's filters would not receive that way: see isSentAsName().
 void encodeJobOptions(_ipp_s *request, const std::vector<JobOption> &options);
 
-/// Whether the option is sent as a plain name where lp would do otherwise. lp takes a value that begins with
-/// a brace for a collection, which the server does not hand to filters. And it takes "true" and "false"
-/// for switches, which filters get as "NAME" and "noNAME": that loses the case of a paper's name, and for an
-/// option called "notch" it reads as one called "tch".
+/// Returns whether the option is sent as a plain name where lp would use another syntax. lp sends a value
+/// that starts with a brace as a collection, which the server does not pass to filters. It sends "true" and
+/// "false" as booleans, which filters receive as "NAME" and "noNAME": this changes the case of a paper's
+/// name, and an option called "notch" is read as one called "tch".
 bool isSentAsName(const JobOption &option);
 
-/// The first option that is sent and cannot arrive, null when there is none. To the server's filters a brace
-/// that is not closed takes in all options behind it.
+/// Returns the first option that is sent but cannot be passed to the server's filters; null if there is none.
+/// In filters, an unclosed brace includes all following options in the value.
 const JobOption *findUnsendable(const std::vector<JobOption> &options);
 
 } // namespace host

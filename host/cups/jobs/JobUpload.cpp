@@ -20,7 +20,7 @@ struct JobUploadText {
     Q_DECLARE_TR_FUNCTIONS(host::JobUpload)
 };
 
-/// One job on its way, over one connection.
+/// The upload of one job over one connection.
 class Upload {
 public:
     Upload(CupsConnection &connection, const JobTicket &ticket, const JobHold &hold, BackgroundTask &task)
@@ -32,7 +32,7 @@ public:
     }
 
     const QByteArray &uuid() const { return m_uuid; }
-    /// The job as the journal keeps it.
+    /// Returns the job's record for the journal.
     JobRecord record() const
     {
         const CupsServer &server = m_connection.server();
@@ -43,7 +43,7 @@ public:
                 .title = sendableTitle(m_ticket.title),
                 .uuid = m_uuid};
     }
-    /// Whether the last document was sent to its last byte and its answer is missing.
+    /// Whether the last document was sent completely and the response to it is missing.
     bool isDocumentUnanswered() const { return m_isDocumentUnanswered; }
     bool lacksAnswer() const { return m_connection.lacksAnswer(); }
 
@@ -52,7 +52,7 @@ public:
         IppPointer request = m_connection.newRequest(IPP_OP_CREATE_JOB, m_ticket.destination.queue);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                      sendableTitle(m_ticket.title).toUtf8().constData());
-        // By this the job is found again when the answer is lost; names are not unique.
+        // Identifies the job if the response is missing; names are not unique.
         ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, "job-uuid", nullptr, m_uuid.constData());
         encodeJobOptions(request.get(), m_hold.optionsForCreation(m_ticket));
         const Result<IppPointer, CupsError> answer =
@@ -63,7 +63,7 @@ public:
         return m_jobId;
     }
 
-    /// Nothing, or why the documents could not be sent.
+    /// Sends the documents. Returns no value, or the error.
     std::optional<CupsError> sendDocuments(std::vector<DocumentSource> &sources,
                                            const std::function<void(const UploadProgress &)> &progress)
     {
@@ -79,7 +79,7 @@ public:
         return std::nullopt;
     }
 
-    /// Releases the job when the server has all documents. Nothing, or why the job is still held.
+    /// Releases the job when the server has all documents. Returns no value, or why the job is still held.
     std::optional<CupsError> release()
     {
         if (m_hold.isNeeded() && m_task.isCancelled())
@@ -106,14 +106,14 @@ private:
                                   const std::function<void(const UploadProgress &)> &progress)
     {
         const UploadProgress before = now;
-        // One without a password, and three with one.
+        // One attempt without a password and three with one.
         constexpr int mostAttempts = 4;
         for (int attempt = 1;; ++attempt) {
             now = before;
             std::optional<CupsError> error = sendOnce(source, isLast, now, progress);
             if (!error || !m_connection.lacksPasswordForDocument() || !source.rewind())
                 return error;
-            // The server has looked at the document's request only when it had the document.
+            // The server has checked the document's request only after it received the document.
             if (std::optional<CupsError> refusal = m_connection.authenticateDocument())
                 return refusal;
             if (attempt == mostAttempts)
@@ -143,8 +143,8 @@ private:
         }
         if (m_task.isCancelled())
             return m_connection.noAnswer();
-        // A server that has read enough answers before the end, and says why; some close the connection
-        // then.
+        // A server that has read enough responds before the end, with the reason; some servers then close the
+        // connection.
         const Result<IppPointer, CupsError> answer =
             isWhole ? m_connection.finishDocument() : m_connection.earlyAnswer();
         m_isDocumentUnanswered = isWhole && isLast && m_connection.lacksAnswer() && !m_task.isCancelled();
@@ -153,7 +153,7 @@ private:
         return isWhole ? std::nullopt : std::optional(cutShort(document));
     }
 
-    /// A server that is content with a part of a document would print that part.
+    /// A server that accepts a part of a document would print that part.
     CupsError cutShort(const JobDocument &document) const
     {
         return {CupsFailure::Refused, JobUploadText::tr("The print server \"%1\" did not take all of \"%2\".")
@@ -169,8 +169,8 @@ private:
     bool m_isDocumentUnanswered = false;
 };
 
-/// Sends the documents of a job that the server has created, and releases the job. Nothing, or why it is not
-/// printed, with the state of the job.
+/// Sends the documents of a job that the server has created, and releases the job. Returns no value, or why
+/// the job is not printed, with its state.
 std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
                                 int jobId, const std::function<void(const UploadProgress &)> &progress)
 {
@@ -182,7 +182,7 @@ std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector
     return std::nullopt;
 }
 
-/// Creates the job and sends it. Its number, or why it is not printed, with the state of the job.
+/// Creates the job and sends it. Returns its number, or why it is not printed, with its state.
 Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry &entry,
                             std::vector<DocumentSource> &sources,
                             const std::function<void(const UploadProgress &)> &progress)
@@ -233,7 +233,7 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     OutOfMemory::setJobProgress(JobProgress::Underway);
     Result<int, CupsError> job =
         send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
-    // The next program reports again what may be left on the server.
+    // The next program that starts reports what may be left on the server.
     if (job || job.error().kind != CupsFailure::OutcomeUnknown) {
         OutOfMemory::setJobProgress(job ? JobProgress::Printed : JobProgress::Nothing);
         entry.remove();

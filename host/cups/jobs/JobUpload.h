@@ -7,23 +7,24 @@
 
 namespace host {
 
-/// How far the sending of a job is.
+/// The progress of an upload.
 struct UploadProgress {
-    /// Counts from 0.
+    /// The index of the current document, from 0.
     int document = 0;
-    /// Of all documents together, in bytes; the total is unknown (-1) when one comes from standard input.
+    /// The bytes sent and the total, of all documents; the total is -1 (unknown) if a document is read from
+    /// standard input.
     qint64 sent = 0;
     qint64 total = 0;
 };
 
-/// Sends a job with all its documents and answers its number. For tasks in the background.
+/// Sends a job with all its documents and returns its number. For background tasks.
 ///
-/// All documents are opened before the job is made: a missing one leaves no trace on the server. When
-/// anything fails later, or the task is cancelled, the job is canceled, so that nothing of it is
-/// printed and sending it again prints it once. When the server's answer is lost, the server is asked what it
-/// has: a job of which it has everything is sent. CupsFailure::OutcomeUnknown when something may be left on
-/// the server or printed, in words. Nothing of a job is printed before the server has
-/// all of it: see JobHold. The progress is reported on the task's thread.
+/// Opens all documents before it creates the job: a missing document leaves nothing on the server. If a later
+/// step fails or the task is canceled, it cancels the job, so that nothing is printed and sending the job
+/// again prints it once. If a response of the server is missing, it queries the server: a job with all its
+/// documents counts as sent. Returns CupsFailure::OutcomeUnknown, with a description, if something may be
+/// left on the server or printed. The server prints nothing of a job before it has all of it: see JobHold.
+/// Calls progress on the task's thread.
 Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
                                  const std::function<void(const UploadProgress &)> &progress);
 

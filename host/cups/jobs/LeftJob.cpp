@@ -14,14 +14,14 @@ struct LeftJobText {
     Q_DECLARE_TR_FUNCTIONS(host::LeftJob)
 };
 
-/// The server of the job, which may be another than the one that is printed on now.
+/// Returns the server of the job, which may differ from the current one.
 CupsServer serverOf(const JobRecord &record, const CupsServer &asking)
 {
     CupsServer server = asking;
     server.address = record.server;
     server.user = record.user;
     server.encryption = record.encrypts ? Encryption::Required : Encryption::IfRequested;
-    // A password that was given for one server is not sent to another.
+    // A password for one server is not sent to another.
     server.passwords = std::make_shared<PasswordMemory>();
     return server;
 }
@@ -33,7 +33,7 @@ QString goneSentence(const JobRecord &record)
         .arg(record.server, record.title, record.queue);
 }
 
-/// What has become of the job with this number.
+/// Performs the action on the job with this number and describes the result.
 Result<QString, CupsError> settle(CupsConnection &connection, const JobRecord &record, int jobId,
                                   LeftJobAction action)
 {

@@ -9,18 +9,18 @@ namespace host {
 
 class BackgroundTask;
 
-/// What the user wants to become of a job that a killed program has left.
+/// The user's decision about a job that a killed program has left.
 enum class LeftJobAction {
     Cancel,
     Release, ///< print what the server has of it
 };
 
-/// Where the job may be, in a sentence.
+/// Describes where the job may be, in a sentence in the user's language.
 QString leftJobSentence(const JobRecord &record);
 
-/// Does it on the job's own server, asking for passwords as the given server does, and takes the job out of
-/// the journal. Returns the state of the job in a sentence; one that is completed or purged is removed as
-/// well. An error leaves it in the journal. For tasks in the background.
+/// Performs the action on the job's own server, with the password and trust prompts of the server asking, and
+/// removes the job from the journal. Returns the state of the job in a sentence; also removes a job that is
+/// completed or purged. After an error, the job stays in the journal. For background tasks.
 Result<QString, CupsError> settleLeftJob(const CupsServer &asking, const JobRecord &record,
                                          LeftJobAction action, BackgroundTask &task);
 

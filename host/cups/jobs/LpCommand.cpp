@@ -13,7 +13,7 @@ struct LpCommandText {
     Q_DECLARE_TR_FUNCTIONS(host::LpCommand)
 };
 
-/// Options that have a letter of their own.
+/// Options of lp with a letter of their own.
 constexpr std::pair<const char *, const char *> letters[] = {
     {"copies", "-n"},
     {"job-priority", "-q"},
@@ -21,7 +21,7 @@ constexpr std::pair<const char *, const char *> letters[] = {
     {"page-ranges", "-P"},
 };
 
-/// "NAME=VALUE" as lp reads it back after -o. A backslash keeps any character from its meaning.
+/// Returns "NAME=VALUE" as lp parses it after -o. A backslash removes the special meaning of any character.
 QByteArray optionWord(const JobOption &option)
 {
     QByteArray word = option.name + '=';
@@ -42,14 +42,15 @@ QStringList optionWords(const JobOption &option)
     return {QStringLiteral("-o"), QString::fromUtf8(optionWord(option))};
 }
 
-/// A file whose name lp would take for standard input.
+/// Returns the path as an argument of lp, which could read a file name that starts with a hyphen as standard
+/// input.
 QString fileWord(const QString &path)
 {
     return path == QStringLiteral("-") ? path : path.startsWith(u'-') ? QStringLiteral("./") + path : path;
 }
 
-/// What lp takes from the user's lpoptions by itself and the job leaves out: other names for a paper, and
-/// what is said of documents' formats.
+/// Returns the user's lpoptions that lp applies by itself and that the job does not contain: other names for
+/// a paper, and the documents' formats.
 QStringList rememberedOtherwise(const JobTicket &ticket)
 {
     QStringList names;
@@ -63,7 +64,7 @@ QStringList rememberedOtherwise(const JobTicket &ticket)
     return names;
 }
 
-/// lp would send the image itself.
+/// Returns whether the document was converted; lp would send the original.
 bool isMadeOfAnother(const JobDocument &document)
 {
     return document.shownName() != document.path && document.shownName() != QStringLiteral("-");

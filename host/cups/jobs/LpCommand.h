@@ -7,21 +7,22 @@
 
 namespace host {
 
-/// The lp(1) command that prints the same job: words for a shell, quoted where needed.
+/// The lp(1) command that prints the same job, as shell words, quoted where needed.
 struct LpCommand {
-    /// To be copied into a terminal.
+    /// The command line, to be copied into a terminal.
     QString line;
-    /// The names of options that lp would send otherwise, since its words cannot say them; mostly empty.
-    /// "document-format" when a PDF is sent that was made of the named document.
+    /// The names of options that lp would send differently, since its syntax cannot express them; usually
+    /// empty. Contains "document-format" if a PDF is sent that was converted from the named document.
     QStringList differences;
 
-    /// The differences as a sentence, without its full stop; empty without any.
+    /// Returns the differences as a sentence without a full stop; empty if there are none.
     QString differencesInWords() const;
 };
 
+/// Returns the command for the job on the server.
 LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket);
 
-/// The word as a POSIX shell reads it back.
+/// Quotes the word for a POSIX shell, if needed.
 QString shellWord(const QString &word);
 
 } // namespace host

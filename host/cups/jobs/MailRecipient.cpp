@@ -16,12 +16,12 @@ namespace host {
 
 namespace {
 
-/// A machine that knows its full name by itself answers much sooner.
+/// A machine that knows its own name responds much sooner.
 constexpr std::chrono::milliseconds timeout{1000};
 
 QByteArray fullHostName()
 {
-    // On a thread of its own, since nobody can interrupt the look-up of a name.
+    // Runs on a separate thread, since the lookup of a name cannot be interrupted.
     auto found = std::make_shared<std::promise<QByteArray>>();
     std::future<QByteArray> name = found->get_future();
     Background::detach([found] {

@@ -8,10 +8,11 @@
 
 namespace host {
 
-/// Whom the print server sends a mail when a job is over, as lp names them after -m: "mailto:USER@HOST", with
-/// this machine's full name as far as it can be found out. The user is libcups's own when none is given.
+/// Returns the recipient of the print server's mail when a job is over, as in the -m option of lp:
+/// "mailto:USER@HOST", with this machine's fully qualified name if it can be determined. If user is absent,
+/// uses libcups's default user.
 ///
-/// Finding out the full name may ask the network, which is waited for no longer than a moment.
+/// Determining the name may use the network; blocks for at most one second.
 QByteArray mailRecipient(const std::optional<QString> &user);
 
 } // namespace host

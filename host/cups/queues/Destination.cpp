@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-// The fields as they are kept, one row each; both directions read the same rows.
+// The fields in the cache, one row each; toCbor() and fromCbor() use the same rows.
 constexpr std::pair<const char *, QString Destination::*> textFields[] = {
     {"queue", &Destination::queue},         {"description", &Destination::description},
     {"location", &Destination::location},   {"makeAndModel", &Destination::makeAndModel},
@@ -31,7 +31,7 @@ constexpr std::pair<const char *, std::vector<NamedValue> Destination::*> option
     {"userOptions", &Destination::userOptions},
 };
 
-/// 0 for what is no integer: QCborValue::toInteger() converts doubles of any size.
+/// Returns 0 for other types: QCborValue::toInteger() converts doubles of any size.
 qint64 integer(const QCborValue &value)
 {
     return value.isInteger() ? value.toInteger() : 0;
@@ -42,7 +42,8 @@ QString key(const char *name)
     return QString::fromLatin1(name);
 }
 
-/// The name in an address such as "ipps://Label%20printer._ipps._tcp.local/"; empty for other addresses.
+/// Returns the service name in a URI such as "ipps://Label%20printer._ipps._tcp.local/"; empty for other
+/// URIs.
 QString announcedName(const QString &deviceUri)
 {
     const QString scheme = QStringLiteral("://");

@@ -11,7 +11,7 @@
 
 namespace host {
 
-/// An option and its value as a job carries them, byte for byte.
+/// An option and its value, byte for byte as in a job.
 struct NamedValue {
     QByteArray name;
     QByteArray value;
@@ -19,62 +19,66 @@ struct NamedValue {
     bool operator==(const NamedValue &) const = default;
 };
 
-/// The option's value; null when the list does not have it.
+/// Returns the option's value, owned by the list; null if the list does not contain the option.
 const QByteArray *findValue(const std::vector<NamedValue> &values, const QByteArray &name);
 
-/// What a queue is doing; the numbers are IPP's.
+/// The state of a queue; the values are those of IPP's "printer-state", except Unknown.
 enum class QueueState { Unknown = 0, Ready = 3, Printing = 4, Paused = 5 };
 
-/// A queue, a class of queues, or a user's named set of options for one of them, as it was when the server
-/// was asked last.
+/// A queue, a class of queues, or a user's instance of one of them, in the state of the last query to the
+/// server.
 struct Destination {
     QString queue;
-    /// The name of the set of options; nothing for the queue itself.
+    /// The instance's name; absent for the queue itself.
     std::optional<QString> instance;
-    /// For people.
+    /// The description for users.
     QString description;
     QString location;
     QString makeAndModel;
-    /// Where the server sends its jobs; for discovered queues where they are.
+    /// The URI to which the server sends the queue's jobs; for discovered queues, the printer's URI.
     QString deviceUri;
+    /// Whether the destination is a class of queues.
     bool isClass = false;
     /// The queues of a class.
     QStringList members;
-    /// Found on the network; the server gets a queue for it when it is used, and drops it when it is not.
+    /// Found on the network. The server creates a queue for it when it is used, and removes the queue when it
+    /// is not.
     bool isDiscovered = false;
-    /// Where jobs go that name no destination.
+    /// Whether jobs that name no destination go to this one.
     bool isDefault = false;
+    /// Whether the destination accepts new jobs.
     bool acceptsJobs = true;
-    /// When the administrator changed the queue last, its PPD included, in seconds of the server's own clock;
-    /// 0 when the server does not tell.
+    /// When the administrator last changed the queue, including its PPD, in seconds of the server's clock; 0
+    /// if the server does not report it.
     qint64 configured = 0;
 
     QueueState state = QueueState::Unknown;
-    /// IPP's keywords, "media-empty-error"; never "none".
+    /// IPP keywords such as "media-empty-error"; never "none".
     QStringList stateReasons;
-    /// The server's own words.
+    /// The server's message.
     QString stateMessage;
 
-    /// What the server adds to jobs by itself.
+    /// The options that the server adds to jobs.
     std::vector<NamedValue> queueOptions;
-    /// What the user's lpoptions add to this destination's jobs.
+    /// The options that the user's lpoptions add to jobs for this destination.
     std::vector<NamedValue> userOptions;
 
-    /// "queue" or "queue/instance".
+    /// Returns "queue" or "queue/instance".
     QString name() const;
 
+    /// Returns the destination as a map for QueueCache.
     QCborMap toCbor() const;
-    /// Nothing for a map that is not one of toCbor().
+    /// Reads a map that toCbor() returned. Returns no value if the map names no queue.
     static std::optional<Destination> fromCbor(const QCborMap &map);
 
     bool operator==(const Destination &) const = default;
 };
 
-/// Whether both lead to one printer: under one queue name, at one address, or by the name under which it
-/// announces itself on the network (DNS-SD), whatever protocol the address names.
+/// Returns whether both destinations use the same printer: they have the same queue name, the same device
+/// URI, or the same name on the network (DNS-SD), with any protocol.
 bool isSamePrinter(const Destination &one, const Destination &other);
 
-/// Splits "queue/instance" at its last slash, as lp does.
+/// Splits "queue/instance" at the last slash, as lp does. Without a slash, the instance is absent.
 std::pair<QString, std::optional<QString>> splitDestinationName(const QString &name);
 
 } // namespace host

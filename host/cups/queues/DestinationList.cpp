@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-/// Printers announce themselves within this time, or not at all.
+/// The time within which printers on the network announce themselves.
 constexpr std::chrono::seconds discoveryTime{5};
 
 } // namespace
@@ -52,7 +52,7 @@ void DestinationList::refresh(Discovery discovery)
         m_task->cancel();
     const bool wantsOthers = std::exchange(m_isPartial, false);
     m_task = m_background.start([this, server = m_server, discovery, wantsOthers](BackgroundTask &task) {
-        // "this" is only used in what is delivered, on the main thread and while it is there.
+        // "this" is only used in deliveries, on the main thread and while the object exists.
         if (wantsOthers)
             task.deliver([this, known = QueueCache(server).destinations()] { takeKnown(known); });
         const auto ask = [&]() -> Result<std::vector<Destination>, CupsError> {
@@ -88,7 +88,7 @@ void DestinationList::takeKnown(const std::vector<Destination> &destinations)
 void DestinationList::take(std::vector<Destination> destinations)
 {
     m_isStale = false;
-    // Discovered printers are no news from the server.
+    // Keeps the discovered printers, which the server does not report.
     for (const Destination &known : m_destinations) {
         const bool isListed = std::any_of(destinations.begin(), destinations.end(),
                                           [&](const Destination &each) { return each.queue == known.queue; });
@@ -104,7 +104,7 @@ void DestinationList::take(std::vector<Destination> destinations)
 
 void DestinationList::addDiscovered(const Destination &destination)
 {
-    // The server may have a queue for the printer already.
+    // The server may already have a queue for the printer.
     const auto isIt = [&](const Destination &each) { return isSamePrinter(each, destination); };
     if (std::ranges::any_of(m_destinations, isIt))
         return;

@@ -8,47 +8,50 @@
 
 namespace host {
 
-/// Whether printers are looked for on the network too.
+/// Whether printers are also discovered on the network.
 enum class Discovery { No, Yes };
 
-/// The destinations of a server, for a dialog that opens before the server has answered: at first what was
-/// known last time, then what the server says.
+/// The destinations of a server, for a dialog that opens before the server responds: initially those of the
+/// cache, then those of the server.
 ///
-/// Lives on the main thread and never makes it wait; may be destroyed at any time, whatever the server does.
+/// Lives on the main thread and never blocks it. Can be destroyed at any time, in any state of the server.
 class DestinationList : public QObject {
     Q_OBJECT
 
 public:
-    /// Reads what is known from last time; asks nobody yet.
+    /// Reads the cached destinations. Sends no request before refresh().
     explicit DestinationList(CupsServer server, QObject *parent = nullptr);
-    /// The same for a dialog that needs one destination first: the one of that name, or with nothing the
-    /// default one. When that is known at once, the others come with changed() after refresh().
+    /// Does the same for a dialog that first needs one destination: the named one, or the default one if the
+    /// name is absent. If the cache has it, the others follow with changed() after refresh().
     DestinationList(CupsServer server, const std::optional<QString> &first, QObject *parent = nullptr);
 
-    /// Takes over what became known of one of them since, so that the list is never behind. Tells nobody.
+    /// Replaces the destination of the same name, so that the list is as current as the latest query of one
+    /// destination. Emits no signal. Does nothing if the list does not contain the destination.
     void update(const Destination &destination);
-    /// Asks the server. Discovery goes on for some seconds after refreshed().
+    /// Queries the server. Discovery continues for some seconds after refreshed().
     void refresh(Discovery discovery = Discovery::No);
 
-    /// Keeps the destination of that name, as the server has told of it, to be known at once the next time.
+    /// Stores the named destination, as the server has reported it, so that the next program has it
+    /// immediately. Does nothing while the list is from the cache, or if it does not contain the destination.
     void remember(const QString &name);
 
-    /// In the server's order, instances after their queues.
+    /// The destinations in the server's order, instances after their queues.
     const std::vector<Destination> &destinations() const { return m_destinations; }
-    /// The list is from last time: the server has not answered yet.
+    /// Whether the list is from the cache: the server has not responded yet.
     bool isStale() const { return m_isStale; }
-    /// The destination of that name ("queue" or "queue/instance"); null when there is none. Instances that
-    /// the user has not made are found as plain queues, as lp takes them. Valid until changed().
+    /// Returns the destination of that name ("queue" or "queue/instance"), owned by the list; null if there
+    /// is none. For an instance that does not exist, returns the queue, as lp uses it. Valid until changed().
     const Destination *find(const QString &name) const;
-    /// Where jobs go that name no destination; null when there is no default. Valid until changed().
+    /// Returns the destination of jobs that name none; null if there is no default. Valid until changed().
     const Destination *defaultDestination() const;
 
 Q_SIGNALS:
-    /// destinations() are others now.
+    /// Emitted when destinations() changes.
     void changed();
-    /// The server has answered: destinations() are its own. Comes after changed(), if that comes at all.
+    /// Emitted when the server has responded and destinations() is its list; follows changed(), if that is
+    /// emitted.
     void refreshed();
-    /// The server cannot be asked; what was known stays.
+    /// Emitted when the query of the server fails; destinations() does not change.
     void failed(const host::CupsError &error);
 
 private:
@@ -59,7 +62,7 @@ private:
     CupsServer m_server;
     std::vector<Destination> m_destinations;
     bool m_isStale = true;
-    /// Only the first is there of what was known last time.
+    /// The list contains only the first of the cached destinations.
     bool m_isPartial = false;
     Background m_background;
     std::shared_ptr<BackgroundTask> m_task;

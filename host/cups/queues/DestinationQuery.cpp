@@ -38,11 +38,11 @@ constexpr std::pair<const char *, QStringList Destination::*> listAttributes[] =
     {"printer-state-reasons", &Destination::stateReasons},
 };
 
-/// All values of the attribute as text that cupsEncodeOptions() takes back.
+/// Returns all values of the attribute as text that cupsEncodeOptions() can parse.
 QByteArray valueText(ipp_attribute_t *attribute)
 {
     if (ippGetValueTag(attribute) == IPP_TAG_ENUM) {
-        // As numbers, which is what options have; ippAttributeString() gives the numbers' names.
+        // Enums are numbers in options; ippAttributeString() returns their names.
         QByteArrayList numbers;
         for (int i = 0; i < ippGetCount(attribute); ++i)
             numbers.append(QByteArray::number(ippGetInteger(attribute, i)));
@@ -85,7 +85,8 @@ void takeAttribute(Destination &destination, ipp_attribute_t *attribute)
         destination.queueOptions.push_back({name.chopped(8), valueText(attribute)});
 }
 
-/// As long as a server makes a queue for a discovered printer, it has it stopped. Nobody has stopped it.
+/// While the server creates a queue for a discovered printer, it reports the queue as stopped, although
+/// nothing has been paused.
 void passOverMaking(Destination &destination)
 {
     if (destination.isDiscovered && destination.state == QueueState::Paused && !destination.acceptsJobs) {
@@ -94,7 +95,7 @@ void passOverMaking(Destination &destination)
     }
 }
 
-/// The printers of an answer; each is a group of attributes.
+/// Reads the printers of a response; each is a group of attributes.
 std::vector<Destination> readDestinations(ipp_t *answer)
 {
     std::vector<Destination> destinations;
@@ -123,7 +124,7 @@ IppPointer listRequest(const CupsConnection &connection, ipp_op_t operation, con
     return request;
 }
 
-/// The queues, each followed by the instances that the user has of it.
+/// Returns the queues, each followed by the user's instances of it.
 std::vector<Destination> withInstances(const std::vector<Destination> &queues, const LpOptions &lpOptions)
 {
     std::vector<Destination> all;
@@ -180,7 +181,7 @@ Result<std::vector<Destination>, CupsError> queryDestinations(CupsConnection &co
 {
     Result<IppPointer, CupsError> answer =
         connection.exchange(listRequest(connection, IPP_OP_CUPS_GET_PRINTERS, {}), "/");
-    // A server without any queue says that it finds none.
+    // A server without queues responds that nothing was found.
     if (!answer && answer.error().kind != CupsFailure::NotFound)
         return answer.error();
     const LpOptions lpOptions = LpOptions::read();
@@ -215,8 +216,8 @@ Result<Destination, CupsError> queryDestination(CupsConnection &connection, cons
 void discoverDestinations(BackgroundTask &task, std::chrono::milliseconds time,
                           const std::function<void(const Destination &)> &found)
 {
-    // libcups asks a server for its queues first, over a connection whose certificate it does not check. They
-    // are known already from queryDestinations(): no server listens here.
+    // libcups first queries a server for its queues, over a connection whose certificate it does not check.
+    // They are already known from queryDestinations(): no server listens at this address.
     CupsServer none;
     none.address = QStringLiteral("/dev/null");
     const CupsThreadScope scope(none);

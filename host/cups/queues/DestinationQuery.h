@@ -7,19 +7,19 @@
 
 namespace host {
 
-/// All queues and classes of the server with the user's instances of them, in the server's order; the
-/// default one is marked. For tasks in the background.
+/// Returns all queues and classes of the server, with the user's instances of them, in the server's order;
+/// the default destination is marked. For background tasks.
 ///
-/// One request, on the task's connection. cupsEnumDests() would take one of its own, which nothing could
-/// interrupt, and ask for the default separately.
+/// Sends one request over the task's connection. cupsEnumDests() would open its own connection, which cannot
+/// be interrupted, and request the default separately.
 Result<std::vector<Destination>, CupsError> queryDestinations(CupsConnection &connection);
 
-/// One queue as it is now, with the options of the instance.
+/// Returns the current state of a queue, with the options of the instance. For background tasks.
 Result<Destination, CupsError> queryDestination(CupsConnection &connection, const QString &queue,
                                                 const std::optional<QString> &instance);
 
-/// Looks for printers on the network, until the time is over or the task is cancelled, and hands over each as
-/// soon as it is found. Asks no server. For tasks in the background.
+/// Discovers printers on the network until the time has passed or the task is canceled. Calls the function
+/// found for each printer as soon as it is found. Uses no print server. For background tasks.
 void discoverDestinations(BackgroundTask &task, std::chrono::milliseconds time,
                           const std::function<void(const Destination &)> &found);
 

@@ -16,22 +16,22 @@ struct DiscoveredQueueText {
     Q_DECLARE_TR_FUNCTIONS(host::DiscoveredQueue)
 };
 
-/// How often a server is asked whether it has made a queue.
+/// The interval at which the server is queried whether it has created the queue.
 constexpr std::chrono::milliseconds pauseBetweenLooks{50};
 
 struct DestinationsDelete {
     void operator()(cups_dest_t *dest) const { cupsFreeDests(1, dest); }
 };
 
-/// Printers are announced under a name of their service, "ipps://Labels._ipps._tcp.local/", whose host and
-/// port must be looked up.
+/// Printers announce themselves under a service name, "ipps://Labels._ipps._tcp.local/", whose host and port
+/// must be resolved.
 bool isAnnouncedName(const QByteArray &uri)
 {
     return uri.contains("._tcp");
 }
 
-/// Where the printer is now; nothing when it is not on the network any more. Print servers could look the
-/// name up by themselves, but cupsd 2.4 crashes later when it did.
+/// Returns the printer's current URI; no value if it is no longer on the network. Print servers could resolve
+/// the service name themselves, but cupsd 2.4 crashes later if it has done so.
 std::optional<QByteArray> lookUp(const Destination &destination, BackgroundTask &task,
                                  std::chrono::milliseconds time)
 {
@@ -42,7 +42,7 @@ std::optional<QByteArray> lookUp(const Destination &destination, BackgroundTask 
     cupsAddDest(destination.queue.toUtf8().constData(), nullptr, 0, &added);
     const std::unique_ptr<cups_dest_t, DestinationsDelete> dest(added);
     dest->num_options = cupsAddOption("device-uri", announced.constData(), dest->num_options, &dest->options);
-    // It puts the answer in the place of the name; nobody connects.
+    // Replaces the service name in the option by the resolved URI; no connection is made.
     std::array<char, HTTP_MAX_URI> resource = {};
     const HttpPointer http(cupsConnectDest(dest.get(), CUPS_DEST_FLAGS_DEVICE | CUPS_DEST_FLAGS_UNCONNECTED,
                                            static_cast<int>(time.count()), task.cancelFlag(), resource.data(),
@@ -66,7 +66,8 @@ IppPointer creationRequest(const Destination &destination, const QByteArray &dev
     return request;
 }
 
-/// Whether the server has the queue and is done with it; it asks the printer what it can do before that.
+/// Returns whether the server has created the queue completely; before that, it reads the printer's
+/// capabilities.
 Result<bool, CupsError> isMade(CupsConnection &connection, const QString &queue)
 {
     const Result<Destination, CupsError> now = queryDestination(connection, queue, std::nullopt);
@@ -117,7 +118,7 @@ std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destinati
                                  .arg(destination.queue)};
         const Result<IppPointer, CupsError> answer =
             connection.exchange(creationRequest(destination, *deviceUri), "/");
-        // Another program may have asked for the same queue meanwhile, which is as good.
+        // Another program may have requested the same queue at the same time; its queue can be used.
         if (!answer && !isMade(connection, destination.queue))
             return answer.error();
     }

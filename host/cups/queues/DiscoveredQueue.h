@@ -7,13 +7,13 @@
 
 namespace host {
 
-/// Has the server make a queue for a printer that was discovered on the network, and waits until it is ready
-/// to be used; nothing to do for all others, and for one that has its queue already. The server drops such a
-/// queue when nobody has used it for a minute, so this is asked for before every use. For the connection's
-/// task in the background. Nothing, or why there is no queue.
+/// Ensures that the server has a queue for a discovered printer: has it created if needed and waits until it
+/// can be used. Does nothing for other destinations. The server removes such a queue after a minute without
+/// use, so this is called before every use. For the connection's background task. Returns no value, or why
+/// there is no queue.
 ///
-/// The printer has as long as the time to be found and asked what it can do; without one, as long as the
-/// server may be silent.
+/// time is the maximum for finding the printer and reading its capabilities; if it is absent, the server's
+/// timeout applies.
 std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
                                      BackgroundTask &task,
                                      const std::optional<std::chrono::milliseconds> &time = std::nullopt);

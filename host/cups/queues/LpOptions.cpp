@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-/// Longer lines are not what lpoptions writes.
+/// lpoptions writes no longer lines; in bytes.
 constexpr qint64 longestLine = 8192;
 
 std::vector<NamedValue> parse(const QByteArray &text)
@@ -38,7 +38,7 @@ std::optional<QString> defaultOfEnvironment()
 {
     if (qEnvironmentVariableIsSet("LPDEST"))
         return qEnvironmentVariable("LPDEST");
-    // "lp" is what systems set where nothing is meant.
+    // Systems set "lp" where no printer is meant.
     if (qEnvironmentVariableIsSet("PRINTER") && qEnvironmentVariable("PRINTER") != QStringLiteral("lp"))
         return qEnvironmentVariable("PRINTER");
     return std::nullopt;

@@ -5,27 +5,29 @@
 
 namespace host {
 
-/// The options that lpoptions(1) keeps, for all users and for this one. Read here because libcups merges
-/// them into what the server says, so that nobody could tell the two apart, and does not list the
-/// instances of a queue that has no options of its own. Never written: that is libcups's business.
+/// The options that lpoptions(1) stores, for all users and for the current one. They are read here because
+/// libcups merges them into the server's options, so that the two cannot be distinguished, and does not list
+/// the instances of a queue without options of its own. The files are never written here; only libcups writes
+/// them.
 class LpOptions {
 public:
-    /// What is kept for one destination.
+    /// The options of one destination.
     struct Entry {
         QString queue;
         std::optional<QString> instance;
         std::vector<NamedValue> options;
     };
 
-    /// Reads the system's file and the user's; what is missing or malformed is passed over, as libcups does.
+    /// Reads the system's file and the user's. Skips what is missing or malformed, as libcups does.
     static LpOptions read();
 
-    /// In the files' order; the user's options stand in place of the system's.
+    /// The entries in the files' order; an option of the user replaces that of the system.
     const std::vector<Entry> &entries() const { return m_entries; }
-    /// The options of exactly this destination; an instance does not share those of its queue, as with lp.
+    /// Returns the options of exactly this destination; an instance does not share those of its queue, as
+    /// with lp.
     std::vector<NamedValue> options(const QString &queue, const std::optional<QString> &instance) const;
-    /// The destination to use when none is named: of LPDEST, PRINTER, the user's file or the system's;
-    /// nothing when the server's own default counts.
+    /// The destination to use if none is named: from LPDEST, PRINTER, the user's file or the system's; absent
+    /// if the server's default applies.
     const std::optional<QString> &defaultName() const { return m_defaultName; }
 
 private:

@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-/// Reading so much takes some tens of milliseconds. Hardly any printer's PPD is larger.
+/// In bytes. Reading a file of this size takes some tens of milliseconds; hardly any PPD is larger.
 constexpr qint64 mostAtOnce = qint64{512} * 1024;
 
 bool isLarge(const QString &path)
@@ -23,7 +23,7 @@ bool isLarge(const QString &path)
     return QFileInfo(path).size() > mostAtOnce;
 }
 
-/// The PPD; nothing when it cannot be used.
+/// Returns the PPD; no value if it cannot be used.
 std::optional<PpdFile> openQuietly(const QString &path)
 {
     Result<PpdFile, PpdError> ppd = PpdFile::open(path);
@@ -32,19 +32,20 @@ std::optional<PpdFile> openQuietly(const QString &path)
 
 } // namespace
 
-/// What came of asking: exactly one of a PPD, an error, "there is none", or nothing new.
+/// The result of a query: exactly one of a PPD, an error, "absent", or "unchanged".
 struct PpdLoader::Outcome {
     std::shared_ptr<PpdFile> ppd;
     std::optional<CupsError> error;
     bool isAbsent = false;
-    /// The PPD's.
+    /// The stamp of the PPD.
     QByteArray stamp = {};
 };
 
 namespace {
 
-/// The PPD from its bytes, by way of a file, which libcups needs. The cache's is as good as any, unless the
-/// cache cannot be written or another program has put another PPD there.
+/// Reads the PPD from its content by way of a file, which libcups requires: the cached file if it has the
+/// same content, otherwise a temporary one, because the cache may not be writable or another program may have
+/// replaced the file.
 Result<PpdFile, PpdError> openContent(const QByteArray &content, const std::optional<QString> &cachePath)
 {
     if (cachePath) {
@@ -73,7 +74,7 @@ std::optional<PpdFile> PpdLoader::cached(const QString &queue)
     const std::optional<QString> path = cache.ppdPath(queue);
     if (!path || isLarge(*path))
         return std::nullopt;
-    // First the stamp: if the file is replaced in between, the server gives the new one once more.
+    // Reads the stamp first: if the file is replaced in between, the server sends the new PPD again.
     const QByteArray stamp = cache.ppdStamp(queue);
     std::optional<PpdFile> ppd = openQuietly(*path);
     if (ppd)
@@ -94,7 +95,7 @@ void PpdLoader::load(const Destination &destination, LargeCached largeCached)
             if (largeCached == LargeCached::Wanted)
                 remembered = bringLarge(server, destination.queue, turn, task);
             const Outcome outcome = ask(server, destination, remembered.value_or(given), task);
-            if (!task.isCancelled()) // "this" is only used on the main thread, while it is there
+            if (!task.isCancelled()) // "this" is only used on the main thread, while it exists
                 task.deliver([this, turn, queue = destination.queue, outcome] {
                     if (turn == m_turn)
                         report(queue, outcome);
@@ -113,7 +114,7 @@ std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const 
     std::optional<PpdFile> ppd = openQuietly(*path);
     if (!ppd)
         return std::nullopt;
-    // "this" is only used on the main thread, while it is there
+    // "this" is only used on the main thread, while the object exists.
     task.deliver([this, turn, queue, stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
         if (turn != m_turn)
             return;
@@ -147,7 +148,7 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
     cache.storePpd(queue, content, file.value()->modified);
     Result<PpdFile, PpdError> ppd = openContent(content, cache.ppdPath(queue));
     if (!ppd) {
-        // Not kept: next time the server may have a better one that looks as old.
+        // Removes the PPD: the server may later have a better one with the same date.
         cache.removePpd(queue);
         return {nullptr, CupsError{CupsFailure::Refused, ppd.error().message}, false};
     }

@@ -11,44 +11,45 @@
 
 namespace host {
 
-/// Gets the PPDs of queues: at once what is kept from last time, and then what the server has now.
+/// Loads the PPDs of queues: first the cached one, then the server's.
 ///
-/// The PPD comes over the connection that all other requests take. cupsGetPPD3() is not used: for a server
-/// named "localhost" it takes the local machine's file for the queue's, wrong when the port leads
-/// elsewhere; it opens a second connection to whatever the server calls itself; and neither can be
-/// interrupted.
+/// The PPD is fetched over a CupsConnection, like all other requests. cupsGetPPD3() is not used: for a server
+/// named "localhost", it uses the local machine's file, which is wrong if the port leads to another machine;
+/// it opens a second connection to whatever name the server gives itself; and neither can be interrupted.
 class PpdLoader : public QObject {
     Q_OBJECT
 
 public:
+    /// Creates a loader for the server's queues. Sends no request.
     explicit PpdLoader(CupsServer server, QObject *parent = nullptr);
 
-    /// The queue's PPD as it was last time; nothing when none was kept, it cannot be read, or it is so large
-    /// that reading it would hold up a window: then load() brings it. Does not ask the server.
+    /// Returns the queue's cached PPD; no value if there is none, if it cannot be read, or if it is so large
+    /// that reading it would block a window: then load() loads it. Does not query the server.
     std::optional<PpdFile> cached(const QString &queue);
 
-    /// Whether load() is to bring the PPD of last time too, when cached() has left it out.
+    /// Whether load() also loads a large cached PPD that cached() has skipped.
     enum class LargeCached { Known, Wanted };
-    /// Asks the server for the queue's PPD, or whether it is another than the one that was given last; one of
-    /// the signals tells the outcome. An earlier request that has not been answered yet is given up.
+    /// Requests the queue's PPD from the server, if it differs from the one that was last returned or
+    /// emitted; one of the signals reports the result. Cancels an earlier request that has not been
+    /// completed.
     void load(const Destination &destination, LargeCached largeCached = LargeCached::Known);
 
 Q_SIGNALS:
-    /// The PPD of last time, which was too large for cached(). The server is still being asked.
+    /// Emitted with a cached PPD that was too large for cached(). The query of the server continues.
     void remembered(const QString &queue, const std::shared_ptr<host::PpdFile> &ppd);
-    /// The PPD is another than the one given before, or none was given. Defaults are not marked yet. The
-    /// receiver may take the PPD out.
+    /// Emitted with the server's PPD if it differs from the earlier one, or there was none. Its defaults are
+    /// not marked. The receiver may move the PPD out.
     void loaded(const QString &queue, const std::shared_ptr<host::PpdFile> &ppd);
-    /// The PPD that was given before is the queue's.
+    /// Emitted when the earlier PPD is still the server's.
     void unchanged(const QString &queue);
-    /// The queue has no PPD. It prints all the same.
+    /// Emitted when the queue has no PPD. Printing is still possible.
     void absent(const QString &queue);
-    /// The server cannot be asked, or its PPD is unusable; the message says why.
+    /// Emitted when the query fails or the server's PPD cannot be used; the error's message describes why.
     void failed(const QString &queue, const host::CupsError &error);
 
 private:
     struct Outcome;
-    /// Brings the PPD of last time if it is a large one. Its stamp; nothing when there is none. In the
+    /// Loads the cached PPD if it is large. Returns its stamp; no value if there is no such PPD. Runs in the
     /// background.
     std::optional<QByteArray> bringLarge(const CupsServer &server, const QString &queue, int turn,
                                          BackgroundTask &task);
@@ -59,10 +60,10 @@ private:
     CupsServer m_server;
     Background m_background;
     std::shared_ptr<BackgroundTask> m_task;
-    /// Counts the requests: an answer to an earlier one may be on its way when the next is made.
+    /// Counts the requests: the result of an earlier one may still arrive after the next one is made.
     int m_turn = 0;
-    /// The stamp of the PPD that was given last, by queue. Not that of the cache's file, which another
-    /// program may have replaced meanwhile.
+    /// The stamps of the PPDs that were last returned or emitted, by queue. Not those of the cached files,
+    /// which another program may have replaced since.
     std::map<QString, QByteArray> m_given;
 };
 

@@ -15,24 +15,25 @@ namespace host {
 
 namespace {
 
-/// Raised whenever the file's form changes; other forms are not read.
+/// Incremented whenever the file format changes; files of other versions are not read.
 constexpr int formVersion = 1;
 
-/// A name that stands for any text within one folder.
+/// Returns a file name that is unique for the text.
 QString fileName(const QString &text)
 {
     return QString::fromLatin1(text.toUtf8().toPercentEncoding({}, ".~")).replace(u'%', u'+');
 }
 
-/// The folder of all that the program keeps.
+/// Returns the cache folder of the program.
 QString topFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QStringLiteral("/kvprint");
 }
 
-/// Makes the folder, which lies in the top folder, and takes it and those above it away from other users, who
-/// could see its files' names: they name the servers and queues that the user prints on.
+/// Creates the folder, which is inside the top folder, and removes the access of other users to it and the
+/// folders above: the file names contain the servers and queues that the user prints on. Returns false if it
+/// cannot be created.
 bool prepareFolder(const QString &folder)
 {
     if (platform::makePrivateFolders(folder))

@@ -7,36 +7,41 @@
 
 namespace host {
 
-/// What was known of a server when it was asked last, so that a dialog can show it before the server answers:
-/// queues, their states and their PPDs. Kept in $XDG_CACHE_HOME/kvprint/cups/SERVER, one file each,
-/// always written whole, in folders that only this user can open. A file that is missing or damaged is one
-/// that was never kept.
+/// The cache of what a server last reported, which a dialog shows before the server responds: queues, their
+/// states and their PPDs. Stored in $XDG_CACHE_HOME/kvprint/cups/SERVER, in separate files, which are always
+/// replaced as a whole, in folders that only the user can open. A missing or damaged file counts as absent.
 ///
-/// Safe to use by several programs and threads at once: a reader sees the old file or the new one.
+/// Safe for several programs and threads at the same time: a reader gets either the old file or the new one.
 class QueueCache {
 public:
+    /// Opens the cache of the server. Does not use the network and creates no files.
     explicit QueueCache(const CupsServer &server);
 
+    /// Returns the cached destinations; empty if there are none.
     std::vector<Destination> destinations() const;
-    /// A failure to write is no concern of the user; the cache then stays as it was.
+    /// Stores the destinations. An error is ignored: the cache then stays unchanged.
     void storeDestinations(const std::vector<Destination> &destinations) const;
 
-    /// The destination that was set up last, which mostly is the next one too; reading it alone takes no time
-    /// however many there are. Nothing when none is kept.
+    /// Returns the destination that was last set up, which usually is also the next one; reading it takes
+    /// little time, whatever the number of destinations. Returns no value if there is none.
     std::optional<Destination> last() const;
+    /// Stores that destination; ignores errors.
     void storeLast(const Destination &destination) const;
 
-    /// The queue's PPD; nothing when none is kept.
+    /// Returns the path of the queue's PPD; no value if there is none.
     std::optional<QString> ppdPath(const QString &queue) const;
-    /// What a server is asked to compare its PPD with, as an "If-Modified-Since" field; empty when none is
-    /// kept. The length is part of it: a PPD may be replaced twice in a second.
+    /// Returns the value of an "If-Modified-Since" field with which a server compares its PPD to the cached
+    /// one; empty if there is none. It includes the length, because a PPD may be replaced twice within a
+    /// second.
     QByteArray ppdStamp(const QString &queue) const;
-    /// The same of a PPD that was fetched: when it was modified, in seconds since 1970, and its bytes.
+    /// Returns the same for a fetched PPD: modified in seconds since 1970-01-01 UTC, length in bytes.
     static QByteArray stamp(qint64 modified, qint64 length);
-    /// Keeps the PPD; modified in seconds since 1970.
+    /// Stores the PPD; modified in seconds since 1970-01-01 UTC. Ignores errors.
     void storePpd(const QString &queue, const QByteArray &content, qint64 modified) const;
+    /// Removes the queue's PPD, if there is one.
     void removePpd(const QString &queue) const;
 
+    /// The path of the server's folder in the cache.
     const QString &folder() const { return m_folder; }
 
 private:

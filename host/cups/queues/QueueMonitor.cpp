@@ -14,7 +14,7 @@ QueueMonitor::QueueMonitor(const CupsServer &server, const QString &queue,
         std::optional<Destination> last;
         std::optional<CupsFailure> lastFailure;
         for (; !task.isCancelled(); task.pause(pause)) {
-            // A connection for each question: servers drop those that are idle for long.
+            // One connection per query: servers close connections that are idle for long.
             Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
             const Result<Destination, CupsError> now =
                 connection ? queryDestination(connection.value(), queue, instance) : connection.error();

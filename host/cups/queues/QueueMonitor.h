@@ -8,21 +8,21 @@
 
 namespace host {
 
-/// Keeps the state of one destination current, for as long as it lives. For the one that is chosen in a
+/// Monitors the state of one destination until the monitor is destroyed. For the chosen destination of a
 /// dialog.
 class QueueMonitor : public QObject {
     Q_OBJECT
 
 public:
-    /// Asks the server now and again, with this pause after each answer.
+    /// Queries the server immediately, and again after the given pause following each response.
     QueueMonitor(const CupsServer &server, const QString &queue, const std::optional<QString> &instance,
                  std::chrono::milliseconds pause = std::chrono::seconds(3), QObject *parent = nullptr);
 
 Q_SIGNALS:
-    /// The destination as it is now; the first answer, and whenever something is different.
+    /// Emitted with the state of the destination after the first response and after every change.
     void changed(const host::Destination &destination);
-    /// The queue is not there any more (CupsFailure::NotFound), or the server cannot be asked. Told once;
-    /// the monitor goes on asking.
+    /// Emitted when the queue no longer exists (CupsFailure::NotFound) or the query of the server fails.
+    /// Emitted once for each kind of error; the monitor continues its queries.
     void failed(const host::CupsError &error);
 
 private:

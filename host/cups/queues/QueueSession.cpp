@@ -14,7 +14,7 @@ struct QueueSessionText {
     Q_DECLARE_TR_FUNCTIONS(host::QueueSession)
 };
 
-/// After which a server that could not be asked is asked again.
+/// The interval after which a server that could not be reached is queried again.
 constexpr std::chrono::seconds retryInterval{3};
 
 bool isOutOfReach(const CupsError &error)
@@ -96,7 +96,7 @@ void QueueSession::choose(const QString &name)
 void QueueSession::chooseWanted()
 {
     if (m_chosen) {
-        // The list is newer than what was chosen from.
+        // The list is newer than the chosen destination.
         const Destination *const same = m_destinations.find(m_chosen->name());
         if (same && same->name() == m_chosen->name())
             takeState(*same);
@@ -126,7 +126,7 @@ void QueueSession::listFailed(const CupsError &error)
     m_listError = error;
     tell(error);
     Q_EMIT settled();
-    // A chosen queue is asked for its state all the time, which tells when the server is back.
+    // The state of a chosen queue is queried continuously, which reports when the server responds again.
     if (!m_chosen && isOutOfReach(error))
         QTimer::singleShot(retryInterval, this, [this] { m_destinations.refresh(m_discovery); });
 }
@@ -153,11 +153,11 @@ void QueueSession::takeList()
 void QueueSession::settle()
 {
     m_isSettled = true;
-    // The server has no queue for a discovered printer before something is printed.
+    // The server has no queue for a discovered printer before it is used.
     const bool isGone = m_chosen && !m_chosen->isDiscovered && !m_destinations.find(m_chosen->name());
     if (isGone || (!m_chosen && m_wanted))
         Q_EMIT failed(noSuchDestination());
-    // Without a default anywhere, the first one is as good a beginning as any.
+    // Without any default, the first destination is chosen.
     if (!m_chosen && !m_wanted && !m_destinations.destinations().empty())
         setChosen(m_destinations.destinations().front());
     if (m_chosen)
@@ -181,13 +181,13 @@ void QueueSession::takeState(const Destination &destination)
     const bool isReconfigured = m_chosen->configured != destination.configured;
     m_chosen = destination;
     Q_EMIT stateChanged();
-    // While it is being asked for anyway, the answer has whatever the administrator has changed.
+    // The response of a running query already contains the administrator's changes.
     const bool isAskedFor = m_knowledge == PpdKnowledge::Asked || m_knowledge == PpdKnowledge::Cached;
     if (isReconfigured && m_hasStarted && !isAskedFor)
         m_loader.load(destination);
     if (!hasOtherDefaults)
         return;
-    // What a job has without any choice is marked in the PPD, so the marks begin anew.
+    // The PPD's marks contain the defaults of a job, so they are set again in a new PPD.
     m_ppd = m_loader.cached(destination.queue);
     if (m_ppd)
         Q_EMIT ppdChanged();
@@ -197,7 +197,7 @@ void QueueSession::takeState(const Destination &destination)
 
 void QueueSession::takeNews(Destination news)
 {
-    // One queue's answer does not tell where jobs go by default, nor how the queue was found.
+    // The query of one queue reports neither whether it is the default nor how it was found.
     news.isDefault = m_chosen->isDefault;
     news.isDiscovered = m_chosen->isDiscovered;
     m_destinations.update(news);
@@ -222,7 +222,7 @@ void QueueSession::setChosen(const Destination &destination)
         m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
         connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
         connect(m_monitor.get(), &QueueMonitor::failed, this, [this](const CupsError &error) {
-            // A discovered printer has no queue as long as nobody uses it.
+            // A discovered printer has no queue while it is not used.
             const bool isMissing = error.kind == CupsFailure::NotFound;
             if (!isMissing || !m_chosen->isDiscovered)
                 tell(isMissing ? noSuchDestination() : error);

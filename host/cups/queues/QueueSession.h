@@ -7,74 +7,79 @@
 
 namespace host {
 
-/// What is known of the chosen queue's PPD.
+/// The state of the chosen queue's PPD.
 enum class PpdKnowledge {
-    Asked,   ///< nothing yet; the server is being asked
-    Cached,  ///< as it was last time; the server is being asked
-    Current, ///< as the server has it
-    Absent,  ///< the queue has none and prints all the same
-    Failed,  ///< the server cannot be asked or its PPD is unusable; a cached one still serves
+    Asked,   ///< none yet; the server is being queried
+    Cached,  ///< from the cache; the server is being queried
+    Current, ///< the server's
+    Absent,  ///< the queue has none; printing is still possible
+    Failed,  ///< the query failed or the PPD is unusable; a cached one remains in use
 };
 
-/// A program's dealings with one print server: its destinations, the chosen one, and that one's state and
-/// PPD, at first as they were last time, then as the server tells. Lives on the main thread and never makes
-/// it wait.
+/// A program's session with a print server: its destinations, the chosen one, and the state and PPD of that
+/// one, first from the cache, then from the server. Lives on the main thread and never blocks it.
 ///
-/// The destination that was asked for, or else the default one, is chosen as soon as it is known, even when
-/// it arrives last; until the user chooses another, nothing else is chosen in its place while it may still
-/// come.
+/// Chooses the requested destination, or the default one if none is requested, as soon as it is known, even
+/// if it is the last to be found. Until the user chooses another, the session chooses no other in its place
+/// while it may still be found.
 class QueueSession : public QObject {
     Q_OBJECT
 
 public:
-    /// wanted is "queue" or "queue/instance"; nothing for the default: that of LPDEST, PRINTER, lpoptions or
-    /// the server. Chooses from what is kept of last time; asks nobody yet.
+    /// wanted is "queue" or "queue/instance"; absent for the default: that of LPDEST, PRINTER, lpoptions or
+    /// the server. Chooses from the cached destinations and sends no request.
     QueueSession(CupsServer server, const std::optional<QString> &wanted, QObject *parent = nullptr);
 
-    /// Asks the server for everything.
+    /// Queries the server for the destinations, and for the state and PPD of the chosen one.
     void start(Discovery discovery);
-    /// Asks for everything once more; a user who has refused a password is asked for it again.
+    /// Repeats all queries; a user who has declined to enter a password is asked again.
     void tryAgain();
 
+    /// The server of the session and its destinations.
     const CupsServer &server() const { return m_server; }
     const DestinationList &destinations() const { return m_destinations; }
-    /// Why the server's destinations are not known; nothing while it is being asked or has answered.
+    /// The error of the last query of the destinations; absent if it has succeeded, or if none has failed
+    /// since start().
     const std::optional<CupsError> &listError() const { return m_listError; }
-    /// The chosen destination; nothing while it is not known.
+    /// The chosen destination; absent while it is not known.
     const std::optional<Destination> &chosen() const { return m_chosen; }
-    /// The name that is waited for or chosen; empty when not even that is known.
+    /// Returns the name of the chosen destination, or of the requested one while it is not known; empty if
+    /// neither is known.
     QString chosenName() const;
-    /// Chooses another destination of the list; a name that is not in it is passed over.
+    /// Chooses another destination of the list; ignores a name that the list does not contain.
     void choose(const QString &name);
-    /// Has the session ask, before it chooses another destination by itself, whether the user has set
-    /// something for the chosen one already; then that one stays.
+    /// Sets a function that returns whether the user has already changed a setting for the chosen
+    /// destination. The session calls it before it chooses another destination by itself; if it returns true,
+    /// the choice stays.
     void setIsInUse(std::function<bool()> isInUse) { m_isInUse = std::move(isInUse); }
 
+    /// The state of the chosen queue's PPD.
     PpdKnowledge ppdKnowledge() const { return m_knowledge; }
-    /// Why the PPD could not be had or used; only with PpdKnowledge::Failed.
+    /// Why the PPD cannot be loaded or used; absent unless ppdKnowledge() is PpdKnowledge::Failed.
     const std::optional<CupsError> &ppdError() const { return m_ppdError; }
-    /// The chosen queue's PPD as it was loaded last, for the receiver of ppdChanged() to take; nothing when
-    /// it has been taken already or there is none.
+    /// Moves out the chosen queue's PPD that was last loaded, for the receiver of ppdChanged(). Returns no
+    /// value if it was already moved out or there is none.
     std::optional<PpdFile> takePpd();
-    /// The server has answered with its destinations, or failed to.
+    /// Whether the server has reported its destinations, or the query has failed.
     bool isSettled() const { return m_isSettled; }
 
 Q_SIGNALS:
-    /// destinations() are others now.
+    /// Emitted when destinations() changes.
     void destinationsChanged();
-    /// Another destination is chosen; its PPD may be at hand already.
+    /// Emitted when another destination is chosen; its PPD may be available already.
     void chosenChanged();
-    /// The chosen destination is in another state, or the server is being asked for everything once more.
+    /// Emitted when the state of the chosen destination changes, or when all queries are repeated.
     void stateChanged();
-    /// ppdKnowledge() is another; takePpd() has a new PPD when the server's is not the one given before.
+    /// Emitted when ppdKnowledge() changes; takePpd() returns a new PPD if the server's differs from the
+    /// earlier one.
     void ppdChanged();
-    /// The server has answered with its destinations, or failed to: what is not there now will not come,
-    /// unless it is discovered on the network.
+    /// Emitted when the server has reported its destinations, or the query has failed: destinations that are
+    /// missing now are not found later, except by discovery on the network.
     void settled();
-    /// The server cannot be asked, or has no such destination or queue; the message says why. What is known
-    /// stays.
+    /// Emitted when a query fails, or the server has no such destination or queue; the error's message
+    /// describes why. What is already known stays.
     void failed(const host::CupsError &error);
-    /// The server answers again after it could not be asked.
+    /// Emitted when the server responds again after it could not be reached.
     void recovered();
 
 private:
@@ -92,7 +97,8 @@ private:
     CupsError noSuchDestination() const;
 
     CupsServer m_server;
-    /// What is waited for; nothing when the user has chosen, or when the server's default counts.
+    /// The requested destination or that of LPDEST, PRINTER or lpoptions; absent if the server's default
+    /// applies.
     std::optional<QString> m_wanted;
     DestinationList m_destinations;
     PpdLoader m_loader;
@@ -107,7 +113,7 @@ private:
     bool m_isSettled = false;
     bool m_userHasChosen = false;
     std::function<bool()> m_isInUse = [] { return false; };
-    /// The server could not be asked the last time.
+    /// The last query could not reach the server.
     bool m_isOutOfReach = false;
 };
 

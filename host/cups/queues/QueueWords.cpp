@@ -67,7 +67,7 @@ constexpr std::pair<const char *, StateSeverity> severities[] = {
     {"-error", StateSeverity::Error},
 };
 
-/// The keyword without its severity.
+/// Returns the keyword without its severity.
 QString plainKeyword(QString reason)
 {
     for (const auto &[suffix, severity] : severities) {
@@ -107,14 +107,14 @@ QString stateReasonSentence(const QString &reason)
 
 StateSeverity stateReasonSeverity(const QString &reason)
 {
-    // CUPS only ever reports that a printer cannot be reached, which people take for more than a remark.
+    // CUPS reports an unreachable printer only with "-report"; for users, this is a warning.
     if (reason == QStringLiteral("offline-report"))
         return StateSeverity::Warning;
     for (const auto &[suffix, severity] : severities) {
         if (reason.endsWith(QLatin1String(suffix)))
             return severity;
     }
-    // Without a suffix a reason is an error, says RFC 8011, but this one only tells what goes on.
+    // RFC 8011: a reason without a suffix is an error, but this one only describes the progress.
     return reason == QStringLiteral("connecting-to-device") ? StateSeverity::Good : StateSeverity::Error;
 }
 
@@ -122,7 +122,7 @@ QStringList queueSentences(const Destination &destination)
 {
     QStringList sentences;
     const bool stopped = destination.state == QueueState::Paused;
-    // "Ready" beside an empty roll would contradict itself.
+    // "Ready" would contradict a reason such as an empty roll.
     if (destination.state != QueueState::Ready || queueSeverity(destination) == StateSeverity::Good)
         sentences.append(stateSentence(destination));
     for (const QString &reason : destination.stateReasons) {
@@ -133,7 +133,7 @@ QStringList queueSentences(const Destination &destination)
     if (!destination.acceptsJobs)
         sentences.append(QueueWordsText::tr("The queue accepts no jobs."));
     const QString message = destination.stateMessage.trimmed();
-    // "Paused" after "The queue is paused" says nothing new, nor does "Idle".
+    // "Paused" repeats "The queue is paused", and "Idle" adds nothing.
     const bool tellsMore = !message.isEmpty() && !(stopped && message == QStringLiteral("Paused")) &&
                            message != QStringLiteral("Idle");
     if (tellsMore)

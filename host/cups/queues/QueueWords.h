@@ -5,18 +5,20 @@
 
 namespace host {
 
-/// How urgent a state is, for the choice of an icon or colour.
+/// The severity of a state, for the choice of an icon or color.
 enum class StateSeverity { Good, Warning, Error };
 
-/// How the queue is, one sentence each, in the user's language: what it does, what keeps it from printing,
-/// whether it takes jobs, and in the end the server's own words when they say more.
+/// Describes the queue in one sentence each, in the user's language: its state, what keeps it from printing,
+/// whether it accepts jobs, and finally the server's message if that adds something.
 QStringList queueSentences(const Destination &destination);
-/// The worst of what queueSentences() tells.
+/// Returns the highest severity among the sentences of queueSentences().
 StateSeverity queueSeverity(const Destination &destination);
 
-/// What IPP's keyword means, for instance "media-empty-error": "The label roll or tape is empty.". Keywords
-/// that nobody has agreed on are answered as they are, with blanks for dashes.
+/// Returns the meaning of an IPP keyword in the user's language, for instance for "media-empty-error": "The
+/// label roll or tape is empty.". For an unknown keyword, returns the keyword with spaces in place of
+/// hyphens.
 QString stateReasonSentence(const QString &reason);
+/// Returns the severity of an IPP keyword, such as that of the suffix "-error".
 StateSeverity stateReasonSeverity(const QString &reason);
 
 } // namespace host

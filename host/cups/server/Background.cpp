@@ -20,7 +20,7 @@ void BackgroundTask::cancel()
 
 void BackgroundTask::deliver(std::function<void()> call) const
 {
-    // The receiver cannot end while the lock is held; a call that is still queued ends with it.
+    // The receiver cannot be destroyed while the lock is held; queued calls are discarded with it.
     const std::scoped_lock lock(m_mailbox->mutex);
     if (m_mailbox->receiver)
         QMetaObject::invokeMethod(m_mailbox->receiver, std::move(call), Qt::QueuedConnection);

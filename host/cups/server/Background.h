@@ -11,30 +11,30 @@
 
 namespace host {
 
-/// A piece of work on a thread of its own, as that thread sees it.
+/// A task on its own thread, as seen by that thread.
 class BackgroundTask {
 public:
-    /// Work that nobody waits for: its deliveries go nowhere.
+    /// Creates a task without a receiver: its deliveries are discarded.
     BackgroundTask()
         : m_mailbox(std::make_shared<Mailbox>())
     {
     }
 
-    /// Whether nobody wants the outcome any more. To be looked at often.
+    /// Returns whether the task has been canceled. Long-running work calls this often.
     bool isCancelled() const;
-    /// The same as a variable that libcups watches. Lives as long as the task.
+    /// Returns the same flag as a variable that libcups watches. Valid for the lifetime of the task.
     int *cancelFlag() { return &m_cancelled; }
-    /// Has the main thread call the function, unless those who wait for it are gone by then.
+    /// Queues the call on the main thread. Drops it if the receiver is destroyed before the call.
     void deliver(std::function<void()> call) const;
-    /// Sleeps, but no longer than until the task is cancelled.
+    /// Sleeps for the given time, or until the task is canceled.
     void pause(std::chrono::milliseconds time) const;
-    /// Asks the work to end early. May be called by any thread.
+    /// Cancels the task. Thread-safe.
     void cancel();
 
 private:
     friend class Background;
 
-    /// Where deliveries go: an object of the main thread, null once it is gone.
+    /// The receiver of deliveries: an object of the main thread, null after it is destroyed.
     struct Mailbox {
         std::mutex mutex;
         QObject *receiver = nullptr;
@@ -49,12 +49,12 @@ private:
     int m_cancelled = 0;
 };
 
-/// Starts work that may wait for a network, and owns its deliveries. Belongs to an object of the main
-/// thread that wants the outcomes.
+/// Starts tasks that may wait for a network, and owns their deliveries. Belongs to an object of the main
+/// thread that uses their results.
 ///
-/// Destroying it cancels all its tasks and drops their deliveries, but waits for none of them: looking up a
-/// host's name cannot be interrupted. The work must therefore hold on to nothing but values and shared
-/// pointers of its own.
+/// The destructor cancels all tasks and drops their deliveries, but does not wait for the tasks: the lookup
+/// of a host name cannot be interrupted. The work must therefore hold only values and shared pointers of its
+/// own.
 class Background {
 public:
     Background();
@@ -62,15 +62,16 @@ public:
     Background(const Background &) = delete;
     Background &operator=(const Background &) = delete;
 
-    /// Runs the work on a thread of its own.
+    /// Runs the work on a new thread and returns its task.
     std::shared_ptr<BackgroundTask> start(std::function<void(BackgroundTask &)> work);
 
-    /// Runs work that nothing can interrupt, and whose outcome nobody may want by then. Its thread, like all
-    /// threads of this class, is named "kv-background" for debuggers and for those who wait for its end.
+    /// Runs work that cannot be interrupted and whose result may no longer be needed when it is complete. Its
+    /// thread, like all threads of this class, is named "kv-background", for debuggers and for code that
+    /// waits for its end.
     static void detach(std::function<void()> work);
 
-    /// Whether anything was ever started in this program. Its threads may be at work to the very end, when a
-    /// server is silent, and must not find what a usual end of the program has taken down by then.
+    /// Returns whether this class has started any thread in this program. When a server is silent, such a
+    /// thread may run until the program ends, and must not access what a normal exit has already destroyed.
     static bool wasUsed();
 
 private:

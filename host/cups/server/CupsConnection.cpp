@@ -18,17 +18,17 @@ struct CupsConnectionText {
     Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
 };
 
-/// How often the task is looked at while the server is silent, in seconds.
+/// The interval in seconds at which the task is checked while the server is silent.
 constexpr double lookInterval = 0.1;
 
-/// How many bytes the system still holds that were written to the server and have not reached it.
+/// Returns the number of bytes in the socket's send queue: written, but not received by the server.
 int unsentBytes(http_t *http)
 {
     int bytes = 0;
     return ioctl(httpGetFd(http), SIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
-/// Whether the connection takes another request as it is: it is open, and libcups does not replace it.
+/// Returns whether the connection can carry another request: it is open, and libcups does not replace it.
 bool isUsable(http_t *http)
 {
     if (!http || httpGetFd(http) < 0)
@@ -61,14 +61,14 @@ bool CupsConnection::connect()
     m_state->unsent = 0;
     beginWaiting();
     errno = 0;
-    // Encryption is switched on afterwards, when the limits on silence hold already.
+    // Encryption starts afterwards, when the timeout is already in effect.
     m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
                               static_cast<int>(timeout()), m_state->task->cancelFlag()));
     if (!m_http)
         return false;
     httpSetTimeout(m_http.get(), lookInterval, mayWaitOn, m_state.get());
     const bool encrypts = m_state->encryption >= HTTP_ENCRYPTION_REQUIRED;
-    // Port 443 is encrypted by libcups in any case.
+    // libcups always encrypts port 443.
     if ((encrypts && httpEncryption(m_http.get(), m_state->encryption) != 0) || !isTrusted())
         m_http.reset();
     return m_http != nullptr;
@@ -79,7 +79,8 @@ bool CupsConnection::reconnect()
     const QByteArray authorization = m_http ? httpGetAuthString(m_http.get()) : nullptr;
     const bool isPassword = authorization.startsWith("Basic ") || authorization.startsWith("Digest ");
     if (m_http && !authorization.isEmpty() && !isPassword) {
-        // libcups counts in the connection how often a proof of its own was refused.
+        // Keeps the connection: libcups counts in it how often the server has rejected credentials of
+        // libcups's own.
         beginWaiting();
         httpClearFields(m_http.get());
         if (httpReconnect2(m_http.get(), static_cast<int>(timeout()), m_state->task->cancelFlag()) != 0 ||
@@ -87,11 +88,11 @@ bool CupsConnection::reconnect()
             m_http.reset();
         return m_http != nullptr;
     }
-    // It keeps the password there too, and would send a refused one once more.
+    // Replaces the connection: libcups also keeps the password in it and would send a rejected one again.
     const bool wasReadable = m_http && isReadable(m_http.get());
     if (!connect())
         return false;
-    // The name may lead to another address than before.
+    // The host name may resolve to another address than before.
     if (isPassword && (wasReadable || !isReadable(m_http.get())))
         httpSetAuthString(m_http.get(), authorization.constData(), nullptr);
     return true;
@@ -100,15 +101,15 @@ bool CupsConnection::reconnect()
 bool CupsConnection::prepare()
 {
     beginWaiting();
-    // libcups would reconnect by itself, without a check of the certificate.
+    // libcups would reconnect without checking the certificate.
     return isUsable(m_http.get()) || reconnect();
 }
 
 int CupsConnection::mayWaitOn(http_t *http, void *data)
 {
     State &state = *static_cast<State *>(data);
-    // The system takes megabytes at once that a slow link carries for a long time; a server that takes them
-    // up is not silent.
+    // The system buffers megabytes that a slow link transmits for a long time; a server that receives them is
+    // not silent.
     const int unsent = unsentBytes(http);
     if (unsent < state.unsent)
         state.restartSilence();

@@ -12,113 +12,118 @@
 
 namespace host {
 
+/// The deleter of IppPointer.
 struct IppDelete {
     void operator()(ipp_t *message) const { ippDelete(message); }
 };
-/// Owns an IPP request or answer.
+/// Owns an IPP request or response.
 using IppPointer = std::unique_ptr<ipp_t, IppDelete>;
 
+/// The deleter of HttpPointer.
 struct HttpClose {
     void operator()(http_t *http) const { httpClose(http); }
 };
-/// Owns a connection of libcups.
+/// Owns a libcups connection.
 using HttpPointer = std::unique_ptr<http_t, HttpClose>;
 
-/// A connection to a CUPS server for one task in the background. It gives up as soon as the task is
-/// cancelled, or when the server has been silent for longer than the server's timeout, neither saying nor
-/// taking anything; libcups alone would wait for a minute and more.
+/// A connection to a CUPS server for one background task. Requests fail as soon as the task is canceled, or
+/// when the server has neither sent nor received any data for longer than its timeout; libcups alone would
+/// wait for a minute or more.
 class CupsConnection {
 public:
-    /// Connects; must be called on the task's thread, whose libcups settings the connection owns until it is
-    /// destroyed, on the same thread. The task must outlive the connection.
+    /// Connects to the server. Must be called on the task's thread. The connection owns the libcups settings
+    /// of this thread until it is destroyed, on the same thread. The task is borrowed and must outlive the
+    /// connection.
     static Result<CupsConnection, CupsError> open(const CupsServer &server, BackgroundTask &task);
 
+    /// The server that was passed to open().
     const CupsServer &server() const { return m_state->server; }
 
-    /// A request of this operation with the fields that every request has, for a queue's or the server's
-    /// own address, or for a job of the queue.
+    /// Returns a request for the operation with the attributes that every request has: for a queue, for the
+    /// server itself if the queue is empty, or for a job of the queue.
     IppPointer newRequest(ipp_op_t operation, const QString &queue = {}, std::optional<int> jobId = {}) const;
-    /// Sends the request and waits for the answer. An answer that refuses is an error, which says what the
-    /// server said.
+    /// Sends the request and waits for the response. A response with an error status is an error, with the
+    /// server's message.
     Result<IppPointer, CupsError> exchange(IppPointer request, const QByteArray &resource);
 
-    /// The same for a request that makes something on the server: it is not given up when the task is
-    /// cancelled, since only the answer tells what there is to be taken back.
+    /// Like exchange(), for a request that creates something on the server: canceling the task does not
+    /// interrupt it, because only the response identifies what has to be canceled.
     Result<IppPointer, CupsError> exchangeToTheEnd(IppPointer request, const QByteArray &resource);
 
-    /// Whether the last request was sent, or most of it, and no whole answer came: the server may have done
-    /// what it says.
+    /// Returns whether the last request, or most of it, was sent and no complete response was received: the
+    /// server may have processed the request.
     bool lacksAnswer() const { return m_state->lacksAnswer; }
 
-    /// Begins to send a document: sends the request that it belongs to, and waits for a moment whether the
-    /// server wants something first, such as a password. Nothing when the document may follow, or why it may
-    /// not.
+    /// Starts sending a document: sends its request, and waits for up to a second whether the server requires
+    /// something first, such as a password. Returns no value if the document can follow, otherwise the error.
     std::optional<CupsError> beginDocument(IppPointer request, const QByteArray &resource);
-    /// Sends a piece of the document. False when the server has answered already or the connection is
-    /// broken; earlyAnswer() returns the answer or says so.
+    /// Sends a part of the document. Returns false if the server has already responded or the connection is
+    /// broken; earlyAnswer() then returns the response or the error.
     bool writeDocument(const QByteArray &piece);
-    /// Ends the document and waits for the answer.
+    /// Ends the document and waits for the response.
     Result<IppPointer, CupsError> finishDocument();
-    /// The answer that came, or may have come, before the whole document was sent. No end of the document is
-    /// sent first, lest the server prints the half of it.
+    /// Returns the response that was received, or may have been received, before the whole document was sent.
+    /// Does not send the end of the document first, so that the server does not print a part of it.
     Result<IppPointer, CupsError> earlyAnswer();
-    /// Whether the server has refused the document for want of a password after it was begun.
+    /// Returns whether the server has rejected the document after it was started, because a password is
+    /// missing.
     bool lacksPasswordForDocument() const;
-    /// Asks for that password. Nothing when the document may be sent again from its beginning, or why it may
-    /// not.
+    /// Requests that password. Returns no value if the document can be sent again from its beginning,
+    /// otherwise the error.
     std::optional<CupsError> authenticateDocument();
 
-    /// Fetches a file of the server into memory. Not more than that many bytes; what is longer is refused.
-    /// Nothing when it has not changed since the date and length, as they stand in a "If-Modified-Since"
-    /// field.
+    /// A file of the server.
     struct File {
         QByteArray content;
-        /// Seconds since 1970; 0 when the server does not tell.
+        /// Seconds since 1970-01-01 UTC; 0 if the server does not report it.
         qint64 modified = 0;
     };
+    /// Fetches a file of the server into memory. A file of more than mostBytes bytes is an error. Returns no
+    /// value if the file has not changed since the date and length in unlessModifiedSince, the value of an
+    /// "If-Modified-Since" field; if that is empty, always fetches the file.
     Result<std::optional<File>, CupsError> fetch(const QByteArray &resource,
                                                  const QByteArray &unlessModifiedSince, qint64 mostBytes);
 
-    /// Why there was no answer: given up, silent, broken, or never connected.
+    /// Returns why there is no response: canceled, timed out, connection broken, or not connected.
     CupsError noAnswer() const;
 
 private:
-    /// What callbacks of libcups get to see; stays where it is when the connection is moved.
+    /// The data of libcups callbacks; its address does not change when the connection is moved.
     struct State {
         void restartSilence() { heard = server.clock(); }
         bool hasBeenSilentTooLong() const { return server.clock() - heard > server.timeout; }
 
         CupsServer server;
         BackgroundTask *task = nullptr;
-        /// When the server last sent or took something, or was asked.
+        /// When the server last sent or received data, or when waiting for it started.
         std::chrono::steady_clock::time_point heard;
-        /// The bytes on their way to the server when it was last looked at.
+        /// The bytes in the socket's send queue at the last check.
         int unsent = 0;
         bool wasSilent = false;
-        /// What is on its way is waited for even when the task is cancelled.
+        /// Canceling the task does not interrupt the current request.
         bool finishesFirst = false;
         bool lacksAnswer = false;
-        /// Where the document goes that is being sent; empty when there is none.
+        /// The resource to which the document is being sent; empty if there is no document.
         QByteArray documentResource;
-        /// The server has answered before the whole document was sent.
+        /// The status of a response that was received before the whole document was sent.
         std::optional<http_status_t> earlyStatus;
-        /// Whether the server says that it is ready for a document ("Expect: 100-continue").
+        /// Whether the server confirms that it is ready for a document ("Expect: 100-continue").
         bool expectsContinue = true;
-        /// What the connection needs at least; a server may require encryption later than at the beginning.
+        /// The minimum encryption; a server may require encryption later than at the start.
         http_encryption_t encryption = HTTP_ENCRYPTION_IF_REQUESTED;
         int triedPasswords = 0;
-        /// The server wants a password and was sent none.
+        /// The server requires a password and none was sent.
         bool lacksPassword = false;
-        /// None was sent because others on the network could have read it.
+        /// No password was sent because others on the network could have read it.
         bool wouldBeReadable = false;
-        /// The last request had a password, which the server has not accepted so far.
+        /// The last request had a password that the server has not accepted so far.
         bool isPasswordUnconfirmed = false;
-        /// How many passwords in a row were refused.
+        /// The number of passwords that the server has rejected in succession.
         int refusedPasswords = 0;
-        /// Why the server is not trusted.
+        /// Why the server is not trusted; absent if it is.
         std::optional<CupsError> certificateError;
         PasswordRequest::Credentials credentials;
-        /// Its callback's data is this state.
+        /// The data of its password callback is this state.
         std::optional<CupsThreadScope> threadScope;
     };
 
@@ -127,34 +132,38 @@ private:
     {
     }
 
-    /// In milliseconds.
+    /// The server's timeout in milliseconds.
     qint64 timeout() const { return server().timeout.count(); }
+    /// Whether waiting has ended because of the timeout or because the task is canceled.
     bool wasGivenUp() const;
+    /// Returns an error with the server's message; passwordError() if the password is the reason.
     CupsError serverError(CupsFailure kind, const QString &reason) const;
     CupsError passwordError() const;
-    /// Starts counting the server's silence anew.
+    /// Restarts the measurement of the server's silence.
     void beginWaiting() const
     {
         m_state->restartSilence();
         m_state->wasSilent = false;
     }
-    /// Connects and checks the server's certificate before anything is sent.
+    /// Connects, and checks the server's certificate before anything is sent.
     bool connect();
-    /// The same again, with the password or what else the server is to get.
+    /// Connects again, with the password or the other credentials for the server.
     bool reconnect();
-    /// Reconnects when the server has closed the connection or libcups would do so.
+    /// Reconnects if the server has closed the connection or libcups would reconnect.
     bool prepare();
-    /// Whether the connection is to this machine, not encrypted, or encrypted with a trusted certificate;
-    /// certificateError says why not.
+    /// Returns whether the connection is to this machine, not encrypted, or encrypted with a trusted
+    /// certificate; otherwise, certificateError describes why not.
     bool isTrusted();
-    /// Nothing when the certificate is trusted; asks the user if need be.
+    /// Returns no value if the certificate is trusted, otherwise the error. Asks the user if necessary.
     std::optional<CupsError> checkCertificate() const;
-    /// What an answer says about the password of its request.
+    /// Updates the state of the password from the status of a response.
     void noteStatus(http_status_t status);
-    /// Does what the server wants before it takes the request: a password, encryption. The request may be
-    /// sent again over a new connection then; false when the server wants nothing of the kind, or does not
-    /// get it.
+    /// Meets the server's requirements for the request: a password, encryption. Returns true if the request
+    /// can be sent again over a new connection; false if the server requires nothing of this kind, or the
+    /// requirement is not met.
     bool clearTheWay(http_status_t status, const char *method, const QByteArray &resource);
+    /// Sends a request with the function ask, and again after each requirement of the server is met. Returns
+    /// the last status.
     http_status_t askUntilAllowed(const char *method, const QByteArray &resource,
                                   const std::function<http_status_t()> &ask);
     void setAuthorization();
@@ -173,13 +182,13 @@ private:
     HttpPointer m_http;
 };
 
-/// The status of an answer as libcups returns it. A server may send any number: one that cannot be a status
-/// of HTTP counts as no answer.
+/// Converts the status of a response, as libcups returns it. A server may send any number: a number that is
+/// not an HTTP status counts as no response (HTTP_STATUS_ERROR).
 http_status_t knownStatus(int status);
 
-/// The address of a queue or class on whatever server it is sent to.
+/// Returns the URI of a queue or class, as valid on any server that receives it.
 QByteArray queueUri(const QString &queue);
-/// Where requests about a queue are sent.
+/// Returns the resource to which requests about a queue are sent.
 QByteArray queueResource(const QString &queue);
 
 } // namespace host

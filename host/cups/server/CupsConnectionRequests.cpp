@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Requests, documents and their answers. They are written by libcups's functions for a connection. Its
-// functions for a whole request reconnect and send the password by themselves, without a check of the
-// certificate.
+// Requests, documents and their responses, written with libcups's functions for a connection. Its functions
+// for whole requests reconnect and send the password by themselves, without checking the certificate.
 #include "CupsConnection.h"
 #include "FailureReason.h"
 #include "ServerCertificate.h"
@@ -18,10 +17,10 @@ struct CupsConnectionRequestsText {
     Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
 };
 
-/// What libcups takes for a content whose end the sender does not know in advance.
+/// The length that libcups uses for content whose length is not known in advance.
 constexpr std::size_t unknownLength = 0;
 
-/// The status as a number: a server may send one that "ipp_status_t" cannot hold.
+/// The status is an int: a server may send a number that "ipp_status_t" cannot hold.
 CupsFailure failureForIpp(int status)
 {
     switch (status) {
@@ -78,7 +77,7 @@ QByteArray queueUri(const QString &queue)
 
 QByteArray queueResource(const QString &queue)
 {
-    // libcups encodes what a request line may not hold.
+    // libcups encodes the characters that a request line must not contain.
     return "/printers/" + queue.toUtf8();
 }
 
@@ -97,7 +96,7 @@ IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue,
     if (!queue.isEmpty())
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
                      queueUri(queue).constData());
-    // To RFC 8011 what a request is about comes first.
+    // RFC 8011: the target of a request precedes its other attributes.
     if (jobId)
         ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", *jobId);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
@@ -109,7 +108,7 @@ void CupsConnection::setAuthorization()
     const QByteArray authorization = httpGetAuthString(m_http.get());
     httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, authorization.constData());
     m_state->isPasswordUnconfirmed = m_state->isPasswordUnconfirmed || authorization.startsWith("Basic ");
-    // A ticket of Kerberos is good for one request.
+    // A Kerberos ticket is valid for one request.
     if (authorization.startsWith("Negotiate"))
         httpSetAuthString(m_http.get(), nullptr, nullptr);
 }
@@ -122,7 +121,7 @@ bool CupsConnection::post(ipp_t *request, const QByteArray &resource, std::size_
     setAuthorization();
     if (length == unknownLength && m_state->expectsContinue)
         httpSetExpect(m_http.get(), HTTP_STATUS_CONTINUE);
-    // From here on the server may have the request, unless it says otherwise.
+    // From here on, the server may have the request, unless its response shows otherwise.
     m_state->lacksAnswer = true;
     if (httpPost(m_http.get(), resource.constData()) != 0)
         return false;
@@ -130,7 +129,7 @@ bool CupsConnection::post(ipp_t *request, const QByteArray &resource, std::size_
     ipp_state_t state = IPP_STATE_IDLE;
     while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
         state = ippWrite(m_http.get(), request);
-    // A server that has seen enough may have closed the connection; its answer is there all the same.
+    // A server that has read enough may have closed the connection; its response can still be read.
     httpFlushWrite(m_http.get());
     return true;
 }
@@ -138,7 +137,7 @@ bool CupsConnection::post(ipp_t *request, const QByteArray &resource, std::size_
 Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const QByteArray &resource)
 {
     m_state->lacksAnswer = false;
-    // It holds a password for the printer itself.
+    // The request contains a password for the printer itself.
     if (ippFindAttribute(request.get(), "auth-info", IPP_TAG_TEXT) && m_http && isReadable(m_http.get())) {
         m_state->encryption = HTTP_ENCRYPTION_REQUIRED;
         if (!connect())
@@ -156,7 +155,7 @@ std::optional<CupsError> CupsConnection::beginDocument(IppPointer request, const
     const http_status_t status = askUntilAllowed("POST", resource, [&] {
         if (!post(request.get(), resource, unknownLength))
             return HTTP_STATUS_ERROR;
-        // A server that does not know "Expect" says nothing yet.
+        // A server that does not support "Expect" sends nothing yet.
         constexpr int longestWait = 1000; // milliseconds
         const bool mayAnswer = m_state->expectsContinue && httpWait(m_http.get(), longestWait);
         return mayAnswer ? readStatus() : HTTP_STATUS_CONTINUE;
@@ -196,7 +195,7 @@ Result<IppPointer, CupsError> CupsConnection::finishDocument()
     if (m_state->earlyStatus)
         return earlyAnswer();
     beginWaiting();
-    // What ends a document of unknown length. If it does not get through, the server has something to say.
+    // Ends a document of unknown length. If this cannot be sent, the server has already responded.
     httpWrite2(m_http.get(), "", 0);
     return readDocumentAnswer(awaitAnswer());
 }
@@ -228,7 +227,7 @@ std::optional<CupsError> CupsConnection::authenticateDocument()
 http_status_t CupsConnection::readStatus()
 {
     const http_status_t status = knownStatus(httpUpdate(m_http.get()));
-    // The header of an answer is not all of it; a refusal is complete with its header.
+    // A successful response does not end with its header; an error is complete with its header.
     m_state->lacksAnswer =
         status == HTTP_STATUS_ERROR || status == HTTP_STATUS_OK || status == HTTP_STATUS_CONTINUE;
     return status;
@@ -260,14 +259,14 @@ ssize_t CupsConnection::readPiece(void *connection, ipp_uchar_t *buffer, std::si
 Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
 {
     if (status != HTTP_STATUS_OK) {
-        // A refused request has created nothing that has to be canceled.
+        // A rejected request has created nothing that has to be canceled.
         if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
             return noAnswer();
         httpFlush(m_http.get());
         return serverError(failureFor(status), statusReason(status));
     }
-    // Not ippRead(): it takes the first pause between two pieces of an answer for its end, when there is a
-    // limit on silence.
+    // Not ippRead(): when a timeout is set, it reads the first pause between two parts of a response as its
+    // end.
     IppPointer answer(ippNew());
     ipp_state_t state = IPP_STATE_IDLE;
     while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Certificates, passwords and encryption: what comes before a server takes a request.
+// Certificates, passwords and encryption: what a server requires before it accepts a request.
 #include "CupsConnection.h"
 #include "ServerCertificate.h"
 
@@ -20,7 +20,7 @@ struct CupsConnectionTrustText {
 http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArray &resource,
                                               const std::function<http_status_t()> &ask)
 {
-    // More than encryption, the proofs that libcups has of its own and all passwords together need.
+    // More attempts than encryption, the credentials of libcups's own and all passwords together need.
     constexpr int mostAttempts = 20;
     m_state->lacksPassword = false;
     for (int attempt = 1;; ++attempt) {
@@ -37,8 +37,8 @@ http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArr
 
 void CupsConnection::noteStatus(http_status_t status)
 {
-    // Any other answer means that the password was accepted. "Continue" is none: the server may not have read
-    // the whole request.
+    // Any other status means that the server has accepted the password, except "Continue": the server may not
+    // have read the whole request.
     if (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_CONTINUE)
         m_state->isPasswordUnconfirmed = false;
 }
@@ -63,7 +63,7 @@ bool CupsConnection::isTrusted()
     if (!httpIsEncrypted(m_http.get()) || isToThisMachine(m_http.get()))
         return true;
     m_state->certificateError = checkCertificate();
-    // The time that the user took for the answer is not the server's.
+    // The user's time to answer does not count as the server's silence.
     beginWaiting();
     return !m_state->certificateError;
 }
@@ -106,7 +106,7 @@ std::optional<CupsError> CupsConnection::checkCertificate() const
                              "fingerprint is %3. Compare it with the one that the server's administrator "
                              "names, and confirm it when you are asked, in the window or on a terminal.")
                              .arg(name, *reason, fingerprint));
-    // If it cannot be saved, it is trusted until the program ends.
+    // A certificate that cannot be saved is trusted until the program ends.
     certificate->save(server().certificates);
     return std::nullopt;
 }
@@ -130,15 +130,15 @@ const char *CupsConnection::password(const char *prompt, http_t *http, const cha
     if (state.isPasswordUnconfirmed)
         text.prepend(CupsConnectionTrustText::tr("The user name or the password is wrong.") + u'\n');
     else
-        state.triedPasswords = 0; // one that was accepted before is sent again
+        state.triedPasswords = 0; // a password that was accepted before is sent again
     const std::optional<PasswordRequest::Credentials> answer =
         state.server.passwords->get(PasswordRequest(text, QString::fromUtf8(cupsUser())), *state.task,
                                     state.server.askPassword, state.triedPasswords);
-    // A task that is cancelled is no refusal of the user.
+    // Canceling the task does not count as the user's declining.
     state.lacksPassword = !answer && !state.task->isCancelled();
     if (!answer)
         return nullptr;
-    // libcups keeps no copy.
+    // libcups does not copy the password.
     state.credentials = *answer;
     state.isPasswordUnconfirmed = true;
     state.threadScope->setUser(state.credentials.user);

@@ -8,7 +8,7 @@ namespace host {
 QString CupsServer::displayName() const
 {
     if (address && !address->startsWith(u'/')) {
-        // "/version=1.1" may follow the address, for servers of old.
+        // "/version=1.1" may follow the address, for old servers.
         const QString host = address->section(u'/', 0, 0);
         const bool hasPort = host.endsWith(u']') ? false : host.contains(u':');
         return hasPort ? host : QStringLiteral("%1:%2").arg(host).arg(ippPort());

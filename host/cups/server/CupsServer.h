@@ -16,54 +16,57 @@
 
 namespace host {
 
+/// Why a request to a print server, or the operation that needs it, failed.
 enum class CupsFailure {
-    Unreachable,   ///< no connection: no such host, nobody listening, no encryption
-    Silent,        ///< it took the connection or the request and does not answer
-    Untrusted,     ///< its certificate is not verified, or it is another one than before
-    NotAuthorized, ///< it wants a password, or another one
-    NotFound,      ///< it has no such queue or job
-    Refused,       ///< it answered with another error
+    Unreachable,   ///< no connection: unknown host, connection refused, no encryption
+    Silent,        ///< the server accepted the connection or the request and does not respond
+    Untrusted,     ///< its certificate is not verified, or differs from the trusted one
+    NotAuthorized, ///< the server requires a password, or a different one
+    NotFound,      ///< the server has no such queue or job
+    Refused,       ///< the server responded with another error
     BadDocument,   ///< a document cannot be read
-    Cancelled,     ///< given up on request
-    OutcomeUnknown ///< a job may be left on the server, or printed: the message says which
+    Cancelled,     ///< canceled on request
+    OutcomeUnknown ///< a job may be left on the server or printed; the message describes which
 };
+/// An error with its message for the user.
 using CupsError = Failure<CupsFailure>;
 
+/// When a connection is encrypted.
 enum class Encryption {
-    IfRequested, ///< when the server, CUPS_ENCRYPTION or client.conf says so
+    IfRequested, ///< if the server, CUPS_ENCRYPTION or client.conf requires it
     Required,
 };
 
-/// Which CUPS server is asked, and how. A value: every thread that talks to the server has its own copy.
+/// A CUPS server and how to connect to it. A value: each thread that uses the server has its own copy.
 struct CupsServer {
-    /// "host", "host:port" or the path of a local socket, as the programs of CUPS take it after -h;
-    /// nothing for the one of CUPS_SERVER, client.conf or the local machine.
+    /// "host", "host:port" or the path of a local socket, in the syntax of the -h option of CUPS commands;
+    /// absent for the server of CUPS_SERVER, client.conf or the local machine.
     std::optional<QString> address;
     Encryption encryption = Encryption::IfRequested;
-    /// The user for whom jobs are printed; nothing for CUPS_USER or who is logged in.
+    /// The user for whom jobs are printed; absent for CUPS_USER or the user who is logged in.
     std::optional<QString> user;
-    /// How long a server may be silent before it is given up.
+    /// How long a server may be silent before a request fails.
     std::chrono::milliseconds timeout{10000};
-    /// What the silence is measured by.
+    /// The clock that measures this time.
     std::function<std::chrono::steady_clock::time_point()> clock = std::chrono::steady_clock::now;
-    /// Asks the user for a password, on the main thread; without one, whatever needs a password fails.
+    /// Asks the user for a password, on the main thread; if null, requests that require a password fail.
     PasswordHandler askPassword;
-    /// What the user has answered; shared by all copies, so that nobody is asked twice.
+    /// The passwords that the user has entered; shared by all copies, so that the user is not asked twice.
     std::shared_ptr<PasswordMemory> passwords = std::make_shared<PasswordMemory>();
-    /// Asks the user, on the main thread, what the connection to another machine may do; without one, the
-    /// answer is no.
+    /// Asks the user, on the main thread, whether to trust a certificate or to send a password unencrypted;
+    /// if null, the answer is no.
     TrustHandler askTrust;
-    /// What the user has answered; shared by all copies.
+    /// The user's answers; shared by all copies.
     std::shared_ptr<TrustMemory> trust = std::make_shared<TrustMemory>();
-    /// The folder with the certificates that the user trusts; nothing for libcups's own, which all programs
-    /// on libcups read.
+    /// The folder of the certificates that the user trusts; absent for that of libcups, which all programs
+    /// that use libcups read.
     std::optional<QString> certificates;
 
-    /// Begins a new action of the user: what the user has refused before may be asked for again.
+    /// Starts a new action of the user: the user may be asked again after declining.
     void forgetRefusals() const;
 
-    /// "host:port" or the path of the socket, for messages and as a name for what is kept of it. Asks no
-    /// network.
+    /// Returns "host:port" or the path of the socket, for messages and as the name of the server's cache.
+    /// Does not use the network.
     QString displayName() const;
 };
 

@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-/// The scopes of the calling thread, from the outermost to the one that holds.
+/// The scopes of the calling thread, from the outermost to the current one.
 thread_local std::vector<const CupsThreadScope *> scopes;
 
 const char *noPassword(const char *, http_t *, const char *, const char *, void *)
@@ -15,7 +15,7 @@ const char *noPassword(const char *, http_t *, const char *, const char *, void 
     return nullptr;
 }
 
-/// What libcups reads from the environment and client.conf when it is first asked.
+/// Restores the values that libcups reads from the environment and client.conf when it first needs them.
 void applyDefaults()
 {
     static const http_encryption_t defaultEncryption = [] {

@@ -7,23 +7,22 @@
 
 namespace host {
 
-/// The settings that libcups keeps for each thread: server, encryption, user and password callback. A scope
-/// sets them for the calling thread and, when it ends, puts back those of the scope around it, or libcups's
-/// defaults. No other class sets them, so that no call of libcups meets a callback whose data no longer
-/// exists.
+/// Sets the libcups settings of the calling thread: server, encryption, user and password callback. The
+/// destructor restores those of the enclosing scope, or libcups's defaults. No other class changes these
+/// settings, so that libcups never calls a callback whose data no longer exists.
 ///
-/// A scope ends on the thread on which it began.
+/// A scope must be destroyed on the thread that created it.
 class CupsThreadScope {
 public:
-    /// The callback is called with data, which must outlive the scope, whenever the server requires a
-    /// password; without a callback, libcups sends none and the request fails. libcups never asks on the
-    /// terminal itself.
+    /// libcups calls the callback with data whenever the server requires a password; data is borrowed and
+    /// must outlive the scope. Without a callback, libcups sends no password and the request fails. libcups
+    /// itself never prompts on the terminal.
     explicit CupsThreadScope(const CupsServer &server, cups_password_cb2_t password = nullptr,
                              void *data = nullptr);
     ~CupsThreadScope();
     Q_DISABLE_COPY_MOVE(CupsThreadScope)
 
-    /// Another user than the server's, in UTF-8: the one whose password was given.
+    /// Sets another user than the server's, in UTF-8: the user whose password was entered.
     void setUser(const QByteArray &user);
 
 private:

@@ -22,7 +22,7 @@ struct AddressListFree {
     void operator()(http_addrlist_t *list) const { httpAddrFreeList(list); }
 };
 
-/// The error of the system when the address is connected to; 0 when it can be.
+/// Returns the system's error for a connection to the address; 0 if it succeeds.
 int connectionError(http_addr_t &address)
 {
     constexpr int maxMilliseconds = 1000;
@@ -61,7 +61,7 @@ QString connectionFailureReason(const QByteArray &server, int port)
 
 QString statusReason(http_status_t status)
 {
-    // cupsd answers so when it cannot write to its disk as well.
+    // cupsd also returns this status when it cannot write to its disk.
     if (status == HTTP_STATUS_REQUEST_TOO_LARGE)
         return FailureReasonText::tr(
             "It cannot store the document: the disk is full, or the document is larger than it accepts.");

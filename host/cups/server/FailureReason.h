@@ -8,13 +8,13 @@
 
 namespace host {
 
-/// Why no connection to the server on the port can be made, in the system's words and the user's language.
-/// To be called right after httpConnect2() has failed, which reports "Host is down" for whatever the system
-/// reports. For tasks in the background: connects once more, for a second at most for each address.
+/// Returns why a connection to the server on the port cannot be made: the system's message, in the user's
+/// language. Must be called directly after httpConnect2() has failed, which reports "Host is down" for every
+/// error of the system. For background tasks: connects again, for at most one second per address.
 QString connectionFailureReason(const QByteArray &server, int port);
 
-/// What a print server means by a status of HTTP other than success, in the user's language where libcups's
-/// words do not say it.
+/// Returns what a print server means by an HTTP status other than success: libcups's message, or a message in
+/// the user's language where libcups's does not describe the cause.
 QString statusReason(http_status_t status);
 
 } // namespace host

@@ -45,7 +45,7 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     std::optional<PasswordRequest::Credentials> answer = request.wait(task);
     lock.lock();
     m_isAsking = false;
-    // Cancelling a task is no refusal.
+    // Canceling the task does not count as declining.
     m_isRefused = !answer && !task.isCancelled();
     if (answer) {
         m_credentials = answer;

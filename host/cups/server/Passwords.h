@@ -11,27 +11,30 @@
 
 namespace host {
 
-/// A server's wish for a password, put to the user on the main thread while the thread that talks to the
-/// server waits. Copies are the same wish; the first answer counts.
+/// A server's request for a password, shown to the user on the main thread while the thread of the connection
+/// waits. Copies share their state; only the first answer counts.
 class PasswordRequest {
 public:
+    /// prompt is the text of the server's prompt, user the user whose password is requested.
     PasswordRequest(QString prompt, QString user);
 
-    /// What the server asks, in words.
+    /// The text of the server's prompt.
     const QString &prompt() const { return m_prompt; }
-    /// Whose password is asked for.
+    /// The user whose password is requested.
     const QString &user() const { return m_user; }
 
-    /// The user's answer; the name may be another than user().
+    /// Answers the request; the user name may differ from user().
     void answer(const QString &user, const QString &password) const;
-    /// The user does not want to give one.
+    /// Declines the request: the user enters no password.
     void refuse() const;
 
+    /// A user name and its password, in UTF-8.
     struct Credentials {
         QByteArray user;
         QByteArray password;
     };
-    /// For the waiting thread: the answer; nothing when refused or the task was cancelled.
+    /// Waits for the answer, on the thread of the connection. Returns no value if the user declines or the
+    /// task is canceled.
     std::optional<Credentials> wait(const BackgroundTask &task) const { return m_reply.wait(task); }
 
 private:
@@ -40,23 +43,24 @@ private:
     Reply<Credentials> m_reply;
 };
 
-/// Shows the wish to the user and sees that it is answered or refused, now or later.
+/// Shows the request to the user and ensures that it is answered or declined, immediately or later.
 using PasswordHandler = std::function<void(const PasswordRequest &)>;
 
-/// What the user has answered to a server's wishes for a password, for the rest of the program's life.
-/// Several threads talk to a server at once; they share the memory, and the user is asked by one of them at a
-/// time.
+/// The passwords that the user has entered for a server, until the program ends. Several threads use a server
+/// at the same time: they share this memory, and one at a time asks the user.
 class PasswordMemory {
 public:
-    /// The answer to the request, which ask puts to the user; nothing when the user refuses or has refused.
-    /// While another thread asks, that one's answer is waited for and taken. Answers that the thread has
-    /// tried in vain are not taken again; tried counts them and is 0 at first.
+    /// Returns the password for the request, which the function ask shows to the user; no value if the user
+    /// declines or has declined. While another thread asks, this thread waits for that answer and uses it.
+    /// Does not return a password again that this thread has tried without success; tried is the count of the
+    /// last one, initially 0.
     std::optional<PasswordRequest::Credentials>
     get(const PasswordRequest &request, const BackgroundTask &task, const PasswordHandler &ask, int &tried);
-    /// The server has refused the answer with that count, and those before it. It is sent no more and the
-    /// user is asked no more, as after a refusal of the user; unless there is another answer by now.
+    /// Records that the server has rejected the password with this count, and those before it. The password
+    /// is not sent again and the user is not asked again, as if the user had declined, unless there is a
+    /// newer password.
     void refuse(int tried);
-    /// The user wants something of the server anew, and may be asked again after having refused.
+    /// Starts a new action of the user, who may be asked again after declining.
     void forgetRefusal();
 
 private:
@@ -64,9 +68,9 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_answered;
-    /// Given last; it may be wrong. Nothing when it is known to be.
+    /// The last password that was entered; it may be wrong. Absent if it is known to be wrong.
     std::optional<PasswordRequest::Credentials> m_credentials;
-    /// How many passwords were given so far.
+    /// The number of passwords entered so far.
     int m_count = 0;
     bool m_isAsking = false;
     bool m_isRefused = false;

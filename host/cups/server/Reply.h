@@ -10,12 +10,12 @@
 
 namespace host {
 
-/// The user's answer to a question: given on the main thread, waited for by the thread that talks to the
-/// server. Copies are the same reply; the first answer counts.
+/// The user's answer to a question: given on the main thread, awaited by the thread of the connection. Copies
+/// share their state; only the first answer counts.
 template<typename Answer>
 class Reply {
 public:
-    /// Nothing is a refusal.
+    /// Gives the answer; no value if the user declines.
     void give(std::optional<Answer> answer) const
     {
         const std::scoped_lock lock(m_state->mutex);
@@ -25,11 +25,11 @@ public:
         m_state->answer = std::move(answer);
         m_state->given.notify_all();
     }
-    /// The answer; nothing when it is a refusal or the task was cancelled.
+    /// Waits for the answer. Returns no value if the user declines or the task is canceled.
     std::optional<Answer> wait(const BackgroundTask &task) const
     {
         std::unique_lock lock(m_state->mutex);
-        // A question whose window has been destroyed is not answered; the task is cancelled then.
+        // A question whose window is destroyed gets no answer; the task is canceled then.
         while (!m_state->isGiven && !task.isCancelled())
             m_state->given.wait_for(lock, std::chrono::milliseconds(100));
         return m_state->answer;

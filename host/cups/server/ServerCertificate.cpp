@@ -21,7 +21,7 @@ QByteArray derOf(void *credential)
                  : QByteArray();
 }
 
-/// Null for libcups's own place.
+/// Returns null for libcups's own folder.
 QByteArray folderArgument(const std::optional<QString> &folder)
 {
     return folder ? folder->toLocal8Bit() : QByteArray();
@@ -113,7 +113,7 @@ bool ServerCertificate::save(const std::optional<QString> &folder) const
 
 QString ServerCertificate::path(const std::optional<QString> &folder) const
 {
-    // As libcups forms it: root's certificates are those of the machine.
+    // The same path as in libcups: root's certificates are those of the machine.
     const QString usual =
         getuid() == 0 ? QStringLiteral("/etc/cups/ssl") : QDir::homePath() + QStringLiteral("/.cups/ssl");
     QString file = QString::fromUtf8(m_server);

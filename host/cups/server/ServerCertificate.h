@@ -11,39 +11,40 @@
 
 namespace host {
 
-/// Whether the other end of the connection is this machine: a local socket or the loopback interface. Such a
-/// connection cannot be read on the network, encrypted or not.
+/// Returns whether the peer of the connection is this machine: a local socket or the loopback interface. Such
+/// a connection cannot be read on the network, whether it is encrypted or not.
 bool isToThisMachine(http_t *http);
-/// Whether others on the network can read what is sent over the connection.
+/// Returns whether others on the network can read what is sent over the connection.
 bool isReadable(http_t *http);
 
-/// The certificate by which a print server has identified itself when a connection was encrypted. libcups
-/// encrypts without looking at it.
+/// The certificate with which a print server has identified itself on an encrypted connection. libcups
+/// encrypts without checking it.
 class ServerCertificate {
 public:
-    /// The one of the encrypted connection; nothing when the server sent none.
+    /// Returns the certificate of the encrypted connection; no value if the server sent none.
     static std::optional<ServerCertificate> of(http_t *http);
 
-    /// The certificate itself, without those of its issuers, as DER.
+    /// Returns the certificate itself, without those of its issuers, in DER.
     QByteArray der() const;
-    /// SHA-256 of the certificate in the usual form, "0A:1B:...".
+    /// Returns the SHA-256 fingerprint of the certificate in the usual form, "0A:1B:...".
     QString fingerprint() const { return fingerprintOf(der()); }
+    /// Returns the same for a certificate in DER.
     static QString fingerprintOf(const QByteArray &der);
 
-    /// Why the system's certificates do not verify the server's, in words; nothing when they do.
+    /// Returns why the system's certificates do not verify the server's, as text; no value if they do.
     std::optional<QString> verificationError() const;
-    /// Why client.conf does not let the user trust the certificate (ValidateCerts, TrustOnFirstUse,
-    /// AllowAnyRoot, AllowExpiredCerts), in libcups's words; nothing when it does.
+    /// Returns why client.conf does not allow the user to trust the certificate (ValidateCerts,
+    /// TrustOnFirstUse, AllowAnyRoot, AllowExpiredCerts), as libcups's message; no value if it does.
     std::optional<QString> policyError() const;
 
-    /// The certificate that the user has trusted for this server, as DER; nothing when there is none. The
-    /// folder is the one where libcups saves such certificates, unless another is named. There is one for
-    /// each host name, as in all programs on libcups: servers on several ports of a host need the same
-    /// certificate.
+    /// Returns the certificate that the user has trusted for this server, in DER; no value if there is none.
+    /// If the folder is absent, it is the one in which libcups saves such certificates. There is one
+    /// certificate per host name, as in all programs that use libcups: servers on several ports of a host
+    /// need the same certificate.
     std::optional<QByteArray> trusted(const std::optional<QString> &folder) const;
-    /// Saves the certificate as trusted for this server. False when it cannot be written.
+    /// Saves the certificate as trusted for this server. Returns false if it cannot be written.
     bool save(const std::optional<QString> &folder) const;
-    /// The file in which it is saved.
+    /// Returns the path of the file in which it is saved.
     QString path(const std::optional<QString> &folder) const;
 
 private:
@@ -56,7 +57,7 @@ private:
 
     /// From the server's own certificate to that of the last issuer.
     Chain m_chain;
-    /// The name by which the server was connected to.
+    /// The host name that was used to connect to the server.
     QByteArray m_server;
 };
 

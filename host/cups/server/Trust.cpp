@@ -5,11 +5,11 @@ namespace host {
 
 namespace {
 
-/// Two questions are the same when they are about the same certificate of the same server, or about passwords
-/// to the same server.
+/// Returns the identifier of a question. Two questions are the same if they are about the same certificate of
+/// the same server, or about passwords for the same server.
 QString identifierOf(const TrustRequest &request)
 {
-    // A server's name has no line end.
+    // The server's name contains no line break.
     return request.server() + u'\n' + request.fingerprint();
 }
 
@@ -50,7 +50,7 @@ bool TrustMemory::isGranted(const TrustRequest &request, const BackgroundTask &t
     const bool isGranted = request.wait(task);
     lock.lock();
     m_isAsking = false;
-    // Cancelling a task is no refusal.
+    // Canceling the task does not count as declining.
     if (isGranted || !task.isCancelled())
         (isGranted ? m_granted : m_refused).insert(identifier);
     m_answered.notify_all();

@@ -10,32 +10,36 @@
 
 namespace host {
 
-/// A question to the user about the safety of a connection to a print server on another machine, put on the
-/// main thread while the thread that talks to the server waits. Copies are the same question; the first
-/// answer counts.
+/// A question to the user about the security of a connection to a print server on another machine, shown on
+/// the main thread while the thread of the connection waits. Copies share their state; only the first answer
+/// counts.
 class TrustRequest {
 public:
+    /// What the question is about.
     enum class Subject {
         Certificate,      ///< the server's certificate is not verified: is it the right one?
         ReadablePassword, ///< may a password be sent over a connection that is not encrypted?
     };
 
-    /// fingerprint as ServerCertificate::fingerprint() returns it; reason as its verificationError() does.
+    /// Asks whether to trust a certificate. fingerprint is the result of ServerCertificate::fingerprint(),
+    /// reason that of its verificationError().
     static TrustRequest certificate(const QString &server, const QString &fingerprint, const QString &reason);
+    /// Asks whether to send a password over a connection that is not encrypted.
     static TrustRequest readablePassword(const QString &server);
 
     Subject subject() const { return m_subject; }
-    /// The server's name, as CupsServer::displayName() gives it.
+    /// The server's name, as CupsServer::displayName() returns it.
     const QString &server() const { return m_server; }
-    /// Of a certificate; empty otherwise.
+    /// The fingerprint of the certificate; empty for other subjects.
     const QString &fingerprint() const { return m_fingerprint; }
-    /// Why the certificate is not verified; empty otherwise.
+    /// Why the certificate is not verified; empty for other subjects.
     const QString &reason() const { return m_reason; }
 
-    /// The user's answer.
+    /// Grants or declines the request.
     void grant() const { m_reply.give(true); }
     void refuse() const { m_reply.give(std::nullopt); }
-    /// For the waiting thread: whether the user has granted it; false when the task was cancelled.
+    /// Waits for the answer, on the thread of the connection. Returns whether the user grants it; false if
+    /// the task is canceled.
     bool wait(const BackgroundTask &task) const { return m_reply.wait(task).value_or(false); }
 
 private:
@@ -48,25 +52,25 @@ private:
     Reply<bool> m_reply;
 };
 
-/// Shows the question to the user, who answers it now or later.
+/// Shows the question to the user, who answers it immediately or later.
 using TrustHandler = std::function<void(const TrustRequest &)>;
 
-/// The user's answers about print servers, for the rest of the program's life. An answer holds for the server
-/// and the certificate that were asked about. Several threads talk to a server at once; they share the
-/// memory, and one of them at a time asks the user.
+/// The user's answers about print servers, until the program ends. An answer applies to the server and the
+/// certificate of the question. Several threads use a server at the same time: they share this memory, and
+/// one at a time asks the user.
 class TrustMemory {
 public:
-    /// Whether the user grants or has granted it; ask puts the question to the user. A question that was
-    /// refused is not asked again.
+    /// Returns whether the user grants or has granted the request; the function ask shows the question to the
+    /// user. A question that was declined is not asked again.
     bool isGranted(const TrustRequest &request, const BackgroundTask &task, const TrustHandler &ask);
-    /// Begins a new action of the user, who may be asked again after a refusal.
+    /// Starts a new action of the user, who may be asked again after declining.
     void forgetRefusals();
 
 private:
     std::mutex m_mutex;
     std::condition_variable m_answered;
     bool m_isAsking = false;
-    /// What identifies each question that was answered; see Trust.cpp.
+    /// The identifiers of the answered questions; see Trust.cpp.
     QSet<QString> m_granted;
     QSet<QString> m_refused;
 };
