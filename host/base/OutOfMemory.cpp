@@ -22,7 +22,7 @@ struct OutOfMemoryText {
     Q_DECLARE_TR_FUNCTIONS(host::OutOfMemory)
 };
 
-/// In the order of JobProgress.
+/// Indexed by JobProgress.
 constexpr std::array texts = {
     QT_TRANSLATE_NOOP("host::OutOfMemory", "Out of memory; nothing was printed."),
     QT_TRANSLATE_NOOP("host::OutOfMemory",
@@ -30,13 +30,13 @@ constexpr std::array texts = {
     QT_TRANSLATE_NOOP("host::OutOfMemory", "Out of memory. The job was sent all the same."),
 };
 
-/// As they are written: in English, later in the language of the program.
+/// The texts that end() writes: in English, or in the language of the program after translate().
 std::array<std::atomic<const char *>, texts.size()> sentences = {texts[0], texts[1], texts[2]};
 std::atomic<JobProgress> jobProgress = JobProgress::Nothing;
 std::atomic_flag isEnding;
 std::terminate_handler usualEnd = nullptr;
 
-/// Whether the exception that is on its way means that memory, or threads, have run out.
+/// Returns whether the exception means that memory or threads have run out.
 bool lacksMemory(const std::exception_ptr &exception)
 {
     if (!exception)
@@ -60,7 +60,7 @@ void endUncaught()
     usualEnd();
 }
 
-/// Writes it as a line without any memory of its own.
+/// Writes the sentence as one line to standard error without allocating memory.
 void writeError(const char *sentence)
 {
     const std::array<const char *, 3> parts = {"kvprint: ", sentence, "\n"};
@@ -81,7 +81,7 @@ void OutOfMemory::endsProgram()
 
 void OutOfMemory::translate()
 {
-    // Needed to the very end of the program, hence never destroyed.
+    // end() may read the texts until the process ends, so the array is never destroyed.
     static auto &translated = *new std::array<QByteArray, texts.size()>;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         translated.at(i) = OutOfMemoryText::tr(texts.at(i)).toLocal8Bit();
@@ -91,7 +91,7 @@ void OutOfMemory::translate()
 
 void OutOfMemory::end()
 {
-    // Another thread may be just ending the program.
+    // Only the first thread that gets here writes and exits; all others wait.
     while (isEnding.test_and_set())
         ::pause();
     writeError(sentences.at(static_cast<std::size_t>(jobProgress.load())));

@@ -3,28 +3,31 @@
 
 namespace host {
 
-/// What has become of the job that the program prints.
+/// The progress of the job that the program prints.
 enum class JobProgress {
-    Nothing,  ///< nothing can be printed or written yet, or it has been canceled
-    Underway, ///< the print server may have the job, or some of its files may be written
-    Printed,  ///< the job is sent, or all of its files are written
+    Nothing,  ///< no part of the job can have been printed or written, or the job has been canceled
+    Underway, ///< the print server may have received the job, or some output files may be written
+    Printed,  ///< the job has been sent, or all output files are written
 };
 
-/// Ends the program when there is no memory left: with a line on standard error that says whether something
-/// was printed, and with status 1. Qt and the C++ library cannot go on without memory, and an exception would
-/// leave them half-changed. Nothing is cleaned up; the program's next start removes temporary files and
-/// reports jobs that are left, as after a crash.
+/// Ends the program when memory runs out: writes one line to standard error that reports whether anything was
+/// printed, and exits with status 1. Qt and the C++ library cannot continue without memory, and an exception
+/// would leave their objects in an inconsistent state. Nothing is cleaned up; as after a crash, the program
+/// removes temporary files and reports remaining jobs at its next start.
 class OutOfMemory {
 public:
-    /// Has every allocation by "new" that fails, and every exception for want of memory that is not caught,
-    /// end the program. In English.
+    /// Installs the handlers that call end() for every failed allocation by "new" and for every uncaught
+    /// exception that is caused by a lack of memory or threads. The message is in English until translate()
+    /// is called.
     static void endsProgram();
-    /// Says it in the language of the program from now on. To be called when translations are installed.
+    /// Translates the message to the language of the program. Must be called after the translators are
+    /// installed.
     static void translate();
-    /// Ends the program now. For results of libraries that can mean nothing else.
+    /// Ends the program immediately. Also called where the result of a library function can only mean that
+    /// memory has run out.
     [[noreturn]] static void end();
 
-    /// For all threads: what end() says of the job.
+    /// Sets the progress that end() reports, for all threads. Can be called from any thread.
     static void setJobProgress(JobProgress progress);
 };
 

@@ -3,7 +3,7 @@
 
 namespace host {
 
-// PPDs and PDFs count in points of 1/72 inch, tape and people in millimetres.
+// PPDs and PDFs measure in points of 1/72 inch, tapes and the user interface in millimetres.
 inline constexpr double millimetresPerPoint = 25.4 / 72.0;
 inline constexpr double pointsPerMillimetre = 72.0 / 25.4;
 

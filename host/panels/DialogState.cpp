@@ -36,7 +36,7 @@ void DialogState::changeOption(const std::optional<QString> &keyword, const std:
         if (m_hasSettings)
             m_recorded.record(*keyword, *choice);
     }
-    // A panel may answer with a change of its own, so the list is walked as it was.
+    // A listener may change options or the list itself in response, so the loop runs over a copy of the list.
     const std::vector<OptionListener *> listeners = m_listeners;
     for (OptionListener *const listener : listeners) {
         if (listener != origin)

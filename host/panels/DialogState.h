@@ -13,65 +13,69 @@
 
 namespace host {
 
-/// Receives the changes of options in a DialogState.
+/// Receives the option changes of a DialogState.
 class OptionListener {
 public:
     virtual ~OptionListener() = default;
-    /// The choice of the option is another one now. Either may be absent, as the change was.
+    /// Called after the choice of the option has changed. Keyword and choice are passed on as the change
+    /// reported them; either may be absent.
     virtual void optionChanged(const std::optional<QString> &keyword,
                                const std::optional<QString> &choice) = 0;
 };
 
-/// What one print dialog holds: the printer's PPD with its markings, the paper, and the settings of the
-/// job that it is going to print. Without widgets; the dialog and the panel driver stand on it alike.
+/// The state of one print dialog: the PPD of the printer with its marked choices, the paper, and the settings
+/// of the job to be printed. It has no widgets; both the dialog and the panel driver use it.
 ///
-/// Panels reach it through the PanelHost of their bundle. Held by std::shared_ptr, since a panel may
+/// Panels access it through the PanelHost of their bundle. It is held by std::shared_ptr, since a panel may
 /// outlive the dialog that showed it.
 class DialogState {
 public:
-    /// The job's settings hold here, for the printer's other software, a property list naming the paper.
+    /// The entry of the job's settings that holds a property list with the paper, for other software of the
+    /// printer.
     static const QString ticketKey;
-    /// The announcement that the paper has changed.
+    /// The name of the notification that is posted when the paper has changed.
     static const QString paperDidChange;
 
-    /// The PPD as marked by the caller so far.
+    /// Moves the PPD into the state, together with the choices that the caller has marked.
     explicit DialogState(PpdFile ppd);
     ~DialogState();
     DialogState(const DialogState &) = delete;
     DialogState &operator=(const DialogState &) = delete;
 
+    /// The PPD with its marked choices.
     PpdFile &ppd() { return m_ppd; }
     const PpdFile &ppd() const { return m_ppd; }
 
-    /// Chooses the paper, or none, and tells nobody.
+    /// Sets the paper, or none. Does not notify panels; see postPaperDidChange().
     void setPaper(const std::optional<platform::Paper> &paper) { m_pageFormat.paper = paper; }
     const std::optional<platform::Paper> &paper() const { return m_pageFormat.paper; }
-    /// Puts the text under ticketKey as it is; nothing takes the entry out. Without settings, nothing
-    /// happens.
+    /// Stores the text under ticketKey unchanged; an absent text removes the entry. The entry is kept, but
+    /// not visible to panels, while the job has no settings.
     void setTicket(const std::optional<QString> &text);
-    /// Announces that the paper has changed, to panels of any bundle.
+    /// Posts the notification paperDidChange to the panels of all bundles.
     void postPaperDidChange() const;
 
-    /// Whether the job has settings at all; it has, unless told otherwise. Without them panels are handed
-    /// none, and no choice is recorded, though the PPD is marked all the same.
+    /// Sets whether the job has settings; true by default. Without settings, settings() returns null and
+    /// changeOption() records no choice, but still marks it in the PPD.
     void setHasSettings(bool has) { m_hasSettings = has; }
-    /// The printer's address; nothing when it cannot be asked.
+    /// Sets the device URI of the printer; absent if it is not known.
     void setDeviceURI(const std::optional<QString> &uri) { m_printer.deviceURI = uri; }
 
-    /// Marks the choice, records it for the job, and reports it to all listeners but the origin, which made
-    /// the change; null when the dialog itself made it. With an absent keyword or choice nothing is marked or
-    /// recorded, and the change is reported as it is.
+    /// Marks the choice, records it for the job, and reports it to all listeners except the origin. The
+    /// origin is the listener that made the change; null if the dialog made it. If the keyword or the choice
+    /// is absent, nothing is marked or recorded, and the change is only reported.
     void changeOption(const std::optional<QString> &keyword, const std::optional<QString> &choice,
                       const OptionListener *origin);
 
-    /// Reports changes to the listener, which is borrowed and must be removed before it is destroyed.
+    /// Adds or removes a listener. Listeners are not owned and must be removed before they are destroyed.
     void addListener(OptionListener *listener) { m_listeners.push_back(listener); }
     void removeListener(OptionListener *listener) { std::erase(m_listeners, listener); }
 
-    /// What panels and dialog have chosen for the job, in the order of the first choosing.
+    /// The choices that panels and dialog have made for the job, in the order in which their keywords were
+    /// first recorded.
     const RecordedChoices &recorded() const { return m_recorded; }
 
-    // The handles that panels are given. They live as long as this object.
+    // The handles that panels receive. They are owned by this object and valid as long as it exists.
     PMPrintSession session() { return &m_session; }
     PMPrintSettings settings() { return m_hasSettings ? &m_settings : nullptr; }
     PMPageFormat pageFormat() { return &m_pageFormat; }
@@ -85,7 +89,7 @@ private:
     platform::Printer m_printer;
     bool m_hasSettings = true;
     RecordedChoices m_recorded;
-    /// Borrowed.
+    /// Not owned.
     std::vector<OptionListener *> m_listeners;
 };
 

@@ -34,7 +34,7 @@ QString libraryPath(const QString &folder)
     return folder + u'/' + QFileInfo(PanelBundle::folderName).completeBaseName() + QStringLiteral(".so");
 }
 
-/// Whether the library speaks this host's version of the interface, by what is written in it.
+/// Checks in the metadata of the library that it implements this host's version of the panel interface.
 std::optional<BundleError> checkInterface(const QString &folder, const QJsonObject &metaData)
 {
     const QString interface = metaData.value(QStringLiteral("IID")).toString();
@@ -53,7 +53,7 @@ std::optional<BundleError> checkInterface(const QString &folder, const QJsonObje
     return std::nullopt;
 }
 
-/// Names every missing file at once, so that a broken installation is mended in one round.
+/// Reports all missing files in one error, so that a broken installation can be repaired in one step.
 std::optional<BundleError> checkResources(const QString &folder, const QJsonObject &metaData)
 {
     const QJsonArray needed =

@@ -13,44 +13,48 @@
 
 namespace host {
 
+/// Why a bundle could not be found or loaded.
 enum class BundleFailure {
-    Missing,               ///< no bundle where one was looked for
-    NotABundle,            ///< something else, or a library that cannot be loaded
-    WrongInterfaceVersion, ///< made for another version of the print dialog
-    Unusable,              ///< the bundle itself refused this system
-    ResourceMissing,       ///< the library is there, but a file that it needs is not
+    Missing,               ///< no bundle in any of the folders searched
+    NotABundle,            ///< not a panel bundle, or its library cannot be loaded
+    WrongInterfaceVersion, ///< built for another version of the panel interface
+    Unusable,              ///< the bundle reported that it does not work on this system
+    ResourceMissing,       ///< a file that the library needs is missing or unreadable
 };
 using BundleError = Failure<BundleFailure>;
 
-/// A loaded bundle of panels: its principal object, and its resources.
+/// A loaded panel bundle: its principal object and its resources.
 ///
-/// A bundle is a folder NAME.bundle that holds the library NAME.so and, in Resources/, the files that the
-/// library lists in its metadata. Move-only; end the panels first.
+/// A bundle is a folder NAME.bundle that contains the library NAME.so and, in Resources/, the files that the
+/// library lists in its metadata. Move-only. Must outlive the panels that it made.
 class PanelBundle {
 public:
-    /// The folder name of the bundle that the programs look for.
+    /// The folder name of the bundle that the programs search for.
     static const QString folderName;
 
-    /// The bundle's folder, as an absolute path. Looked for in the given folder (the bundle itself or the
-    /// folder that holds it); without one, beside the program and then where installed programs keep it.
+    /// Returns the bundle's folder as an absolute path. A given folder may be the bundle itself or the folder
+    /// that contains it. If the folder is absent, the folder of the program and then the installation folder
+    /// of the bundles are searched.
     static Result<QString, BundleError> find(const std::optional<QString> &folder);
 
-    /// Loads the bundle in that folder. The interface version is read from the library before any of its
-    /// code runs, and the resources are looked for before that too. Texts come in the first of the
-    /// languages that the bundle has, as platform::Bundle::open() says.
+    /// Loads the bundle in this folder. The interface version in the library's metadata is checked, and the
+    /// resources are searched for, before any code of the library runs. Texts are in the first of the
+    /// languages that the bundle has; see platform::Bundle::open().
     static Result<PanelBundle, BundleError> load(const QString &folder, const QStringList &languages);
 
-    /// The principal object, which has accepted the bundle.
+    /// The principal object, initialized with the bundle. Owned by the bundle.
     PDEPlugIn &plugIn() const { return *m_plugIn; }
-    /// The bundle's look inside its panels; null when it has none.
+    /// Access to the internal state of the bundle's panels, for tools; null if the bundle does not offer it.
+    /// Not owned.
     PDEPanelInspection *inspection() const { return m_factory->panelInspection(); }
+    /// The bundle's resources.
     const platform::Bundle &resources() const { return *m_resources; }
 
 private:
     PanelBundle() = default;
 
-    /// Borrowed from the library, which stays loaded until the process ends: code of a bundle may still be
-    /// named in Qt's tables after its panels are gone.
+    /// Owned by the library, which stays loaded until the process ends: Qt may still refer to code of the
+    /// bundle after its panels are destroyed.
     PDEPlugInFactory *m_factory = nullptr;
     std::shared_ptr<const platform::Bundle> m_resources;
     std::unique_ptr<PDEPlugIn> m_plugIn;

@@ -12,36 +12,39 @@
 
 namespace host {
 
-/// The callback object that one bundle's panels are given: what they may ask of the dialog, and their
-/// one way to change a printer option. There is one for each bundle, so that a change is told to
-/// every other bundle's panels and not back to where it came from.
+/// The callback object of one bundle's panels: it offers the session, settings, paper, printer and PPD of the
+/// dialog, and it is the only way in which these panels change a printer option. Each bundle has its own, so
+/// that a change is reported to the panels of all other bundles, but not to those of its origin.
 class PanelHost : public PDEPluginCallback13_v400_, public OptionListener {
 public:
-    /// For panels of the dialog that the state belongs to; shares the state.
+    /// Makes the callback object for panels of the dialog with this state. The state is shared.
     explicit PanelHost(std::shared_ptr<DialogState> state);
     ~PanelHost() override;
     PanelHost(const PanelHost &) = delete;
     PanelHost &operator=(const PanelHost &) = delete;
 
-    /// The panels that were made with this object. They are told of changes from elsewhere as long as
-    /// they live; this object does not keep them.
+    /// Sets the panels that were made with this object. Changes from other sources are reported to them as
+    /// long as they exist. Does not take part in the ownership of the panels.
     void setPanels(const PDEPanelList &panels);
-    /// Reports a change that was made elsewhere to these panels.
+    /// Reports a change from another source to these panels.
     void optionChanged(const std::optional<QString> &keyword, const std::optional<QString> &choice) override;
 
-    /// Runs the function, which asks these panels something. What they want to change meanwhile is collected
-    /// and not carried out: nothing is marked, recorded, or reported to other panels, and no hook is called.
-    /// Each keyword once, with the choice that was asked for last.
+    /// Runs the function, which calls these panels, and returns the changes that they request meanwhile,
+    /// without carrying them out: nothing is marked, recorded or reported to other panels, and no hook is
+    /// called. Each keyword is listed once, with the choice that was requested last.
     PDEChoices collect(const std::function<void()> &ask);
 
-    /// Called for every change that a panel asks for, before it is carried out; may be empty.
+    /// Sets the function that is called for every change that a panel requests, before it is carried out; may
+    /// be empty.
     void setWillChangeHook(std::function<void(const QString &, const std::optional<QString> &)> hook);
-    /// Called after a panel's change is marked, recorded and told; may be empty.
+    /// Sets the function that is called after a panel's change has been marked, recorded and reported; may be
+    /// empty.
     void setDidChangeHook(std::function<void()> hook) { m_didChange = std::move(hook); }
-    /// Called when a panel's view has changed its size. An empty function stands for a dialog that does
-    /// not want to hear of it, and panels are then told so.
+    /// Sets the function that is called when a panel's view has changed its size. If it is empty,
+    /// respondsToPanelViewDidResize() returns false: the dialog does not follow the sizes of its panels.
     void setPanelViewDidResizeHook(std::function<void()> hook) { m_didResize = std::move(hook); }
 
+    /// The callback protocol; see PDEPluginCallback13_v400_. All handles are owned by the dialog's state.
     PMPrintSession printSession() const override { return m_state->session(); }
     PMPrintSettings printSettings() const override { return m_state->settings(); }
     PMPageFormat pageFormat() const override { return m_state->pageFormat(); }
@@ -54,7 +57,7 @@ public:
 private:
     std::shared_ptr<DialogState> m_state;
     std::vector<std::weak_ptr<PDEPanel>> m_panels;
-    /// Where changes are collected; null while they are carried out.
+    /// Receives the requested changes during collect(); null otherwise.
     PDEChoices *m_collected = nullptr;
     std::function<void(const QString &, const std::optional<QString> &)> m_willChange;
     std::function<void()> m_didChange;

@@ -56,7 +56,8 @@ PanelSettings PanelSession::settings() const
                 PanelSessionText::tr("\"%1\" does not let the job be printed with these settings.")
                     .arg(panel->panelName());
     });
-    // The check completes options that have no mark. Those that saving has written would have one by now.
+    // shouldPrint() adds the default of each option without a mark. What saving has written takes precedence:
+    // outside of collect() it would be marked by now.
     for (const auto &[keyword, choice] : completed) {
         if (!settings.choice(keyword))
             settings.choices.emplace_back(keyword, choice);

@@ -6,31 +6,32 @@
 
 namespace host {
 
-/// One bundle's panels at work for one dialog: keeps the bundle, the callback object and the panels, and
-/// ends them in the right order. Move-only.
+/// The panels of one bundle for one dialog: owns the bundle, the callback object and the panels, and destroys
+/// them in the right order. Move-only.
 class PanelSession {
 public:
-    /// Asks the bundle for its panels of the type, for the dialog that the callback object stands for.
+    /// Makes the bundle's panels of this type for the dialog that the callback object represents.
     PanelSession(PanelBundle bundle, std::shared_ptr<PanelHost> host,
                  const QString &type = PDEPrintDialogType);
 
-    /// The panels; nothing when the bundle could not make them, empty for a type it does not know.
+    /// The panels; absent if the bundle could not make them, empty if it does not know the type.
     const std::optional<PDEPanelList> &panels() const { return m_panels; }
-    /// The first panel, or null.
+    /// The first panel; null without panels. Owned by this object.
     PDEPanel *firstPanel() const;
-    /// The PPD keywords that the panels take care of, which the dialog then leaves to them. To be asked
-    /// before any panel's view is loaded: a panel hands over its settings when it is asked, and those
-    /// of controls that are there but not yet filled would replace what the PPD has marked.
+    /// Returns the PPD keywords that the panels handle; the dialog does not show these options itself. Must
+    /// be called before any panel's view is loaded: a panel writes its settings when it is asked for its
+    /// keywords, and controls that are loaded but not filled yet would replace the marked choices of the PPD.
     QStringList claimKeywords() const;
-    /// What the first panel would save, and whether it would let the job be printed. Asks it by letting it
-    /// save and check without carrying out what it wants to change, so that nothing changes and asking again
-    /// gives the same. Empty without a panel.
+    /// Returns what the first panel would save, and whether it lets the job be printed. Runs the panel's save
+    /// and check operations without carrying out the changes that they request, so that nothing changes and
+    /// further calls return the same. Empty without a panel.
     PanelSettings settings() const;
+    /// The callback object and the bundle that this object was made with.
     PanelHost &host() const { return *m_host; }
     const PanelBundle &bundle() const { return m_bundle; }
 
 private:
-    // Destroyed from the last to the first: panels, the principal object with its resources.
+    // Destroyed in reverse order: the panels before the principal object and its resources.
     PanelBundle m_bundle;
     std::shared_ptr<PanelHost> m_host;
     std::optional<PDEPanelList> m_panels;

@@ -6,26 +6,26 @@
 namespace host {
 
 /// What a panel would do for a job that is printed now: the choices that it would save, and whether it lets
-/// the job pass. Asking a panel for it changes nothing.
+/// the job be printed. Reading it from a panel changes nothing.
 struct PanelSettings {
-    /// Keyword and choice, each keyword once, in the order in which the panel writes them. A keyword that the
-    /// panel does not write is absent.
+    /// Pairs of keyword and choice, each keyword once, in the order in which the panel writes them. A keyword
+    /// that the panel does not write is absent.
     PDEChoices choices = {};
-    /// How many ready-made combinations the user has chosen (PDEUserChoices_v1); 0 for a panel that does not
-    /// say.
+    /// The number of times that the user has chosen a predefined combination (PDEUserChoices_v1); 0 if the
+    /// panel does not report it.
     int combinationsChosen = 0;
-    /// Why the panel does not let the job be printed; absent when it does.
+    /// The reason why the panel does not let the job be printed; absent if it does.
     std::optional<QString> error = {};
 
-    /// The choice of the keyword; absent when the panel does not write it.
+    /// The choice for the keyword; absent if the panel does not write the keyword.
     std::optional<QString> choice(const QString &keyword) const;
 
     bool operator==(const PanelSettings &) const = default;
 };
 
-/// Sets the keyword's choice in place, or appends it.
+/// Sets the choice for the keyword: replaces its entry, or appends one.
 void setChoice(PDEChoices &choices, const QString &keyword, const QString &choice);
-/// The keyword's choice; absent when the keyword is.
+/// Returns the choice for the keyword; absent if the list does not contain the keyword.
 std::optional<QString> findChoice(const PDEChoices &choices, const QString &keyword);
 
 } // namespace host

@@ -8,7 +8,7 @@ namespace {
 struct CountedStatement {
     std::string_view keyword;
     int max;
-    /// The name of an option follows within the keyword, as in *CustomPageSize.
+    /// Whether the keyword continues with the name of an option, as in *CustomPageSize.
     bool isPrefix;
 };
 
@@ -28,13 +28,13 @@ constexpr std::array counted = {
 
 constexpr std::string_view blanks = " \t";
 
-/// libcups compares some keywords in any case of letters.
+/// Compares keywords case-insensitively, as libcups does for some of them.
 bool isEqual(std::string_view left, std::string_view right)
 {
     return left.size() == right.size() && qstrnicmp(left.data(), right.data(), left.size()) == 0;
 }
 
-/// Up to the first blank or the beginning of the text for people.
+/// Returns the text up to the first blank or the slash that precedes the translation string.
 std::string_view firstWord(std::string_view text)
 {
     return text.substr(0, text.find_first_of(" \t/"));

@@ -9,37 +9,39 @@
 
 namespace host {
 
-/// Counts the statements of a PPD whose number decides how long libcups reads. To find an option, a group, a
-/// parameter or a paper size, libcups compares its name with all names before it: a file of some megabytes
-/// would keep the dialog waiting for minutes.
+/// Counts those statements of a PPD whose number determines how long libcups takes to read the file. To find
+/// an option, a group, a parameter or a paper size, libcups compares its name with all earlier names: a file
+/// of some megabytes could block the dialog for minutes.
 ///
-/// Each maximum is at least ten times what any printer's PPD has: a large one has 300 options, 500 papers,
-/// and some thousand constraints. A PPD that reaches all of them opens within seconds.
+/// Each maximum is at least ten times as large as in the PPD of any known printer: a large PPD has 300
+/// options, 500 papers and some thousand constraints. A PPD that reaches all maxima opens within seconds.
 class PpdCounts {
 public:
-    /// Of each of *OpenUI, *JCLOpenUI, *OpenGroup, *OpenSubGroup, *Custom... and *ParamCustom...; and of
-    /// *PaperDimension and *ImageableArea.
+    /// The maximum for each of *OpenUI, *JCLOpenUI, *OpenGroup, *OpenSubGroup, *Custom... and
+    /// *ParamCustom..., and for each of *PaperDimension and *ImageableArea.
     static constexpr int maxOptions = 5'000;
-    /// Of one option.
+    /// The maximum number of choices of one option.
     static constexpr int maxChoices = 10'000;
-    /// Of each of *UIConstraints, *NonUIConstraints and *cupsUIConstraints.
+    /// The maximum for each of *UIConstraints, *NonUIConstraints and *cupsUIConstraints.
     static constexpr int maxConstraints = 100'000;
-    /// Of all statements together.
+    /// The maximum number of all statements.
     static constexpr int maxStatements = 150'000;
 
-    /// Takes a statement up to its colon, asterisk included.
+    /// Counts a statement, given as its text up to the colon, including the asterisk.
     void addStatement(std::string_view statement);
 
-    /// Statements of which there are more than the maximum.
+    /// A kind of statement whose number exceeds the maximum.
     struct Excess {
-        /// Their keyword, "*OpenUI"; empty for all statements together.
+        /// The keyword, for instance "*OpenUI"; empty if the number of all statements exceeds the maximum.
         QByteArray keyword;
+        /// The number of statements, and its maximum.
         int count = 0;
         int max = 0;
     };
-    /// The first excess in the order of the constants above; nothing when the PPD is within all of them.
+    /// The first exceeded maximum: of a keyword, then of the choices of an option, then of all statements;
+    /// absent if the PPD exceeds none.
     std::optional<Excess> excess() const;
-    /// Whether there are already more statements than the maximum.
+    /// Whether the number of all statements exceeds its maximum.
     bool isFull() const { return m_statements > maxStatements; }
 
 private:
@@ -49,7 +51,7 @@ private:
 
     std::array<int, kinds> m_counts = {};
     int m_statements = 0;
-    /// The keyword of the option that is open, asterisk included; empty when none is.
+    /// The keyword of the current option, including the asterisk; empty before the first option.
     QByteArray m_option;
     int m_choices = 0;
     Excess m_mostChoices{{}, 0, maxChoices};

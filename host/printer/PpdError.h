@@ -5,13 +5,14 @@
 
 namespace host {
 
+/// Why a PPD file could not be opened.
 enum class PpdFailure {
-    Missing,    ///< there is no such file
-    NotAFile,   ///< a folder, a pipe or a device
-    Unreadable, ///< no permission, or the medium fails
-    TooLarge,   ///< more bytes or statements than any printer's description
-    Truncated,  ///< ends in the middle of a value, or cannot be unpacked to its end
-    NotAPpd,    ///< libcups does not understand it
+    Missing,    ///< the file does not exist
+    NotAFile,   ///< the path is a folder, a pipe or a device
+    Unreadable, ///< missing permission, or an I/O error
+    TooLarge,   ///< more bytes or statements than allowed
+    Truncated,  ///< ends inside a value, or cannot be decompressed completely
+    NotAPpd,    ///< libcups cannot parse the file, or the file is empty
 };
 using PpdError = Failure<PpdFailure>;
 

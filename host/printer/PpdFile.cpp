@@ -13,7 +13,8 @@ namespace host {
 
 namespace {
 
-/// Puts the text of a translation into a record of libcups, cut at the end of a character.
+/// Copies the text of a translation to a field of libcups. A text that is too long is truncated at a
+/// character boundary.
 template<std::size_t Size>
 void setText(char (&record)[Size], const QByteArray &utf8)
 {
@@ -23,7 +24,7 @@ void setText(char (&record)[Size], const QByteArray &utf8)
     qstrncpy(record, utf8.constData(), static_cast<std::size_t>(length) + 1);
 }
 
-/// Puts the translations of one language into the records of an open PPD.
+/// Copies the translations of one language to the records of an open PPD.
 class Localizer {
 public:
     Localizer(ppd_file_t *ppd, const PpdTranslations &translations, const QString &language)
@@ -52,7 +53,8 @@ private:
             localizeFreeChoice(option, *free);
     }
 
-    /// A free choice has its texts under keywords of its own.
+    /// PPD 4.3: the texts of a custom option and of its parameters have their own keywords, *CustomKEYWORD
+    /// and *ParamCustomKEYWORD.
     void localizeFreeChoice(ppd_option_t &option, const ppd_coption_t &free) const
     {
         const QByteArray choice = freeChoiceName + QByteArray(option.keyword);
@@ -79,8 +81,9 @@ private:
     const QString &m_language;
 };
 
-/// All options, in libcups's order. A copy: a search for an option moves the position from which
-/// ppdNextOption() continues, where two options have the same name back to the first one, for ever.
+/// Returns all options in the order of libcups. The list is a copy: ppdFindOption() moves the position from
+/// which ppdNextOption() continues. With two options of the same name it moves back to the first one, and the
+/// iteration would never end.
 std::vector<ppd_option_t *> allOptions(ppd_file_t *ppd)
 {
     std::vector<ppd_option_t *> options;
@@ -89,18 +92,19 @@ std::vector<ppd_option_t *> allOptions(ppd_file_t *ppd)
     return options;
 }
 
-/// Takes the marks off all choices. libcups cannot itself, where an option may have several.
+/// Removes the marks from all choices of the option. libcups does not do so for PickMany options.
 void unmark(ppd_file_t *ppd, ppd_option_t &option)
 {
     for (int i = 0; i < option.num_choices; ++i)
         option.choices[i].marked = 0;
-    // To libcups's list, the choices of one option are equal, and a choice may stand in it twice.
+    // The comparison function of libcups's list treats all choices of one option as equal, and the list may
+    // contain a choice twice.
     while (option.num_choices > 0 && cupsArrayRemove(ppd->marked, option.choices) != 0) {
     }
 }
 
-/// The choice of that name, compared byte for byte; libcups ignores upper and lower case. Null when the
-/// option lacks it.
+/// Returns the choice with this name, compared byte for byte; libcups ignores case. Null if the option does
+/// not have it.
 ppd_choice_t *exactChoice(ppd_option_t &option, const QByteArray &name)
 {
     ppd_choice_t *const end = option.choices + option.num_choices;
@@ -109,7 +113,7 @@ ppd_choice_t *exactChoice(ppd_option_t &option, const QByteArray &name)
     return found == end ? nullptr : found;
 }
 
-/// Where libcups has marked a choice whose name differs in the case of letters, marks the one that was meant.
+/// Marks the intended choice if libcups has marked one whose name differs only in case.
 void correctMark(ppd_file_t *ppd, ppd_option_t &option, const QByteArray &meant)
 {
     ppd_choice_t *const exact = exactChoice(option, meant);

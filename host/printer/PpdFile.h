@@ -20,85 +20,94 @@ class PpdText;
 
 /// The keyword of the option that selects the paper, as PPD 4.3 names it.
 inline constexpr const char *paperKeyword = "PageSize";
-/// The name of the entry that stands for a free choice, as PPD 4.3 names it.
+/// The name of the choice that stands for a custom value, as PPD 4.3 names it.
 inline constexpr const char *freeChoiceName = "Custom";
 
-/// A paper of the PPD.
+/// A paper of the PPD, or a custom size.
 struct PpdPaper {
-    /// The PPD's name, byte for byte: this is what the job must carry.
+    /// The name in the PPD, byte for byte. The job must contain this name.
     QByteArray name;
-    /// The PPD's text for people, in the language of localize().
+    /// The translation string of the PPD, in the language set by PpdFile::localize(), or the name if there is
+    /// none.
     QString text;
-    /// Width and length in points as the PPD gives them, never taken for a standard size.
+    /// Width and length in points as the PPD states them, never replaced by a standard size.
     QSizeF size;
-    /// What the printer cannot reach at each edge, in points; empty when the PPD does not tell.
+    /// The unprintable margins, in points; absent if the PPD does not state them.
     std::optional<QMarginsF> margins;
 };
 
-/// The sizes in which the printer takes papers of free length, in points.
+/// The limits of the printer's custom page sizes, in points.
 struct PpdCustomLimits {
+    /// The minimum and the maximum width and length.
     QSizeF smallest;
     QSizeF largest;
 
     bool operator==(const PpdCustomLimits &) const = default;
 };
 
-/// A printer's PPD, open and marked. All that the host knows of a PPD it knows through this class and
-/// PpdOptions, as values; only panels are handed what libcups opened (PpdForPanels), as their protocol says.
+/// A printer's PPD, open and with marked choices. The host accesses PPDs only through this class and
+/// PpdOptions, as values; only panels receive the ppd_file_t itself (PpdForPanels), as their protocol
+/// requires.
 ///
-/// Move-only; the file on disk is not needed any more once it is open.
+/// Move-only. The file on disk is not needed after open().
 class PpdFile {
 public:
-    /// No printer's description comes near this size, in bytes of text.
+    /// The maximum size of the uncompressed text, in bytes; far larger than the PPD of any printer.
     static constexpr qint64 largestText = qint64{16} * 1024 * 1024;
 
-    /// Opens a PPD, plain or gzip. Nothing is marked yet. Reads no more than largestText of it, and never
-    /// waits on a pipe.
+    /// Opens a PPD file, plain or gzip-compressed. No choice is marked yet. Reads at most largestText bytes
+    /// of text and never blocks on a pipe.
     static Result<PpdFile, PpdError> open(const QString &path);
 
+    /// The path that the PPD was opened from.
     const QString &path() const { return m_path; }
-    /// The printer's name for people: the PPD's NickName, else its model, else the file's name.
+    /// The printer's name for the user: the NickName of the PPD, otherwise its ModelName or ShortNickName,
+    /// otherwise the file name.
     QString printerName() const;
 
-    /// Turns the texts of groups, options and choices into the language ("de", "pt_BR") where the PPD has
-    /// it; others stay as they are. Panels see them too. Does not depend on the process's locale.
+    /// Sets the texts of groups, options and choices to their translations into the language ("de", "pt_BR").
+    /// Texts that the PPD does not translate stay unchanged. Panels see the translations, too. Does not
+    /// depend on the locale of the process.
     void localize(const QString &language);
 
-    /// Marks the choice that the PPD names as default, for every option.
+    /// Marks the default choice of every option.
     void markDefaults();
-    /// Marks a choice, as the user's or a panel's, by its exact name or else in any case of letters. An
-    /// unknown keyword or choice is no error. For an option that may have several, exactly the choices of a
-    /// list with commas are marked; none for an empty one.
+    /// Marks a choice of the user or of a panel, by its exact name, otherwise by its name in any case.
+    /// Ignores unknown keywords and choices. For a PickMany option, the argument is a list of choices
+    /// separated by commas: exactly these are marked, and none for an empty list.
     void mark(const QString &keyword, const QString &choice);
-    /// Marks what the options of a job ask for, by name and value, as the server's filters read them: "media"
-    /// and "sides" too. Others that the PPD lacks are passed over.
+    /// Marks the choices that the options of a job, pairs of name and value, request. Interprets them as the
+    /// filters of the server do, including "media" and "sides". Ignores options that are missing in the PPD.
     void markJobOptions(const std::vector<std::pair<QByteArray, QByteArray>> &options);
-    /// The marked choice; nothing when none is marked or the PPD lacks the keyword.
+    /// The marked choice; absent if none is marked or the PPD does not have the option.
     std::optional<QString> markedChoice(const QString &keyword) const;
-    /// The choice that the PPD names as default; nothing when the PPD lacks the keyword.
+    /// The default choice of the PPD; absent if the PPD does not have the option.
     std::optional<QString> defaultChoice(const QString &keyword) const;
+    /// Whether the PPD has the option.
     bool hasOption(const QString &keyword) const;
-    /// The choice's position among the option's choices, from 0; nothing when the PPD lacks either.
+    /// The index of the choice in the option's list of choices, counted from 0; absent if the PPD does not
+    /// have the option or the choice.
     std::optional<int> choiceIndex(const QString &keyword, const QString &choice) const;
-    /// The option's text for people; the keyword itself when the PPD lacks it.
+    /// The text of the option for the user; the keyword if the PPD does not have one.
     QString optionText(const QString &keyword) const;
-    /// The choice's text for people; the choice itself when the PPD lacks it.
+    /// The text of the choice for the user; the choice's name if the PPD does not have one.
     QString choiceText(const QString &keyword, const QString &choice) const;
 
-    /// The choices of PageSize that the PPD names a usable size for, in its order, without the entry that
-    /// stands for free sizes.
+    /// The choices of PageSize for which the PPD states a usable size, in the order of the PPD, without the
+    /// "Custom" choice. A name that occurs twice is listed once.
     std::vector<PpdPaper> papers() const;
-    /// The paper of that name, compared byte for byte. "Custom.WIDTHxLENGTH", as customPaperSize() reads it,
-    /// gives a free size, where the PPD has them and within its limits.
+    /// The paper with this name, compared byte for byte; absent if the PPD does not have it or its size is
+    /// not usable. "Custom.WIDTHxLENGTH", as parsed by customPaperSize(), is a custom size if the PPD allows
+    /// custom sizes and the size is within its limits.
     std::optional<PpdPaper> paper(const QByteArray &name) const;
-    /// The width and length, in points, for which paper() gives nothing though the PPD has the paper or takes
-    /// free sizes: not numbers above 0, or beyond PpdPaperSizes::maxLongSide and maxShortSide. Nothing for
-    /// all other names.
+    /// The size, in points, because of which paper() rejects a paper of the PPD or a custom size: a width or
+    /// length that is not a number greater than 0, or that exceeds PpdPaperSizes::maxLongSide or
+    /// maxShortSide. Absent for all other names.
     std::optional<QSizeF> unusableSize(const QByteArray &name) const;
-    /// The paper that is marked; nothing when none is.
+    /// The marked paper; absent if none is marked or its size is not usable.
     std::optional<PpdPaper> markedPaper() const;
-    /// The limits of free sizes, from 1 point to PpdPaperSizes::maxLongSide at the most; nothing when the PPD
-    /// has only fixed sizes, or limits between which there is none.
+    /// The limits of custom sizes, restricted to the range from 1 point to PpdPaperSizes::maxLongSide; absent
+    /// if the PPD has only fixed sizes or if its limits leave no size.
     std::optional<PpdCustomLimits> customLimits() const;
 
 private:

@@ -54,7 +54,7 @@ std::optional<PpdPaper> PpdFile::customPaper(const QByteArray &name) const
     if (!record)
         return std::nullopt;
     const QSizeF size(double{record->width}, double{record->length});
-    // A free size given in millimetres may miss a limit by its rounding to floats.
+    // Rounding to float may move a custom size in millimetres slightly beyond a limit.
     constexpr double tolerance = 0.01;
     const bool fits = size.width() >= limits->smallest.width() - tolerance &&
                       size.height() >= limits->smallest.height() - tolerance &&
@@ -81,7 +81,7 @@ std::optional<QSizeF> PpdFile::unusableSize(const QByteArray &name) const
 std::optional<PpdPaper> PpdFile::markedPaper() const
 {
     std::optional<QString> name = markedChoice(QStringLiteral("PageSize"));
-    // Of the two keywords for one thing, libcups keeps the mark that came last.
+    // PageSize and PageRegion both select the paper; libcups keeps only the mark that was set last.
     if (!name)
         name = markedChoice(QStringLiteral("PageRegion"));
     if (name != QLatin1String(freeChoiceName))
@@ -96,13 +96,13 @@ std::optional<PpdCustomLimits> PpdFile::customLimits() const
 {
     if (!m_ppd->variable_sizes)
         return std::nullopt;
-    // Many PPDs allow any size from 0 on; a paper of less than a point is none.
+    // Many PPDs allow sizes from 0; a paper smaller than 1 point is not usable.
     constexpr double min = 1.0;
     constexpr double max = PpdPaperSizes::maxLongSide * 1000.0 * pointsPerMillimetre;
     const PpdCustomLimits limits{
         {qMax(min, double{m_ppd->custom_min[0]}), qMax(min, double{m_ppd->custom_min[1]})},
         {qMin(max, double{m_ppd->custom_max[0]}), qMin(max, double{m_ppd->custom_max[1]})}};
-    // Comparisons with NaN are false.
+    // NaN is never less than or equal to a number, so limits that are NaN are rejected.
     const bool hasSizes = limits.smallest.width() <= limits.largest.width() &&
                           limits.smallest.height() <= limits.largest.height();
     return hasSizes ? std::optional(limits) : std::nullopt;

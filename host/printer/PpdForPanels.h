@@ -5,11 +5,11 @@
 
 namespace host {
 
-/// Hands out what libcups opened to those who hand it on: the protocol of panels is made of it. Nobody else
-/// asks for it, so that a libcups without PPDs concerns the Ppd classes only.
+/// Gives the panel host access to the ppd_file_t, which is part of the panel protocol. No other code uses it,
+/// so that a libcups without PPD support affects only the Ppd classes.
 class PpdForPanels {
 public:
-    /// Lives as long as the PPD. Never null.
+    /// Returns the PPD as opened by libcups. Owned by the PpdFile; never null.
     static ppd_file_t *handle(const PpdFile &ppd) { return ppd.handle(); }
 };
 

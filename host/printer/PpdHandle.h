@@ -7,10 +7,11 @@
 
 namespace host {
 
+/// Closes a PPD that libcups has opened.
 struct PpdClose {
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
 };
-/// Owns what libcups opened.
+/// Owns a PPD that libcups has opened.
 using PpdHandle = std::unique_ptr<ppd_file_t, PpdClose>;
 
 } // namespace host

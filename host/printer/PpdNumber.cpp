@@ -11,13 +11,14 @@ namespace host {
 
 namespace {
 
-/// Points in one of each unit that the server's filters know.
+/// The units that the filters of the server know, and their lengths in points.
 constexpr std::pair<const char *, double> units[] = {
     {"", 1.0},           {"pt", 1.0},         {"in", 72.0},         {"ft", 864.0},
     {"cm", 72.0 / 2.54}, {"mm", 72.0 / 25.4}, {"m", 72.0 / 0.0254},
 };
 
-/// Digits, with a point or a sign where these belong, and nothing else: no blank, exponent or infinity.
+/// Parses digits with an optional sign and decimal point; absent for everything else, including blanks,
+/// exponents and infinity.
 std::optional<double> decimalNumber(const QByteArray &text)
 {
     double number = 0.0;
@@ -29,7 +30,7 @@ std::optional<double> decimalNumber(const QByteArray &text)
     return number;
 }
 
-/// Where the unit at the end of a length begins.
+/// Returns the index at which the unit at the end of a length begins.
 qsizetype unitStart(const QByteArray &length)
 {
     qsizetype start = length.size();

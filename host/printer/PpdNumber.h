@@ -8,18 +8,20 @@
 
 namespace host {
 
-/// A number as PPDs and jobs have it, whatever the user's language, to four decimals: "12.5".
+/// Returns the number in the form of PPDs and job options, independent of the locale, rounded to four
+/// decimals without trailing zeros: "12.5".
 QByteArray ppdNumber(double number);
 
-/// A length as PPDs and jobs have it, "12.5mm", in points. Without a unit it is in points; the units are
-/// those of the server's filters: pt, in, ft, cm, mm, m. Nothing for anything else.
+/// Parses a length in the form of PPDs and job options, for instance "12.5mm", and returns it in points. A
+/// length without a unit is in points; the units are those of the filters of the server: pt, in, ft, cm, mm,
+/// m. Absent for all other text.
 std::optional<double> lengthInPoints(const QByteArray &length);
 
-/// The name of a paper of free size, given in points: "Custom.36x50mm".
+/// Returns the name of a custom page size, given in points: "Custom.36x50mm".
 QByteArray customPaperName(const QSizeF &points);
-/// The size, in points, that the name of a paper of free size says: "Custom.WIDTHxLENGTH", with a unit for
-/// both as lengthInPoints() has them. Nothing for anything else: libcups would take any unit that it does not
-/// know for points, and filters would print on a paper of that size.
+/// Parses the name of a custom page size, "Custom.WIDTHxLENGTH" with one unit for both as in
+/// lengthInPoints(), and returns the size in points. Absent for all other text: libcups would read an unknown
+/// unit as points, and filters would print on a paper of that size.
 std::optional<QSizeF> customPaperSize(const QByteArray &name);
 
 } // namespace host

@@ -21,7 +21,7 @@ struct PpdOptionsText {
     Q_DECLARE_TR_FUNCTIONS(host::PpdOptions)
 };
 
-/// The text, or the name for people who wrote no text.
+/// Returns the text, or the name if the PPD does not have a text.
 QString textOr(const char *text, const char *name)
 {
     return QString::fromUtf8(text[0] ? text : name);
@@ -37,7 +37,7 @@ void addKeywords(const ppd_group_t &group, std::vector<QByteArray> &keywords)
 
 QString groupText(const ppd_group_t &group)
 {
-    // libcups puts options that stand in no group into these, under its own English names.
+    // libcups puts options without a group into groups with these English names.
     if (qstrcmp(group.name, "General") == 0 && qstrcmp(group.text, "General") == 0)
         return PpdOptionsText::tr("General");
     if (qstrcmp(group.name, "JCL") == 0 && qstrcmp(group.text, "JCL") == 0)
@@ -45,14 +45,14 @@ QString groupText(const ppd_group_t &group)
     return textOr(group.text, group.name);
 }
 
-/// The number that the PPD says: "0.1", and not what a float makes of it.
+/// Returns the number as the PPD states it: 0.1, not 0.1 rounded to float.
 double exactly(float number)
 {
     constexpr int floatDigits = 7;
     return QByteArray::number(double{number}, 'g', floatDigits).toDouble();
 }
 
-/// What a field can show: PPDs may say "nan" and "inf".
+/// Limits the number to the range of an input field: PPDs may contain "nan" and "inf".
 double showable(double number)
 {
     constexpr double most = std::numeric_limits<int>::max();
@@ -61,9 +61,9 @@ double showable(double number)
 
 void readNumber(PpdParameter &parameter, double minimum, double maximum, double current)
 {
-    // Some PPDs name the larger one first.
+    // Some PPDs state the maximum first.
     std::tie(parameter.minimum, parameter.maximum) = std::minmax({showable(minimum), showable(maximum)});
-    // libcups starts with 0, whatever the limits.
+    // The initial value of libcups is 0, even if 0 is outside of the limits.
     parameter.number = std::clamp(showable(current), parameter.minimum, parameter.maximum);
 }
 
@@ -73,7 +73,7 @@ void readCharacters(PpdParameter &parameter, int minimum, int maximum, const cha
     parameter.characters = QString::fromUtf8(current);
 }
 
-/// Reads kind, limits and value; false for a kind that libcups does not know.
+/// Reads kind, limits and value. Returns false for a type that libcups does not know.
 bool readValue(PpdParameter &parameter, const ppd_cparam_t &source)
 {
     const ppd_cplimit_t &least = source.minimum;
@@ -122,7 +122,7 @@ QByteArray plainValue(const PpdParameter &parameter)
     return parameter.isNumber() ? ppdNumber(parameter.number) : parameter.characters.toUtf8();
 }
 
-/// "*Option Choice *Option *Option Choice ..."
+/// Parses a constraint of the form "*Option Choice *Option *Option Choice ...".
 PpdConstraint constraintFrom(const QByteArray &text)
 {
     PpdConstraint constraint;
@@ -209,7 +209,7 @@ std::optional<PpdOption> PpdOptions::option(const QByteArray &keyword) const
 bool PpdOptions::canBeChanged(const QByteArray &keyword) const
 {
     const ppd_option_t *const option = ppdFindOption(m_ppd.handle(), keyword.constData());
-    // A single box can still be ticked or not, and a free choice has many values.
+    // A PickMany option with a single choice can be on or off, and a custom option has many values.
     return option &&
            (option->num_choices > 1 || (option->num_choices == 1 && option->ui == PPD_UI_PICKMANY) ||
             !parameters(keyword).empty());

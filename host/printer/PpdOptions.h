@@ -5,102 +5,117 @@
 
 namespace host {
 
-/// What a parameter of a free choice takes.
+/// The type of a custom option's parameter.
 enum class PpdParameterKind {
     Integer,
     Real,
-    Points,   ///< a length; numbers in points
+    Points,   ///< a length in points
     Text,     ///< any characters
     Password, ///< any characters, not to be shown
     Passcode, ///< digits, not to be shown
 };
 
-/// A parameter of a free choice, with the value that it has now.
+/// A parameter of a custom option, with its current value.
 struct PpdParameter {
+    /// The name in the PPD, and the text for the user.
     QByteArray name;
     QString text;
+    /// The type of the value.
     PpdParameterKind kind = PpdParameterKind::Real;
-    /// Of the number, or of the count of characters.
+    /// The limits of the number or of the number of characters.
     double minimum = 0;
     double maximum = 0;
-    /// The value of a number, within its limits.
+    /// The value of a number, within the limits; 0 for the other kinds.
     double number = 0;
-    /// The value of the others; may be too short when none was ever given.
+    /// The value of the other kinds; may be shorter than the minimum while no value has been set.
     QString characters = {};
 
+    /// Whether the value is stored in number rather than in characters.
     bool isNumber() const { return kind <= PpdParameterKind::Points; }
-    /// Whether the job can carry the value as it is.
+    /// Whether a job can contain the value: the number of characters is within the limits.
     bool isComplete() const;
 };
 
-/// A choice under its PPD name, byte for byte, with its text for people.
+/// A choice: its name in the PPD, byte for byte, and its text for the user.
 struct PpdChoice {
     QByteArray name;
     QString text;
 };
 
+/// The UI type of an option, as in *OpenUI. PickMany options can have several marked choices.
 enum class PpdOptionKind { Boolean, PickOne, PickMany };
 
 /// An option of the PPD with all its choices.
 struct PpdOption {
+    /// The keyword without its asterisk, and the text for the user.
     QByteArray keyword;
     QString text;
     PpdOptionKind kind = PpdOptionKind::PickOne;
-    /// Without the entry that stands for a free choice.
+    /// The choices without the one that stands for a custom value.
     std::vector<PpdChoice> choices;
-    /// The text of the entry for a free choice; nothing when the option has none.
+    /// The text of the choice that stands for a custom value; absent if the option does not allow custom
+    /// values.
     std::optional<QString> freeText;
-    /// The choice that the PPD names as default, which need not be one that it has.
+    /// The default choice of the PPD; the option need not have a choice of this name.
     QByteArray defaultChoice = {};
 };
 
-/// A group of options, in the PPD's order.
+/// A group of options with its keywords in the order of the PPD.
 struct PpdGroup {
+    /// The name in the PPD, and the text for the user.
     QByteArray name;
     QString text;
-    /// The options say what the printer is fitted with, and nothing about a job.
+    /// Whether the options describe installed accessories of the printer rather than the job
+    /// (InstallableOptions).
     bool isInstallable = false;
+    /// The keywords of the options, without asterisks.
     std::vector<QByteArray> keywords;
 };
 
-/// One side of a constraint as the PPD spells it; an empty choice stands for every choice but the "off" one.
+/// One option of a constraint as the PPD states it. An empty choice stands for every choice except the "off"
+/// choice.
 struct PpdConstraintSide {
+    /// The keyword without its asterisk, and the name of the choice.
     QByteArray keyword;
     QByteArray choice;
 };
-/// Choices that exclude each other; mostly two.
+/// Choices that conflict if all of them are selected; in most cases two.
 using PpdConstraint = std::vector<PpdConstraintSide>;
 
-/// Reads the options of a PPD, in the language that it is localized to, and what is marked in it. Cheap to
-/// make; the PPD is borrowed.
+/// Reads the options of a PPD in the language set by PpdFile::localize(), and their marked choices. Cheap to
+/// construct. The PPD is not owned and must outlive this object.
 class PpdOptions {
 public:
+    /// The options of this PPD.
     explicit PpdOptions(const PpdFile &ppd);
 
-    /// The groups that have options, those of subgroups among them.
+    /// The groups that have options. The options of subgroups are listed in the group that contains them.
     std::vector<PpdGroup> groups() const;
-    /// The option; nothing when the PPD lacks it.
+    /// The option; absent if the PPD does not have it.
     std::optional<PpdOption> option(const QByteArray &keyword) const;
-    /// Whether there is more than one thing to choose; false when the PPD lacks the option.
+    /// Whether the user can change the option: it has more than one choice, a custom value, or a PickMany
+    /// choice. False if the PPD does not have the option.
     bool canBeChanged(const QByteArray &keyword) const;
-    /// The parameters of the option's free choice, in the PPD's order; empty when it has none.
+    /// The parameters of the option's custom value, in the order of the PPD; empty if the option does not
+    /// allow custom values.
     std::vector<PpdParameter> parameters(const QByteArray &keyword) const;
-    /// The choice that the PPD names as default, which need not be one that it has; empty when the PPD lacks
-    /// the option.
+    /// The default choice of the PPD, which need not be one of the option's choices; empty if the PPD does
+    /// not have the option.
     QByteArray defaultChoice(const QByteArray &keyword) const;
-    /// What is marked, in the PPD's order: for most options one choice, or none where the PPD's default is
-    /// no choice that it has.
+    /// The marked choices in the order of the PPD. Most options have one; an option without a valid default
+    /// may have none.
     std::vector<QByteArray> markedChoices(const QByteArray &keyword) const;
-    /// The UIConstraints, NonUIConstraints and cupsUIConstraints, in the PPD's order, whether or not it has
-    /// the options and choices that they name.
+    /// The UIConstraints, NonUIConstraints and cupsUIConstraints. Constraints are returned even if the PPD
+    /// does not have their options and choices.
     std::vector<PpdConstraint> constraints() const;
 
 private:
     const PpdFile &m_ppd;
 };
 
-/// The free choice with these values as a job carries it: "Custom.VALUE", or "{Name=VALUE Name=VALUE}" for
-/// several parameters and for texts with characters that have a meaning to servers. Lengths in millimetres.
+/// Returns the custom value that these parameters form, as a job contains it: "Custom.VALUE", or "{Name=VALUE
+/// Name=VALUE}" for several parameters and for texts with characters that servers interpret. Lengths are
+/// written in millimetres.
 QByteArray freeChoiceValue(const std::vector<PpdParameter> &parameters);
 
 } // namespace host

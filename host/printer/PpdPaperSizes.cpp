@@ -12,8 +12,8 @@ namespace host {
 
 namespace {
 
-/// The numbers of a value such as "68.03 170.08", as exact as libcups keeps them, so that a size is the same
-/// wherever it is read. Nothing that stands behind them matters.
+/// Parses the numbers of a value such as "68.03 170.08", with the precision of libcups (float), so that a
+/// size is the same wherever it is read. Text after the last number is ignored.
 QList<double> numbers(std::string_view value)
 {
     const QByteArray words(value.data(), static_cast<qsizetype>(value.size()));
@@ -21,7 +21,7 @@ QList<double> numbers(std::string_view value)
     for (const QByteArray &word : words.simplified().split(' ')) {
         bool isNumber = false;
         const float number = word.toFloat(&isNumber);
-        // A number that is too large for a float is infinity to libcups.
+        // libcups reads a number that exceeds the range of float as infinity.
         if (!isNumber && !qIsInf(number))
             break;
         numbers.append(double{number});
@@ -51,7 +51,7 @@ bool PpdPaperSizes::isUsable(const QSizeF &size)
     constexpr double pointsPerMetre = 1000.0 * pointsPerMillimetre;
     const double shortSide = qMin(size.width(), size.height());
     const double longSide = qMax(size.width(), size.height());
-    // Comparisons with NaN are false.
+    // Every comparison with NaN is false, so NaN is not usable.
     return size.width() > 0.0 && size.height() > 0.0 && shortSide <= maxShortSide * pointsPerMetre &&
            longSide <= maxLongSide * pointsPerMetre;
 }

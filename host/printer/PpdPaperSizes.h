@@ -11,33 +11,34 @@
 
 namespace host {
 
-/// The sizes of a PPD's papers, from statements such as *PaperDimension W24H60/Tape: "68 170". Under exact
-/// names: libcups takes papers whose names differ only in the case of letters for one, and keeps one size for
-/// all.
+/// The sizes and margins of a PPD's papers, from statements such as *PaperDimension W24H60/Tape: "68 170".
+/// Names are exact: libcups treats papers whose names differ only in case as one, and keeps one size for all
+/// of them.
 class PpdPaperSizes {
 public:
-    /// Takes a statement up to its colon, asterisk included, with its value without quotes; one that is of
-    /// something else is passed over.
+    /// Adds a statement, given as its text up to the colon, including the asterisk, and its value without
+    /// quotes. Ignores statements of other kinds.
     void addStatement(std::string_view statement, std::string_view value);
 
-    /// The largest paper, in metres: longer than any roll of labels or of continuous paper, and as wide as
-    /// the widest printers. To draw such a paper takes a moment; one of a million kilometres takes all
-    /// memory.
+    /// The maximum size of a paper, in metres: longer than any roll of labels or of continuous paper, and as
+    /// wide as the widest printers. Drawing such a paper takes a moment; a paper of a million kilometres
+    /// would use up all memory.
     static constexpr double maxLongSide = 100.0;
     static constexpr double maxShortSide = 5.0;
-    /// Whether width and length, in points, are numbers above 0 and within the largest paper, either way
-    /// round.
+    /// Returns whether width and length, in points, are numbers greater than 0 and within the maximum size in
+    /// either orientation.
     static bool isUsable(const QSizeF &size);
 
-    /// Width and length in points; nothing when the PPD has none, or one that is not usable.
+    /// Width and length in points; absent if the PPD does not state a size or the size is not usable.
     std::optional<QSizeF> size(const QByteArray &paper) const;
-    /// The size that the PPD has in place of a usable one; nothing when the size is usable or unknown.
+    /// The size that the PPD states if it is not usable, in points; absent if the size is usable or missing.
     std::optional<QSizeF> unusableSize(const QByteArray &paper) const;
-    /// What the printer cannot reach at each edge, in points; nothing when the PPD does not tell.
+    /// The unprintable margins, in points; absent if the PPD does not state a valid printable area or the
+    /// size is not usable.
     std::optional<QMarginsF> margins(const QByteArray &paper) const;
 
 private:
-    /// What it can reach.
+    /// The printable area, in points from the lower left corner.
     struct Area {
         double left;
         double bottom;

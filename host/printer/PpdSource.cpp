@@ -57,7 +57,8 @@ PpdError damaged(const QString &path)
                    PpdSourceText::tr("it is damaged or incomplete: it cannot be unpacked to its end"));
 }
 
-/// The length of the text that a gzip file says it holds, in its last four bytes; nothing for a plain file.
+/// Returns the length of the uncompressed text that a gzip file states in its last four bytes (RFC 1952);
+/// absent for a plain file.
 std::optional<quint32> gzipLength(int descriptor, off_t size)
 {
     std::array<unsigned char, 4> bytes = {};
@@ -78,7 +79,7 @@ PpdSource::PpdSource(QString path, cups_file_t *file)
 
 Result<PpdSource, PpdError> PpdSource::open(const QString &path, qint64 largestText)
 {
-    // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
+    // Without O_NONBLOCK, opening a pipe would block until another process opens it for writing.
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
     if (descriptor < 0)
@@ -123,7 +124,7 @@ Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)
     std::vector<char> piece(16384);
     qint64 length = 0;
     ssize_t read = 0;
-    // libcups answers -1 both for the end of a file and for a stream that cannot be unpacked.
+    // cupsFileRead() returns -1 both at the end of a file and for a stream that cannot be decompressed.
     errno = 0;
     while ((read = cupsFileRead(m_file.get(), piece.data(), piece.size())) > 0) {
         m_text.add({piece.data(), static_cast<std::size_t>(read)});
@@ -145,7 +146,7 @@ Result<PpdHandle, PpdError> PpdSource::parse()
         const ppd_status_t status = ppdLastError(&line);
         return failureAtLine(PpdFailure::NotAPpd, m_path, line, QString::fromUtf8(ppdErrorString(status)));
     }
-    // After libcups, whose reason says more when the file is no PPD at all.
+    // Checked after ppdOpen2(), whose error is more specific if the file is not a PPD.
     if (m_text.isInsideValue())
         return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
                              PpdSourceText::tr("it ends in the middle of a value; the file is incomplete"));

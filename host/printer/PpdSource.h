@@ -9,18 +9,19 @@
 
 namespace host {
 
-/// The file that a PPD is read from: opened once, looked through in bounded memory, then handed to libcups
-/// from the same descriptor, so that a file replaced meanwhile cannot slip past the checks.
+/// The file from which a PPD is read. It is opened once, checked in bounded memory and then passed to libcups
+/// with the same descriptor, so that replacing the file meanwhile cannot circumvent the checks.
 class PpdSource {
 public:
-    /// Opens the file and checks that it is one, that its text (unpacked) is no larger than largestText
-    /// bytes and has no more statements than PpdCounts allows, and that it does not end too early.
+    /// Opens the file and checks that it is a regular file, that its uncompressed text has at most
+    /// largestText bytes and no more statements than PpdCounts allows, and that compressed data is complete.
     static Result<PpdSource, PpdError> open(const QString &path, qint64 largestText);
 
-    /// Has libcups read it.
+    /// Parses the file with libcups. Also reports an error if the text ends inside a value. Must be called
+    /// only once.
     Result<PpdHandle, PpdError> parse();
 
-    /// What the text told on its way.
+    /// What was collected while the text was checked.
     const PpdText &text() const { return m_text; }
 
 private:

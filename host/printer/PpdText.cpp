@@ -5,9 +5,9 @@ namespace host {
 
 namespace {
 
-/// libcups refuses lines that are longer than this before their value.
+/// libcups rejects lines whose part before the value is longer than this.
 constexpr std::size_t longestHead = 255;
-/// Longer than four numbers.
+/// Sufficient for four numbers, the longest value that is parsed.
 constexpr std::size_t longestValue = 255;
 
 } // namespace
@@ -26,14 +26,14 @@ void PpdText::finish()
 
 void PpdText::addCharacter(char character)
 {
-    // Lines end in LF, CR or both, as the computer had it that wrote the file.
+    // Lines end with LF, CR or CR LF, depending on the system on which the file was written.
     const bool secondHalf = character == '\n' && m_previous == '\r';
     m_previous = character;
     if (secondHalf)
         return;
     if (character == '\n' || character == '\r') {
         ++m_line;
-        // A quoted value may run over many lines.
+        // A quoted value may span several lines.
         if (!m_quoted)
             endLine();
         return;
@@ -58,7 +58,7 @@ void PpdText::endLine()
 {
     if (m_head.starts_with('*') && !m_head.starts_with("*%"))
         m_counts.addStatement(m_head);
-    // More than the maximum is only counted, not kept.
+    // Statements beyond the maximum are counted, but not stored.
     if (m_colon && !m_counts.isFull()) {
         m_translations.addStatement(m_head);
         m_paperSizes.addStatement(m_head, m_value);

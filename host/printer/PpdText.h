@@ -10,29 +10,29 @@
 
 namespace host {
 
-/// Follows the text of a PPD, piece by piece, for what libcups does not tell.
+/// Scans the text of a PPD, piece by piece, for what libcups does not provide.
 ///
-/// It reports whether the text may end where it does: libcups takes a file that ends inside a value for a
-/// whole one, so a half-downloaded PPD would open with options missing. It collects the translations: libcups
-/// keeps those of one language only, the one of the process's locale, which need not be the one that the
-/// dialog is shown in. It collects the sizes of papers by their exact names, which libcups does not keep
-/// apart. And it counts the statements that libcups takes long for.
+/// It reports whether the text ends inside a value: libcups accepts such a file as complete, so a partially
+/// downloaded PPD would open with options missing. It collects the translations: libcups keeps those of one
+/// language only, that of the locale of the process, which may differ from the language of the dialog. It
+/// collects the sizes of papers by their exact names, which libcups does not distinguish. And it counts the
+/// statements that take libcups long to read.
 class PpdText {
 public:
-    /// The next piece; pieces may break anywhere.
+    /// Scans the next piece of the text. Pieces may be divided at any byte.
     void add(std::string_view piece);
-    /// There is nothing more.
+    /// Must be called after the last piece.
     void finish();
 
-    /// The line reached, counted from 1.
+    /// The number of the current line, counted from 1.
     int line() const { return m_line; }
-    /// Inside a quoted value.
+    /// Whether the current position is inside a quoted value.
     bool isInsideValue() const { return m_quoted; }
-    /// The statements met so far.
+    /// The numbers of statements scanned so far.
     const PpdCounts &counts() const { return m_counts; }
-    /// The translations met so far.
+    /// The translations scanned so far.
     const PpdTranslations &translations() const { return m_translations; }
-    /// The sizes of papers met so far.
+    /// The paper sizes scanned so far.
     const PpdPaperSizes &paperSizes() const { return m_paperSizes; }
 
 private:
@@ -44,9 +44,9 @@ private:
     char m_previous = 0;
     bool m_colon = false;
     bool m_quoted = false;
-    /// The line up to its colon, as far as libcups would read it.
+    /// The line up to its colon, up to the length that libcups reads.
     std::string m_head;
-    /// What follows the colon, without quotes, as far as any value that is looked into.
+    /// The value after the colon, without quotes, up to the length that is parsed.
     std::string m_value;
     PpdCounts m_counts;
     PpdTranslations m_translations;

@@ -15,14 +15,16 @@ bool isLetter(char character)
     return std::isalpha(static_cast<unsigned char>(character)) != 0;
 }
 
-/// "de" or "pt_BR": two or three letters, and a country or script after an underscore.
+/// Returns whether the text is a language such as "de" or "pt_BR": two or three letters, optionally followed
+/// by an underscore and a country or script.
 bool isLanguage(std::string_view text)
 {
     const std::string_view language = text.substr(0, text.find('_'));
     return (language.size() == 2 || language.size() == 3) && std::ranges::all_of(language, isLetter);
 }
 
-/// Texts may hold bytes in hexadecimal between angle brackets, as in "Gr<C3B6C39F>e".
+/// Decodes a translation string: PPD 4.3 allows bytes in hexadecimal between angle brackets, as in
+/// "Gr<C3B6C39F>e".
 QByteArray decoded(std::string_view text)
 {
     QByteArray result;
@@ -57,7 +59,8 @@ void PpdTranslations::addStatement(std::string_view statement)
         !isLanguage(statement.substr(1, dot - 1)))
         return;
     const QByteArray text = decoded(statement.substr(slash + 1));
-    // A text in another encoding cannot be told apart from nonsense; the PPD's own text is then shown.
+    // A text in another encoding cannot be distinguished from damaged data. It is skipped, and the
+    // untranslated text of the PPD is shown.
     if (!isUtf8(text))
         return;
     const QByteArray key(statement.data() + 1, static_cast<qsizetype>(slash - 1));

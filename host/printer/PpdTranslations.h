@@ -10,20 +10,21 @@
 
 namespace host {
 
-/// The texts of a PPD in all its languages, from statements such as *de.PageSize W24H60/Band: "" and
+/// The translations of a PPD in all its languages, from statements such as *de.PageSize W24H60/Band: "" and
 /// *pt_BR.Translation KvHalfCut/Meio corte: "".
 class PpdTranslations {
 public:
-    /// Takes a statement up to its colon, asterisk included; one that is no translation is passed over.
+    /// Adds a statement, given as its text up to the colon, including the asterisk. Ignores statements that
+    /// are not translations.
     void addStatement(std::string_view statement);
 
-    /// The text for a choice of an option, or with the keyword "Translation" for the option itself, in the
-    /// language ("pt_BR"), else in the language without its country. Nothing when the PPD has none.
+    /// The text of the choice of an option, or of the option itself with the keyword "Translation", in the
+    /// language ("pt_BR"), otherwise in the language without its country. Absent if the PPD has neither.
     std::optional<QByteArray> text(const QString &language, const QByteArray &keyword,
                                    const QByteArray &choice) const;
 
 private:
-    /// UTF-8 texts by "language.Keyword choice".
+    /// The texts in UTF-8; the keys have the form "language.Keyword choice".
     QHash<QByteArray, QByteArray> m_texts;
 };
 

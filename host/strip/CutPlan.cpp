@@ -8,7 +8,8 @@ namespace host {
 
 namespace {
 
-/// What follows the label at the position, counted from 0, of so many.
+/// Returns what the printer does after the label at this position, counted from 0. The count is the number of
+/// labels of the job.
 LabelEnd labelEnd(const CutSettings &settings, std::size_t position, std::size_t count)
 {
     LabelEnd end;

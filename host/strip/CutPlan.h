@@ -13,13 +13,13 @@ namespace host {
 
 /// What the printer does to the tape after a label.
 struct LabelEnd {
-    /// Cut through tape and backing.
+    /// Cuts through tape and backing.
     bool fullCut = false;
-    /// Cut through the label layer only; the backing holds the strip together.
+    /// Cuts through the label layer only; the backing holds the strip together.
     bool halfCut = false;
-    /// A printed line to cut along by hand.
+    /// Prints a line along which the user can cut by hand.
     bool cutMark = false;
-    /// The end stays in the printer, and the next job goes on from here.
+    /// Keeps the end of the tape in the printer; the next job continues there.
     bool held = false;
 
     bool operator==(const LabelEnd &) const = default;
@@ -29,24 +29,28 @@ struct LabelEnd {
 struct PlannedLabel {
     /// The document's page, counted from 0.
     int page = 0;
-    /// Along the tape, in millimetres, after blank is taken off.
+    /// The length along the tape, in millimetres, after blank tape has been removed.
     double length = 0.0;
-    /// What was taken off before the label's first mark, in millimetres.
+    /// The length of the blank tape that was removed before the first mark of the label, in millimetres.
     double trimmedBefore = 0.0;
+    /// What follows the label.
     LabelEnd end;
-    /// Whether the length is final: blank that is to be taken off has been measured.
+    /// Whether the length is final: either no blank tape is removed, or it has been measured.
     bool isMeasured = true;
 
     bool operator==(const PlannedLabel &) const = default;
 };
 
-/// What one can take away: the stretch between two full cuts, or an end of the strip.
+/// A piece of the strip: the labels between two full cuts, between a full cut and an end of the strip or,
+/// without full cuts, all labels.
 struct Piece {
+    /// The index of the first label in CutPlan::labels().
     std::size_t firstLabel = 0;
+    /// The number of labels in the piece, at least 1.
     std::size_t labelCount = 0;
-    /// In millimetres.
+    /// The length along the tape, in millimetres.
     double length = 0.0;
-    /// Its end is still in the printer.
+    /// Whether the end of the piece stays in the printer.
     bool held = false;
     /// Whether the lengths of all its labels are final.
     bool isMeasured = true;
@@ -54,27 +58,30 @@ struct Piece {
     bool operator==(const Piece &) const = default;
 };
 
-/// How a job comes out of the printer: its labels in print order, and what happens after each. The one
-/// plan of cuts, from which the preview, the printed strip, the words and the figures are all made.
+/// How a job comes out of the printer: its labels in print order, and what the printer does after each. The
+/// preview, the printed strip, the sentences and the figures are all made from this plan.
 class CutPlan {
 public:
-    /// The plan for the pages in print order. The extents are those of the document's pages; every page
+    /// Makes the plan for the pages in print order. The extents are those of the document's pages; every page
     /// in print order is an index into them. The leading margin, in millimetres, is the tape that the printer
-    /// feeds before its first label; nothing when the printer does not tell.
+    /// feeds before the first label; it is absent if the printer does not report it.
     static CutPlan make(const CutSettings &settings, std::span<const int> pagesInOrder,
                         std::span<const LabelExtent> extents, std::optional<double> leadingMargin);
 
+    /// The settings from which the plan was made.
     const CutSettings &settings() const { return m_settings; }
+    /// The labels in print order, and the pieces in the order in which they leave the printer.
     const std::vector<PlannedLabel> &labels() const { return m_labels; }
     const std::vector<Piece> &pieces() const { return m_pieces; }
+    /// The tape that is fed before the first label, in millimetres; absent if the printer does not report it.
     const std::optional<double> &leadingMargin() const { return m_leadingMargin; }
-    /// Whether all lengths are final. Until then they are good for drawing only, not for figures.
+    /// Whether all lengths are final. Until then they are suitable for drawing, but not for figures.
     bool isMeasured() const { return m_isMeasured; }
-    /// The labels' lengths together, in millimetres.
+    /// The sum of the lengths of all labels, in millimetres.
     double stripLength() const;
-    /// The tape that the job takes: strip and leading margin, in millimetres.
+    /// The tape that the job uses: strip and leading margin, in millimetres.
     double tapeUsed() const { return stripLength() + m_leadingMargin.value_or(0.0); }
-    /// Whether the end stays in the printer.
+    /// Whether the end of the strip stays in the printer; false without labels.
     bool isEndHeld() const { return !m_labels.empty() && m_labels.back().end.held; }
 
     bool operator==(const CutPlan &) const = default;

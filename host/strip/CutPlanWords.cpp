@@ -36,7 +36,7 @@ QString fullCutSentence(const CutPlan &plan)
         .arg(QLocale().toString(settings.labelsPerCut));
 }
 
-/// Lengths are exact to the hundredth of a millimetre, more would be noise of the conversion from points.
+/// Rounds to a hundredth of a millimetre: further digits only result from the conversion from points.
 double rounded(double millimetres)
 {
     return std::round(millimetres * 100.0) / 100.0;

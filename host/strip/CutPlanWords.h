@@ -9,21 +9,21 @@
 
 namespace host {
 
-/// A length in the user's number format, for instance "36.5 mm".
+/// Returns a length such as "36.5 mm" in the number format of the user's locale, with at most one decimal.
 QString lengthInWords(double millimetres);
 
-/// The tape that the plan takes, or that it is still being measured.
+/// Returns the length of the tape that the plan uses or, until it is final, a text that it is being measured.
 QString tapeInWords(const CutPlan &plan);
 
-/// The plan's figures in one line: labels, pieces, tape.
+/// Returns the figures of the plan in one line: labels, pieces (only if the cut settings are known) and tape.
 QString cutPlanFigures(const CutPlan &plan);
 
-/// What happens to the tape, one sentence each, in the user's language.
+/// Returns a description of what happens to the tape, one sentence per item, in the user's language.
 QStringList cutPlanSentences(const CutPlan &plan);
 
-/// The plan for programs: "labels" (page from 1, length, what follows), "pieces", "tapeUsed" and
-/// "leadingMargin" (null when the printer does not tell); lengths in millimetres, null while they are
-/// measured.
+/// Returns the plan in machine-readable form: "labels" (page counted from 1, length, what follows), "pieces",
+/// "tapeUsed" and "leadingMargin" (null if the printer does not report it). Lengths are in millimetres, and
+/// null until they are measured.
 QJsonObject cutPlanJson(const CutPlan &plan);
 
 } // namespace host

@@ -18,7 +18,8 @@ std::optional<QString> effectiveChoice(const PpdFile &ppd, const RecordedChoices
     return ppd.defaultChoice(keyword);
 }
 
-/// The choices of a switch stand in the order off, on, whatever they are called.
+/// The choices of a switch are listed in the order off, on, whatever their names are. A choice that the PPD
+/// does not list is on if its name is "ON".
 bool isOn(const PpdFile &ppd, const RecordedChoices &recorded, const char *keyword)
 {
     const QString name = QLatin1String(keyword);

@@ -6,31 +6,38 @@
 
 namespace host {
 
-/// How a job's labels are cut and finished, as its option choices say. What the printer's PPD lacks is off.
+/// How the labels of a job are cut and finished, according to its option choices. Settings whose options are
+/// missing in the PPD are off.
 struct CutSettings {
-    /// Full cuts are made by the printer, one after every labelsPerCut labels.
+    /// The printer makes a full cut after every labelsPerCut labels.
     bool automaticCut = false;
-    /// At least 1.
+    /// The number of labels between two automatic cuts, at least 1.
     int labelsPerCut = 1;
+    /// The printer makes a full cut after the last label.
     bool cutAtEnd = false;
+    /// The printer cuts through the label layer, but not the backing, between the labels of a piece.
     bool halfCut = false;
+    /// The end of the strip stays in the printer, and the next job continues there.
     bool chainPrint = false;
-    /// Tape that the cutter must not touch.
+    /// The tape must not be cut by the cutter: the printer makes no cuts and prints no cut marks.
     bool specialTape = false;
+    /// The labels are printed mirrored.
     bool mirror = false;
+    /// Blank tape before and after the printed part of each label is removed.
     bool removeBlank = false;
+    /// A mark is printed after each label that is not followed by a full cut.
     bool cutMark = false;
-    /// False when the PPD has none of these options: such a printer may cut as it likes, and the settings say
-    /// nothing about it.
+    /// False if the PPD has none of these options. Whether such a printer cuts is then unknown, and the other
+    /// members are meaningless.
     bool areKnown = true;
 
-    /// Whether the PPD has any option of these.
+    /// Returns whether the PPD has at least one of these options.
     static bool areKnownTo(const PpdFile &ppd);
 
     bool operator==(const CutSettings &) const = default;
 
-    /// The settings of a job: its recorded choices; where it has none, what is marked in the PPD; where
-    /// nothing is marked, the PPD's default.
+    /// Returns the settings of a job. For each option the recorded choice is used; without one, the choice
+    /// that is marked in the PPD; without a mark, the default of the PPD.
     static CutSettings fromJob(const PpdFile &ppd, const RecordedChoices &recorded);
 };
 

@@ -5,9 +5,10 @@
 
 namespace host {
 
+/// Why output files could not be written.
 enum class OutputFailure {
-    NoFolder, ///< the folder is not there and cannot be made
-    NotWritten,
+    NoFolder,   ///< the folder does not exist and cannot be created, or is not a folder
+    NotWritten, ///< a file cannot be written or put in place
 };
 using OutputError = Failure<OutputFailure>;
 

@@ -28,7 +28,8 @@ OutputFiles::~OutputFiles()
     if (m_done || m_madeFolder.isEmpty())
         return;
     m_files.clear();
-    // Upwards from the innermost; a folder that somebody else has put something in stays.
+    // Removes the created folders from the innermost upwards. A folder that another program has put a file
+    // into is not empty and stays.
     QString folder = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
     while (QDir().rmdir(folder) && folder != m_madeFolder)
         folder = QFileInfo(folder).path();

@@ -10,21 +10,23 @@
 
 namespace host {
 
-/// Several files that appear in a folder together or not at all: each is written beside its place first,
-/// and only when all are whole do they take their places. What platform::OutputFile refuses is refused.
+/// Writes several files to a folder so that either all of them appear there or none. Each file is first
+/// written to a temporary file beside its final path; commit() moves all of them into place once all are
+/// complete. Paths that platform::OutputFile rejects are rejected here, too.
 class OutputFiles {
 public:
-    /// Makes the folder, with those above it, for this user alone when it is not there.
+    /// Creates the folder and its missing parents, accessible to this user only, unless the folder exists. An
+    /// error is reported by commit().
     explicit OutputFiles(QString folder);
-    /// Takes away what was made, unless commit() succeeded.
+    /// Removes all created files and folders unless commit() succeeded.
     ~OutputFiles();
     OutputFiles(const OutputFiles &) = delete;
     OutputFiles &operator=(const OutputFiles &) = delete;
 
-    /// Writes one file with the function, which answers false when the device takes no more. Does nothing
-    /// after a failure.
+    /// Writes one file with the function, which returns false if the device cannot hold the data. Does
+    /// nothing after an earlier error.
     void write(const QString &name, const std::function<bool(QIODevice *)> &writer);
-    /// Puts all files in their places. Nothing when all went well, else the first failure.
+    /// Moves all files into place. Returns std::nullopt on success, otherwise the first error.
     std::optional<OutputError> commit();
 
 private:
@@ -32,7 +34,7 @@ private:
     void fail(OutputFailure kind, const QString &path, const QString &reason);
 
     QString m_folder;
-    /// The topmost folder that was made.
+    /// The topmost folder that was created; empty if the folder existed.
     QString m_madeFolder;
     std::vector<std::unique_ptr<platform::OutputFile>> m_files;
     std::optional<OutputError> m_error;

@@ -7,12 +7,12 @@ namespace host {
 
 namespace {
 
-// In units.
+// All in units of StripLayout::unit().
 constexpr double gapAfterCut = 7.0;
 constexpr double above = 9.0;
 constexpr double below = 9.0;
 constexpr double before = 2.0;
-/// Room for the printer that holds the end, or for a torn end.
+/// Room for the drawing of the printer that holds the end, or of a torn end.
 constexpr double afterEnd = 26.0;
 
 } // namespace

@@ -23,7 +23,7 @@ const QColor halfCutColor(0xc4, 0x6a, 0x00);
 const QColor markColor(0x30, 0x30, 0x30);
 const QColor printerColor(0x5a, 0x62, 0x6c);
 
-/// Scissors that cut downwards at the origin, two units wide and four high.
+/// Draws scissors that cut downwards at the origin, two units wide and four high.
 void paintScissors(QPainter &painter, double unit)
 {
     painter.setPen(QPen(fullCutColor, 0.45 * unit, Qt::SolidLine, Qt::RoundCap));
@@ -34,7 +34,7 @@ void paintScissors(QPainter &painter, double unit)
     painter.drawEllipse(QPointF(1.7, -3.9) * unit, 0.95 * unit, 0.95 * unit);
 }
 
-/// Where the strip ends without a cut: the tape goes on, torn off in the drawing.
+/// Returns the outline of tape that continues after an end without a cut and is drawn torn off.
 QPolygonF tornTape(double x, double width, double top, double bottom)
 {
     QPolygonF outline{QPointF(x, top)};
@@ -112,7 +112,7 @@ void StripPainter::paintBacking(QPainter &painter, double left, double right) co
 
 void StripPainter::paintOutlines(QPainter &painter, double left, double right) const
 {
-    // White tape on white paper would have no ends.
+    // Without outlines, the ends of white tape would be invisible on white paper.
     painter.setPen(QPen(backingColor.darker(150), units(0.18)));
     painter.setBrush(Qt::NoBrush);
     const auto [first, end] = m_layout.piecesBetween(left, right);
@@ -155,7 +155,7 @@ void StripPainter::paintPicture(QPainter &painter, std::size_t index, const QIma
         painter.scale(alongTape ? -1.0 : 1.0, alongTape ? 1.0 : -1.0);
         painter.translate(-label.center());
     }
-    // The whole image, clipped, so that a PDF holds it once however often the label is printed.
+    // Draws the whole image clipped, so that a PDF contains it only once, however often the label is printed.
     const QRectF whole(QPointF(label.left() - planned.trimmedBefore, 0.0), m_renderer.labelSize());
     painter.drawImage(whole, picture);
     painter.restore();
@@ -190,7 +190,7 @@ void StripPainter::paintFullCut(QPainter &painter, double x) const
 
 void StripPainter::paintHalfCut(QPainter &painter, double x) const
 {
-    // The label layer is open, the backing is whole.
+    // The label layer is cut, the backing is not.
     painter.fillRect(QRectF(x - units(0.35), 0.0, units(0.7), m_layout.tapeWidth()), backingColor);
     painter.setPen(QPen(halfCutColor, units(0.3), Qt::DashLine, Qt::FlatCap));
     painter.drawLine(QPointF(x, 0.0), QPointF(x, m_layout.tapeWidth()));
@@ -208,7 +208,7 @@ void StripPainter::paintCutMark(QPainter &painter, double x) const
     pen.setDashPattern({1.0, 1.6});
     painter.setPen(pen);
     painter.drawLine(QPointF(x, 0.0), QPointF(x, m_layout.tapeWidth()));
-    // Ticks at both edges of the tape tell the printed mark from a cut.
+    // Ticks at both edges of the tape distinguish the printed mark from a cut.
     painter.setPen(QPen(markColor, units(0.5), Qt::SolidLine, Qt::FlatCap));
     const double tick = qMin(units(1.8), m_layout.tapeWidth() / 4.0);
     painter.drawLine(QPointF(x, 0.0), QPointF(x, tick));
@@ -282,7 +282,7 @@ void StripPainter::paintPieceLength(QPainter &painter, std::size_t index) const
 void StripPainter::paintText(QPainter &painter, const QRectF &area, const QString &text,
                              const QColor &color) const
 {
-    // Fonts come in whole pixels, so the text is set in the device's own coordinates.
+    // Font sizes are whole pixels, so the text is drawn in device coordinates.
     const QTransform toDevice = painter.transform();
     const QRectF onDevice = toDevice.mapRect(area);
     painter.save();
@@ -291,7 +291,7 @@ void StripPainter::paintText(QPainter &painter, const QRectF &area, const QStrin
     font.setPixelSize(qMax(1, qRound(toDevice.m11() * units(3.2))));
     painter.setFont(font);
     painter.setPen(color);
-    // A length reads as in the text, whichever way the window runs.
+    // The direction follows the text, not the layout direction of the window.
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.drawText(onDevice, Qt::AlignCenter | Qt::TextDontClip, text);
     painter.restore();

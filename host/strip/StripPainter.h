@@ -13,29 +13,31 @@ class QPalette;
 
 namespace host {
 
-/// The colours of what is drawn beside the tape. The tape itself is always the colour of labels.
+/// The colours of everything that is drawn beside the tape. The tape itself always has the colours of labels.
 struct StripColors {
+    /// The colours of important text, of other text and lines, and of the background.
     QColor ink;
     QColor faint;
     QColor background;
 
     /// Black on white, for paper.
     static StripColors forPaper();
-    /// Those of a window.
+    /// The colours of a window with this palette.
     static StripColors forPalette(const QPalette &palette);
 };
 
-/// Draws a strip as it leaves the printer: the labels on their backing, every cut where it happens, the end
-/// that stays in the printer, and each piece's length.
+/// Draws a strip as it leaves the printer: the labels on their backing, every cut at its position, the end
+/// that stays in the printer, and the length of each piece.
 class StripPainter {
 public:
-    /// Layout, renderer and pictures are borrowed. Without pictures, labels are drawn with that many pixels
-    /// a millimetre; with pictures, labels whose picture is not there yet are left white.
+    /// Layout, renderer and pictures are not owned and must outlive the painter. Without pictures, labels are
+    /// rendered with pixelsPerMillimetre; with pictures, labels whose picture is not available yet are left
+    /// white.
     StripPainter(const StripLayout &layout, const LabelRenderer &renderer, const StripColors &colors,
                  double pixelsPerMillimetre, const LabelPictures *pictures = nullptr);
 
-    /// Draws what lies between left and right, in the layout's millimetres, which must be the painter's
-    /// coordinates.
+    /// Draws the part of the strip between left and right. Both are in millimetres of the layout, which must
+    /// be the coordinates of the painter.
     void paint(QPainter &painter, double left, double right) const;
 
 private:

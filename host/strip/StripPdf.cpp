@@ -16,23 +16,23 @@ struct StripPdfText {
     Q_DECLARE_TR_FUNCTIONS(host::StripPdf)
 };
 
-/// Millimetres; a page of a PDF is at most 5080 mm long.
+/// In millimetres. The length of a PDF page is limited to 5080 mm.
 constexpr double longestPage = 5000.0;
 constexpr double shortestPage = 150.0;
 constexpr double margin = 8.0;
 constexpr double lineHeight = 5.0;
 constexpr double unit = 1.0;
-/// Dots an inch for coordinates; and 300 dots an inch for the labels, in pixels a millimetre.
+/// The resolution of coordinates in dots per inch, and that of labels in pixels per millimetre (300 dpi).
 constexpr int coordinateResolution = 1200;
 constexpr double labelResolution = 11.8;
 
-/// A part of the strip that one page shows, from left to right.
+/// The part of the strip that is shown on one page, in millimetres of the layout.
 struct Segment {
     double left;
     double right;
 };
 
-/// Breaks the strip before labels.
+/// Divides the strip into pages. A page always begins at the start of a label.
 std::vector<Segment> segmentsOf(const StripLayout &layout)
 {
     const QRectF bounds = layout.bounds();

@@ -9,19 +9,20 @@ class QIODevice;
 
 namespace host {
 
-/// A strip as it leaves the printer, with what stands above it.
+/// A strip to be written as a PDF, with the texts of its heading.
 struct PrintedStrip {
-    /// Both are borrowed.
+    /// Plan and renderer are not owned.
     const CutPlan &plan;
     const LabelRenderer &renderer;
-    /// For people: what is printed, on which printer, on which paper.
+    /// The names that the heading shows: of the document, of the printer and of the paper.
     QString document;
     QString printer;
     QString paper;
 };
 
-/// Writes the strip as a PDF in its true size: labels, cuts and, above them, what the job is. A strip that is
-/// longer than a PDF page may be continues on the next page. False when the device cannot hold all of it.
+/// Writes the strip to the device as a PDF in its true size: labels and cuts, below a heading that describes
+/// the job. A strip that exceeds the maximum length of a PDF page continues on the next page. Returns false
+/// if the device cannot hold the whole PDF.
 bool writeStripPdf(const PrintedStrip &strip, QIODevice *device);
 
 } // namespace host

@@ -29,7 +29,7 @@ std::optional<OutputError> VirtualPrinter::print(const PrintedStrip &strip, cons
     });
     if (!dialog.isNull())
         files.write(dialogName, [&](QIODevice *device) { return QImageWriter(device, "png").write(dialog); });
-    // From here on files appear in the folder, one by one.
+    // commit() moves the files into the folder one by one, so from here on some may exist.
     OutOfMemory::setJobProgress(JobProgress::Underway);
     std::optional<OutputError> error = files.commit();
     OutOfMemory::setJobProgress(error ? JobProgress::Nothing : JobProgress::Printed);

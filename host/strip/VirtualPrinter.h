@@ -9,23 +9,25 @@
 
 namespace host {
 
-/// The printer that needs no print server: its output is a folder with the label strip as a PDF and the
-/// job's options as JSON.
+/// A printer without a print server: it writes the label strip as a PDF and the options of the job as JSON to
+/// a folder.
 class VirtualPrinter {
 public:
-    /// The names of what it writes.
+    /// The names of the files in the folder: the strip, the options of the job, and the picture of the
+    /// dialog.
     static const QString stripName;
     static const QString jobName;
     static const QString dialogName;
 
-    /// Prints the strip and the job's options, for programs, into the folder, which is made when it is not
-    /// there. Files and folder are for this user alone. A picture of the dialog is put beside the strip
-    /// unless it is null. Either all files are there afterwards or, as far as the file system permits, none
-    /// of them is, nor a folder that was made for them.
+    /// Writes the strip and the machine-readable options of the job to the folder, which is created if it
+    /// does not exist. Files and folder are accessible to this user only. A picture of the dialog is written,
+    /// too, unless it is null. Returns std::nullopt if all files are written; otherwise the error, and, as
+    /// far as the file system permits, neither files nor folders that this call created remain.
     static std::optional<OutputError> print(const PrintedStrip &strip, const QJsonObject &job,
                                             const QImage &dialog, const QString &folder);
 
-    /// A folder of its own for one job, named after the time, among the user's data. Not made yet.
+    /// Returns the path of an unused folder for one job, named after the current time, below the user's data
+    /// folder. The folder is not created.
     static QString freshFolder();
 };
 
