@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// A command line, its arguments ended by NUL as the system hands them over. A refusal has words.
+// A command line, its arguments terminated by NUL as the system passes them. Every error has a message.
 #include <programs/kvprint/CommandParser.h>
 
 #include <cstdint>

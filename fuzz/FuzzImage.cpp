@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What PNGs and JPEGs say beside their pixels. The first byte of each signature decides which reader has
-// something to do; both get all bytes.
+// The metadata of PNGs and JPEGs. The first byte of each signature decides which reader parses the data; both
+// receive all bytes.
 #include <host/documents/ImageFacts.h>
 
 #include <cstdint>

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <cstring>
 
-/// A fuzzer's bytes, taken from the front. Past the end everything is zero.
+/// A fuzzer's bytes, read from the front. Past the end, all bytes are zero.
 class FuzzInput {
 public:
     FuzzInput(const std::uint8_t *data, std::size_t size)

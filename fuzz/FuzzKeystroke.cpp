@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// Holds the formatter's check of one edit against the plain reference, with settings and texts taken from
-// the fuzzer's bytes: style, length limit, bounds, which of them are in force, the two places, the
-// lengths of the original and of the refused text, then the texts in UTF-16.
+// Compares the formatter's check of one edit with the plain reference, with settings and texts read from the
+// fuzzer's bytes: style, length limit, bounds, which of them are in force, the two places, the lengths of the
+// original and of the rejected text, then the texts in UTF-16.
 #include "FuzzInput.h"
 
 #include <KeystrokeReference.h>

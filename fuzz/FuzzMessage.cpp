@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Fills a format string that nobody has checked from arguments of random kinds: their number, each one's
-// kind and value, then the format in UTF-8.
+// Formats an unchecked format string with arguments of random kinds: their number, each one's kind and value,
+// then the format in UTF-8.
 #include "FuzzInput.h"
 
 #include <platform/FormatString.h>

@@ -7,8 +7,8 @@
 #include <mutex>
 #include <thread>
 
-/// A print server, on a local socket, that answers whatever it is asked with the same bytes and closes the
-/// connection. It lasts as long as the program.
+/// A print server on a local socket that answers every request with the same bytes and closes the connection.
+/// It lasts as long as the program.
 class FuzzServer {
 public:
     FuzzServer();

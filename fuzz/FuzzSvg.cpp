@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// An SVG from a user's folder or a page of the web: what is handed to the drawing code is well-formed, has no
+// An SVG from a user's folder or a page of the web: what is passed to the drawing code is well-formed, has no
 // document type, and passes the same check again.
 #include <host/documents/SvgLengths.h>
 #include <host/documents/SvgSource.h>

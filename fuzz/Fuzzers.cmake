@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
-# What is fuzzed: everything that is read from outside. kv_fuzzer(NAME SOURCES ... USES ... NEEDS ...) is
-# defined by who includes this file, as a libFuzzer program or as a test that replays the corpus.
+# The fuzzers: one for each kind of input from outside. kv_fuzzer(NAME SOURCES ... USES ... NEEDS ...) is
+# defined by the file that includes this one, as a libFuzzer program or as a test that replays the corpus.
 kv_fuzzer(answer
     SOURCES FuzzAnswer.cpp FuzzServer.cpp
     USES host/cups/jobs)

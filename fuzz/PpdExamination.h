@@ -3,7 +3,7 @@
 
 #include <QByteArray>
 
-/// Opens the text as a PPD and does with it all that the dialog does: its texts in two languages, papers,
-/// options with their parameters, marks, conflicts and their remedy. Ends the program when the answers
-/// contradict each other. A text that is refused is refused with words.
+/// Opens the text as a PPD and performs all operations of the dialog on it: texts in two languages, papers,
+/// options with their parameters, marks, conflicts and their resolution. Ends the program when the results
+/// contradict each other, or when the text is rejected without an error message.
 void examinePpd(const QByteArray &text);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// How fast the print dialog opens, and how much memory it takes, side by side with other dialogs on the
-// same queue. bench/README.md tells what is measured and how.
+// How fast the print dialog opens, and how much memory it takes, side by side with other dialogs on the same
+// queue. bench/README.md describes what is measured and how.
 #include "DisplayServer.h"
 #include "Measurement.h"
 #include "Report.h"
@@ -176,7 +176,7 @@ QImage Bench::picture(const char *name, const QString &destination, bool hasEmpt
 
 void Bench::prepareKvprint()
 {
-    // The other window proves that the pictures tell whether the panel is there.
+    // The other window proves that the pictures differ when the panel is missing.
     m_cupsd.addQueue(plainQueue(), plainPpd());
     const QImage plain = picture("without-panel", plainQueue());
     m_cupsd.removeQueue(plainQueue());
@@ -252,7 +252,7 @@ void Bench::planEmptyCache()
 
 std::vector<Measurement> &Bench::measure()
 {
-    // In turn, so that whatever else the machine does hits all alike.
+    // Interleaved, so that other load of the machine affects all measurements equally.
     for (int round = 0; round <= m_settings.runs; ++round) {
         for (Measurement &measurement : m_measurements) {
             const bool isWarmUp = round == 0;

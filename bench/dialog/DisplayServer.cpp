@@ -10,7 +10,7 @@ DisplayServer::DisplayServer()
 {
     constexpr int mostMilliseconds = 10000;
     m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-    // It chooses a free number itself and tells it when it is ready.
+    // Xvfb chooses a free number and prints it when it is ready.
     m_process.start(QStringLiteral("Xvfb"),
                     {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                      QStringLiteral("0"), QStringLiteral("1600x1200x24"), QStringLiteral("-nolisten"),

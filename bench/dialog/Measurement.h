@@ -9,36 +9,36 @@
 
 namespace bench {
 
-/// One line of the results: a program that is opened again and again under the same conditions.
+/// One row of the results: a program that is opened repeatedly under the same conditions.
 struct Measurement {
     QString program;
-    /// The print server's manner and what else is particular: "fast", "slow, empty cache".
+    /// The behavior of the print server and other conditions: "fast", "slow, empty cache".
     QString conditions;
     int queues = 1;
     QStringList command;
     /// For CUPS_SERVER.
     QByteArray server;
     int runs = 0;
-    /// A run that only fills the machine's caches goes before the others.
+    /// A first run that only fills the machine's caches precedes the measured runs.
     bool warmsUp = true;
-    /// The program finds nothing that it has kept of earlier runs.
+    /// The program starts without the files of earlier runs.
     bool hasEmptyCache = false;
-    /// How long a window is waited for.
+    /// The timeout for the window.
     std::chrono::milliseconds patience{30000};
-    /// The window with the panel on show; a null image for a program that has none to be watched.
+    /// The window with the panel visible; a null image for a program without a panel.
     QImage complete;
-    /// How long the panel is waited for after the first painting.
+    /// The timeout for the panel after the first painting.
     std::chrono::milliseconds panelPatience{0};
 
     /// Milliseconds from the program's start to its first painted window.
     std::vector<double> painted;
     /// To the first painting with the panel.
     std::vector<double> panelPainted;
-    /// Milliseconds that the main thread has kept a processor busy until then.
+    /// Processor time of the main thread until then, in milliseconds.
     std::vector<double> busy;
     /// The program's peak memory in MiB, a moment after the first painting.
     std::vector<double> memory;
-    /// Runs that have shown no window, and no panel, within the patience.
+    /// Runs that have shown no window, or no panel, within the timeout.
     int withoutWindow = 0;
     int withoutPanel = 0;
 };
@@ -56,16 +56,16 @@ public:
 
     /// One run; the result is added unless the run is to warm up.
     void run(Measurement &measurement, bool isWarmUp);
-    /// Opens the program and answers its window when it has been left alone for a while; a null image
-    /// when there was no window. With the cache of earlier openings or without.
+    /// Opens the program and returns its window after it has settled; a null image when there was no window.
+    /// Runs with or without the cache of earlier openings.
     QImage settledPicture(const QStringList &command, const QByteArray &server, bool hasEmptyCache = false);
-    /// Opens the program until it keeps files of both the queues and the queue's PPD; false if it does not.
+    /// Opens the program until it has cached both the list of queues and the queue's PPD; false on failure.
     bool fillCache(const QStringList &command, const QByteArray &server);
 
 private:
     QString cacheFolder() const { return m_folder + QStringLiteral("/cache"); }
     QString emptyCacheFolder() const { return m_folder + QStringLiteral("/empty-cache"); }
-    /// Without the cache, what the last program without it has kept is thrown away.
+    /// Without the cache, removes the files of the last program without it.
     QList<QByteArray> environment(const QByteArray &server, bool hasEmptyCache) const;
     QString output() const { return m_folder + QStringLiteral("/output"); }
     void notePanel(Measurement &measurement, const WindowWatch::Painting &first, Clock::time_point start);

@@ -21,12 +21,12 @@ public:
 
     /// Taken just before the program was started.
     Clock::time_point start() const { return m_start; }
-    /// The most memory the program has had in use so far, in KiB; 0 when it has ended. The number is the
-    /// program's own: that of wait4() would count the bench's memory too, as the child has it before exec.
+    /// The peak memory of the program so far, in KiB; 0 when it has ended. The number is the program's own:
+    /// that of wait4() would count the bench's memory too, as the child has it before exec.
     qint64 peakMemory() const;
 
-    /// Milliseconds that the program's main thread has kept a processor busy so far; hardly changed by what
-    /// else the machine does.
+    /// The processor time of the program's main thread so far, in milliseconds; other load of the machine
+    /// hardly changes it.
     double processorTime() const;
 
 private:

@@ -7,11 +7,11 @@
 
 namespace bench {
 
-/// What two measurements of the same run are to each other, and what is aimed at.
+/// The ratio of two measurements of the same run, and its target.
 struct Ratio {
     QString name;
     double value = 0.0;
-    /// The most that is good; nothing for a ratio that is only told.
+    /// The max value that meets the target; absent for a ratio that is only reported.
     std::optional<double> target;
 
     bool isMet() const { return !target || value <= *target; }

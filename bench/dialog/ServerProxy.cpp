@@ -12,7 +12,7 @@ namespace bench {
 
 namespace {
 
-/// How often the threads look whether they are to end.
+/// The interval at which the threads check whether to end.
 constexpr int stopMilliseconds = 100;
 
 sockaddr_in loopback(quint16 port)
@@ -24,7 +24,7 @@ sockaddr_in loopback(quint16 port)
     return address;
 }
 
-/// Passes on what is there; false at the end of the connection.
+/// Forwards the available data; false at the end of the connection.
 bool pass(int from, int to)
 {
     std::array<char, 65536> buffer{};

@@ -10,14 +10,14 @@
 
 namespace bench {
 
-/// A print server that is slow or says nothing: passes connections on to a real one. On a port of the
-/// loopback interface; serves until the object ends.
+/// A print server that is slow or silent: forwards connections to a real one. On a port of the loopback
+/// interface; serves until the object ends.
 class ServerProxy {
 public:
     enum class Manner {
         Prompt, ///< as the real server
         Slow,   ///< every answer begins late
-        Silent, ///< takes connections and requests and never answers
+        Silent, ///< accepts connections and requests and never answers
     };
 
     /// lateness is what Manner::Slow adds to each answer.

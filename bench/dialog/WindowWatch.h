@@ -27,7 +27,7 @@ public:
         QImage picture;
     };
 
-    /// Connects to the display; isValid() tells whether that succeeded.
+    /// Connects to the display; isValid() returns whether that succeeded.
     explicit WindowWatch(const QByteArray &display);
     ~WindowWatch();
     WindowWatch(const WindowWatch &) = delete;
@@ -35,8 +35,8 @@ public:
 
     bool isValid() const { return m_hasDamage; }
 
-    /// Waits until a window shows a picture that is accepted; nothing when none did until then.
-    /// Windows smaller than 100 pixels and those without a frame (menus) do not count.
+    /// Waits until a window shows a picture that is accepted; absent when none did until then. Windows
+    /// smaller than 100 pixels and those without a frame (menus) do not count.
     std::optional<Painting> waitForPainting(Clock::time_point end,
                                             const std::function<bool(const QImage &)> &accept);
     /// Waits until no window is left and forgets all drawing; false when one remains.
@@ -51,7 +51,7 @@ private:
     template<typename Type>
     using Owned = std::unique_ptr<Type, Free>;
 
-    /// Takes all events that are there; false when there were none until then.
+    /// Processes all pending events; false when none arrived until then.
     bool takeEvents(Clock::time_point end);
     void takeEvent(const void *event);
     bool isShown(const QRect &area) const;

@@ -30,7 +30,7 @@ void openWithOptions(benchmark::State &state)
         benchmark::DoNotOptimize(openPpd(sandbox, text));
     state.SetComplexityN(state.range(0));
 }
-// The largest has the two options of the paper, too.
+// The largest PPD also has the two options of the paper.
 BENCHMARK(openWithOptions)
     ->ArgName("options")
     ->Arg(625)

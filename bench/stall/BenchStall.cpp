@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// For how long the print dialog's event loop does not answer, in everything that might hold it up. See
+// For how long the print dialog's event loop does not respond, in all situations that might block it. See
 // bench/README.md.
 #include "StallScenarios.h"
 #include "TimedApplication.h"
@@ -15,7 +15,7 @@ namespace {
 using bench::StallScenarios;
 using Duration = StallScenarios::Duration;
 
-/// For one event. What a user takes for smooth: one picture of a screen that shows 60 in a second.
+/// The limit for one event: one frame of a screen with 60 frames per second, which users perceive as smooth.
 constexpr Duration limit{16};
 
 struct Row {
@@ -59,7 +59,7 @@ Duration median(std::vector<Duration> values)
     return values[values.size() / 2];
 }
 
-/// Prints the rows and answers whether all keep the limit.
+/// Prints the rows and returns whether all are within the limit.
 bool report(const std::vector<Row> &measured)
 {
     const Duration baseline = median(measured.front().unanswered);
@@ -91,7 +91,7 @@ int main(int argc, char **argv)
     std::vector<Row> measured = rows();
     StallScenarios::startServer();
     StallScenarios scenarios;
-    // In turn, so that whatever else the machine does hits all alike; the first round only warms up.
+    // Interleaved, so that other load of the machine affects all alike; the first round only warms up.
     for (int round = 0; round <= runs; ++round) {
         for (Row &row : measured) {
             application.takeLongest();

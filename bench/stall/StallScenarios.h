@@ -8,9 +8,9 @@
 
 namespace bench {
 
-/// What happens around an open print dialog that might hold up its window: servers that are silent, slow,
-/// gone or refuse a job, and queues, PPDs and documents that are large. Each scenario answers for how long
-/// the event loop did not answer at the longest.
+/// Situations that might block the window of an open print dialog: servers that are silent, slow, unreachable
+/// or reject a job, and queues, PPDs and documents that are large. Each scenario returns the max time during
+/// which the event loop did not respond.
 class StallScenarios : public QueueDialogTest {
 public:
     using Duration = StallWatch::Duration;
@@ -50,7 +50,7 @@ public:
 private:
     void TestBody() override {}
 
-    /// Gives the window as much time as an answer of any scenario's server takes.
+    /// Processes events for as long as an answer of any scenario's server takes.
     static void linger();
     Duration openOn(const QByteArray &ppd);
     /// Presses "Print", with the server to print to; calls the function while the job is sent.

@@ -44,7 +44,7 @@ QString writeLabels(const Sandbox &sandbox, int count)
     return writePdf(sandbox, QStringLiteral("labels-%1.pdf").arg(count), pages);
 }
 
-/// Labels with one thin bar: without blank, some hundred are in sight.
+/// Labels with one thin bar: without their blank ends, some hundred are visible.
 QString writeThinLabels(const Sandbox &sandbox, int count)
 {
     const SamplePage page{QSizeF(60, 24) * mm, [](QPainter &painter) {

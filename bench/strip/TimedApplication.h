@@ -8,7 +8,7 @@
 
 namespace bench {
 
-/// Measures how long the main thread is busy with one event: for that long, the window does not react.
+/// Measures how long the main thread is busy with one event: during that time, the window does not react.
 class TimedApplication : public QApplication {
 public:
     using Duration = std::chrono::duration<double, std::milli>;
@@ -17,13 +17,12 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override;
 
-    /// Begins anew.
+    /// Resets the measurement.
     void reset() { m_longest = m_busiest = {}; }
     Duration longest() const { return m_longest; }
-    /// The same in time of the processor: what other programs have taken meanwhile does not count, but
-    /// neither does waiting.
+    /// The same in processor time: the time of other programs does not count, but neither does waiting.
     Duration busiest() const { return m_busiest; }
-    /// Which event that was, and whose.
+    /// The type and the receiver of that event.
     const QString &longestName() const { return m_longestName; }
 
 private:

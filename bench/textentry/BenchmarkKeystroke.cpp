@@ -52,7 +52,7 @@ BENCHMARK(checkOfOnePaste)
     ->Range(10, 100000)
     ->Complexity(benchmark::oN);
 
-/// A refused key, which the field takes in and takes back.
+/// A rejected key, which the field inserts and then removes.
 void refusedKeyInAField(benchmark::State &state)
 {
     QLineEdit field;

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# A component is a header and the source beside it of the same name, or one of them alone. No component includes
-# another one that includes it back, directly or through others: each can be read, tested and used with only what it
-# includes. The targets order the rooms; this test looks inside them too.
+# A component is a header and the source beside it of the same name, or one of them alone. No component
+# includes another one that includes it back, directly or through others: each can be read, tested and used
+# with only what it includes. The targets order the rooms; this test also checks the components in them.
 #   check-cycles.sh SOURCE-DIRECTORY
 set -eu
 cd -- "$1"

@@ -1,10 +1,10 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# check-hardening.sh FORTIFIED PROGRAM...: each program and library is built so
-# that a fault in memory ends it instead of running code of somebody else.
+# check-hardening.sh FORTIFIED PROGRAM...: each program and library is built so that a memory error ends it
+# instead of running injected code.
 #
-# FORTIFIED is "fortified" where the calls of the C library are checked, too,
-# "plain" where a sanitizer or a debug build takes their place.
+# FORTIFIED is "fortified" for builds that also check calls of the C library, and "plain" for sanitizer and
+# debug builds.
 set -u
 status=0
 fortified=$1
@@ -36,6 +36,6 @@ for program; do
     printf '%s\n' "$symbols" | grep -q '__stack_chk_fail' || fails "$program" "no -fstack-protector-strong"
     printf '%s\n' "$symbols" | grep -v __stack_chk_fail | grep -q '_chk@' && checked=true
 done
-# Not every program calls a function of the C library that has a checked form.
+# Not every program calls a C library function that has a checked variant.
 [ "$fortified" = plain ] || $checked || fails "$*" "no _FORTIFY_SOURCE in any of them"
 exit $status

@@ -1,6 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# The settings that libcups keeps for a thread are set by host/cups/server/CupsThreadScope.cpp only, which sets them back.
+# Only host/cups/server/CupsThreadScope.cpp sets the settings that libcups keeps for a thread, and restores
+# them.
 #   check-libcups.sh SOURCE-DIRECTORY
 set -eu
 cd -- "$1"
@@ -13,5 +14,5 @@ if [ -n "$failures" ]; then
     echo "$failures"
     exit 1
 fi
-# The words that are looked for are those that are there.
+# The searched names must exist, or the check would find nothing.
 [ "$(grep -cE "$setters" "$owner")" -ge 4 ]

@@ -1,8 +1,8 @@
 #!/bin/sh
 # check-runpath.sh PROGRAM...: each RUNPATH begins with the program's own folder.
 #
-# The dynamic loader reads an empty part of a RUNPATH, and a relative one, from
-# the current folder: a library that lies there would run in the program's name.
+# The dynamic loader reads an empty part of a RUNPATH, and a relative one, from the current folder: a library
+# placed there would run with the program's rights.
 set -u
 status=0
 for program; do

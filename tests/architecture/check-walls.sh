@@ -29,7 +29,7 @@ while read -r room _ uses; do
     while IFS= read -r directory; do
         [ -z "$directory" ] || set -- "$@" -I "$directory"
     done <"$folder/$(echo "$room" | tr / _).dirs"
-    # What is not found stands in the list without a folder of its own.
+    # A header that is not found is in the list without a folder.
     "$compiler" "$@" "$scratch/all.cpp" | tr ' \\' '\n\n' >"$scratch/found"
     while read -r other header; do
         seen=no

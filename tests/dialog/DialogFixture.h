@@ -19,7 +19,7 @@
 
 #include <algorithm>
 
-/// Keeps what the dialog hands over, and fails when it is told to.
+/// Records what the dialog sends, and fails on request.
 class RecordingSender : public dialog::JobSender {
 public:
     void send(const dialog::ReadyJob &job) override
@@ -37,7 +37,7 @@ public:
     }
     void cancel() override { Q_EMIT failed(QString()); }
 
-    /// The option's value in the job that was sent last; empty when it is not sent.
+    /// The option's value in the last job; empty when the option is not sent.
     QByteArray sentOption(const char *name) const
     {
         for (const host::JobOption &option : ticket ? ticket->job.options : std::vector<host::JobOption>()) {
@@ -49,10 +49,10 @@ public:
 
     std::vector<QString> jobs;
     std::optional<host::Ticket> ticket;
-    /// How many labels of the job that was sent last were measured then.
+    /// The number of labels of the last job that were measured when it was sent.
     std::ptrdiff_t measuredCount = 0;
     std::optional<QString> problem;
-    /// The outcome of send() is left to the test.
+    /// The test reports the outcome of send().
     bool isSlow = false;
 };
 

@@ -63,7 +63,7 @@ protected:
         QApplication::processEvents();
     }
 
-    /// Chooses by the keyboard, as a user who does not open the list.
+    /// Chooses with the keyboard, without opening the list.
     static void pick(QComboBox *list, int index)
     {
         list->setFocus();

@@ -11,12 +11,11 @@ namespace dialogwalk {
 /// here.
 class Gestures {
 public:
-    /// Opens the list with the mouse and clicks the row; a row that is greyed leaves everything as it is.
-    /// False then.
+    /// Opens the list with the mouse and clicks the row; a disabled row changes nothing. Returns false then.
     static bool pickRow(QComboBox *list, int row);
     /// Gives the control the focus, as the Tab key does, and presses the key.
     static void pressIn(QWidget *control, Qt::Key key);
-    /// The widget of that accessible name that is to be seen; null when there is none.
+    /// The visible widget with that accessible name; null when there is none.
     template<typename Widget>
     static Widget *visibleNamed(const QWidget *window, const QString &accessibleName)
     {

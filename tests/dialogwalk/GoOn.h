@@ -5,7 +5,8 @@
 
 namespace dialogwalk {
 
-/// Presses the button that goes on, in every question and alert that comes up while the object lives.
+/// Presses the button that continues in every question and alert that appears during the lifetime of the
+/// object.
 class GoOn : public QObject {
 public:
     GoOn();

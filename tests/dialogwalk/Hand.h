@@ -8,7 +8,7 @@
 
 namespace dialogwalk {
 
-/// Does steps in a dialog as a user does them, and notes in the intent what was chosen.
+/// Performs steps in a dialog as a user does, and records in the intent what was chosen.
 class Hand {
 public:
     Hand(WalkedDialog &dialog, Intent &intent)
@@ -17,8 +17,8 @@ public:
     {
     }
 
-    /// Does the step and waits until the dialog shows what follows. Answers what was done with, for a failed
-    /// walk's report; empty when there was nothing to do it with.
+    /// Performs the step and waits until the dialog shows its result. Returns a description of the controls
+    /// used, for the report of a failed walk; empty when there was no control for the step.
     QString perform(const Step &step);
 
     // Single gestures, for tests that choose themselves.
@@ -26,7 +26,7 @@ public:
     void pickPreset(int row);
     void pickPaper(const QByteArray &name);
     void pickQueue(const QString &destination);
-    /// Presses Print and waits until the job is sent. False when it is not.
+    /// Presses Print and waits until the job is sent. Returns false when it is not sent.
     bool print();
 
     /// Jobs that were sent so far.
@@ -51,8 +51,8 @@ private:
     void enter();
     void presetChosen(int tag);
     void boxClicked(const QCheckBox *box, bool wasOn);
-    /// Combinations, and the box that shares automatic cutting, are the user's word about what the paper has
-    /// replaced, too: of these options what the boxes show.
+    /// Records the values that the boxes show for these options: combinations, and the box that shares
+    /// automatic cutting, are also the user's choice for what the paper has replaced.
     void chooseShown(const QStringList &keywords);
     void countChosen(int count);
 

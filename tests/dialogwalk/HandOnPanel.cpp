@@ -95,7 +95,7 @@ QString Hand::onPreset(const Step &step)
     platform::PopUpButton *const presets = m_dialog.panel().presets();
     if (!presets->isEnabled() || presets->count() == 0)
         return {};
-    // Often the one that is set: choosing it changes nothing, and is choosing all the same.
+    // Often the current combination: choosing it changes nothing, but counts as a choice.
     const bool isSame = step.number % 4 == 0 && presets->currentIndex() >= 0;
     int row = isSame ? presets->currentIndex()
                      : static_cast<int>(step.number / 4 % static_cast<std::uint32_t>(presets->count()));

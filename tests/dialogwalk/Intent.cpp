@@ -84,7 +84,7 @@ QString Intent::reasonFor(const WalkedDialog &dialog, const QByteArray &name, co
     const bool isUsers = m_memories.at(m_destination).chosen.contains(name);
     const QString told = dialog.told();
     if (!has(ppd, name)) {
-        // The new description lacks it.
+        // The option is missing in the new description.
         const bool isTold = !isUsers || isDefault(dialog.server(), dialog.destination(), name, wanted) ||
                             told.contains(QString::fromUtf8(name));
         return isTold && !ppd.isEmpty() ? QString()

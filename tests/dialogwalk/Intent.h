@@ -7,25 +7,25 @@
 
 namespace dialogwalk {
 
-/// What the user has chosen, as the test remembers it: for each destination, the options as they were when it
+/// What the user has chosen, as recorded by the test: for each destination, the options as they were when it
 /// came first, and over them the last value that the user gave each.
 class Intent {
 public:
-    /// The destination is in front now, with these options.
+    /// The destination is now the current one, with these options.
     void enter(const QString &destination, const OptionTexts &found);
-    /// The user gives options of the destination in front these values.
+    /// The user sets options of the current destination to these values.
     void choose(const OptionTexts &chosen);
     /// The user sets something for the job on any printer, such as copies.
     void chooseForJob(const QByteArray &name, const QByteArray &value) { m_job[name] = value; }
-    /// Another window is opened: pages and copies begin anew.
+    /// Another window is opened: pages and copies are reset.
     void forgetJob() { m_job.clear(); }
-    /// Another program run: nothing is known of the user.
+    /// The program starts again: all choices of the user are cleared.
     void forget();
 
-    /// Where the job has not what the user chose: a line each. A rule of the panel may have replaced a
-    /// choice, and then a banner has to say so.
+    /// Returns one line for each difference between the job and the user's choices. A rule of the panel may
+    /// have replaced a choice; a banner must then report it.
     QStringList broken(const WalkedDialog &dialog) const;
-    /// The options that a job of these is to have, special tape considered.
+    /// The expected options of a job with these choices, including the rule of special tape.
     OptionTexts wanted() const;
 
 private:
@@ -34,7 +34,7 @@ private:
 
     struct Memory {
         OptionTexts texts;
-        /// What the user has given a value, and not only found.
+        /// The options that the user has set, not only seen.
         std::set<QByteArray> chosen;
     };
     std::map<QString, Memory> m_memories;

@@ -7,7 +7,7 @@ class QComboBox;
 
 namespace dialogwalk {
 
-/// The lists of the page of options: those that are to be seen.
+/// The visible lists of the page of options.
 class OptionLists {
 public:
     explicit OptionLists(const WalkedDialog &dialog)

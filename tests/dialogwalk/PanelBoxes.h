@@ -36,10 +36,9 @@ public:
     QLineEdit *count() const { return m_count; }
     bool hasCount() const;
 
-    /// The option that the box decides; null for the box of the count where automatic cutting has a box of
-    /// its own, which decides then.
+    /// The option that the box sets; null for the box of the count where automatic cutting has its own box.
     static const char *keywordOf(const PanelBoxes &panel, const QCheckBox *box);
-    /// What boxes and count say that the job has. Special tape is not cut, whatever its boxes say.
+    /// The options of the job as boxes and count show them. Special tape is not cut, regardless of its boxes.
     OptionTexts saved() const;
     /// The same without the rule of special tape.
     OptionTexts chosen() const;

@@ -24,7 +24,7 @@ QByteArray plain(const QByteArray &value)
     return value.toLower().replace("-2147483647", "-");
 }
 
-/// The server takes these for itself and hands filters the outcome in another way.
+/// The server processes these itself and passes the result to filters in another way.
 bool isServers(const QByteArray &name)
 {
     return name == "job-hold-until" || name == "job-priority";

@@ -6,12 +6,12 @@
 
 namespace dialogwalk {
 
-/// The options that the filter was given, copies among them.
+/// The options that the filter received, including copies.
 OptionTexts optionsOf(const test_support::RecordedDocument &document);
 
-/// Holds what the server recorded of the jobs to what the dialog showed before Print was pressed: the
+/// Compares what the server recorded of the jobs with what the dialog showed before Print was pressed: the
 /// document's bytes, every option that was shown as sent, and the strip that the printer makes of it. Waits
-/// until all jobs have passed the filters. A line for each departure.
+/// until all jobs have passed the filters. Returns one line for each difference.
 QStringList departuresOnServer(WalkedServer &server, const std::vector<SentJob> &jobs);
 
 } // namespace dialogwalk

@@ -9,11 +9,11 @@ class CutPlan;
 
 namespace dialogwalk {
 
-/// The strip that a plan of cuts and the words about it show.
+/// The strip that a cut plan and its description show.
 ExpectedStrip stripOf(const host::CutPlan &plan, const QString &words);
 
-/// Holds "Labels: 4 · Pieces: 2 · Tape: 120.5 mm" to the strip, the tape within what measuring is uncertain
-/// by. A line for each departure; the place says where the words stand.
+/// Compares "Labels: 4 · Pieces: 2 · Tape: 120.5 mm" with the strip, the tape within the uncertainty of
+/// measuring. Returns one line for each difference; place names where the text is shown.
 QStringList compareFigures(const QString &place, const QString &words, const ExpectedStrip &expected);
 
 } // namespace dialogwalk

@@ -36,7 +36,7 @@ enum class Action {
     Reopen,
 };
 
-/// An action, and a number that picks among what is there to do it with: boxes, papers, pages. The same steps
+/// An action, and a number that selects its object among those present: boxes, papers, pages. The same steps
 /// from the same beginning are the same walk, and every part of them is a walk.
 struct Step {
     Action action = Action::ClickBox;

@@ -31,12 +31,13 @@ public:
 
     /// The options of the job that is shown.
     const OptionTexts &options() const { return m_options; }
-    /// Where the panel's boxes are not those of the job; empty when they are.
+    /// The differences between the panel's boxes and the job; empty when they agree.
     QStringList departures() const;
 
     /// Whether the virtual printer writes its files, or only the value that it would write is made.
     enum class Files { No, Yes };
-    /// Prints. Where what is printed, and the strip that a printer makes of it, is not what was shown.
+    /// Prints. Returns the differences between what was shown and what is printed, including the strip that a
+    /// printer makes of it.
     QStringList print(Files files);
 
 private:

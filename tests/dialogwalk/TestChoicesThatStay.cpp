@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Walks that once lost what was chosen.
+// Walks in which choices were lost before a fix.
 #include "Walk.h"
 
 #include <platform/PopUpButton.h>
@@ -94,7 +94,7 @@ TEST_F(ChoicesThatStay, TheBoxThatSharesTheCutLeavesTheSentence)
     hand.pickPaper("HS12x50");
     const QString sentence = dialog.told();
     ASSERT_TRUE(sentence.contains(QStringLiteral("cannot be"))) << sentence.toStdString();
-    // Automatic cutting has a box of its own, which is off; this one asks once more for what cannot be.
+    // Automatic cutting has a box of its own, which is off; this one requests again what the paper excludes.
     hand.clickBox(QStringLiteral("mCutEveryChkBx"));
     EXPECT_EQ(dialog.options().value("KvAutoTapeCut"), "OFF");
     EXPECT_EQ(dialog.told(), sentence);

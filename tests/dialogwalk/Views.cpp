@@ -18,7 +18,7 @@ namespace dialogwalk {
 
 namespace {
 
-/// Gathers what does not agree.
+/// Collects the differences.
 class Agreement {
 public:
     void hold(const QString &place, const QString &shown, const QString &sent)

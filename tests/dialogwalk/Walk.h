@@ -13,7 +13,7 @@ struct Episode {
     std::vector<Step> steps;
 };
 
-/// What a dialog did that it must not.
+/// A wrong behavior of a dialog.
 struct Fault {
     /// What was done until then, a line for each step.
     QStringList steps;
@@ -22,8 +22,8 @@ struct Fault {
     QString text() const;
 };
 
-/// Runs walks through dialogs. After every step all that the dialog shows is held to what it would send, and
-/// what it would send to what was chosen.
+/// Runs walks through dialogs. After every step, compares what the dialog shows with what it would send, and
+/// what it would send with what was chosen.
 class Walk {
 public:
     explicit Walk(WalkedServer &server)
@@ -32,13 +32,14 @@ public:
     {
     }
 
-    /// Opens the dialog on the episode's printer. A fault when it does not show what it would send.
+    /// Opens the dialog on the episode's printer. Returns a fault when the dialog does not show what it would
+    /// send.
     std::optional<Fault> begin(const QString &destination);
-    /// Goes on by a step.
+    /// Performs the next step.
     std::optional<Fault> go(const Step &step);
     /// The same for an episode from its beginning to its end, the records of the server included.
     std::optional<Fault> run(const Episode &episode);
-    /// Holds what the server has recorded since to what was shown.
+    /// Compares what the server has recorded since with what was shown.
     std::optional<Fault> checkRecords();
 
     /// The steps since the dialog was opened last with nothing known of it.

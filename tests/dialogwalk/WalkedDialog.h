@@ -15,7 +15,7 @@ public:
     explicit WalkedDialog(WalkedServer &server);
     ~WalkedDialog();
 
-    /// Opens a dialog of which nothing is known from before, and waits until the server has told everything.
+    /// Opens a dialog without any saved state and waits until the server has reported everything.
     bool open(const QString &destination);
     /// Opens another window on the printer as it is set up now.
     bool reopenWindow();
@@ -23,7 +23,7 @@ public:
 
     WalkedServer &server() const { return m_server; }
     dialog::PrintDialog &window() const { return *m_window; }
-    /// How often a dialog was opened of which nothing was known.
+    /// The number of dialogs opened without any saved state.
     quint64 openings() const { return m_openings; }
     host::PrinterSetup &setup() const { return *m_keeper->setup(); }
     host::SetupKeeper &keeper() const { return *m_keeper; }
@@ -37,7 +37,7 @@ public:
     bool settle(const QString &destination);
     /// Lets the window show what has changed, and waits for lengths that are being measured.
     bool refresh();
-    /// All that the banners say.
+    /// The texts of all banners.
     QString told() const;
     /// All options of the job as the dialog would send it now.
     OptionTexts options() const;

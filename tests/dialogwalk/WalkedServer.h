@@ -11,7 +11,7 @@
 namespace dialogwalk {
 
 /// The queues that are walked through, on a server of their own, and the document that is printed on them.
-/// There are two descriptions of each queue, of which the second one lacks an option.
+/// Each queue has two descriptions; an option is missing in the second one.
 class WalkedServer {
 public:
     WalkedServer();

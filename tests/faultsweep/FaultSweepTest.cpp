@@ -29,9 +29,9 @@ bool isMoving(const host::JobStatus &job)
            job.state == JobState::Stopped;
 }
 
-/// The server, waited for until a connection has been silent at two looks, which are 0.1 s apart. A server
-/// that is slower only on a busy machine is found silent as well, which leads to another ending that has to
-/// be true.
+/// The server with a timeout that ends when a connection was silent at two checks, 0.1 s apart. A server that
+/// is slow because the machine is busy also counts as silent, which leads to another ending that must be
+/// reported correctly.
 host::CupsServer impatientServerAt(const QString &address)
 {
     static constexpr std::chrono::milliseconds step(500);

@@ -13,7 +13,7 @@
 /// what the server has and has printed.
 class FaultSweepTest : public PrintingTest {
 protected:
-    /// How a job ended, in the user's eyes and on the server.
+    /// How a job ended, as reported to the user and on the server.
     struct Ending {
         Outcome outcome;
         /// The address at which the job was sent.
@@ -39,16 +39,16 @@ protected:
     /// Prints a job of so many documents.
     Ending printThrough(const test_support::ProxyFault &fault, int documents);
 
-    /// What is reported is true: printed once, not printed, or not known.
+    /// Expects that the reported outcome is correct: printed once, not printed, or unknown.
     void expectTruth(const Ending &ending, int documents);
-    /// Nothing is printed twice or in part, whatever the answers say.
+    /// Expects that nothing is printed twice or in part, regardless of the answers.
     void expectNoHalfAndNoDouble(const Ending &ending, int documents) const;
 
     /// Places in the message: its first byte, its end, the borders of its parts, and some at random.
     std::vector<qint64> sampleOf(const test_support::PassedMessage &message);
     int random(int max);
 
-    /// The server at the address, waited for as long as the fault makes sensible.
+    /// The server at the address, with a timeout suitable for the fault.
     static host::CupsServer serverFor(const test_support::ProxyFault &fault, const QString &address);
 
     /// How often each kind of ending was seen, for the report.

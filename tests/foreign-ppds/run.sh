@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# tests/foreign-ppds/run.sh: opens the PPDs of office printers that Debian has, some thousand, as the dialog does, and
-# prints which of them only libcups opens. The exit status is 1 then. The packages are fetched into a temporary folder
-# and not installed; python3 unpacks them.
+# tests/foreign-ppds/run.sh: opens the PPDs of office printers in Debian, some thousand, as the dialog does,
+# and prints those that only libcups opens. In that case the exit status is 1. The packages are fetched into a
+# temporary folder and not installed; python3 unpacks them.
 set -eu
 here=$(CDPATH='' cd -- "$(dirname -- "$0")/../.." && pwd)
 . "$here/tools/frontdoor.sh"
@@ -21,7 +21,7 @@ for archive in "$scratch"/packages/usr/lib/cups/driver/*; do
 done
 
 find "$scratch/ppds" "$scratch/packages/usr/share/ppd" -type f -print0 2>/dev/null >"$scratch/files"
-# A program that crashes says nothing but the names before, and its counts are missing.
+# A program that crashes prints only the names before the crash; its counts are missing.
 xargs -0 -n 200 -P "$(nproc)" sh -c '
     log=$(mktemp "$0/log-XXXXXX")
     "$@" 2>"$log" || [ $? -eq 1 ] || { echo "crashed: $(tail -n 3 "$log")"; }

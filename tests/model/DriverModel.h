@@ -9,8 +9,8 @@
 
 namespace model {
 
-/// Predicts what the panel driver answers: takes the driver's requests, one JSON object each, and gives the
-/// whole reply. An error is predicted as {"ok": false} alone, since its wording is free.
+/// Predicts what the panel driver answers: receives the driver's requests, one JSON object each, and returns
+/// the whole reply. An error is predicted as {"ok": false} alone, since its wording is free.
 class DriverModel {
 public:
     explicit DriverModel(Panel::Localizer localize)
@@ -18,7 +18,7 @@ public:
     {
     }
 
-    /// Tells which printer a PPD file describes; opening any other path fails.
+    /// Registers the printer that a PPD file describes; opening any other path fails.
     void knowPrinter(const QString &path, const PrinterDescription &description);
 
     QJsonObject handle(const QJsonObject &request);

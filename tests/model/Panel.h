@@ -57,11 +57,11 @@ struct Control {
     bool isOn() const { return !hidden && value == 1; }
 };
 
-/// The cut-options panel, retold from what users and dialogs may rely on: plain data, and one function
-/// for each thing that may happen to it. Tests hold the real panel to it.
+/// A model of the cut-options panel, written from the behavior that users and dialogs may rely on: plain
+/// data, and one function for each event. Tests compare the real panel with it.
 class Panel {
 public:
-    /// Answers the text for a key in the panel's catalogue.
+    /// Returns the text for a key in the panel's catalogue.
     using Localizer = std::function<QString(const QString &key)>;
 
     /// The controls once they are loaded.
@@ -75,7 +75,7 @@ public:
         QList<int> presets;
         int selectedPreset = 0;
         int previewY = 0;
-        /// The dialog is told of the new size once the view's tracking areas have been updated.
+        /// The dialog is notified of the new size once the view's tracking areas have been updated.
         bool owesResize = false;
 
         Control &operator[](Row row) { return boxes[static_cast<std::size_t>(row)]; }

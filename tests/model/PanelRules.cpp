@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What may be touched, which preset and which picture describe the boxes.
+// Which controls are enabled, and which preset and picture describe the boxes.
 #include "Panel.h"
 
 namespace model {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the panel hands back to the dialog.
+// What the panel saves to the dialog.
 #include "Panel.h"
 
 #include <algorithm>

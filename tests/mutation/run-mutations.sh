@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# Breaks one rule of the panel after the other and sees that a test fails for each.
+# Breaks the rules of the panel one at a time and checks that a test fails for each.
 #   run-mutations.sh [FOLDER [PATTERN]]
 # Works on a copy of the tree in the folder, so that the sources are never touched; with a pattern, only on the
 # rules that it matches. mutations.txt has a line for each

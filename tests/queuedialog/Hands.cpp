@@ -70,8 +70,7 @@ void Hands::pick(QComboBox *list, const QString &text)
 {
     const int index = list->findText(text);
     ASSERT_GE(index, 0) << text.toStdString();
-    // A list takes no click for as long after the one that opened it as the second half of a double click
-    // may take to come.
+    // A list ignores clicks during the double-click interval after the click that opened it.
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(0);
     click(list);

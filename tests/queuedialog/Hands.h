@@ -8,8 +8,8 @@
 
 using test_support::waitUntil;
 
-/// What a person does with mouse and keys. Everything goes to the window, at the place where the control is
-/// seen: what is covered, disabled or outside gets nothing.
+/// Mouse and key input as from a user. All events are sent to the window at the visible position of the
+/// control: controls that are covered, disabled or outside receive nothing.
 class Hands {
 public:
     /// Clicks in the middle of the control; on a check box on its sign.

@@ -22,15 +22,16 @@ class QueueDialogTest : public testing::Test {
 protected:
     static void SetUpTestSuite();
     static void TearDownTestSuite();
-    /// Begins without anything kept of the server.
+    /// Starts without any cached data of the server.
     void SetUp() override;
     /// Ends the dialog, and all jobs and records of the server.
     void TearDown() override;
 
-    /// Opens the dialog on the server; nothing for the shared one. wanted as kvprint takes it after -d.
+    /// Opens the dialog on the server; absent for the shared one. wanted is a destination as kvprint parses
+    /// it after -d.
     void open(const std::optional<QString> &wanted, const host::CupsServer &server = {},
               const host::SetupWishes &wishes = {});
-    /// Opens it and waits until the server has told everything about the queue.
+    /// Opens it and waits until the server has reported everything about the queue.
     void openAndSettle(const QString &wanted, const host::CupsServer &server = {},
                        const host::SetupWishes &wishes = {});
     void close();
@@ -42,12 +43,12 @@ protected:
     static host::CupsServer knownServer(const QString &address);
     /// As if the server had had so many queues more the last time.
     static void rememberMoreQueues(const host::CupsServer &server, int count);
-    /// Puts other bytes in the place of the PPD that the shared server keeps for the queue.
+    /// Replaces the content of the PPD that the shared server stores for the queue.
     static void overwritePpd(const QString &queue, const QByteArray &bytes);
-    /// The document gets so many bytes more, as large documents have them, and looks as before.
+    /// Makes the document this number of bytes larger, without changing its appearance.
     void makeDocumentLarger(qsizetype bytes) const;
 
-    /// The control of that accessible name that is to be seen; null when there is none.
+    /// The visible control with that accessible name; null when there is none.
     template<typename Widget>
     Widget *find(const QString &accessibleName) const
     {
@@ -76,11 +77,11 @@ protected:
     QCheckBox *panelBox(const char *name) const;
     QComboBox *destinations() const { return find<QComboBox>(QStringLiteral("Printer")); }
     QListWidget *papers() const { return find<QListWidget>(QStringLiteral("Paper")); }
-    /// What the line below the destinations says.
+    /// The text of the line below the destinations.
     QString state() const { return destinations()->accessibleDescription(); }
-    /// All that the dialog's banners say.
+    /// The texts of all banners of the dialog.
     QString told() const;
-    /// Whether any label that is to be seen contains the text.
+    /// Whether any visible label contains the text.
     bool isSeen(const QString &text) const;
     void chooseTab(const QString &title) const;
     QStringList tabs() const;
@@ -88,7 +89,7 @@ protected:
 
     /// Presses Print and waits until the server has the job.
     void print();
-    /// Prints and answers what the filter was given for the only document.
+    /// Prints and returns what the filter received for the only document.
     test_support::RecordedDocument printed();
     /// "lpstat -o", empty when no job waits.
     static QString waitingJobs();
@@ -102,9 +103,9 @@ protected:
     std::unique_ptr<host::SetupKeeper> keeper;
     std::unique_ptr<dialog::QueueSender> sender;
     std::unique_ptr<dialog::PrintDialog> window;
-    /// Where the next dialog sends its job; nothing for where it learns of the queues.
+    /// The server that the next dialog sends its job to; absent for the server that lists the queues.
     std::optional<host::CupsServer> sendingServer;
-    /// How often a dialog was to ask for a password.
+    /// The number of times a dialog asked for a password.
     int passwordQuestions = 0;
 
 private:

@@ -17,7 +17,7 @@ protected:
         cupsd->addQueue(QStringLiteral("full"), fullPpd());
     }
 
-    /// Presses Print. The answer is given to the question that comes, if one does; answers whether one did.
+    /// Presses Print and answers the question if one appears. Returns whether one appeared.
     bool printAndAnswer(const std::function<void(QWidget *)> &answer) const
     {
         QTimer look;

@@ -166,7 +166,7 @@ TEST_F(DestinationsTest, AQueueThatIsDeletedIsToldAndAnotherCanBeChosen)
     Hands::pick(destinations(), QStringLiteral("tape – On my desk"));
     ASSERT_TRUE(isChosen(QStringLiteral("tape")));
     QApplication::processEvents();
-    // What was wrong with the other queue is no concern of this one.
+    // Errors of the other queue are not shown for this one.
     EXPECT_EQ(told(), QString());
     print();
 }
@@ -240,14 +240,15 @@ TEST_F(DestinationsTest, ARefusedPasswordIsNotAskedForAgainAndAgain)
     ASSERT_TRUE(QTest::qWaitForWindowActive(question, test_support::failureMilliseconds));
     Hands::press(question, Qt::Key_Escape);
     EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
-    // One question for the queue's state may be on its way; with the second one the first is settled.
+    // One request for the queue's state may be in progress; the second request proves that the first is
+    // complete.
     const int before = guarded.refusedCount();
     EXPECT_TRUE(waitUntil([&] { return guarded.refusedCount() >= before + 2 || passwordQuestions > 1; }));
     test_support::turnEventLoop();
     ASSERT_EQ(passwordQuestions, 1);
     EXPECT_TRUE(passwordDialogs().empty());
     EXPECT_NE(told(), QString());
-    // Whoever presses Print wants to be asked once more.
+    // Pressing Print asks for the password again.
     Hands::click(button(QStringLiteral("Print")));
     answer(passwordDialog(), QStringLiteral("secret"));
     EXPECT_TRUE(waitUntil([this] { return !window->isSending() && !window->isVisible(); }))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Jobs that killed programs have left on print servers, as the dialog tells of them.
+// Jobs that killed programs have left on print servers, as the dialog reports them.
 #include "QueueDialogFixture.h"
 
 #include <host/cups/jobs/JobJournal.h>
@@ -30,7 +30,7 @@ protected:
         QDir(journal.folder()).removeRecursively();
     }
 
-    /// Leaves a job of two documents on the server, which has the first one; answers its number.
+    /// Leaves a job of two documents on the server, which has the first one; returns the job's number.
     int leaveJob()
     {
         const test_support::FaultProxy proxy(
@@ -50,7 +50,7 @@ protected:
         return left.jobs.empty() ? 0 : left.jobs.front().jobId.value_or(0);
     }
 
-    /// Presses the button of the banner and waits for the words.
+    /// Presses the button of the banner and waits for the text.
     void press(const QString &text, const QString &words)
     {
         Hands::click(button(window.get(), text));

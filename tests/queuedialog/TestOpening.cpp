@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The dialog is there before the server has answered, and no server can make it stop.
+// The dialog opens before the server has answered, and no server can block it.
 #include "QueueDialogFixture.h"
 
 #include <host/cups/queues/PpdLoader.h>
@@ -107,7 +107,7 @@ TEST_F(OpeningTest, NothingKnownAndNobodyThereIsToldToo)
     QApplication::processEvents();
     EXPECT_TRUE(told().contains(QStringLiteral("Cannot connect"))) << told().toStdString();
     EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
-    // The window does not go on to say that it waits.
+    // The window no longer shows that it waits.
     EXPECT_FALSE(isSeen(QStringLiteral("Waiting"))) << state().toStdString();
 }
 

@@ -137,7 +137,7 @@ TEST_P(PicturesTest, EveryStateOfTheDialog)
     openAndSettle(QStringLiteral("raw"));
     take(window.get(), QStringLiteral("raw"));
     close();
-    // On a busy machine the job may have been sent before it was taken back.
+    // On a busy machine the job may have been sent before it was canceled.
     cupsd->run(QStringLiteral("cancel"), {QStringLiteral("-a"), QStringLiteral("full")});
     cupsd->resume(QStringLiteral("full"));
 

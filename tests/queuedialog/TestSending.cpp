@@ -35,7 +35,7 @@ protected:
     /// Opens the dialog on more pages than can be checked at once, so that Print waits for the check.
     void openLongDocument()
     {
-        // With a printer that is known from last time nobody waits before Print can be pressed.
+        // With a cached printer, Print can be pressed immediately.
         fillCache(QStringLiteral("tape"));
         const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
         documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));

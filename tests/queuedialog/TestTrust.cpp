@@ -130,7 +130,7 @@ TEST_F(TrustDialogTest, ACertificateIsTrustedByItsFingerprint)
 TEST_F(TrustDialogTest, ARefusedCertificateCanBeTrustedAfterAll)
 {
     open(QStringLiteral("tape"), encryptedServer());
-    // The Return key presses the button that refuses.
+    // The Return key presses the button that rejects the certificate.
     auto *const question = shown<dialog::TrustDialog>();
     ASSERT_TRUE(question);
     Hands::press(question, Qt::Key_Return);

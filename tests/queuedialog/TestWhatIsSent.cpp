@@ -79,7 +79,7 @@ protected:
         std::map<QByteArray, QByteArray> result;
         for (int i = 0; i < count; ++i) {
             const QByteArray name = list[i].name;
-            // These tell one job from another.
+            // These attributes differ between any two jobs.
             if (name != "job-uuid" && !name.startsWith("date-time") && !name.startsWith("time-at"))
                 result[name] = list[i].value;
         }
@@ -220,7 +220,7 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
     const RecordedDocument same = cupsd->documents().back();
     EXPECT_EQ(same.title, job.title);
     EXPECT_EQ(same.copies, job.copies);
-    // But for what it cannot say, which the page tells. lp adds what the queue does by itself.
+    // Except for what the command line cannot express, which the page shows. lp adds the queue's defaults.
     EXPECT_TRUE(isSeenBefore) << line.toStdString();
     const auto sames = options(same);
     for (const auto &[name, value] : got) {
@@ -284,7 +284,7 @@ TEST_F(WhatIsSentTest, MirrorPrintingStaysThroughPagesPapersAndAnotherPpd)
     chooseTab(QStringLiteral("Options"));
     Hands::pick(control<QComboBox>("Darkness"), QStringLiteral("Dark"));
 
-    // The administrator gives the queue another PPD, without anybody asking here.
+    // The administrator gives the queue another PPD, without a request from this program.
     QByteArray other = fullPpd();
     other.replace("*Darkness Dark/Dark", "*Darkness Pale/Pale").replace("Darkness Dark", "Darkness Pale");
     int replacements = 0;

@@ -9,8 +9,8 @@
 
 #include <memory>
 
-/// Holds a page thread in its first task, so that a test decides what is done while others wait. The task is
-/// running when the constructor returns.
+/// Blocks a page thread in its first task until open(), so that a test controls what happens while other
+/// tasks wait. The task is running when the constructor returns.
 class ClosedGate {
 public:
     explicit ClosedGate(host::PageThread &thread)
@@ -35,10 +35,10 @@ private:
     std::shared_ptr<QSemaphore> m_opened = std::make_shared<QSemaphore>();
 };
 
-/// Returns when the thread has run all its tasks and the main thread all deliveries.
+/// Returns after the thread has run all its tasks and the main thread all deliveries.
 inline void awaitTasks(host::PageThread &thread)
 {
-    // A delivery may have begun another task; the least urgent one comes after it.
+    // A delivery may have started another task; the least urgent task runs after it.
     for (int round = 0; round < 3; ++round) {
         QEventLoop loop;
         thread.run(host::PageThread::Urgency::Checked, &loop,

@@ -25,7 +25,7 @@ InputFrom::InputFrom(QByteArray content)
 
 InputFrom::~InputFrom()
 {
-    // Closing the reading end first lets a writer go that nobody listens to.
+    // Closing the reading end first ends a writer whose pipe is no longer read.
     if (m_before >= 0) {
         dup2(m_before, STDIN_FILENO);
         close(m_before);

@@ -5,7 +5,8 @@
 
 #include <thread>
 
-/// Puts a pipe with the content in the place of the program's standard input, as long as it lives.
+/// Replaces the program's standard input with a pipe that delivers the content, for the lifetime of the
+/// object.
 class InputFrom {
 public:
     explicit InputFrom(QByteArray content);

@@ -7,12 +7,12 @@
 
 #include <QByteArray>
 
-/// A PPD with options of every kind: switches, lists, several at once, free values of all types, in groups,
-/// with German texts, and with options that exclude each other.
+/// A PPD with options of every kind: switches, lists, multiple choices, custom values of all types, in
+/// groups, with German texts, and with constraints between options.
 QByteArray optionsPpd();
 
-/// A PPD with that many options of that many choices each, in one group and then another.
+/// A PPD with the given number of options with the given number of choices each, in two groups.
 QByteArray largeOptionsPpd(int options, int choices);
 
-/// Opens the text with its defaults marked. Ends the test program when it cannot be opened.
+/// Opens the PPD text with its defaults marked. Ends the test program when the text cannot be opened.
 host::PpdFile openPpd(const Sandbox &sandbox, const QByteArray &text, const QString &language = {});

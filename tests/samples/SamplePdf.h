@@ -9,15 +9,16 @@
 #include <functional>
 #include <vector>
 
-/// A page of a PDF made for a test: its size in points, and what to draw on it, in points from its top left.
+/// A page of a PDF for a test: its size in points, and a function that draws on it in points from the top
+/// left.
 struct SamplePage {
     QSizeF size;
     std::function<void(QPainter &)> draw;
 };
 
-/// Writes a PDF with the pages and answers its path.
+/// Writes a PDF with the pages and returns its path.
 QString writePdf(const Sandbox &sandbox, const QString &name, const std::vector<SamplePage> &pages);
 
-/// A minimal PDF with these page boxes ("[0 0 10 10]"), written by hand, so that it can hold what no
-/// writer writes; extra goes into the trailer.
+/// A minimal PDF with these page boxes ("[0 0 10 10]"), assembled as text, so that it can contain what PDF
+/// writers do not produce; extra is inserted into the trailer.
 QByteArray handWrittenPdf(const std::vector<QByteArray> &mediaBoxes, const QByteArray &extra = {});

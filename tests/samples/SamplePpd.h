@@ -8,12 +8,12 @@
 #include <QByteArray>
 
 /// The text of a small tape printer's PPD: papers with and without a printable area, two of equal size,
-/// free lengths, German texts, all nine cut options.
+/// custom lengths, German texts, all nine cut options.
 QByteArray tapePpd();
-/// The same with so many papers more, "Extra0" and so on.
+/// As tapePpd(), with count more papers, "Extra0" and so on.
 QByteArray tapePpdWithMorePapers(int count);
-/// 50 megabytes that begin as a PPD does and are none.
+/// 50 megabytes that begin like a PPD but are not a valid one.
 QByteArray damagedPpdText();
 
-/// The same, open with its defaults marked. Ends the test program when it cannot be opened.
+/// Opens tapePpd() with its defaults marked. Ends the test program when it cannot be opened.
 host::PpdFile openTapePpd(const Sandbox &sandbox);

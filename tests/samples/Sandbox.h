@@ -5,16 +5,16 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// A folder for one test's files, gone with the test.
+/// A temporary folder for the files of one test. The destructor removes it.
 class Sandbox {
 public:
     Sandbox();
 
-    /// Where a file of that name would lie.
+    /// Returns the path of a file of that name in the folder; the file need not exist.
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    /// Writes the file and answers its path.
+    /// Writes the file and returns its path.
     QString write(const QString &name, const QByteArray &content) const;
-    /// What lies in the folder now, temporary files of writers included.
+    /// Returns the names of the entries of the folder, temporary files included.
     QStringList entries() const;
 
 private:

@@ -6,9 +6,9 @@
 #include <QByteArray>
 #include <QMap>
 
-/// What the server says of a job that anybody has set: its attributes as text, without those that tell
-/// one job from another (number, times, states).
+/// Returns the job's attributes on the server as text, without those that differ between any two jobs
+/// (number, times, states).
 QMap<QByteArray, QByteArray> jobAttributes(const host::CupsServer &server, int jobId);
 
-/// What the queue does to jobs by itself, "copies-default" and so on.
+/// Returns the queue's defaults for jobs, "copies-default" and so on.
 QMap<QByteArray, QByteArray> queueDefaults(const host::CupsServer &server, const QString &queue);

@@ -14,13 +14,14 @@ namespace {
 
 const QByteArray encouragement = "HTTP/1.1 100 Continue\r\n\r\n";
 const QByteArray endOfHeader = "\r\n\r\n";
-/// Of a document of unknown length.
+/// The end of a document of unknown length (chunked).
 const QByteArray endOfDocument = "0\r\n\r\n";
-/// How often a slow server takes something, in a second.
+/// How often a slow server reads, per second.
 constexpr int takesPerSecond = 50;
 
-/// The operation of a request by IPP; nothing until its first bytes have come. RFC 8010: the second two bytes
-/// of the message, which begins behind HTTP's header and, in a document of unknown length, the first length.
+/// Returns the IPP operation of a request; absent until its first bytes have arrived. RFC 8010: bytes 2 and 3
+/// of the message, which begins after the HTTP header and, in a document of unknown length, after the first
+/// chunk length.
 std::optional<int> operationOf(const QByteArray &request)
 {
     const qsizetype header = request.indexOf(endOfHeader);
@@ -44,11 +45,11 @@ FaultyServer::FaultyServer(quint16 realPort, const Faults &faults)
     : m_realPort(realPort)
     , m_host(faults.host)
     , m_faults(faults)
-    , m_server(new QTcpServer) // ends with its thread, below
+    , m_server(new QTcpServer) // deleted when its thread finishes, below
 {
     EXPECT_TRUE(m_server->listen(QHostAddress(m_faults.host)));
     if (m_faults.bytesPerSecond > 0 || m_faults.stallAfter > 0) {
-        // The system's own room for what comes would hide how slowly it is read.
+        // A larger receive buffer of the system would hide how slowly the server reads.
         const int room = 32768;
         EXPECT_EQ(setsockopt(static_cast<int>(m_server->socketDescriptor()), SOL_SOCKET, SO_RCVBUF, &room,
                              sizeof room),
@@ -129,7 +130,7 @@ void FaultyServer::serve(QTcpSocket *client)
     QObject::connect(real, &QTcpSocket::errorOccurred, client, &QTcpSocket::disconnectFromHost);
     QObject::connect(real, &QTcpSocket::readyRead, client,
                      [this, client, real] { passAnswer(client, real); });
-    // A real server that is reached by the loopback interface takes no requests to another address.
+    // A real server that is reached over the loopback interface rejects requests to another address.
     real->connectToHost(QHostAddress(m_host), m_realPort);
 }
 
@@ -137,7 +138,7 @@ void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
 {
     if (client->property("holding").toBool())
         return;
-    // The encouragement to go on with a request is no answer yet.
+    // "100 Continue" is not the answer yet.
     const bool isEncouragement = real->bytesAvailable() == encouragement.size();
     const bool isFirst = client->property("asked").toBool() && !isEncouragement;
     if (!isFirst) {
@@ -256,7 +257,7 @@ bool FaultyServer::isRefused(const QByteArray &bytes, QTcpSocket *client)
 bool FaultyServer::isOperationRefused(QByteArray &bytes, QTcpSocket *client)
 {
     if (!client->property("isRefused").toBool()) {
-        // All is withheld until the operation is known.
+        // Everything is withheld until the operation is known.
         const QByteArray withheld = client->property("withheld").toByteArray();
         if (withheld.isEmpty() && !bytes.startsWith("POST "))
             return false;

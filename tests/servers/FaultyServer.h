@@ -14,13 +14,13 @@
 class QTcpServer;
 class QTcpSocket;
 
-/// How a server misbehaves. Connections that break are test_support::FaultProxy's.
+/// How a server misbehaves. For connections that break, see test_support::FaultProxy.
 struct Faults {
     /// Accepts connections and never answers.
     bool silent = false;
     /// Withholds answers until release().
     bool holds = false;
-    /// The operation of IPP that is meant by holds; 0 any request.
+    /// The IPP operation that holds applies to; 0 for all requests.
     int heldOperation = 0;
     /// Waits before each answer, in milliseconds.
     int delay = 0;
@@ -28,32 +28,33 @@ struct Faults {
     int gap = 0;
     /// Passes on the headers of answers and withholds their contents until release().
     bool holdsContent = false;
-    /// Takes no more than so many bytes in a second from each client, and leaves the rest in the client's
-    /// system, as a slow link does; 0 takes all at once.
+    /// The max number of bytes read from each client per second; the rest stays in the client's system, as on
+    /// a slow link. 0 for no limit.
     int bytesPerSecond = 0;
-    /// Takes nothing more from a connection when so many bytes of it have come, until release(); 0 never.
+    /// Stops reading from a connection after this number of bytes, until release(); 0 for never.
     qint64 stallAfter = 0;
-    /// Sends the early answer, and takes nothing more, when so many bytes of a connection have come from the
-    /// client; 0 never.
+    /// Sends the early answer and stops reading after this number of bytes from a connection's client; 0 for
+    /// never.
     qint64 answersAfter = 0;
     QByteArray earlyAnswer = {};
-    /// Requires "user:password" before anything else; empty requires none.
+    /// The required "user:password"; empty when no password is required.
     QByteArray credentials = {};
-    /// Requires them for requests of this operation of IPP only; 0 for all.
+    /// The IPP operation whose requests require the credentials; 0 for all requests.
     int lockedOperation = 0;
-    /// Refuses such a request when all of it has come, with the document that belongs to it, and not before.
+    /// Rejects such a request only after all of it has arrived, including its document.
     bool refusesLate = false;
-    /// Answers every request to encrypt the connection as a server does that cannot.
+    /// Answers every request to encrypt the connection like a server without encryption.
     bool refusesEncryption = false;
     /// The address that it and the real server listen on.
     QString host = QStringLiteral("127.0.0.1");
 };
 
-/// A server, on the loopback interface unless Faults::host says otherwise, that stands in front of the real
-/// one and misbehaves. It has a thread of its own, so that it serves while the test's thread waits.
+/// A server in front of the real one that misbehaves as Faults describes, on the loopback interface unless
+/// Faults::host names another address. It runs in its own thread, so that it serves while the test's thread
+/// waits.
 class FaultyServer {
 public:
-    /// For the server on the port of the loopback interface; 0 when there is none behind it.
+    /// Forwards to the server on the port of the loopback interface; 0 for no real server.
     FaultyServer(quint16 realPort, const Faults &faults);
     ~FaultyServer();
     FaultyServer(const FaultyServer &) = delete;
@@ -62,24 +63,26 @@ public:
     /// "HOST:PORT"
     QString address() const;
     quint16 port() const { return m_port; }
-    /// How many requests came in.
+    /// The number of requests that were received.
     int requestCount() const { return m_requestCount; }
-    /// How many requests of the operation of IPP came in, without those that lacked the password.
+    /// The number of requests of the IPP operation that were received, without those whose password was
+    /// missing.
     int requestCount(int operation) const;
-    /// How many requests without the password came in.
+    /// The number of requests that were received without the password.
     int refusedCount() const { return m_refusedCount; }
-    /// How many requests came in with a password, right or wrong.
+    /// The number of requests that were received with a password, right or wrong.
     int passwordCount() const { return m_passwordCount; }
-    /// How many connections were made.
+    /// The number of connections that were accepted.
     int connectionCount() const { return m_connectionCount; }
-    /// How many bytes were taken from all connections.
+    /// The number of bytes that were read from all connections.
     qint64 takenBytes() const { return m_takenBytes; }
-    /// How many answers were withheld, those that have been released included.
+    /// The number of answers that were withheld, including those released since.
     int heldCount() const { return m_heldCount; }
-    /// How many connections have stalled.
+    /// The number of connections that have stalled.
     int stalledCount() const { return m_stalledCount; }
 
-    /// Passes on what is withheld, and everything from now on at once: answers, contents and documents.
+    /// Forwards everything that is withheld, and from now on everything immediately: answers, contents and
+    /// documents.
     void release();
     /// Withholds answers again, as Faults::holds does.
     void hold();
@@ -108,7 +111,7 @@ private:
 
     const quint16 m_realPort;
     const QString m_host;
-    /// Only its own thread uses it while that runs.
+    /// While the server's thread runs, only that thread accesses it.
     Faults m_faults;
     quint16 m_port = 0;
     std::atomic<int> m_requestCount = 0;

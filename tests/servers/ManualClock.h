@@ -7,10 +7,10 @@
 #include <atomic>
 #include <memory>
 
-/// A clock that stands still until the test advances it, and counts how often connections look at it.
+/// A clock that stands still until the test advances it, and counts how often connections read it.
 class ManualClock {
 public:
-    /// The server with this clock in place of the system's.
+    /// Returns the server with this clock instead of the system's.
     host::CupsServer on(host::CupsServer server) const
     {
         server.clock = [state = m_state] {
@@ -23,13 +23,14 @@ public:
     void advance(std::chrono::milliseconds time) { m_state->now += time.count(); }
     std::chrono::milliseconds sinceStart() const { return std::chrono::milliseconds(m_state->now); }
 
-    /// Waits until a connection has looked at the clock and at what its server has taken, and has done so
-    /// wholly since the call; or until the condition holds, after which nothing looks any more. False when
-    /// neither comes.
+    /// Waits until a connection has checked the clock and its server's progress, with the whole check after
+    /// this call; or until the condition holds, after which connections no longer check. Returns false when
+    /// neither happens.
     template<typename Condition>
     bool waitForLooks(Condition condition) const
     {
-        // One look may have begun before; one of those that follow may only restart the silence.
+        // One check may have started before the call; one of the following checks may only restart the
+        // timeout.
         constexpr int looks = 4;
         const int before = m_state->looks;
         return test_support::waitUntil([&] { return condition() || m_state->looks >= before + looks; });

@@ -15,10 +15,10 @@
 
 using test_support::waitUntil;
 
-/// A real server with a queue "tape", and what it takes to print to it.
+/// A real server with a queue "tape", and helper functions to print to it.
 class PrintingTest : public testing::Test {
 protected:
-    /// What became of one job.
+    /// The outcome of one job.
     struct Outcome {
         std::optional<int> jobId;
         std::optional<host::CupsError> error;
@@ -86,7 +86,7 @@ protected:
         return outcome;
     }
 
-    /// No document has been printed, and none will be.
+    /// Expects that no document has been printed and that no job waits.
     void expectNothingWaits() const
     {
         EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");

@@ -5,8 +5,8 @@
 
 #include <chrono>
 
-/// The server at "127.0.0.1:PORT", which is waited for longer than any test may last: a main thread that
-/// waits for it while it withholds an answer never comes back, and the test fails.
+/// The server at "127.0.0.1:PORT", with a timeout longer than any test may take: a main thread that waits for
+/// a withheld answer does not return, and the test fails.
 inline host::CupsServer serverAt(const QString &address)
 {
     host::CupsServer server;
@@ -15,7 +15,7 @@ inline host::CupsServer serverAt(const QString &address)
     return server;
 }
 
-/// The same for a server that never answers: it is found silent soon, on any machine.
+/// As serverAt(), for a server that never answers, with a short timeout.
 inline host::CupsServer silentServerAt(const QString &address)
 {
     host::CupsServer server = serverAt(address);

@@ -8,8 +8,8 @@
 
 namespace test_support {
 
-/// Makes the records of jobs in the folder those of a program that has ended, for jobs on the server at the
-/// address; where it is empty, for those on the same server as before. Answers how many there are.
+/// Changes the job records in the folder into those of a program that has ended, for jobs on the server at
+/// the address; an empty address keeps the server. Returns the number of records.
 inline int abandonRecords(const QString &folder, const QString &server = {})
 {
     const QStringList names = QDir(folder).entryList({QStringLiteral("*.json")}, QDir::Files);

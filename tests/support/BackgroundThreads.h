@@ -3,8 +3,8 @@
 
 namespace test_support {
 
-/// Waits until all threads that ask servers in the background have ended. They outlive the objects that have
-/// started them, and may write down what the next test is not to find.
+/// Waits until all background threads that send requests to servers have ended. They outlive the objects that
+/// started them and may write files that the next test must not find.
 void awaitBackgroundThreads();
 
 } // namespace test_support

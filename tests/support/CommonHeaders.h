@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// What most tests include, precompiled once for all test programs. A test still includes what it uses.
+// The headers that most tests include, precompiled once for all test programs. A test still includes what it
+// uses.
 #include <tests/support/QtPrinters.h>
 
 #include <QApplication>

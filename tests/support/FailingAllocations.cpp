@@ -30,7 +30,7 @@ std::atomic<bool> isCounting = false;
 using Main = int (*)(int, char **, char **);
 Main realMain = nullptr;
 
-/// Shared with the file, so that it is right however the program ends.
+/// Mapped to the file, so that the count is correct however the program ends.
 Counter *sharedCounter(const char *path)
 {
     const int descriptor = open(path, O_RDWR | O_CLOEXEC); // NOLINT
@@ -62,7 +62,7 @@ bool fails()
     return isFailing;
 }
 
-/// The function of the C library that this library hides.
+/// Returns the function of the C library that this library replaces.
 template<typename Function>
 Function *hidden(const char *name)
 {

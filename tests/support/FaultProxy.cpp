@@ -15,7 +15,7 @@ namespace test_support {
 namespace {
 
 constexpr int pauseMilliseconds = 30;
-/// How long a server may take to notice that a connection has ended.
+/// The max time for a server to notice that a connection has ended.
 constexpr int endMilliseconds = 5000;
 
 QByteArray unchanged(QByteArray bytes)
@@ -41,7 +41,7 @@ QByteArray inverted(QByteArray bytes)
     return bytes;
 }
 
-/// The operation in an IPP request (RFC 8010): the second two bytes of the content. 0 until they have come.
+/// The operation of an IPP request (RFC 8010): bytes 2 and 3 of the content. 0 until they have arrived.
 int operationIn(const HttpFraming &request)
 {
     const QByteArray &content = request.contentStart();
@@ -153,7 +153,8 @@ void FaultProxy::close(Link &link)
         link.server->waitForConnected(endMilliseconds);
     if (link.server->state() != QAbstractSocket::ConnectedState)
         return;
-    // Not closed: what the server still sends would make the system drop what it has not read yet.
+    // The connection stays open: after a close, data that the server still sends would make the system drop
+    // what the server has not read yet.
     link.server->flush();
     ::shutdown(static_cast<int>(link.server->socketDescriptor()), SHUT_WR);
 }
@@ -187,13 +188,13 @@ void FaultProxy::pass(Link &link, Direction direction)
         else
             passBytes(link, direction, ahead.value_or(source(link, direction)->bytesAvailable()), unchanged);
     }
-    // Answers that are not passed on must not fill the system's buffers.
+    // Answers that are not forwarded are still read, so that they do not fill the system's buffers.
     if (link.state == State::Closed && direction == Direction::ToClient)
         link.server->readAll();
 }
 
-/// How many bytes of the message pass before the fault. Nothing if the fault is made in another message, and
-/// while that is not known: what has come of the message then passes.
+/// Returns how many bytes of the message pass before the fault. Absent when the fault belongs to another
+/// message, and until that is known: the bytes received so far then pass.
 std::optional<qint64> FaultProxy::bytesToFault(const Link &link, Direction direction) const
 {
     const Stream &current = stream(link, direction);
@@ -264,7 +265,7 @@ void FaultProxy::passBytes(Link &link, Direction direction, qint64 max, Change c
 
 void FaultProxy::strike(Link &link, Direction direction)
 {
-    // A message that passes twice is struck at its end.
+    // The fault of a repeated message occurs at its end.
     if (m_fault.kind == ProxyFault::Kind::Replay) {
         passBytes(link, direction, source(link, direction)->bytesAvailable(), unchanged);
         return;

@@ -20,57 +20,57 @@ namespace test_support {
 
 enum class Direction { ToServer, ToClient };
 
-/// One message of HTTP that has passed a FaultProxy, wholly or up to the fault.
+/// An HTTP message that has passed a FaultProxy, completely or up to the fault.
 struct PassedMessage {
     Direction direction = Direction::ToServer;
     /// The request line or the status line.
     QByteArray startLine = {};
-    /// The operation of the IPP message in a request, or of the request that an answer belongs to; 0 without.
+    /// The IPP operation of the request, or of the request that an answer belongs to; 0 for none.
     int operation = 0;
     qint64 headerBytes = 0;
     qint64 bytes = 0;
 };
 
-/// What goes wrong at one byte of one message, or of each one of an operation.
+/// The fault at one byte of one message, or of each message of an operation.
 struct ProxyFault {
     enum class Kind {
         None,
-        Cut,     ///< both connections are closed in front of the byte
+        Cut,     ///< both connections are closed before the byte
         Silence, ///< from this byte on, nothing more passes in either direction
         Delay,   ///< the rest passes after a pause
         Repeat,  ///< the byte passes twice
-        Reorder, ///< the byte and the one behind it change places
+        Reorder, ///< the byte and the next one are exchanged
         Corrupt, ///< the bits of the byte are inverted
-        Forge,   ///< the forgery passes in place of the byte and all that follows in the message
-        Replay,  ///< the message passes twice; the byte means nothing
+        Forge,   ///< the forgery replaces the byte and the rest of the message
+        Replay,  ///< the message passes twice; the byte is ignored
     };
 
     Kind kind = Kind::None;
     /// Counted from 0 in the order in which messages begin, over all connections and both directions. Ignored
-    /// with an operation.
+    /// when an operation is set.
     int message = 0;
-    /// The operation of IPP in whose first request or answer, by the direction, the fault is made; 0 for the
-    /// message of the number. A "100 Continue" is no answer. Not for Replay.
+    /// The IPP operation in whose first request or answer, depending on the direction, the fault is made; 0
+    /// to use the message number. "100 Continue" does not count as an answer. Not for Replay.
     int operation = 0;
     Direction direction = Direction::ToServer;
-    /// Counted from 0. A message that is shorter passes unharmed, and the next one of the operation is tried.
-    /// In a request of an operation, the byte may lie in front of the IPP message's head: the fault is then
-    /// made as soon as that has come, and before it passes.
+    /// Counted from 0. A shorter message passes unchanged, and the fault is made in the next one of the
+    /// operation. In a request of an operation, the byte may precede the head of the IPP message: the fault
+    /// is then made when the head has arrived, before it passes.
     qint64 byte = 0;
-    /// The byte is counted from the beginning of the content, behind the header.
+    /// The byte is counted from the beginning of the content, after the header.
     bool isInContent = false;
     QByteArray forgery = {};
-    /// Every connection that exists or comes later suffers the same, as when the link is down: it is closed
-    /// after a Cut, and silent after Silence.
+    /// The fault applies to all existing and later connections, as when the link is down: they are closed
+    /// after Cut and silent after Silence.
     bool isLinkDown = false;
     /// The fault is made in all requests or answers of the operation, not only in the first. For Cut.
     bool isEveryTime = false;
 };
 
-/// What becomes of other and later connections when one is closed.
+/// What happens to other and later connections when one is closed.
 enum class OtherConnections { Pass, Close };
 
-/// The connection is closed in front of the answer to the first request of the operation.
+/// The connection is closed before the answer to the first request of the operation.
 inline ProxyFault lostAnswer(int operation, OtherConnections others = OtherConnections::Pass)
 {
     return {.kind = ProxyFault::Kind::Cut,
@@ -88,20 +88,20 @@ inline ProxyFault cutAnswer(int operation, OtherConnections others = OtherConnec
     return fault;
 }
 
-/// The connection is closed in front of the byte of each request of the operation.
+/// The connection is closed before the byte of each request of the operation.
 inline ProxyFault cutRequests(int operation, qint64 byte = 0)
 {
     return {.kind = ProxyFault::Kind::Cut, .operation = operation, .byte = byte, .isEveryTime = true};
 }
 
-/// Stands in front of a real server of HTTP, passes everything on in both directions and makes one fault.
-/// Records what has passed, so that a run without a fault shows where faults can be made. It has a thread of
-/// its own, so that it serves while the test's thread waits.
+/// A proxy for a real HTTP server that forwards everything in both directions and makes one fault. It records
+/// the messages that have passed, so that a run without a fault shows where faults can be made. It runs in
+/// its own thread, so that it serves while the test's thread waits.
 class FaultProxy {
 public:
-    /// For the server on the port of the loopback interface.
+    /// Forwards to the server on the port of the loopback interface.
     explicit FaultProxy(quint16 serverPort, const ProxyFault &fault = {});
-    /// Closes all connections after the server has read what was passed on to it.
+    /// Closes all connections after the server has read what was forwarded to it.
     ~FaultProxy();
     FaultProxy(const FaultProxy &) = delete;
     FaultProxy &operator=(const FaultProxy &) = delete;
@@ -109,24 +109,24 @@ public:
     /// "127.0.0.1:PORT"
     QString address() const;
     quint16 port() const { return m_port; }
-    /// The messages that have begun, in this order.
+    /// The messages that have begun, in the order of their first bytes.
     std::vector<PassedMessage> messages() const;
-    /// Whether the fault was made: the message and the byte have come.
+    /// Returns true if the fault was made: the message and the byte have arrived.
     bool hasStruck() const { return m_hasStruck; }
-    /// How many connections of clients were silenced in the middle or were never served.
+    /// The number of client connections that were silenced or never served.
     int silencedCount() const { return m_silencedCount; }
 
 private:
     /// One direction of a connection.
     struct Stream {
         HttpFraming framing;
-        /// The index of the message that is passing; nothing between two messages.
+        /// The index of the current message; absent between two messages.
         std::optional<int> message;
-        /// How many bytes of the message have come.
+        /// The number of bytes of the message that were received.
         qint64 read = 0;
-        /// The message so far, if it is to pass twice.
+        /// The message so far, if it is to be repeated.
         QByteArray content;
-        /// The rest of the message is dropped behind a forgery.
+        /// The rest of the message is dropped after a forgery.
         bool isDropping = false;
     };
     enum class State { Passing, Delayed, Silent, Closed };
@@ -139,7 +139,7 @@ private:
         int operation = 0;
         State state = State::Passing;
     };
-    /// The bytes that are read next, as they are passed on.
+    /// Returns the bytes just read as they are to be forwarded.
     using Change = QByteArray (*)(QByteArray);
 
     void accept(QTcpSocket *client);

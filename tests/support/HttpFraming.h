@@ -6,17 +6,17 @@
 namespace test_support {
 
 /// Finds where messages of HTTP/1.1 end in one direction of a connection (RFC 9112, section 6): by
-/// Content-Length, by the last chunk, or behind the header when the message has no content.
+/// Content-Length, by the last chunk, or after the header when the message has no content.
 class HttpFraming {
 public:
-    /// Reads the next bytes of the direction, no further than the end of the message. Returns how many bytes
+    /// Reads the next bytes of the direction, at most up to the end of the message. Returns how many bytes
     /// belong to the message.
     qsizetype read(QByteArrayView bytes);
-    /// The message is complete; the next read() begins another one.
+    /// Returns true if the message is complete; the next read() begins another one.
     bool isComplete() const { return m_part == Part::Complete; }
-    /// The header, or as much of it as was read, with its last empty line.
+    /// The header, or the part that was read, including its last empty line.
     const QByteArray &header() const { return m_header; }
-    /// The beginning of the content, without the lengths of chunks: enough for the head of an IPP message.
+    /// The beginning of the content, without chunk lengths: enough for the head of an IPP message.
     const QByteArray &contentStart() const { return m_contentStart; }
 
 private:
@@ -34,7 +34,7 @@ private:
     QByteArray m_contentStart;
     /// The line that is being read: a chunk's length, its end or the trailer.
     QByteArray m_line;
-    /// Bytes that are missing of the content or of the chunk.
+    /// The number of bytes still to come of the content or the chunk.
     qint64 m_missing = 0;
 };
 

@@ -6,8 +6,8 @@
 
 namespace test_support {
 
-/// A period that servers have a word for, "night", "third-shift", and that begins hours from now:
-/// in its own period a job is not held at all.
+/// Returns a named hold period ("night", "third-shift") that begins hours from now: within its own period the
+/// server does not hold a job.
 inline QString holdPeriodHoursAway(const QDateTime &now = QDateTime::currentDateTime())
 {
     const int hour = now.toLocalTime().time().hour();
@@ -18,7 +18,7 @@ inline QString holdPeriodHoursAway(const QDateTime &now = QDateTime::currentDate
     return QStringLiteral("day-time");        // 6:00 to 18:00
 }
 
-/// The time of day some hours from now as servers understand it, which is in UTC.
+/// Returns the time of day some hours from now, in UTC as servers expect it.
 inline QString holdTimeHoursAway(int hours, const QString &format)
 {
     return QDateTime::currentDateTimeUtc().addSecs(qint64{hours} * 60 * 60).toString(format);

@@ -8,9 +8,9 @@
 
 namespace test_support {
 
-/// An address of this machine on a network: a server that listens on it is reached as one on another machine
-/// is, and nothing leaves this machine. Where there is none, the address is empty and the test fails,
-/// or in SetUpTestSuite() the suite, without running its tests.
+/// Returns an address of this machine on a network: clients reach a server that listens on it like one on
+/// another machine, but no data leaves this machine. Without such an address, returns an empty string and
+/// fails the test; in SetUpTestSuite(), fails the suite without running its tests.
 inline QString networkAddress()
 {
     for (const QHostAddress &address : QNetworkInterface::allAddresses()) {

@@ -24,7 +24,7 @@ inline constexpr std::array<const char *, 9> panelKeywords = {
 /// The mask of all nine keywords.
 inline constexpr unsigned allPanelKeywords = 0x1FF;
 
-/// One choice as the PPD spells it. Without a text of its own it shows its keyword.
+/// One choice as the PPD spells it. A choice without a text shows its keyword.
 struct PpdChoiceLine {
     QByteArray keyword;
     QByteArray text;
@@ -35,12 +35,12 @@ struct PpdOptionLines {
     QByteArray keyword;
     QByteArray text;
     std::vector<PpdChoiceLine> choices;
-    /// The choice of the default line; no line at all when absent.
+    /// The choice of the default line; when absent, the line is omitted.
     std::optional<QByteArray> defaultChoice;
     QByteArray uiType = "PickOne";
 };
 
-/// A PPD as libcups has parsed it, closed when the pointer goes.
+/// Closes a PPD parsed by libcups when its pointer is destroyed.
 struct PpdCloser {
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
 };
@@ -67,18 +67,18 @@ public:
 
     // The family.
 
-    /// A tape printer: no "KvTapeType" at all. This is what a fresh builder describes.
+    /// A tape printer: the PPD has no "KvTapeType". This is the default of a new builder.
     PpdBuilder &tape();
     /// A printer of paper labels: "KvTapeType" is "DZ".
     PpdBuilder &paperLabels();
-    /// "KvAutoCutObjHidden" with the value; "False" gives automatic tape cut a check box of its own.
+    /// Adds "KvAutoCutObjHidden" with the value; "False" shows a separate check box for automatic tape cut.
     PpdBuilder &autoCutObjHidden(const QByteArray &value = "False");
 
     // The nine options of the panel. Off/on options have the choices OFF and ON and the default OFF,
     // "KvCutLabel" the counts 1 to 99 and the default 1; texts are in English.
 
-    /// Adds one option in its usual form, whatever form it had before. A keyword that is none of the
-    /// nine becomes an off/on option with the keyword as its text.
+    /// Adds one option in its usual form, replacing an earlier form. Any keyword other than the nine becomes
+    /// an off/on option with the keyword as its text.
     PpdBuilder &option(const QByteArray &keyword);
     PpdBuilder &options(std::initializer_list<QByteArray> keywords);
     /// Adds the options whose bits are set, in the order of panelKeywords.
@@ -91,19 +91,19 @@ public:
 
     /// The option's text, as bytes; see emptyText() for a text that libcups reads as empty.
     PpdBuilder &text(const QByteArray &keyword, const QByteArray &text);
-    /// Gives the option a text that libcups reads as empty. Simply leaving it out does not: libcups then
-    /// shows the keyword. The PPD is said to be in a character set in which the text's only byte is no
-    /// character, so texts beyond ASCII should not be mixed with this.
+    /// Gives the option a text that libcups reads as empty. Omitting the text is not enough: libcups then
+    /// shows the keyword. The PPD declares a character set in which the text's only byte is not a character,
+    /// so do not combine this with texts beyond ASCII.
     PpdBuilder &emptyText(const QByteArray &keyword);
     PpdBuilder &choices(const QByteArray &keyword, std::vector<PpdChoiceLine> choices);
     PpdBuilder &noChoices(const QByteArray &keyword) { return choices(keyword, {}); }
     PpdBuilder &defaultChoice(const QByteArray &keyword, const QByteArray &choice);
-    /// Leaves out the option's default line.
+    /// Omits the option's default line.
     PpdBuilder &noDefault(const QByteArray &keyword);
     /// "KvCutLabel" with one choice for each count from first to last; the default is the first.
     PpdBuilder &counts(int first, int last);
-    /// So many options that the panel knows nothing of, "Foreign1", "Foreign2" and so on, each with so
-    /// many choices.
+    /// Adds count options that the panel does not use, "Foreign1", "Foreign2" and so on, with the given
+    /// number of choices each.
     PpdBuilder &foreignOptions(int count, int choices);
 
     // The papers.
@@ -119,28 +119,28 @@ public:
 
     /// A line of the form *keyword: "value".
     PpdBuilder &attribute(const QByteArray &keyword, const QByteArray &value);
-    /// Two choices that exclude each other; an empty choice stands for every choice but the off one.
+    /// Adds a constraint between two choices; an empty choice stands for every choice except the off one.
     PpdBuilder &constraint(const QByteArray &option, const QByteArray &choice, const QByteArray &otherOption,
                            const QByteArray &otherChoice);
-    /// What "LanguageEncoding" says; "UTF-8" at first.
+    /// Sets "LanguageEncoding"; the default is "UTF-8".
     PpdBuilder &languageEncoding(const QByteArray &encoding);
-    /// Lines put in as they are, after all options. They must end in a line feed.
+    /// Inserts the lines unchanged after all options. They must end with a line feed.
     PpdBuilder &raw(const QByteArray &lines);
 
     // The outcome.
 
     /// The PPD file's bytes.
     QByteArray ppd() const;
-    /// Writes the PPD to the path. False, and nothing left there, when that fails.
+    /// Writes the PPD to the path. On failure, returns false and leaves no file there.
     bool writeTo(const QString &path) const;
-    /// The PPD as libcups reads it, without any choice marked. Fails the test and answers null when
-    /// libcups refuses it.
+    /// The PPD as libcups reads it, without any choice marked. Fails the test and returns null when libcups
+    /// rejects it.
     PpdPointer open() const;
     /// As open(), with the PPD's defaults marked as a print dialog marks them.
     PpdPointer openMarked() const;
 
-    /// The papers of a fresh builder: "24mm" (24 mm x 60 mm), "36mm" (36 mm x 100 mm), "62mm" (62 mm
-    /// x 62 mm), "DC29x90", "AV20x50", "FL21x45" and "HS11mm".
+    /// The papers of a new builder: "24mm" (24 mm x 60 mm), "36mm" (36 mm x 100 mm), "62mm" (62 mm x 62 mm),
+    /// "DC29x90", "AV20x50", "FL21x45" and "HS11mm".
     struct Paper {
         QByteArray name;
         double width = 0.0;

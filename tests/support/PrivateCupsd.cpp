@@ -28,7 +28,7 @@ namespace test_support {
 
 namespace {
 
-/// Waits in small steps for a condition that another process brings about.
+/// Polls in small steps for a condition that another process fulfills.
 template<typename Condition>
 bool poll(Condition condition)
 {
@@ -56,7 +56,7 @@ QByteArray read(const QString &path)
     return file.readAll();
 }
 
-/// The filter writes into a folder that it renames when it is done, so that nobody reads a half one.
+/// The filter writes into a folder and renames it when it is complete, so that partial records are not read.
 QByteArray filterScript(const QString &folder)
 {
     return "#!/bin/sh\n"
@@ -78,7 +78,7 @@ QByteArray filterScript(const QString &folder)
 
 QByteArray cupsFilesConf(const QString &folder)
 {
-    // An ordinary user's cupsd runs its filters as that user, whatever stands here.
+    // A cupsd of an ordinary user runs its filters as that user, regardless of this setting.
     const bool isRoot = geteuid() == 0;
     const QByteArray user = isRoot ? "lp" : getpwuid(geteuid())->pw_name;
     const QByteArray group = isRoot ? "lp" : getgrgid(getegid())->gr_name;
@@ -142,9 +142,9 @@ void PrivateCupsd::writeConfiguration()
 
     const QString filter = path(QStringLiteral("record"));
     write(filter, filterScript(m_folder.path()));
-    // cupsd runs no filter that others than its owner may write.
+    // cupsd does not run a filter that users other than its owner may write.
     EXPECT_EQ(chmod(QFile::encodeName(filter).constData(), 0755), 0);
-    // Filters run as another user than root's server: they must get in and leave their records.
+    // Filters run as another user than root's server: they need access to the folder to write their records.
     EXPECT_EQ(chmod(QFile::encodeName(m_folder.path()).constData(), 0755), 0);
     EXPECT_EQ(chmod(QFile::encodeName(path(QStringLiteral("records"))).constData(), 0777), 0);
 }
@@ -155,7 +155,7 @@ void PrivateCupsd::start()
         QStringLiteral("cupsd"), {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin")});
     m_process.setChildProcessModifier([] {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        // See setSpoolFull(): writing fails, as it does on a full disk, and kills nobody.
+        // See setSpoolFull(): writing fails, as on a full disk, and does not end the process by a signal.
         std::signal(SIGXFSZ, SIG_IGN);
     });
     m_process.setProcessChannelMode(QProcess::MergedChannels);
@@ -173,12 +173,12 @@ bool PrivateCupsd::waitUntilReady()
         return false;
     bool ready = false;
     return poll([&] {
-               // Takes note when the process has ended, which nobody else does without an event loop.
+               // Detects the end of the process; without an event loop QProcess does not.
                if (m_process.waitForFinished(0) || !isRunning())
                    return true;
                QTcpSocket socket;
                socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port());
-               // It listens before it is ready to answer.
+               // The server listens before it is ready to answer.
                socket.write("GET / HTTP/1.0\r\n\r\n");
                ready = socket.waitForReadyRead(1000);
                return ready;
@@ -344,7 +344,7 @@ void PrivateCupsd::forgetDocuments()
 
 std::vector<RecordedDocument> PrivateCupsd::waitForDocuments(std::size_t count)
 {
-    // Counted only: reading all of them again and again would take longer than printing many.
+    // Only counts the records: reading all of them repeatedly would take longer than printing.
     const QDir records(path(QStringLiteral("records")));
     const auto known = [&] { return records.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); };
     EXPECT_TRUE(poll([&] { return static_cast<std::size_t>(known()) >= count; }))
@@ -352,7 +352,7 @@ std::vector<RecordedDocument> PrivateCupsd::waitForDocuments(std::size_t count)
         << log().toStdString();
     std::vector<RecordedDocument> all = documents();
     EXPECT_EQ(all.size(), count);
-    // Callers look at the last ones; without any, they look at an empty one and fail.
+    // Callers read the last documents; if they are missing, callers read empty ones and fail.
     all.resize(std::max(all.size(), count));
     return all;
 }

@@ -14,30 +14,30 @@
 
 namespace test_support {
 
-/// What the filter of a queue was given for one document of a job.
+/// What the filter of a queue received for one document of a job.
 struct RecordedDocument {
     /// The arguments of every CUPS filter.
     int job = 0;
     QByteArray user;
     QByteArray title;
     QByteArray copies;
-    /// As the filter got them, in one text.
+    /// As the filter received them, in one text.
     QByteArray optionText;
     /// The document's bytes.
     QByteArray content;
 
-    /// The option's value as filters read it, "true" or "false" for a switch; a null array when the option
-    /// was not given.
+    /// Returns the option's value as filters read it, "true" or "false" for a switch; a null array when the
+    /// option is absent.
     QByteArray option(const char *name) const;
 };
 
 /// A CUPS server of the test's own: a real cupsd on a free port of the loopback interface, with its own
-/// configuration and spool in a temporary folder. Its queues print to nowhere through a filter that keeps
-/// what it was given. Runs as root and as an ordinary user; ends with the object, and with the test
-/// program if that dies.
+/// configuration and spool in a temporary folder. Its queues discard the output; their filter records what it
+/// receives. Runs as root and as an ordinary user. The server ends with the object, and with the test program
+/// if that crashes.
 class PrivateCupsd {
 public:
-    /// Starts the server and waits until it answers. Fails the test when it cannot; check isRunning().
+    /// Starts the server and waits until it answers. Fails the test on error; check isRunning().
     PrivateCupsd();
     ~PrivateCupsd();
     PrivateCupsd(const PrivateCupsd &) = delete;
@@ -47,63 +47,63 @@ public:
     quint16 port() const { return m_port.number(); }
     /// "127.0.0.1:PORT", as programs take it after -h.
     QString address() const { return m_port.address(); }
-    /// A file or folder within the server's temporary folder.
+    /// Returns the path of a file or folder in the server's temporary folder.
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
     /// Adds a queue with the PPD, or replaces the PPD of one; its filters are replaced by the recording one.
-    /// Further arguments are lpadmin's.
+    /// The further arguments are passed to lpadmin.
     void addQueue(const QString &name, const QByteArray &ppd, const QStringList &arguments = {});
-    /// Gives a queue that addQueue() has made another PPD. The server reports the times of changes in
+    /// Replaces the PPD of a queue that addQueue() has added. The server reports the times of changes in
     /// seconds, so this waits for the second after the queue's last change.
     void replacePpd(const QString &name, const QByteArray &ppd);
     /// Adds a queue without a PPD.
     void addRawQueue(const QString &name);
     void addClass(const QString &name, const QStringList &members);
     void removeQueue(const QString &name);
-    /// Stops the queue from printing, or lets it print again; it takes jobs all the while.
+    /// Pauses or resumes printing; the queue accepts jobs in both states.
     void pause(const QString &name, const QString &reason = QStringLiteral("Paused by the test"));
     void resume(const QString &name);
-    /// Makes the queue refuse jobs.
+    /// Makes the queue reject jobs.
     void reject(const QString &name, const QString &reason);
 
-    /// While it is on, filters report an empty roll and wait.
+    /// While set, filters report an empty roll and wait.
     void setMediaEmpty(bool empty);
 
-    /// While it is on, the server can write no file of more than some hundred kilobytes, as on a full disk.
+    /// While set, the server cannot write files larger than some hundred kilobytes, as on a full disk.
     void setSpoolFull(bool full);
 
-    /// What filters were given so far, in the order in which they finished.
+    /// Returns what the filters have received so far, in the order in which they finished.
     std::vector<RecordedDocument> documents() const;
-    /// Removes what filters were given so far. To be called while nothing is printed.
+    /// Removes the records of the filters. Must not be called while a job prints.
     void forgetDocuments();
-    /// Waits until so many documents have passed the filters. Fails the test when they do not.
+    /// Waits until count documents have passed the filters. Fails the test on timeout.
     std::vector<RecordedDocument> waitForDocuments(std::size_t count);
 
-    /// Starts the server anew with these lines at the end of its configuration, in place of earlier ones.
+    /// Restarts the server with these lines at the end of its configuration, replacing earlier ones.
     void configure(const QByteArray &lines);
 
-    /// Has the server listen on that address of this machine too, which it calls its name; lines as for
+    /// Makes the server also listen on the address of this machine and use it as its name; lines as for
     /// configure().
     void configureForNetwork(const QString &host, const QByteArray &lines = {});
-    /// Gives the server another certificate.
+    /// Replaces the server's certificate.
     void replaceCertificate();
-    /// Gives the server, which was configured for a network, one that has expired.
+    /// Replaces the certificate of a server configured for a network with an expired one.
     void useExpiredCertificate();
     /// Removes the server's certificate, so that it cannot encrypt.
     void removeCertificate();
-    /// The certificate's file, for a server that was configured for a network and has been asked once to
-    /// encrypt.
+    /// Returns the path of the certificate of a server that was configured for a network and has encrypted a
+    /// connection before.
     QString certificatePath() const;
 
-    /// Ends the server at once, as a crash would.
+    /// Ends the server immediately, like a crash.
     void kill();
     /// Starts it again on the same port, with all its queues and jobs.
     void restart();
 
-    /// Runs a program of CUPS ("lp", "lpstat") for this server and answers its standard output. Fails the
-    /// test when it fails.
+    /// Runs a program of CUPS ("lp", "lpstat") for this server and returns its standard output. Fails the
+    /// test when the program fails.
     QByteArray run(const QString &program, const QStringList &arguments) const;
-    /// The end of the server's log, to be shown when a test fails.
+    /// Returns the end of the server's log, to be printed when a test fails.
     QByteArray log() const;
 
 private:
@@ -115,7 +115,7 @@ private:
     QProcess m_process;
     ReservedPort m_port;
     QString m_networkName;
-    /// When addQueue() was done with each queue, in seconds since 1970.
+    /// When addQueue() finished for each queue, in seconds since 1970.
     QHash<QString, qint64> m_configured;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Lets a failed check show Qt's texts as texts.
+// Prints Qt's strings as text in the messages of failed checks.
 #include <QByteArray>
 #include <QDebug>
 #include <QString>

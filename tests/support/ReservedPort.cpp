@@ -20,7 +20,8 @@ ReservedPort::ReservedPort()
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     auto *const generic = reinterpret_cast<sockaddr *>(&address);
     socklen_t length = sizeof address;
-    // Bound and never listening: others that allow reuse may listen, and the number stays taken.
+    // The socket is bound but never listens: a server that allows reuse can listen, and the number stays
+    // reserved.
     EXPECT_EQ(bind(m_socket, generic, length), 0);
     EXPECT_EQ(getsockname(m_socket, generic, &length), 0);
     m_number = ntohs(address.sin_port);

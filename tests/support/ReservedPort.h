@@ -5,9 +5,9 @@
 
 namespace test_support {
 
-/// A port of the loopback interface that is kept for one server as long as the object lives: the system gives
-/// it to no other program and to no outgoing connection, also while the server is not running. Connections
-/// are refused until a server listens that allows the address to be reused, as cupsd does.
+/// A port of the loopback interface that is reserved for one server for the lifetime of the object: the
+/// system assigns it to no other program and no outgoing connection, even while the server is not running.
+/// Connections are refused until a server listens that allows the address to be reused, as cupsd does.
 class ReservedPort {
 public:
     /// Fails the test when the system has no port left.

@@ -15,7 +15,7 @@
 
 namespace test_support {
 
-/// What lies at the path itself, links not followed; all zero when there is nothing.
+/// Returns the status of the path itself, without following links; all zero when it does not exist.
 inline struct stat statusOf(const QString &path)
 {
     struct stat status = {};
@@ -23,7 +23,7 @@ inline struct stat statusOf(const QString &path)
     return status;
 }
 
-/// Who may do what with it: 0600.
+/// Returns the permission bits of the path, e.g. 0600.
 inline unsigned permissionsOf(const QString &path)
 {
     return statusOf(path).st_mode & 07777U;
@@ -34,7 +34,8 @@ inline void makeFifo(const QString &path)
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
 }
 
-/// Makes the character device that is always full; nothing where devices cannot be made or are not usable.
+/// Creates the character device that is always full. Returns its path, or an absent value where devices
+/// cannot be created or used.
 inline std::optional<QString> makeFullDevice(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -49,7 +50,7 @@ inline std::optional<QString> makeFullDevice(const QString &path)
     return std::nullopt;
 }
 
-/// The umask while the object lives.
+/// Sets the umask for the lifetime of the object.
 class UmaskScope {
 public:
     explicit UmaskScope(mode_t mask)
@@ -64,7 +65,8 @@ private:
     mode_t m_before;
 };
 
-/// The whole process is another user than root while the object lives; for who is none, nothing changes.
+/// Runs the whole process as a user other than root for the lifetime of the object. Has no effect when the
+/// process does not run as root.
 class OrdinaryUser {
 public:
     static constexpr uid_t number = 65534;
@@ -89,11 +91,12 @@ private:
     bool m_isRoot;
 };
 
-/// The character device that is always full: one of the test's own, or the system's where none can be made.
-/// While the system's is used, the process is not root, so that a fault in what is tested cannot replace it.
+/// The character device that is always full: created for the test, or the system's where none can be created.
+/// While the system's is used, the process does not run as root, so that a fault in the tested code cannot
+/// replace it.
 class FullDevice {
 public:
-    /// The path is where the test's own is made.
+    /// The path is where the test's own device is created.
     explicit FullDevice(const QString &path)
         : m_own(makeFullDevice(path))
     {

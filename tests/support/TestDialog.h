@@ -15,12 +15,12 @@
 namespace test_support {
 
 /// A print dialog reduced to what panels see of it: a PPD opened and marked by libcups, a paper, settings,
-/// and a record of what the panel asked and changed, in order.
+/// and a record of what the panel requested and changed, in order.
 class TestDialog : public PDEPluginCallback13_v400_ {
 public:
     using Change = std::pair<QString, QString>;
 
-    /// A dialog for the printer whose PPD it is; null for a printer without one.
+    /// A dialog for the printer with this PPD; null for a printer without a PPD.
     explicit TestDialog(PpdPointer ppd);
 
     PMPrintSession printSession() const override;
@@ -32,21 +32,21 @@ public:
     bool respondsToPanelViewDidResize() const override { return canResize; }
     void panelViewDidResize() override { ++resizes; }
 
-    /// Chooses the paper of that PPD name; the height is in points.
+    /// Chooses the paper with this PPD name; the height is in points.
     void setPaper(const QString &name, double height = 100.0);
     /// Chooses a paper that the PPD does not name, with the name in the settings' ticket (absent: no ticket).
     void setTicketPaper(const std::optional<QString> &name);
-    /// Tells the panels that the paper has changed.
+    /// Notifies the panels that the paper has changed.
     void postPaperChange() const;
 
-    /// Marks a choice as another part of the dialog would, telling nobody.
+    /// Marks a choice as another part of the dialog would, without a notification.
     void mark(const char *keyword, const char *choice) { ppdMarkOption(m_ppd.get(), keyword, choice); }
     /// The marked choice; empty when nothing is marked.
     QString marked(const char *keyword) const;
 
     /// Every willChangePPDOptionKeyValue() in order; an absent choice is recorded as "(absent)".
     std::vector<Change> changes;
-    /// The names of the operations asked for, in order.
+    /// The names of the operations that the panel called, in order.
     mutable QStringList asked;
     int resizes = 0;
     bool canResize = true;

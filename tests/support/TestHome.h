@@ -5,8 +5,8 @@
 
 namespace test_support {
 
-/// Where a program runs that is no user's: in an empty home of its own, which lasts as long as this object,
-/// and without a display unless the environment names one. To be made before the QApplication.
+/// An environment without a user's settings: an empty home folder that exists for the lifetime of the object,
+/// and no display unless the environment names one. Must be created before the QApplication.
 class TestHome {
 public:
     TestHome();

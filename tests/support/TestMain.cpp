@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Every test program runs with real widgets on the offscreen platform, in a home of its own that
-// lasts as long as the program: no user's settings are read or written.
+// Every test program runs with real widgets on the offscreen platform, in its own temporary home folder: no
+// user's settings are read or written.
 #include "BackgroundThreads.h"
 #include "TestHome.h"
 
@@ -12,7 +12,8 @@
 
 namespace {
 
-/// A shell lets what it starts in the background ignore some signals, and all that the tests start would too.
+/// A shell starts background programs with some signals ignored, and all programs that the tests start would
+/// inherit that.
 void heedSignals()
 {
     for (const int number : {SIGINT, SIGQUIT, SIGTERM, SIGHUP})
@@ -28,7 +29,7 @@ int main(int argc, char **argv)
     const test_support::TestHome home;
     const QApplication application(argc, argv);
     const int result = RUN_ALL_TESTS();
-    // What a thread has in hand while it ends is taken for a leak.
+    // The leak checker reports memory of threads that are still ending.
     test_support::awaitBackgroundThreads();
     return result;
 }

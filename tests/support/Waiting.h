@@ -8,21 +8,21 @@
 
 namespace test_support {
 
-/// A test that has waited for so long has failed. It only bounds failures: no check holds because time has
-/// passed, so a busy machine makes tests slower and no more.
+/// The timeout after which a test fails. It only bounds failures: no check passes because time has passed, so
+/// a busy machine only makes tests slower.
 constexpr std::chrono::milliseconds failureTimeout = std::chrono::minutes(2);
 constexpr int failureMilliseconds = static_cast<int>(failureTimeout.count());
 
-/// Processes events until the condition holds. False when it never does.
+/// Processes events until the condition holds. Returns false on timeout.
 template<typename Condition>
 bool waitUntil(Condition condition)
 {
     return QTest::qWaitFor(condition, failureMilliseconds);
 }
 
-/// Processes events until all that is due now has been handled: posted events, timers without delay and what
-/// these put off to the next round of the event loop. Proves that a thing does not happen whose turn would
-/// have come by then.
+/// Processes events until everything due now has been handled: posted events, zero timers, and what these
+/// defer to the next iteration of the event loop. Use it to prove that something does not happen that would
+/// have happened by then.
 inline void turnEventLoop()
 {
     constexpr int rounds = 5;

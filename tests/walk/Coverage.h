@@ -8,7 +8,8 @@
 
 namespace walk {
 
-/// Where a walk has been, so that a walk that agrees because it never left the door is found out.
+/// Counts the places that a walk has visited, so that a walk that agrees only because it visited too little
+/// is detected.
 class Coverage {
 public:
     /// Counts a request, what the panel did of it, and the state it was left in; the state is empty while

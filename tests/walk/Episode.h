@@ -9,7 +9,7 @@
 namespace walk {
 
 /// One dialog from its opening on: a printer and what is asked of the panel driver, in order. The first
-/// request opens the printer; its "ppd" member is filled in by whoever runs the episode.
+/// request opens the printer; the caller that runs the episode fills in its "ppd" member.
 struct Episode {
     model::PrinterDescription printer;
     QList<QJsonObject> requests;

@@ -50,7 +50,8 @@ private:
     std::unique_ptr<model::Panel> m_model;
 };
 
-/// The papers that rules tell apart, and some that they must not: names listed by the printer, and none.
+/// The papers that rules distinguish, and some that they must not distinguish: names listed by the printer,
+/// and none.
 inline const std::array<std::optional<QString>, 6> telltalePapers = {"FL01", "24mm", "DC01",
                                                                      "AV01", "HS24", std::nullopt};
 

@@ -13,7 +13,7 @@ class Shrinker {
 public:
     using Fails = std::function<bool(const Episode &)>;
 
-    /// The judge runs an episode from the start and says whether it still fails.
+    /// The function runs an episode from the start and returns whether it still fails.
     explicit Shrinker(Fails fails)
         : m_fails(std::move(fails))
     {

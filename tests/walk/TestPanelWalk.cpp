@@ -25,7 +25,7 @@ std::uint64_t numberFromEnvironment(const char *name, std::uint64_t otherwise)
     return ok ? number : otherwise;
 }
 
-/// Writes the episode's PPD and requests where they outlive the test; answers the requests' path.
+/// Writes the episode's PPD and requests to files that outlive the test; returns the path of the requests.
 QString keep(const Episode &episode, std::uint64_t seed)
 {
     const QDir folder(KV_BINARY_DIR "/test-results");
@@ -58,7 +58,7 @@ void reportShortest(Walker &walker, const Episode &failing, std::uint64_t seed)
                   << path.toStdString() << "\nor the whole walk with KV_WALK_SEED=" << seed;
 }
 
-/// Everywhere that a walk of any length worth its name comes by.
+/// The places that every walk of sufficient length visits.
 QStringList placesToVisit()
 {
     QStringList places;
@@ -89,7 +89,7 @@ QStringList placesToVisit()
     return places;
 }
 
-/// Walks so many steps, or until panel and model part.
+/// Walks the given number of steps, or until panel and model differ.
 void walkAlong(Walker &walker, std::uint64_t seed, int steps)
 {
     std::cout << "KV_WALK_SEED=" << seed << " KV_WALK_STEPS=" << steps << std::endl;

@@ -15,7 +15,7 @@ Walker::Walker(const QString &bundleFolder, Telling tell)
 
 QString Walker::localized(const QString &key)
 {
-    // What the catalogue says is the catalogue's business; which key is asked for is the panel's.
+    // Only the key that the panel looks up is compared, not the text of the catalogue.
     const auto place = m_language + '/' + key;
     if (!m_texts.contains(place))
         m_texts[place] = m_driver.handle({{"op", "localized"}, {"key", key}})["text"].toString();

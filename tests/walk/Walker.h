@@ -16,7 +16,7 @@
 
 namespace walk {
 
-/// Where the panel and its model parted.
+/// Where the panel and its model differed.
 struct Divergence {
     /// The number of the request in the episode, from 0.
     int request = 0;
@@ -24,23 +24,23 @@ struct Divergence {
     QStringList differences;
 };
 
-/// Drives the real panel and its model side by side, and holds them to each other after every request: the
-/// reply first, then the panel's whole state.
+/// Drives the real panel and its model side by side and compares them after every request: the reply first,
+/// then the panel's whole state.
 class Walker {
 public:
-    /// What the model is told of a printer; anything but the truth must be found out.
+    /// Returns the description of a printer for the model; a wrong description must be detected.
     using Telling = std::function<model::PrinterDescription(const model::PrinterDescription &)>;
 
     explicit Walker(const QString &bundleFolder, Telling tell = {});
 
-    /// Runs the episode; nothing when panel and model agree to its end.
+    /// Runs the episode; absent when panel and model agree to its end.
     std::optional<Divergence> run(const Episode &episode);
 
     /// Makes up an episode of so many requests on the printer, running it on the way; adds the requests to
     /// the episode as it goes, the one that diverges last.
     std::optional<Divergence> explore(Episode &episode, int length, Dice &dice);
 
-    /// Requests held to the model so far.
+    /// The number of requests compared with the model so far.
     int steps() const { return m_steps; }
     const Coverage &coverage() const { return m_coverage; }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Conflicts are told where their choices are made.
+// Conflicts are reported next to the controls of their choices.
 #include "DialogFixture.h"
 
 #include <dialog/options/ConflictBanner.h>
@@ -32,7 +32,7 @@ protected:
         QApplication::processEvents();
     }
 
-    /// What is told within the widget.
+    /// The conflict notes within the widget.
     static QString told(const QWidget *place)
     {
         QStringList shown;

@@ -15,7 +15,7 @@ TEST_F(OptionsPageTest, ConflictsStandAtTheControlsAndGroups)
     EXPECT_EQ(in<QCheckBox>("Turbo")->accessibleDescription(), sentence);
     EXPECT_FALSE(groups()->item(0)->icon().isNull());
     EXPECT_TRUE(groups()->item(1)->icon().isNull());
-    // Nothing is taken away because of it.
+    // The conflict does not remove any choice.
     EXPECT_EQ(in<QComboBox>("Darkness")->count(), choices);
     EXPECT_TRUE(in<QCheckBox>("Turbo")->isEnabled());
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// How papers are put in order for people.
+// How papers are sorted for display.
 #include <dialog/paper/PaperGroups.h>
 #include <dialog/paper/PaperList.h>
 #include <host/base/Units.h>

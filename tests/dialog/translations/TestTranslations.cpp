@@ -19,7 +19,7 @@ namespace {
 struct Message {
     QString context;
     QString source;
-    /// One, or as many as the language has forms of the plural.
+    /// One translation, or one for each plural form of the language.
     QStringList translations;
     bool isFinished = false;
 };
@@ -77,7 +77,7 @@ bool hasMnemonic(const QString &text)
     return text.contains(u'&');
 }
 
-/// The letter after the mark, in small; nothing where there is none.
+/// The letter after the mnemonic mark, in lower case; empty without a mark.
 QString letterKey(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("&(\\w)"));

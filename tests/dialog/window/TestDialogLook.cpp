@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the dialog looks and sounds like, and how it is reached.
+// The dialog's appearance, its accessible names, and its keyboard access.
 #include "DialogFixture.h"
 
 #include <QAccessible>

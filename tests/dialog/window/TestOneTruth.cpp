@@ -42,7 +42,7 @@ protected:
         QApplication::processEvents();
     }
 
-    /// Clicks the first paper that is wanted.
+    /// Clicks the first paper that matches.
     void choosePaper(const std::function<bool(const host::PpdPaper &)> &isWanted) const
     {
         auto *const papers = find<QListWidget>(QStringLiteral("Paper"));
@@ -69,7 +69,7 @@ protected:
         return {};
     }
 
-    /// The strip, the label below it and the summary say what the ticket says.
+    /// The strip, the label below it and the summary agree with the ticket.
     void expectOneTruth(const std::string &after) const
     {
         const host::Ticket ticket =
@@ -192,7 +192,7 @@ TEST_F(OneTruthTest, ABoxToggledByAScreenReaderIsOneThatTheUserClicked)
 
 TEST_F(OneTruthTest, ThePanelIsAsHighAsItsRows)
 {
-    // Rows that a printer lacks leave no room, and the picture stands right below the pop-up.
+    // Rows that a printer does not have occupy no space, and the picture is directly below the pop-up.
     for (const char *const sample : samples) {
         openSample(sample);
         const QWidget *const view = keeper->setup()->panel()->panelView();

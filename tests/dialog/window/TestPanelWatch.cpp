@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The dialog asks its panel again after every change, and prints nothing that the panel refuses.
+// The dialog queries its panel again after every change and does not print what the panel rejects.
 #include "DialogFixture.h"
 
 #include <dialog/widgets/Banner.h>
@@ -25,7 +25,7 @@ protected:
     QWidget *panelView() const { return keeper->setup()->panel()->panelView(); }
     int askedCount() const { return panelView()->property("askedForJobs").toInt(); }
 
-    /// Whether one of the dialog's banners says exactly this.
+    /// Whether one of the dialog's banners shows exactly this message.
     bool isTold(const QString &message) const
     {
         const auto banners = window->findChildren<dialog::Banner *>();
@@ -35,8 +35,8 @@ protected:
     }
 };
 
-/// Lets the event loop wait for events until the condition holds; false when it never does. Between two looks
-/// there is nothing to do but to wait.
+/// Lets the event loop wait for events until the condition holds; false when it never does. The loop only
+/// waits between two checks.
 bool waitIdlyUntil(const std::function<bool()> &holds)
 {
     QEventLoop loop;

@@ -93,7 +93,7 @@ TEST_F(PrintDialogTest, AnotherPaperIsMarkedAnnouncedAndShown)
     EXPECT_NEAR(state->paper()->height, 212.598, 1e-3);
     EXPECT_EQ(state->recorded().choice(QStringLiteral("PageSize")), QStringLiteral("DC52x75R"));
     EXPECT_TRUE(stripInWords().contains(QStringLiteral("Tape: 225 mm"))) << stripInWords().toStdString();
-    // Blank cannot be taken off die-cut labels.
+    // Blank ends cannot be removed from die-cut labels.
     EXPECT_FALSE(box("mRemoveBlkSpaceChkBx")->isEnabled());
 }
 
@@ -270,7 +270,7 @@ TEST_F(PrintDialogTest, GivesThePanelsViewBack)
 
 TEST_F(PrintDialogTest, APrintingThatFailedLeavesTheStripAsItWas)
 {
-    // Handing over special tape takes the half cut away; what is printed later may be another tape.
+    // Saving special tape turns the half cut off; a later job may use another tape.
     open();
     const QString before = stripInWords();
     click(box("mSpecialTapeChkBx"));

@@ -14,7 +14,7 @@ using test_support::waitUntil;
 
 namespace {
 
-/// What job.json says of the option.
+/// The option's value in job.json.
 QString choice(const QJsonObject &job, const char *keyword)
 {
     for (const QJsonValue &option : job[QStringLiteral("options")].toArray()) {

@@ -43,7 +43,7 @@ void expectRefused(const Refused &row)
     EXPECT_TRUE(document.error().message.contains(path)) << row.name;
 }
 
-/// The most memory that the program has had, in bytes.
+/// The peak memory of the program, in bytes.
 qint64 peakMemory()
 {
     rusage usage = {};
@@ -269,7 +269,7 @@ TEST(HostileDocuments, TenThousandPagesOpenAtOnce)
     while (!check.isDone())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 
-    // The bad pages can be shown, and are told of before anything is printed.
+    // The bad pages can be shown, and are reported before anything is printed.
     const host::LabelRenderer renderer(*document.value(), QSizeF(68, 170));
     for (const int page : {9'000, 9'001})
         EXPECT_FALSE(renderer.render(page, 4.0).isNull());

@@ -65,7 +65,7 @@ TEST(PpdFile, RefusesWithTheReasonAndTheLine)
     }
 }
 
-// The PPDs of some printers lack the last *CloseUI; the server prints with them.
+// In the PPDs of some printers the last *CloseUI is missing; the server prints with them.
 TEST(PpdFile, OpensWithoutTheEndOfTheLastOption)
 {
     const std::pair<QByteArray, int> rows[] = {

@@ -74,7 +74,7 @@ TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
     EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("36mm"));
     EXPECT_EQ(setup->paper()->name, QByteArray("36mm"));
     EXPECT_EQ(setup->state().paper()->name, QStringLiteral("36mm"));
-    // Coming to the front does not take it back.
+    // Showing the panel again does not change it back.
     setup->announcePanel();
     EXPECT_TRUE(box(*setup, "mMirrorPrintChkBx")->isChecked());
     EXPECT_EQ(find(*setup, "KvMirror")->origin, Origin::You);
@@ -173,7 +173,7 @@ TEST_F(PrinterSetupTest, TheUsersDefaultsAreMarkedAndAFreePaperIsAmongThem)
     EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("ON"));
     ASSERT_TRUE(setup->paper());
     EXPECT_EQ(setup->paper()->name, QByteArray("Custom.30x40mm"));
-    // Nobody has chosen anything for this job.
+    // No choice was made for this job.
     EXPECT_TRUE(setup->choices().empty());
 }
 
@@ -235,7 +235,7 @@ TEST_F(PrinterSetupTest, ThePrintersChoicesAnnounceAPaperToThePanel)
     const auto setup = make(PpdBuilder().allOptions());
     EXPECT_TRUE(box(*setup, "mRemoveBlkSpaceChkBx")->isEnabled());
     setup->choosePaper(setup->ppd().paper("DC29x90").value());
-    // Blank cannot be taken off die-cut labels.
+    // Blank ends cannot be removed from die-cut labels.
     EXPECT_FALSE(box(*setup, "mRemoveBlkSpaceChkBx")->isEnabled());
     EXPECT_EQ(find(*setup, "PageSize")->value, QByteArray("DC29x90"));
     EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("DC29x90"));

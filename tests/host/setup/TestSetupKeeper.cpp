@@ -50,7 +50,7 @@ protected:
                          [this](const host::CupsError &error) { failures.append(error.message); });
     }
 
-    /// Opens and waits for the server to have told everything.
+    /// Opens the destination and waits until the server has reported everything.
     void openAndSettle(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
     {
         open(wanted, wishes);
@@ -143,7 +143,7 @@ TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
     EXPECT_TRUE(lost.front().message.contains(QStringLiteral("KvCutMark")))
         << lost.front().message.toStdString();
 
-    // What was lost comes back with the PPD that has it.
+    // A choice that was missing in a PPD returns with the PPD that has it.
     const int endedBefore = ended;
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().allOptions().ppd());
     session->start(host::Discovery::No);

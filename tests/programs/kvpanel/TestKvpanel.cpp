@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// kvpanel as a program: lines in, lines out.
+// kvpanel as a program: reads lines and writes lines.
 #include <tests/support/PpdBuilder.h>
 
 #include <QJsonDocument>

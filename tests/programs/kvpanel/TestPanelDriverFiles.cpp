@@ -26,7 +26,7 @@ protected:
     }
 
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
-    /// Writing the picture there is refused with the words, and what is there stays.
+    /// Writing the picture there fails with the message, and the existing file stays.
     void expectRefused(const char *op, const QString &target, const char *words)
     {
         const struct stat before = statusOf(target);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The driver with a layout that lacks a control, and with a view that somebody else deletes.
+// The driver with a layout in which a control is missing, and with a view that is deleted elsewhere.
 #include "DriverFixture.h"
 
 #include <platform/Log.h>

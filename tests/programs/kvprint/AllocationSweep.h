@@ -29,9 +29,9 @@ public:
     /// Numbers up to the count. A third is dense at the start, a third at the end, where the job is sent, and
     /// a third is random.
     std::vector<quint64> numbers(quint64 count);
-    /// Counts an ending for the report, by what the program has said.
+    /// Counts an ending for the report, by the program's message.
     void note(const Outcome &outcome);
-    /// Prints the seed, and how often the program has ended in which way.
+    /// Prints the seed and the number of runs for each ending.
     ~AllocationSweep();
 
     AllocationSweep(const AllocationSweep &) = delete;

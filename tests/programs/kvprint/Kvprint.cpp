@@ -22,7 +22,7 @@ std::unique_ptr<QProcess> begin(const QString &program, const QStringList &words
 {
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(environment);
-    // Nobody is to be asked for a password on the terminal that the tests are started from.
+    // The program must not ask for a password on the terminal that the tests are started from.
     process->setChildProcessModifier([] { setsid(); });
     process->start(program, words);
     process->write(input);
@@ -91,7 +91,7 @@ std::vector<Outcome> Kvprint::runAll(const std::vector<QStringList> &lists) cons
         if (running.size() == atATime)
             endOne();
         running.push_back(begin(QStringLiteral(KV_PROGRAM), words, environment, {}));
-        // Without an event loop nobody else sees to it that the program gets its input's end.
+        // Without an event loop, only this call ensures that the program receives the end of its input.
         running.back()->waitForStarted();
     }
     while (!running.empty())

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-/// What came of one run of the program.
+/// The outcome of one run of the program.
 struct Outcome {
     /// -1 when it crashed or did not end in time.
     int status = -1;
@@ -28,7 +28,7 @@ public:
     /// For the server, "host:port", named by the environment.
     explicit Kvprint(const QString &server);
 
-    /// Runs it with exactly these words. The input is all that standard input has.
+    /// Runs it with exactly these arguments. The input is the whole standard input.
     Outcome run(const QStringList &words, const QByteArray &input = {}) const;
     /// Runs it with each list of words, several at a time; the outcomes stand in the same order.
     std::vector<Outcome> runAll(const std::vector<QStringList> &lists) const;
@@ -39,7 +39,7 @@ public:
     QProcessEnvironment environment;
 };
 
-/// Every choice that the program says it prints otherwise than asked for: name, wanted, printed.
+/// A choice that the program reports to print differently than requested: name, requested, printed.
 struct ToldChange {
     QByteArray name;
     QByteArray wanted;

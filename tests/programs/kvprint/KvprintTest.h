@@ -21,7 +21,7 @@ protected:
     /// The bytes of a sample PPD.
     static QByteArray samplePpd(const QString &name);
 
-    /// Makes the file in the folder and answers its path.
+    /// Creates the file in the folder and returns its path.
     QString file(const QString &name, const QByteArray &content) const;
     /// A picture of one label, by its file's ending.
     QString picture(const QString &name = QStringLiteral("label.png")) const;
@@ -30,9 +30,9 @@ protected:
 
     /// Prints without a dialog: the words and a picture behind them.
     Outcome print(const QStringList &words) const;
-    /// As print(), which must go well; answers the document that the filter was given.
+    /// As print(), which must succeed; returns the document that the filter received.
     test_support::RecordedDocument printed(const QStringList &words);
-    /// Runs the program, which must end with status 1, say the words on standard error and nothing on
+    /// Runs the program, which must end with status 1, print the texts on standard error and nothing on
     /// standard output, and leave nothing of the document on the server.
     void expectRefusal(const QStringList &words, const QStringList &messageParts,
                        const QByteArray &input = {});
@@ -41,9 +41,9 @@ protected:
     QMap<int, test_support::RecordedDocument> recorded(std::size_t count) const;
     /// The states of all jobs that the server knows of, by number; IPP's numbers.
     QMap<int, int> jobStates() const;
-    /// All that the server tells of a job, as text.
+    /// All attributes of a job on the server, as text.
     QMap<QByteArray, QByteArray> jobAttributes(int jobId) const;
-    /// All that the server tells of a queue, its defaults for jobs among them.
+    /// All attributes of a queue on the server, including its defaults for jobs.
     QMap<QByteArray, QByteArray> queueAttributes(const QString &queue) const;
 
     /// A small document of several pages.

@@ -7,7 +7,7 @@
 
 #include <sys/types.h>
 
-/// A program on a terminal of its own, and a person in front of it.
+/// A program on its own pseudo-terminal, with typed input.
 class Terminal {
 public:
     /// The first word is the program's path.
@@ -16,11 +16,11 @@ public:
     Terminal(const Terminal &) = delete;
     Terminal &operator=(const Terminal &) = delete;
 
-    /// Everything shown so far, once the text is among it that has not been waited for yet. Fails the test
-    /// when it is never shown.
+    /// Waits for a text after those already waited for and returns everything shown so far. Fails the test on
+    /// timeout.
     QByteArray waitFor(const char *text);
     void type(const QByteArray &keys) const;
-    /// Reads until the program ends and answers its status; -1 when it crashed or had to be killed.
+    /// Reads until the program ends and returns its status; -1 when it crashed or had to be killed.
     int end();
     void signal(int number) const;
     const QByteArray &shown() const { return m_shown; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The program while memory runs out at any point: it says so and prints nothing, or prints the whole job
-// once.
+// The program while memory runs out at any point: it reports the error and prints nothing, or prints the
+// whole job once.
 #include "AllocationSweep.h"
 #include "KvprintTest.h"
 
@@ -90,7 +90,7 @@ private:
             return;
         const bool isSent = outcome.jobId() == job || outcome.error.contains(sentAllTheSame);
         const int state = jobStates().value(job);
-        // A program that could not find out what became of the job has left its record.
+        // A program that could not determine the state of the job has left its record.
         const bool isRecorded = !QDir(records()).isEmpty();
         const bool isGone = state == IPP_JOB_CANCELED || state == IPP_JOB_ABORTED;
         EXPECT_TRUE(isSent || isRecorded || isGone) << "job " << job << ", state " << state << "\n"

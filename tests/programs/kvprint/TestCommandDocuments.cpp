@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The manual page and the shells' completions tell the same options as the program's table.
+// The manual page and the shells' completions list the same options as the program's table.
 #include <programs/kvprint/CommandOption.h>
 #include <tests/support/Waiting.h>
 

@@ -23,7 +23,7 @@ host::Result<CommandLine, dialog::UsageError> parse(const char *line)
     return parse(QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts));
 }
 
-/// What the line says; an empty command, and a failed test, when it is refused.
+/// Parses the line. On an error, fails the test and returns an empty command.
 CommandLine read(const char *line)
 {
     const auto command = parse(line);
@@ -117,7 +117,7 @@ TEST(CommandLine, TwoDashesEndOptionsAndOneIsStandardInput)
 TEST(CommandLine, OptionsAreSplitAndQuotedAsLpDoes)
 {
     const std::pair<QString, QByteArray> rows[] = {
-        // Of one -o libcups answers the options in the order of their names.
+        // For one -o, libcups returns the options sorted by name.
         {QStringLiteral("c=d a=b"), "a=b c=d"},
         {QStringLiteral("a=b a=c"), "a=c"},
         {QStringLiteral("mirror nofit-to-page"), "fit-to-page=false mirror=true"},
@@ -145,7 +145,7 @@ TEST(CommandLine, OptionsThatMeanALetterAreTakenForIt)
     EXPECT_EQ(read("-o job-name=Jars").title, QStringLiteral("Jars"));
     EXPECT_EQ(read("-o page-set=even").settings.pageSet, host::PageSet::Even);
     EXPECT_EQ(read("-o outputorder=reverse").settings.order, host::PageOrder::LastFirst);
-    // Before all others, unless a later letter says how much before.
+    // Highest priority, unless a later option sets the priority.
     EXPECT_EQ(read("-q 50 -H immediate").settings.priority, 100);
     EXPECT_EQ(read("-H immediate -q 50").settings.priority, 50);
     EXPECT_EQ(read("-o collate=true").settings.collate, Collate::Yes);

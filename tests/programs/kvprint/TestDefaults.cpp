@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the user's lpoptions and the queue say of pages and copies is told and printed alike.
+// The values of the user's lpoptions and of the queue for pages and copies are shown and printed alike.
 #include "KvprintTest.h"
 
 #include <QJsonArray>

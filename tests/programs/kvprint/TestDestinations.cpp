@@ -40,7 +40,7 @@ protected:
 
 TEST_F(KvprintDestinations, AreFoundAsLpFindsThem)
 {
-    // Each way stands over those before it.
+    // Each way takes precedence over those before it.
     cupsd.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("roll")});
     EXPECT_EQ(queueOf(print({})), QStringLiteral("roll"));
     writeLpOptions("Default tape KvMirror=ON\n");
@@ -106,7 +106,7 @@ TEST_F(KvprintDestinations, HaveInstancesWithOptionsOfTheirOwn)
             << row.destination << ": " << job.optionText.toStdString();
     }
     EXPECT_TRUE(printed({QStringLiteral("-d"), QStringLiteral("tape/jars")}).option("PrintDensity").isNull());
-    // An instance that nobody has set up is the queue itself, as with lp.
+    // An instance that does not exist stands for the queue itself, as with lp.
     EXPECT_EQ(queueOf(print({QStringLiteral("-d"), QStringLiteral("tape/none")})), QStringLiteral("tape"));
 }
 

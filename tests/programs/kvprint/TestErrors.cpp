@@ -23,7 +23,7 @@ class KvprintErrors : public KvprintTest {
 protected:
     KvprintErrors() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
 
-    /// On the queue, a picture behind the words.
+    /// On the queue, with a picture after the arguments.
     void expectRefusalOnTape(const QStringList &words, const QStringList &messageParts)
     {
         expectRefusal(QStringList{QStringLiteral("-d"), tape} + words + QStringList{picture()}, messageParts);
@@ -68,12 +68,12 @@ TEST_F(KvprintErrors, NameBothSidesOfAConflict)
     const RecordedDocument job = printed(words + QStringList{QStringLiteral("--force")});
     EXPECT_EQ(job.option("MediaType"), "Film");
     EXPECT_EQ(job.option("PrintPriority"), "Speed");
-    // What the dialog would open with is told with its conflicts.
+    // The summary shows the initial settings of the dialog with their conflicts.
     const Outcome summary = kvprint.run(words + QStringList{QStringLiteral("--summary"), picture()});
     EXPECT_EQ(summary.status, 0) << summary;
     EXPECT_TRUE(summary.error.contains("Film") && summary.error.contains("Speed")) << summary;
     EXPECT_TRUE(summary.out.contains("Mirror Printing: No")) << summary;
-    // Only told, nothing is sent.
+    // Only reported; nothing is sent.
     const Outcome dryRun =
         kvprint.run(words + QStringList{QStringLiteral("--dry-run"), QStringLiteral("--force"), picture()});
     EXPECT_EQ(dryRun.status, 0) << dryRun;
@@ -277,7 +277,7 @@ TEST_F(KvprintErrors, NameChangesOfAJobThatItsPrinterDoesNotHave)
     EXPECT_EQ(jobAttributes(onTape).value("KvHalfCut"), "MAYBE");
     EXPECT_EQ(change(onTape, {word("-o"), word("KvHalfCut=ON job-priority=7")}).status, 0);
     EXPECT_EQ(jobAttributes(onTape).value("KvHalfCut"), "ON");
-    // Nobody knows what a queue without a PPD has.
+    // The options of a queue without a PPD are unknown.
     EXPECT_EQ(change(onRaw, unknown).status, 0);
     EXPECT_EQ(jobAttributes(onRaw).value("Foo"), "1");
 

@@ -65,8 +65,8 @@ protected:
         addSampleQueue(QStringLiteral("tape"), ppd);
     }
 
-    /// Prints once for each; the filter must get the wishes, or what the program says instead. Answers the
-    /// outcomes of all that were refused.
+    /// Prints once for each; the filter must receive the requested values, or those that the program reports
+    /// instead. Returns the outcomes of all rejected runs.
     std::vector<Outcome> check(const std::vector<Wishes> &all)
     {
         std::vector<QStringList> lists;
@@ -168,7 +168,7 @@ TEST_P(KvprintOptions, RandomCombinationsArriveAsTold)
         }
         all.push_back(wishes);
     }
-    // A refusal is one of a conflict, and says so.
+    // Every error is a conflict and is reported as one.
     for (const Outcome &outcome : check(all)) {
         EXPECT_EQ(outcome.status, 1) << outcome;
         EXPECT_EQ(outcome.out, QByteArray()) << outcome;

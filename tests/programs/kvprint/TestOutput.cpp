@@ -11,7 +11,7 @@ class KvprintOutput : public KvprintTest {
 protected:
     KvprintOutput() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
 
-    /// Runs the program with its streams as the shell is told, ">/dev/full".
+    /// Runs the program with these redirections of the shell, ">/dev/full".
     Outcome runRedirected(const char *streams, const QStringList &words) const
     {
         return kvprint.runOther(QStringLiteral("sh"),
@@ -39,7 +39,7 @@ TEST_F(KvprintOutput, WhatCannotBeWrittenIsToldAndNoSuccess)
             EXPECT_EQ(outcome.status, 1) << qPrintable(words.join(u' ')) << streams << "\n" << outcome;
             EXPECT_EQ(outcome.error.count("kvprint: Cannot write to standard output: "), 1) << outcome;
         }
-        // Complaints that nobody can read are no reason to fail.
+        // Warnings that cannot be written are not an error.
         EXPECT_EQ(runRedirected("2>&-", words).status, 0) << qPrintable(words.join(u' '));
     }
 }
@@ -51,7 +51,7 @@ TEST_F(KvprintOutput, AJobWhoseNumberCannotBeWrittenIsToldAmongTheMessages)
     EXPECT_EQ(outcome.status, 1) << outcome;
     EXPECT_TRUE(outcome.error.contains("The job was sent all the same, as tape-1.")) << outcome;
     EXPECT_EQ(recorded(1).firstKey(), 1);
-    // Who does not want to be told the number misses nothing.
+    // With -s the number is not printed, so writing cannot fail.
     EXPECT_EQ(runRedirected(">/dev/full", words + QStringList{QStringLiteral("-s")}).status, 0);
     EXPECT_EQ(recorded(2).size(), 2);
 }

@@ -61,7 +61,7 @@ protected:
         return json.object();
     }
 
-    /// lp sends, beside what it is told, what the queue does by itself.
+    /// lp sends the queue's defaults in addition to its arguments.
     void expectEqual(const QMap<QByteArray, QByteArray> &ours,
                      const QMap<QByteArray, QByteArray> &theirs) const
     {
@@ -74,7 +74,7 @@ protected:
                 << it.key().toStdString() << '=' << it.value().toStdString();
         }
     }
-    /// Filters get numbers for the words that servers tell.
+    /// Filters receive numbers where servers report keywords.
     static bool sameDefault(const QByteArray &queues, const QByteArray &filters)
     {
         return queues == filters || (queues == "none" && filters == "3");

@@ -26,7 +26,7 @@ class KvprintFaults : public KvprintTest {
 protected:
     KvprintFaults() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
 
-    /// Runs against another address than the server's; must fail and say the words.
+    /// Runs against another address than the server's; must fail with these texts.
     void expectFailureAt(const QString &address, const QString &document, const char *messagePart) const
     {
         const Outcome outcome = kvprint.run({QStringLiteral("--no-dialog"), QStringLiteral("-h"), address,
@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(outcome.error.contains(messagePart)) << outcome;
     }
 
-    /// All jobs have been taken back, and no filter was given anything.
+    /// All jobs have been canceled, and no filter has received anything.
     void expectNothingPrinted() const
     {
         for (const int state : jobStates())
@@ -81,7 +81,7 @@ TEST_F(KvprintFaults, AServerThatFallsSilentWhenItHasTheDocument)
     EXPECT_EQ(jobAttributes(1).value("number-of-documents"), "1");
     cupsd.resume(tape);
     expectNothingPrinted();
-    // Nor would it have been printed since: what comes later is done.
+    // It was not printed in the meantime either: a later job is complete.
     const int next = print({QStringLiteral("-d"), tape}).jobId();
     EXPECT_EQ(recorded(1).firstKey(), next);
 }
@@ -122,7 +122,7 @@ TEST_F(KvprintFaults, AServerThatEndsBeforeAndWhileAJobIsMade)
     program.setProcessEnvironment(kvprint.environment);
     program.start(QStringLiteral(KV_PROGRAM), {QStringLiteral("--no-dialog"), QStringLiteral("-h"),
                                                slow.address(), QStringLiteral("-d"), tape, document});
-    // The program has not heard of its job yet.
+    // The program has not received the answer about its job yet.
     while (slow.heldCount() == 0 && !program.waitForFinished(10))
         ;
     EXPECT_EQ(jobStates().size(), 1);

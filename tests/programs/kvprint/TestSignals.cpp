@@ -124,7 +124,7 @@ TEST_F(KvprintSignals, TheJobOfAKilledProgramIsToldAndSettledOnRequest)
         QProcess killed;
         start(killed, slow);
         waitUntilSending(jobId);
-        // A program that runs leaves nothing.
+        // The record of a running program is not reported.
         EXPECT_EQ(dryRun().error, QByteArray());
         ASSERT_EQ(kill(static_cast<pid_t>(killed.processId()), SIGKILL), 0);
         ASSERT_TRUE(killed.waitForFinished(failureMilliseconds));

@@ -149,7 +149,7 @@ TEST_F(KvprintTrust, AChangedCertificateIsAnErrorThatNamesBoth)
     EXPECT_EQ(outcome.status, 1) << outcome;
     for (const QByteArray &part : {server().toUtf8(), before, now, trustedFile().toUtf8()})
         EXPECT_TRUE(outcome.error.contains(part)) << part.toStdString() << "\n" << outcome;
-    // It is not asked for either: to trust it, the user does what the error says.
+    // The program does not ask about it either: to trust it, the user follows the error message.
     Terminal terminal(command(encrypted()), kvprint.environment);
     EXPECT_EQ(terminal.end(), 1);
     EXPECT_FALSE(terminal.shown().contains("continue:")) << terminal.shown().toStdString();
@@ -184,7 +184,7 @@ TEST_F(KvprintTrust, AnExpiredCertificateMayBeTrustedIfTheSettingsAllowIt)
         expectError(encrypted(), {server().toUtf8(), fingerprint(), "must not be trusted", "expired"});
         EXPECT_FALSE(QFile::exists(trustedFile()));
     }
-    // What was trusted once is refused when the settings change.
+    // A certificate that was trusted before is rejected when the settings change.
     file(QStringLiteral("home/.cups/client.conf"), "AllowExpiredCerts no\n");
     expectError(encrypted(), {"must not be trusted", "expired"});
 }

@@ -89,7 +89,7 @@ TEST_F(JobChangeTest, ChangesAsLpDoes)
     ASSERT_FALSE(change(wanted));
     auto mine = jobAttributes(server, ours);
     auto lps = jobAttributes(server, theirs);
-    // lp leaves what is told of the time as it was.
+    // lp leaves the reported hold time unchanged.
     EXPECT_EQ(mine.take("job-hold-until"), period.toUtf8());
     lps.remove("job-hold-until");
     EXPECT_EQ(mine, lps);

@@ -43,7 +43,7 @@ protected:
         const FaultProxy proxy(cupsd.port(), lostAnswer(IPP_OP_SEND_DOCUMENT, OtherConnections::Close));
         const Outcome outcome = print(ticketOfTwo(), serverAt(proxy.address()));
         EXPECT_TRUE(outcome.error);
-        // As long as the program runs, it has told what there is to tell.
+        // A running program reports its jobs itself.
         EXPECT_TRUE(journal.left().jobs.empty());
         EXPECT_EQ(abandonRecords(journal.folder(), cupsd.address()), 1);
         const JobJournal::Left left = journal.left();

@@ -75,7 +75,7 @@ TEST(JobOptions, EveryLayerStandsOverTheOneBelow)
         {{}, {}, {}, "KvMirror=OFF ppd"},
         {{{"KvMirror", "ON"}}, {}, {}, "KvMirror=ON queue"},
         {{}, {{"KvMirror", "ON"}}, {}, "KvMirror=ON user*"},
-        // The server knows nothing of lpoptions, whatever they say.
+        // The server does not know the values of lpoptions.
         {{}, {{"KvMirror", "OFF"}}, {}, "KvMirror=OFF user*"},
         {{}, {}, {{"KvMirror", "ON", Origin::You}}, "KvMirror=ON you*"},
         {{}, {}, {{"KvMirror", "ON", Origin::Preset}}, "KvMirror=ON preset*"},
@@ -83,11 +83,11 @@ TEST(JobOptions, EveryLayerStandsOverTheOneBelow)
         {{}, {}, {{"KvMirror", "OFF", Origin::You}}, "KvMirror=OFF you"},
         {{{"KvMirror", "ON"}}, {}, {{"KvMirror", "ON", Origin::You}}, "KvMirror=ON you"},
         {{{"KvMirror", "ON"}}, {}, {{"KvMirror", "OFF", Origin::You}}, "KvMirror=OFF you*"},
-        // A panel has said what it wants.
+        // The panel has set the value.
         {{}, {}, {{"KvMirror", "OFF", Origin::Panel}}, "KvMirror=OFF panel*"},
-        // Taken back over the user's default: unsaid, lp would print the default.
+        // Changed back over the user's default: without the option, lp would print the default.
         {{}, {{"KvMirror", "ON"}}, {{"KvMirror", "OFF", Origin::You}}, "KvMirror=OFF you*"},
-        // Changed to and fro.
+        // Changed and changed back.
         {{}, {}, {{"KvMirror", "ON", Origin::Preset}, {"KvMirror", "OFF", Origin::You}}, "KvMirror=OFF you*"},
     };
     const PpdFile ppd = tape();

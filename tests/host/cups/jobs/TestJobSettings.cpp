@@ -103,7 +103,7 @@ TEST(JobSettings, PagesThatThereAreNotAreAnErrorWhenSomebodyWishesForThem)
     EXPECT_EQ(pages(nullptr, "5-2147483647").value().pages, (std::vector<int>{4, 5}));
     EXPECT_EQ(pages(nullptr, "8,6").value().pages, std::vector<int>{5});
     EXPECT_EQ(pages("2-10", "1").error().kind, PageRangeFailure::OutOfDocument);
-    // An empty job says nothing to anybody.
+    // A job without pages is an error.
     EXPECT_EQ(pages(nullptr, "8-").error().kind, PageRangeFailure::NoPage);
     EXPECT_EQ(pages("1", "1", PageSet::Even).error().kind, PageRangeFailure::NoPage);
 }

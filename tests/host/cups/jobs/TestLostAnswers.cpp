@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Answers of the server that do not arrive, wholly or in part: what has become of the job is found out or
-// said.
+// Answers of the server that do not arrive, wholly or in part: the state of the job is determined, or
+// reported as unknown.
 
 #include <host/cups/jobs/JobStatus.h>
 #include <tests/servers/FaultyServer.h>

@@ -17,7 +17,7 @@ using test_support::PpdBuilder;
 
 namespace {
 
-/// A job on the queue "tape" that is looked at all the time, and what became known of it.
+/// A job on the queue "tape" that is monitored, and its reported states.
 struct Followed {
     Followed(const host::CupsServer &server, int jobId)
         : monitor(server, QStringLiteral("tape"), jobId, std::chrono::milliseconds(10))
@@ -57,7 +57,7 @@ TEST_F(PrintingTest, TheFilterGetsExactlyWhatWasSet)
     EXPECT_EQ(documents[0].option("collate"), "false");
     EXPECT_EQ(documents[0].option("orientation-requested"), "4");
     EXPECT_EQ(documents[0].option("page-ranges"), "1-2,4-2147483647");
-    // What nobody has set is left to the printer.
+    // Options that are not set are left to the printer.
     EXPECT_TRUE(documents[0].option("KvMirror").isNull()) << documents[0].optionText.toStdString();
     EXPECT_TRUE(documents[0].option("media").isNull()) << documents[0].optionText.toStdString();
     const QByteArray jobs =
@@ -162,7 +162,7 @@ TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
     EXPECT_EQ(cupsd.waitForDocuments(1).size(), 1U);
-    // Only now is it followed: before, a quick look may still find the job that has just been printed.
+    // Follows the job only now: an earlier query may still find the job that has just been printed.
     EXPECT_TRUE(waitUntil([&] {
         host::BackgroundTask task;
         auto connection = host::CupsConnection::open(server, task);
@@ -241,7 +241,7 @@ TEST_F(PrintingTest, JobNumbersMayBeAsLargeAsIppAllows)
 TEST_F(PrintingTest, PapersKeepTheirNamesByteForByte)
 {
     PpdBuilder builder;
-    // All of one size: only the name tells them apart.
+    // All papers have one size: only their names differ.
     for (const QByteArray &name : oddPaperNames())
         builder.paper(name, 68.0, 170.0);
     cupsd.addQueue(QStringLiteral("tape"), builder.ppd());
@@ -256,7 +256,7 @@ TEST_F(PrintingTest, PapersKeepTheirNamesByteForByte)
         job.options = makeJobOptions(job.destination, &odd.value(), {{"PageSize", paper.name}}, {});
         const Outcome outcome = print(job);
         if (paper.name == "{f123") {
-            // A brace that is not closed would swallow the options behind it: better no job.
+            // An unclosed brace would include the options after it, so the job is not sent.
             ASSERT_TRUE(outcome.error);
             EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("{f123")));
             continue;
@@ -301,7 +301,7 @@ TEST_F(PrintingTest, TheLpLineMakesTheSameJob)
         EXPECT_FALSE(mine.isEmpty());
         for (auto it = mine.begin(); it != mine.end(); ++it)
             EXPECT_EQ(lps.value(it.key()), it.value()) << it.key().toStdString();
-        // lp also says what the queue does by itself.
+        // lp also sends the queue's defaults.
         const QMap<QByteArray, QByteArray> defaults = queueDefaults(server, QStringLiteral("tape"));
         for (auto it = lps.begin(); it != lps.end(); ++it) {
             if (!mine.contains(it.key())) {

@@ -17,7 +17,7 @@ using test_support::turnEventLoop;
 
 namespace {
 
-/// A job on its way, and what becomes of it.
+/// A job that is being sent, and its outcome.
 struct Sending {
     Sending(const CupsServer &server, const JobTicket &job)
         : submission(server)
@@ -36,7 +36,7 @@ struct Sending {
 
 } // namespace
 
-/// The faults of servers and documents: an error in words, and nothing printed twice.
+/// The faults of servers and documents: an error with a message, and nothing printed twice.
 class PrintingFaultsTest : public PrintingTest {
 protected:
     /// More than the systems of both sides take while the server reads nothing.
@@ -175,7 +175,7 @@ TEST_F(PrintingFaultsTest, ASlowLinkIsWaitedForAsLongAsItTakesSomething)
     Sending sending(link, job);
     qint64 taken = 0;
     for (int steps = 0; !sending.isOver(); ++steps) {
-        // A server that takes something within this time is not silent.
+        // A server that reads data within this time is not silent.
         clock.advance(link.timeout / 4);
         taken += 100'000;
         EXPECT_TRUE(waitUntil([&] { return sending.isOver() || slow.takenBytes() > taken; }));
@@ -274,7 +274,7 @@ TEST_F(PrintingFaultsTest, ClosingTheDialogWhileSendingWaitsForNothingAndPrintsN
     {
         const Sending sending(serverAt(stalling.address()), largeTicket());
         EXPECT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
-        // The answer about the job that is taken back comes when the dialog is gone, and only then.
+        // The answer about the canceled job arrives only after the dialog is destroyed.
         stalling.hold();
     }
     EXPECT_TRUE(waitUntil([&] { return stalling.requestCount(IPP_OP_CANCEL_JOB) == 1; }));

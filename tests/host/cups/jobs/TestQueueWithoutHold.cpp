@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Print servers that cannot hold a job without end: the job is sent as it is, and an answer that is lost
-// leaves more in the dark.
+// Print servers that cannot hold a job indefinitely: the job is sent without a hold, and after a lost answer
+// less is known about it.
 
 #include <host/cups/jobs/JobStatus.h>
 #include <tests/servers/PrintingTest.h>

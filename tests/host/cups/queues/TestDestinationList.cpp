@@ -34,7 +34,7 @@ QStringList names(const DestinationList &list)
     return all;
 }
 
-/// What became of one question.
+/// The outcome of one request.
 struct Outcome {
     bool refreshed = false;
     std::optional<host::CupsError> error;
@@ -141,7 +141,7 @@ TEST_F(DestinationListTest, InstancesStandBehindTheirQueuesEvenWhenTheQueueHasNo
     EXPECT_TRUE(list.find(QStringLiteral("narrow"))->userOptions.empty());
     EXPECT_EQ(list.find(QStringLiteral("wide"))->userOptions,
               (std::vector<host::NamedValue>{{"sides", "one-sided"}}));
-    // lp takes an instance that nobody has made for the queue.
+    // lp uses the queue for an instance that does not exist.
     EXPECT_EQ(list.find(QStringLiteral("wide/never"))->name(), QStringLiteral("wide"));
     EXPECT_EQ(list.find(QStringLiteral("never")), nullptr);
 }
@@ -249,7 +249,7 @@ TEST_F(DestinationListTest, ASlowServerTakesItsTimeAndNoMore)
     slow.release();
     EXPECT_TRUE(waitUntil([&] { return refreshed; }));
     EXPECT_EQ(list.destinations().size(), 4U);
-    // One question: a dialog on a slow line cannot afford more.
+    // Only one request: on a slow connection more would delay the dialog.
     EXPECT_EQ(slow.requestCount(), 1);
 }
 

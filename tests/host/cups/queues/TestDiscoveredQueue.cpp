@@ -169,9 +169,9 @@ TEST_F(DiscoveredQueueTest, APrinterThatIsGoneIsTold)
         const char *address;
         const char *words;
     } rows[] = {
-        // Nobody is there any more.
+        // The address no longer has a listening printer.
         {"ipp://127.0.0.1:1/ipp/print", "cannot reach the printer \"found\""},
-        // Nobody announces that name any more.
+        // The name is no longer announced.
         {"ipp://Labels%20upstairs._ipp._tcp.local/", "\"found\" is not on the network"},
     };
     for (const auto &row : rows) {

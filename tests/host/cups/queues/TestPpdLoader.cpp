@@ -28,7 +28,7 @@ namespace {
 
 const QString tape = QStringLiteral("tape");
 
-/// What a loader told about one question.
+/// What a loader reported for one request.
 struct Outcome {
     std::shared_ptr<PpdFile> ppd;
     bool unchanged = false;
@@ -121,7 +121,7 @@ TEST_F(PpdLoaderTest, QueuesWithoutPpdAndQueuesThatAreGoneHaveNone)
 TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
 {
     ASSERT_TRUE(load(tape).ppd);
-    // The cache is kept under the server's name, whatever has become of the server.
+    // The cache is stored under the server's name, even after the server has ended.
     cupsd->kill();
     const Outcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
@@ -155,7 +155,7 @@ TEST_F(PpdLoaderTest, APpdMayComeInPieces)
 
 TEST_F(PpdLoaderTest, ADamagedPpdIsToldAndNotKept)
 {
-    // Put in place behind the server's back: it would not take such a PPD.
+    // Put in place behind the server's back: it would reject such a PPD.
     const QString file = cupsd->path(QStringLiteral("etc/ppd/tape.ppd"));
     QFile ppd(file);
     ASSERT_TRUE(ppd.open(QIODevice::ReadWrite));

@@ -9,7 +9,7 @@
 using test_support::PpdBuilder;
 using test_support::PrivateCupsd;
 
-// The server that all other tests stand on: what lp sends must come out of the recording filter.
+// The server that all other tests use: what lp sends must come out of the recording filter.
 TEST(PrivateCupsd, RecordsWhatItsFilterIsGiven)
 {
     PrivateCupsd server;

@@ -331,7 +331,7 @@ TEST_F(TrustTest, AWrongPasswordIsAskedForThreeTimesAndThenNoMore)
     EXPECT_FALSE(passwordPrompts[0].contains(QStringLiteral("is wrong")));
     EXPECT_TRUE(passwordPrompts[1].contains(QStringLiteral("is wrong")));
     EXPECT_TRUE(passwordPrompts[2].contains(QStringLiteral("is wrong")));
-    // A refused password is not sent again: the server may lock the user out.
+    // A rejected password is not sent again: the server may lock the user out.
     EXPECT_EQ(guarded.passwordCount(), 3);
     questions.ask();
     EXPECT_EQ(passwordPrompts.size(), 3);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// A bundle as small as one can be: one panel with one check box for the option "KvMirror". It tells in its
-// summary what it heard from the dialog. While its view has the property "refusesJobs", it lets no job pass;
-// it counts in "askedForJobs" how often it was asked.
+// A minimal bundle: one panel with one check box for the option "KvMirror". Its summary lists the calls that
+// it received from the dialog. While its view has the property "refusesJobs", it rejects every job;
+// "askedForJobs" counts how often it was called for a job.
 #include <protocol/PDEPlugIn.h>
 #include <protocol/PDEUserChoices.h>
 
