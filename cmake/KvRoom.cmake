@@ -3,11 +3,11 @@
 #
 #   kv_room(PATH [SHARED|INTERFACE] [PART_OF TARGET] [AS PREFIX] SOURCES ... USES ROOM... LIBRARIES ...)
 #
-# The target of host/cups/jobs is kv_host_cups_jobs; its headers are included as <host/cups/jobs/Header.h>, or
-# as <PREFIX/Header.h>. They are reached through an include root that holds nothing but a link to the folder, and
-# that only those see who list the room under USES. A room does not pass on the include roots of what it uses: an
-# include of a room that is not listed does not compile. Only rooms that exist already can be listed, so no cycle
-# is possible.
+# The target of host/cups/jobs is kv_host_cups_jobs; its headers are included as <host/cups/jobs/Header.h>,
+# or as <PREFIX/Header.h>. They are found through an include root that contains only a link to the folder and
+# is visible only to rooms that list this room under USES. A room does not export the include roots of the
+# rooms that it uses: an include of a room that is not listed does not compile. Only rooms that are already
+# defined can be listed, so no cycle is possible.
 #
 # PART_OF: the room is a part of that shared library, which is linked where the room is used.
 #
@@ -47,8 +47,8 @@ function(kv_room path)
         return()
     endif()
 
-    # Most code runs once, while the user waits for the window: what has to be read from the disk and kept in
-    # memory counts, not loops. Sources that look at each pixel ask for -O2.
+    # Most code runs once, while the user waits for the window: the size of the code matters more than the
+    # speed of loops. Sources that process each pixel set -O2.
     target_compile_options(kv_${name} PRIVATE $<$<CONFIG:Release>:-Os>)
     set_target_properties(kv_${name} PROPERTIES AUTOMOC ON)
     target_include_directories(kv_${name} PRIVATE "${root}")
@@ -77,7 +77,7 @@ function(kv_use target scope)
     endforeach()
 endfunction()
 
-# kv_rooms_below(RESULT ROOM...): the rooms and all that they use, one way or another.
+# kv_rooms_below(RESULT ROOM...): the rooms and all that they use, directly or indirectly.
 function(kv_rooms_below result)
     set(found "")
     set(pending ${ARGN})

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# Every source file is laid out as .clang-format says.
+# Checks that every source file is formatted as .clang-format specifies.
 set -eu
 cd -- "$(dirname -- "$0")/.."
 . tools/frontdoor.sh

@@ -1,14 +1,14 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# Runs clang-tidy with .clang-tidy over every source of the programs and the bundle, in batches of sources: most of its
-# time goes into the headers of Qt, which it reads once for each batch. A batch includes its sources, which is no
-# mistake here.
+# Runs clang-tidy with .clang-tidy over every source of the programs and the bundle, in batches of sources:
+# most of its time is spent on the headers of Qt, which it reads once for each batch. A batch includes source
+# files on purpose.
 set -eu
 cd -- "$(dirname -- "$0")/.."
 . tools/frontdoor.sh
 install_missing_packages .
 cmake --preset tidy >/dev/null
-# The sources that the compiler is given, but for those that the build writes.
+# The sources that are compiled, except generated ones.
 sed -n 's/^  "file": "\(.*\)",\{0,1\}$/\1/p' build/tidy/compile_commands.json |
     grep -v -e _autogen/ -e /\.rcc/ |
     tr '\n' '\0' |

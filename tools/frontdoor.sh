@@ -2,7 +2,7 @@
 # shellcheck shell=sh
 # Shared by ./run, ./test and .ci/run: packages, build, tests. Sourced, not executed.
 
-# install_missing_packages ROOT: installs what apt-packages.txt lists and is not there yet.
+# install_missing_packages ROOT: installs the missing packages of apt-packages.txt.
 install_missing_packages() {
     missing=""
     for package in $(sed 's/#.*//' "$1/apt-packages.txt"); do
@@ -29,7 +29,7 @@ install_missing_packages() {
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $missing >&2
 }
 
-# build ROOT PRESET TARGET...: configures when needed and builds. Quick when nothing is to be done.
+# build ROOT PRESET TARGET...: configures when needed and builds. Fast when everything is up to date.
 build() {
     root=$1
     preset=$2
@@ -59,8 +59,8 @@ run_tests() {
     return "$status"
 }
 
-# count_results FOLDER: prints "N passed, N failed". A GoogleTest program counts as its cases, by its own
-# results; a program that left none (a script, or one that crashed) counts as one.
+# count_results FOLDER: prints "N passed, N failed". The cases of a GoogleTest program are counted from its
+# results; a program without results (a script, or one that crashed) counts as one.
 count_results() {
     # From inside the folder, so that blanks in its path do not matter.
     # shellcheck disable=SC2046 # the list is words

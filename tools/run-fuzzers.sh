@@ -1,9 +1,10 @@
 #!/bin/sh
 # SPDX-License-Identifier: Apache-2.0
-# tools/run-fuzzers.sh [SECONDS [NAME...]]: builds the fuzzers and runs each for so many seconds, 20 by default, under
-# AddressSanitizer and UndefinedBehaviorSanitizer, two at a time. Starts from fuzz/corpus, which stays as it is; new
-# inputs go to build/fuzz/corpus. An input that fails lies in build/fuzz/findings; the exit status is 1 then.
-# KV_FUZZ_SEED is the seed: 1 by default, so that a short run repeats itself; 0 chooses one at random, for long runs.
+# tools/run-fuzzers.sh [SECONDS [NAME...]]: builds the fuzzers and runs each for SECONDS, 20 by default, under
+# AddressSanitizer and UndefinedBehaviorSanitizer, two at a time. Starts from fuzz/corpus, which is not
+# changed; new inputs are written to build/fuzz/corpus. Failing inputs are written to build/fuzz/findings; the
+# exit status is then 1. KV_FUZZ_SEED is the seed: 1 by default, so that short runs are repeatable; 0 chooses
+# a random seed, for long runs.
 set -eu
 here=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
 . "$here/tools/frontdoor.sh"
