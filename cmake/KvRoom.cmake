@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # A room is a folder, a target and an include root. It uses exactly the rooms that it lists.
 #
-#   kv_room(PATH [SHARED|INTERFACE] [PART_OF TARGET] [AS PREFIX] SOURCES ... USES ROOM... LIBRARIES ...)
+#   kv_room(PATH [INTERFACE] [PART_OF TARGET] [AS PREFIX] SOURCES ... USES ROOM... LIBRARIES ...)
 #
 # The target of host/cups/jobs is kv_host_cups_jobs; its headers are included as <host/cups/jobs/Header.h>,
 # or as <PREFIX/Header.h>. They are found through an include root that contains only a link to the folder and
@@ -11,11 +11,12 @@
 #
 # PART_OF: the room is a part of that shared library, which is linked where the room is used.
 #
-# For every room there are three global properties: KV_ROOM_<path>_ROOT, its include root, KV_ROOM_<path>_USES,
-# the rooms it lists, and KV_ROOM_<path>_AS, what its headers are included as. KV_ROOMS lists all paths.
+# For every room there are four global properties: KV_ROOM_<path>_ROOT, its include root, KV_ROOM_<path>_USES,
+# the rooms it lists, KV_ROOM_<path>_AS, what its headers are included as, and KV_ROOM_<path>_PART_OF, its shared
+# library. KV_ROOMS lists all paths.
 
 function(kv_room path)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "SHARED;INTERFACE" "AS;PART_OF" "SOURCES;USES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "INTERFACE" "AS;PART_OF" "SOURCES;USES;LIBRARIES")
     string(REPLACE "/" "_" name "${path}")
     if(NOT arg_AS)
         set(arg_AS "${path}")
@@ -28,8 +29,6 @@ function(kv_room path)
 
     if(arg_INTERFACE)
         set(kind INTERFACE)
-    elseif(arg_SHARED)
-        set(kind SHARED)
     elseif(arg_PART_OF)
         set(kind OBJECT)
     else()
