@@ -9,7 +9,7 @@ struct LabelExtent {
     /// Blank before the first and after the last mark on the label.
     double leadingBlank = 0.0;
     double trailingBlank = 0.0;
-    /// Nothing is on the label at all.
+    /// The label has no mark.
     bool whollyBlank = false;
     /// Whether the blank is known. Until then it counts as 0.
     bool isMeasured = true;

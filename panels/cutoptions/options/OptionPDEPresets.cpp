@@ -52,7 +52,7 @@ void OptionPDE13_v400_::applyPreset(int tag)
 
 bool OptionPDE13_v400_::validateMenuItem(int tag) const
 {
-    // Flag labels can be cut after each label or not at all; the other combinations need options that are
+    // Flag labels can be cut after each label or left uncut; the other combinations need options that are
     // disabled.
     static constexpr std::array<int, 7> notOnFlagPaper = {5, 6, 7, 9, 10, 11, 12};
     return !currentPaperName().startsWith("FL") ||
