@@ -25,9 +25,10 @@ void VirtualSender::send(const ReadyJob &job)
     const host::PrintedStrip strip{*job.plan, *job.renderer, job.ticket.document, job.ticket.printer,
                                    job.ticket.paper->text};
     const QJsonObject options = host::printedJobJson(job.ticket, job.document, job.ppdPath, *job.plan);
-    if (const std::optional<host::OutputError> error =
-            host::VirtualPrinter::print(strip, options, picture, folder)) {
-        Q_EMIT failed(error->message);
+    const host::Result<void, host::OutputError> printed =
+        host::VirtualPrinter::print(strip, options, picture, folder);
+    if (!printed) {
+        Q_EMIT failed(printed.error().message);
         return;
     }
     m_usedFolder = QDir(folder).absolutePath();

@@ -39,7 +39,7 @@ QImage completePicture(QWidget &window)
     return picture;
 }
 
-std::optional<host::OutputError> saveScreenshot(QWidget &window, const QString &path)
+host::Result<void, host::OutputError> saveScreenshot(QWidget &window, const QString &path)
 {
     const QImage picture = completePicture(window);
     const QFileInfo target(path);

@@ -6,8 +6,6 @@
 #include <QImage>
 #include <QString>
 
-#include <optional>
-
 class QWidget;
 
 namespace dialog {
@@ -16,8 +14,7 @@ namespace dialog {
 /// then, and handles events meanwhile.
 QImage completePicture(QWidget &window);
 
-/// Saves a complete picture of the window as a PNG file, all of it or nothing. Nothing, or why it cannot be
-/// saved.
-std::optional<host::OutputError> saveScreenshot(QWidget &window, const QString &path);
+/// Saves a complete picture of the window as a PNG file. An error leaves no incomplete file.
+host::Result<void, host::OutputError> saveScreenshot(QWidget &window, const QString &path);
 
 } // namespace dialog

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -43,8 +44,39 @@ public:
     /// The error.
     const Error &error() const { return std::get<1>(m_content); }
 
+    /// Returns the same outcome without the value.
+    Result<void, Error> withoutValue() const;
+
 private:
     std::variant<Value, Error> m_content;
 };
+
+/// The result of an operation without a value: success or an error.
+template<typename Error>
+class [[nodiscard]] Result<void, Error> {
+public:
+    /// Success: "return {};".
+    Result() = default;
+    /// A result that holds an error. Converts implicitly, so that a function can return an error.
+    Result(Error error)
+        : m_error(std::move(error))
+    {
+    }
+
+    /// Returns true on success.
+    explicit operator bool() const { return !m_error; }
+
+    /// The error. Reading it after success is a programming error and throws std::bad_optional_access.
+    const Error &error() const { return m_error.value(); }
+
+private:
+    std::optional<Error> m_error;
+};
+
+template<typename Value, typename Error>
+Result<void, Error> Result<Value, Error>::withoutValue() const
+{
+    return *this ? Result<void, Error>() : Result<void, Error>(error());
+}
 
 } // namespace host

@@ -89,12 +89,12 @@ Result<PpdSource, PpdError> PpdSource::open(const QString &path, qint64 largestT
         ::close(descriptor);
         return failure(PpdFailure::Unreadable, path, qt_error_string(errno));
     }
-    if (const std::optional<PpdError> error = source.check(largestText, descriptor))
-        return *error;
+    if (const Result<void, PpdError> checked = source.check(largestText, descriptor); !checked)
+        return checked.error();
     return source;
 }
 
-std::optional<PpdError> PpdSource::check(qint64 largestText, int descriptor)
+Result<void, PpdError> PpdSource::check(qint64 largestText, int descriptor)
 {
     struct stat status = {};
     if (fstat(descriptor, &status) != 0)
@@ -116,7 +116,7 @@ std::optional<PpdError> PpdSource::check(qint64 largestText, int descriptor)
         return failure(PpdFailure::TooLarge, m_path, tooMany(*excess));
     if (cupsFileRewind(m_file.get()) != 0)
         return systemFailure(m_path, errno);
-    return std::nullopt;
+    return {};
 }
 
 Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)

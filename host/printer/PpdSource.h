@@ -31,7 +31,7 @@ private:
 
     PpdSource(QString path, cups_file_t *file);
 
-    std::optional<PpdError> check(qint64 largestText, int descriptor);
+    Result<void, PpdError> check(qint64 largestText, int descriptor);
 
     Result<qint64, PpdError> readThrough(qint64 largestText);
 

@@ -137,7 +137,7 @@ void PrinterSetup::takePaper(const SetupWishes &wishes)
         if (m_paper) {
             record(paperKeyword, m_paper->name, Origin::You);
         } else {
-            m_refusals.push_back(*checkChoice(m_state->ppd(), wish));
+            m_refusals.push_back(checkChoice(m_state->ppd(), wish).error());
             m_refusedWishes.push_back(wish);
         }
     } else if (const std::optional<QByteArray> lacking = lackingUserPaper()) {
@@ -163,7 +163,7 @@ void PrinterSetup::refuseUnusableDefault()
     // Without a choice, the server would print on it.
     const QByteArray paper = PpdOptions(ppd()).defaultChoice(paperKeyword);
     if (m_refusals.empty() && ppd().unusableSize(paper))
-        m_refusals.push_back(*checkChoice(ppd(), {paperKeyword, paper, Origin::Ppd}));
+        m_refusals.push_back(checkChoice(ppd(), {paperKeyword, paper, Origin::Ppd}).error());
 }
 
 void PrinterSetup::keepRefused(const SetupWishes &wishes)

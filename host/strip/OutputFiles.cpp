@@ -53,13 +53,13 @@ void OutputFiles::makeFolder()
 
 void OutputFiles::fail(OutputFailure kind, const QString &path, const QString &reason)
 {
-    if (!m_error)
-        m_error = OutputError{kind, OutputFilesText::tr("Cannot write \"%1\": %2").arg(path, reason)};
+    if (m_outcome)
+        m_outcome = OutputError{kind, OutputFilesText::tr("Cannot write \"%1\": %2").arg(path, reason)};
 }
 
 void OutputFiles::write(const QString &name, const std::function<bool(QIODevice *)> &writer)
 {
-    if (m_error)
+    if (!m_outcome)
         return;
     auto file = std::make_unique<platform::OutputFile>(m_folder + u'/' + name);
     if (!file->write(writer))
@@ -67,24 +67,24 @@ void OutputFiles::write(const QString &name, const std::function<bool(QIODevice 
     m_files.push_back(std::move(file));
 }
 
-std::optional<OutputError> OutputFiles::commit()
+Result<void, OutputError> OutputFiles::commit()
 {
     QStringList placed;
     for (const std::unique_ptr<platform::OutputFile> &file : m_files) {
-        if (m_error)
+        if (!m_outcome)
             break;
         if (!file->commit())
             fail(OutputFailure::NotWritten, file->path(), file->errorString());
         else if (file->hasPlacedFile())
             placed.append(file->path());
     }
-    m_done = !m_error;
-    if (m_error) {
+    m_done = static_cast<bool>(m_outcome);
+    if (!m_done) {
         for (const QString &path : placed)
             QFile::remove(path);
     }
     m_files.clear();
-    return m_error;
+    return m_outcome;
 }
 
 } // namespace host

@@ -26,8 +26,8 @@ public:
     /// Writes one file with the function, which returns false if the device cannot hold the data. Does
     /// nothing after an earlier error.
     void write(const QString &name, const std::function<bool(QIODevice *)> &writer);
-    /// Moves all files into place. Returns std::nullopt on success, otherwise the first error.
-    std::optional<OutputError> commit();
+    /// Moves all files into place. Returns the first error of this or an earlier operation.
+    Result<void, OutputError> commit();
 
 private:
     void makeFolder();
@@ -37,7 +37,7 @@ private:
     /// The topmost folder that was created; empty if the folder existed.
     QString m_madeFolder;
     std::vector<std::unique_ptr<platform::OutputFile>> m_files;
-    std::optional<OutputError> m_error;
+    Result<void, OutputError> m_outcome;
     bool m_done = false;
 };
 

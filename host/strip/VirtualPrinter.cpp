@@ -18,8 +18,8 @@ const QString VirtualPrinter::stripName = QStringLiteral("strip.pdf");
 const QString VirtualPrinter::jobName = QStringLiteral("job.json");
 const QString VirtualPrinter::dialogName = QStringLiteral("dialog.png");
 
-std::optional<OutputError> VirtualPrinter::print(const PrintedStrip &strip, const QJsonObject &job,
-                                                 const QImage &dialog, const QString &folder)
+Result<void, OutputError> VirtualPrinter::print(const PrintedStrip &strip, const QJsonObject &job,
+                                                const QImage &dialog, const QString &folder)
 {
     OutputFiles files(folder);
     files.write(stripName, [&](QIODevice *device) { return writeStripPdf(strip, device); });
@@ -31,9 +31,9 @@ std::optional<OutputError> VirtualPrinter::print(const PrintedStrip &strip, cons
         files.write(dialogName, [&](QIODevice *device) { return QImageWriter(device, "png").write(dialog); });
     // commit() moves the files into the folder one by one, so from here on some may exist.
     OutOfMemory::setJobProgress(JobProgress::Underway);
-    std::optional<OutputError> error = files.commit();
-    OutOfMemory::setJobProgress(error ? JobProgress::Nothing : JobProgress::Printed);
-    return error;
+    Result<void, OutputError> outcome = files.commit();
+    OutOfMemory::setJobProgress(outcome ? JobProgress::Printed : JobProgress::Nothing);
+    return outcome;
 }
 
 QString VirtualPrinter::freshFolder()

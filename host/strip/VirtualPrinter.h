@@ -21,10 +21,10 @@ public:
 
     /// Writes the strip and the machine-readable options of the job to the folder, which is created if it
     /// does not exist. Files and folder are accessible to this user only. A picture of the dialog is written,
-    /// too, unless it is null. Returns std::nullopt if all files are written; otherwise the error, and, as
-    /// far as the file system permits, neither files nor folders that this call created remain.
-    static std::optional<OutputError> print(const PrintedStrip &strip, const QJsonObject &job,
-                                            const QImage &dialog, const QString &folder);
+    /// too, unless it is null. After an error, as far as the file system permits, neither files nor folders
+    /// that this call created remain.
+    static Result<void, OutputError> print(const PrintedStrip &strip, const QJsonObject &job,
+                                           const QImage &dialog, const QString &folder);
 
     /// Returns the path of an unused folder for one job, named after the current time, below the user's data
     /// folder. The folder is not created.

@@ -190,10 +190,10 @@ host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &argume
     return Reader(arguments.mid(1)).read();
 }
 
-std::optional<UsageError> checkInput(const CommandLine &command, bool inputIsTerminal)
+host::Result<void, UsageError> checkInput(const CommandLine &command, bool inputIsTerminal)
 {
     if (!takesDocuments(command.task) || !command.documents.isEmpty() || !inputIsTerminal)
-        return std::nullopt;
+        return {};
     return wrong(CommandParserText::tr("No document was named; name a file, or \"-\" to type one in"));
 }
 

@@ -17,8 +17,8 @@ using UsageError = host::Failure<UsageProblem>;
 /// Reads the arguments, the program's name first. Needs no application object.
 host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &arguments);
 
-/// Nothing, or why standard input cannot be printed although the command names no document: when standard
-/// input is a terminal, the program would seem to hang.
-std::optional<UsageError> checkInput(const CommandLine &command, bool inputIsTerminal);
+/// Checks whether standard input can be printed if the command names no document: if it is a terminal, the
+/// program would seem to hang.
+host::Result<void, UsageError> checkInput(const CommandLine &command, bool inputIsTerminal);
 
 } // namespace dialog

@@ -137,10 +137,10 @@ bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
     PrintDialog dialog(m_document, keeper, sender, {m_command.settings, m_command.title, {}});
     dialog.show();
     QCoreApplication::processEvents();
-    const std::optional<host::OutputError> error = saveScreenshot(dialog, *m_command.screenshot);
-    if (error)
-        m_console.complain(error->message);
-    return !error;
+    const auto saved = saveScreenshot(dialog, *m_command.screenshot);
+    if (!saved)
+        m_console.complain(saved.error().message);
+    return static_cast<bool>(saved);
 }
 
 ExitStatus HeadlessRun::run()

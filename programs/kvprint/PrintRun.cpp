@@ -207,10 +207,12 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
 
 bool PrintRun::takeScreenshot(PrintDialog &dialog)
 {
-    const auto error = m_command.screenshot ? saveScreenshot(dialog, *m_command.screenshot) : std::nullopt;
-    if (error)
-        m_console.complain(error->message);
-    return !error;
+    if (!m_command.screenshot)
+        return true;
+    const auto saved = saveScreenshot(dialog, *m_command.screenshot);
+    if (!saved)
+        m_console.complain(saved.error().message);
+    return static_cast<bool>(saved);
 }
 
 void PrintRun::tellSummary(const std::vector<SummarySection> &summary)

@@ -84,10 +84,12 @@ bool ServerRun::printerHas(const host::JobChange &change)
     }
     bool hasAll = true;
     for (const host::JobChoice &choice : change.options) {
-        const auto error = ppd.value() ? host::checkChoice(*ppd.value(), choice) : std::nullopt;
-        if (error)
-            m_console.complain(error->message);
-        hasAll = hasAll && !error;
+        if (!ppd.value())
+            continue;
+        const auto checked = host::checkChoice(*ppd.value(), choice);
+        if (!checked)
+            m_console.complain(checked.error().message);
+        hasAll = hasAll && checked;
     }
     return hasAll;
 }
@@ -99,12 +101,12 @@ ExitStatus ServerRun::changeJob()
         change.options.push_back({"PageSize", *m_command.paper});
     if (!m_command.force && !change.options.empty() && !printerHas(change))
         return ExitStatus::Failed;
-    const auto failure = outcomeOf([server = m_server, change](host::BackgroundTask &task) {
+    const auto changed = outcomeOf([server = m_server, change](host::BackgroundTask &task) {
         return host::changeJob(server, change, task);
     });
-    if (!failure)
+    if (changed)
         return ExitStatus::Printed;
-    m_console.complain(failure->message);
+    m_console.complain(changed.error().message);
     return ExitStatus::Failed;
 }
 

@@ -115,8 +115,8 @@ int main(int argc, char **argv)
     auto command = dialog::parseCommandLine(arguments);
     if (!command)
         return status(refuse(command.error(), streams), streams);
-    if (const auto error = checkInput(command.value(), isatty(STDIN_FILENO) == 1))
-        return status(refuse(*error, streams), streams);
+    if (const auto checked = checkInput(command.value(), isatty(STDIN_FILENO) == 1); !checked)
+        return status(refuse(checked.error(), streams), streams);
     command.value().noDialog = command.value().noDialog || !attended;
     const dialog::Console console{[&](const QString &text) { return streams.out(text); },
                                   dialog::StandardStreams::error};

@@ -130,8 +130,8 @@ QJsonObject SweptPrinter::writtenJob()
     const Sandbox folder;
     const host::PrintedStrip strip{*m_plan, renderer(), m_ticket->document, m_ticket->printer,
                                    m_ticket->paper->text};
-    const auto error = host::VirtualPrinter::print(strip, job(), {}, folder.path(QStringLiteral("job")));
-    EXPECT_FALSE(error) << error->message.toStdString();
+    const auto printed = host::VirtualPrinter::print(strip, job(), {}, folder.path(QStringLiteral("job")));
+    EXPECT_TRUE(printed) << printed.error().message.toStdString();
     return QJsonDocument::fromJson(
                contentOf(folder.path(QStringLiteral("job/") + host::VirtualPrinter::jobName)))
         .object();

@@ -140,7 +140,7 @@ std::vector<host::JobStatus> FaultSweepTest::settledJobs()
     for (const host::JobStatus &job : jobs) {
         m_lastJob = job.jobId;
         if (job.state == JobState::Held)
-            cancelJob(server, job.queue, job.jobId, task);
+            EXPECT_TRUE(cancelJob(server, job.queue, job.jobId, task));
     }
     return jobs;
 }

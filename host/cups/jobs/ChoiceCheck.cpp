@@ -116,7 +116,7 @@ ChoiceError unusablePaper(const PpdFile &ppd, const QString &paper, const QSizeF
 
 } // namespace
 
-std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choice)
+Result<void, ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choice)
 {
     const QString name = QString::fromUtf8(choice.name);
     const QString value = QString::fromUtf8(choice.value);
@@ -124,14 +124,14 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
     // libcups finds options case-insensitively; filters do not.
     if (!option || choice.name != option->keyword) {
         if (isServerOption(choice.name))
-            return std::nullopt;
+            return {};
         return ChoiceError{
             ChoiceFailure::UnknownOption,
             ChoiceCheckText::tr("The printer \"%1\" has no option \"%2\".").arg(ppd.printerName(), name)};
     }
     if (choice.name == "PageSize") {
         if (ppd.paper(choice.value))
-            return std::nullopt;
+            return {};
         if (const std::optional<QSizeF> size = ppd.unusableSize(choice.value))
             return unusablePaper(ppd, value, *size);
         return ChoiceError{
@@ -141,13 +141,13 @@ std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choi
     const bool takesSeveral = option->kind == PpdOptionKind::PickMany;
     // An option with several choices may have none.
     if (takesSeveral && choice.value.isEmpty())
-        return std::nullopt;
+        return {};
     const QByteArrayList values = takesSeveral ? choice.value.split(',') : QByteArrayList{choice.value};
     const bool isKnown = std::ranges::all_of(values, [&](const QByteArray &each) {
         return std::ranges::find(option->choices, each, &PpdChoice::name) != option->choices.end();
     });
     if (isKnown || isFreeChoice(ppd, {choice.name, choice.value}))
-        return std::nullopt;
+        return {};
     return ChoiceError{
         ChoiceFailure::UnknownChoice,
         ChoiceCheckText::tr("The option \"%1\" of the printer \"%2\" has no choice \"%3\"; it has: %4")
@@ -158,8 +158,8 @@ CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &
 {
     CarriedChoices carried;
     for (const JobChoice &choice : choices) {
-        if (const std::optional<ChoiceError> error = checkChoice(ppd, choice)) {
-            carried.lost.push_back(*error);
+        if (const Result<void, ChoiceError> checked = checkChoice(ppd, choice); !checked) {
+            carried.lost.push_back(checked.error());
             continue;
         }
         carried.kept.push_back(choice);

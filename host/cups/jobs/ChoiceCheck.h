@@ -17,11 +17,10 @@ enum class ChoiceFailure {
 /// An error with its message for the user.
 using ChoiceError = Failure<ChoiceFailure>;
 
-/// Checks whether the printer has the choice. Returns no value, or an error that names the option and its
-/// available choices. Servers accept any choice and ignore unknown ones, so that labels would be printed
-/// otherwise than requested. Does not check the choices of the print server's own options, such as
-/// "job-hold-until".
-std::optional<ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choice);
+/// Checks whether the printer has the choice. The error names the option and its available choices. Servers
+/// accept any choice and ignore unknown ones, so that labels would be printed otherwise than requested. Does
+/// not check the choices of the print server's own options, such as "job-hold-until".
+Result<void, ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choice);
 
 /// The choices that remain when the queue's PPD is replaced by another.
 struct CarriedChoices {

@@ -3,15 +3,14 @@
 
 namespace host {
 
-std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
-                                   BackgroundTask &task)
+Result<void, CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
+                                  BackgroundTask &task)
 {
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return connection.error();
     IppPointer request = connection.value().newRequest(IPP_OP_CANCEL_JOB, queue, jobId);
-    const Result<IppPointer, CupsError> answer = connection.value().exchange(std::move(request), "/jobs");
-    return answer ? std::nullopt : std::optional(answer.error());
+    return connection.value().exchange(std::move(request), "/jobs").withoutValue();
 }
 
 } // namespace host

@@ -5,9 +5,8 @@
 
 namespace host {
 
-/// Cancels a waiting or printing job (IPP Cancel-Job). Returns no value, or why it cannot be canceled. For
-/// background tasks.
-std::optional<CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
-                                   BackgroundTask &task);
+/// Cancels a waiting or printing job (IPP Cancel-Job). For background tasks.
+Result<void, CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
+                                  BackgroundTask &task);
 
 } // namespace host

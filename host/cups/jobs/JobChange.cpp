@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QUrl>
 
+#include <tuple>
+
 namespace host {
 
 namespace {
@@ -56,9 +58,9 @@ public:
     {
     }
 
-    /// Sends a request. Returns no value, or the error. An empty hold is not sent.
-    std::optional<CupsError> send(ipp_op_t operation, const std::vector<JobOption> &options,
-                                  const QByteArray &hold)
+    /// Sends a request. An empty hold is not sent.
+    Result<void, CupsError> send(ipp_op_t operation, const std::vector<JobOption> &options,
+                                 const QByteArray &hold)
     {
         IppPointer request = m_connection.newRequest(operation);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
@@ -68,31 +70,32 @@ public:
         if (!hold.isEmpty())
             ippAddString(request.get(), IPP_TAG_JOB, hold.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD,
                          "job-hold-until", nullptr, hold.constData());
-        const Result<IppPointer, CupsError> answer = m_connection.exchange(std::move(request), "/jobs");
-        return answer ? std::nullopt : std::optional(answer.error());
+        return m_connection.exchange(std::move(request), "/jobs").withoutValue();
     }
 
-    std::optional<CupsError> change(const std::vector<JobOption> &options, const QByteArray &hold)
+    Result<void, CupsError> change(const std::vector<JobOption> &options, const QByteArray &hold)
     {
-        std::optional<CupsError> error = send(IPP_OP_SET_JOB_ATTRIBUTES, options, hold);
+        Result<void, CupsError> changed = send(IPP_OP_SET_JOB_ATTRIBUTES, options, hold);
         // The job is held now, but the server still reports the old time; this request corrects it. Its
         // result does not matter for the job.
-        if (!error && !hold.isEmpty())
-            send(IPP_OP_HOLD_JOB, {}, hold);
-        return error;
+        if (changed && !hold.isEmpty())
+            std::ignore = send(IPP_OP_HOLD_JOB, {}, hold);
+        return changed;
     }
 
     /// The server accepts no changes in the restart request, and without a hold it would print the job before
     /// they arrive.
-    std::optional<CupsError> restart(const std::vector<JobOption> &options)
+    Result<void, CupsError> restart(const std::vector<JobOption> &options)
     {
         if (options.empty())
             return send(IPP_OP_RESTART_JOB, {}, {});
-        if (std::optional<CupsError> error = send(IPP_OP_RESTART_JOB, {}, "indefinite"))
-            return error;
-        std::optional<CupsError> error = send(IPP_OP_SET_JOB_ATTRIBUTES, options, "no-hold");
-        if (error)
-            error->message = JobChangeText::tr("It is to be printed anew, but held. %1").arg(error->message);
+        if (Result<void, CupsError> restarted = send(IPP_OP_RESTART_JOB, {}, "indefinite"); !restarted)
+            return restarted;
+        Result<void, CupsError> changed = send(IPP_OP_SET_JOB_ATTRIBUTES, options, "no-hold");
+        if (changed)
+            return changed;
+        CupsError error = changed.error();
+        error.message = JobChangeText::tr("It is to be printed anew, but held. %1").arg(error.message);
         return error;
     }
 
@@ -132,10 +135,10 @@ Result<QString, CupsError> queueOfJob(const CupsServer &server, int jobId, Backg
     return QUrl(QString::fromUtf8(uri)).fileName();
 }
 
-std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task)
+Result<void, CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task)
 {
     if (change.isEmpty())
-        return std::nullopt;
+        return {};
     const auto told = [&](const CupsError &error) { return notChanged(change.jobId, error); };
     const std::vector<JobOption> options = changedOptions(change);
     if (const JobOption *const option = findUnsendable(options))
@@ -146,9 +149,11 @@ std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &ch
     if (!connection)
         return told(connection.error());
     JobRequests requests(connection.value(), change.jobId);
-    const std::optional<CupsError> error =
+    const Result<void, CupsError> changed =
         isRestart(change) ? requests.restart(options) : requests.change(options, holdUntil(change));
-    return error ? std::optional(told(*error)) : std::nullopt;
+    if (!changed)
+        return told(changed.error());
+    return {};
 }
 
 } // namespace host

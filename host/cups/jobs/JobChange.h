@@ -27,7 +27,7 @@ struct JobChange {
 ///
 /// A job that is over can only be restarted, not changed. With a restart, the other changes are made before
 /// the job is printed; if they are rejected, the job is held.
-std::optional<CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task);
+Result<void, CupsError> changeJob(const CupsServer &server, const JobChange &change, BackgroundTask &task);
 
 /// Returns the queue or class of the job, which may have been moved, or the error. For background tasks.
 Result<QString, CupsError> queueOfJob(const CupsServer &server, int jobId, BackgroundTask &task);

@@ -79,7 +79,7 @@ bool JobFate::hasAllDocuments(const JobStatus &job) const
                          : job.state != JobState::Held;
 }
 
-std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError &reason) const
+Result<void, CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError &reason) const
 {
     // What the server counts as a document may be incomplete and must not be released.
     if (m_hold.isNeeded())
@@ -95,10 +95,10 @@ std::optional<CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsErro
         return isOver(job.value(), reason);
     if (!hasAllDocuments(job.value()))
         return cancel(jobId, reason);
-    return std::nullopt;
+    return {};
 }
 
-std::optional<CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &reason) const
+Result<void, CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &reason) const
 {
     const auto notKnown = [&]() -> CupsError {
         return {CupsFailure::OutcomeUnknown,
@@ -111,10 +111,10 @@ std::optional<CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &re
     // Does not cancel the job immediately: the server may have released the job or may read the request only
     // now, and would print a part of it. The second request is rejected if the first one has arrived.
     if (reason.kind != CupsFailure::Cancelled) {
-        const std::optional<CupsError> error = release(jobId);
-        if (!error)
-            return std::nullopt;
-        if (error->kind == CupsFailure::Silent)
+        const Result<void, CupsError> released = release(jobId);
+        if (released)
+            return {};
+        if (released.error().kind == CupsFailure::Silent)
             return notKnown();
     }
     BackgroundTask task;
@@ -126,22 +126,23 @@ std::optional<CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &re
         return isOver(job.value(), reason);
     if (job.value().state == JobState::Held && m_hold.isStillOn(job.value().heldUntil))
         return cancel(jobId, reason);
-    return std::nullopt;
+    return {};
 }
 
-std::optional<CupsError> JobFate::release(int jobId) const
+Result<void, CupsError> JobFate::release(int jobId) const
 {
     BackgroundTask task;
     Result<CupsConnection, CupsError> connection = CupsConnection::open(m_server, task);
-    return connection ? m_hold.end(connection.value(), m_ticket.destination.queue, jobId)
-                      : std::optional(connection.error());
+    if (!connection)
+        return connection.error();
+    return m_hold.end(connection.value(), m_ticket.destination.queue, jobId);
 }
 
 CupsError JobFate::cancel(int jobId, const CupsError &reason) const
 {
     BackgroundTask task;
-    const std::optional<CupsError> error = cancelJob(m_server, m_ticket.destination.queue, jobId, task);
-    return error ? isLeft(jobId, reason, *error) : reason;
+    const Result<void, CupsError> canceled = cancelJob(m_server, m_ticket.destination.queue, jobId, task);
+    return canceled ? reason : isLeft(jobId, reason, canceled.error());
 }
 
 CupsError JobFate::mayBePrinted(int jobId, const CupsError &reason) const

@@ -20,13 +20,12 @@ public:
     /// be queried.
     CupsError ofUnansweredCreation(const QByteArray &uuid, const CupsError &reason) const;
     /// For a missing response to the last document, which was sent completely. Cancels a job that is held.
-    /// For another job, returns no value if the server has all documents and processes the job, otherwise the
+    /// For another job, succeeds if the server has all documents and processes the job; otherwise returns the
     /// reason with the state of the job.
-    std::optional<CupsError> ofUnansweredDocument(int jobId, const CupsError &reason) const;
+    Result<void, CupsError> ofUnansweredDocument(int jobId, const CupsError &reason) const;
     /// For a failed release, or a missing response to it. Releases the job again, unless the upload was
-    /// canceled, and cancels the job if it is still held. Returns no value if the server has released the
-    /// job.
-    std::optional<CupsError> ofFailedRelease(int jobId, const CupsError &reason) const;
+    /// canceled, and cancels the job if it is still held. Succeeds if the server has released the job.
+    Result<void, CupsError> ofFailedRelease(int jobId, const CupsError &reason) const;
     /// Cancels the job. Returns the reason, together with what is left on the server if the job cannot be
     /// canceled.
     CupsError cancel(int jobId, const CupsError &reason) const;
@@ -37,7 +36,7 @@ private:
     /// request only now; no value if there is none.
     Result<std::optional<int>, CupsError> findLate(const QByteArray &uuid) const;
     Result<JobStatus, CupsError> ask(CupsConnection &connection, int jobId) const;
-    std::optional<CupsError> release(int jobId) const;
+    Result<void, CupsError> release(int jobId) const;
     bool hasAllDocuments(const JobStatus &job) const;
     /// Returns the reason with the number of the job on the server, which may print it.
     CupsError mayBePrinted(int jobId, const CupsError &reason) const;

@@ -66,10 +66,10 @@ std::vector<JobOption> JobHold::optionsForCreation(const JobTicket &ticket) cons
     return options;
 }
 
-std::optional<CupsError> JobHold::end(CupsConnection &connection, const QString &queue, int jobId) const
+Result<void, CupsError> JobHold::end(CupsConnection &connection, const QString &queue, int jobId) const
 {
     if (!m_isNeeded || m_wanted == endlessHold)
-        return std::nullopt;
+        return {};
     IppPointer request =
         connection.newRequest(m_wanted == noHold ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, queue, jobId);
     // RFC 8011: a time of day is of type name, not keyword.
@@ -77,8 +77,7 @@ std::optional<CupsError> JobHold::end(CupsConnection &connection, const QString 
         ippAddString(request.get(), IPP_TAG_OPERATION,
                      m_wanted.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD, holdName, nullptr,
                      m_wanted.constData());
-    const Result<IppPointer, CupsError> answer = connection.exchangeToTheEnd(std::move(request), "/jobs");
-    return answer ? std::nullopt : std::optional(answer.error());
+    return connection.exchangeToTheEnd(std::move(request), "/jobs").withoutValue();
 }
 
 bool JobHold::isStillOn(const QString &heldUntil) const

@@ -26,7 +26,7 @@ public:
     std::vector<JobOption> optionsForCreation(const JobTicket &ticket) const;
     /// Releases the job when the server has all documents, or sets the hold that the user or the queue
     /// requests. Returns no value, or the error.
-    std::optional<CupsError> end(CupsConnection &connection, const QString &queue, int jobId) const;
+    Result<void, CupsError> end(CupsConnection &connection, const QString &queue, int jobId) const;
     /// Returns whether a job with this "job-hold-until" has not been released yet. Always false if the user
     /// requests an indefinite hold, since such a job is not released.
     bool isStillOn(const QString &heldUntil) const;

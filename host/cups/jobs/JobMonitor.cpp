@@ -49,13 +49,13 @@ void JobMonitor::tellForgotten(JobStatus status)
     Q_EMIT changed(status);
 }
 
-void JobMonitor::takeCancelled(const std::optional<CupsError> &error)
+void JobMonitor::takeCancelled(const Result<void, CupsError> &canceled)
 {
-    m_takingBack = error ? TakingBack::No : TakingBack::Done;
+    m_takingBack = canceled ? TakingBack::Done : TakingBack::No;
     if (m_forgotten)
         tellForgotten(*m_forgotten);
-    else if (error)
-        Q_EMIT failed(*error);
+    else if (!canceled)
+        Q_EMIT failed(canceled.error());
 }
 
 void JobMonitor::cancelJob()
@@ -63,8 +63,8 @@ void JobMonitor::cancelJob()
     m_takingBack = TakingBack::Asked;
     m_server.forgetRefusals();
     m_background.start([this, server = m_server, queue = m_queue, jobId = m_jobId](BackgroundTask &task) {
-        const std::optional<CupsError> error = host::cancelJob(server, queue, jobId, task);
-        task.deliver([this, error] { takeCancelled(error); });
+        const Result<void, CupsError> canceled = host::cancelJob(server, queue, jobId, task);
+        task.deliver([this, canceled] { takeCancelled(canceled); });
     });
 }
 

@@ -32,7 +32,7 @@ private:
     enum class TakingBack { No, Asked, Done };
 
     void tellForgotten(JobStatus status);
-    void takeCancelled(const std::optional<CupsError> &error);
+    void takeCancelled(const Result<void, CupsError> &canceled);
 
     CupsServer m_server;
     QString m_queue;

@@ -64,8 +64,8 @@ public:
     }
 
     /// Sends the documents. Returns no value, or the error.
-    std::optional<CupsError> sendDocuments(std::vector<DocumentSource> &sources,
-                                           const std::function<void(const UploadProgress &)> &progress)
+    Result<void, CupsError> sendDocuments(std::vector<DocumentSource> &sources,
+                                          const std::function<void(const UploadProgress &)> &progress)
     {
         UploadProgress now;
         for (const DocumentSource &source : sources)
@@ -73,14 +73,15 @@ public:
         for (std::size_t i = 0; i < sources.size(); ++i) {
             now.document = static_cast<int>(i);
             progress(now);
-            if (std::optional<CupsError> error = send(sources[i], i + 1 == sources.size(), now, progress))
-                return error;
+            Result<void, CupsError> sent = send(sources[i], i + 1 == sources.size(), now, progress);
+            if (!sent)
+                return sent;
         }
-        return std::nullopt;
+        return {};
     }
 
-    /// Releases the job when the server has all documents. Returns no value, or why the job is still held.
-    std::optional<CupsError> release()
+    /// Releases the job when the server has all documents. Returns the reason if the job is still held.
+    Result<void, CupsError> release()
     {
         if (m_hold.isNeeded() && m_task.isCancelled())
             return m_connection.noAnswer();
@@ -102,34 +103,36 @@ private:
         return request;
     }
 
-    std::optional<CupsError> send(DocumentSource &source, bool isLast, UploadProgress &now,
-                                  const std::function<void(const UploadProgress &)> &progress)
+    Result<void, CupsError> send(DocumentSource &source, bool isLast, UploadProgress &now,
+                                 const std::function<void(const UploadProgress &)> &progress)
     {
         const UploadProgress before = now;
         // One attempt without a password and three with one.
         constexpr int mostAttempts = 4;
         for (int attempt = 1;; ++attempt) {
             now = before;
-            std::optional<CupsError> error = sendOnce(source, isLast, now, progress);
-            if (!error || !m_connection.lacksPasswordForDocument() || !source.rewind())
-                return error;
+            Result<void, CupsError> sent = sendOnce(source, isLast, now, progress);
+            if (sent || !m_connection.lacksPasswordForDocument() || !source.rewind())
+                return sent;
             // The server has checked the document's request only after it received the document.
-            if (std::optional<CupsError> refusal = m_connection.authenticateDocument())
-                return refusal;
+            Result<void, CupsError> authenticated = m_connection.authenticateDocument();
+            if (!authenticated)
+                return authenticated;
             if (attempt == mostAttempts)
-                return error;
+                return sent;
         }
     }
 
-    std::optional<CupsError> sendOnce(DocumentSource &source, bool isLast, UploadProgress &now,
-                                      const std::function<void(const UploadProgress &)> &progress)
+    Result<void, CupsError> sendOnce(DocumentSource &source, bool isLast, UploadProgress &now,
+                                     const std::function<void(const UploadProgress &)> &progress)
     {
         const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
         if (m_task.isCancelled())
             return m_connection.noAnswer();
-        if (std::optional<CupsError> error = m_connection.beginDocument(
-                documentRequest(document, isLast), queueResource(m_ticket.destination.queue)))
-            return error;
+        Result<void, CupsError> begun = m_connection.beginDocument(documentRequest(document, isLast),
+                                                                   queueResource(m_ticket.destination.queue));
+        if (!begun)
+            return begun;
         bool isWhole = false;
         while (!m_task.isCancelled()) {
             const Result<QByteArray, CupsError> piece = source.read(m_task);
@@ -150,7 +153,9 @@ private:
         m_isDocumentUnanswered = isWhole && isLast && m_connection.lacksAnswer() && !m_task.isCancelled();
         if (!answer)
             return answer.error();
-        return isWhole ? std::nullopt : std::optional(cutShort(document));
+        if (!isWhole)
+            return cutShort(document);
+        return {};
     }
 
     /// A server that accepts a part of a document would print that part.
@@ -169,17 +174,17 @@ private:
     bool m_isDocumentUnanswered = false;
 };
 
-/// Sends the documents of a job that the server has created, and releases the job. Returns no value, or why
-/// the job is not printed, with its state.
-std::optional<CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
-                                int jobId, const std::function<void(const UploadProgress &)> &progress)
+/// Sends the documents of a job that the server has created, and releases the job. Returns
+/// why the job is not printed, with its state.
+Result<void, CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
+                               int jobId, const std::function<void(const UploadProgress &)> &progress)
 {
-    if (const std::optional<CupsError> error = upload.sendDocuments(sources, progress))
-        return upload.isDocumentUnanswered() ? fate.ofUnansweredDocument(jobId, *error)
-                                             : fate.cancel(jobId, *error);
-    if (const std::optional<CupsError> error = upload.release())
-        return fate.ofFailedRelease(jobId, *error);
-    return std::nullopt;
+    if (const Result<void, CupsError> sent = upload.sendDocuments(sources, progress); !sent)
+        return upload.isDocumentUnanswered() ? fate.ofUnansweredDocument(jobId, sent.error())
+                                             : fate.cancel(jobId, sent.error());
+    if (const Result<void, CupsError> released = upload.release(); !released)
+        return fate.ofFailedRelease(jobId, released.error());
+    return {};
 }
 
 /// Creates the job and sends it. Returns its number, or why it is not printed, with its state.
@@ -191,8 +196,8 @@ Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry
     if (!job)
         return upload.lacksAnswer() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
     entry.setJobId(job.value());
-    const std::optional<CupsError> error = finish(upload, fate, sources, job.value(), progress);
-    return error ? Result<int, CupsError>(*error) : job;
+    const Result<void, CupsError> finished = finish(upload, fate, sources, job.value(), progress);
+    return finished ? job : finished.error();
 }
 
 } // namespace
@@ -219,8 +224,8 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return connection.error();
-    if (const std::optional<CupsError> error = ensureQueue(connection.value(), ticket.destination, task))
-        return *error;
+    if (const Result<void, CupsError> made = ensureQueue(connection.value(), ticket.destination, task); !made)
+        return made.error();
     if (task.isCancelled())
         return connection.value().noAnswer();
     const Result<JobHold, CupsError> hold = JobHold::forTicket(connection.value(), ticket);

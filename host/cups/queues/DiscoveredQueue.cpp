@@ -76,8 +76,8 @@ Result<bool, CupsError> isMade(CupsConnection &connection, const QString &queue)
     return now.value().state != QueueState::Unknown;
 }
 
-std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString &queue, BackgroundTask &task,
-                                       std::chrono::milliseconds time)
+Result<void, CupsError> waitUntilMade(CupsConnection &connection, const QString &queue, BackgroundTask &task,
+                                      std::chrono::milliseconds time)
 {
     const QDeadlineTimer deadline(time);
     for (;; task.pause(pauseBetweenLooks)) {
@@ -85,7 +85,7 @@ std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString
         if (!made)
             return made.error();
         if (made.value())
-            return std::nullopt;
+            return {};
         if (deadline.hasExpired())
             return CupsError{
                 CupsFailure::NotFound,
@@ -96,16 +96,16 @@ std::optional<CupsError> waitUntilMade(CupsConnection &connection, const QString
 
 } // namespace
 
-std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
-                                     BackgroundTask &task,
-                                     const std::optional<std::chrono::milliseconds> &time)
+Result<void, CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
+                                    BackgroundTask &task,
+                                    const std::optional<std::chrono::milliseconds> &time)
 {
     if (!destination.isDiscovered)
-        return std::nullopt;
+        return {};
     const std::chrono::milliseconds printersTime = time.value_or(connection.server().timeout);
     const Result<bool, CupsError> made = isMade(connection, destination.queue);
     if (made && made.value())
-        return std::nullopt;
+        return {};
     if (!made && made.error().kind != CupsFailure::NotFound)
         return made.error();
     if (!made) {

@@ -14,8 +14,8 @@ namespace host {
 ///
 /// time is the maximum for finding the printer and reading its capabilities; if it is absent, the server's
 /// timeout applies.
-std::optional<CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
-                                     BackgroundTask &task,
-                                     const std::optional<std::chrono::milliseconds> &time = std::nullopt);
+Result<void, CupsError> ensureQueue(CupsConnection &connection, const Destination &destination,
+                                    BackgroundTask &task,
+                                    const std::optional<std::chrono::milliseconds> &time = std::nullopt);
 
 } // namespace host

@@ -130,8 +130,8 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return {nullptr, connection.error(), false};
-    if (const std::optional<CupsError> error = ensureQueue(connection.value(), destination, task))
-        return {nullptr, error, false};
+    if (const Result<void, CupsError> made = ensureQueue(connection.value(), destination, task); !made)
+        return {nullptr, made.error(), false};
 
     const QueueCache cache(server);
     const QString &queue = destination.queue;

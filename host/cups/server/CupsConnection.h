@@ -56,7 +56,7 @@ public:
 
     /// Starts sending a document: sends its request, and waits for up to a second whether the server requires
     /// something first, such as a password. Returns no value if the document can follow, otherwise the error.
-    std::optional<CupsError> beginDocument(IppPointer request, const QByteArray &resource);
+    Result<void, CupsError> beginDocument(IppPointer request, const QByteArray &resource);
     /// Sends a part of the document. Returns false if the server has already responded or the connection is
     /// broken; earlyAnswer() then returns the response or the error.
     bool writeDocument(const QByteArray &piece);
@@ -70,7 +70,7 @@ public:
     bool lacksPasswordForDocument() const;
     /// Requests that password. Returns no value if the document can be sent again from its beginning,
     /// otherwise the error.
-    std::optional<CupsError> authenticateDocument();
+    Result<void, CupsError> authenticateDocument();
 
     /// A file of the server.
     struct File {
@@ -155,7 +155,7 @@ private:
     /// certificate; otherwise, certificateError describes why not.
     bool isTrusted();
     /// Returns no value if the certificate is trusted, otherwise the error. Asks the user if necessary.
-    std::optional<CupsError> checkCertificate() const;
+    Result<void, CupsError> checkCertificate() const;
     /// Updates the state of the password from the status of a response.
     void noteStatus(http_status_t status);
     /// Meets the server's requirements for the request: a password, encryption. Returns true if the request

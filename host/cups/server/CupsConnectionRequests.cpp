@@ -148,7 +148,7 @@ Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const
     }));
 }
 
-std::optional<CupsError> CupsConnection::beginDocument(IppPointer request, const QByteArray &resource)
+Result<void, CupsError> CupsConnection::beginDocument(IppPointer request, const QByteArray &resource)
 {
     m_state->lacksAnswer = false;
     m_state->documentResource.clear();
@@ -166,7 +166,7 @@ std::optional<CupsError> CupsConnection::beginDocument(IppPointer request, const
     m_state->documentResource = resource;
     if (status == HTTP_STATUS_OK)
         m_state->earlyStatus = status;
-    return std::nullopt;
+    return {};
 }
 
 bool CupsConnection::writeDocument(const QByteArray &piece)
@@ -216,12 +216,14 @@ bool CupsConnection::lacksPasswordForDocument() const
            httpGetStatus(m_http.get()) == HTTP_STATUS_UNAUTHORIZED;
 }
 
-std::optional<CupsError> CupsConnection::authenticateDocument()
+Result<void, CupsError> CupsConnection::authenticateDocument()
 {
     if (!clearTheWay(HTTP_STATUS_UNAUTHORIZED, "POST", m_state->documentResource))
         return serverError(CupsFailure::NotAuthorized,
                            QString::fromUtf8(httpStatus(HTTP_STATUS_UNAUTHORIZED)));
-    return reconnect() ? std::nullopt : std::optional(noAnswer());
+    if (!reconnect())
+        return noAnswer();
+    return {};
 }
 
 http_status_t CupsConnection::readStatus()

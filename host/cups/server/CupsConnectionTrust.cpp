@@ -62,13 +62,15 @@ bool CupsConnection::isTrusted()
     m_state->certificateError.reset();
     if (!httpIsEncrypted(m_http.get()) || isToThisMachine(m_http.get()))
         return true;
-    m_state->certificateError = checkCertificate();
+    const Result<void, CupsError> checked = checkCertificate();
+    if (!checked)
+        m_state->certificateError = checked.error();
     // The user's time to answer does not count as the server's silence.
     beginWaiting();
-    return !m_state->certificateError;
+    return static_cast<bool>(checked);
 }
 
-std::optional<CupsError> CupsConnection::checkCertificate() const
+Result<void, CupsError> CupsConnection::checkCertificate() const
 {
     const auto untrusted = [](const QString &message) { return CupsError{CupsFailure::Untrusted, message}; };
     const QString name = server().displayName();
@@ -78,7 +80,7 @@ std::optional<CupsError> CupsConnection::checkCertificate() const
             CupsConnectionTrustText::tr("The print server \"%1\" has no certificate.").arg(name));
     const std::optional<QString> reason = certificate->verificationError();
     if (!reason)
-        return std::nullopt;
+        return {};
     const QString fingerprint = certificate->fingerprint();
     const std::optional<QByteArray> trusted = certificate->trusted(server().certificates);
     if (trusted && *trusted != certificate->der())
@@ -98,7 +100,7 @@ std::optional<CupsError> CupsConnection::checkCertificate() const
                                                      "SHA-256 fingerprint %2 must not be trusted: %3")
                              .arg(name, fingerprint, *error));
     if (trusted)
-        return std::nullopt;
+        return {};
     const auto request = TrustRequest::certificate(name, fingerprint, *reason);
     if (!server().trust->isGranted(request, *m_state->task, server().askTrust))
         return untrusted(CupsConnectionTrustText::tr(
@@ -108,7 +110,7 @@ std::optional<CupsError> CupsConnection::checkCertificate() const
                              .arg(name, *reason, fingerprint));
     // A certificate that cannot be saved is trusted until the program ends.
     certificate->save(server().certificates);
-    return std::nullopt;
+    return {};
 }
 
 const char *CupsConnection::password(const char *prompt, http_t *http, const char *, const char *, void *data)

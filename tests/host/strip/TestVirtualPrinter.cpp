@@ -57,8 +57,8 @@ protected:
         return host::CutPlan::make(host::CutSettings::fromJob(of.ppd(), of.recorded()), order, extents, 2.0);
     }
 
-    std::optional<host::OutputError> print(const host::CutPlan &printed, const QString &folder,
-                                           const QImage &dialog = {}) const
+    host::Result<void, host::OutputError> print(const host::CutPlan &printed, const QString &folder,
+                                                const QImage &dialog = {}) const
     {
         return VirtualPrinter::print(strip(printed), QJsonObject{{"copies", 2}}, dialog, folder);
     }
@@ -131,8 +131,8 @@ private:
 TEST_F(VirtualPrinterTest, LeavesStripJobAndDialog)
 {
     const QString folder = sandbox.path(QStringLiteral("made/for/it"));
-    const auto error = print(plan(), folder, picture());
-    ASSERT_FALSE(error) << error->message.toStdString();
+    const auto printed = print(plan(), folder, picture());
+    ASSERT_TRUE(printed) << printed.error().message.toStdString();
     EXPECT_EQ(
         QDir(folder).entryList(QDir::Files, QDir::Name),
         (QStringList{QStringLiteral("dialog.png"), QStringLiteral("job.json"), QStringLiteral("strip.pdf")}));
@@ -141,7 +141,7 @@ TEST_F(VirtualPrinterTest, LeavesStripJobAndDialog)
 
 TEST_F(VirtualPrinterTest, WritesTheJobForPrograms)
 {
-    ASSERT_FALSE(print(plan(2), sandbox.path(QStringLiteral("out"))));
+    ASSERT_TRUE(print(plan(2), sandbox.path(QStringLiteral("out"))));
     const QJsonObject json = QJsonDocument::fromJson(read(QStringLiteral("out/job.json"))).object();
     EXPECT_EQ(json, (QJsonObject{{"copies", 2}}));
 }
@@ -167,7 +167,7 @@ TEST_F(VirtualPrinterTest, DrawsEveryCutOnTheStrip)
         host::DialogState own(openTapePpd(sandbox));
         for (const auto &[keyword, choice] : row.choices)
             own.changeOption(QLatin1String(keyword), QLatin1String(choice), nullptr);
-        ASSERT_FALSE(print(planOf(own), sandbox.path(QStringLiteral("out"))));
+        ASSERT_TRUE(print(planOf(own), sandbox.path(QStringLiteral("out"))));
         const RenderedStrip strip(sandbox.path(QStringLiteral("out/strip.pdf")));
         // A full cut's line reaches below the tape and its backing, a half cut's marker stands above it.
         const double tapeBottom = strip.size().height() - 8.0 - 8.0 - 9.0 + 8.0;
@@ -179,7 +179,7 @@ TEST_F(VirtualPrinterTest, DrawsEveryCutOnTheStrip)
 
 TEST_F(VirtualPrinterTest, TheStripIsInItsTrueSize)
 {
-    ASSERT_FALSE(print(plan(4), sandbox.path(QStringLiteral("out"))));
+    ASSERT_TRUE(print(plan(4), sandbox.path(QStringLiteral("out"))));
     const RenderedStrip strip(sandbox.path(QStringLiteral("out/strip.pdf")));
     // Twelve labels of 60 mm and 2 mm of margin, eleven gaps of 7 mm, and what stands around them.
     EXPECT_NEAR(strip.size().width(), 12 * 60 + 2 + 11 * 7 + 2 + 26 + 2 * 8, 0.5);
@@ -187,7 +187,7 @@ TEST_F(VirtualPrinterTest, TheStripIsInItsTrueSize)
 
 TEST_F(VirtualPrinterTest, AStripLongerThanAPdfPageGoesOnOnTheNext)
 {
-    ASSERT_FALSE(print(plan(60), sandbox.path(QStringLiteral("out"))));
+    ASSERT_TRUE(print(plan(60), sandbox.path(QStringLiteral("out"))));
     const RenderedStrip strip(sandbox.path(QStringLiteral("out/strip.pdf")));
     EXPECT_EQ(strip.pageCount(), 3);
     EXPECT_LE(strip.size().width(), 5080.0);
@@ -199,13 +199,13 @@ TEST_F(VirtualPrinterTest, SaysWhenItCannotWrite)
 {
     const QString file = sandbox.write(QStringLiteral("file"), "x");
     const auto onFile = print(plan(), file);
-    ASSERT_TRUE(onFile);
-    EXPECT_EQ(onFile->kind, OutputFailure::NoFolder);
-    EXPECT_TRUE(onFile->message.contains(file)) << onFile->message.toStdString();
+    ASSERT_FALSE(onFile);
+    EXPECT_EQ(onFile.error().kind, OutputFailure::NoFolder);
+    EXPECT_TRUE(onFile.error().message.contains(file)) << onFile.error().message.toStdString();
 
     const auto under = print(plan(), file + QStringLiteral("/under"));
-    ASSERT_TRUE(under);
-    EXPECT_EQ(under->kind, OutputFailure::NoFolder);
+    ASSERT_FALSE(under);
+    EXPECT_EQ(under.error().kind, OutputFailure::NoFolder);
     EXPECT_EQ(read(QStringLiteral("file")), "x");
 }
 
@@ -213,10 +213,11 @@ TEST_F(VirtualPrinterTest, LeavesNothingWhenOneFileCannotBePlaced)
 {
     const QString folder = sandbox.path(QStringLiteral("out"));
     ASSERT_TRUE(QDir().mkpath(folder + QStringLiteral("/job.json")));
-    const auto error = print(plan(), folder, picture());
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->kind, OutputFailure::NotWritten);
-    EXPECT_TRUE(error->message.contains(QStringLiteral("job.json"))) << error->message.toStdString();
+    const auto printed = print(plan(), folder, picture());
+    ASSERT_FALSE(printed);
+    EXPECT_EQ(printed.error().kind, OutputFailure::NotWritten);
+    EXPECT_TRUE(printed.error().message.contains(QStringLiteral("job.json")))
+        << printed.error().message.toStdString();
     EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{QStringLiteral("job.json")});
 }
@@ -224,7 +225,7 @@ TEST_F(VirtualPrinterTest, LeavesNothingWhenOneFileCannotBePlaced)
 TEST_F(VirtualPrinterTest, WhatIsPrintedIsForThisUserOnly)
 {
     const test_support::UmaskScope scope(0);
-    ASSERT_FALSE(print(plan(), sandbox.path(QStringLiteral("made/out")), picture()));
+    ASSERT_TRUE(print(plan(), sandbox.path(QStringLiteral("made/out")), picture()));
     for (const char *const folder : {"made", "made/out"})
         EXPECT_EQ(test_support::permissionsOf(sandbox.path(QLatin1String(folder))), 0700U) << folder;
     for (const char *const name : {"strip.pdf", "job.json", "dialog.png"})
@@ -240,11 +241,11 @@ TEST_F(VirtualPrinterTest, FollowsNoLinks)
     const QString folder = sandbox.path(QStringLiteral("out"));
     ASSERT_TRUE(QDir().mkpath(folder));
     ASSERT_TRUE(QFile::link(victim, folder + QStringLiteral("/job.json")));
-    const auto error = print(plan(), folder);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->kind, OutputFailure::NotWritten);
-    EXPECT_TRUE(error->message.contains(QStringLiteral("job.json\": it is a symbolic link")))
-        << error->message.toStdString();
+    const auto printed = print(plan(), folder);
+    ASSERT_FALSE(printed);
+    EXPECT_EQ(printed.error().kind, OutputFailure::NotWritten);
+    EXPECT_TRUE(printed.error().message.contains(QStringLiteral("job.json\": it is a symbolic link")))
+        << printed.error().message.toStdString();
     EXPECT_EQ(read(QStringLiteral("victim")), "x");
     EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{QStringLiteral("job.json")});
@@ -271,9 +272,9 @@ TEST(OutputFiles, TakeBackFoldersAndFilesOfAFailedJob)
             ADD_FAILURE() << "nothing is written after a failure";
             return true;
         });
-        const auto error = files.commit();
-        ASSERT_TRUE(error);
-        EXPECT_TRUE(error->message.contains(QStringLiteral("a/b/c/two")));
+        const auto printed = files.commit();
+        ASSERT_FALSE(printed);
+        EXPECT_TRUE(printed.error().message.contains(QStringLiteral("a/b/c/two")));
     }
     EXPECT_TRUE(sandbox.entries().isEmpty()) << sandbox.entries().join(u' ').toStdString();
 }
@@ -285,7 +286,7 @@ TEST(OutputFiles, AppearOnlyTogether)
     files.write(QStringLiteral("one"), [](QIODevice *device) { return device->write("1") == 1; });
     EXPECT_FALSE(QFile::exists(sandbox.path(QStringLiteral("out/one"))));
     files.write(QStringLiteral("two"), [](QIODevice *device) { return device->write("2") == 1; });
-    EXPECT_FALSE(files.commit());
+    EXPECT_TRUE(files.commit());
     EXPECT_TRUE(QFile::exists(sandbox.path(QStringLiteral("out/one"))));
     EXPECT_TRUE(QFile::exists(sandbox.path(QStringLiteral("out/two"))));
 }
@@ -302,7 +303,7 @@ TEST(OutputFiles, TakeBackNothingThatTheyHaveNotMade)
     files.write(QStringLiteral("fifo"), [](QIODevice *device) { return device->write("1") == 1; });
     files.write(QStringLiteral("later/file"), [](QIODevice *device) { return device->write("2") == 1; });
     ASSERT_TRUE(QDir().mkdir(sandbox.path(QStringLiteral("later/file"))));
-    EXPECT_TRUE(files.commit());
+    EXPECT_FALSE(files.commit());
     EXPECT_TRUE(S_ISFIFO(test_support::statusOf(fifo).st_mode));
     ::close(reader);
 }

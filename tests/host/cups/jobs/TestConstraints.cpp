@@ -283,11 +283,11 @@ TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
         {"media", "anything", {}},
     };
     for (const Row &row : rows) {
-        const auto error = host::checkChoice(ppd, {row.name, row.value});
-        EXPECT_EQ(error ? std::optional(error->kind) : std::nullopt, row.kind)
+        const auto checked = host::checkChoice(ppd, {row.name, row.value});
+        EXPECT_EQ(checked ? std::nullopt : std::optional(checked.error().kind), row.kind)
             << row.name << "=" << row.value;
-        if (error) {
-            EXPECT_TRUE(error->message.contains(
+        if (!checked) {
+            EXPECT_TRUE(checked.error().message.contains(
                 QLatin1String(row.kind == ChoiceFailure::UnknownOption ? row.name : row.value)));
         }
     }

@@ -71,6 +71,7 @@ TEST(FreeChoice, IsWithinTheLimitsOfThePpd)
         {"Fixed", "Custom.1", false},
     };
     for (const auto &row : rows) {
-        EXPECT_EQ(!checkChoice(ppd, {row.option, row.value}), row.isGood) << row.option << '=' << row.value;
+        EXPECT_EQ(static_cast<bool>(checkChoice(ppd, {row.option, row.value})), row.isGood)
+            << row.option << '=' << row.value;
     }
 }

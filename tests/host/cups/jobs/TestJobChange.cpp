@@ -25,8 +25,7 @@ protected:
         return outcome.jobId.value_or(0);
     }
 
-    /// Nothing, or the error's text.
-    std::optional<host::CupsError> change(const JobChange &change) const
+    host::Result<void, host::CupsError> change(const JobChange &change) const
     {
         host::BackgroundTask task;
         return changeJob(server, change, task);
@@ -56,8 +55,8 @@ TEST_F(JobChangeTest, ChangesWhatIsNamedAndLeavesTheRest)
     wanted.settings.copies = 4;
     wanted.settings.pageRanges = QStringLiteral("1-2");
     wanted.options = {{"KvHalfCut", "ON"}, {"PageSize", "DC29x90"}};
-    const auto error = change(wanted);
-    ASSERT_FALSE(error) << qPrintable(error->message);
+    const auto changed = change(wanted);
+    ASSERT_TRUE(changed) << qPrintable(changed.error().message);
 
     const auto after = jobAttributes(server, jobId);
     EXPECT_EQ(after.value("job-name"), "Gläser, neu");
@@ -86,7 +85,7 @@ TEST_F(JobChangeTest, ChangesAsLpDoes)
     wanted.settings = {.copies = 2, .collate = host::Collate::Yes, .hold = period};
     wanted.settings.priority = 7;
     wanted.options = {{"a", "b"}, {"c", "true"}};
-    ASSERT_FALSE(change(wanted));
+    ASSERT_TRUE(change(wanted));
     auto mine = jobAttributes(server, ours);
     auto lps = jobAttributes(server, theirs);
     // lp leaves the reported hold time unchanged.
@@ -102,15 +101,15 @@ TEST_F(JobChangeTest, HoldsReleasesAndRestarts)
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
     const int jobId = *outcome.jobId;
-    EXPECT_FALSE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("hold")}}));
+    EXPECT_TRUE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("hold")}}));
     EXPECT_EQ(state(jobId), JobState::Held);
     cupsd.resume(QStringLiteral("tape"));
     EXPECT_EQ(state(jobId), JobState::Held);
-    EXPECT_FALSE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("resume")}}));
+    EXPECT_TRUE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("resume")}}));
     cupsd.waitForDocuments(1);
     EXPECT_TRUE(waitUntil([&] { return state(jobId) == JobState::Completed; }));
 
-    EXPECT_FALSE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("restart")}}));
+    EXPECT_TRUE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("restart")}}));
     EXPECT_EQ(cupsd.waitForDocuments(2)[1].job, jobId);
 }
 
@@ -120,10 +119,10 @@ TEST_F(JobChangeTest, ARestartedJobIsChangedBeforeItPrints)
     ASSERT_TRUE(outcome.jobId);
     cupsd.waitForDocuments(1);
     EXPECT_TRUE(waitUntil([&] { return state(*outcome.jobId) == JobState::Completed; }));
-    const auto error = change({.jobId = *outcome.jobId,
-                               .options = {{"KvHalfCut", "ON"}},
-                               .settings = {.copies = 3, .hold = QStringLiteral("restart")}});
-    ASSERT_FALSE(error) << qPrintable(error->message);
+    const auto changed = change({.jobId = *outcome.jobId,
+                                 .options = {{"KvHalfCut", "ON"}},
+                                 .settings = {.copies = 3, .hold = QStringLiteral("restart")}});
+    ASSERT_TRUE(changed) << qPrintable(changed.error().message);
     const auto documents = cupsd.waitForDocuments(2);
     EXPECT_EQ(documents[1].job, *outcome.jobId);
     EXPECT_EQ(documents[1].copies, "3");
@@ -137,8 +136,8 @@ TEST_F(JobChangeTest, HoldsUntilATimeOfDay)
     ASSERT_TRUE(outcome.jobId);
     for (const char *format : {"hh:mm", "h:mm:ss"}) {
         const QString time = holdTimeHoursAway(6, QString::fromLatin1(format));
-        const auto error = change({.jobId = *outcome.jobId, .settings = {.hold = time, .priority = 3}});
-        EXPECT_FALSE(error) << qPrintable(error->message);
+        const auto changed = change({.jobId = *outcome.jobId, .settings = {.hold = time, .priority = 3}});
+        EXPECT_TRUE(changed) << qPrintable(changed.error().message);
         EXPECT_EQ(jobAttributes(server, *outcome.jobId).value("job-hold-until"), time.toUtf8());
         EXPECT_EQ(state(*outcome.jobId), JobState::Held);
     }
@@ -148,7 +147,7 @@ TEST_F(JobChangeTest, ImmediatelyMeansBeforeAllOthers)
 {
     cupsd.pause(QStringLiteral("tape"));
     const int jobId = sendHeld();
-    EXPECT_FALSE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("immediate")}}));
+    EXPECT_TRUE(change({.jobId = jobId, .settings = {.hold = QStringLiteral("immediate")}}));
     EXPECT_EQ(state(jobId), JobState::Waiting);
     EXPECT_EQ(jobAttributes(server, jobId).value("job-priority"), "100");
 }
@@ -173,8 +172,8 @@ TEST_F(JobChangeTest, SaysWhichJobAndWhyNot)
 TEST_F(JobChangeTest, NothingToChangeAsksNoServer)
 {
     cupsd.kill();
-    EXPECT_FALSE(change({.jobId = 1}));
-    const auto error = change({.jobId = 1, .settings = {.copies = 2}});
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->kind, CupsFailure::Unreachable);
+    EXPECT_TRUE(change({.jobId = 1}));
+    const auto changed = change({.jobId = 1, .settings = {.copies = 2}});
+    ASSERT_FALSE(changed);
+    EXPECT_EQ(changed.error().kind, CupsFailure::Unreachable);
 }
