@@ -3,8 +3,8 @@
 
 #include "FuzzFile.h"
 
-#include <host/cups/jobs/Constraints.h>
 #include <host/cups/jobs/JobOptions.h>
+#include <host/printer/Constraints.h>
 #include <host/printer/PpdOptions.h>
 #include <host/printer/PpdPaperSizes.h>
 
@@ -50,7 +50,7 @@ void examineConflicts(const host::PpdFile &ppd)
     const std::vector<host::Conflict> conflicts = constraints.conflicts();
     host::sentencesByKeyword(conflicts);
     if (const std::optional<host::Remedy> remedy = constraints.remedy()) {
-        PDEChoices changes;
+        host::PpdChoices changes;
         for (const host::Remedy::Change &change : remedy->changes)
             changes.emplace_back(change.keyword, change.choice);
         if (!constraints.conflicts(changes).empty())

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <dialog/widgets/Banner.h>
-#include <host/cups/jobs/Constraints.h>
+#include <host/printer/Constraints.h>
 
 namespace host {
 class SetupKeeper;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/cups/jobs/Constraints.h>
+#include <host/printer/Constraints.h>
 #include <host/printer/PpdOptions.h>
 
 #include <QDeadlineTimer>

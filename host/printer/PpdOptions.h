@@ -42,6 +42,9 @@ struct PpdChoice {
     QString text;
 };
 
+/// Choices of several options: keyword and choice, each keyword once.
+using PpdChoices = std::vector<std::pair<QString, QString>>;
+
 /// The UI type of an option, as in *OpenUI. PickMany options can have several marked choices.
 enum class PpdOptionKind { Boolean, PickOne, PickMany };
 

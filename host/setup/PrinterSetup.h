@@ -4,7 +4,7 @@
 #include "SetupPanels.h"
 
 #include <host/cups/jobs/ChoiceCheck.h>
-#include <host/cups/jobs/Constraints.h>
+#include <host/printer/Constraints.h>
 #include <host/cups/jobs/JobOptions.h>
 
 namespace host {

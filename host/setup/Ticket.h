@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/cups/jobs/Constraints.h>
+#include <host/printer/Constraints.h>
 #include <host/cups/jobs/JobTicket.h>
 #include <host/documents/LabelRenderer.h>
 #include <host/documents/PageChoices.h>

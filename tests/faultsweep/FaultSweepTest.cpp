@@ -139,8 +139,9 @@ std::vector<host::JobStatus> FaultSweepTest::settledJobs()
     EXPECT_TRUE(settled) << cupsd.log().toStdString();
     for (const host::JobStatus &job : jobs) {
         m_lastJob = job.jobId;
-        if (job.state == JobState::Held)
+        if (job.state == JobState::Held) {
             EXPECT_TRUE(cancelJob(server, job.queue, job.jobId, task));
+        }
     }
     return jobs;
 }

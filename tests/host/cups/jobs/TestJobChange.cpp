@@ -155,18 +155,20 @@ TEST_F(JobChangeTest, ImmediatelyMeansBeforeAllOthers)
 TEST_F(JobChangeTest, SaysWhichJobAndWhyNot)
 {
     const auto unknown = change({.jobId = 4711, .settings = {.priority = 1}});
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->kind, CupsFailure::NotFound);
-    EXPECT_TRUE(unknown->message.contains(QStringLiteral("4711"))) << qPrintable(unknown->message);
+    ASSERT_FALSE(unknown);
+    EXPECT_EQ(unknown.error().kind, CupsFailure::NotFound);
+    EXPECT_TRUE(unknown.error().message.contains(QStringLiteral("4711")))
+        << qPrintable(unknown.error().message);
 
     const Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.jobId);
     cupsd.waitForDocuments(1);
     EXPECT_TRUE(waitUntil([&] { return state(*outcome.jobId) == JobState::Completed; }));
     const auto over = change({.jobId = *outcome.jobId, .settings = {.priority = 1}});
-    ASSERT_TRUE(over);
-    EXPECT_EQ(over->kind, CupsFailure::Refused);
-    EXPECT_TRUE(over->message.contains(QString::number(*outcome.jobId))) << qPrintable(over->message);
+    ASSERT_FALSE(over);
+    EXPECT_EQ(over.error().kind, CupsFailure::Refused);
+    EXPECT_TRUE(over.error().message.contains(QString::number(*outcome.jobId)))
+        << qPrintable(over.error().message);
 }
 
 TEST_F(JobChangeTest, NothingToChangeAsksNoServer)

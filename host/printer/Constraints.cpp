@@ -229,7 +229,7 @@ ConflictSide Constraints::side(int option, int choice) const
     return {keyword, m_ppd.optionText(keyword), m_ppd.choiceText(keyword, name)};
 }
 
-std::vector<Conflict> Constraints::conflicts(const PDEChoices &instead) const
+std::vector<Conflict> Constraints::conflicts(const PpdChoices &instead) const
 {
     const ConstraintTerms::Marks marks = m_terms.marks(instead);
     const auto holds = [&](int number) { return marks.holds[static_cast<std::size_t>(number)]; };
@@ -260,7 +260,7 @@ std::vector<Conflict> Constraints::conflicts(const PDEChoices &instead) const
     return conflicts;
 }
 
-std::optional<Remedy> Constraints::remedy(const std::set<QString> &keep, const PDEChoices &instead) const
+std::optional<Remedy> Constraints::remedy(const std::set<QString> &keep, const PpdChoices &instead) const
 {
     const ConstraintTerms::Marks marks = m_terms.marks(instead);
     std::optional<Changes> changes = Search(*this, marks, keep).run();

@@ -77,7 +77,7 @@ std::optional<int> ConstraintTerms::findChoice(int option, const QByteArray &nam
     return found == positions.constEnd() ? std::nullopt : std::optional(*found);
 }
 
-QHash<int, int> ConstraintTerms::positions(const PDEChoices &choices) const
+QHash<int, int> ConstraintTerms::positions(const PpdChoices &choices) const
 {
     QHash<int, int> positions;
     for (const auto &[keyword, choice] : choices) {
@@ -108,7 +108,7 @@ void ConstraintTerms::readMarks(int option, const QHash<int, int> &instead, Mark
     }
 }
 
-ConstraintTerms::Marks ConstraintTerms::marks(const PDEChoices &instead) const
+ConstraintTerms::Marks ConstraintTerms::marks(const PpdChoices &instead) const
 {
     const QHash<int, int> choices = positions(instead);
     // PageRegion follows PageSize, regardless of its own marks.

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <host/cups/jobs/ChoiceCheck.h>
-#include <host/cups/jobs/Constraints.h>
+#include <host/printer/Constraints.h>
 #include <host/printer/PpdForPanels.h>
 #include <tests/support/PpdBuilder.h>
 
@@ -250,57 +249,4 @@ TEST(Constraints, SentencesStandAtEveryOptionThatTheyAreAboutAndOnce)
         EXPECT_EQ(found.value(name), host::sentencesAbout({name}, conflicts)) << keyword;
     }
     EXPECT_EQ(found.value(QStringLiteral("B")).size(), 2);
-}
-
-TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
-{
-    using host::ChoiceFailure;
-    const PpdFile ppd = openMarked(PpdBuilder()
-                                       .options({"KvHalfCut", "KvCutLabel"})
-                                       .option({"Many", "Many", {{"A", ""}, {"B", ""}}, "A", "PickMany"})
-                                       .paper("small", 68.0, 170.0)
-                                       .paper("unusable", 0.0, 170.0));
-    struct Row {
-        const char *name;
-        const char *value;
-        std::optional<ChoiceFailure> kind;
-    };
-    const Row rows[] = {
-        {"KvHalfCut", "ON", {}},
-        {"KvHalfCut", "on", ChoiceFailure::UnknownChoice},
-        {"KvHalfCut", "Custom.3", ChoiceFailure::UnknownChoice},
-        {"kvhalfcut", "ON", ChoiceFailure::UnknownOption},
-        {"KvMirror", "ON", ChoiceFailure::UnknownOption},
-        {"Many", "A,B", {}},
-        {"Many", "", {}},
-        {"Many", "A,C", ChoiceFailure::UnknownChoice},
-        {"PageSize", "small", {}},
-        {"PageSize", "Small", ChoiceFailure::UnknownPaper},
-        {"PageSize", "A4", ChoiceFailure::UnknownPaper},
-        {"PageSize", "Custom.30x40mm", ChoiceFailure::UnknownPaper},
-        {"PageSize", "unusable", ChoiceFailure::UnusablePaper},
-        {"job-hold-until", "night", {}},
-        {"media", "anything", {}},
-    };
-    for (const Row &row : rows) {
-        const auto checked = host::checkChoice(ppd, {row.name, row.value});
-        EXPECT_EQ(checked ? std::nullopt : std::optional(checked.error().kind), row.kind)
-            << row.name << "=" << row.value;
-        if (!checked) {
-            EXPECT_TRUE(checked.error().message.contains(
-                QLatin1String(row.kind == ChoiceFailure::UnknownOption ? row.name : row.value)));
-        }
-    }
-}
-
-TEST(ChoiceCheck, WhatTheUserHasSetOutlivesAReplacedPpd)
-{
-    PpdFile fresh = openMarked(PpdBuilder().options({"KvMirror"}).paper("kept", 68.0, 170.0));
-    const host::CarriedChoices carried = carryOverChoices(
-        {{"KvMirror", "ON"}, {"KvHalfCut", "ON"}, {"PageSize", "kept"}, {"copies", "2"}}, fresh);
-    ASSERT_EQ(carried.kept.size(), 3U);
-    ASSERT_EQ(carried.lost.size(), 1U);
-    EXPECT_TRUE(carried.lost[0].message.contains(QStringLiteral("KvHalfCut")));
-    EXPECT_EQ(fresh.markedChoice(QStringLiteral("KvMirror")), QStringLiteral("ON"));
-    EXPECT_EQ(fresh.markedPaper()->name, "kept");
 }

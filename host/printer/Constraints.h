@@ -57,13 +57,13 @@ public:
 
     /// Returns the conflicts among the marked choices, each once. The choices of the parameter instead
     /// replace what is marked for their options.
-    std::vector<Conflict> conflicts(const PDEChoices &instead = {}) const;
+    std::vector<Conflict> conflicts(const PpdChoices &instead = {}) const;
 
     /// Returns the smallest set of changes that resolves all these conflicts. PageSize and the installable
     /// options do not change; options in keep (those just set by the user) change only if there is no other
     /// resolution. Defaults are preferred to other choices. Returns no value if there is no conflict, or no
     /// resolution with up to six changes.
-    std::optional<Remedy> remedy(const std::set<QString> &keep = {}, const PDEChoices &instead = {}) const;
+    std::optional<Remedy> remedy(const std::set<QString> &keep = {}, const PpdChoices &instead = {}) const;
 
 private:
     /// The numbers of the terms, in the PPD's order.

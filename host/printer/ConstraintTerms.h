@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/panels/PanelSettings.h>
-#include <host/printer/PpdOptions.h>
+#include "PpdOptions.h"
 
 #include <QHash>
 #include <QSet>
+
+#include <utility>
+#include <vector>
 
 namespace host {
 
@@ -57,7 +59,7 @@ public:
     const Option &optionOf(int number) const { return option(term(number).option); }
     /// Returns what is marked. The choices of the parameter instead replace what is marked for their options,
     /// where the options have them.
-    Marks marks(const PDEChoices &instead = {}) const;
+    Marks marks(const PpdChoices &instead = {}) const;
     /// Returns whether the term would be true if its option had the choice at the position.
     bool holdsWith(int number, int choice) const;
     /// Returns whether a constraint that names no choice does not apply to this one: "None", "Off" or
@@ -69,7 +71,7 @@ private:
     int addOption(const PpdOption &option);
     std::optional<int> findChoice(int option, const QByteArray &name) const;
     void readMarks(int option, const QHash<int, int> &instead, Marks &marks) const;
-    QHash<int, int> positions(const PDEChoices &choices) const;
+    QHash<int, int> positions(const PpdChoices &choices) const;
     bool holds(const Term &term, const Marks &marks, const std::vector<std::optional<int>> &papers) const;
 
     PpdOptions m_ppdOptions;
