@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     for (const QByteArray &argument : bytes.split('\0'))
         arguments.append(QString::fromUtf8(argument));
-    const auto command = dialog::parseCommandLine(arguments);
+    const auto command = programs::parseCommandLine(arguments);
     if (!command && command.error().message.isEmpty())
         qFatal("refused without a word");
     return 0;

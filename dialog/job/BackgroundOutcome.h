@@ -8,6 +8,7 @@
 #include <optional>
 
 namespace dialog {
+inline namespace job {
 
 /// Runs the work in the background and the event loop meanwhile; answers what came of it.
 template<typename Work>
@@ -26,4 +27,5 @@ auto outcomeOf(Work work)
     return *outcome;
 }
 
+} // namespace job
 } // namespace dialog

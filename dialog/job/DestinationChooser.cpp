@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace job {
 
 namespace {
 
@@ -157,4 +158,5 @@ void DestinationChooser::showState()
     m_icon->setPixmap(style()->standardIcon(icon(severity)).pixmap(size));
 }
 
+} // namespace job
 } // namespace dialog

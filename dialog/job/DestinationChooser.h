@@ -9,8 +9,13 @@ class QComboBox;
 class QLabel;
 
 namespace dialog {
-
+inline namespace widgets {
 class FittedLabel;
+} // namespace widgets
+} // namespace dialog
+
+namespace dialog {
+inline namespace job {
 
 /// The choice of the printer: queues, classes and instances of the server, and how the chosen one is. What is
 /// known only from last time is shown as such.
@@ -36,4 +41,5 @@ private:
     FittedLabel *m_state;
 };
 
+} // namespace job
 } // namespace dialog

@@ -4,6 +4,7 @@
 #include <QTimeZone>
 
 namespace dialog {
+inline namespace job {
 
 namespace {
 
@@ -38,4 +39,5 @@ std::optional<QTime> localTimeFromHold(const QString &hold, const QDateTime &now
     return next(time, now.toUTC()).toTimeZone(now.timeZone()).time();
 }
 
+} // namespace job
 } // namespace dialog

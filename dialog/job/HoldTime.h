@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace dialog {
+inline namespace job {
 
 /// The server's time of day, "HH:MM" in UTC, at which it is next this time of day for the user. The server
 /// starts a job when that time comes next, today or tomorrow; over the night the clocks may change.
@@ -16,4 +17,5 @@ QString holdFromLocalTime(const QTime &local, const QDateTime &now);
 /// Understands "HH:MM" and "HH:MM:SS".
 std::optional<QTime> localTimeFromHold(const QString &hold, const QDateTime &now);
 
+} // namespace job
 } // namespace dialog

@@ -13,6 +13,7 @@
 #include <QTimeEdit>
 
 namespace dialog {
+inline namespace job {
 
 namespace {
 
@@ -195,4 +196,5 @@ void JobPage::setTitle(const QString &title)
     m_title->setCursorPosition(0);
 }
 
+} // namespace job
 } // namespace dialog

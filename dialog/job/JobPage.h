@@ -11,6 +11,7 @@ class QSpinBox;
 class QTimeEdit;
 
 namespace dialog {
+inline namespace job {
 
 /// What is asked of the print server: the job's name, how it lies on the paper, when it is printed, and
 /// before which others. As long as nothing is chosen, the queue's own settings hold.
@@ -48,4 +49,5 @@ private:
     QSpinBox *m_priority;
 };
 
+} // namespace job
 } // namespace dialog

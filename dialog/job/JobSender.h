@@ -6,6 +6,7 @@
 #include <QObject>
 
 namespace dialog {
+inline namespace job {
 
 /// A job that is ready to leave the dialog.
 struct ReadyJob {
@@ -40,4 +41,5 @@ Q_SIGNALS:
     void failed(const QString &problem);
 };
 
+} // namespace job
 } // namespace dialog

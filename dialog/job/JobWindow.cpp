@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace job {
 
 JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int jobId, const QString &title,
                      QWidget *parent)
@@ -63,4 +64,5 @@ void JobWindow::showStatus(const host::JobStatus &status)
         accept();
 }
 
+} // namespace job
 } // namespace dialog

@@ -8,8 +8,13 @@
 class QPushButton;
 
 namespace dialog {
-
+inline namespace widgets {
 class FittedLabel;
+} // namespace widgets
+} // namespace dialog
+
+namespace dialog {
+inline namespace job {
 
 /// Follows a job that has been sent until nothing more will happen to it, with a button to take it back.
 /// Closes by itself when the job is printed.
@@ -33,4 +38,5 @@ private:
     QPushButton *m_cancel;
 };
 
+} // namespace job
 } // namespace dialog

@@ -2,6 +2,7 @@
 #include "LeftJobBanner.h"
 
 namespace dialog {
+inline namespace job {
 
 LeftJobBanner::LeftJobBanner(host::CupsServer server, QWidget *parent)
     : Banner(parent)
@@ -54,4 +55,5 @@ void LeftJobBanner::takeOutcome(const host::Result<QString, host::CupsError> &ou
     showNext();
 }
 
+} // namespace job
 } // namespace dialog

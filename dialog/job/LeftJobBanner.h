@@ -6,6 +6,7 @@
 #include <host/cups/server/Background.h>
 
 namespace dialog {
+inline namespace job {
 
 /// Shows, one after the other, the jobs that killed programs have left on print servers, and offers to cancel
 /// or release them. A job stays as it is until the user presses a button.
@@ -31,4 +32,5 @@ private:
     host::Background m_background;
 };
 
+} // namespace job
 } // namespace dialog

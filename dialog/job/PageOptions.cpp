@@ -10,6 +10,7 @@
 #include <QSpinBox>
 
 namespace dialog {
+inline namespace job {
 
 using host::Collate;
 using host::PageOrder;
@@ -112,4 +113,5 @@ void PageOptions::writeTo(host::JobSettings &settings) const
     settings.order = m_wishes.order;
 }
 
+} // namespace job
 } // namespace dialog

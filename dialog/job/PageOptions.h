@@ -10,6 +10,7 @@ class QLineEdit;
 class QSpinBox;
 
 namespace dialog {
+inline namespace job {
 
 /// Which pages of the documents are printed, how often and in which order.
 class PageOptions : public QWidget {
@@ -47,4 +48,5 @@ private:
     QCheckBox *m_lastFirst;
 };
 
+} // namespace job
 } // namespace dialog

@@ -11,6 +11,7 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace job {
 
 PasswordDialog::PasswordDialog(const host::PasswordRequest &request, QWidget *parent)
     : QDialog(parent)
@@ -59,4 +60,5 @@ host::PasswordHandler askWithDialog(QWidget *parent)
     };
 }
 
+} // namespace job
 } // namespace dialog

@@ -8,6 +8,7 @@
 class QLineEdit;
 
 namespace dialog {
+inline namespace job {
 
 /// Asks the user for the name and password that a print server wants. Answers the request when it is
 /// accepted, and refuses it when it is closed in any other way.
@@ -31,4 +32,5 @@ private:
 /// Shows a dialog for every request, in front of the parent or whatever window blocks that.
 host::PasswordHandler askWithDialog(QWidget *parent);
 
+} // namespace job
 } // namespace dialog

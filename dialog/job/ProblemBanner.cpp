@@ -4,6 +4,7 @@
 #include <host/cups/queues/QueueSession.h>
 
 namespace dialog {
+inline namespace job {
 
 void ProblemBanner::follow(host::QueueSession &session)
 {
@@ -57,4 +58,5 @@ void ProblemBanner::refresh()
     setMessage(problems.join(u'\n'), wantsUser ? tr("Try again") : QString());
 }
 
+} // namespace job
 } // namespace dialog

@@ -6,10 +6,15 @@
 #include <host/cups/server/CupsServer.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 class QueueSession;
-}
+} // namespace queues
+} // namespace cups
+} // namespace host
 
 namespace dialog {
+inline namespace job {
 
 /// Tells everything that keeps the user from printing, or from printing as wished. No problem hides another:
 /// that a job may be printed after all must not vanish because the server is gone as well.
@@ -41,4 +46,5 @@ private:
     QString m_refusals;
 };
 
+} // namespace job
 } // namespace dialog

@@ -2,6 +2,7 @@
 #include "QueueSender.h"
 
 namespace dialog {
+inline namespace job {
 
 QueueSender::QueueSender(host::CupsServer server, QObject *parent)
     : JobSender(parent)
@@ -27,4 +28,5 @@ void QueueSender::send(const ReadyJob &job)
     m_submission.submit(job.ticket.job);
 }
 
+} // namespace job
 } // namespace dialog

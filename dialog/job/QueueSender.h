@@ -6,6 +6,7 @@
 #include <host/cups/jobs/JobSubmission.h>
 
 namespace dialog {
+inline namespace job {
 
 /// Sends to a queue of a print server, in the background.
 class QueueSender : public JobSender {
@@ -27,4 +28,5 @@ private:
     int m_jobId = 0;
 };
 
+} // namespace job
 } // namespace dialog

@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace job {
 
 SendBar::SendBar(QWidget *parent)
     : QWidget(parent)
@@ -60,4 +61,5 @@ void SendBar::end()
     hide();
 }
 
+} // namespace job
 } // namespace dialog

@@ -8,6 +8,7 @@ class QProgressBar;
 class QPushButton;
 
 namespace dialog {
+inline namespace job {
 
 /// Tells how far the sending of a job is, with a button to take it back. Hidden while nothing is sent.
 class SendBar : public QWidget {
@@ -32,4 +33,5 @@ private:
     QPushButton *m_cancel;
 };
 
+} // namespace job
 } // namespace dialog

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace job {
 
 SentPage::SentPage(QWidget *parent)
     : QWidget(parent)
@@ -74,4 +75,5 @@ void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &
     m_differences->setText(command.differencesInWords());
 }
 
+} // namespace job
 } // namespace dialog

@@ -11,6 +11,7 @@ class QLineEdit;
 class QTreeWidget;
 
 namespace dialog {
+inline namespace job {
 
 /// What will be sent: every option of the job with where it comes from, and the lp line that prints the same.
 class SentPage : public QWidget {
@@ -27,4 +28,5 @@ private:
     QLabel *m_differences;
 };
 
+} // namespace job
 } // namespace dialog

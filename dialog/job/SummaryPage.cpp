@@ -6,6 +6,7 @@
 #include <QHeaderView>
 
 namespace dialog {
+inline namespace job {
 
 SummaryPage::SummaryPage(QWidget *parent)
     : QTreeWidget(parent)
@@ -37,4 +38,5 @@ void SummaryPage::setSections(const std::vector<SummarySection> &sections)
     expandAll();
 }
 
+} // namespace job
 } // namespace dialog

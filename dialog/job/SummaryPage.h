@@ -6,6 +6,7 @@
 #include <QTreeWidget>
 
 namespace dialog {
+inline namespace job {
 
 using host::SummarySection;
 
@@ -19,4 +20,5 @@ public:
     void setSections(const std::vector<SummarySection> &sections);
 };
 
+} // namespace job
 } // namespace dialog

@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace job {
 
 namespace {
 
@@ -59,4 +60,5 @@ host::TrustHandler askTrustWithDialog(QWidget *parent)
     };
 }
 
+} // namespace job
 } // namespace dialog

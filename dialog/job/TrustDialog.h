@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 namespace dialog {
+inline namespace job {
 
 /// Asks the user about the safety of a connection. Grants the request when its button is pressed, and refuses
 /// it when the dialog is closed in any other way.
@@ -25,4 +26,5 @@ private:
 /// Shows a dialog for every request, in front of the parent or whatever window blocks that.
 host::TrustHandler askTrustWithDialog(QWidget *parent);
 
+} // namespace job
 } // namespace dialog

@@ -4,11 +4,12 @@
 #include <QCoreApplication>
 
 namespace dialog {
+inline namespace job {
 
 namespace {
 
 struct TrustWordsText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::TrustWords)
+    Q_DECLARE_TR_FUNCTIONS(dialog::job::TrustWords)
 };
 
 } // namespace
@@ -33,4 +34,5 @@ TrustWords::TrustWords(const host::TrustRequest &request)
     action = TrustWordsText::tr("Trust");
 }
 
+} // namespace job
 } // namespace dialog

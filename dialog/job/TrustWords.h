@@ -4,6 +4,7 @@
 #include <host/cups/server/Trust.h>
 
 namespace dialog {
+inline namespace job {
 
 /// A question about the safety of a connection in words, for windows and terminals.
 struct TrustWords {
@@ -18,4 +19,5 @@ struct TrustWords {
     QString action;
 };
 
+} // namespace job
 } // namespace dialog

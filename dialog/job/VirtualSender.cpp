@@ -7,6 +7,7 @@
 #include <QDir>
 
 namespace dialog {
+inline namespace job {
 
 VirtualSender::VirtualSender(std::optional<QString> folder, QObject *parent)
     : JobSender(parent)
@@ -35,4 +36,5 @@ void VirtualSender::send(const ReadyJob &job)
     Q_EMIT sent();
 }
 
+} // namespace job
 } // namespace dialog

@@ -8,6 +8,7 @@
 #include <functional>
 
 namespace dialog {
+inline namespace job {
 
 /// Sends to the virtual printer, which leaves the strip in a folder.
 class VirtualSender : public JobSender {
@@ -32,4 +33,5 @@ private:
     std::function<QImage()> m_takePicture;
 };
 
+} // namespace job
 } // namespace dialog

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace options {
 
 ChoiceControl::ChoiceControl(host::PpdOption option, QWidget *parent)
     : OptionControl(option, parent)
@@ -127,4 +128,5 @@ bool ChoiceControl::eventFilter(QObject *watched, QEvent *event)
     return OptionControl::eventFilter(watched, event);
 }
 
+} // namespace options
 } // namespace dialog

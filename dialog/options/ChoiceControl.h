@@ -6,6 +6,7 @@
 class QComboBox;
 
 namespace dialog {
+inline namespace options {
 
 class FreeChoiceFields;
 
@@ -39,4 +40,5 @@ private:
     bool m_isWaiting = false;
 };
 
+} // namespace options
 } // namespace dialog

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -37,4 +38,5 @@ void ConflictBanner::setConflicts(const std::vector<host::Conflict> &conflicts,
     setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
 }
 
+} // namespace options
 } // namespace dialog

@@ -5,10 +5,13 @@
 #include <host/printer/Constraints.h>
 
 namespace host {
+inline namespace setup {
 class SetupKeeper;
-}
+} // namespace setup
+} // namespace host
 
 namespace dialog {
+inline namespace options {
 
 /// Tells which of the chosen options cannot be printed together, and offers the printer's own remedy.
 class ConflictBanner : public Banner {
@@ -31,4 +34,5 @@ private:
     std::optional<host::Remedy> m_shownRemedy;
 };
 
+} // namespace options
 } // namespace dialog

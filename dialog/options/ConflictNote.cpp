@@ -8,6 +8,7 @@
 #include <QStyle>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -50,4 +51,5 @@ void ConflictNote::setSentences(const QStringList &sentences)
     setVisible(!sentences.isEmpty());
 }
 
+} // namespace options
 } // namespace dialog

@@ -4,8 +4,13 @@
 #include <QWidget>
 
 namespace dialog {
-
+inline namespace widgets {
 class FittedLabel;
+} // namespace widgets
+} // namespace dialog
+
+namespace dialog {
+inline namespace options {
 
 /// Tells, beside what was chosen, with what else it cannot be printed. Hidden while there is nothing to tell.
 class ConflictNote : public QWidget {
@@ -24,4 +29,5 @@ private:
     FittedLabel *m_text = nullptr;
 };
 
+} // namespace options
 } // namespace dialog

@@ -6,11 +6,12 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
 struct ConflictQuestionText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::PrintDialog)
+    Q_DECLARE_TR_FUNCTIONS(dialog::options::ConflictQuestion)
 };
 
 } // namespace
@@ -29,4 +30,5 @@ bool sendsInSpiteOf(const QString &sentences, QWidget *parent)
     return question.clickedButton() == print;
 }
 
+} // namespace options
 } // namespace dialog

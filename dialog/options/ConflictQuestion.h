@@ -6,9 +6,11 @@
 class QWidget;
 
 namespace dialog {
+inline namespace options {
 
 /// Asks whether a job is to be sent although its settings exclude each other, which the sentences tell. Waits
 /// for the user.
 bool sendsInSpiteOf(const QString &sentences, QWidget *parent);
 
+} // namespace options
 } // namespace dialog

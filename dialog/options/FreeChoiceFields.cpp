@@ -12,6 +12,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -142,4 +143,5 @@ QByteArray FreeChoiceFields::value() const
     return host::freeChoiceValue(m_parameters);
 }
 
+} // namespace options
 } // namespace dialog

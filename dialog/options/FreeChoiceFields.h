@@ -9,6 +9,7 @@ class QFormLayout;
 class QLabel;
 
 namespace dialog {
+inline namespace options {
 
 /// A field for each parameter of a free choice. Numbers out of their limits cannot be entered; a text that is
 /// still too short is told in words, and counts from when it is long enough.
@@ -40,4 +41,5 @@ private:
     QLabel *m_missing;
 };
 
+} // namespace options
 } // namespace dialog

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -67,4 +68,5 @@ QList<QWidget *> ManyControl::spoken() const
     return widgets;
 }
 
+} // namespace options
 } // namespace dialog

@@ -7,6 +7,7 @@ class QCheckBox;
 class QGroupBox;
 
 namespace dialog {
+inline namespace options {
 
 /// A check box for each choice of an option that may have several at once. A choice that means "none of them"
 /// has no box: it is chosen when no other is.
@@ -30,4 +31,5 @@ private:
     QGroupBox *m_frame;
 };
 
+} // namespace options
 } // namespace dialog

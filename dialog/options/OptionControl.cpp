@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace options {
 
 OptionControl::OptionControl(const host::PpdOption &option, QWidget *parent)
     : QWidget(parent)
@@ -30,4 +31,5 @@ void OptionControl::setConflicts(const QStringList &sentences)
         widget->setAccessibleDescription(spokenText);
 }
 
+} // namespace options
 } // namespace dialog

@@ -8,6 +8,7 @@
 class QVBoxLayout;
 
 namespace dialog {
+inline namespace options {
 
 class ConflictNote;
 
@@ -45,4 +46,5 @@ private:
     ConflictNote *m_note = nullptr;
 };
 
+} // namespace options
 } // namespace dialog

@@ -6,6 +6,7 @@
 #include "SwitchControl.h"
 
 namespace dialog {
+inline namespace options {
 
 OptionControl *makeOptionControl(const host::PpdOption &option, QWidget *parent)
 {
@@ -16,4 +17,5 @@ OptionControl *makeOptionControl(const host::PpdOption &option, QWidget *parent)
     return new ChoiceControl(option, parent);
 }
 
+} // namespace options
 } // namespace dialog

@@ -11,6 +11,7 @@
 #include <chrono>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -151,4 +152,5 @@ void OptionGroupPage::showConflicts()
         control->setConflicts(sentencesAbout(control->keyword()));
 }
 
+} // namespace options
 } // namespace dialog

@@ -11,6 +11,7 @@ class QFormLayout;
 class QVBoxLayout;
 
 namespace dialog {
+inline namespace options {
 
 class OptionControl;
 
@@ -62,4 +63,5 @@ private:
     std::size_t m_next = 0;
 };
 
+} // namespace options
 } // namespace dialog

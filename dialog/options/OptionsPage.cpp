@@ -15,6 +15,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -135,4 +136,5 @@ void OptionsPage::setConflicts(const std::vector<host::Conflict> &conflicts)
     }
 }
 
+} // namespace options
 } // namespace dialog

@@ -11,6 +11,7 @@ class QListWidget;
 class QStackedWidget;
 
 namespace dialog {
+inline namespace options {
 
 class OptionGroupPage;
 
@@ -57,4 +58,5 @@ private:
     std::vector<OptionGroupPage *> m_pages;
 };
 
+} // namespace options
 } // namespace dialog

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace options {
 
 namespace {
 
@@ -76,4 +77,5 @@ QList<QWidget *> SwitchControl::spoken() const
     return {m_box};
 }
 
+} // namespace options
 } // namespace dialog

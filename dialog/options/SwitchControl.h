@@ -6,6 +6,7 @@
 class QCheckBox;
 
 namespace dialog {
+inline namespace options {
 
 /// A check box, for options that are on or off.
 class SwitchControl : public OptionControl {
@@ -30,4 +31,5 @@ private:
     QCheckBox *m_box;
 };
 
+} // namespace options
 } // namespace dialog

@@ -6,6 +6,7 @@
 #include <QFormLayout>
 
 namespace dialog {
+inline namespace paper {
 
 namespace {
 
@@ -52,4 +53,5 @@ QWidget *CustomPaperFields::lastField() const
     return m_length;
 }
 
+} // namespace paper
 } // namespace dialog

@@ -6,8 +6,13 @@
 #include <QWidget>
 
 namespace dialog {
-
+inline namespace widgets {
 class LengthField;
+} // namespace widgets
+} // namespace dialog
+
+namespace dialog {
+inline namespace paper {
 
 /// Width and length of a paper of free size, within what the printer takes.
 class CustomPaperFields : public QWidget {
@@ -32,4 +37,5 @@ private:
     LengthField *m_length;
 };
 
+} // namespace paper
 } // namespace dialog

@@ -6,6 +6,7 @@
 #include <cmath>
 
 namespace dialog {
+inline namespace paper {
 
 namespace {
 
@@ -73,4 +74,5 @@ std::optional<host::PpdPaper> paperForPage(const std::vector<host::PpdPaper> &pa
     return nearest ? std::optional(*nearest) : std::nullopt;
 }
 
+} // namespace paper
 } // namespace dialog

@@ -6,6 +6,7 @@
 #include <functional>
 
 namespace dialog {
+inline namespace paper {
 
 /// The free size of width and length in points; nothing where the printer does not take it.
 using FreeSize = std::function<std::optional<host::PpdPaper>(const QSizeF &points)>;
@@ -19,4 +20,5 @@ std::optional<host::PpdPaper> paperForPage(const std::vector<host::PpdPaper> &pa
 /// Whether both have one size, upright or turned.
 bool fitsExactly(const host::PpdPaper &paper, const QSizeF &page);
 
+} // namespace paper
 } // namespace dialog

@@ -20,6 +20,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace paper {
 
 namespace {
 
@@ -221,4 +222,5 @@ void PaperChooser::updateDocumentButton()
     m_documentButton->setToolTip(isCustom(*paper) ? tr("A custom size") : plainToolTip(paper->text));
 }
 
+} // namespace paper
 } // namespace dialog

@@ -10,8 +10,14 @@ class QLineEdit;
 class QPushButton;
 
 namespace dialog {
-
+inline namespace options {
 class ConflictNote;
+} // namespace options
+} // namespace dialog
+
+namespace dialog {
+inline namespace paper {
+
 class CustomPaperFields;
 class PaperList;
 
@@ -68,4 +74,5 @@ private:
     QPushButton *m_documentButton;
 };
 
+} // namespace paper
 } // namespace dialog

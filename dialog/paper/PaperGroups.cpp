@@ -10,11 +10,12 @@
 #include <numeric>
 
 namespace dialog {
+inline namespace paper {
 
 namespace {
 
 struct PaperGroupsText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::PaperGroups)
+    Q_DECLARE_TR_FUNCTIONS(dialog::paper::PaperGroups)
 };
 
 /// PPDs round widths as they like.
@@ -48,4 +49,5 @@ std::vector<PaperGroup> groupPapers(const std::vector<host::PpdPaper> &papers)
     return groups;
 }
 
+} // namespace paper
 } // namespace dialog

@@ -4,6 +4,7 @@
 #include <host/printer/PpdFile.h>
 
 namespace dialog {
+inline namespace paper {
 
 /// Papers of one width.
 struct PaperGroup {
@@ -18,4 +19,5 @@ struct PaperGroup {
 /// have one width, or every paper has another.
 std::vector<PaperGroup> groupPapers(const std::vector<host::PpdPaper> &papers);
 
+} // namespace paper
 } // namespace dialog

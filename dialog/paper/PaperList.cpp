@@ -13,6 +13,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace paper {
 
 namespace {
 
@@ -200,4 +201,5 @@ void PaperList::changeEvent(QEvent *event)
         dressHeadings();
 }
 
+} // namespace paper
 } // namespace dialog

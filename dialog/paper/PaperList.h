@@ -6,6 +6,7 @@
 #include <QListWidget>
 
 namespace dialog {
+inline namespace paper {
 
 /// Papers to pick one from, under headings where these help to find it. A search never changes the choice.
 class PaperList : public QListWidget {
@@ -44,4 +45,5 @@ private:
     void fitWidth();
 };
 
+} // namespace paper
 } // namespace dialog

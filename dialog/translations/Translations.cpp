@@ -13,6 +13,7 @@ static void useCatalogues()
 }
 
 namespace dialog {
+inline namespace translations {
 
 namespace {
 
@@ -34,4 +35,5 @@ void installTranslations(const QLocale &locale)
     install(locale, QStringLiteral("kvprint"), QStringLiteral(":/translations"));
 }
 
+} // namespace translations
 } // namespace dialog

@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Druckerklasse: %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>Drucke&amp;r</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Diesen Drucker gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Warten auf die Antwort des Druckservers…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>Zuletzt: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>Der Druckserver antwortet nicht. Zuletzt: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>Der Druckserver antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>Der Druckserver verlangt ein Kennwort.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>Der Druckserver verlangt ein Kennwort. Zuletzt: %1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>Dem Druckserver wird nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>Dem Druckserver wird nicht vertraut. Zuletzt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Uhrzeit für den Druck</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Vorgabe der Warteschlange</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>Von 1 bis 100; Aufträge mit höherer Priorität werden vor anderen gedruckt</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Auftrags&amp;name</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Ausrich&amp;tung</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Priorität</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Vorgabe des Druckers</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Umgekehrtes Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Umgekehrtes Hochformat</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Nach Freigabe</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Abends</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>Der Auftrag ist gesendet.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Auftrag %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>&amp;Auftrag abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Auftrag zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Drucken, was da ist</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>&amp;Satzweise</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>Erst alle Seiten einmal, dann alle noch einmal; sonst alle Kopien einer Seite zusammen</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>alle, oder zum Beispiel 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Kopien</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>S&amp;eiten</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Kennwort für den Druckserver</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>&amp;Benutzername</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Kennwort</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Senden abbrechen</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>„%1“ wird gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Optionen des Auftrags</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>Derselbe Auftra&amp;g auf der Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Ko&amp;pieren</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Verbindung ohne Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>Der Druckserver „%1“ verlangt ein Kennwort, und die Verbindung zu ihm ist nicht verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Andere im Netzwerk können das Kennwort mitlesen.</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>Trotzdem senden</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Zertifikat des Druckservers</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>Sein SHA-256-Fingerabdruck lautet:
+%1
+
+Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck nennt. Ihm wird von da an vertraut.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Vertrauen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Die PPD-Datei nennt kein Papier, auf das gedruckt werden kann</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>nicht eingestellt</translation>
@@ -18,14 +356,1217 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>Der Drucker kann dies nicht alles zusammen.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Trotzdem drucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
+            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Gruppen von Optionen</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Dieser Drucker hat keine weiteren Optionen.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Papierbreite</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>Papierlänge</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>Bre&amp;ite</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>&amp;Länge</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>P&amp;apier</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>Papiere suchen</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Eigene Größe, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Größe des Dokuments nehmen: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Eine eigene Größe</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 breit</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 breit, %2 lang</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Eigene Größe…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>Drucker: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Optionen, Vorschau und Übersicht</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Seiten&amp;vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Au&amp;ftrag</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>Z&amp;u senden</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>Die Seite ist größer als das Etikett und wird verkleinert.</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>Die Schneideoptionen können nicht gezeigt werden. %1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>Der Drucker hat keine Beschreibung; seine Papiere und Schnitte sind hier deshalb nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Warten auf die Beschreibung des Druckers…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Es ist kein Drucker gewählt.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Warten auf die Antwort des Druckservers…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>Die Beschreibung des Druckers ist nicht bekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>Etikettenstreifen</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Kein Arbeitsspeicher mehr; es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Kein Arbeitsspeicher mehr; der Auftrag ist vielleicht unvollständig oder auf dem Druckserver zurückgeblieben.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Kein Arbeitsspeicher mehr. Der Auftrag wurde trotzdem gesendet.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>Der Drucker „%1“ hat keine Option „%2“.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>Der Drucker „%1“ hat kein Papier „%2“.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>Die Option „%1“ des Druckers „%2“ hat keine Auswahl „%3“; sie hat: %4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>Der Drucker „%1“ kann nicht auf das Papier „%2“ drucken: Es ist %3 × %4 Punkt groß; Breite und Länge müssen größer als 0 sein, eine von beiden höchstens %5 m, die andere höchstens %6 m.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Das Dokument „%1“ lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>die Datei wurde kürzer, während sie gelesen wurde</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>sie hat sich verändert, während sie gelesen wurde</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Er soll neu gedruckt werden, wird aber zurückgehalten. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>Auftrag %1 wurde nicht geändert. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 In der Warteschlange „%3“ des Druckservers „%4“ kann ein Auftrag „%2“ ohne Dokumente zurückgeblieben sein; davon wird nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 Der Druckserver „%2“ hat alle Dokumente des Auftrags %3-%4 und hat nicht gemeldet, ob er ihn freigibt: Der Auftrag wird gedruckt, oder er wird zurückgehalten und nicht gedruckt. Sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Auftrag %2-%3 auf dem Druckserver „%4“ kann gedruckt worden sein; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Auftrag %2-%3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>Die Aufzeichnung „%1“ eines Auftrags, der gesendet wurde, ist beschädigt und wurde entfernt; sehen Sie in Ihren Warteschlangen nach, ob ein Auftrag zurückgeblieben ist.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>Vorgabe des Druckers</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>Vorgabe der Warteschlange</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>Ihre Vorgabe (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>Voreinstellung</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>Schneideoptionen</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>von Ihnen gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>So viele Etiketten auf einmal gehen nicht: Ein Auftrag hat höchstens %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Zurückgehalten bis zur Freigabe.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Zurückgehalten bis %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>Wartet, bis er an der Reihe ist.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Angehalten; es geht weiter, wenn der Drucker wieder bereit ist.</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>Vom Druckserver aufgegeben.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Gedruckt.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Der Server meldet: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>Der Auftrag ist zu Ende; der Druckserver behält nichts davon.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Es gibt kein Dokument zu drucken.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ hat „%2“ nicht ganz angenommen.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>Der Druckserver „%1“ hat keinen Auftrag „%2“ in der Warteschlange „%3“ mehr, oder er ist beendet.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ wird nicht zurückgehalten: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist freigegeben.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht Auftrag %1 („%2“) auf dem Druckserver „%3“ zurückgelassen, möglicherweise ohne alle Dokumente.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht einen Auftrag „%1“ ohne Dokumente in der Warteschlange „%2“ des Druckservers „%3“ zurückgelassen.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ kann den Drucker „%2“ nicht erreichen.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>Der Drucker „%1“ ist nicht mehr im Netz.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ hat keine Warteschlange oder Klasse „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>Der Drucker wartet auf Etiketten oder Band.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Etiketten oder Band haben sich gestaut.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>Die Etikettenrolle oder das Band ist fast aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>Die Etikettenrolle oder das Band ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>Der Drucker wird gleich angehalten.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>Die Warteschlange ist angehalten; Aufträge warten.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>Der Drucker ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Verbindung zum Drucker wird hergestellt.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>Der Drucker antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>Der Drucker hält an.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Einige Drucker der Klasse sind angehalten.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>Der Toner ist fast aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>Der Toner ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>Der Druckserver hat keinen Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>Die Abdeckung des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Eine Verriegelung des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>Die Klappe des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Die Kassette oder der Rollenhalter fehlt.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Das Ausgabefach fehlt.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>Das Ausgabefach ist fast voll.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Das Ausgabefach ist voll.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>Tinte oder Farbband ist fast aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>Tinte oder Farbband ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>Der Abfallbehälter ist fast voll.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>Der Abfallbehälter ist voll.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>Der Drucker ist zu heiß.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>Der Drucker wärmt sich auf.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>Der Drucker ist offline.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Neue Aufträge werden zurückgehalten.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>Der Drucker ist vom Verwalter abgeschaltet.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Ein Teil des Druckertreibers fehlt.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Ein Teil des Druckertreibers ist nicht sicher installiert.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Warten, bis der Drucker den Auftrag beendet hat.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>Der Drucker hält sich nicht an sein Protokoll.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Bereit.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Druckt.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Im Netzwerk gefunden.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Zustand unbekannt.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>Die Warteschlange nimmt keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Der Server meldet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>Auf Wunsch abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>Der Druckserver „%1“ antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Keine Verbindung zum Druckserver „%1“: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>Die Verbindung zum Druckserver „%1“ ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>Der Druckserver „%1“ meldet: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>Der Druckserver „%1“ liefert „%2“ nicht: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>die Datei ist größer als %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>die Verbindung brach mittendrin ab</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“, und es wurde keines angegeben.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>Der Druckserver „%1“ hat kein Zertifikat.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Das Zertifikat des Druckservers „%1“ ist nicht das, dem für diesen Rechner vertraut wird. Das vertraute hat den SHA-256-Fingerabdruck %2, das des Servers %3. Möglicherweise wurde das Zertifikat des Servers ersetzt, auf demselben Rechner läuft ein weiterer Druckserver, oder jemand fängt die Verbindung ab. Wenn der Verwalter des Servers den Fingerabdruck bestätigt, löschen Sie die Datei „%4“ und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Dem Zertifikat des Druckservers „%1“ mit dem SHA-256-Fingerabdruck %2 darf nicht vertraut werden: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2. Sein SHA-256-Fingerabdruck ist %3. Vergleichen Sie ihn mit dem, den der Verwalter des Servers nennt, und bestätigen Sie ihn, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>Der Benutzername oder das Kennwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“. Es wurde keines gesendet, weil die Verbindung nicht verschlüsselt ist und andere es mitlesen könnten. Verschlüsseln Sie die Verbindung (-E), oder bestätigen Sie es, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>Der Druckserver „%1“ nimmt das Kennwort des Benutzers „%2“ nicht an.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Er kann das Dokument nicht speichern: Die Platte ist voll, oder das Dokument ist größer, als er es annimmt.</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Das Dokument „%1“ lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>es ist verschlüsselt; entfernen Sie zuerst das Kennwort</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>es ist auf unbekannte Weise verschlüsselt</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>es hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>Seite %1 hat keine Fläche</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>Seite %1 ist länger als %2 m</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Das Dokument von der Standardeingabe lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>es ist ein beschädigtes Bild</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>es hat %1 × %2 Pixel, mehr als sich drucken lassen</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>es ist ein Bild, dessen Ende fehlt</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Kein Dokument angegeben</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>sie lässt sich nur einmal lesen</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>es ist größer als %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>es ist kein PDF, PNG, JPEG oder SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>es ist ein beschädigtes PDF</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>es lässt sich nicht in „%1“ ablegen: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>es ist ein beschädigtes SVG</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>es verweist auf „%1“, und gedruckt wird nur, was im SVG selbst steht</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>Zeile %1 des SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>es ist ein SVG aus mehr Teilen, als sich zeichnen lassen</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>es enthält ein Bild, das weder PNG noch JPEG ist</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>es enthält ein beschädigtes Bild</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>Die Seiten „%1“ sind nicht verständlich: Schreiben Sie Zahlen und Bereiche wie 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Die Seiten „%1“ lassen sich nicht drucken: Die letzte Seite des Dokuments ist %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Es würde nichts gedruckt: Keine Seite des Dokuments ist gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Das Bundle „%1“ lässt sich nicht verwenden: %2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>seine Bibliothek enthält keine Seiten für den Druckdialog</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>es ist für Version %1 der Schnittstelle gemacht, dieses Programm hat Version %2</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>fehlt oder ist nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>es ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>den Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>Das Bundle mit den Schneideoptionen wurde nicht gefunden; gesucht: %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>es hat keine Bibliothek %1</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>es läuft auf diesem System nicht</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>„%1: %2“</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Dieser Drucker beherrscht %1 nicht.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 und %2 schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>„%1“ auf „%2“ setzen</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Die PPD-Datei „%1“ lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>sie ist größer als %1 MB, mehr als jede Druckerbeschreibung</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>sie ist beschädigt oder unvollständig: Sie lässt sich nicht bis zum Ende entpacken</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>die Datei hat %1 Anweisungen; höchstens %2 sind möglich</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>die Datei hat %1 Anweisungen „%2“; höchstens %3 sind möglich</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>sie endet mitten in einem Wert; die Datei ist unvollständig</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Druckersteuerung</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Auftrag „%1“ für „%2“ auf %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Gesendete Optionen:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Kopien</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Etikettenstreifen</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Stücke</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Band</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Schnitte</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>Davon</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>die ungeraden Seiten</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>die geraden Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>„%1“ kann mit diesem Papier und den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>Der Drucker „%1“ hat kein Papier „%2“, das Ihre Vorgabe ist (lpoptions).</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>Die Beschreibung des Druckers sagt nicht, ob er die Etiketten schneidet.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etiketten: %1 · Band: %2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>Kein Vollschnitt: Die Etiketten kommen als ein Streifen.</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>Vollschnitt nach dem letzten Etikett.</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>Vollschnitt nach jedem Etikett.</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>Vollschnitt nach je %1 Etiketten.</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>wird gemessen…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>Etiketten: %1 · Stücke: %2 · Band: %3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>Es wird nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>Spezialband: Der Drucker schneidet nichts.</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>Halbschnitt zwischen den Etiketten eines Stücks.</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>Gedruckte Marken, wo nicht durchgeschnitten wird.</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>Das Ende bleibt im Drucker; der nächste Auftrag schließt ohne Rand an.</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>Leeres Band vor und nach jedem Etikett entfällt.</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>Die Etiketten sind gespiegelt.</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>nächster Auftrag</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1 auf %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>es ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>der Ordner lässt sich nicht anlegen: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>es ist eine symbolische Verknüpfung</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>es ist ein Socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>es ist ein Blockgerät</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>niemand liest davon</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>„kvprint --help“ zeigt die Hilfe.</translation>
@@ -273,89 +1814,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>Der Auftrag wurde trotzdem gesendet, als %1-%2.</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>%1 bis %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Papierbreite</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>Papierlänge</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>Bre&amp;ite</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>&amp;Länge</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>Druckerklasse: %1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>Drucke&amp;r</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Drucker</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>Diesen Drucker gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Warten auf die Antwort des Druckservers…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>Zuletzt: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>Der Druckserver antwortet nicht. Zuletzt: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>Der Druckserver antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>Der Druckserver verlangt ein Kennwort.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>Der Druckserver verlangt ein Kennwort. Zuletzt: %1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>Dem Druckserver wird nicht vertraut.</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>Dem Druckserver wird nicht vertraut. Zuletzt: %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(Standard)</translation>
@@ -366,44 +1832,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Optionen, Vorschau und Übersicht</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Seiten&amp;vorschau</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>Ü&amp;bersicht</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>Au&amp;ftrag</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>Z&amp;u senden</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Optionen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
-            <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>Der Druckserver „%1“ hat kein Ziel, auf dem gedruckt werden kann</translation>
@@ -422,128 +1851,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>Uhrzeit für den Druck</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>Vorgabe der Warteschlange</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>Von 1 bis 100; Aufträge mit höherer Priorität werden vor anderen gedruckt</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>Auftrags&amp;name</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>Ausrich&amp;tung</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>&amp;Zeitpunkt</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>&amp;Priorität</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>Vorgabe des Druckers</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>Umgekehrtes Querformat</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>Umgekehrtes Hochformat</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Sofort</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>Nach Freigabe</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>Zu einer Uhrzeit</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Tagsüber</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Abends</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>Nachts</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>In der zweiten Schicht</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>In der dritten Schicht</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>Am Wochenende</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>Der Auftrag ist gesendet.</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1 auf %2</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>Auftrag %1: %2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>&amp;Auftrag abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>Ausblenden</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>Auftrag zurücknehmen</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>Drucken, was da ist</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>„kvprint --cancel-left %1“ nimmt ihn zurück, „kvprint --release-left %1“ druckt, was der Server davon hat.</translation>
@@ -562,201 +1870,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>Zoll</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>Gruppen von Optionen</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>Dieser Drucker hat keine weiteren Optionen.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>&amp;Satzweise</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>Erst alle Seiten einmal, dann alle noch einmal; sonst alle Kopien einer Seite zusammen</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>alle, oder zum Beispiel 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>&amp;Kopien</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>S&amp;eiten</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>Letzte Seite zuerst</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>Die Seite ist größer als das Etikett und wird verkleinert.</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>Vorige Seite</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Nächste Seite</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>Seite %1 von %2</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>P&amp;apier</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>Papiere suchen</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>Eigene Größe, %1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>Größe des Dokuments nehmen: %1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>Eine eigene Größe</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>%1 breit</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 breit, %2 lang</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Eigene Größe…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>Kennwort für den Druckserver</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>&amp;Benutzername</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>&amp;Kennwort</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>%1 drucken</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Drucken</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Die Schneideoptionen können nicht gezeigt werden. %1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>Der Drucker hat keine Beschreibung; seine Papiere und Schnitte sind hier deshalb nicht bekannt.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>Warten auf die Beschreibung des Druckers…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>Es ist kein Drucker gewählt.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Warten auf die Antwort des Druckservers…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>Der Drucker kann dies nicht alles zusammen.</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>Trotzdem drucken</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>Die Beschreibung des Druckers ist nicht bekannt.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>Die PPD-Datei „%1“ hat kein Papier „%2“; sie hat: %3</translation>
@@ -771,1121 +1885,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Noch einmal versuchen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>Senden abbrechen</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>„%1“ wird gesendet</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>Option</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>Herkunft</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>Gesendet</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>Optionen des Auftrags</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>Derselbe Auftra&amp;g auf der Befehlszeile</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Ko&amp;pieren</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>Befehl kopieren</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Die Standardausgabe lässt sich nicht schreiben: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>Etikettenstreifen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Übersicht</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>Geben Sie „%1“ ein, um fortzufahren:</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>Verbindung ohne Verschlüsselung</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>Der Druckserver „%1“ verlangt ein Kennwort, und die Verbindung zu ihm ist nicht verschlüsselt.</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>Andere im Netzwerk können das Kennwort mitlesen.</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>Trotzdem senden</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>Zertifikat des Druckservers</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2.</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>Sein SHA-256-Fingerabdruck lautet:
-%1
-
-Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck nennt. Ihm wird von da an vertraut.</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>Vertrauen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>Die PPD-Datei nennt kein Papier, auf das gedruckt werden kann</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>Der Drucker „%1“ hat keine Option „%2“.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>Der Drucker „%1“ hat kein Papier „%2“.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>Die Option „%1“ des Druckers „%2“ hat keine Auswahl „%3“; sie hat: %4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>Der Drucker „%1“ kann nicht auf das Papier „%2“ drucken: Es ist %3 × %4 Punkt groß; Breite und Länge müssen größer als 0 sein, eine von beiden höchstens %5 m, die andere höchstens %6 m.</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>„%1: %2“</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>Dieser Drucker beherrscht %1 nicht.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 und %2 schließen einander aus.</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>„%1“ auf „%2“ setzen</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>Auf Wunsch abgebrochen.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>Der Druckserver „%1“ antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>Keine Verbindung zum Druckserver „%1“: %2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>Die Verbindung zum Druckserver „%1“ ist abgebrochen.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>Der Druckserver „%1“ meldet: %2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>Der Druckserver „%1“ liefert „%2“ nicht: %3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>die Datei ist größer als %1 MB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>die Verbindung brach mittendrin ab</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“, und es wurde keines angegeben.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>Der Druckserver „%1“ hat kein Zertifikat.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>Das Zertifikat des Druckservers „%1“ ist nicht das, dem für diesen Rechner vertraut wird. Das vertraute hat den SHA-256-Fingerabdruck %2, das des Servers %3. Möglicherweise wurde das Zertifikat des Servers ersetzt, auf demselben Rechner läuft ein weiterer Druckserver, oder jemand fängt die Verbindung ab. Wenn der Verwalter des Servers den Fingerabdruck bestätigt, löschen Sie die Datei „%4“ und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>Dem Zertifikat des Druckservers „%1“ mit dem SHA-256-Fingerabdruck %2 darf nicht vertraut werden: %3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2. Sein SHA-256-Fingerabdruck ist %3. Vergleichen Sie ihn mit dem, den der Verwalter des Servers nennt, und bestätigen Sie ihn, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>Der Benutzername oder das Kennwort ist falsch.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“. Es wurde keines gesendet, weil die Verbindung nicht verschlüsselt ist und andere es mitlesen könnten. Verschlüsseln Sie die Verbindung (-E), oder bestätigen Sie es, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>Der Druckserver „%1“ nimmt das Kennwort des Benutzers „%2“ nicht an.</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>Die Beschreibung des Druckers sagt nicht, ob er die Etiketten schneidet.</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>Etiketten: %1 · Band: %2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>Kein Vollschnitt: Die Etiketten kommen als ein Streifen.</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>Vollschnitt nach dem letzten Etikett.</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>Vollschnitt nach jedem Etikett.</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>Vollschnitt nach je %1 Etiketten.</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>wird gemessen…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>Etiketten: %1 · Stücke: %2 · Band: %3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>Es wird nichts gedruckt.</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Spezialband: Der Drucker schneidet nichts.</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>Halbschnitt zwischen den Etiketten eines Stücks.</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>Gedruckte Marken, wo nicht durchgeschnitten wird.</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>Das Ende bleibt im Drucker; der nächste Auftrag schließt ohne Rand an.</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>Leeres Band vor und nach jedem Etikett entfällt.</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>Die Etiketten sind gespiegelt.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>Der Druckserver „%1“ kann den Drucker „%2“ nicht erreichen.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>Der Drucker „%1“ ist nicht mehr im Netz.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>Das Dokument „%1“ lässt sich nicht lesen: %2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>es ist keine Datei</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>die Datei ist leer</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>die Datei wurde kürzer, während sie gelesen wurde</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>sie hat sich verändert, während sie gelesen wurde</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>Er soll neu gedruckt werden, wird aber zurückgehalten. %1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>Auftrag %1 wurde nicht geändert. %2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>Er kann das Dokument nicht speichern: Die Platte ist voll, oder das Dokument ist größer, als er es annimmt.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 In der Warteschlange „%3“ des Druckservers „%4“ kann ein Auftrag „%2“ ohne Dokumente zurückgeblieben sein; davon wird nichts gedruckt.</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 Der Druckserver „%2“ hat alle Dokumente des Auftrags %3-%4 und hat nicht gemeldet, ob er ihn freigibt: Der Auftrag wird gedruckt, oder er wird zurückgehalten und nicht gedruckt. Sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 Auftrag %2-%3 auf dem Druckserver „%4“ kann gedruckt worden sein; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; er wird auf dem Druckserver „%4“ zurückgehalten und nicht gedruckt, solange er nicht freigegeben wird.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 Auftrag %2-%3 ließ sich nicht zurücknehmen; sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 Auftrag %2-%3: %4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>Die Aufzeichnung „%1“ eines Auftrags, der gesendet wurde, ist beschädigt und wurde entfernt; sehen Sie in Ihren Warteschlangen nach, ob ein Auftrag zurückgeblieben ist.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>Vorgabe des Druckers</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>Vorgabe der Warteschlange</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>Ihre Vorgabe (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>Voreinstellung</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>Schneideoptionen</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>von Ihnen gewählt</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>Auftrag „%1“ für „%2“ auf %3
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>Gesendete Optionen:
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>So viele Etiketten auf einmal gehen nicht: Ein Auftrag hat höchstens %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>Zurückgehalten bis zur Freigabe.</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>Zurückgehalten bis %1.</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>Wartet, bis er an der Reihe ist.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Wird gedruckt.</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>Angehalten; es geht weiter, wenn der Drucker wieder bereit ist.</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>Abgebrochen.</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>Vom Druckserver aufgegeben.</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>Gedruckt.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>Der Server meldet: %1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>Der Auftrag ist zu Ende; der Druckserver behält nichts davon.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>Druck</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Dokument</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Drucker</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>alle</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Kopien</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Etikettenstreifen</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etiketten</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Stücke</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Band</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Schnitte</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>Reihenfolge</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>letzte Seite zuerst</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>Davon</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>die ungeraden Seiten</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>die geraden Seiten</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>Es gibt kein Dokument zu drucken.</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>Der Druckserver „%1“ hat „%2“ nicht ganz angenommen.</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>Das Dokument „%1“ lässt sich nicht öffnen: %2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>die Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>es ist keine Datei</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>die Datei ist leer</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>es ist verschlüsselt; entfernen Sie zuerst das Kennwort</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>es ist auf unbekannte Weise verschlüsselt</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>es hat keine Seiten</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>Seite %1 hat keine Fläche</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>Seite %1 ist länger als %2 m</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>Das Dokument von der Standardeingabe lässt sich nicht öffnen: %1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>es ist ein beschädigtes Bild</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>es hat %1 × %2 Pixel, mehr als sich drucken lassen</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>es ist ein Bild, dessen Ende fehlt</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>Kein Dokument angegeben</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>sie lässt sich nur einmal lesen</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>Standardeingabe</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 und %n weiteres</numerusform>
-            <numerusform>%1 und %n weitere</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>es ist größer als %1</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>es ist kein PDF, PNG, JPEG oder SVG</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>es ist ein beschädigtes PDF</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>es lässt sich nicht in „%1“ ablegen: %2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>es ist ein beschädigtes SVG</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>es verweist auf „%1“, und gedruckt wird nur, was im SVG selbst steht</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>Zeile %1 des SVG: %2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>es ist ein SVG aus mehr Teilen, als sich zeichnen lassen</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>es enthält ein Bild, das weder PNG noch JPEG ist</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>es enthält ein beschädigtes Bild</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>Der Druckserver „%1“ hat keinen Auftrag „%2“ in der Warteschlange „%3“ mehr, oder er ist beendet.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ wird nicht zurückgehalten: %4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist freigegeben.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist zurückgenommen.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht Auftrag %1 („%2“) auf dem Druckserver „%3“ zurückgelassen, möglicherweise ohne alle Dokumente.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht einen Auftrag „%1“ ohne Dokumente in der Warteschlange „%2“ des Druckservers „%3“ zurückgelassen.</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>Kein Arbeitsspeicher mehr; es wurde nichts gedruckt.</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>Kein Arbeitsspeicher mehr; der Auftrag ist vielleicht unvollständig oder auf dem Druckserver zurückgeblieben.</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>Kein Arbeitsspeicher mehr. Der Auftrag wurde trotzdem gesendet.</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>Das Bundle „%1“ lässt sich nicht verwenden: %2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>seine Bibliothek enthält keine Seiten für den Druckdialog</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>es ist für Version %1 der Schnittstelle gemacht, dieses Programm hat Version %2</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>fehlt oder ist nicht lesbar: %1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>es ist kein Ordner</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>den Ordner gibt es nicht</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>Das Bundle mit den Schneideoptionen wurde nicht gefunden; gesucht: %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>es hat keine Bibliothek %1</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>es läuft auf diesem System nicht</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>Die PPD-Datei „%1“ lässt sich nicht öffnen: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>sie ist größer als %1 MB, mehr als jede Druckerbeschreibung</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>sie ist beschädigt oder unvollständig: Sie lässt sich nicht bis zum Ende entpacken</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>es ist keine Datei</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>die Datei ist leer</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>die Datei hat %1 Anweisungen; höchstens %2 sind möglich</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>die Datei hat %1 Anweisungen „%2“; höchstens %3 sind möglich</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>sie endet mitten in einem Wert; die Datei ist unvollständig</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>Druckersteuerung</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>Die Seiten „%1“ sind nicht verständlich: Schreiben Sie Zahlen und Bereiche wie 1-3, 5</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>Die Seiten „%1“ lassen sich nicht drucken: Die letzte Seite des Dokuments ist %2</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>Es würde nichts gedruckt: Keine Seite des Dokuments ist gewählt</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>„%1“ kann mit diesem Papier und den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>Der Drucker „%1“ hat kein Papier „%2“, das Ihre Vorgabe ist (lpoptions).</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>Der Druckserver „%1“ hat keine Warteschlange oder Klasse „%2“.</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>Der Drucker wartet auf Etiketten oder Band.</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>Etiketten oder Band haben sich gestaut.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>Die Etikettenrolle oder das Band ist fast aufgebraucht.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>Die Etikettenrolle oder das Band ist aufgebraucht.</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>Der Drucker wird gleich angehalten.</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>Die Warteschlange ist angehalten; Aufträge warten.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>Der Drucker ist ausgeschaltet.</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>Verbindung zum Drucker wird hergestellt.</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>Der Drucker antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>Der Drucker hält an.</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>Einige Drucker der Klasse sind angehalten.</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>Der Toner ist fast aufgebraucht.</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>Der Toner ist aufgebraucht.</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>Der Druckserver hat keinen Platz mehr.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>Die Abdeckung des Druckers ist offen.</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>Eine Verriegelung des Druckers ist offen.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>Die Klappe des Druckers ist offen.</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>Die Kassette oder der Rollenhalter fehlt.</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>Das Ausgabefach fehlt.</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>Das Ausgabefach ist fast voll.</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>Das Ausgabefach ist voll.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>Tinte oder Farbband ist fast aufgebraucht.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>Tinte oder Farbband ist aufgebraucht.</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>Der Abfallbehälter ist fast voll.</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>Der Abfallbehälter ist voll.</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>Der Drucker ist zu heiß.</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>Der Drucker wärmt sich auf.</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>Der Drucker ist offline.</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>Neue Aufträge werden zurückgehalten.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>Der Drucker ist vom Verwalter abgeschaltet.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>Ein Teil des Druckertreibers fehlt.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>Ein Teil des Druckertreibers ist nicht sicher installiert.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>Warten, bis der Drucker den Auftrag beendet hat.</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>Der Drucker hält sich nicht an sein Protokoll.</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Bereit.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Druckt.</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>Im Netzwerk gefunden.</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>Zustand unbekannt.</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>Die Warteschlange nimmt keine Aufträge an.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>Der Server meldet: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>nächster Auftrag</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1 auf %2, %3</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>es ist kein Ordner</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>der Ordner lässt sich nicht anlegen: %1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>es ist ein Ordner</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>es ist eine symbolische Verknüpfung</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>es ist ein Socket</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>es ist ein Blockgerät</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>niemand liest davon</translation>
     </message>
 </context>
 </TS>

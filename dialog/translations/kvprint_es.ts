@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Clase de impresoras: %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>I&amp;mpresora</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Esa impresora no existe.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Esperando la respuesta del servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>La última vez: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>El servidor de impresión no responde. La última vez: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>El servidor de impresión no responde.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>El servidor de impresión pide una contraseña.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>El servidor de impresión pide una contraseña. La última vez: %1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>No se confía en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>No se confía en el servidor de impresión. La última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Hora de impresión</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Según la cola</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>De 1 a 100; los trabajos con mayor prioridad se imprimen antes que los demás</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>&amp;Nombre del trabajo</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Orien&amp;tación</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>C&amp;uándo imprimir</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Prioridad</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Según la impresora</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Horizontal invertida</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Vertical invertida</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Cuando lo libere</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A una hora determinada</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante el día</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Por la tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Por la noche</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>En el segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>En el tercer turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>El fin de semana</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>El trabajo se ha enviado.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Trabajo %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Cancelar el &amp;trabajo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Retirar el trabajo</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Imprimir lo que haya</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>Interca&amp;lar copias</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>Todas las páginas una vez y luego otra; si no, todas las copias de una página juntas</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>todas o, por ejemplo, 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Copias</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>Pá&amp;ginas</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Última página primero</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Contraseña del servidor de impresión</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nombre de &amp;usuario</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>Con&amp;traseña</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Detener el envío</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>Enviando «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origen</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Se envía</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opciones del trabajo</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>El mismo tra&amp;bajo en la línea de órdenes</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Co&amp;piar</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copiar la orden</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Conexión sin cifrar</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>El servidor de impresión «%1» pide una contraseña y la conexión con él no está cifrada.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Otros en la red pueden leer la contraseña.</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>Enviar de todos modos</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificado del servidor de impresión</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>No se confía en el certificado del servidor de impresión «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>Su huella SHA-256 es:
+%1
+
+Confíe en él solo si el administrador del servidor indica la misma huella. A partir de entonces se confía en él.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Confiar</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>El archivo PPD no indica ningún papel en el que imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>sin ajustar</translation>
@@ -18,14 +356,1217 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>La impresora no puede hacer todo esto a la vez.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Imprimir de todos modos</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>«%1» necesita al menos %n carácter. Hasta entonces, el ajuste queda como estaba.</numerusform>
+            <numerusform>«%1» necesita al menos %n caracteres. Hasta entonces, el ajuste queda como estaba.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Grupos de opciones</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Esta impresora no tiene más opciones.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>de %1 a %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Ancho del papel</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>Largo del papel</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>Anc&amp;ho</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>La&amp;rgo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>P&amp;apel</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>Buscar papeles</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personalizado, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Usar el tamaño del documento: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Un tamaño personalizado</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 de ancho</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 de ancho, %2 de largo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Tamaño personalizado…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>pulg.</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>Impresora: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opciones, vista previa y resumen</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Re&amp;sumen</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Traba&amp;jo</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>Lo que se &amp;enviará</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>La página es mayor que la etiqueta y se reduce para que quepa.</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>No se pueden mostrar las opciones de corte. %1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>La impresora no tiene descripción, por lo que aquí no se conocen sus papeles ni sus cortes.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Esperando la descripción de la impresora…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>No se ha elegido ninguna impresora.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Esperando la respuesta del servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>No se conoce la descripción de la impresora.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>Tira de etiquetas</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Memoria agotada; no se ha impreso nada.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Memoria agotada; es posible que el trabajo esté incompleto o haya quedado en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Memoria agotada. El trabajo se envió de todos modos.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>La impresora «%1» no tiene la opción «%2».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>La impresora «%1» no tiene el papel «%2».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>La opción «%1» de la impresora «%2» no tiene el valor «%3»; tiene: %4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>La impresora «%1» no puede imprimir en el papel «%2»: su tamaño es de %3 × %4 puntos; el ancho y el largo deben ser mayores que 0, uno de ellos de %5 m como máximo y el otro de %6 m como máximo.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>No se puede leer el documento «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>se ha acortado mientras se leía</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>ha cambiado mientras se leía</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Se va a imprimir de nuevo, pero está retenido. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>El trabajo %1 no se ha modificado. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 Es posible que en la cola «%3» del servidor de impresión «%4» haya quedado un trabajo «%2» sin documentos; no se imprime nada de él.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 El servidor de impresión «%2» tiene todos los documentos del trabajo %3-%4 y no ha dicho si lo libera: el trabajo se imprime, o está retenido y no se imprime. Revise la cola antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Es posible que el trabajo %2-%3 del servidor de impresión «%4» se haya impreso; revise la cola antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Trabajo %2-%3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>El registro «%1» de un trabajo que se estaba enviando está dañado y se ha eliminado; compruebe en sus colas si ha quedado algún trabajo.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>predeterminado de la impresora</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>predeterminado de la cola</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>su valor predeterminado (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>preajuste</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>opciones de corte</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>elegido por usted</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>No se pueden imprimir tantas etiquetas a la vez: un trabajo tiene como máximo %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Retenido hasta que se libere.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Retenido hasta: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>Esperando su turno.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Detenido; continúa cuando la impresora vuelva a estar lista.</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>Interrumpido por el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Impreso.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>El servidor dice: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>El trabajo ha terminado; el servidor de impresión no guarda registro de él.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>No hay ningún documento que imprimir.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no ha aceptado todo «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>El servidor de impresión «%1» ya no tiene ningún trabajo «%2» en la cola «%3», o ha terminado.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>El trabajo %1-%2 del servidor de impresión «%3» no está retenido: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha liberado.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha retirado.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Un programa que se detuvo mientras imprimía puede haber dejado el trabajo %1 («%2») en el servidor de impresión «%3», quizá sin todos sus documentos.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Un programa que se detuvo mientras imprimía puede haber dejado un trabajo «%1» sin documentos en la cola «%2» del servidor de impresión «%3».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no puede comunicarse con la impresora «%2».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>La impresora «%1» ya no está en la red.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no tiene ninguna cola o clase «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>La impresora espera etiquetas o cinta.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Las etiquetas o la cinta están atascadas.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>El rollo de etiquetas o la cinta está a punto de acabarse.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>El rollo de etiquetas o la cinta se ha acabado.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>La impresora está a punto de ponerse en pausa.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>La cola está en pausa; los trabajos esperan.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>La impresora está apagada.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Conectando con la impresora.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>La impresora no responde.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>La impresora se está deteniendo.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Algunas impresoras de la clase están detenidas.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>El tóner está a punto de agotarse.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>El tóner se ha agotado.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>El servidor de impresión no tiene espacio libre.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>La cubierta de la impresora está abierta.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Un cierre de la impresora está abierto.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>La puerta de la impresora está abierta.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Falta el casete o el soporte del rollo.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Falta la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>La bandeja de salida está casi llena.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>La bandeja de salida está llena.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>La tinta o la cinta entintada está a punto de agotarse.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>La tinta o la cinta entintada se ha agotado.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>El depósito de residuos está casi lleno.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>El depósito de residuos está lleno.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>La impresora está demasiado caliente.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>La impresora se está calentando.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>La impresora está desconectada.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Los trabajos nuevos se retienen.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>El administrador ha desactivado la impresora.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Falta una parte del controlador de la impresora.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Una parte del controlador de la impresora no está instalada de forma segura.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Esperando a que la impresora termine el trabajo.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>La impresora no cumple su protocolo.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Lista.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Encontrada en la red.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Estado desconocido.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>La cola no acepta trabajos.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>El servidor dice: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>Interrumpido a petición del usuario.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>El servidor de impresión «%1» no responde.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>No se puede conectar con el servidor de impresión «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>Se ha cortado la conexión con el servidor de impresión «%1».</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>El servidor de impresión «%1» dice: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>El servidor de impresión «%1» no entrega «%2»: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>ocupa más de %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>la conexión se cortó a la mitad</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2» y no se indicó ninguna.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>El servidor de impresión «%1» no tiene certificado.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>El certificado del servidor de impresión «%1» no es el que está marcado como de confianza para este equipo. El de confianza tiene la huella SHA-256 %2; el del servidor, %3. Puede que se haya sustituido el certificado del servidor, que en el mismo equipo funcione otro servidor de impresión o que alguien esté interceptando la conexión. Si el administrador del servidor confirma la huella, elimine el archivo «%4» e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>No se permite confiar en el certificado del servidor de impresión «%1» con la huella SHA-256 %2: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>No se confía en el certificado del servidor de impresión «%1»: %2. Su huella SHA-256 es %3. Compárela con la que indica el administrador del servidor y confírmela cuando se le pregunte, en la ventana o en un terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>El nombre de usuario o la contraseña son incorrectos.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2». No se ha enviado ninguna porque la conexión no está cifrada y otros podrían leerla. Cifre la conexión (-E) o confírmelo cuando se le pregunte, en la ventana o en un terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>El servidor de impresión «%1» no acepta la contraseña del usuario «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>No puede guardar el documento: el disco está lleno o el documento es mayor de lo que acepta.</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>No se puede abrir el documento «%1»: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>no existe ese archivo</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>está cifrado; quite antes la contraseña</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>está cifrado de un modo desconocido</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>no tiene páginas</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>la página %1 no tiene superficie</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>la página %1 mide más de %2 m</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>No se puede abrir el documento de la entrada estándar: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>es una imagen dañada</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>tiene %1 × %2 píxeles, más de los que se pueden imprimir</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>es una imagen a la que le falta el final</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>No se indica ningún documento</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>solo se puede leer una vez</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrada estándar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>supera %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>no es PDF, PNG, JPEG ni SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>es un PDF dañado</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>no se puede guardar en «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>es un SVG dañado</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>hace referencia a «%1», y solo se imprime lo que está en el propio SVG</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>línea %1 del SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>es un SVG con más partes de las que se pueden dibujar</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>contiene una imagen que no es ni PNG ni JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>contiene una imagen dañada</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>No se entienden las páginas «%1»: escriba números e intervalos como 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>No se pueden imprimir las páginas «%1»: la última página del documento es %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>No se imprimiría nada: no se ha elegido ninguna página del documento</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>No se puede usar el paquete «%1»: %2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>su biblioteca no contiene paneles</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>se hizo para la versión %1 de la interfaz y este programa tiene la %2</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>falta o no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>no existe esa carpeta</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>No se encuentra el paquete del panel; se buscó %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>no tiene la biblioteca %1</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>no funciona en este sistema</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>«%1» no puede guardar sus ajustes: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>«%1: %2»</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Esta impresora no admite %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 y %2 se excluyen mutuamente.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>ajustar «%1» a «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>No se puede abrir el archivo PPD «%1»: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>ocupa más de %1 MB, más que cualquier descripción de impresora</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>está dañado o incompleto: no se puede descomprimir hasta el final</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>tiene %1 instrucciones; el máximo es %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>tiene %1 instrucciones «%2»; el máximo es %3</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>termina en medio de un valor; el archivo está incompleto</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Control de la impresora</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Trabajo «%1» para «%2» en %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opciones que se envían:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todas</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Tira de etiquetas</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Piezas</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Cinta</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Cortes</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>última página primero</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>De ellas</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>las páginas impares</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>las páginas pares</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>El paquete «%1» no pudo crear su panel</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>«%1» no puede ser «%2» con este papel y las demás opciones de corte, y se imprime como «%3».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>La impresora «%1» no tiene el papel «%2», que es su valor predeterminado (lpoptions).</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La descripción de la impresora no indica si corta las etiquetas.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etiquetas: %1 · Cinta: %2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>Sin corte completo: las etiquetas salen en una sola tira.</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>Corte completo tras la última etiqueta.</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>Corte completo tras cada etiqueta.</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>Corte completo cada %1 etiquetas.</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>midiendo…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>Etiquetas: %1 · Piezas: %2 · Cinta: %3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>No se imprime nada.</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>Cinta especial: la impresora no corta nada.</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>Medio corte entre las etiquetas de una pieza.</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>Marcas impresas donde no se corta por completo.</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>El final queda en la impresora; el siguiente trabajo continúa desde ahí sin margen.</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>Se omite la cinta en blanco antes y después de cada etiqueta.</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>Las etiquetas están reflejadas.</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>trabajo siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1 en %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>no se puede crear la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>No se puede escribir «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>es un enlace simbólico</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>es un socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>es un dispositivo de bloques</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>nadie lee de ahí</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>Pruebe «kvprint --help».</translation>
@@ -272,89 +1813,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>El trabajo se ha enviado de todos modos, como %1-%2.</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>de %1 a %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Ancho del papel</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>Largo del papel</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>Anc&amp;ho</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>La&amp;rgo</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>Clase de impresoras: %1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>I&amp;mpresora</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Impresora</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>Esa impresora no existe.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Esperando la respuesta del servidor de impresión…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>La última vez: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>El servidor de impresión no responde. La última vez: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>El servidor de impresión no responde.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>El servidor de impresión pide una contraseña.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>El servidor de impresión pide una contraseña. La última vez: %1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>No se confía en el servidor de impresión.</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>No se confía en el servidor de impresión. La última vez: %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(predeterminada)</translation>
@@ -365,44 +1831,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opciones, vista previa y resumen</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>&amp;Vista previa</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>Re&amp;sumen</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>Traba&amp;jo</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>Lo que se &amp;enviará</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opciones</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>«%1» necesita al menos %n carácter. Hasta entonces, el ajuste queda como estaba.</numerusform>
-            <numerusform>«%1» necesita al menos %n caracteres. Hasta entonces, el ajuste queda como estaba.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>El servidor de impresión «%1» no tiene ningún destino en el que imprimir</translation>
@@ -421,128 +1850,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>Hora de impresión</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>Según la cola</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>De 1 a 100; los trabajos con mayor prioridad se imprimen antes que los demás</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>&amp;Nombre del trabajo</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>Orien&amp;tación</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>C&amp;uándo imprimir</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>&amp;Prioridad</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>Según la impresora</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Vertical</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Horizontal</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>Horizontal invertida</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>Vertical invertida</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Ahora</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>Cuando lo libere</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>A una hora determinada</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Durante el día</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Por la tarde</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>Por la noche</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>En el segundo turno</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>En el tercer turno</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>El fin de semana</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>El trabajo se ha enviado.</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1 en %2</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>Trabajo %1: %2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>Cancelar el &amp;trabajo</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>Retirar el trabajo</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>Imprimir lo que haya</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>«kvprint --cancel-left %1» lo retira, «kvprint --release-left %1» imprime lo que el servidor tiene de él.</translation>
@@ -561,201 +1869,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>pulg.</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>Grupos de opciones</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>Esta impresora no tiene más opciones.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>Interca&amp;lar copias</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>Todas las páginas una vez y luego otra; si no, todas las copias de una página juntas</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>todas o, por ejemplo, 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>&amp;Copias</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>Pá&amp;ginas</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>Última página primero</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>La página es mayor que la etiqueta y se reduce para que quepa.</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>Página anterior</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Página siguiente</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>Página %1 de %2</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>P&amp;apel</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papel</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>Buscar papeles</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>Personalizado, %1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>Usar el tamaño del documento: %1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>Un tamaño personalizado</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>%1 de ancho</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 de ancho, %2 de largo</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Tamaño personalizado…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>Contraseña del servidor de impresión</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>Nombre de &amp;usuario</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>Con&amp;traseña</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>Imprimir %1</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Imprimir</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>No se pueden mostrar las opciones de corte. %1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>La impresora no tiene descripción, por lo que aquí no se conocen sus papeles ni sus cortes.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>Esperando la descripción de la impresora…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>No se ha elegido ninguna impresora.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Esperando la respuesta del servidor de impresión…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>La impresora no puede hacer todo esto a la vez.</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>Imprimir de todos modos</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>No se conoce la descripción de la impresora.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>El archivo PPD «%1» no tiene el papel «%2»; tiene: %3</translation>
@@ -770,1121 +1884,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Intentar de nuevo</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>Detener el envío</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>Enviando «%1»</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>Opción</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valor</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>Origen</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>Se envía</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>Opciones del trabajo</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>El mismo tra&amp;bajo en la línea de órdenes</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Co&amp;piar</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>Copiar la orden</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>sí</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>No se puede escribir en la salida estándar: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>Tira de etiquetas</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valor</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Resumen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>Escriba «%1» para continuar:</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>Conexión sin cifrar</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>El servidor de impresión «%1» pide una contraseña y la conexión con él no está cifrada.</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>Otros en la red pueden leer la contraseña.</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>Enviar de todos modos</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>Certificado del servidor de impresión</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>No se confía en el certificado del servidor de impresión «%1»: %2.</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>Su huella SHA-256 es:
-%1
-
-Confíe en él solo si el administrador del servidor indica la misma huella. A partir de entonces se confía en él.</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>Confiar</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>El archivo PPD no indica ningún papel en el que imprimir</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>La impresora «%1» no tiene la opción «%2».</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>La impresora «%1» no tiene el papel «%2».</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>La opción «%1» de la impresora «%2» no tiene el valor «%3»; tiene: %4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>La impresora «%1» no puede imprimir en el papel «%2»: su tamaño es de %3 × %4 puntos; el ancho y el largo deben ser mayores que 0, uno de ellos de %5 m como máximo y el otro de %6 m como máximo.</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>«%1: %2»</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>Esta impresora no admite %1.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 y %2 se excluyen mutuamente.</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>ajustar «%1» a «%2»</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>Interrumpido a petición del usuario.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>El servidor de impresión «%1» no responde.</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>No se puede conectar con el servidor de impresión «%1»: %2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>Se ha cortado la conexión con el servidor de impresión «%1».</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>El servidor de impresión «%1» dice: %2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>El servidor de impresión «%1» no entrega «%2»: %3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>ocupa más de %1 MB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>la conexión se cortó a la mitad</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2» y no se indicó ninguna.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>El servidor de impresión «%1» no tiene certificado.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>El certificado del servidor de impresión «%1» no es el que está marcado como de confianza para este equipo. El de confianza tiene la huella SHA-256 %2; el del servidor, %3. Puede que se haya sustituido el certificado del servidor, que en el mismo equipo funcione otro servidor de impresión o que alguien esté interceptando la conexión. Si el administrador del servidor confirma la huella, elimine el archivo «%4» e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>No se permite confiar en el certificado del servidor de impresión «%1» con la huella SHA-256 %2: %3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>No se confía en el certificado del servidor de impresión «%1»: %2. Su huella SHA-256 es %3. Compárela con la que indica el administrador del servidor y confírmela cuando se le pregunte, en la ventana o en un terminal.</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>El nombre de usuario o la contraseña son incorrectos.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2». No se ha enviado ninguna porque la conexión no está cifrada y otros podrían leerla. Cifre la conexión (-E) o confírmelo cuando se le pregunte, en la ventana o en un terminal.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>El servidor de impresión «%1» no acepta la contraseña del usuario «%2».</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>La descripción de la impresora no indica si corta las etiquetas.</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>Etiquetas: %1 · Cinta: %2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>Sin corte completo: las etiquetas salen en una sola tira.</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>Corte completo tras la última etiqueta.</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>Corte completo tras cada etiqueta.</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>Corte completo cada %1 etiquetas.</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>midiendo…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>Etiquetas: %1 · Piezas: %2 · Cinta: %3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>No se imprime nada.</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Cinta especial: la impresora no corta nada.</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>Medio corte entre las etiquetas de una pieza.</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>Marcas impresas donde no se corta por completo.</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>El final queda en la impresora; el siguiente trabajo continúa desde ahí sin margen.</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>Se omite la cinta en blanco antes y después de cada etiqueta.</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>Las etiquetas están reflejadas.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>El servidor de impresión «%1» no puede comunicarse con la impresora «%2».</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>La impresora «%1» ya no está en la red.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>No se puede leer el documento «%1»: %2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>no es un archivo</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>está vacío</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>se ha acortado mientras se leía</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>ha cambiado mientras se leía</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>Se va a imprimir de nuevo, pero está retenido. %1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>El trabajo %1 no se ha modificado. %2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>No puede guardar el documento: el disco está lleno o el documento es mayor de lo que acepta.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 Es posible que en la cola «%3» del servidor de impresión «%4» haya quedado un trabajo «%2» sin documentos; no se imprime nada de él.</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 El servidor de impresión «%2» tiene todos los documentos del trabajo %3-%4 y no ha dicho si lo libera: el trabajo se imprime, o está retenido y no se imprime. Revise la cola antes de volver a imprimir.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 Es posible que el trabajo %2-%3 del servidor de impresión «%4» se haya impreso; revise la cola antes de volver a imprimir.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 No se pudo retirar el trabajo %2-%3; está retenido en el servidor de impresión «%4» y no se imprime mientras no se libere.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 No se pudo retirar el trabajo %2-%3; revise la cola antes de volver a imprimir.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 Trabajo %2-%3: %4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>El registro «%1» de un trabajo que se estaba enviando está dañado y se ha eliminado; compruebe en sus colas si ha quedado algún trabajo.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>predeterminado de la impresora</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>predeterminado de la cola</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>su valor predeterminado (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>preajuste</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>opciones de corte</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>elegido por usted</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>Trabajo «%1» para «%2» en %3
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>Opciones que se envían:
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>No se pueden imprimir tantas etiquetas a la vez: un trabajo tiene como máximo %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>Retenido hasta que se libere.</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>Retenido hasta: %1.</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>Esperando su turno.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Imprimiendo.</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>Detenido; continúa cuando la impresora vuelva a estar lista.</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>Cancelado.</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>Interrumpido por el servidor de impresión.</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>Impreso.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>El servidor dice: %1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>El trabajo ha terminado; el servidor de impresión no guarda registro de él.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>Impresión</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Impresora</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papel</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Páginas</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>todas</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copias</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Tira de etiquetas</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etiquetas</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Piezas</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Cinta</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Cortes</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>Orden</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>última página primero</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>De ellas</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>las páginas impares</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>las páginas pares</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>No hay ningún documento que imprimir.</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>El servidor de impresión «%1» no ha aceptado todo «%2».</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>No se puede abrir el documento «%1»: %2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>no existe ese archivo</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>no es un archivo</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>está vacío</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>está cifrado; quite antes la contraseña</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>está cifrado de un modo desconocido</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>no tiene páginas</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>la página %1 no tiene superficie</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>la página %1 mide más de %2 m</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>No se puede abrir el documento de la entrada estándar: %1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>es una imagen dañada</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>tiene %1 × %2 píxeles, más de los que se pueden imprimir</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>es una imagen a la que le falta el final</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>No se indica ningún documento</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>solo se puede leer una vez</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>entrada estándar</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 y %n más</numerusform>
-            <numerusform>%1 y %n más</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>supera %1</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>no es PDF, PNG, JPEG ni SVG</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>es un PDF dañado</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>no se puede guardar en «%1»: %2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>es un SVG dañado</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>hace referencia a «%1», y solo se imprime lo que está en el propio SVG</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>línea %1 del SVG: %2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>es un SVG con más partes de las que se pueden dibujar</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>contiene una imagen que no es ni PNG ni JPEG</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>contiene una imagen dañada</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>El servidor de impresión «%1» ya no tiene ningún trabajo «%2» en la cola «%3», o ha terminado.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>El trabajo %1-%2 del servidor de impresión «%3» no está retenido: %4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha liberado.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha retirado.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>Un programa que se detuvo mientras imprimía puede haber dejado el trabajo %1 («%2») en el servidor de impresión «%3», quizá sin todos sus documentos.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>Un programa que se detuvo mientras imprimía puede haber dejado un trabajo «%1» sin documentos en la cola «%2» del servidor de impresión «%3».</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>Memoria agotada; no se ha impreso nada.</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>Memoria agotada; es posible que el trabajo esté incompleto o haya quedado en el servidor de impresión.</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>Memoria agotada. El trabajo se envió de todos modos.</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>No se puede usar el paquete «%1»: %2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>su biblioteca no contiene paneles</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>se hizo para la versión %1 de la interfaz y este programa tiene la %2</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>falta o no se puede leer: %1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>no es una carpeta</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>no existe esa carpeta</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>No se encuentra el paquete del panel; se buscó %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>no tiene la biblioteca %1</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>no funciona en este sistema</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>El paquete «%1» no pudo crear su panel</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>No se puede abrir el archivo PPD «%1»: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>línea %1: %2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>ocupa más de %1 MB, más que cualquier descripción de impresora</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>está dañado o incompleto: no se puede descomprimir hasta el final</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>no es un archivo</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>está vacío</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>tiene %1 instrucciones; el máximo es %2</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>tiene %1 instrucciones «%2»; el máximo es %3</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>termina en medio de un valor; el archivo está incompleto</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>Control de la impresora</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>No se entienden las páginas «%1»: escriba números e intervalos como 1-3, 5</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>No se pueden imprimir las páginas «%1»: la última página del documento es %2</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>No se imprimiría nada: no se ha elegido ninguna página del documento</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>«%1» no puede ser «%2» con este papel y las demás opciones de corte, y se imprime como «%3».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>«%1» no puede guardar sus ajustes: %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>La impresora «%1» no tiene el papel «%2», que es su valor predeterminado (lpoptions).</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>El servidor de impresión «%1» no tiene ninguna cola o clase «%2».</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>La impresora espera etiquetas o cinta.</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>Las etiquetas o la cinta están atascadas.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>El rollo de etiquetas o la cinta está a punto de acabarse.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>El rollo de etiquetas o la cinta se ha acabado.</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>La impresora está a punto de ponerse en pausa.</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>La cola está en pausa; los trabajos esperan.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>La impresora está apagada.</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>Conectando con la impresora.</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>La impresora no responde.</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>La impresora se está deteniendo.</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>Algunas impresoras de la clase están detenidas.</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>El tóner está a punto de agotarse.</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>El tóner se ha agotado.</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>El servidor de impresión no tiene espacio libre.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>La cubierta de la impresora está abierta.</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>Un cierre de la impresora está abierto.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>La puerta de la impresora está abierta.</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>Falta el casete o el soporte del rollo.</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>Falta la bandeja de salida.</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>La bandeja de salida está casi llena.</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>La bandeja de salida está llena.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>La tinta o la cinta entintada está a punto de agotarse.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>La tinta o la cinta entintada se ha agotado.</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>El depósito de residuos está casi lleno.</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>El depósito de residuos está lleno.</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>La impresora está demasiado caliente.</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>La impresora se está calentando.</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>La impresora está desconectada.</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>Los trabajos nuevos se retienen.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>El administrador ha desactivado la impresora.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>Falta una parte del controlador de la impresora.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>Una parte del controlador de la impresora no está instalada de forma segura.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>Esperando a que la impresora termine el trabajo.</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>La impresora no cumple su protocolo.</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Lista.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Imprimiendo.</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>Encontrada en la red.</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>Estado desconocido.</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>La cola no acepta trabajos.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>El servidor dice: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>trabajo siguiente</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1 en %2, %3</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>no es una carpeta</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>no se puede crear la carpeta: %1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>No se puede escribir «%1»: %2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>es una carpeta</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>es un enlace simbólico</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>es un socket</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>es un dispositivo de bloques</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>nadie lee de ahí</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Classe d’imprimantes : %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>Imp&amp;rimante</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Cette imprimante n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Attente de la réponse du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>La dernière fois : %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>Le serveur d’impression ne répond pas. La dernière fois : %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>Le serveur d’impression ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>Le serveur d’impression demande un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>Le serveur d’impression demande un mot de passe. La dernière fois : %1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>Le serveur d’impression n’est pas approuvé.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>Le serveur d’impression n’est pas approuvé. La dernière fois : %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Heure d’impression</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Réglage de la file d’attente</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>De 1 à 100 ; les tâches de priorité plus élevée sont imprimées avant les autres</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Nom &amp;de la tâche</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Orie&amp;ntation</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Quand imprimer</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>&amp;Priorité</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Réglage de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Paysage inversé</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Portrait inversé</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Quand je libère la tâche</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>À une heure donnée</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Pendant la journée</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>En soirée</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>La tâche est envoyée.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Tâche %1 : %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Annuler la &amp;tâche</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Masquer</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Retirer la tâche</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Imprimer ce qui est là</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>Asse&amp;mbler les copies</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>Toutes les pages une fois, puis à nouveau ; sinon toutes les copies d’une page ensemble</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>toutes, ou par exemple 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Copies</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>Pa&amp;ges</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Mot de passe du serveur d’impression</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nom d’&amp;utilisateur</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Arrêter l’envoi</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>Envoi de « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyée</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Options de la tâche</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>La même tâche en ligne de comman&amp;de</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copier la commande</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Connexion non chiffrée</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>Le serveur d’impression « %1 » demande un mot de passe et la connexion n’est pas chiffrée.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>D’autres personnes sur le réseau peuvent lire le mot de passe.</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>Envoyer quand même</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificat du serveur d’impression</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>Son empreinte SHA-256 est :
+%1
+
+Ne l’approuvez que si l’administrateur du serveur indique la même empreinte. Il reste approuvé par la suite.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Approuver</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Le fichier PPD n’indique aucun papier</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>non défini</translation>
@@ -18,14 +356,1217 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>L’imprimante ne peut pas faire tout cela à la fois.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Imprimer quand même</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>« %1 » demande au moins %n caractère. D’ici là, le réglage reste tel qu’il était.</numerusform>
+            <numerusform>« %1 » demande au moins %n caractères. D’ici là, le réglage reste tel qu’il était.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Groupes d’options</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Cette imprimante n’a pas d’autres options.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Largeur du papier</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>Longueur du papier</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Largeur</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>Longue&amp;ur</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>P&amp;apier</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>Chercher un papier</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personnalisé, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Prendre la taille du document : %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Une taille personnalisée</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 de large</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 de large, %2 de long</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Taille personnalisée…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>Imprimante : %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Options, aperçu et résumé</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Ap&amp;erçu de la page</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>Ré&amp;sumé</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>&amp;Tâche</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>À en&amp;voyer</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>La page est plus grande que l’étiquette et sera réduite.</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>Les options de coupe ne peuvent pas être affichées. %1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>L’imprimante n’a pas de description ; ses papiers et ses coupes ne sont donc pas connus ici.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Attente de la description de l’imprimante…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Aucune imprimante n’est choisie.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Attente de la réponse du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>La description de l’imprimante n’est pas connue.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>Bande d’étiquettes</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Mémoire épuisée ; rien n’a été imprimé.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Mémoire épuisée ; la tâche est peut-être incomplète, ou restée sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Mémoire épuisée. La tâche a tout de même été envoyée.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>L’imprimante « %1 » n’a pas d’option « %2 ».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>L’imprimante « %1 » n’a pas de papier « %2 ».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>L’option « %1 » de l’imprimante « %2 » n’a pas de choix « %3 » ; elle a : %4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>L’imprimante « %1 » ne peut pas imprimer sur le papier « %2 » : sa taille est de %3 × %4 points ; la largeur et la longueur doivent être supérieures à 0 ; l’une ne doit pas dépasser %5 m et l’autre %6 m.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Impossible de lire le document « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>il a raccourci pendant la lecture</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>il a changé pendant la lecture</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Elle doit être réimprimée, mais est retenue. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>La tâche %1 n’a pas été modifiée. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 Une tâche « %2 » sans documents est peut-être restée dans la file d’attente « %3 » du serveur d’impression « %4 » ; rien n’en est imprimé.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 Le serveur d’impression « %2 » a tous les documents de la tâche %3-%4 et n’a pas indiqué s’il la libère : la tâche est imprimée, ou elle est retenue et n’est pas imprimée. Regardez la file d’attente avant d’imprimer à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 La tâche %2-%3 du serveur d’impression « %4 » a peut-être été imprimée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Tâche %2-%3 : %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>L’enregistrement « %1 » d’une tâche en cours d’envoi est endommagé et a été supprimé ; vérifiez dans vos files d’attente si une tâche est restée.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>défaut de la file d’attente</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>votre défaut (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>préréglage</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>options de coupe</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>réglé par vous</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Impossible d’imprimer autant d’étiquettes à la fois : une tâche en a au plus %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Retenue jusqu’à sa libération.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Retenue jusqu’à %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>En attente de son tour.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Impression en cours.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Arrêtée ; elle reprend quand l’imprimante est de nouveau prête.</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Annulée.</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>Abandonnée par le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Imprimée.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Le serveur indique : %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>La tâche est terminée ; le serveur d’impression n’en garde pas trace.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Il n’y a aucun document à imprimer.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » n’a pas accepté la totalité de « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>Le serveur d’impression « %1 » n’a plus de tâche « %2 » dans la file d’attente « %3 », ou elle est terminée.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>La tâche %1-%2 du serveur d’impression « %3 » n’est pas retenue : %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>La tâche %1-%2 du serveur d’impression « %3 » est libérée.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>La tâche %1-%2 du serveur d’impression « %3 » est retirée.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Un programme arrêté pendant l’impression a peut-être laissé la tâche %1 (« %2 ») sur le serveur d’impression « %3 », peut-être sans tous ses documents.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Un programme arrêté pendant l’impression a peut-être laissé une tâche « %1 » sans documents dans la file d’attente « %2 » du serveur d’impression « %3 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » ne peut pas joindre l’imprimante « %2 ».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>L’imprimante « %1 » n’est plus sur le réseau.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » n’a pas de file d’attente ou de classe « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>L’imprimante attend des étiquettes ou du ruban.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Des étiquettes ou du ruban sont coincés.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>Le rouleau d’étiquettes ou le ruban est presque épuisé.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>Le rouleau d’étiquettes ou le ruban est épuisé.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>L’imprimante va être mise en pause.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>La file d’attente est en pause ; les tâches attendent.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>L’imprimante est éteinte.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Connexion à l’imprimante en cours.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>L’imprimante ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>L’imprimante s’arrête.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Certaines imprimantes de la classe sont arrêtées.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>Le toner est presque épuisé.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>Le toner est épuisé.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>Le serveur d’impression n’a plus d’espace.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>Le capot de l’imprimante est ouvert.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Un verrou de l’imprimante est ouvert.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>La porte de l’imprimante est ouverte.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>La cassette ou le support de rouleau manque.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Le bac de sortie manque.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>Le bac de sortie est presque plein.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Le bac de sortie est plein.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>L’encre ou le ruban encreur est presque épuisé.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>L’encre ou le ruban encreur est épuisé.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>Le bac de récupération est presque plein.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>Le bac de récupération est plein.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>L’imprimante est trop chaude.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>L’imprimante préchauffe.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>L’imprimante est hors ligne.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Les nouvelles tâches sont retenues.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>L’imprimante est désactivée par son administrateur.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Une partie du pilote de l’imprimante manque.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Une partie du pilote de l’imprimante n’est pas installée de façon sûre.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Attente de la fin de la tâche par l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>L’imprimante ne respecte pas son protocole.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Prête.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Impression en cours.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Trouvée sur le réseau.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>État inconnu.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>La file d’attente n’accepte pas de tâches.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Le serveur indique : %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>Abandonné à votre demande.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>Le serveur d’impression « %1 » ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Impossible de se connecter au serveur d’impression « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>La connexion au serveur d’impression « %1 » a été interrompue.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>Le serveur d’impression « %1 » indique : %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>Le serveur d’impression « %1 » ne fournit pas « %2 » : %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>le fichier dépasse %1 Mo</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>la connexion a été interrompue en cours de route</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 », et aucun n’a été donné.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>Le serveur d’impression « %1 » n’a pas de certificat.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Le certificat du serveur d’impression « %1 » n’est pas celui qui est approuvé pour cet hôte. Celui qui est approuvé a l’empreinte SHA-256 %2, celui du serveur a %3. Le certificat du serveur a peut-être été remplacé, un autre serveur d’impression fonctionne peut-être sur le même hôte, ou quelqu’un intercepte peut-être la connexion. Si l’administrateur du serveur confirme l’empreinte, supprimez le fichier « %4 » et réessayez.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Le certificat du serveur d’impression « %1 » avec l’empreinte SHA-256 %2 ne doit pas être approuvé : %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2. Son empreinte SHA-256 est %3. Comparez-la avec celle qu’indique l’administrateur du serveur et confirmez-la lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe est incorrect.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 ». Aucun n’a été envoyé, car la connexion n’est pas chiffrée et d’autres pourraient le lire. Chiffrez la connexion (-E) ou confirmez lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>Le serveur d’impression « %1 » n’accepte pas le mot de passe de l’utilisateur « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Il ne peut pas enregistrer le document : le disque est plein, ou le document est plus grand que ce qu’il accepte.</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Impossible d’ouvrir le document « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>il est chiffré ; retirez d’abord son mot de passe</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>il est chiffré d’une manière inconnue</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>il n’a pas de pages</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>la page %1 n’a pas de surface</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>la page %1 est plus longue que %2 m</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Impossible d’ouvrir le document de l’entrée standard : %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>c’est une image endommagée</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>il a %1 × %2 pixels, plus qu’il n’est possible d’imprimer</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>c’est une image dont la fin manque</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Aucun document n’est indiqué</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>elle ne peut être lue qu’une fois</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>il dépasse %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>ce n’est ni un PDF, ni un PNG, ni un JPEG, ni un SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>c’est un PDF endommagé</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>il ne peut pas être conservé dans « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>c’est un SVG endommagé</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>il renvoie à « %1 », et seul le contenu du SVG même est imprimé</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>ligne %1 du SVG : %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>c’est un SVG de plus d’éléments qu’il n’est possible d’en dessiner</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>il contient une image qui n’est ni PNG ni JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>il contient une image endommagée</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>Pages « %1 » incompréhensibles : écrivez des nombres et des plages comme 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Impossible d’imprimer les pages « %1 » : la dernière page du document est %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Rien ne serait imprimé : aucune page du document n’est choisie</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Impossible d’utiliser le paquet « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>sa bibliothèque ne contient pas de panneaux</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>il est fait pour la version %1 de l’interface, ce programme a la version %2</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>manquant ou illisible : %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>ce dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>Paquet du panneau introuvable ; cherché : %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>il n’a pas de bibliothèque %1</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>il ne fonctionne pas sur ce système</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>« %1 : %2 »</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Cette imprimante ne permet pas %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 et %2 s’excluent mutuellement.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>régler « %1 » sur « %2 »</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Impossible d’ouvrir le fichier PPD « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>il dépasse %1 Mo, plus que toute description d’imprimante</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>il est endommagé ou incomplet : impossible de le décompresser jusqu’au bout</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>il contient %1 instructions ; le maximum est %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>il contient %1 instructions « %2 » ; le maximum est %3</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>il se termine au milieu d’une valeur ; le fichier est incomplet</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Commande de l’imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Tâche « %1 » pour « %2 » sur %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Options envoyées :
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Bande d’étiquettes</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Morceaux</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Ruban</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Coupes</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>dernière page en premier</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>Parmi celles-ci</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>les pages impaires</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>les pages paires</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>« %1 » ne peut pas être « %2 » avec ce papier et les autres options de coupe, et est imprimé comme « %3 ».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>L’imprimante « %1 » n’a pas de papier « %2 », qui est votre défaut (lpoptions).</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La description de l’imprimante n’indique pas si elle coupe les étiquettes.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Étiquettes : %1 · Ruban : %2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>Pas de coupe complète : les étiquettes sortent en une seule bande.</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>Coupe complète après la dernière étiquette.</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>Coupe complète après chaque étiquette.</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>Coupe complète toutes les %1 étiquettes.</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>mesure en cours…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>Étiquettes : %1 · Morceaux : %2 · Ruban : %3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>Rien n’est imprimé.</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>Ruban spécial : l’imprimante ne coupe rien.</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>Demi-coupe entre les étiquettes d’un morceau.</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>Repères imprimés là où rien n’est coupé.</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>La fin reste dans l’imprimante ; la tâche suivante continue sans marge.</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>Le ruban vide avant et après chaque étiquette est supprimé.</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>Les étiquettes sont en miroir.</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>tâche suivante</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1 sur %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>impossible de créer le dossier : %1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Impossible d’écrire « %1 » : %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>c’est un lien symbolique</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>c’est un socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>c’est un périphérique de type bloc</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>personne n’y lit</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>Essayez « kvprint --help ».</translation>
@@ -273,89 +1814,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>La tâche a tout de même été envoyée, sous le nom %1-%2.</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>%1 à %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Largeur du papier</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>Longueur du papier</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>&amp;Largeur</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>Longue&amp;ur</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>Classe d’imprimantes : %1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>Imp&amp;rimante</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Imprimante</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>Cette imprimante n’existe pas.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Attente de la réponse du serveur d’impression…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>La dernière fois : %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>Le serveur d’impression ne répond pas. La dernière fois : %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>Le serveur d’impression ne répond pas.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>Le serveur d’impression demande un mot de passe.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>Le serveur d’impression demande un mot de passe. La dernière fois : %1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>Le serveur d’impression n’est pas approuvé.</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>Le serveur d’impression n’est pas approuvé. La dernière fois : %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(par défaut)</translation>
@@ -366,44 +1832,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Options, aperçu et résumé</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Ap&amp;erçu de la page</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>Ré&amp;sumé</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>&amp;Tâche</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>À en&amp;voyer</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Options</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>« %1 » demande au moins %n caractère. D’ici là, le réglage reste tel qu’il était.</numerusform>
-            <numerusform>« %1 » demande au moins %n caractères. D’ici là, le réglage reste tel qu’il était.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>Le serveur d’impression « %1 » n’a aucune destination où imprimer</translation>
@@ -422,128 +1851,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>Heure d’impression</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>Réglage de la file d’attente</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>De 1 à 100 ; les tâches de priorité plus élevée sont imprimées avant les autres</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>Nom &amp;de la tâche</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>Orie&amp;ntation</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>&amp;Quand imprimer</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>&amp;Priorité</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>Réglage de l’imprimante</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>Paysage inversé</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>Portrait inversé</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Maintenant</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>Quand je libère la tâche</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>À une heure donnée</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Pendant la journée</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>En soirée</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>La nuit</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>Pendant la deuxième équipe</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>Pendant la troisième équipe</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>Le week-end</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>La tâche est envoyée.</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1 sur %2</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>Tâche %1 : %2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>Annuler la &amp;tâche</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>Masquer</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>Retirer la tâche</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>Imprimer ce qui est là</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>« kvprint --cancel-left %1 » la retire, « kvprint --release-left %1 » imprime ce que le serveur en a.</translation>
@@ -562,201 +1870,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>po</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>Groupes d’options</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>Cette imprimante n’a pas d’autres options.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>Asse&amp;mbler les copies</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>Toutes les pages une fois, puis à nouveau ; sinon toutes les copies d’une page ensemble</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>toutes, ou par exemple 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>&amp;Copies</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>Pa&amp;ges</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>Dernière page en premier</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>La page est plus grande que l’étiquette et sera réduite.</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>Page précédente</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Page suivante</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>Page %1 sur %2</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>P&amp;apier</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>Chercher un papier</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>Personnalisé, %1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>Prendre la taille du document : %1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>Une taille personnalisée</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>%1 de large</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 de large, %2 de long</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Taille personnalisée…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>Mot de passe du serveur d’impression</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>Nom d’&amp;utilisateur</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>&amp;Mot de passe</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>Imprimer %1</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Imprimer</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Les options de coupe ne peuvent pas être affichées. %1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>L’imprimante n’a pas de description ; ses papiers et ses coupes ne sont donc pas connus ici.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>Attente de la description de l’imprimante…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>Aucune imprimante n’est choisie.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Attente de la réponse du serveur d’impression…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>L’imprimante ne peut pas faire tout cela à la fois.</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>Imprimer quand même</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>La description de l’imprimante n’est pas connue.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>Le fichier PPD « %1 » n’a pas de papier « %2 » ; il a : %3</translation>
@@ -771,1121 +1885,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Réessayer</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>Arrêter l’envoi</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>Envoi de « %1 »</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>Option</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>Origine</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>Envoyée</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>Options de la tâche</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>La même tâche en ligne de comman&amp;de</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Co&amp;pier</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>Copier la commande</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>oui</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>non</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Impossible d’écrire sur la sortie standard : %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>Bande d’étiquettes</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Réglage</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>Tapez « %1 » pour continuer :</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>Connexion non chiffrée</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>Le serveur d’impression « %1 » demande un mot de passe et la connexion n’est pas chiffrée.</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>D’autres personnes sur le réseau peuvent lire le mot de passe.</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>Envoyer quand même</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>Certificat du serveur d’impression</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2.</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>Son empreinte SHA-256 est :
-%1
-
-Ne l’approuvez que si l’administrateur du serveur indique la même empreinte. Il reste approuvé par la suite.</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>Approuver</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>Le fichier PPD n’indique aucun papier</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>L’imprimante « %1 » n’a pas d’option « %2 ».</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>L’imprimante « %1 » n’a pas de papier « %2 ».</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>L’option « %1 » de l’imprimante « %2 » n’a pas de choix « %3 » ; elle a : %4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>L’imprimante « %1 » ne peut pas imprimer sur le papier « %2 » : sa taille est de %3 × %4 points ; la largeur et la longueur doivent être supérieures à 0 ; l’une ne doit pas dépasser %5 m et l’autre %6 m.</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>« %1 : %2 »</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>Cette imprimante ne permet pas %1.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 et %2 s’excluent mutuellement.</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>régler « %1 » sur « %2 »</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>Abandonné à votre demande.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>Le serveur d’impression « %1 » ne répond pas.</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>Impossible de se connecter au serveur d’impression « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>La connexion au serveur d’impression « %1 » a été interrompue.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>Le serveur d’impression « %1 » indique : %2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>Le serveur d’impression « %1 » ne fournit pas « %2 » : %3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>le fichier dépasse %1 Mo</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>la connexion a été interrompue en cours de route</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 », et aucun n’a été donné.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>Le serveur d’impression « %1 » n’a pas de certificat.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>Le certificat du serveur d’impression « %1 » n’est pas celui qui est approuvé pour cet hôte. Celui qui est approuvé a l’empreinte SHA-256 %2, celui du serveur a %3. Le certificat du serveur a peut-être été remplacé, un autre serveur d’impression fonctionne peut-être sur le même hôte, ou quelqu’un intercepte peut-être la connexion. Si l’administrateur du serveur confirme l’empreinte, supprimez le fichier « %4 » et réessayez.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>Le certificat du serveur d’impression « %1 » avec l’empreinte SHA-256 %2 ne doit pas être approuvé : %3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2. Son empreinte SHA-256 est %3. Comparez-la avec celle qu’indique l’administrateur du serveur et confirmez-la lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>Le nom d’utilisateur ou le mot de passe est incorrect.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 ». Aucun n’a été envoyé, car la connexion n’est pas chiffrée et d’autres pourraient le lire. Chiffrez la connexion (-E) ou confirmez lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>Le serveur d’impression « %1 » n’accepte pas le mot de passe de l’utilisateur « %2 ».</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>La description de l’imprimante n’indique pas si elle coupe les étiquettes.</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>Étiquettes : %1 · Ruban : %2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>Pas de coupe complète : les étiquettes sortent en une seule bande.</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>Coupe complète après la dernière étiquette.</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>Coupe complète après chaque étiquette.</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>Coupe complète toutes les %1 étiquettes.</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>mesure en cours…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>Étiquettes : %1 · Morceaux : %2 · Ruban : %3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>Rien n’est imprimé.</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Ruban spécial : l’imprimante ne coupe rien.</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>Demi-coupe entre les étiquettes d’un morceau.</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>Repères imprimés là où rien n’est coupé.</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>La fin reste dans l’imprimante ; la tâche suivante continue sans marge.</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>Le ruban vide avant et après chaque étiquette est supprimé.</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>Les étiquettes sont en miroir.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>Le serveur d’impression « %1 » ne peut pas joindre l’imprimante « %2 ».</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>L’imprimante « %1 » n’est plus sur le réseau.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>Impossible de lire le document « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ce n’est pas un fichier</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>il est vide</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>il a raccourci pendant la lecture</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>il a changé pendant la lecture</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>Elle doit être réimprimée, mais est retenue. %1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>La tâche %1 n’a pas été modifiée. %2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>Il ne peut pas enregistrer le document : le disque est plein, ou le document est plus grand que ce qu’il accepte.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 Une tâche « %2 » sans documents est peut-être restée dans la file d’attente « %3 » du serveur d’impression « %4 » ; rien n’en est imprimé.</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 Le serveur d’impression « %2 » a tous les documents de la tâche %3-%4 et n’a pas indiqué s’il la libère : la tâche est imprimée, ou elle est retenue et n’est pas imprimée. Regardez la file d’attente avant d’imprimer à nouveau.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 La tâche %2-%3 du serveur d’impression « %4 » a peut-être été imprimée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; elle est retenue sur le serveur d’impression « %4 » et n’est pas imprimée tant qu’elle n’est pas libérée.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 La tâche %2-%3 n’a pas pu être retirée ; regardez la file d’attente avant d’imprimer à nouveau.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 Tâche %2-%3 : %4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>L’enregistrement « %1 » d’une tâche en cours d’envoi est endommagé et a été supprimé ; vérifiez dans vos files d’attente si une tâche est restée.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>défaut de l’imprimante</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>défaut de la file d’attente</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>votre défaut (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>préréglage</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>options de coupe</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>réglé par vous</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>Tâche « %1 » pour « %2 » sur %3
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>Options envoyées :
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Impossible d’imprimer autant d’étiquettes à la fois : une tâche en a au plus %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>Retenue jusqu’à sa libération.</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>Retenue jusqu’à %1.</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>En attente de son tour.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Impression en cours.</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>Arrêtée ; elle reprend quand l’imprimante est de nouveau prête.</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>Annulée.</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>Abandonnée par le serveur d’impression.</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>Imprimée.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>Le serveur indique : %1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>La tâche est terminée ; le serveur d’impression n’en garde pas trace.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>Impression</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Document</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Imprimante</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>toutes</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Bande d’étiquettes</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Étiquettes</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Morceaux</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Ruban</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Coupes</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>Ordre</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>dernière page en premier</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>Parmi celles-ci</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>les pages impaires</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>les pages paires</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>Il n’y a aucun document à imprimer.</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>Le serveur d’impression « %1 » n’a pas accepté la totalité de « %2 ».</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>Impossible d’ouvrir le document « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>ce fichier n’existe pas</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ce n’est pas un fichier</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>il est vide</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>il est chiffré ; retirez d’abord son mot de passe</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>il est chiffré d’une manière inconnue</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>il n’a pas de pages</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>la page %1 n’a pas de surface</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>la page %1 est plus longue que %2 m</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>Impossible d’ouvrir le document de l’entrée standard : %1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>c’est une image endommagée</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>il a %1 × %2 pixels, plus qu’il n’est possible d’imprimer</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>c’est une image dont la fin manque</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>Aucun document n’est indiqué</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>elle ne peut être lue qu’une fois</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>entrée standard</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 et %n autre</numerusform>
-            <numerusform>%1 et %n autres</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>il dépasse %1</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>ce n’est ni un PDF, ni un PNG, ni un JPEG, ni un SVG</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>c’est un PDF endommagé</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>il ne peut pas être conservé dans « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>c’est un SVG endommagé</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>il renvoie à « %1 », et seul le contenu du SVG même est imprimé</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>ligne %1 du SVG : %2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>c’est un SVG de plus d’éléments qu’il n’est possible d’en dessiner</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>il contient une image qui n’est ni PNG ni JPEG</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>il contient une image endommagée</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>Le serveur d’impression « %1 » n’a plus de tâche « %2 » dans la file d’attente « %3 », ou elle est terminée.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>La tâche %1-%2 du serveur d’impression « %3 » n’est pas retenue : %4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>La tâche %1-%2 du serveur d’impression « %3 » est libérée.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>La tâche %1-%2 du serveur d’impression « %3 » est retirée.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>Un programme arrêté pendant l’impression a peut-être laissé la tâche %1 (« %2 ») sur le serveur d’impression « %3 », peut-être sans tous ses documents.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>Un programme arrêté pendant l’impression a peut-être laissé une tâche « %1 » sans documents dans la file d’attente « %2 » du serveur d’impression « %3 ».</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>Mémoire épuisée ; rien n’a été imprimé.</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>Mémoire épuisée ; la tâche est peut-être incomplète, ou restée sur le serveur d’impression.</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>Mémoire épuisée. La tâche a tout de même été envoyée.</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>Impossible d’utiliser le paquet « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>sa bibliothèque ne contient pas de panneaux</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>il est fait pour la version %1 de l’interface, ce programme a la version %2</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>manquant ou illisible : %1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>ce n’est pas un dossier</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>ce dossier n’existe pas</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>Paquet du panneau introuvable ; cherché : %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>il n’a pas de bibliothèque %1</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>il ne fonctionne pas sur ce système</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>Impossible d’ouvrir le fichier PPD « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>il dépasse %1 Mo, plus que toute description d’imprimante</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>il est endommagé ou incomplet : impossible de le décompresser jusqu’au bout</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ce n’est pas un fichier</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>il est vide</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>il contient %1 instructions ; le maximum est %2</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>il contient %1 instructions « %2 » ; le maximum est %3</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>il se termine au milieu d’une valeur ; le fichier est incomplet</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>Commande de l’imprimante</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>Pages « %1 » incompréhensibles : écrivez des nombres et des plages comme 1-3, 5</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>Impossible d’imprimer les pages « %1 » : la dernière page du document est %2</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>Rien ne serait imprimé : aucune page du document n’est choisie</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>« %1 » ne peut pas être « %2 » avec ce papier et les autres options de coupe, et est imprimé comme « %3 ».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>L’imprimante « %1 » n’a pas de papier « %2 », qui est votre défaut (lpoptions).</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>Le serveur d’impression « %1 » n’a pas de file d’attente ou de classe « %2 ».</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>L’imprimante attend des étiquettes ou du ruban.</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>Des étiquettes ou du ruban sont coincés.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>Le rouleau d’étiquettes ou le ruban est presque épuisé.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>Le rouleau d’étiquettes ou le ruban est épuisé.</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>L’imprimante va être mise en pause.</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>La file d’attente est en pause ; les tâches attendent.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>L’imprimante est éteinte.</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>Connexion à l’imprimante en cours.</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>L’imprimante ne répond pas.</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>L’imprimante s’arrête.</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>Certaines imprimantes de la classe sont arrêtées.</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>Le toner est presque épuisé.</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>Le toner est épuisé.</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>Le serveur d’impression n’a plus d’espace.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>Le capot de l’imprimante est ouvert.</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>Un verrou de l’imprimante est ouvert.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>La porte de l’imprimante est ouverte.</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>La cassette ou le support de rouleau manque.</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>Le bac de sortie manque.</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>Le bac de sortie est presque plein.</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>Le bac de sortie est plein.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>L’encre ou le ruban encreur est presque épuisé.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>L’encre ou le ruban encreur est épuisé.</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>Le bac de récupération est presque plein.</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>Le bac de récupération est plein.</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>L’imprimante est trop chaude.</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>L’imprimante préchauffe.</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>L’imprimante est hors ligne.</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>Les nouvelles tâches sont retenues.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>L’imprimante est désactivée par son administrateur.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>Une partie du pilote de l’imprimante manque.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>Une partie du pilote de l’imprimante n’est pas installée de façon sûre.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>Attente de la fin de la tâche par l’imprimante.</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>L’imprimante ne respecte pas son protocole.</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Prête.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Impression en cours.</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>Trouvée sur le réseau.</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>État inconnu.</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>La file d’attente n’accepte pas de tâches.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>Le serveur indique : %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>tâche suivante</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1 sur %2, %3</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>ce n’est pas un dossier</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>impossible de créer le dossier : %1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>Impossible d’écrire « %1 » : %2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>c’est un dossier</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>c’est un lien symbolique</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>c’est un socket</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>c’est un périphérique de type bloc</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>personne n’y lit</translation>
     </message>
 </context>
 </TS>

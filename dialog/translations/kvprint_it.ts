@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Classe di stampanti: %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>Stampa&amp;nte</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>La stampante non esiste.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>In attesa della risposta del server di stampa…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>L&apos;ultima volta: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>Il server di stampa non risponde. L&apos;ultima volta: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>Il server di stampa non risponde.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>Il server di stampa richiede una password.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>Il server di stampa richiede una password. L&apos;ultima volta: %1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>Il server di stampa non è attendibile.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>Il server di stampa non è attendibile. L&apos;ultima volta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Ora di stampa</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Come impostato nella coda</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>Da 1 a 100; i lavori con priorità più alta vengono stampati prima degli altri</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>No&amp;me del lavoro</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Ori&amp;entamento</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Quando stampare</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>Priori&amp;tà</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Come impostato nella stampante</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Orizzontale invertito</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Verticale invertito</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Adesso</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Quando lo rilascio</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A un&apos;ora precisa</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante il giorno</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Di sera</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Di notte</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Nel secondo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Nel terzo turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Nel fine settimana</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>Il lavoro è stato inviato.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 su %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Lavoro %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>Annulla il &amp;lavoro</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Nascondi</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Ritira il lavoro</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Stampa ciò che c’è</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>&amp;Fascicola copie</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>Tutte le pagine una volta, poi di nuovo; altrimenti tutte le copie di una pagina insieme</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>tutte o, per esempio, 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Copie</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>Pa&amp;gine</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Ultima pagina per prima</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Password del server di stampa</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nome &amp;utente</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Password</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Interrompi l&apos;invio</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>Invio di &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Opzione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Inviato</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opzioni del lavoro</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>Lo s&amp;tesso lavoro da riga di comando</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Cop&amp;ia</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Copia il comando</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sì</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Connessione non cifrata</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>Il server di stampa &quot;%1&quot; richiede una password e la connessione non è cifrata.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Altri sulla rete possono leggere la password.</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>Invia comunque</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificato del server di stampa</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>La sua impronta SHA-256 è:
+%1
+
+Considerarlo attendibile solo se l&apos;amministratore del server indica la stessa impronta. Da quel momento resta attendibile.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Considera attendibile</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Il file PPD non indica alcuna carta</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>non impostato</translation>
@@ -18,14 +356,1217 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>La stampante non può fare tutto questo insieme.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Stampa comunque</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>&quot;%1&quot; richiede almeno %n carattere. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
+            <numerusform>&quot;%1&quot; richiede almeno %n caratteri. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Gruppi di opzioni</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Questa stampante non ha altre opzioni.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>da %1 a %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Larghezza della carta</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>Lunghezza della carta</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Larghezza</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>Lung&amp;hezza</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>C&amp;arta</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>Cerca carta</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Personalizzata, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Usa le dimensioni del documento: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Dimensioni personalizzate</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>Larghezza %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>largo %1, lungo %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Dimensioni personalizzate…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>Stampante: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opzioni, anteprima e riepilogo</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Ante&amp;prima pagina</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Riepilogo</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>La&amp;voro</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>&amp;Dati da inviare</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opzioni</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>La pagina è più grande dell&apos;etichetta e viene ridotta.</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Pagina precedente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Pagina successiva</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Stampa %1</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Stampa</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>Le opzioni di taglio non possono essere mostrate. %1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>La stampante non ha una descrizione, quindi le sue carte e i suoi tagli non sono noti.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>In attesa della descrizione della stampante…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Nessuna stampante scelta.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>In attesa della risposta del server di stampa…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>La descrizione della stampante non è nota.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>Striscia di etichette</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Memoria esaurita; non è stato stampato nulla.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Memoria esaurita; il lavoro potrebbe essere incompleto o rimasto sul server di stampa.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Memoria esaurita. Il lavoro è stato comunque inviato.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>La stampante &quot;%1&quot; non ha l&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>L&apos;opzione &quot;%1&quot; della stampante &quot;%2&quot; non ha la scelta &quot;%3&quot;; ha: %4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>La stampante &quot;%1&quot; non può stampare sulla carta &quot;%2&quot;: le dimensioni sono %3 × %4 punti; larghezza e lunghezza devono essere maggiori di 0; una non deve superare %5 m e l&apos;altra %6 m.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Impossibile leggere il documento &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>si è accorciato durante la lettura</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>è cambiato durante la lettura</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>Verrà stampato di nuovo, ma è trattenuto. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>Il lavoro %1 non è stato modificato. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 Nella coda &quot;%3&quot; del server di stampa &quot;%4&quot; potrebbe essere rimasto un lavoro &quot;%2&quot; senza documenti; non ne viene stampato nulla.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 Il server di stampa &quot;%2&quot; ha tutti i documenti del lavoro %3-%4 e non ha comunicato se lo rilascia: il lavoro viene stampato, oppure è trattenuto e non viene stampato. Controllare la coda prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Il lavoro %2-%3 sul server di stampa &quot;%4&quot; potrebbe essere stato stampato; controllare la coda prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Lavoro %2-%3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>La registrazione &quot;%1&quot; di un lavoro in corso di invio è danneggiata ed è stata rimossa; controllare nelle proprie code se è rimasto un lavoro.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>predefinito della stampante</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>predefinito della coda</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>predefinito personale (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>preimpostazione</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>opzioni di taglio</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>scelto dall&apos;utente</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Impossibile stampare tante etichette insieme: un lavoro ne ha al massimo %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Trattenuto finché non viene rilasciato.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Trattenuto fino a: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>In attesa del proprio turno.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Stampa in corso.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Fermo; riprende quando la stampante è di nuovo pronta.</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Annullato.</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>Interrotto dal server di stampa.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Stampato.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Il server comunica: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>Il lavoro è terminato; il server di stampa non ne conserva traccia.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Non ci sono documenti da stampare.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha accettato tutto &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha più alcun lavoro &quot;%2&quot; nella coda &quot;%3&quot;, oppure è terminato.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; non è trattenuto: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato rilasciato.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato ritirato.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Un programma interrotto durante la stampa potrebbe aver lasciato il lavoro %1 (&quot;%2&quot;) sul server di stampa &quot;%3&quot;, forse senza tutti i documenti.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Un programma interrotto durante la stampa potrebbe aver lasciato un lavoro &quot;%1&quot; senza documenti nella coda &quot;%2&quot; del server di stampa &quot;%3&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non riesce a raggiungere la stampante &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>La stampante &quot;%1&quot; non è più in rete.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha alcuna coda o classe &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>La stampante attende etichette o nastro.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Etichette o nastro inceppati.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>Il rotolo di etichette o il nastro è quasi esaurito.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>Il rotolo di etichette o il nastro è esaurito.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>La stampante sta per andare in pausa.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>La coda è in pausa; i lavori attendono.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>La stampante è spenta.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Connessione alla stampante in corso.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>La stampante non risponde.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>La stampante si sta fermando.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Alcune stampanti della classe sono ferme.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>Il toner è quasi esaurito.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>Il toner è esaurito.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>Il server di stampa non ha più spazio.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>Il coperchio della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Un blocco della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>Lo sportello della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>Manca la cassetta o il supporto del rotolo.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>Manca il vassoio di uscita.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>Il vassoio di uscita è quasi pieno.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Il vassoio di uscita è pieno.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>L&apos;inchiostro o il nastro inchiostrato è quasi esaurito.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>L&apos;inchiostro o il nastro inchiostrato è esaurito.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>Il contenitore degli scarti è quasi pieno.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>Il contenitore degli scarti è pieno.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>La stampante è troppo calda.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>La stampante si sta riscaldando.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>La stampante è fuori linea.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>I nuovi lavori vengono trattenuti.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>La stampante è stata disattivata dall&apos;amministratore.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Manca una parte del driver della stampante.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Una parte del driver della stampante non è installata in modo sicuro.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>In attesa che la stampante termini il lavoro.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>La stampante non rispetta il suo protocollo.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Pronta.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Stampa in corso.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Trovata in rete.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Stato sconosciuto.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>La coda non accetta lavori.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>Il server comunica: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>Interrotto su richiesta.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>Il server di stampa &quot;%1&quot; non risponde.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Impossibile connettersi al server di stampa &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>La connessione al server di stampa &quot;%1&quot; si è interrotta.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>Il server di stampa &quot;%1&quot; comunica: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>Il server di stampa &quot;%1&quot; non fornisce &quot;%2&quot;: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>supera %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>la connessione si è interrotta a metà</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot; e non ne è stata indicata alcuna.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>Il server di stampa &quot;%1&quot; non ha un certificato.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; non è quello considerato attendibile per questo host. Quello attendibile ha l’impronta SHA-256 %2, quello del server %3. Il certificato del server potrebbe essere stato sostituito, sullo stesso host potrebbe essere in funzione un altro server di stampa oppure qualcuno potrebbe intercettare la connessione. Se l’amministratore del server conferma l’impronta, eliminare il file &quot;%4&quot; e riprovare.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; con l&apos;impronta SHA-256 %2 non può essere considerato attendibile: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2. La sua impronta SHA-256 è %3. Confrontarla con quella indicata dall&apos;amministratore del server e confermarla quando viene chiesto, nella finestra o su un terminale.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>Il nome utente o la password non è corretto.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot;. Non ne è stata inviata alcuna, perché la connessione non è cifrata e altri potrebbero leggerla. Cifrare la connessione (-E) o confermare quando viene chiesto, nella finestra o su un terminale.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>Il server di stampa &quot;%1&quot; non accetta la password dell&apos;utente &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Non può salvare il documento: il disco è pieno oppure il documento è più grande di quanto accetti.</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Impossibile aprire il documento &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>il file non esiste</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>è cifrato; togliere prima la password</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>è cifrato in un modo sconosciuto</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>non ha pagine</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>la pagina %1 non ha area</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>la pagina %1 è più lunga di %2 m</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Impossibile aprire il documento dallo standard input: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>è un&apos;immagine danneggiata</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>ha %1 × %2 pixel, più di quanti se ne possano stampare</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>è un&apos;immagine a cui manca la fine</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Nessun documento indicato</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>può essere letto una volta sola</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standard input</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e %n altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>supera %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>non è un PDF, PNG, JPEG o SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>è un PDF danneggiato</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>non si può salvare in &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>è un SVG danneggiato</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>rimanda a &quot;%1&quot;, e si stampa solo ciò che è contenuto nell&apos;SVG stesso</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>riga %1 dell&apos;SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>è un SVG con più parti di quante se ne possano disegnare</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>contiene un&apos;immagine che non è né PNG né JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>contiene un&apos;immagine danneggiata</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>Pagine &quot;%1&quot; non comprese: scrivere numeri e intervalli come 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Impossibile stampare le pagine &quot;%1&quot;: l&apos;ultima pagina del documento è %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Non verrebbe stampato nulla: nessuna pagina del documento è scelta</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Impossibile usare il bundle &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>la sua libreria non contiene pannelli</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>è fatto per la versione %1 dell&apos;interfaccia e questo programma ha la %2</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>manca o non è leggibile: %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>non è una cartella</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>la cartella non esiste</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>Bundle del pannello non trovato; cercato: %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>non ha la libreria %1</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>non funziona su questo sistema</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>&quot;%1: %2&quot;</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Questa stampante non consente %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 e %2 si escludono a vicenda.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>impostare &quot;%1&quot; su &quot;%2&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Impossibile aprire il file PPD &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>riga %1: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>supera %1 MB, più di qualsiasi descrizione di stampante</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>è danneggiato o incompleto: non si può decomprimere fino alla fine</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>contiene %1 istruzioni; il massimo è %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>contiene %1 istruzioni &quot;%2&quot;; il massimo è %3</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>finisce a metà di un valore; il file è incompleto</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Controllo stampante</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Lavoro &quot;%1&quot; per &quot;%2&quot; su %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opzioni che vengono inviate:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>tutte</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Striscia di etichette</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etichette</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Pezzi</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Nastro</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Tagli</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>ultima pagina per prima</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>Di queste</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>le pagine dispari</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>le pagine pari</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Il pannello del bundle &quot;%1&quot; non può essere mostrato: il suo file di layout è inutilizzabile</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>«%1» non può essere «%2» con questa carta e le altre opzioni di taglio, e viene stampato come «%3».</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;, che è il predefinito personale (lpoptions).</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La descrizione della stampante non indica se taglia le etichette.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Etichette: %1 · Nastro: %2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>Nessun taglio completo: le etichette escono in un&apos;unica striscia.</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>Taglio completo dopo l&apos;ultima etichetta.</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>Taglio completo dopo ogni etichetta.</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>Taglio completo ogni %1 etichette.</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>misurazione…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>Etichette: %1 · Pezzi: %2 · Nastro: %3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>Non si stampa nulla.</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>Nastro speciale: la stampante non taglia nulla.</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>Mezzo taglio tra le etichette di un pezzo.</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>Segni stampati dove non si taglia.</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>La fine resta nella stampante; il lavoro seguente continua da lì senza margine.</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>Il nastro vuoto prima e dopo ogni etichetta viene omesso.</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>Le etichette sono speculari.</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>lavoro seguente</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1 su %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>non è una cartella</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>impossibile creare la cartella: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Impossibile scrivere &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>è una cartella</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>è un collegamento simbolico</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>è un socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>è un dispositivo a blocchi</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>nessuno sta leggendo da lì</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>Provare &quot;kvprint --help&quot;.</translation>
@@ -273,89 +1814,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>Il lavoro è stato inviato comunque, come %1-%2.</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>da %1 a %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Larghezza della carta</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>Lunghezza della carta</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>&amp;Larghezza</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>Lung&amp;hezza</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>Classe di stampanti: %1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>Stampa&amp;nte</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Stampante</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>La stampante non esiste.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>In attesa della risposta del server di stampa…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>L&apos;ultima volta: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>Il server di stampa non risponde. L&apos;ultima volta: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>Il server di stampa non risponde.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>Il server di stampa richiede una password.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>Il server di stampa richiede una password. L&apos;ultima volta: %1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>Il server di stampa non è attendibile.</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>Il server di stampa non è attendibile. L&apos;ultima volta: %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(predefinita)</translation>
@@ -366,44 +1832,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opzioni, anteprima e riepilogo</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Ante&amp;prima pagina</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>&amp;Riepilogo</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>La&amp;voro</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>&amp;Dati da inviare</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opzioni</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>&quot;%1&quot; richiede almeno %n carattere. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
-            <numerusform>&quot;%1&quot; richiede almeno %n caratteri. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>Il server di stampa &quot;%1&quot; non ha alcuna destinazione su cui stampare</translation>
@@ -422,128 +1851,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>Ora di stampa</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>Come impostato nella coda</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>Da 1 a 100; i lavori con priorità più alta vengono stampati prima degli altri</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>No&amp;me del lavoro</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>Ori&amp;entamento</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>&amp;Quando stampare</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>Priori&amp;tà</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>Come impostato nella stampante</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Verticale</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Orizzontale</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>Orizzontale invertito</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>Verticale invertito</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Adesso</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>Quando lo rilascio</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>A un&apos;ora precisa</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Durante il giorno</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Di sera</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>Di notte</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>Nel secondo turno</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>Nel terzo turno</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>Nel fine settimana</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>Il lavoro è stato inviato.</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1 su %2</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>Lavoro %1: %2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>Annulla il &amp;lavoro</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>Nascondi</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>Ritira il lavoro</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>Stampa ciò che c’è</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>&quot;kvprint --cancel-left %1&quot; lo ritira, &quot;kvprint --release-left %1&quot; stampa ciò che il server ne ha.</translation>
@@ -562,201 +1870,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>in</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>Gruppi di opzioni</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>Questa stampante non ha altre opzioni.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>&amp;Fascicola copie</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>Tutte le pagine una volta, poi di nuovo; altrimenti tutte le copie di una pagina insieme</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>tutte o, per esempio, 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>&amp;Copie</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>Pa&amp;gine</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>Ultima pagina per prima</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>La pagina è più grande dell&apos;etichetta e viene ridotta.</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>Pagina precedente</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Pagina successiva</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>Pagina %1 di %2</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>C&amp;arta</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Carta</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>Cerca carta</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>Personalizzata, %1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>Usa le dimensioni del documento: %1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>Dimensioni personalizzate</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>Larghezza %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>largo %1, lungo %2</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Dimensioni personalizzate…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>Password del server di stampa</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>Nome &amp;utente</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>&amp;Password</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>Stampa %1</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Stampa</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Le opzioni di taglio non possono essere mostrate. %1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>La stampante non ha una descrizione, quindi le sue carte e i suoi tagli non sono noti.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>In attesa della descrizione della stampante…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>Nessuna stampante scelta.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>In attesa della risposta del server di stampa…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>La stampante non può fare tutto questo insieme.</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>Stampa comunque</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>La descrizione della stampante non è nota.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>Il file PPD &quot;%1&quot; non ha la carta &quot;%2&quot;; ha: %3</translation>
@@ -771,1121 +1885,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Riprova</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>Interrompi l&apos;invio</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>Invio di &quot;%1&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>Opzione</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valore</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>Origine</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>Inviato</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>Opzioni del lavoro</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>Lo s&amp;tesso lavoro da riga di comando</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Cop&amp;ia</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>Copia il comando</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>sì</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Impossibile scrivere sullo standard output: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>Striscia di etichette</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Impostazione</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valore</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Riepilogo</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>Digitare &quot;%1&quot; per continuare:</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>Connessione non cifrata</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>Il server di stampa &quot;%1&quot; richiede una password e la connessione non è cifrata.</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>Altri sulla rete possono leggere la password.</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>Invia comunque</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>Certificato del server di stampa</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2.</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>La sua impronta SHA-256 è:
-%1
-
-Considerarlo attendibile solo se l&apos;amministratore del server indica la stessa impronta. Da quel momento resta attendibile.</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>Considera attendibile</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>Il file PPD non indica alcuna carta</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>La stampante &quot;%1&quot; non ha l&apos;opzione &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>L&apos;opzione &quot;%1&quot; della stampante &quot;%2&quot; non ha la scelta &quot;%3&quot;; ha: %4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>La stampante &quot;%1&quot; non può stampare sulla carta &quot;%2&quot;: le dimensioni sono %3 × %4 punti; larghezza e lunghezza devono essere maggiori di 0; una non deve superare %5 m e l&apos;altra %6 m.</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>&quot;%1: %2&quot;</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>Questa stampante non consente %1.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 e %2 si escludono a vicenda.</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>impostare &quot;%1&quot; su &quot;%2&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>Interrotto su richiesta.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>Il server di stampa &quot;%1&quot; non risponde.</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>Impossibile connettersi al server di stampa &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>La connessione al server di stampa &quot;%1&quot; si è interrotta.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>Il server di stampa &quot;%1&quot; comunica: %2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>Il server di stampa &quot;%1&quot; non fornisce &quot;%2&quot;: %3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>supera %1 MB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>la connessione si è interrotta a metà</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot; e non ne è stata indicata alcuna.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>Il server di stampa &quot;%1&quot; non ha un certificato.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>Il certificato del server di stampa &quot;%1&quot; non è quello considerato attendibile per questo host. Quello attendibile ha l’impronta SHA-256 %2, quello del server %3. Il certificato del server potrebbe essere stato sostituito, sullo stesso host potrebbe essere in funzione un altro server di stampa oppure qualcuno potrebbe intercettare la connessione. Se l’amministratore del server conferma l’impronta, eliminare il file &quot;%4&quot; e riprovare.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>Il certificato del server di stampa &quot;%1&quot; con l&apos;impronta SHA-256 %2 non può essere considerato attendibile: %3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2. La sua impronta SHA-256 è %3. Confrontarla con quella indicata dall&apos;amministratore del server e confermarla quando viene chiesto, nella finestra o su un terminale.</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>Il nome utente o la password non è corretto.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot;. Non ne è stata inviata alcuna, perché la connessione non è cifrata e altri potrebbero leggerla. Cifrare la connessione (-E) o confermare quando viene chiesto, nella finestra o su un terminale.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>Il server di stampa &quot;%1&quot; non accetta la password dell&apos;utente &quot;%2&quot;.</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>La descrizione della stampante non indica se taglia le etichette.</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>Etichette: %1 · Nastro: %2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>Nessun taglio completo: le etichette escono in un&apos;unica striscia.</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>Taglio completo dopo l&apos;ultima etichetta.</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>Taglio completo dopo ogni etichetta.</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>Taglio completo ogni %1 etichette.</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>misurazione…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>Etichette: %1 · Pezzi: %2 · Nastro: %3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>Non si stampa nulla.</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Nastro speciale: la stampante non taglia nulla.</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>Mezzo taglio tra le etichette di un pezzo.</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>Segni stampati dove non si taglia.</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>La fine resta nella stampante; il lavoro seguente continua da lì senza margine.</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>Il nastro vuoto prima e dopo ogni etichetta viene omesso.</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>Le etichette sono speculari.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>Il server di stampa &quot;%1&quot; non riesce a raggiungere la stampante &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>La stampante &quot;%1&quot; non è più in rete.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>Impossibile leggere il documento &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>non è un file</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>è vuoto</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>si è accorciato durante la lettura</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>è cambiato durante la lettura</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>Verrà stampato di nuovo, ma è trattenuto. %1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>Il lavoro %1 non è stato modificato. %2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>Non può salvare il documento: il disco è pieno oppure il documento è più grande di quanto accetti.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 Nella coda &quot;%3&quot; del server di stampa &quot;%4&quot; potrebbe essere rimasto un lavoro &quot;%2&quot; senza documenti; non ne viene stampato nulla.</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 Il server di stampa &quot;%2&quot; ha tutti i documenti del lavoro %3-%4 e non ha comunicato se lo rilascia: il lavoro viene stampato, oppure è trattenuto e non viene stampato. Controllare la coda prima di stampare di nuovo.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 Il lavoro %2-%3 sul server di stampa &quot;%4&quot; potrebbe essere stato stampato; controllare la coda prima di stampare di nuovo.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; è trattenuto sul server di stampa &quot;%4&quot; e non viene stampato finché non viene rilasciato.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 Non è stato possibile ritirare il lavoro %2-%3; controllare la coda prima di stampare di nuovo.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 Lavoro %2-%3: %4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>La registrazione &quot;%1&quot; di un lavoro in corso di invio è danneggiata ed è stata rimossa; controllare nelle proprie code se è rimasto un lavoro.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>predefinito della stampante</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>predefinito della coda</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>predefinito personale (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>preimpostazione</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>opzioni di taglio</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>scelto dall&apos;utente</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>Lavoro &quot;%1&quot; per &quot;%2&quot; su %3
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>Opzioni che vengono inviate:
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Impossibile stampare tante etichette insieme: un lavoro ne ha al massimo %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>Trattenuto finché non viene rilasciato.</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>Trattenuto fino a: %1.</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>In attesa del proprio turno.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Stampa in corso.</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>Fermo; riprende quando la stampante è di nuovo pronta.</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>Annullato.</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>Interrotto dal server di stampa.</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>Stampato.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>Il server comunica: %1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>Il lavoro è terminato; il server di stampa non ne conserva traccia.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>Stampa</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Stampante</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Carta</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pagine</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>tutte</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copie</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Striscia di etichette</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Etichette</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Pezzi</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Nastro</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Tagli</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>Ordine</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>ultima pagina per prima</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>Di queste</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>le pagine dispari</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>le pagine pari</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>Non ci sono documenti da stampare.</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>Il server di stampa &quot;%1&quot; non ha accettato tutto &quot;%2&quot;.</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>Impossibile aprire il documento &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>il file non esiste</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>non è un file</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>è vuoto</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>è cifrato; togliere prima la password</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>è cifrato in un modo sconosciuto</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>non ha pagine</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>la pagina %1 non ha area</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>la pagina %1 è più lunga di %2 m</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>Impossibile aprire il documento dallo standard input: %1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>è un&apos;immagine danneggiata</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>ha %1 × %2 pixel, più di quanti se ne possano stampare</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>è un&apos;immagine a cui manca la fine</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>Nessun documento indicato</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>può essere letto una volta sola</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>standard input</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 e %n altro</numerusform>
-            <numerusform>%1 e altri %n</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>supera %1</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>non è un PDF, PNG, JPEG o SVG</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>è un PDF danneggiato</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>non si può salvare in &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>è un SVG danneggiato</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>rimanda a &quot;%1&quot;, e si stampa solo ciò che è contenuto nell&apos;SVG stesso</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>riga %1 dell&apos;SVG: %2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>è un SVG con più parti di quante se ne possano disegnare</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>contiene un&apos;immagine che non è né PNG né JPEG</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>contiene un&apos;immagine danneggiata</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>Il server di stampa &quot;%1&quot; non ha più alcun lavoro &quot;%2&quot; nella coda &quot;%3&quot;, oppure è terminato.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; non è trattenuto: %4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato rilasciato.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato ritirato.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>Un programma interrotto durante la stampa potrebbe aver lasciato il lavoro %1 (&quot;%2&quot;) sul server di stampa &quot;%3&quot;, forse senza tutti i documenti.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>Un programma interrotto durante la stampa potrebbe aver lasciato un lavoro &quot;%1&quot; senza documenti nella coda &quot;%2&quot; del server di stampa &quot;%3&quot;.</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>Memoria esaurita; non è stato stampato nulla.</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>Memoria esaurita; il lavoro potrebbe essere incompleto o rimasto sul server di stampa.</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>Memoria esaurita. Il lavoro è stato comunque inviato.</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>Impossibile usare il bundle &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>la sua libreria non contiene pannelli</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>è fatto per la versione %1 dell&apos;interfaccia e questo programma ha la %2</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>manca o non è leggibile: %1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>non è una cartella</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>la cartella non esiste</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>Bundle del pannello non trovato; cercato: %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>non ha la libreria %1</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>non funziona su questo sistema</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Il pannello del bundle &quot;%1&quot; non può essere mostrato: il suo file di layout è inutilizzabile</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>Impossibile aprire il file PPD &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>riga %1: %2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>supera %1 MB, più di qualsiasi descrizione di stampante</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>è danneggiato o incompleto: non si può decomprimere fino alla fine</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>non è un file</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>è vuoto</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>contiene %1 istruzioni; il massimo è %2</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>contiene %1 istruzioni &quot;%2&quot;; il massimo è %3</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>finisce a metà di un valore; il file è incompleto</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>Generale</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>Controllo stampante</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>Pagine &quot;%1&quot; non comprese: scrivere numeri e intervalli come 1-3, 5</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>Impossibile stampare le pagine &quot;%1&quot;: l&apos;ultima pagina del documento è %2</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>Non verrebbe stampato nulla: nessuna pagina del documento è scelta</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>«%1» non può essere «%2» con questa carta e le altre opzioni di taglio, e viene stampato come «%3».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>La stampante &quot;%1&quot; non ha la carta &quot;%2&quot;, che è il predefinito personale (lpoptions).</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>Il server di stampa &quot;%1&quot; non ha alcuna coda o classe &quot;%2&quot;.</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>La stampante attende etichette o nastro.</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>Etichette o nastro inceppati.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>Il rotolo di etichette o il nastro è quasi esaurito.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>Il rotolo di etichette o il nastro è esaurito.</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>La stampante sta per andare in pausa.</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>La coda è in pausa; i lavori attendono.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>La stampante è spenta.</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>Connessione alla stampante in corso.</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>La stampante non risponde.</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>La stampante si sta fermando.</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>Alcune stampanti della classe sono ferme.</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>Il toner è quasi esaurito.</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>Il toner è esaurito.</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>Il server di stampa non ha più spazio.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>Il coperchio della stampante è aperto.</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>Un blocco della stampante è aperto.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>Lo sportello della stampante è aperto.</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>Manca la cassetta o il supporto del rotolo.</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>Manca il vassoio di uscita.</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>Il vassoio di uscita è quasi pieno.</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>Il vassoio di uscita è pieno.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>L&apos;inchiostro o il nastro inchiostrato è quasi esaurito.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>L&apos;inchiostro o il nastro inchiostrato è esaurito.</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>Il contenitore degli scarti è quasi pieno.</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>Il contenitore degli scarti è pieno.</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>La stampante è troppo calda.</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>La stampante si sta riscaldando.</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>La stampante è fuori linea.</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>I nuovi lavori vengono trattenuti.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>La stampante è stata disattivata dall&apos;amministratore.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>Manca una parte del driver della stampante.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>Una parte del driver della stampante non è installata in modo sicuro.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>In attesa che la stampante termini il lavoro.</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>La stampante non rispetta il suo protocollo.</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Pronta.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Stampa in corso.</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>Trovata in rete.</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>Stato sconosciuto.</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>La coda non accetta lavori.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>Il server comunica: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>lavoro seguente</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1 su %2, %3</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>non è una cartella</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>impossibile creare la cartella: %1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>Impossibile scrivere &quot;%1&quot;: %2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>è una cartella</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>è un collegamento simbolico</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>è un socket</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>è un dispositivo a blocchi</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>nessuno sta leggendo da lì</translation>
     </message>
 </context>
 </TS>

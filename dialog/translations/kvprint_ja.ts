@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>プリンタークラス: %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>プリンター(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>プリンターがありません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>プリントサーバーの応答を待っています…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>前回: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>プリントサーバーが応答しません。前回: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>プリントサーバーが応答しません。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>プリントサーバーがパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>プリントサーバーがパスワードを求めています。前回: %1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>プリントサーバーは信頼されていません。</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>プリントサーバーは信頼されていません。前回: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>印刷する時刻</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>キューの設定に従う</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>1 から 100 まで。優先度の高いジョブが先に印刷されます</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>ジョブ名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>印刷の向き(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>印刷のタイミング(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>優先度(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>プリンターの設定に従う</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>横 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>縦 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>今すぐ</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>保留を解除したとき</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>時刻を指定</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>夕方</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>ジョブを送信しました。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>ジョブをキャンセル(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>ジョブを取り消す</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>届いた分を印刷</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>部単位で印刷(&amp;B)</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>全ページを 1 部ずつ繰り返します。オフの場合は同じページの複製をまとめて印刷します</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>すべて、または例 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>部数(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>ページ(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>プリントサーバーのパスワード</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>ユーザー名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>パスワード(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>送信を中止</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>「%1」を送信中</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>設定元</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>ジョブのオプション</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>コマンドラインでの同じジョブ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>コピー(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>コマンドをコピー</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>暗号化されていない接続</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>プリントサーバー「%1」はパスワードを求めていますが、接続が暗号化されていません。</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>ネットワーク上の他の人がパスワードを読み取れます。</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>それでも送信</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>プリントサーバーの証明書</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>SHA-256 フィンガープリント:
+%1
+
+サーバーの管理者が示すフィンガープリントと同じ場合にのみ信頼してください。以後は信頼されます。</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>信頼する</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>PPD ファイルに用紙がありません</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>未設定</translation>
@@ -18,14 +356,1215 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>これらの設定をすべて同時に使うことはできません。</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>このまま印刷</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>「%1」には %n 文字以上が必要です。それまでは元の設定のままです。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>オプションのグループ</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>このプリンターにほかのオプションはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 ～ %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>用紙の幅</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>用紙の長さ</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>幅(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>長さ(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>用紙(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>用紙を検索</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>カスタム、%1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>文書のサイズを使う: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>幅 %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>幅 %1、長さ %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>カスタムサイズ…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>プリンター: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>オプション、プレビュー、概要</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>プレビュー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>概要(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>ジョブ(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>送信内容(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>オプション(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>ページがラベルより大きいため縮小されます。</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 の印刷</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>カットオプションを表示できません。%1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>プリンターの記述がないため、用紙とカットの情報がありません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>プリンターの記述を待っています…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>プリンターが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>プリントサーバーの応答を待っています…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>プリンターの記述がわかりません。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>ラベルの帯</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>メモリーが足りません。何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>メモリーが足りません。ジョブは不完全か、プリントサーバーに残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>メモリーが足りません。ジョブは送信されています。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>プリンター「%1」にオプション「%2」はありません。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>プリンター「%1」に用紙「%2」はありません。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>プリンター「%2」のオプション「%1」に選択肢「%3」はありません。使える選択肢: %4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>プリンタ「%1」は用紙「%2」に印刷できません。サイズが %3 × %4 ポイントです。幅と長さは 0 より大きく、一方は %5 m 以下、もう一方は %6 m 以下でなければなりません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>文書「%1」を読めません: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>読み込み中に短くなりました</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>読み込み中に変更されました</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>再印刷の対象ですが、保留されています。%1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>ジョブ %1 は変更されませんでした。%2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 プリントサーバー「%4」のキュー「%3」に、文書のないジョブ「%2」が残っている可能性があります。このジョブは印刷されません。</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 プリントサーバー「%2」はジョブ %3-%4 のすべての文書を受け取りましたが、保留を解除したかどうかを知らせていません。ジョブは印刷されるか、保留されたまま印刷されません。もう一度印刷する前にキューを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 プリントサーバー「%4」のジョブ %2-%3 は印刷された可能性があります。もう一度印刷する前にキューを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 ジョブ %2-%3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>送信中だったジョブの記録「%1」は壊れていたため削除されました。使用するキューにジョブが残っていないか確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>キューの既定値</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>ユーザーの既定値 (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>カットオプション</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>ユーザーの設定</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>一度に印刷できるラベルは %1 枚までです</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>保留中。解除されるまで待ちます。</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>%1 まで保留中。</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>順番を待っています。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>印刷中。</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>停止中。プリンターの準備ができると再開します。</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>キャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>プリントサーバーが中止しました。</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>印刷しました。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>サーバーからのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>ジョブは終了しました。プリントサーバーに記録は残っていません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>印刷する文書がありません。</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」は「%2」のすべてを受け取りませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>プリントサーバー「%1」のキュー「%3」にジョブ「%2」はもうないか、すでに終了しています。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>プリントサーバー「%3」のジョブ %1-%2 は保留されていません: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>プリントサーバー「%3」のジョブ %1-%2 の保留を解除しました。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>プリントサーバー「%3」のジョブ %1-%2 を取り消しました。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」にジョブ %1（「%2」）を残した可能性があります。すべての文書が届いていないかもしれません。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」のキュー「%2」に文書のないジョブ「%1」を残した可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」はプリンター「%2」に接続できません。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>プリンター「%1」はネットワーク上に見つからなくなりました。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」にキューまたはクラス「%2」はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>ラベルまたはテープの補給を待っています。</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>ラベルまたはテープが詰まっています。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>ラベルロールまたはテープの残りがわずかです。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>ラベルロールまたはテープがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>プリンターは一時停止するところです。</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>キューは一時停止中です。ジョブは待機します。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>プリンターの電源が切れています。</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>プリンターに接続中。</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>プリンターが応答しません。</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>プリンターを停止しています。</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>クラスの一部のプリンターが停止しています。</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>トナーの残りがわずかです。</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>トナーがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>プリントサーバーに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>プリンターのカバーが開いています。</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>プリンターのロックが外れています。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>プリンターのドアが開いています。</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>カセットまたはロールホルダーがありません。</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>排紙トレイがありません。</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>排紙トレイがもうすぐいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>排紙トレイがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>インクまたはインクリボンの残りがわずかです。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>インクまたはインクリボンがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>回収ボックスがもうすぐいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>回収ボックスがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>プリンターが熱くなりすぎています。</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>プリンターはウォームアップ中です。</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>プリンターはオフラインです。</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>新しいジョブは保留されます。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>プリンターは管理者によって無効にされています。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>プリンタードライバーの一部がありません。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>プリンタードライバーの一部が安全にインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>プリンターがジョブを終えるのを待っています。</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>プリンターがプロトコルに従っていません。</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>準備完了。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>印刷中。</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>ネットワークで見つかりました。</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>状態は不明です。</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>キューはジョブを受け付けていません。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>サーバーからのメッセージ: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>要求により中止しました。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>プリントサーバー「%1」が応答しません。</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>プリントサーバー「%1」に接続できません: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>プリントサーバー「%1」との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>プリントサーバー「%1」からのメッセージ: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>プリントサーバー「%1」から「%2」を取得できません: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>%1 MB を超えています</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>途中で接続が切れました</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めていますが、入力されていません。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>プリントサーバー「%1」には証明書がありません。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>プリントサーバー「%1」の証明書は、このホストに対して信頼されている証明書ではありません。信頼されている証明書の SHA-256 フィンガープリントは %2、サーバーのものは %3 です。サーバーの証明書が置き換えられたか、同じホストで別のプリントサーバーが動作しているか、または何者かが接続を傍受している可能性があります。サーバーの管理者がフィンガープリントを確認した場合は、ファイル「%4」を削除してもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>プリントサーバー「%1」の証明書 (SHA-256 フィンガープリント %2) は信頼できません: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。SHA-256 フィンガープリントは %3 です。サーバーの管理者が示すものと比べ、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>ユーザー名またはパスワードが正しくありません。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めています。接続が暗号化されておらず、他の人に読み取られるおそれがあるため、送信していません。接続を暗号化する (-E) か、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを受け付けません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>文書を保存できません。ディスクがいっぱいか、文書がサーバーの受け付ける大きさを超えています。</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>文書「%1」を開けません: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>暗号化されています。先にパスワードを解除してください</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>未知の方式で暗号化されています</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>ページがありません</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>%1 ページに面積がありません</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>%1 ページは %2 m を超えています</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>標準入力の文書を開けません: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>画像が壊れています</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>%1 × %2 ピクセルあり、印刷できる大きさを超えています</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>画像の終わりが欠けています</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>文書が指定されていません</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>読み込めるのは 1 回だけです</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>%1 を超えています</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>PDF、PNG、JPEG、SVG のいずれでもありません</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>PDF が壊れています</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>「%1」に保存できません: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>SVG が壊れています</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>「%1」を参照していますが、印刷されるのは SVG 自体の内容だけです</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>SVG の %1 行目: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>SVG の要素が多すぎて描画できません</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>PNG でも JPEG でもない画像を含んでいます</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>壊れた画像を含んでいます</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>ページ「%1」を理解できません: 1-3, 5 のように入力してください</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>ページ「%1」を印刷できません: 最後のページは %2 です</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>何も印刷されません。文書のページが選ばれていません</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>バンドル「%1」を使えません: %2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>パネルのライブラリではありません</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>インターフェースのバージョン %1 用ですが、このプログラムは %2 です</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>見つからないか読めません: %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>フォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>パネルのバンドルが見つかりません。探した場所: %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>ライブラリ %1 がありません</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>このシステムでは動作しません</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>「%1」の設定を保存できません: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>「%1」はこの設定での印刷を許可していません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>「%1: %2」</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>このプリンターは%1に対応していません。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1と%2は同時に使えません。</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>「%1」を「%2」にする</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>PPD ファイル「%1」を開けません: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>%1 MB を超えており、プリンターの記述としては大きすぎます</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>壊れているか不完全です: 最後まで展開できません</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>命令が %1 個あります。最大は %2 個です</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>「%2」の命令が %1 個あります。最大は %3 個です</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>値の途中で終わっています。ファイルが不完全です</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>プリンター制御</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>ジョブ「%1」、送信先「%2」(%3)
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>送信されるオプション:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>ラベルの帯</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>切り離し片</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>テープ</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>うち印刷する</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>奇数ページ</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>偶数ページ</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>バンドル「%1」はパネルを作成できませんでした</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>この用紙とほかのカットオプションの組み合わせでは「%1」を「%2」にできないため、「%3」として印刷されます。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>プリンター「%1」に、ユーザーの既定値 (lpoptions) である用紙「%2」はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>プリンターの記述には、ラベルをカットするかどうかが書かれていません。</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>ラベル: %1 · テープ: %2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>フルカットなし: ラベルは 1 本の帯で出てきます。</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>最後のラベルの後でフルカット。</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>ラベル 1 枚ごとにフルカット。</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>ラベル %1 枚ごとにフルカット。</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>測定中…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>ラベル: %1 · 切り離し片: %2 · テープ: %3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>何も印刷されません。</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>特殊テープ: プリンターはカットしません。</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>同じ片のラベルの間はハーフカット。</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>フルカットしない境目に印を印刷。</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>終端はプリンターに残り、次の印刷は余白なしで続きます。</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>ラベル前後の空白を省きます。</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>ラベルは鏡像になります。</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>次の印刷</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1 (%2、%3)</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>フォルダーを作成できません: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>「%1」に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>シンボリックリンクです</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>ソケットです</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>ブロックデバイスです</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>読み取っているプログラムがありません</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>「kvprint --help」をお試しください。</translation>
@@ -272,89 +1811,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>ジョブは %1-%2 として送信されています。</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>%1 ～ %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>用紙の幅</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>用紙の長さ</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>幅(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>長さ(&amp;L)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>プリンタークラス: %1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>プリンター(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>プリンターがありません。</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>プリントサーバーの応答を待っています…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>前回: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>プリントサーバーが応答しません。前回: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>プリントサーバーが応答しません。</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>プリントサーバーがパスワードを求めています。</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>プリントサーバーがパスワードを求めています。前回: %1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>プリントサーバーは信頼されていません。</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>プリントサーバーは信頼されていません。前回: %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(既定)</translation>
@@ -365,43 +1829,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>オプション、プレビュー、概要</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>プレビュー(&amp;V)</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>概要(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>ジョブ(&amp;J)</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>送信内容(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>オプション(&amp;O)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>「%1」には %n 文字以上が必要です。それまでは元の設定のままです。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>プリントサーバー「%1」に印刷先がありません</translation>
@@ -420,128 +1848,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>印刷する時刻</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>キューの設定に従う</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>1 から 100 まで。優先度の高いジョブが先に印刷されます</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>ジョブ名(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>印刷の向き(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>印刷のタイミング(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>優先度(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>プリンターの設定に従う</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>横 (逆向き)</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>縦 (逆向き)</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>今すぐ</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>保留を解除したとき</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>時刻を指定</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>日中</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>夕方</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>夜間</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>第 2 シフト</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>第 3 シフト</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>週末</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>ジョブを送信しました。</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>ジョブ %1: %2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>ジョブをキャンセル(&amp;J)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>ジョブを取り消す</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>届いた分を印刷</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>「kvprint --cancel-left %1」で取り消し、「kvprint --release-left %1」でサーバーにある分を印刷します。</translation>
@@ -560,201 +1867,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>インチ</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>オプションのグループ</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>このプリンターにほかのオプションはありません。</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>部単位で印刷(&amp;B)</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>全ページを 1 部ずつ繰り返します。オフの場合は同じページの複製をまとめて印刷します</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>すべて、または例 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>部数(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>ページ(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>最後のページから</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>ページがラベルより大きいため縮小されます。</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>前のページ</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>次のページ</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>%1 / %2 ページ</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>用紙(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>用紙</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>用紙を検索</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>カスタム、%1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>文書のサイズを使う: %1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>カスタムサイズ</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>幅 %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>幅 %1、長さ %2</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>カスタムサイズ…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>プリントサーバーのパスワード</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>ユーザー名(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>パスワード(&amp;P)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>%1 の印刷</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>印刷(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>カットオプションを表示できません。%1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>プリンターの記述がないため、用紙とカットの情報がありません。</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>プリンターの記述を待っています…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>プリンターが選択されていません。</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>プリントサーバーの応答を待っています…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>これらの設定をすべて同時に使うことはできません。</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>このまま印刷</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>プリンターの記述がわかりません。</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>PPD ファイル「%1」に用紙「%2」はありません。使える用紙: %3</translation>
@@ -769,1120 +1882,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>再試行</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>送信を中止</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>「%1」を送信中</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>オプション</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>値</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>設定元</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>送信</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>ジョブのオプション</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>コマンドラインでの同じジョブ(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>コピー(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>コマンドをコピー</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>はい</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>いいえ</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>標準出力に書き込めません: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>ラベルの帯</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>値</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>概要</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>続行するには「%1」と入力してください:</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>暗号化されていない接続</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>プリントサーバー「%1」はパスワードを求めていますが、接続が暗号化されていません。</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>ネットワーク上の他の人がパスワードを読み取れます。</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>それでも送信</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>プリントサーバーの証明書</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>SHA-256 フィンガープリント:
-%1
-
-サーバーの管理者が示すフィンガープリントと同じ場合にのみ信頼してください。以後は信頼されます。</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>信頼する</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>PPD ファイルに用紙がありません</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>プリンター「%1」にオプション「%2」はありません。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>プリンター「%1」に用紙「%2」はありません。</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>プリンター「%2」のオプション「%1」に選択肢「%3」はありません。使える選択肢: %4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>プリンタ「%1」は用紙「%2」に印刷できません。サイズが %3 × %4 ポイントです。幅と長さは 0 より大きく、一方は %5 m 以下、もう一方は %6 m 以下でなければなりません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>「%1: %2」</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>このプリンターは%1に対応していません。</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1と%2は同時に使えません。</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>「%1」を「%2」にする</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>要求により中止しました。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>プリントサーバー「%1」が応答しません。</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>プリントサーバー「%1」に接続できません: %2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>プリントサーバー「%1」との接続が切れました。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>プリントサーバー「%1」からのメッセージ: %2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>プリントサーバー「%1」から「%2」を取得できません: %3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>%1 MB を超えています</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>途中で接続が切れました</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めていますが、入力されていません。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>プリントサーバー「%1」には証明書がありません。</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>プリントサーバー「%1」の証明書は、このホストに対して信頼されている証明書ではありません。信頼されている証明書の SHA-256 フィンガープリントは %2、サーバーのものは %3 です。サーバーの証明書が置き換えられたか、同じホストで別のプリントサーバーが動作しているか、または何者かが接続を傍受している可能性があります。サーバーの管理者がフィンガープリントを確認した場合は、ファイル「%4」を削除してもう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>プリントサーバー「%1」の証明書 (SHA-256 フィンガープリント %2) は信頼できません: %3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。SHA-256 フィンガープリントは %3 です。サーバーの管理者が示すものと比べ、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>ユーザー名またはパスワードが正しくありません。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めています。接続が暗号化されておらず、他の人に読み取られるおそれがあるため、送信していません。接続を暗号化する (-E) か、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを受け付けません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>プリンターの記述には、ラベルをカットするかどうかが書かれていません。</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>ラベル: %1 · テープ: %2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>フルカットなし: ラベルは 1 本の帯で出てきます。</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>最後のラベルの後でフルカット。</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>ラベル 1 枚ごとにフルカット。</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>ラベル %1 枚ごとにフルカット。</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>測定中…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>ラベル: %1 · 切り離し片: %2 · テープ: %3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>何も印刷されません。</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>特殊テープ: プリンターはカットしません。</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>同じ片のラベルの間はハーフカット。</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>フルカットしない境目に印を印刷。</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>終端はプリンターに残り、次の印刷は余白なしで続きます。</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>ラベル前後の空白を省きます。</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>ラベルは鏡像になります。</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>プリントサーバー「%1」はプリンター「%2」に接続できません。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>プリンター「%1」はネットワーク上に見つからなくなりました。</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>文書「%1」を読めません: %2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ファイルではありません</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>空です</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>読み込み中に短くなりました</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>読み込み中に変更されました</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>再印刷の対象ですが、保留されています。%1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>ジョブ %1 は変更されませんでした。%2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>文書を保存できません。ディスクがいっぱいか、文書がサーバーの受け付ける大きさを超えています。</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 プリントサーバー「%4」のキュー「%3」に、文書のないジョブ「%2」が残っている可能性があります。このジョブは印刷されません。</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 プリントサーバー「%2」はジョブ %3-%4 のすべての文書を受け取りましたが、保留を解除したかどうかを知らせていません。ジョブは印刷されるか、保留されたまま印刷されません。もう一度印刷する前にキューを確認してください。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 プリントサーバー「%4」のジョブ %2-%3 は印刷された可能性があります。もう一度印刷する前にキューを確認してください。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 ジョブ %2-%3 を取り消せませんでした。ジョブはプリントサーバー「%4」で保留中で、解除されるまで印刷されません。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 ジョブ %2-%3 を取り消せませんでした。もう一度印刷する前にキューを確認してください。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 ジョブ %2-%3: %4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>送信中だったジョブの記録「%1」は壊れていたため削除されました。使用するキューにジョブが残っていないか確認してください。</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>プリンターの既定値</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>キューの既定値</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>ユーザーの既定値 (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>プリセット</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>カットオプション</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>ユーザーの設定</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>ジョブ「%1」、送信先「%2」(%3)
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>送信されるオプション:
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>一度に印刷できるラベルは %1 枚までです</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>保留中。解除されるまで待ちます。</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>%1 まで保留中。</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>順番を待っています。</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>印刷中。</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>停止中。プリンターの準備ができると再開します。</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>キャンセルされました。</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>プリントサーバーが中止しました。</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>印刷しました。</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>サーバーからのメッセージ: %1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>ジョブは終了しました。プリントサーバーに記録は残っていません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>印刷</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>文書</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>用紙</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>すべて</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>ラベルの帯</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>ラベル</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>切り離し片</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>テープ</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>カット</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>順序</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>最後のページから</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>うち印刷する</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>奇数ページ</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>偶数ページ</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>印刷する文書がありません。</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>プリントサーバー「%1」は「%2」のすべてを受け取りませんでした。</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>文書「%1」を開けません: %2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>ファイルがありません</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ファイルではありません</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>空です</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>暗号化されています。先にパスワードを解除してください</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>未知の方式で暗号化されています</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>ページがありません</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>%1 ページに面積がありません</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>%1 ページは %2 m を超えています</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>標準入力の文書を開けません: %1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>画像が壊れています</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>%1 × %2 ピクセルあり、印刷できる大きさを超えています</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>画像の終わりが欠けています</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>文書が指定されていません</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>読み込めるのは 1 回だけです</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>標準入力</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 ほか %n 件</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>%1 を超えています</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>PDF、PNG、JPEG、SVG のいずれでもありません</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>PDF が壊れています</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>「%1」に保存できません: %2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>SVG が壊れています</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>「%1」を参照していますが、印刷されるのは SVG 自体の内容だけです</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>SVG の %1 行目: %2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>SVG の要素が多すぎて描画できません</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>PNG でも JPEG でもない画像を含んでいます</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>壊れた画像を含んでいます</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>プリントサーバー「%1」のキュー「%3」にジョブ「%2」はもうないか、すでに終了しています。</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>プリントサーバー「%3」のジョブ %1-%2 は保留されていません: %4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>プリントサーバー「%3」のジョブ %1-%2 の保留を解除しました。</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>プリントサーバー「%3」のジョブ %1-%2 を取り消しました。</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」にジョブ %1（「%2」）を残した可能性があります。すべての文書が届いていないかもしれません。</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」のキュー「%2」に文書のないジョブ「%1」を残した可能性があります。</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>メモリーが足りません。何も印刷されませんでした。</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>メモリーが足りません。ジョブは不完全か、プリントサーバーに残っている可能性があります。</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>メモリーが足りません。ジョブは送信されています。</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>バンドル「%1」を使えません: %2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>パネルのライブラリではありません</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>インターフェースのバージョン %1 用ですが、このプログラムは %2 です</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>見つからないか読めません: %1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>フォルダーではありません</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>フォルダーがありません</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>パネルのバンドルが見つかりません。探した場所: %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>ライブラリ %1 がありません</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>このシステムでは動作しません</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>バンドル「%1」はパネルを作成できませんでした</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>PPD ファイル「%1」を開けません: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>%1 行目: %2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>%1 MB を超えており、プリンターの記述としては大きすぎます</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>壊れているか不完全です: 最後まで展開できません</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ファイルではありません</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>空です</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>命令が %1 個あります。最大は %2 個です</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>「%2」の命令が %1 個あります。最大は %3 個です</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>値の途中で終わっています。ファイルが不完全です</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>一般</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>プリンター制御</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>ページ「%1」を理解できません: 1-3, 5 のように入力してください</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>ページ「%1」を印刷できません: 最後のページは %2 です</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>何も印刷されません。文書のページが選ばれていません</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>この用紙とほかのカットオプションの組み合わせでは「%1」を「%2」にできないため、「%3」として印刷されます。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>「%1」の設定を保存できません: %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>「%1」はこの設定での印刷を許可していません。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>プリンター「%1」に、ユーザーの既定値 (lpoptions) である用紙「%2」はありません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>プリントサーバー「%1」にキューまたはクラス「%2」はありません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>ラベルまたはテープの補給を待っています。</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>ラベルまたはテープが詰まっています。</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>ラベルロールまたはテープの残りがわずかです。</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>ラベルロールまたはテープがなくなりました。</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>プリンターは一時停止するところです。</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>キューは一時停止中です。ジョブは待機します。</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>プリンターの電源が切れています。</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>プリンターに接続中。</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>プリンターが応答しません。</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>プリンターを停止しています。</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>クラスの一部のプリンターが停止しています。</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>トナーの残りがわずかです。</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>トナーがなくなりました。</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>プリントサーバーに空き容量がありません。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>プリンターのカバーが開いています。</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>プリンターのロックが外れています。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>プリンターのドアが開いています。</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>カセットまたはロールホルダーがありません。</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>排紙トレイがありません。</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>排紙トレイがもうすぐいっぱいです。</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>排紙トレイがいっぱいです。</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>インクまたはインクリボンの残りがわずかです。</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>インクまたはインクリボンがなくなりました。</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>回収ボックスがもうすぐいっぱいです。</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>回収ボックスがいっぱいです。</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>プリンターが熱くなりすぎています。</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>プリンターはウォームアップ中です。</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>プリンターはオフラインです。</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>新しいジョブは保留されます。</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>プリンターは管理者によって無効にされています。</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>プリンタードライバーの一部がありません。</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>プリンタードライバーの一部が安全にインストールされていません。</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>プリンターがジョブを終えるのを待っています。</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>プリンターがプロトコルに従っていません。</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>準備完了。</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>印刷中。</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>ネットワークで見つかりました。</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>状態は不明です。</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>キューはジョブを受け付けていません。</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>サーバーからのメッセージ: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>次の印刷</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1 (%2、%3)</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>フォルダーではありません</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>フォルダーを作成できません: %1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>「%1」に書き込めません: %2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>フォルダーです</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>シンボリックリンクです</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>ソケットです</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>ブロックデバイスです</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>読み取っているプログラムがありません</translation>
     </message>
 </context>
 </TS>

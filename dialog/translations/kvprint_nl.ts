@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>Printerklasse: %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>P&amp;rinter</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>Die printer bestaat niet.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Wachten op antwoord van de printserver…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>De vorige keer: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>De printserver antwoordt niet. De vorige keer: %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>De printserver antwoordt niet.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>De printserver vraagt een wachtwoord.</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>De printserver vraagt een wachtwoord. De vorige keer: %1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>De printserver wordt niet vertrouwd.</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>De printserver wordt niet vertrouwd. De vorige keer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>Tijdstip van afdrukken</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>Standaard van de wachtrij</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>Van 1 tot 100; taken met een hogere prioriteit worden vóór andere afgedrukt</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>Taak&amp;naam</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>Afdr&amp;ukstand</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>&amp;Wanneer</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>Pr&amp;ioriteit</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Standaard van de printer</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Staand</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Liggend</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Liggend omgekeerd</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Staand omgekeerd</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>Als ik de taak vrijgeef</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Op een tijdstip</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Overdag</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>&apos;s Avonds</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>&apos;s Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Tijdens de tweede dienst</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Tijdens de derde dienst</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>In het weekend</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>De taak is verzonden.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 op %2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Taak %1: %2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>&amp;Taak annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verbergen</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>Taak terugnemen</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>Afdrukken wat er is</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>Per se&amp;t</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>Eerst alle pagina&apos;s één keer, dan opnieuw; anders alle exemplaren van een pagina bij elkaar</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>alle, of bijv. 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Exemplaren</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>Pa&amp;gina&apos;s</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Laatste pagina eerst</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>Wachtwoord voor de printserver</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>&amp;Gebruikersnaam</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Wachtwoord</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>Verzenden stoppen</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; wordt verzonden</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Optie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Herkomst</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Verzonden</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>Opties van de taak</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>Dezelfde taak op de o&amp;pdrachtregel</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Kop&amp;iëren</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>De opdracht kopiëren</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nee</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Samenvatting</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>Verbinding zonder versleuteling</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord en de verbinding is niet versleuteld.</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>Anderen op het netwerk kunnen het wachtwoord lezen.</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>Toch verzenden</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>Certificaat van de printserver</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2.</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>De SHA-256-vingerafdruk is:
+%1
+
+Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. Het wordt vanaf dan vertrouwd.</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>Vertrouwen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>Het PPD-bestand noemt geen papier om op af te drukken</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>niet ingesteld</translation>
@@ -18,14 +356,1217 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>De printer kan dit niet allemaal tegelijk.</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>Toch afdrukken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>&quot;%1&quot; heeft minstens %n teken nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
+            <numerusform>&quot;%1&quot; heeft minstens %n tekens nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>Groepen opties</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>Deze printer heeft geen andere opties.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 tot %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Papierbreedte</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>Papierlengte</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>&amp;Breedte</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>&amp;Lengte</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>P&amp;apier</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>Papier zoeken</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>Aangepast, %1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>Documentgrootte gebruiken: %1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>Een aangepast formaat</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>%1 breed</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>%1 breed, %2 lang</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Aangepast formaat…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>inch</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>Printer: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>Opties, voorbeeld en samenvatting</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>Pagina&amp;voorbeeld</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Samenvatting</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>Taa&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>Te ver&amp;zenden</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opties</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>De pagina is groter dan het label en wordt verkleind.</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige pagina</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Volgende pagina</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 van %2</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 afdrukken</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Af&amp;drukken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>De snijopties kunnen niet worden getoond. %1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>De printer heeft geen beschrijving; het papier en de sneden zijn hier daarom niet bekend.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>Wachten op de beschrijving van de printer…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>Er is geen printer gekozen.</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>Wachten op antwoord van de printserver…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>De beschrijving van de printer is niet bekend.</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>Labelstrook</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>Onvoldoende geheugen; er is niets afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>Onvoldoende geheugen; de taak is misschien onvolledig of op de afdrukserver achtergebleven.</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>Onvoldoende geheugen. De taak is toch verzonden.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>De printer &quot;%1&quot; heeft geen optie &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>De printer &quot;%1&quot; heeft geen papier &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>De optie &quot;%1&quot; van de printer &quot;%2&quot; heeft geen keuze &quot;%3&quot;; wel: %4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>De printer &quot;%1&quot; kan niet op het papier &quot;%2&quot; afdrukken: het formaat is %3 × %4 punten; breedte en lengte moeten groter zijn dan 0, de ene hoogstens %5 m en de andere hoogstens %6 m.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>Kan het document &quot;%1&quot; niet lezen: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het is leeg</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>het is tijdens het lezen korter geworden</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>het is tijdens het lezen gewijzigd</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>De taak moet opnieuw worden afgedrukt, maar wordt vastgehouden. %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>Taak %1 is niet gewijzigd. %2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 In de wachtrij &quot;%3&quot; van de printserver &quot;%4&quot; kan een taak &quot;%2&quot; zonder documenten zijn achtergebleven; daarvan wordt niets afgedrukt.</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 De printserver &quot;%2&quot; heeft alle documenten van taak %3-%4 en heeft niet gemeld of hij de taak vrijgeeft: de taak wordt afgedrukt, of ze wordt vastgehouden en niet afgedrukt. Kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 Taak %2-%3 op de printserver &quot;%4&quot; kan afgedrukt zijn; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 Taak %2-%3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>Het bestand &quot;%1&quot; over een taak die werd verzonden, is beschadigd en verwijderd; kijk in uw wachtrijen of er een taak is achtergebleven.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>standaard van de printer</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>standaard van de wachtrij</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>uw standaard (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>voorinstelling</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>snijopties</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>door u ingesteld</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>Zoveel labels kunnen niet tegelijk worden afgedrukt: een taak heeft er hoogstens %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>Vastgehouden tot de taak wordt vrijgegeven.</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>Vastgehouden tot %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>Staat in de wachtrij.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Wordt afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>Gestopt; de taak gaat verder als de printer weer gereed is.</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Geannuleerd.</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>Door de printserver afgebroken.</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Afgedrukt.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>De server meldt: %1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>De taak is klaar; de printserver bewaart er niets van.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Er is geen document om af te drukken.</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; heeft &quot;%2&quot; niet helemaal aangenomen.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>De printserver &quot;%1&quot; heeft geen taak &quot;%2&quot; meer in de wachtrij &quot;%3&quot;, of ze is afgelopen.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>Taak %1-%2 op de printserver &quot;%3&quot; wordt niet vastgehouden: %4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>Taak %1-%2 op de printserver &quot;%3&quot; is vrijgegeven.</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>Taak %1-%2 op de printserver &quot;%3&quot; is teruggenomen.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien taak %1 (&quot;%2&quot;) op de printserver &quot;%3&quot; achtergelaten, mogelijk zonder alle documenten.</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien een taak &quot;%1&quot; zonder documenten in de wachtrij &quot;%2&quot; van de printserver &quot;%3&quot; achtergelaten.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; kan de printer &quot;%2&quot; niet bereiken.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>De printer &quot;%1&quot; is niet meer op het netwerk.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; heeft geen wachtrij of klasse &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>De printer wacht op labels of tape.</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>Labels of tape zijn vastgelopen.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>De labelrol of tape is bijna op.</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>De labelrol of tape is op.</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>De printer wordt zo gepauzeerd.</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>De wachtrij is gepauzeerd; taken wachten.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>De printer is uitgeschakeld.</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>Verbinding met de printer wordt gemaakt.</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>De printer reageert niet.</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>De printer stopt.</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>Enkele printers van de klasse zijn gestopt.</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>De toner is bijna op.</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>De toner is op.</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>De printserver heeft geen ruimte meer.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>De klep van de printer staat open.</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>Een vergrendeling van de printer staat open.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>De deur van de printer staat open.</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>De cassette of rolhouder ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>De uitvoerlade ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>De uitvoerlade is bijna vol.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>De uitvoerlade is vol.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>De inkt of het lint is bijna op.</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>De inkt of het lint is op.</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>De afvalbak is bijna vol.</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>De afvalbak is vol.</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>De printer is te heet.</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>De printer warmt op.</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>De printer is offline.</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>Nieuwe taken worden vastgehouden.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>De printer is door de beheerder uitgeschakeld.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>Een deel van het printerstuurprogramma ontbreekt.</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>Een deel van het printerstuurprogramma is niet veilig geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>Wachten tot de printer de taak heeft voltooid.</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>De printer houdt zich niet aan zijn protocol.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Gereed.</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>Bezig met afdrukken.</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>Op het netwerk gevonden.</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>Toestand onbekend.</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>De wachtrij accepteert geen taken.</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>De server meldt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>Op verzoek afgebroken.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>De printserver &quot;%1&quot; antwoordt niet.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>Kan geen verbinding maken met de printserver &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>De verbinding met de printserver &quot;%1&quot; is verbroken.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>De printserver &quot;%1&quot; meldt: %2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>De printserver &quot;%1&quot; levert &quot;%2&quot; niet: %3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>het bestand is groter dan %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>de verbinding werd halverwege verbroken</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;, maar er is geen opgegeven.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>De printserver &quot;%1&quot; heeft geen certificaat.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; is niet het certificaat dat voor deze host wordt vertrouwd. Het vertrouwde heeft de SHA-256-vingerafdruk %2, dat van de server heeft %3. Mogelijk is het certificaat van de server vervangen, draait er een andere printserver op dezelfde host of onderschept iemand de verbinding. Als de beheerder van de server de vingerafdruk bevestigt, verwijder dan het bestand &quot;%4&quot; en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; met de SHA-256-vingerafdruk %2 mag niet worden vertrouwd: %3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2. De SHA-256-vingerafdruk is %3. Vergelijk die met de vingerafdruk die de beheerder van de server noemt en bevestig die wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>De gebruikersnaam of het wachtwoord is onjuist.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;. Er is er geen verzonden, omdat de verbinding niet is versleuteld en anderen het zouden kunnen lezen. Versleutel de verbinding (-E) of bevestig het wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>De printserver &quot;%1&quot; accepteert het wachtwoord van de gebruiker &quot;%2&quot; niet.</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>Hij kan het document niet opslaan: de schijf is vol, of het document is groter dan hij accepteert.</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>Kan het document &quot;%1&quot; niet openen: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>dat bestand bestaat niet</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het is leeg</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>het is versleuteld; verwijder eerst het wachtwoord</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>het is op een onbekende manier versleuteld</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>het heeft geen pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>pagina %1 heeft geen oppervlak</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>pagina %1 is langer dan %2 m</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>Kan het document van de standaardinvoer niet openen: %1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>het is een beschadigde afbeelding</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>het heeft %1 × %2 pixels, meer dan kan worden afgedrukt</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>het is een afbeelding waarvan het einde ontbreekt</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>Er is geen document opgegeven</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>die kan maar één keer worden gelezen</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standaardinvoer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 en nog %n</numerusform>
+            <numerusform>%1 en nog %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>het is groter dan %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>het is geen PDF, PNG, JPEG of SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>het is een beschadigde PDF</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>het kan niet in &quot;%1&quot; worden bewaard: %2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>het is een beschadigde SVG</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>het verwijst naar &quot;%1&quot;, en alleen wat in de SVG zelf staat wordt afgedrukt</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>regel %1 van de SVG: %2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>het is een SVG met meer onderdelen dan kunnen worden getekend</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>het bevat een afbeelding die geen PNG of JPEG is</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>het bevat een beschadigde afbeelding</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>het bevat afbeeldingen met meer pixels dan kunnen worden afgedrukt</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>De pagina&apos;s &quot;%1&quot; zijn onbegrijpelijk: schrijf getallen en bereiken zoals 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>Kan de pagina&apos;s &quot;%1&quot; niet afdrukken: de laatste pagina van het document is %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>Er zou niets worden afgedrukt: er is geen pagina van het document gekozen</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>Kan de bundel &quot;%1&quot; niet gebruiken: %2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>de bibliotheek bevat geen panelen</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>die is gemaakt voor versie %1 van de interface; dit programma heeft versie %2</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>ontbreekt of is onleesbaar: %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>het is geen map</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>die map bestaat niet</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>Kan de paneelbundel niet vinden; gezocht: %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>de bibliotheek %1 ontbreekt</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>die werkt niet op dit systeem</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>&quot;%1: %2&quot;</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>Deze printer kan %1 niet aan.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 en %2 sluiten elkaar uit.</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>zet &quot;%1&quot; op &quot;%2&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>Kan het PPD-bestand &quot;%1&quot; niet openen: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>regel %1: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>het is groter dan %1 MB, meer dan enige printerbeschrijving</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>het is beschadigd of onvolledig: het kan niet tot het einde worden uitgepakt</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het is leeg</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>het bevat %1 instructies; het maximum is %2</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>het bevat %1 instructies &quot;%2&quot;; het maximum is %3</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>het eindigt midden in een waarde; het bestand is onvolledig</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>Algemeen</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>Printerbesturing</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>Taak &quot;%1&quot; voor &quot;%2&quot; op %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>Opties die worden verzonden:
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplaren</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>Labelstrook</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Stukken</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>Tape</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>Sneden</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Volgorde</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>laatste pagina eerst</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>Daarvan</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>de oneven pagina’s</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>de even pagina’s</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>De bundel &quot;%1&quot; kon zijn paneel niet maken</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>Het paneel van de bundel &quot;%1&quot; kan niet worden getoond: het opmaakbestand is onbruikbaar</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>‘%1’ kan met dit papier en de andere snijopties niet ‘%2’ zijn en wordt afgedrukt als ‘%3’.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>De printer &quot;%1&quot; heeft geen papier &quot;%2&quot;, dat uw standaard is (lpoptions).</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>De beschrijving van de printer vermeldt niet of hij de etiketten afsnijdt.</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>Labels: %1 · Tape: %2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>Geen volledige snede: de labels komen als één strook.</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>Volledige snede na het laatste label.</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>Volledige snede na elk label.</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>Volledige snede na elke %1 labels.</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>wordt gemeten…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>Labels: %1 · Stukken: %2 · Tape: %3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>Er wordt niets afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>Speciale tape: de printer snijdt niets.</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>Halve snede tussen de labels van een stuk.</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>Gedrukte merktekens waar niet wordt doorgesneden.</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>Het einde blijft in de printer; de volgende taak gaat zonder marge verder.</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>Lege tape voor en na elk label vervalt.</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>De labels zijn gespiegeld.</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>volgende taak</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1 op %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>het is geen map</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>de map kan niet worden gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Kan &quot;%1&quot; niet schrijven: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>het is een map</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>het is een symbolische koppeling</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>het is een socket</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>het is een blokapparaat</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>niemand leest eruit</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>Probeer &quot;kvprint --help&quot;.</translation>
@@ -273,89 +1814,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>De taak is toch verzonden, als %1-%2.</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>%1 tot %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Papierbreedte</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>Papierlengte</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>&amp;Breedte</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>&amp;Lengte</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>Printerklasse: %1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>P&amp;rinter</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Printer</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>Die printer bestaat niet.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Wachten op antwoord van de printserver…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>De vorige keer: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>De printserver antwoordt niet. De vorige keer: %1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>De printserver antwoordt niet.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>De printserver vraagt een wachtwoord.</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>De printserver vraagt een wachtwoord. De vorige keer: %1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>De printserver wordt niet vertrouwd.</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>De printserver wordt niet vertrouwd. De vorige keer: %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(standaard)</translation>
@@ -366,44 +1832,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>Opties, voorbeeld en samenvatting</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>Pagina&amp;voorbeeld</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>&amp;Samenvatting</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>Taa&amp;k</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>Te ver&amp;zenden</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opties</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>&quot;%1&quot; heeft minstens %n teken nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
-            <numerusform>&quot;%1&quot; heeft minstens %n tekens nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>De printserver &quot;%1&quot; heeft geen bestemming om op af te drukken</translation>
@@ -422,128 +1851,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>Tijdstip van afdrukken</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>Standaard van de wachtrij</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>Van 1 tot 100; taken met een hogere prioriteit worden vóór andere afgedrukt</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>Taak&amp;naam</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>Afdr&amp;ukstand</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>&amp;Wanneer</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>Pr&amp;ioriteit</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>Standaard van de printer</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Staand</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Liggend</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>Liggend omgekeerd</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>Staand omgekeerd</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>Nu</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>Als ik de taak vrijgeef</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>Op een tijdstip</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Overdag</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>&apos;s Avonds</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>&apos;s Nachts</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>Tijdens de tweede dienst</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>Tijdens de derde dienst</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>In het weekend</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>De taak is verzonden.</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1 op %2</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>Taak %1: %2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>&amp;Taak annuleren</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>Verbergen</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>Taak terugnemen</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>Afdrukken wat er is</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>&quot;kvprint --cancel-left %1&quot; neemt de taak terug, &quot;kvprint --release-left %1&quot; drukt af wat de server ervan heeft.</translation>
@@ -562,201 +1870,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>inch</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>Groepen opties</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>Deze printer heeft geen andere opties.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>Per se&amp;t</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>Eerst alle pagina&apos;s één keer, dan opnieuw; anders alle exemplaren van een pagina bij elkaar</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>alle, of bijv. 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>&amp;Exemplaren</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>Pa&amp;gina&apos;s</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>Laatste pagina eerst</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>De pagina is groter dan het label en wordt verkleind.</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>Vorige pagina</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Volgende pagina</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>Pagina %1 van %2</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>P&amp;apier</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>Papier zoeken</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>Aangepast, %1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>Documentgrootte gebruiken: %1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>Een aangepast formaat</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>%1 breed</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>%1 breed, %2 lang</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Aangepast formaat…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>Wachtwoord voor de printserver</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>&amp;Gebruikersnaam</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>&amp;Wachtwoord</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>%1 afdrukken</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>Af&amp;drukken</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuleren</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>De snijopties kunnen niet worden getoond. %1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>De printer heeft geen beschrijving; het papier en de sneden zijn hier daarom niet bekend.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>Wachten op de beschrijving van de printer…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>Er is geen printer gekozen.</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>Wachten op antwoord van de printserver…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>De printer kan dit niet allemaal tegelijk.</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>Toch afdrukken</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>De beschrijving van de printer is niet bekend.</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>Het PPD-bestand &quot;%1&quot; heeft geen papier &quot;%2&quot;; wel: %3</translation>
@@ -771,1121 +1885,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Opnieuw proberen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>Verzenden stoppen</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>&quot;%1&quot; wordt verzonden</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>Optie</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Waarde</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>Herkomst</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>Verzonden</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>Opties van de taak</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>Dezelfde taak op de o&amp;pdrachtregel</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Kop&amp;iëren</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>De opdracht kopiëren</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nee</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Kan niet naar de standaarduitvoer schrijven: %1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>Labelstrook</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Instelling</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Waarde</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Samenvatting</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>Typ &quot;%1&quot; om door te gaan:</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>Verbinding zonder versleuteling</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord en de verbinding is niet versleuteld.</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>Anderen op het netwerk kunnen het wachtwoord lezen.</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>Toch verzenden</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>Certificaat van de printserver</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2.</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>De SHA-256-vingerafdruk is:
-%1
-
-Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. Het wordt vanaf dan vertrouwd.</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>Vertrouwen</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>Het PPD-bestand noemt geen papier om op af te drukken</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>De printer &quot;%1&quot; heeft geen optie &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>De printer &quot;%1&quot; heeft geen papier &quot;%2&quot;.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>De optie &quot;%1&quot; van de printer &quot;%2&quot; heeft geen keuze &quot;%3&quot;; wel: %4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>De printer &quot;%1&quot; kan niet op het papier &quot;%2&quot; afdrukken: het formaat is %3 × %4 punten; breedte en lengte moeten groter zijn dan 0, de ene hoogstens %5 m en de andere hoogstens %6 m.</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>&quot;%1: %2&quot;</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>Deze printer kan %1 niet aan.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 en %2 sluiten elkaar uit.</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>zet &quot;%1&quot; op &quot;%2&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>Op verzoek afgebroken.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>De printserver &quot;%1&quot; antwoordt niet.</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>Kan geen verbinding maken met de printserver &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>De verbinding met de printserver &quot;%1&quot; is verbroken.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>De printserver &quot;%1&quot; meldt: %2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>De printserver &quot;%1&quot; levert &quot;%2&quot; niet: %3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>het bestand is groter dan %1 MB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>de verbinding werd halverwege verbroken</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;, maar er is geen opgegeven.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>De printserver &quot;%1&quot; heeft geen certificaat.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>Het certificaat van de printserver &quot;%1&quot; is niet het certificaat dat voor deze host wordt vertrouwd. Het vertrouwde heeft de SHA-256-vingerafdruk %2, dat van de server heeft %3. Mogelijk is het certificaat van de server vervangen, draait er een andere printserver op dezelfde host of onderschept iemand de verbinding. Als de beheerder van de server de vingerafdruk bevestigt, verwijder dan het bestand &quot;%4&quot; en probeer het opnieuw.</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>Het certificaat van de printserver &quot;%1&quot; met de SHA-256-vingerafdruk %2 mag niet worden vertrouwd: %3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2. De SHA-256-vingerafdruk is %3. Vergelijk die met de vingerafdruk die de beheerder van de server noemt en bevestig die wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>De gebruikersnaam of het wachtwoord is onjuist.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;. Er is er geen verzonden, omdat de verbinding niet is versleuteld en anderen het zouden kunnen lezen. Versleutel de verbinding (-E) of bevestig het wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>De printserver &quot;%1&quot; accepteert het wachtwoord van de gebruiker &quot;%2&quot; niet.</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>De beschrijving van de printer vermeldt niet of hij de etiketten afsnijdt.</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>Labels: %1 · Tape: %2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>Geen volledige snede: de labels komen als één strook.</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>Volledige snede na het laatste label.</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>Volledige snede na elk label.</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>Volledige snede na elke %1 labels.</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>wordt gemeten…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>Labels: %1 · Stukken: %2 · Tape: %3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>Er wordt niets afgedrukt.</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Speciale tape: de printer snijdt niets.</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>Halve snede tussen de labels van een stuk.</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>Gedrukte merktekens waar niet wordt doorgesneden.</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>Het einde blijft in de printer; de volgende taak gaat zonder marge verder.</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>Lege tape voor en na elk label vervalt.</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>De labels zijn gespiegeld.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>De printserver &quot;%1&quot; kan de printer &quot;%2&quot; niet bereiken.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>De printer &quot;%1&quot; is niet meer op het netwerk.</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>Kan het document &quot;%1&quot; niet lezen: %2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>het is geen bestand</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>het is leeg</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>het is tijdens het lezen korter geworden</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>het is tijdens het lezen gewijzigd</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>De taak moet opnieuw worden afgedrukt, maar wordt vastgehouden. %1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>Taak %1 is niet gewijzigd. %2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>Hij kan het document niet opslaan: de schijf is vol, of het document is groter dan hij accepteert.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 In de wachtrij &quot;%3&quot; van de printserver &quot;%4&quot; kan een taak &quot;%2&quot; zonder documenten zijn achtergebleven; daarvan wordt niets afgedrukt.</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 De printserver &quot;%2&quot; heeft alle documenten van taak %3-%4 en heeft niet gemeld of hij de taak vrijgeeft: de taak wordt afgedrukt, of ze wordt vastgehouden en niet afgedrukt. Kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 Taak %2-%3 op de printserver &quot;%4&quot; kan afgedrukt zijn; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; de taak wordt op de printserver &quot;%4&quot; vastgehouden en niet afgedrukt zolang ze niet wordt vrijgegeven.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 Taak %2-%3 kon niet worden teruggenomen; kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 Taak %2-%3: %4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>Het bestand &quot;%1&quot; over een taak die werd verzonden, is beschadigd en verwijderd; kijk in uw wachtrijen of er een taak is achtergebleven.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>standaard van de printer</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>standaard van de wachtrij</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>uw standaard (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>voorinstelling</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>snijopties</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>door u ingesteld</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>Taak &quot;%1&quot; voor &quot;%2&quot; op %3
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>Opties die worden verzonden:
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>Zoveel labels kunnen niet tegelijk worden afgedrukt: een taak heeft er hoogstens %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>Vastgehouden tot de taak wordt vrijgegeven.</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>Vastgehouden tot %1.</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>Staat in de wachtrij.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Wordt afgedrukt.</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>Gestopt; de taak gaat verder als de printer weer gereed is.</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>Geannuleerd.</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>Door de printserver afgebroken.</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>Afgedrukt.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>De server meldt: %1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>De taak is klaar; de printserver bewaart er niets van.</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>Afdrukken</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Document</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Printer</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pagina&apos;s</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>alle</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Exemplaren</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>Labelstrook</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Labels</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>Stukken</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>Tape</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>Sneden</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>Volgorde</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>laatste pagina eerst</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>Daarvan</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>de oneven pagina’s</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>de even pagina’s</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>Er is geen document om af te drukken.</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>De printserver &quot;%1&quot; heeft &quot;%2&quot; niet helemaal aangenomen.</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>Kan het document &quot;%1&quot; niet openen: %2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>dat bestand bestaat niet</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>het is geen bestand</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>het is leeg</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>het is versleuteld; verwijder eerst het wachtwoord</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>het is op een onbekende manier versleuteld</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>het heeft geen pagina&apos;s</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>pagina %1 heeft geen oppervlak</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>pagina %1 is langer dan %2 m</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>Kan het document van de standaardinvoer niet openen: %1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>het is een beschadigde afbeelding</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>het heeft %1 × %2 pixels, meer dan kan worden afgedrukt</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>het is een afbeelding waarvan het einde ontbreekt</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>Er is geen document opgegeven</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>die kan maar één keer worden gelezen</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>standaardinvoer</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 en nog %n</numerusform>
-            <numerusform>%1 en nog %n</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>het is groter dan %1</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>het is geen PDF, PNG, JPEG of SVG</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>het is een beschadigde PDF</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>het kan niet in &quot;%1&quot; worden bewaard: %2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>het is een beschadigde SVG</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>het verwijst naar &quot;%1&quot;, en alleen wat in de SVG zelf staat wordt afgedrukt</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>regel %1 van de SVG: %2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>het is een SVG met meer onderdelen dan kunnen worden getekend</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>het bevat een afbeelding die geen PNG of JPEG is</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>het bevat een beschadigde afbeelding</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>het bevat afbeeldingen met meer pixels dan kunnen worden afgedrukt</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>De printserver &quot;%1&quot; heeft geen taak &quot;%2&quot; meer in de wachtrij &quot;%3&quot;, of ze is afgelopen.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>Taak %1-%2 op de printserver &quot;%3&quot; wordt niet vastgehouden: %4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>Taak %1-%2 op de printserver &quot;%3&quot; is vrijgegeven.</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>Taak %1-%2 op de printserver &quot;%3&quot; is teruggenomen.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien taak %1 (&quot;%2&quot;) op de printserver &quot;%3&quot; achtergelaten, mogelijk zonder alle documenten.</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien een taak &quot;%1&quot; zonder documenten in de wachtrij &quot;%2&quot; van de printserver &quot;%3&quot; achtergelaten.</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>Onvoldoende geheugen; er is niets afgedrukt.</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>Onvoldoende geheugen; de taak is misschien onvolledig of op de afdrukserver achtergebleven.</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>Onvoldoende geheugen. De taak is toch verzonden.</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>Kan de bundel &quot;%1&quot; niet gebruiken: %2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>de bibliotheek bevat geen panelen</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>die is gemaakt voor versie %1 van de interface; dit programma heeft versie %2</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>ontbreekt of is onleesbaar: %1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>het is geen map</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>die map bestaat niet</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>Kan de paneelbundel niet vinden; gezocht: %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>de bibliotheek %1 ontbreekt</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>die werkt niet op dit systeem</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>De bundel &quot;%1&quot; kon zijn paneel niet maken</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Het paneel van de bundel &quot;%1&quot; kan niet worden getoond: het opmaakbestand is onbruikbaar</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>Kan het PPD-bestand &quot;%1&quot; niet openen: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>regel %1: %2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>het is groter dan %1 MB, meer dan enige printerbeschrijving</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>het is beschadigd of onvolledig: het kan niet tot het einde worden uitgepakt</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>het is geen bestand</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>het is leeg</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>het bevat %1 instructies; het maximum is %2</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>het bevat %1 instructies &quot;%2&quot;; het maximum is %3</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>het eindigt midden in een waarde; het bestand is onvolledig</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>Algemeen</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>Printerbesturing</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>De pagina&apos;s &quot;%1&quot; zijn onbegrijpelijk: schrijf getallen en bereiken zoals 1-3, 5</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>Kan de pagina&apos;s &quot;%1&quot; niet afdrukken: de laatste pagina van het document is %2</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>Er zou niets worden afgedrukt: er is geen pagina van het document gekozen</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>‘%1’ kan met dit papier en de andere snijopties niet ‘%2’ zijn en wordt afgedrukt als ‘%3’.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>De printer &quot;%1&quot; heeft geen papier &quot;%2&quot;, dat uw standaard is (lpoptions).</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>De printserver &quot;%1&quot; heeft geen wachtrij of klasse &quot;%2&quot;.</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>De printer wacht op labels of tape.</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>Labels of tape zijn vastgelopen.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>De labelrol of tape is bijna op.</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>De labelrol of tape is op.</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>De printer wordt zo gepauzeerd.</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>De wachtrij is gepauzeerd; taken wachten.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>De printer is uitgeschakeld.</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>Verbinding met de printer wordt gemaakt.</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>De printer reageert niet.</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>De printer stopt.</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>Enkele printers van de klasse zijn gestopt.</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>De toner is bijna op.</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>De toner is op.</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>De printserver heeft geen ruimte meer.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>De klep van de printer staat open.</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>Een vergrendeling van de printer staat open.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>De deur van de printer staat open.</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>De cassette of rolhouder ontbreekt.</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>De uitvoerlade ontbreekt.</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>De uitvoerlade is bijna vol.</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>De uitvoerlade is vol.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>De inkt of het lint is bijna op.</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>De inkt of het lint is op.</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>De afvalbak is bijna vol.</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>De afvalbak is vol.</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>De printer is te heet.</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>De printer warmt op.</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>De printer is offline.</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>Nieuwe taken worden vastgehouden.</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>De printer is door de beheerder uitgeschakeld.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>Een deel van het printerstuurprogramma ontbreekt.</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>Een deel van het printerstuurprogramma is niet veilig geïnstalleerd.</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>Wachten tot de printer de taak heeft voltooid.</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>De printer houdt zich niet aan zijn protocol.</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>Gereed.</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>Bezig met afdrukken.</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>Op het netwerk gevonden.</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>Toestand onbekend.</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>De wachtrij accepteert geen taken.</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>De server meldt: %1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>volgende taak</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1 op %2, %3</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>het is geen map</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>de map kan niet worden gemaakt: %1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>Kan &quot;%1&quot; niet schrijven: %2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>het is een map</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>het is een symbolische koppeling</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>het is een socket</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>het is een blokapparaat</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>niemand leest eruit</translation>
     </message>
 </context>
 </TS>

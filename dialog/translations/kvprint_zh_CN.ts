@@ -2,7 +2,345 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>dialog::ChoiceControl</name>
+    <name>dialog::job::DestinationChooser</name>
+    <message>
+        <source>Class of printers: %1</source>
+        <translation>打印机类：%1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter</source>
+        <translation>打印机(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>There is no such printer.</source>
+        <translation>没有此打印机。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>正在等待打印服务器响应…</translation>
+    </message>
+    <message>
+        <source>Last time: %1</source>
+        <translation>上次状态：%1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Last time: %1</source>
+        <translation>打印服务器没有响应。上次状态：%1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer.</source>
+        <translation>打印服务器没有响应。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password.</source>
+        <translation>打印服务器要求密码。</translation>
+    </message>
+    <message>
+        <source>The print server wants a password. Last time: %1</source>
+        <translation>打印服务器要求密码。上次状态：%1</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted.</source>
+        <translation>打印服务器不受信任。</translation>
+    </message>
+    <message>
+        <source>The print server is not trusted. Last time: %1</source>
+        <translation>打印服务器不受信任。上次：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobPage</name>
+    <message>
+        <source>Time to print at</source>
+        <translation>打印时刻</translation>
+    </message>
+    <message>
+        <source>As the queue is set</source>
+        <translation>按队列设置</translation>
+    </message>
+    <message>
+        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
+        <translation>1 到 100；优先级较高的作业先打印</translation>
+    </message>
+    <message>
+        <source>Job &amp;name</source>
+        <translation>作业名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Orienta&amp;tion</source>
+        <translation>方向(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int it</source>
+        <translation>打印时间(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Priorit&amp;y</source>
+        <translation>优先级(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>按打印机设置</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>反向横向</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>反向纵向</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>立即</translation>
+    </message>
+    <message>
+        <source>When I release it</source>
+        <translation>手动释放时</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>指定时刻</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>傍晚</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第二班</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第三班</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>周末</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::JobWindow</name>
+    <message>
+        <source>The job is sent.</source>
+        <translation>作业已发送。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>作业 %1：%2</translation>
+    </message>
+    <message>
+        <source>Cancel the &amp;job</source>
+        <translation>取消作业(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::LeftJobBanner</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>忽略</translation>
+    </message>
+    <message>
+        <source>Cancel the job</source>
+        <translation>撤回作业</translation>
+    </message>
+    <message>
+        <source>Print what is there</source>
+        <translation>打印已有内容</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PageOptions</name>
+    <message>
+        <source>Set &amp;by set</source>
+        <translation>逐份打印(&amp;B)</translation>
+    </message>
+    <message>
+        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
+        <translation>先打印全部页面一遍，再重复；否则同一页的所有副本连续打印</translation>
+    </message>
+    <message>
+        <source>all, or for example 1-3, 5</source>
+        <translation>全部，或例如 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>份数(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges</source>
+        <translation>页面(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>从最后一页开始</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::PasswordDialog</name>
+    <message>
+        <source>Password for the print server</source>
+        <translation>打印服务器密码</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>用户名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>密码(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::ProblemBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SendBar</name>
+    <message>
+        <source>Stop sending</source>
+        <translation>停止发送</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>正在发送“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SentPage</name>
+    <message>
+        <source>Option</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>Options of the job</source>
+        <translation>作业选项</translation>
+    </message>
+    <message>
+        <source>&amp;The same job on the command line</source>
+        <translation>命令行中的同一作业(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>复制(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>复制命令</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::TrustWords</name>
+    <message>
+        <source>Connection without encryption</source>
+        <translation>未加密的连接</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <translation>打印服务器“%1”需要密码，而与它的连接未加密。</translation>
+    </message>
+    <message>
+        <source>Others on the network can read the password.</source>
+        <translation>网络上的其他人可以读取该密码。</translation>
+    </message>
+    <message>
+        <source>Send anyway</source>
+        <translation>仍然发送</translation>
+    </message>
+    <message>
+        <source>Certificate of the print server</source>
+        <translation>打印服务器的证书</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
+        <translation>打印服务器“%1”的证书不受信任：%2。</translation>
+    </message>
+    <message>
+        <source>Its SHA-256 fingerprint is:
+%1
+
+Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+        <translation>其 SHA-256 指纹为：
+%1
+
+仅当服务器管理员给出相同的指纹时才信任它。此后它将一直受信任。</translation>
+    </message>
+    <message>
+        <source>Trust</source>
+        <translation>信任</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::VirtualSender</name>
+    <message>
+        <source>The PPD file names no paper to print on</source>
+        <translation>PPD 文件未列出任何纸张</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::ChoiceControl</name>
     <message>
         <source>not set</source>
         <translation>未设置</translation>
@@ -18,14 +356,1215 @@
     </message>
 </context>
 <context>
-    <name>dialog::ChoicesColumn</name>
+    <name>dialog::options::ConflictQuestion</name>
+    <message>
+        <source>The printer cannot do all of these together.</source>
+        <translation>打印机无法同时执行这些设置。</translation>
+    </message>
+    <message>
+        <source>Print anyway</source>
+        <translation>仍然打印</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::FreeChoiceFields</name>
+    <message numerus="yes">
+        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <translation>
+            <numerusform>“%1”至少需要 %n 个字符。在此之前，设置保持原样。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::options::OptionsPage</name>
+    <message>
+        <source>Groups of options</source>
+        <translation>选项组</translation>
+    </message>
+    <message>
+        <source>This printer has no other options.</source>
+        <translation>此打印机没有其他选项。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::CustomPaperFields</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest length</comment>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>纸张宽度</translation>
+    </message>
+    <message>
+        <source>Paper length</source>
+        <translation>纸张长度</translation>
+    </message>
+    <message>
+        <source>Wi&amp;dth</source>
+        <translation>宽度(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>长度(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperChooser</name>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>纸张(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Search papers</source>
+        <translation>搜索纸张</translation>
+    </message>
+    <message>
+        <source>Custom, %1</source>
+        <comment>a size</comment>
+        <translation>自定义，%1</translation>
+    </message>
+    <message>
+        <source>Use the document&apos;s size: %1</source>
+        <translation>使用文档尺寸：%1</translation>
+    </message>
+    <message>
+        <source>A custom size</source>
+        <translation>自定义尺寸</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperGroups</name>
+    <message>
+        <source>%1 wide</source>
+        <comment>papers of that width</comment>
+        <translation>宽 %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::paper::PaperList</name>
+    <message>
+        <source>%1 wide, %2 long</source>
+        <translation>宽 %1，长 %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a paper&apos;s text and its name</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>自定义尺寸…</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::widgets::LengthUnit</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number and its unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <comment>millimetres</comment>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, length and their unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::ChoicesColumn</name>
     <message>
         <source>Printer: %1</source>
         <translation>打印机：%1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CommandLine</name>
+    <name>dialog::window::DialogPages</name>
+    <message>
+        <source>Options, preview and summary</source>
+        <translation>选项、预览和摘要</translation>
+    </message>
+    <message>
+        <source>Page pre&amp;view</source>
+        <translation>页面预览(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>摘要(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>作业(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;What will be sent</source>
+        <translation>发送内容(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>选项(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PagePreview</name>
+    <message>
+        <source>The page is larger than the label and is shrunk to fit.</source>
+        <translation>页面大于标签，将缩小以适合。</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>打印 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The cut options cannot be shown. %1</source>
+        <translation>无法显示裁切选项。%1</translation>
+    </message>
+    <message>
+        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <translation>打印机没有描述文件，因此其纸张和裁切方式未知。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer&apos;s description…</source>
+        <translation>正在等待打印机描述文件…</translation>
+    </message>
+    <message>
+        <source>No printer is chosen.</source>
+        <translation>未选择打印机。</translation>
+    </message>
+    <message>
+        <source>Waiting for the print server&apos;s answer…</source>
+        <translation>正在等待打印服务器响应…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description is not known.</source>
+        <translation>打印机的描述文件未知。</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::window::StripPreview</name>
+    <message>
+        <source>Label strip</source>
+        <translation>标签带</translation>
+    </message>
+</context>
+<context>
+    <name>host::base::OutOfMemory</name>
+    <message>
+        <source>Out of memory; nothing was printed.</source>
+        <translation>内存不足；未打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
+        <translation>内存不足；作业可能不完整，或遗留在打印服务器上。</translation>
+    </message>
+    <message>
+        <source>Out of memory. The job was sent all the same.</source>
+        <translation>内存不足。作业仍已发送。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::ChoiceCheck</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
+        <translation>打印机“%1”没有选项“%2”。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
+        <translation>打印机“%1”没有纸张“%2”。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
+        <translation>打印机“%2”的选项“%1”没有选择项“%3”；可用：%4</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <translation>打印机“%1”无法在纸张“%2”上打印：其尺寸为 %3 × %4 点；宽度和长度必须大于 0，其中一边不超过 %5 米，另一边不超过 %6 米。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::DocumentSource</name>
+    <message>
+        <source>Cannot read the document &quot;%1&quot;: %2</source>
+        <translation>无法读取文档“%1”：%2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>it has become shorter while it was read</source>
+        <translation>读取过程中变短了</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>文件打开后已更改；请重新打开</translation>
+    </message>
+    <message>
+        <source>it has changed while it was read</source>
+        <translation>读取过程中发生了更改</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobChange</name>
+    <message>
+        <source>It is to be printed anew, but held. %1</source>
+        <translation>作业将重新打印，但已被保留。%1</translation>
+    </message>
+    <message>
+        <source>Job %1 was not changed. %2</source>
+        <translation>作业 %1 未更改。%2</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobFate</name>
+    <message>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <translation>%1 打印服务器“%4”的队列“%3”中可能留有一个没有文档的作业“%2”；它不会打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <translation>%1 打印服务器“%2”已有作业 %3-%4 的全部文档，但没有说明是否释放它：该作业会打印，或者被保留而不打印。再次打印前请查看队列。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
+        <translation>%1 打印服务器“%4”上的作业 %2-%3 可能已经打印；再次打印前请查看队列。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
+        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
+        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列。</translation>
+    </message>
+    <message>
+        <source>%1 Job %2-%3: %4</source>
+        <translation>%1 作业 %2-%3：%4</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobJournal</name>
+    <message>
+        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <translation>正在发送的作业的记录“%1”已损坏并被删除；请查看您使用的队列中是否留有作业。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobOptions</name>
+    <message>
+        <source>printer default</source>
+        <translation>打印机默认值</translation>
+    </message>
+    <message>
+        <source>queue default</source>
+        <translation>队列默认值</translation>
+    </message>
+    <message>
+        <source>your default (lpoptions)</source>
+        <translation>您的默认值 (lpoptions)</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>cut options</source>
+        <translation>裁切选项</translation>
+    </message>
+    <message>
+        <source>set by you</source>
+        <translation>由您设置</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobSettings</name>
+    <message>
+        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <translation>无法一次打印这么多标签：每个作业最多 %1 张</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobStatus</name>
+    <message>
+        <source>Held until it is released.</source>
+        <translation>已保留，等待释放。</translation>
+    </message>
+    <message>
+        <source>Held until %1.</source>
+        <translation>保留至：%1。</translation>
+    </message>
+    <message>
+        <source>Waiting for its turn.</source>
+        <translation>正在排队等待。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>正在打印。</translation>
+    </message>
+    <message>
+        <source>Stopped; it goes on when the printer is ready again.</source>
+        <translation>已停止；打印机再次就绪后继续。</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>Aborted by the print server.</source>
+        <translation>已被打印服务器中止。</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>已打印。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>服务器返回：%1</translation>
+    </message>
+    <message>
+        <source>The job is over; the print server keeps no record of it.</source>
+        <translation>作业已结束；打印服务器不保留其记录。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::JobUpload</name>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>没有要打印的文档。</translation>
+    </message>
+    <message>
+        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”没有接收完整的“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LeftJob</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <translation>打印服务器“%1”的队列“%3”中已没有作业“%2”，或者它已结束。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
+        <translation>打印服务器“%3”上的作业 %1-%2 未被保留：%4</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
+        <translation>打印服务器“%3”上的作业 %1-%2 已释放。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
+        <translation>打印服务器“%3”上的作业 %1-%2 已撤回。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <translation>一个在打印时被中止的程序可能在打印服务器“%3”上留下了作业 %1（“%2”），也许缺少部分文档。</translation>
+    </message>
+    <message>
+        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <translation>一个在打印时被中止的程序可能在打印服务器“%3”的队列“%2”中留下了没有文档的作业“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::jobs::LpCommand</name>
+    <message>
+        <source>lp cannot say these options as they are sent: %1</source>
+        <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::DiscoveredQueue</name>
+    <message>
+        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”无法连接到打印机“%2”。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <translation>打印机“%1”已不在网络上。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueSession</name>
+    <message>
+        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”没有队列或打印机类“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::queues::QueueWords</name>
+    <message>
+        <source>The printer waits for labels or tape.</source>
+        <translation>打印机正在等待标签或标签带。</translation>
+    </message>
+    <message>
+        <source>Labels or tape are jammed.</source>
+        <translation>标签或标签带卡住。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is nearly empty.</source>
+        <translation>标签卷或标签带即将用完。</translation>
+    </message>
+    <message>
+        <source>The label roll or tape is empty.</source>
+        <translation>标签卷或标签带已用完。</translation>
+    </message>
+    <message>
+        <source>The printer is about to pause.</source>
+        <translation>打印机即将暂停。</translation>
+    </message>
+    <message>
+        <source>The queue is paused; jobs wait.</source>
+        <translation>队列已暂停；作业等待中。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off.</source>
+        <translation>打印机已关闭。</translation>
+    </message>
+    <message>
+        <source>Connecting to the printer.</source>
+        <translation>正在连接打印机。</translation>
+    </message>
+    <message>
+        <source>The printer does not respond.</source>
+        <translation>打印机没有响应。</translation>
+    </message>
+    <message>
+        <source>The printer is stopping.</source>
+        <translation>打印机正在停止。</translation>
+    </message>
+    <message>
+        <source>Some printers of the class are stopped.</source>
+        <translation>打印机类中的部分打印机已停止。</translation>
+    </message>
+    <message>
+        <source>The toner is nearly used up.</source>
+        <translation>墨粉即将用完。</translation>
+    </message>
+    <message>
+        <source>The toner is used up.</source>
+        <translation>墨粉已用完。</translation>
+    </message>
+    <message>
+        <source>The print server has no space left.</source>
+        <translation>打印服务器空间不足。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s cover is open.</source>
+        <translation>打印机盖已打开。</translation>
+    </message>
+    <message>
+        <source>A lock of the printer is open.</source>
+        <translation>打印机的锁扣未锁好。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s door is open.</source>
+        <translation>打印机门已打开。</translation>
+    </message>
+    <message>
+        <source>The cassette or roll holder is missing.</source>
+        <translation>缺少标签带盒或卷筒架。</translation>
+    </message>
+    <message>
+        <source>The output tray is missing.</source>
+        <translation>缺少出纸盒。</translation>
+    </message>
+    <message>
+        <source>The output tray is nearly full.</source>
+        <translation>出纸盒即将装满。</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>出纸盒已满。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is nearly used up.</source>
+        <translation>墨水或色带即将用完。</translation>
+    </message>
+    <message>
+        <source>Ink or ribbon is used up.</source>
+        <translation>墨水或色带已用完。</translation>
+    </message>
+    <message>
+        <source>The waste box is nearly full.</source>
+        <translation>废料盒即将装满。</translation>
+    </message>
+    <message>
+        <source>The waste box is full.</source>
+        <translation>废料盒已满。</translation>
+    </message>
+    <message>
+        <source>The printer is too hot.</source>
+        <translation>打印机过热。</translation>
+    </message>
+    <message>
+        <source>The printer is warming up.</source>
+        <translation>打印机正在预热。</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>打印机已脱机。</translation>
+    </message>
+    <message>
+        <source>New jobs are held.</source>
+        <translation>新作业将被保留。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off by its administrator.</source>
+        <translation>打印机已被管理员停用。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is missing.</source>
+        <translation>打印机驱动程序缺少组件。</translation>
+    </message>
+    <message>
+        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <translation>打印机驱动程序的某个组件安装不安全。</translation>
+    </message>
+    <message>
+        <source>Waiting for the printer to finish the job.</source>
+        <translation>正在等待打印机完成作业。</translation>
+    </message>
+    <message>
+        <source>The printer does not follow its protocol.</source>
+        <translation>打印机未遵循其协议。</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>就绪。</translation>
+    </message>
+    <message>
+        <source>Printing.</source>
+        <translation>正在打印。</translation>
+    </message>
+    <message>
+        <source>Found on the network.</source>
+        <translation>在网络上找到。</translation>
+    </message>
+    <message>
+        <source>State unknown.</source>
+        <translation>状态未知。</translation>
+    </message>
+    <message>
+        <source>The queue accepts no jobs.</source>
+        <translation>队列不接受作业。</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>服务器返回：%1</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::CupsConnection</name>
+    <message>
+        <source>Canceled on request.</source>
+        <translation>已按要求中止。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not answer.</source>
+        <translation>打印服务器“%1”没有响应。</translation>
+    </message>
+    <message>
+        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
+        <translation>无法连接到打印服务器“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <translation>与打印服务器“%1”的连接已中断。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; says: %2</source>
+        <translation>打印服务器“%1”返回：%2</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <translation>打印服务器“%1”未提供“%2”：%3</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>大于 %1 MB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle</source>
+        <translation>连接中途断开</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <translation>打印服务器“%1”要求用户“%2”的密码，但未提供。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; has no certificate.</source>
+        <translation>打印服务器“%1”没有证书。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
+        <translation>打印服务器“%1”的证书不是此主机受信任的证书。受信任证书的 SHA-256 指纹是 %2，服务器证书的指纹是 %3。服务器的证书可能已被更换，同一主机上可能运行着另一台打印服务器，或者可能有人正在拦截连接。如果服务器管理员确认该指纹，请删除文件“%4”并重试。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <translation>不允许信任打印服务器“%1”的证书（SHA-256 指纹 %2）：%3</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <translation>打印服务器“%1”的证书不受信任：%2。其 SHA-256 指纹为 %3。请将其与服务器管理员给出的指纹比较，并在窗口或终端中询问时确认。</translation>
+    </message>
+    <message>
+        <source>The user name or the password is wrong.</source>
+        <translation>用户名或密码错误。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <translation>打印服务器“%1”需要用户“%2”的密码。由于连接未加密，其他人可能读取密码，因此未发送。请加密连接 (-E)，或在窗口或终端中询问时确认。</translation>
+    </message>
+    <message>
+        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
+        <translation>打印服务器“%1”不接受用户“%2”的密码。</translation>
+    </message>
+</context>
+<context>
+    <name>host::cups::server::FailureReason</name>
+    <message>
+        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
+        <translation>它无法存储文档：磁盘已满，或者文档超过了它接受的大小。</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::LabelDocument</name>
+    <message>
+        <source>Cannot open the document &quot;%1&quot;: %2</source>
+        <translation>无法打开文档“%1”：%2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>it is encrypted; remove its password first</source>
+        <translation>已加密；请先移除密码</translation>
+    </message>
+    <message>
+        <source>it is encrypted in a way that is not known here</source>
+        <translation>以未知方式加密</translation>
+    </message>
+    <message>
+        <source>it has no pages</source>
+        <translation>没有页面</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>第 %1 页没有面积</translation>
+    </message>
+    <message>
+        <source>page %1 is longer than %2 m</source>
+        <translation>第 %1 页长于 %2 米</translation>
+    </message>
+    <message>
+        <source>Cannot open the document on standard input: %1</source>
+        <translation>无法打开标准输入中的文档：%1</translation>
+    </message>
+    <message>
+        <source>it is a damaged image</source>
+        <translation>图像已损坏</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels, more than can be printed</source>
+        <translation>有 %1 × %2 像素，超过可打印的范围</translation>
+    </message>
+    <message>
+        <source>it is an image whose end is missing</source>
+        <translation>图像末尾缺失</translation>
+    </message>
+    <message>
+        <source>No document is named</source>
+        <translation>未指定文档</translation>
+    </message>
+    <message>
+        <source>it can be read only once</source>
+        <translation>只能读取一次</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it is longer than %1</source>
+        <translation>超过 %1</translation>
+    </message>
+    <message>
+        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <translation>不是 PDF、PNG、JPEG 或 SVG</translation>
+    </message>
+    <message>
+        <source>the file has changed since it was opened; open it again</source>
+        <translation>文件打开后已更改；请重新打开</translation>
+    </message>
+    <message>
+        <source>it is a damaged PDF</source>
+        <translation>PDF 已损坏</translation>
+    </message>
+    <message>
+        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <translation>无法保存到“%1”：%2</translation>
+    </message>
+    <message>
+        <source>it is a damaged SVG</source>
+        <translation>SVG 已损坏</translation>
+    </message>
+    <message>
+        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <translation>引用了“%1”，而只打印 SVG 自身包含的内容</translation>
+    </message>
+    <message>
+        <source>line %1 of the SVG: %2</source>
+        <translation>SVG 第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>it is an SVG of more parts than can be drawn</source>
+        <translation>SVG 的组成部分过多，无法绘制</translation>
+    </message>
+    <message>
+        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <translation>其中的图片既不是 PNG 也不是 JPEG</translation>
+    </message>
+    <message>
+        <source>it has a damaged picture in it</source>
+        <translation>其中的图片已损坏</translation>
+    </message>
+    <message>
+        <source>it has pictures of more pixels in it than can be printed</source>
+        <translation>其中的图片像素过多，无法打印</translation>
+    </message>
+</context>
+<context>
+    <name>host::documents::PrintOrder</name>
+    <message>
+        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <translation>无法理解页面“%1”：请输入数字和范围，例如 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
+        <translation>无法打印页面“%1”：文档最后一页是 %2</translation>
+    </message>
+    <message>
+        <source>Nothing would be printed: no page of the document is chosen</source>
+        <translation>不会打印任何内容：未选择文档中的任何页面</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelBundle</name>
+    <message>
+        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
+        <translation>无法使用插件包“%1”：%2</translation>
+    </message>
+    <message>
+        <source>its library is no library of panels</source>
+        <translation>其库不是面板库</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
+        <translation>适用于接口版本 %1，而本程序为版本 %2</translation>
+    </message>
+    <message>
+        <source>missing or unreadable: %1</source>
+        <translation>缺失或无法读取：%1</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>不是文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有此文件夹</translation>
+    </message>
+    <message>
+        <source>Cannot find the panel bundle; looked for %1</source>
+        <translation>找不到面板插件包；已查找 %1</translation>
+    </message>
+    <message>
+        <source>it has no library %1</source>
+        <translation>缺少库 %1</translation>
+    </message>
+    <message>
+        <source>it does not work on this system</source>
+        <translation>无法在此系统上运行</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::PanelSession</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>“%1”无法保存设置：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <translation>“%1”不允许用这些设置打印作业。</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::Constraints</name>
+    <message>
+        <source>&quot;%1: %2&quot;</source>
+        <translation>“%1：%2”</translation>
+    </message>
+    <message>
+        <source>This printer cannot do %1.</source>
+        <translation>此打印机不支持%1。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 与 %2 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>将“%1”设为“%2”</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdFile</name>
+    <message>
+        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
+        <translation>无法打开 PPD 文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <translation>大于 %1 MB，超过任何打印机描述文件</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <translation>已损坏或不完整：无法完整解压</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>it has %1 statements; the maximum is %2</source>
+        <translation>它有 %1 条语句；最多允许 %2 条</translation>
+    </message>
+    <message>
+        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
+        <translation>它有 %1 条“%2”语句；最多允许 %3 条</translation>
+    </message>
+    <message>
+        <source>it ends in the middle of a value; the file is incomplete</source>
+        <translation>在值的中间结束；文件不完整</translation>
+    </message>
+</context>
+<context>
+    <name>host::printer::PpdOptions</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Printer control</source>
+        <translation>打印机控制</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobReport</name>
+    <message>
+        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
+</source>
+        <translation>作业“%1”，目标“%2”，服务器 %3
+</translation>
+    </message>
+    <message>
+        <source>Options that are sent:
+</source>
+        <translation>发送的选项：
+</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::JobSummary</name>
+    <message>
+        <source>Printing</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Label strip</source>
+        <translation>标签带</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>段数</translation>
+    </message>
+    <message>
+        <source>Tape</source>
+        <translation>标签带用量</translation>
+    </message>
+    <message>
+        <source>Cuts</source>
+        <translation>裁切</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>顺序</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>从最后一页开始</translation>
+    </message>
+    <message>
+        <source>Of these</source>
+        <translation>其中</translation>
+    </message>
+    <message>
+        <source>the odd pages</source>
+        <translation>奇数页</translation>
+    </message>
+    <message>
+        <source>the even pages</source>
+        <translation>偶数页</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PanelSource</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <translation>插件包“%1”无法创建面板</translation>
+    </message>
+    <message>
+        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
+        <translation>无法显示插件包“%1”的面板：布局文件不可用</translation>
+    </message>
+</context>
+<context>
+    <name>host::setup::PrinterSetup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <translation>在此纸张和其他裁切选项下，“%1”不能为“%2”，将按“%3”打印。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
+        <translation>打印机“%1”没有纸张“%2”，而它是您的默认值 (lpoptions)。</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::CutPlan</name>
+    <message>
+        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>打印机的描述未说明是否裁切标签。</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Tape: %2</source>
+        <translation>标签：%1 · 用量：%2</translation>
+    </message>
+    <message>
+        <source>No full cut: the labels come out as one strip.</source>
+        <translation>无全切：标签以一整条输出。</translation>
+    </message>
+    <message>
+        <source>Full cut after the last label.</source>
+        <translation>在最后一张标签后全切。</translation>
+    </message>
+    <message>
+        <source>Full cut after every label.</source>
+        <translation>每张标签后全切。</translation>
+    </message>
+    <message>
+        <source>Full cut after every %1 labels.</source>
+        <translation>每 %1 张标签后全切。</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <comment>a length</comment>
+        <translation>%1 毫米</translation>
+    </message>
+    <message>
+        <source>measuring…</source>
+        <comment>a length</comment>
+        <translation>正在测量…</translation>
+    </message>
+    <message>
+        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
+        <translation>标签：%1 · 段数：%2 · 用量：%3</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>不打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Special tape: the printer cuts nothing.</source>
+        <translation>特殊标签带：打印机不裁切。</translation>
+    </message>
+    <message>
+        <source>Half cut between the labels of a piece.</source>
+        <translation>同一段内的标签之间半切。</translation>
+    </message>
+    <message>
+        <source>Printed marks where nothing is cut through.</source>
+        <translation>未切断处打印裁切标记。</translation>
+    </message>
+    <message>
+        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <translation>末端留在打印机中；下一作业无边距接续。</translation>
+    </message>
+    <message>
+        <source>Blank tape before and after each label is left out.</source>
+        <translation>省去每张标签前后的空白。</translation>
+    </message>
+    <message>
+        <source>The labels are mirrored.</source>
+        <translation>标签镜像打印。</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPainter</name>
+    <message>
+        <source>next job</source>
+        <translation>下一作业</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::StripPdf</name>
+    <message>
+        <source>%1 on %2, %3</source>
+        <translation>%1，%2，%3</translation>
+    </message>
+</context>
+<context>
+    <name>host::strip::VirtualPrinter</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>不是文件夹</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>无法创建文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::files::OutputFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>它是文件夹</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>它是符号链接</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>它是套接字</translation>
+    </message>
+    <message>
+        <source>it is a block device</source>
+        <translation>它是块设备</translation>
+    </message>
+    <message>
+        <source>no program reads from it</source>
+        <translation>没有程序在读取</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::CommandLine</name>
     <message>
         <source>Try &quot;kvprint --help&quot;.</source>
         <translation>请尝试“kvprint --help”。</translation>
@@ -272,89 +1811,14 @@
     </message>
 </context>
 <context>
-    <name>dialog::Console</name>
+    <name>programs::kvprint::Console</name>
     <message>
         <source>The job was sent all the same, as %1-%2.</source>
         <translation>作业仍已发送，编号为 %1-%2。</translation>
     </message>
 </context>
 <context>
-    <name>dialog::CustomPaperFields</name>
-    <message>
-        <source>%1 to %2</source>
-        <comment>the smallest and the largest length</comment>
-        <translation>%1 至 %2</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>纸张宽度</translation>
-    </message>
-    <message>
-        <source>Paper length</source>
-        <translation>纸张长度</translation>
-    </message>
-    <message>
-        <source>Wi&amp;dth</source>
-        <translation>宽度(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Length</source>
-        <translation>长度(&amp;L)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationChooser</name>
-    <message>
-        <source>Class of printers: %1</source>
-        <translation>打印机类：%1</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter</source>
-        <translation>打印机(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>打印机</translation>
-    </message>
-    <message>
-        <source>There is no such printer.</source>
-        <translation>没有此打印机。</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>正在等待打印服务器响应…</translation>
-    </message>
-    <message>
-        <source>Last time: %1</source>
-        <translation>上次状态：%1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Last time: %1</source>
-        <translation>打印服务器没有响应。上次状态：%1</translation>
-    </message>
-    <message>
-        <source>The print server does not answer.</source>
-        <translation>打印服务器没有响应。</translation>
-    </message>
-    <message>
-        <source>The print server wants a password.</source>
-        <translation>打印服务器要求密码。</translation>
-    </message>
-    <message>
-        <source>The print server wants a password. Last time: %1</source>
-        <translation>打印服务器要求密码。上次状态：%1</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted.</source>
-        <translation>打印服务器不受信任。</translation>
-    </message>
-    <message>
-        <source>The print server is not trusted. Last time: %1</source>
-        <translation>打印服务器不受信任。上次：%1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::DestinationReport</name>
+    <name>programs::kvprint::DestinationReport</name>
     <message>
         <source>(default)</source>
         <translation>(默认)</translation>
@@ -365,43 +1829,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::DialogPages</name>
-    <message>
-        <source>Options, preview and summary</source>
-        <translation>选项、预览和摘要</translation>
-    </message>
-    <message>
-        <source>Page pre&amp;view</source>
-        <translation>页面预览(&amp;V)</translation>
-    </message>
-    <message>
-        <source>&amp;Summary</source>
-        <translation>摘要(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Job</source>
-        <translation>作业(&amp;J)</translation>
-    </message>
-    <message>
-        <source>&amp;What will be sent</source>
-        <translation>发送内容(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>选项(&amp;O)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::FreeChoiceFields</name>
-    <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
-        <translation>
-            <numerusform>“%1”至少需要 %n 个字符。在此之前，设置保持原样。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>dialog::HeadlessRun</name>
+    <name>programs::kvprint::HeadlessRun</name>
     <message>
         <source>The print server &quot;%1&quot; has no destination to print on</source>
         <translation>打印服务器“%1”没有可用的打印目标</translation>
@@ -420,128 +1848,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::JobPage</name>
-    <message>
-        <source>Time to print at</source>
-        <translation>打印时刻</translation>
-    </message>
-    <message>
-        <source>As the queue is set</source>
-        <translation>按队列设置</translation>
-    </message>
-    <message>
-        <source>From 1 to 100; jobs with a higher priority are printed before others</source>
-        <translation>1 到 100；优先级较高的作业先打印</translation>
-    </message>
-    <message>
-        <source>Job &amp;name</source>
-        <translation>作业名称(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Orienta&amp;tion</source>
-        <translation>方向(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Pr&amp;int it</source>
-        <translation>打印时间(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Priorit&amp;y</source>
-        <translation>优先级(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>As the printer is set</source>
-        <translation>按打印机设置</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>纵向</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横向</translation>
-    </message>
-    <message>
-        <source>Reverse landscape</source>
-        <translation>反向横向</translation>
-    </message>
-    <message>
-        <source>Reverse portrait</source>
-        <translation>反向纵向</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>立即</translation>
-    </message>
-    <message>
-        <source>When I release it</source>
-        <translation>手动释放时</translation>
-    </message>
-    <message>
-        <source>At a time</source>
-        <translation>指定时刻</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>白天</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>傍晚</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>夜间</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>第二班</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>第三班</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>周末</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::JobWindow</name>
-    <message>
-        <source>The job is sent.</source>
-        <translation>作业已发送。</translation>
-    </message>
-    <message>
-        <source>%1 on %2</source>
-        <translation>%1，%2</translation>
-    </message>
-    <message>
-        <source>Job %1: %2</source>
-        <translation>作业 %1：%2</translation>
-    </message>
-    <message>
-        <source>Cancel the &amp;job</source>
-        <translation>取消作业(&amp;J)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobBanner</name>
-    <message>
-        <source>Dismiss</source>
-        <translation>忽略</translation>
-    </message>
-    <message>
-        <source>Cancel the job</source>
-        <translation>撤回作业</translation>
-    </message>
-    <message>
-        <source>Print what is there</source>
-        <translation>打印已有内容</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::LeftJobsRun</name>
+    <name>programs::kvprint::LeftJobsRun</name>
     <message>
         <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
         <translation>“kvprint --cancel-left %1”撤回它，“kvprint --release-left %1”打印服务器上已有的内容。</translation>
@@ -560,201 +1867,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::LengthUnit</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>a number and its unit</comment>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <comment>inches</comment>
-        <translation>英寸</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <comment>millimetres</comment>
-        <translation>毫米</translation>
-    </message>
-    <message>
-        <source>%1 × %2 %3</source>
-        <comment>width, length and their unit</comment>
-        <translation>%1 × %2 %3</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::OptionsPage</name>
-    <message>
-        <source>Groups of options</source>
-        <translation>选项组</translation>
-    </message>
-    <message>
-        <source>This printer has no other options.</source>
-        <translation>此打印机没有其他选项。</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PageOptions</name>
-    <message>
-        <source>Set &amp;by set</source>
-        <translation>逐份打印(&amp;B)</translation>
-    </message>
-    <message>
-        <source>All pages once, then all pages again; otherwise all copies of a page together</source>
-        <translation>先打印全部页面一遍，再重复；否则同一页的所有副本连续打印</translation>
-    </message>
-    <message>
-        <source>all, or for example 1-3, 5</source>
-        <translation>全部，或例如 1-3, 5</translation>
-    </message>
-    <message>
-        <source>&amp;Copies</source>
-        <translation>份数(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Pa&amp;ges</source>
-        <translation>页面(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Last page first</source>
-        <translation>从最后一页开始</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PagePreview</name>
-    <message>
-        <source>The page is larger than the label and is shrunk to fit.</source>
-        <translation>页面大于标签，将缩小以适合。</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>上一页</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>下一页</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>第 %1 页，共 %2 页</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperChooser</name>
-    <message>
-        <source>P&amp;aper</source>
-        <translation>纸张(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>纸张</translation>
-    </message>
-    <message>
-        <source>Search papers</source>
-        <translation>搜索纸张</translation>
-    </message>
-    <message>
-        <source>Custom, %1</source>
-        <comment>a size</comment>
-        <translation>自定义，%1</translation>
-    </message>
-    <message>
-        <source>Use the document&apos;s size: %1</source>
-        <translation>使用文档尺寸：%1</translation>
-    </message>
-    <message>
-        <source>A custom size</source>
-        <translation>自定义尺寸</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperGroups</name>
-    <message>
-        <source>%1 wide</source>
-        <comment>papers of that width</comment>
-        <translation>宽 %1</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PaperList</name>
-    <message>
-        <source>%1 wide, %2 long</source>
-        <translation>宽 %1，长 %2</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a paper&apos;s text and its name</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>自定义尺寸…</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PasswordDialog</name>
-    <message>
-        <source>Password for the print server</source>
-        <translation>打印服务器密码</translation>
-    </message>
-    <message>
-        <source>&amp;User name</source>
-        <translation>用户名(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Password</source>
-        <translation>密码(&amp;P)</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintDialog</name>
-    <message>
-        <source>Print %1</source>
-        <translation>打印 %1</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>打印(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>无法显示裁切选项。%1</translation>
-    </message>
-    <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
-        <translation>打印机没有描述文件，因此其纸张和裁切方式未知。</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer&apos;s description…</source>
-        <translation>正在等待打印机描述文件…</translation>
-    </message>
-    <message>
-        <source>No printer is chosen.</source>
-        <translation>未选择打印机。</translation>
-    </message>
-    <message>
-        <source>Waiting for the print server&apos;s answer…</source>
-        <translation>正在等待打印服务器响应…</translation>
-    </message>
-    <message>
-        <source>The printer cannot do all of these together.</source>
-        <translation>打印机无法同时执行这些设置。</translation>
-    </message>
-    <message>
-        <source>Print anyway</source>
-        <translation>仍然打印</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description is not known.</source>
-        <translation>打印机的描述文件未知。</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::PrintRun</name>
+    <name>programs::kvprint::PrintRun</name>
     <message>
         <source>The PPD file &quot;%1&quot; has no paper &quot;%2&quot;; it has: %3</source>
         <translation>PPD 文件“%1”没有纸张“%2”；可用：%3</translation>
@@ -769,1120 +1882,17 @@
     </message>
 </context>
 <context>
-    <name>dialog::ProblemBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>重试</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SendBar</name>
-    <message>
-        <source>Stop sending</source>
-        <translation>停止发送</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot;</source>
-        <translation>正在发送“%1”</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SentPage</name>
-    <message>
-        <source>Option</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>来源</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>发送</translation>
-    </message>
-    <message>
-        <source>Options of the job</source>
-        <translation>作业选项</translation>
-    </message>
-    <message>
-        <source>&amp;The same job on the command line</source>
-        <translation>命令行中的同一作业(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>复制(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>复制命令</translation>
-    </message>
-    <message>
-        <source>yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>否</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::StandardStreams</name>
+    <name>programs::kvprint::StandardStreams</name>
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>无法写入标准输出：%1</translation>
     </message>
 </context>
 <context>
-    <name>dialog::StripPreview</name>
-    <message>
-        <source>Label strip</source>
-        <translation>标签带</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>摘要</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TerminalTrust</name>
+    <name>programs::kvprint::TerminalTrust</name>
     <message>
         <source>Type &quot;%1&quot; to continue:</source>
         <translation>输入“%1”以继续：</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::TrustWords</name>
-    <message>
-        <source>Connection without encryption</source>
-        <translation>未加密的连接</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
-        <translation>打印服务器“%1”需要密码，而与它的连接未加密。</translation>
-    </message>
-    <message>
-        <source>Others on the network can read the password.</source>
-        <translation>网络上的其他人可以读取该密码。</translation>
-    </message>
-    <message>
-        <source>Send anyway</source>
-        <translation>仍然发送</translation>
-    </message>
-    <message>
-        <source>Certificate of the print server</source>
-        <translation>打印服务器的证书</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2.</source>
-        <translation>打印服务器“%1”的证书不受信任：%2。</translation>
-    </message>
-    <message>
-        <source>Its SHA-256 fingerprint is:
-%1
-
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
-        <translation>其 SHA-256 指纹为：
-%1
-
-仅当服务器管理员给出相同的指纹时才信任它。此后它将一直受信任。</translation>
-    </message>
-    <message>
-        <source>Trust</source>
-        <translation>信任</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::VirtualSender</name>
-    <message>
-        <source>The PPD file names no paper to print on</source>
-        <translation>PPD 文件未列出任何纸张</translation>
-    </message>
-</context>
-<context>
-    <name>host::ChoiceCheck</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no option &quot;%2&quot;.</source>
-        <translation>打印机“%1”没有选项“%2”。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;.</source>
-        <translation>打印机“%1”没有纸张“%2”。</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; of the printer &quot;%2&quot; has no choice &quot;%3&quot;; it has: %4</source>
-        <translation>打印机“%2”的选项“%1”没有选择项“%3”；可用：%4</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
-        <translation>打印机“%1”无法在纸张“%2”上打印：其尺寸为 %3 × %4 点；宽度和长度必须大于 0，其中一边不超过 %5 米，另一边不超过 %6 米。</translation>
-    </message>
-</context>
-<context>
-    <name>host::Constraints</name>
-    <message>
-        <source>&quot;%1: %2&quot;</source>
-        <translation>“%1：%2”</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1.</source>
-        <translation>此打印机不支持%1。</translation>
-    </message>
-    <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 与 %2 不能同时使用。</translation>
-    </message>
-    <message>
-        <source>set &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation>将“%1”设为“%2”</translation>
-    </message>
-</context>
-<context>
-    <name>host::CupsConnection</name>
-    <message>
-        <source>Canceled on request.</source>
-        <translation>已按要求中止。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
-        <translation>打印服务器“%1”没有响应。</translation>
-    </message>
-    <message>
-        <source>Cannot connect to the print server &quot;%1&quot;: %2</source>
-        <translation>无法连接到打印服务器“%1”：%2</translation>
-    </message>
-    <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
-        <translation>与打印服务器“%1”的连接已中断。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
-        <translation>打印服务器“%1”返回：%2</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
-        <translation>打印服务器“%1”未提供“%2”：%3</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB</source>
-        <translation>大于 %1 MB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle</source>
-        <translation>连接中途断开</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
-        <translation>打印服务器“%1”要求用户“%2”的密码，但未提供。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; has no certificate.</source>
-        <translation>打印服务器“%1”没有证书。</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not the one that is trusted for this host. The trusted one has the SHA-256 fingerprint %2, the server&apos;s has %3. The server&apos;s certificate may have been replaced, another print server may run on the same host, or someone may be intercepting the connection. If the server&apos;s administrator confirms the fingerprint, remove the file &quot;%4&quot; and try again.</source>
-        <translation>打印服务器“%1”的证书不是此主机受信任的证书。受信任证书的 SHA-256 指纹是 %2，服务器证书的指纹是 %3。服务器的证书可能已被更换，同一主机上可能运行着另一台打印服务器，或者可能有人正在拦截连接。如果服务器管理员确认该指纹，请删除文件“%4”并重试。</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
-        <translation>不允许信任打印服务器“%1”的证书（SHA-256 指纹 %2）：%3</translation>
-    </message>
-    <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
-        <translation>打印服务器“%1”的证书不受信任：%2。其 SHA-256 指纹为 %3。请将其与服务器管理员给出的指纹比较，并在窗口或终端中询问时确认。</translation>
-    </message>
-    <message>
-        <source>The user name or the password is wrong.</source>
-        <translation>用户名或密码错误。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
-        <translation>打印服务器“%1”需要用户“%2”的密码。由于连接未加密，其他人可能读取密码，因此未发送。请加密连接 (-E)，或在窗口或终端中询问时确认。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; does not accept the password of the user &quot;%2&quot;.</source>
-        <translation>打印服务器“%1”不接受用户“%2”的密码。</translation>
-    </message>
-</context>
-<context>
-    <name>host::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>打印机的描述未说明是否裁切标签。</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Tape: %2</source>
-        <translation>标签：%1 · 用量：%2</translation>
-    </message>
-    <message>
-        <source>No full cut: the labels come out as one strip.</source>
-        <translation>无全切：标签以一整条输出。</translation>
-    </message>
-    <message>
-        <source>Full cut after the last label.</source>
-        <translation>在最后一张标签后全切。</translation>
-    </message>
-    <message>
-        <source>Full cut after every label.</source>
-        <translation>每张标签后全切。</translation>
-    </message>
-    <message>
-        <source>Full cut after every %1 labels.</source>
-        <translation>每 %1 张标签后全切。</translation>
-    </message>
-    <message>
-        <source>%1 mm</source>
-        <comment>a length</comment>
-        <translation>%1 毫米</translation>
-    </message>
-    <message>
-        <source>measuring…</source>
-        <comment>a length</comment>
-        <translation>正在测量…</translation>
-    </message>
-    <message>
-        <source>Labels: %1 · Pieces: %2 · Tape: %3</source>
-        <translation>标签：%1 · 段数：%2 · 用量：%3</translation>
-    </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>不打印任何内容。</translation>
-    </message>
-    <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>特殊标签带：打印机不裁切。</translation>
-    </message>
-    <message>
-        <source>Half cut between the labels of a piece.</source>
-        <translation>同一段内的标签之间半切。</translation>
-    </message>
-    <message>
-        <source>Printed marks where nothing is cut through.</source>
-        <translation>未切断处打印裁切标记。</translation>
-    </message>
-    <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
-        <translation>末端留在打印机中；下一作业无边距接续。</translation>
-    </message>
-    <message>
-        <source>Blank tape before and after each label is left out.</source>
-        <translation>省去每张标签前后的空白。</translation>
-    </message>
-    <message>
-        <source>The labels are mirrored.</source>
-        <translation>标签镜像打印。</translation>
-    </message>
-</context>
-<context>
-    <name>host::DiscoveredQueue</name>
-    <message>
-        <source>The print server &quot;%1&quot; cannot reach the printer &quot;%2&quot;.</source>
-        <translation>打印服务器“%1”无法连接到打印机“%2”。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
-        <translation>打印机“%1”已不在网络上。</translation>
-    </message>
-</context>
-<context>
-    <name>host::DocumentSource</name>
-    <message>
-        <source>Cannot read the document &quot;%1&quot;: %2</source>
-        <translation>无法读取文档“%1”：%2</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>不是文件</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>为空</translation>
-    </message>
-    <message>
-        <source>it has become shorter while it was read</source>
-        <translation>读取过程中变短了</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>文件打开后已更改；请重新打开</translation>
-    </message>
-    <message>
-        <source>it has changed while it was read</source>
-        <translation>读取过程中发生了更改</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobChange</name>
-    <message>
-        <source>It is to be printed anew, but held. %1</source>
-        <translation>作业将重新打印，但已被保留。%1</translation>
-    </message>
-    <message>
-        <source>Job %1 was not changed. %2</source>
-        <translation>作业 %1 未更改。%2</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
-    </message>
-</context>
-<context>
-    <name>host::FailureReason</name>
-    <message>
-        <source>It cannot store the document: the disk is full, or the document is larger than it accepts.</source>
-        <translation>它无法存储文档：磁盘已满，或者文档超过了它接受的大小。</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobFate</name>
-    <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
-        <translation>%1 打印服务器“%4”的队列“%3”中可能留有一个没有文档的作业“%2”；它不会打印任何内容。</translation>
-    </message>
-    <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
-        <translation>%1 打印服务器“%2”已有作业 %3-%4 的全部文档，但没有说明是否释放它：该作业会打印，或者被保留而不打印。再次打印前请查看队列。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 on the print server &quot;%4&quot; may have been printed; check the queue before you print again.</source>
-        <translation>%1 打印服务器“%4”上的作业 %2-%3 可能已经打印；再次打印前请查看队列。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; it is held on the print server &quot;%4&quot; and is not printed unless it is released.</source>
-        <translation>%1 无法撤回作业 %2-%3；它保留在打印服务器“%4”上，释放之前不会打印。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3 could not be canceled; check the queue before you print again.</source>
-        <translation>%1 无法撤回作业 %2-%3；再次打印前请查看队列。</translation>
-    </message>
-    <message>
-        <source>%1 Job %2-%3: %4</source>
-        <translation>%1 作业 %2-%3：%4</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobJournal</name>
-    <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
-        <translation>正在发送的作业的记录“%1”已损坏并被删除；请查看您使用的队列中是否留有作业。</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobOptions</name>
-    <message>
-        <source>printer default</source>
-        <translation>打印机默认值</translation>
-    </message>
-    <message>
-        <source>queue default</source>
-        <translation>队列默认值</translation>
-    </message>
-    <message>
-        <source>your default (lpoptions)</source>
-        <translation>您的默认值 (lpoptions)</translation>
-    </message>
-    <message>
-        <source>preset</source>
-        <translation>预设</translation>
-    </message>
-    <message>
-        <source>cut options</source>
-        <translation>裁切选项</translation>
-    </message>
-    <message>
-        <source>set by you</source>
-        <translation>由您设置</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobReport</name>
-    <message>
-        <source>Job &quot;%1&quot; for &quot;%2&quot; on %3
-</source>
-        <translation>作业“%1”，目标“%2”，服务器 %3
-</translation>
-    </message>
-    <message>
-        <source>Options that are sent:
-</source>
-        <translation>发送的选项：
-</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSettings</name>
-    <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
-        <translation>无法一次打印这么多标签：每个作业最多 %1 张</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobStatus</name>
-    <message>
-        <source>Held until it is released.</source>
-        <translation>已保留，等待释放。</translation>
-    </message>
-    <message>
-        <source>Held until %1.</source>
-        <translation>保留至：%1。</translation>
-    </message>
-    <message>
-        <source>Waiting for its turn.</source>
-        <translation>正在排队等待。</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>正在打印。</translation>
-    </message>
-    <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
-        <translation>已停止；打印机再次就绪后继续。</translation>
-    </message>
-    <message>
-        <source>Canceled.</source>
-        <translation>已取消。</translation>
-    </message>
-    <message>
-        <source>Aborted by the print server.</source>
-        <translation>已被打印服务器中止。</translation>
-    </message>
-    <message>
-        <source>Printed.</source>
-        <translation>已打印。</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>服务器返回：%1</translation>
-    </message>
-    <message>
-        <source>The job is over; the print server keeps no record of it.</source>
-        <translation>作业已结束；打印服务器不保留其记录。</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSummary</name>
-    <message>
-        <source>Printing</source>
-        <translation>打印</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>文档</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>打印机</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>纸张</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>页面</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>全部</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>份数</translation>
-    </message>
-    <message>
-        <source>Label strip</source>
-        <translation>标签带</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>标签</translation>
-    </message>
-    <message>
-        <source>Pieces</source>
-        <translation>段数</translation>
-    </message>
-    <message>
-        <source>Tape</source>
-        <translation>标签带用量</translation>
-    </message>
-    <message>
-        <source>Cuts</source>
-        <translation>裁切</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>顺序</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>从最后一页开始</translation>
-    </message>
-    <message>
-        <source>Of these</source>
-        <translation>其中</translation>
-    </message>
-    <message>
-        <source>the odd pages</source>
-        <translation>奇数页</translation>
-    </message>
-    <message>
-        <source>the even pages</source>
-        <translation>偶数页</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobUpload</name>
-    <message>
-        <source>There is no document to print.</source>
-        <translation>没有要打印的文档。</translation>
-    </message>
-    <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
-        <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
-    </message>
-    <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
-        <translation>打印服务器“%1”没有接收完整的“%2”。</translation>
-    </message>
-</context>
-<context>
-    <name>host::LabelDocument</name>
-    <message>
-        <source>Cannot open the document &quot;%1&quot;: %2</source>
-        <translation>无法打开文档“%1”：%2</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>没有此文件</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>不是文件</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>为空</translation>
-    </message>
-    <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>已加密；请先移除密码</translation>
-    </message>
-    <message>
-        <source>it is encrypted in a way that is not known here</source>
-        <translation>以未知方式加密</translation>
-    </message>
-    <message>
-        <source>it has no pages</source>
-        <translation>没有页面</translation>
-    </message>
-    <message>
-        <source>page %1 has no area</source>
-        <translation>第 %1 页没有面积</translation>
-    </message>
-    <message>
-        <source>page %1 is longer than %2 m</source>
-        <translation>第 %1 页长于 %2 米</translation>
-    </message>
-    <message>
-        <source>Cannot open the document on standard input: %1</source>
-        <translation>无法打开标准输入中的文档：%1</translation>
-    </message>
-    <message>
-        <source>it is a damaged image</source>
-        <translation>图像已损坏</translation>
-    </message>
-    <message>
-        <source>it has %1 × %2 pixels, more than can be printed</source>
-        <translation>有 %1 × %2 像素，超过可打印的范围</translation>
-    </message>
-    <message>
-        <source>it is an image whose end is missing</source>
-        <translation>图像末尾缺失</translation>
-    </message>
-    <message>
-        <source>No document is named</source>
-        <translation>未指定文档</translation>
-    </message>
-    <message>
-        <source>it can be read only once</source>
-        <translation>只能读取一次</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>标准输入</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 及另外 %n 个</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it is longer than %1</source>
-        <translation>超过 %1</translation>
-    </message>
-    <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
-        <translation>不是 PDF、PNG、JPEG 或 SVG</translation>
-    </message>
-    <message>
-        <source>the file has changed since it was opened; open it again</source>
-        <translation>文件打开后已更改；请重新打开</translation>
-    </message>
-    <message>
-        <source>it is a damaged PDF</source>
-        <translation>PDF 已损坏</translation>
-    </message>
-    <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
-        <translation>无法保存到“%1”：%2</translation>
-    </message>
-    <message>
-        <source>it is a damaged SVG</source>
-        <translation>SVG 已损坏</translation>
-    </message>
-    <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
-        <translation>引用了“%1”，而只打印 SVG 自身包含的内容</translation>
-    </message>
-    <message>
-        <source>line %1 of the SVG: %2</source>
-        <translation>SVG 第 %1 行：%2</translation>
-    </message>
-    <message>
-        <source>it is an SVG of more parts than can be drawn</source>
-        <translation>SVG 的组成部分过多，无法绘制</translation>
-    </message>
-    <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
-        <translation>其中的图片既不是 PNG 也不是 JPEG</translation>
-    </message>
-    <message>
-        <source>it has a damaged picture in it</source>
-        <translation>其中的图片已损坏</translation>
-    </message>
-    <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
-        <translation>其中的图片像素过多，无法打印</translation>
-    </message>
-</context>
-<context>
-    <name>host::LeftJob</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
-        <translation>打印服务器“%1”的队列“%3”中已没有作业“%2”，或者它已结束。</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is not held: %4</source>
-        <translation>打印服务器“%3”上的作业 %1-%2 未被保留：%4</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is released.</source>
-        <translation>打印服务器“%3”上的作业 %1-%2 已释放。</translation>
-    </message>
-    <message>
-        <source>Job %1-%2 on the print server &quot;%3&quot; is canceled.</source>
-        <translation>打印服务器“%3”上的作业 %1-%2 已撤回。</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
-        <translation>一个在打印时被中止的程序可能在打印服务器“%3”上留下了作业 %1（“%2”），也许缺少部分文档。</translation>
-    </message>
-    <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
-        <translation>一个在打印时被中止的程序可能在打印服务器“%3”的队列“%2”中留下了没有文档的作业“%1”。</translation>
-    </message>
-</context>
-<context>
-    <name>host::LpCommand</name>
-    <message>
-        <source>lp cannot say these options as they are sent: %1</source>
-        <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
-    </message>
-</context>
-<context>
-    <name>host::OutOfMemory</name>
-    <message>
-        <source>Out of memory; nothing was printed.</source>
-        <translation>内存不足；未打印任何内容。</translation>
-    </message>
-    <message>
-        <source>Out of memory; the job may be incomplete, or left on the print server.</source>
-        <translation>内存不足；作业可能不完整，或遗留在打印服务器上。</translation>
-    </message>
-    <message>
-        <source>Out of memory. The job was sent all the same.</source>
-        <translation>内存不足。作业仍已发送。</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelBundle</name>
-    <message>
-        <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
-        <translation>无法使用插件包“%1”：%2</translation>
-    </message>
-    <message>
-        <source>its library is no library of panels</source>
-        <translation>其库不是面板库</translation>
-    </message>
-    <message>
-        <source>it was made for version %1 of the panel interface, and this program has version %2</source>
-        <translation>适用于接口版本 %1，而本程序为版本 %2</translation>
-    </message>
-    <message>
-        <source>missing or unreadable: %1</source>
-        <translation>缺失或无法读取：%1</translation>
-    </message>
-    <message>
-        <source>it is not a folder</source>
-        <translation>不是文件夹</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>没有此文件夹</translation>
-    </message>
-    <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
-        <translation>找不到面板插件包；已查找 %1</translation>
-    </message>
-    <message>
-        <source>it has no library %1</source>
-        <translation>缺少库 %1</translation>
-    </message>
-    <message>
-        <source>it does not work on this system</source>
-        <translation>无法在此系统上运行</translation>
-    </message>
-</context>
-<context>
-    <name>host::PanelSource</name>
-    <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
-        <translation>插件包“%1”无法创建面板</translation>
-    </message>
-    <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>无法显示插件包“%1”的面板：布局文件不可用</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdFile</name>
-    <message>
-        <source>Cannot open the PPD file &quot;%1&quot;: %2</source>
-        <translation>无法打开 PPD 文件“%1”：%2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>第 %1 行：%2</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
-        <translation>大于 %1 MB，超过任何打印机描述文件</translation>
-    </message>
-    <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
-        <translation>已损坏或不完整：无法完整解压</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>不是文件</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>为空</translation>
-    </message>
-    <message>
-        <source>it has %1 statements; the maximum is %2</source>
-        <translation>它有 %1 条语句；最多允许 %2 条</translation>
-    </message>
-    <message>
-        <source>it has %1 &quot;%2&quot; statements; the maximum is %3</source>
-        <translation>它有 %1 条“%2”语句；最多允许 %3 条</translation>
-    </message>
-    <message>
-        <source>it ends in the middle of a value; the file is incomplete</source>
-        <translation>在值的中间结束；文件不完整</translation>
-    </message>
-</context>
-<context>
-    <name>host::PpdOptions</name>
-    <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>Printer control</source>
-        <translation>打印机控制</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintOrder</name>
-    <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
-        <translation>无法理解页面“%1”：请输入数字和范围，例如 1-3, 5</translation>
-    </message>
-    <message>
-        <source>Cannot print the pages &quot;%1&quot;: the document&apos;s last page is %2</source>
-        <translation>无法打印页面“%1”：文档最后一页是 %2</translation>
-    </message>
-    <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
-        <translation>不会打印任何内容：未选择文档中的任何页面</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrinterSetup</name>
-    <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
-        <translation>在此纸张和其他裁切选项下，“%1”不能为“%2”，将按“%3”打印。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>“%1”无法保存设置：%2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
-        <translation>“%1”不允许用这些设置打印作业。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no paper &quot;%2&quot;, which is your default (lpoptions).</source>
-        <translation>打印机“%1”没有纸张“%2”，而它是您的默认值 (lpoptions)。</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSession</name>
-    <message>
-        <source>The print server &quot;%1&quot; has no queue or class &quot;%2&quot;.</source>
-        <translation>打印服务器“%1”没有队列或打印机类“%2”。</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueWords</name>
-    <message>
-        <source>The printer waits for labels or tape.</source>
-        <translation>打印机正在等待标签或标签带。</translation>
-    </message>
-    <message>
-        <source>Labels or tape are jammed.</source>
-        <translation>标签或标签带卡住。</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is nearly empty.</source>
-        <translation>标签卷或标签带即将用完。</translation>
-    </message>
-    <message>
-        <source>The label roll or tape is empty.</source>
-        <translation>标签卷或标签带已用完。</translation>
-    </message>
-    <message>
-        <source>The printer is about to pause.</source>
-        <translation>打印机即将暂停。</translation>
-    </message>
-    <message>
-        <source>The queue is paused; jobs wait.</source>
-        <translation>队列已暂停；作业等待中。</translation>
-    </message>
-    <message>
-        <source>The printer is switched off.</source>
-        <translation>打印机已关闭。</translation>
-    </message>
-    <message>
-        <source>Connecting to the printer.</source>
-        <translation>正在连接打印机。</translation>
-    </message>
-    <message>
-        <source>The printer does not respond.</source>
-        <translation>打印机没有响应。</translation>
-    </message>
-    <message>
-        <source>The printer is stopping.</source>
-        <translation>打印机正在停止。</translation>
-    </message>
-    <message>
-        <source>Some printers of the class are stopped.</source>
-        <translation>打印机类中的部分打印机已停止。</translation>
-    </message>
-    <message>
-        <source>The toner is nearly used up.</source>
-        <translation>墨粉即将用完。</translation>
-    </message>
-    <message>
-        <source>The toner is used up.</source>
-        <translation>墨粉已用完。</translation>
-    </message>
-    <message>
-        <source>The print server has no space left.</source>
-        <translation>打印服务器空间不足。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s cover is open.</source>
-        <translation>打印机盖已打开。</translation>
-    </message>
-    <message>
-        <source>A lock of the printer is open.</source>
-        <translation>打印机的锁扣未锁好。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s door is open.</source>
-        <translation>打印机门已打开。</translation>
-    </message>
-    <message>
-        <source>The cassette or roll holder is missing.</source>
-        <translation>缺少标签带盒或卷筒架。</translation>
-    </message>
-    <message>
-        <source>The output tray is missing.</source>
-        <translation>缺少出纸盒。</translation>
-    </message>
-    <message>
-        <source>The output tray is nearly full.</source>
-        <translation>出纸盒即将装满。</translation>
-    </message>
-    <message>
-        <source>The output tray is full.</source>
-        <translation>出纸盒已满。</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is nearly used up.</source>
-        <translation>墨水或色带即将用完。</translation>
-    </message>
-    <message>
-        <source>Ink or ribbon is used up.</source>
-        <translation>墨水或色带已用完。</translation>
-    </message>
-    <message>
-        <source>The waste box is nearly full.</source>
-        <translation>废料盒即将装满。</translation>
-    </message>
-    <message>
-        <source>The waste box is full.</source>
-        <translation>废料盒已满。</translation>
-    </message>
-    <message>
-        <source>The printer is too hot.</source>
-        <translation>打印机过热。</translation>
-    </message>
-    <message>
-        <source>The printer is warming up.</source>
-        <translation>打印机正在预热。</translation>
-    </message>
-    <message>
-        <source>The printer is offline.</source>
-        <translation>打印机已脱机。</translation>
-    </message>
-    <message>
-        <source>New jobs are held.</source>
-        <translation>新作业将被保留。</translation>
-    </message>
-    <message>
-        <source>The printer is switched off by its administrator.</source>
-        <translation>打印机已被管理员停用。</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
-        <translation>打印机驱动程序缺少组件。</translation>
-    </message>
-    <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
-        <translation>打印机驱动程序的某个组件安装不安全。</translation>
-    </message>
-    <message>
-        <source>Waiting for the printer to finish the job.</source>
-        <translation>正在等待打印机完成作业。</translation>
-    </message>
-    <message>
-        <source>The printer does not follow its protocol.</source>
-        <translation>打印机未遵循其协议。</translation>
-    </message>
-    <message>
-        <source>Ready.</source>
-        <translation>就绪。</translation>
-    </message>
-    <message>
-        <source>Printing.</source>
-        <translation>正在打印。</translation>
-    </message>
-    <message>
-        <source>Found on the network.</source>
-        <translation>在网络上找到。</translation>
-    </message>
-    <message>
-        <source>State unknown.</source>
-        <translation>状态未知。</translation>
-    </message>
-    <message>
-        <source>The queue accepts no jobs.</source>
-        <translation>队列不接受作业。</translation>
-    </message>
-    <message>
-        <source>The server says: %1</source>
-        <translation>服务器返回：%1</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPainter</name>
-    <message>
-        <source>next job</source>
-        <translation>下一作业</translation>
-    </message>
-</context>
-<context>
-    <name>host::StripPdf</name>
-    <message>
-        <source>%1 on %2, %3</source>
-        <translation>%1，%2，%3</translation>
-    </message>
-</context>
-<context>
-    <name>host::VirtualPrinter</name>
-    <message>
-        <source>it is not a folder</source>
-        <translation>不是文件夹</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made: %1</source>
-        <translation>无法创建文件夹：%1</translation>
-    </message>
-    <message>
-        <source>Cannot write &quot;%1&quot;: %2</source>
-        <translation>无法写入“%1”：%2</translation>
-    </message>
-</context>
-<context>
-    <name>platform::OutputFile</name>
-    <message>
-        <source>it is a folder</source>
-        <translation>它是文件夹</translation>
-    </message>
-    <message>
-        <source>it is a symbolic link</source>
-        <translation>它是符号链接</translation>
-    </message>
-    <message>
-        <source>it is a socket</source>
-        <translation>它是套接字</translation>
-    </message>
-    <message>
-        <source>it is a block device</source>
-        <translation>它是块设备</translation>
-    </message>
-    <message>
-        <source>no program reads from it</source>
-        <translation>没有程序在读取</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,7 @@
 #include <QStyle>
 
 namespace dialog {
+inline namespace widgets {
 
 Banner::Banner(QWidget *parent)
     : QFrame(parent)
@@ -126,4 +127,5 @@ void Banner::fitText()
     m_view->setFocusPolicy(needed > mostLines * line ? Qt::StrongFocus : Qt::NoFocus);
 }
 
+} // namespace widgets
 } // namespace dialog

@@ -7,6 +7,7 @@ class QLabel;
 class QScrollArea;
 
 namespace dialog {
+inline namespace widgets {
 
 class ElidedButton;
 
@@ -47,4 +48,5 @@ private:
     ElidedButton *m_alternative = nullptr;
 };
 
+} // namespace widgets
 } // namespace dialog

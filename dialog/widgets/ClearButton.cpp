@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 namespace dialog {
+inline namespace widgets {
 
 void addClearButton(QLineEdit *field)
 {
@@ -15,4 +16,5 @@ void addClearButton(QLineEdit *field)
     QObject::connect(field, &QLineEdit::textChanged, field, addWhenNeeded);
 }
 
+} // namespace widgets
 } // namespace dialog

@@ -9,6 +9,7 @@
 #include <QToolTip>
 
 namespace dialog {
+inline namespace widgets {
 
 ElidedButton::ElidedButton(QWidget *parent)
     : QPushButton(parent)
@@ -41,4 +42,5 @@ void ElidedButton::paintEvent(QPaintEvent *)
     painter.drawControl(QStyle::CE_PushButton, option);
 }
 
+} // namespace widgets
 } // namespace dialog

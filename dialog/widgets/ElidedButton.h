@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace widgets {
 
 /// A button for a text of any length: as wide as the text where there is room, and no wider than its place.
 /// A text that does not fit is elided, and to be read in the tool tip; screen readers speak all of it.
@@ -20,4 +21,5 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
+} // namespace widgets
 } // namespace dialog

@@ -4,6 +4,7 @@
 #include <QEvent>
 
 namespace dialog {
+inline namespace widgets {
 
 FittedLabel::FittedLabel(int fewestLines, int mostLines, QWidget *parent)
     : QLabel(parent)
@@ -51,4 +52,5 @@ void FittedLabel::fit()
     setFixedHeight(qBound(m_fewestLines * line, needed, m_mostLines * line));
 }
 
+} // namespace widgets
 } // namespace dialog

@@ -4,6 +4,7 @@
 #include <QLabel>
 
 namespace dialog {
+inline namespace widgets {
 
 /// Plain words of any length that wrap and keep their window in shape. Windows take no notice of the lines
 /// that a wrapped text needs, and squeeze whatever stands beside it; so this label asks for a height of its
@@ -31,4 +32,5 @@ private:
     int m_mostLines;
 };
 
+} // namespace widgets
 } // namespace dialog

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace widgets {
 
 LazyPage::LazyPage(Maker maker, QWidget *parent)
     : QWidget(parent)
@@ -24,4 +25,5 @@ void LazyPage::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
 }
 
+} // namespace widgets
 } // namespace dialog

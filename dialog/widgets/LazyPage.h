@@ -6,6 +6,7 @@
 #include <functional>
 
 namespace dialog {
+inline namespace widgets {
 
 /// A page that is filled when it is shown for the first time: most dialogs are printed from without a look at
 /// most pages, and all of them open the sooner for it.
@@ -25,4 +26,5 @@ private:
     Maker m_maker;
 };
 
+} // namespace widgets
 } // namespace dialog

@@ -2,6 +2,7 @@
 #include "LengthField.h"
 
 namespace dialog {
+inline namespace widgets {
 
 LengthField::LengthField(double minimum, double maximum, QWidget *parent)
     : NumberField(minimum / pointsPer(userLengthUnit()), maximum / pointsPer(userLengthUnit()),
@@ -30,4 +31,5 @@ void LengthField::showPoints(double points)
     showNumber(qBound(minimum(), points / pointsPer(m_unit), maximum()));
 }
 
+} // namespace widgets
 } // namespace dialog

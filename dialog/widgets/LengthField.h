@@ -5,6 +5,7 @@
 #include "NumberField.h"
 
 namespace dialog {
+inline namespace widgets {
 
 /// A field for a length within limits, in the user's unit and to 0.01 mm. Where the limits leave no choice it
 /// shows the only length and takes no other.
@@ -26,4 +27,5 @@ private:
     double m_maximum;
 };
 
+} // namespace widgets
 } // namespace dialog

@@ -7,11 +7,12 @@
 #include <QLocale>
 
 namespace dialog {
+inline namespace widgets {
 
 namespace {
 
 struct LengthUnitText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::LengthUnit)
+    Q_DECLARE_TR_FUNCTIONS(dialog::widgets::LengthUnit)
 };
 
 QString numberText(double points, LengthUnit unit, int decimals)
@@ -79,4 +80,5 @@ QString exactSize(const QSizeF &points)
         .arg(exactNumber(points.width(), unit), exactNumber(points.height(), unit), unitText(unit));
 }
 
+} // namespace widgets
 } // namespace dialog

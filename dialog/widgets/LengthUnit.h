@@ -5,6 +5,7 @@
 #include <QString>
 
 namespace dialog {
+inline namespace widgets {
 
 /// In what people measure labels.
 enum class LengthUnit { Millimetre, Inch };
@@ -25,4 +26,5 @@ QString roundLength(double points);
 /// A size in points, width first: "36 × 50 mm".
 QString exactSize(const QSizeF &points);
 
+} // namespace widgets
 } // namespace dialog

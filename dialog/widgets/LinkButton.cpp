@@ -5,6 +5,7 @@
 #include <QStylePainter>
 
 namespace dialog {
+inline namespace widgets {
 
 namespace {
 
@@ -49,4 +50,5 @@ void LinkButton::paintEvent(QPaintEvent *)
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
 }
 
+} // namespace widgets
 } // namespace dialog

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace widgets {
 
 /// A button that looks like a link, for something offered beside the controls.
 class LinkButton : public QPushButton {
@@ -19,4 +20,5 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
+} // namespace widgets
 } // namespace dialog

@@ -7,6 +7,7 @@
 #include <cmath>
 
 namespace dialog {
+inline namespace widgets {
 
 NumberField::NumberField(double minimum, double maximum, int decimals, QWidget *parent)
     : QDoubleSpinBox(parent)
@@ -51,4 +52,5 @@ void NumberField::wheelEvent(QWheelEvent *event)
         event->ignore();
 }
 
+} // namespace widgets
 } // namespace dialog

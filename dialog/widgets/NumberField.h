@@ -4,6 +4,7 @@
 #include <QDoubleSpinBox>
 
 namespace dialog {
+inline namespace widgets {
 
 /// A field for a number within limits, which shows no more decimals than the number has. Turning the mouse
 /// wheel over it, on the way down a page, changes nothing.
@@ -22,4 +23,5 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 };
 
+} // namespace widgets
 } // namespace dialog

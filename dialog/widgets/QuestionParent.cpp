@@ -5,6 +5,7 @@
 #include <QWidget>
 
 namespace dialog {
+inline namespace widgets {
 
 QWidget *questionParent(QWidget *window)
 {
@@ -17,4 +18,5 @@ QWidget *questionParent(QWidget *window)
     return isOfWindow ? modal : window;
 }
 
+} // namespace widgets
 } // namespace dialog

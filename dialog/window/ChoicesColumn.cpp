@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace window {
 
 ChoicesColumn::ChoicesColumn(const host::LabelDocument &document, host::SetupKeeper &keeper,
                              const host::JobSettings &settings, QWidget *parent)
@@ -71,4 +72,5 @@ void ChoicesColumn::setConflicts(const std::vector<host::Conflict> &conflicts)
         m_papers->setConflicts(conflicts);
 }
 
+} // namespace window
 } // namespace dialog

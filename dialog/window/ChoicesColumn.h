@@ -8,13 +8,25 @@
 class QVBoxLayout;
 
 namespace host {
+inline namespace documents {
 class LabelDocument;
-}
+} // namespace documents
+} // namespace host
 
 namespace dialog {
-
+inline namespace job {
 class PageOptions;
+} // namespace job
+} // namespace dialog
+
+namespace dialog {
+inline namespace paper {
 class PaperChooser;
+} // namespace paper
+} // namespace dialog
+
+namespace dialog {
+inline namespace window {
 
 /// What is chosen of every printer, beside its own pages: the printer itself, the paper, pages and copies.
 class ChoicesColumn : public QWidget {
@@ -49,4 +61,5 @@ private:
     PageOptions *m_pages;
 };
 
+} // namespace window
 } // namespace dialog

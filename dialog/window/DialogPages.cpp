@@ -15,6 +15,7 @@
 #include <QTabBar>
 
 namespace dialog {
+inline namespace window {
 
 namespace {
 
@@ -235,4 +236,5 @@ void DialogPages::announceClosing(QWidget *window)
         m_panelPage->panel().printWindowWillClose(window);
 }
 
+} // namespace window
 } // namespace dialog

@@ -10,13 +10,29 @@
 #include <functional>
 
 namespace dialog {
-
+inline namespace job {
 class JobPage;
+class SentPage;
+} // namespace job
+} // namespace dialog
+
+namespace dialog {
+inline namespace widgets {
 class LazyPage;
+} // namespace widgets
+} // namespace dialog
+
+namespace dialog {
+inline namespace options {
 class OptionsPage;
+} // namespace options
+} // namespace dialog
+
+namespace dialog {
+inline namespace window {
+
 class PagePreview;
 class PanelPage;
-class SentPage;
 
 /// The dialog's pages: the printer's panel and its other options, which come and go with the printer, and
 /// those that every printer has.
@@ -91,4 +107,5 @@ private:
     std::vector<host::Conflict> m_conflicts;
 };
 
+} // namespace window
 } // namespace dialog

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace window {
 
 PagePreview::PagePreview(const host::LabelDocument &document, QWidget *parent)
     : QWidget(parent)
@@ -117,4 +118,5 @@ void PagePreview::paintPicture(QPainter &painter, const QRectF &area, double pix
         painter.fillRect(area, Qt::white);
 }
 
+} // namespace window
 } // namespace dialog

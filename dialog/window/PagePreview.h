@@ -12,6 +12,7 @@ class QLabel;
 class QToolButton;
 
 namespace dialog {
+inline namespace window {
 
 /// One page of the document on its label, with buttons to go through the pages. With a page thread, the page
 /// is drawn in the background, and is white until then.
@@ -51,4 +52,5 @@ private:
     QLabel *m_note;
 };
 
+} // namespace window
 } // namespace dialog

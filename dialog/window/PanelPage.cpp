@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace window {
 
 namespace {
 
@@ -83,4 +84,5 @@ void PanelPage::setConflicts(const QStringList &sentences)
     m_note->setSentences(sentences);
 }
 
+} // namespace window
 } // namespace dialog

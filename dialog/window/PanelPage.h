@@ -9,8 +9,13 @@
 class QScrollArea;
 
 namespace dialog {
-
+inline namespace options {
 class ConflictNote;
+} // namespace options
+} // namespace dialog
+
+namespace dialog {
+inline namespace window {
 
 /// The page that shows a bundle's panel, and above it what is wrong with the panel's settings.
 class PanelPage : public QWidget {
@@ -43,4 +48,5 @@ private:
     ConflictNote *m_note;
 };
 
+} // namespace window
 } // namespace dialog

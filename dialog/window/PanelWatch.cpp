@@ -7,6 +7,7 @@
 #include <QWidget>
 
 namespace dialog {
+inline namespace window {
 
 namespace {
 
@@ -88,4 +89,5 @@ void PanelWatch::announceLater()
         Qt::QueuedConnection);
 }
 
+} // namespace window
 } // namespace dialog

@@ -7,6 +7,7 @@
 class QWidget;
 
 namespace dialog {
+inline namespace window {
 
 /// Notices that a panel may have changed. A panel changes its controls without informing the dialog, when the
 /// user picks a ready-made combination for instance, and its controls are operated by more than mouse and
@@ -36,4 +37,5 @@ private:
     bool m_isAnnounced = false;
 };
 
+} // namespace window
 } // namespace dialog

@@ -25,6 +25,7 @@
 #include <QVBoxLayout>
 
 namespace dialog {
+inline namespace window {
 
 PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
                          JobSender &sender, const DialogWishes &wishes, QWidget *parent)
@@ -317,4 +318,5 @@ std::vector<SummarySection> PrintDialog::summary() const
     return host::summarize(*m_ticket, *m_keeper.setup(), m_plan ? &*m_plan : nullptr);
 }
 
+} // namespace window
 } // namespace dialog

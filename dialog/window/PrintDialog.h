@@ -13,15 +13,31 @@ class QDialogButtonBox;
 class QPushButton;
 
 namespace dialog {
-
+inline namespace widgets {
 class Banner;
-class ChoicesColumn;
-class ConflictBanner;
-class DialogPages;
 class FittedLabel;
-class PanelWatch;
+} // namespace widgets
+} // namespace dialog
+
+namespace dialog {
+inline namespace options {
+class ConflictBanner;
+} // namespace options
+} // namespace dialog
+
+namespace dialog {
+inline namespace job {
 class ProblemBanner;
 class SendBar;
+} // namespace job
+} // namespace dialog
+
+namespace dialog {
+inline namespace window {
+
+class ChoicesColumn;
+class DialogPages;
+class PanelWatch;
 class StripPreview;
 
 /// What the dialog opens with, beside the printer.
@@ -132,4 +148,5 @@ private:
     QPushButton *m_printButton = nullptr;
 };
 
+} // namespace window
 } // namespace dialog

@@ -14,6 +14,7 @@
 #include <QPushButton>
 
 namespace dialog {
+inline namespace window {
 
 bool PrintDialog::isReadyToSend() const
 {
@@ -128,4 +129,5 @@ void PrintDialog::reject()
     m_sender.cancel();
 }
 
+} // namespace window
 } // namespace dialog

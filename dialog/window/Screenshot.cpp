@@ -12,6 +12,7 @@
 #include <algorithm>
 
 namespace dialog {
+inline namespace window {
 
 namespace {
 
@@ -49,4 +50,5 @@ host::Result<void, host::OutputError> saveScreenshot(QWidget &window, const QStr
     return files.commit();
 }
 
+} // namespace window
 } // namespace dialog

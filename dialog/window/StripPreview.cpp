@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 namespace dialog {
+inline namespace window {
 
 namespace {
 
@@ -170,4 +171,5 @@ void StripPreview::changeEvent(QEvent *event)
     }
 }
 
+} // namespace window
 } // namespace dialog

@@ -9,6 +9,7 @@
 #include <optional>
 
 namespace dialog {
+inline namespace window {
 
 /// The strip as it will leave the printer, with every cut, as large as the height allows. Longer strips
 /// scroll, by the arrow keys too. It is spoken as the plan's words. With a page thread, labels are drawn in
@@ -67,4 +68,5 @@ private:
     bool m_isComplete = false;
 };
 
+} // namespace window
 } // namespace dialog

@@ -6,11 +6,12 @@
 #include <QCoreApplication>
 
 namespace dialog {
+inline namespace window {
 
 namespace {
 
 struct WaitingText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::PrintDialog)
+    Q_DECLARE_TR_FUNCTIONS(dialog::window::PrintDialog)
 };
 
 } // namespace
@@ -25,4 +26,5 @@ QString waitingWords(const host::QueueSession *session)
     return WaitingText::tr("Waiting for the print server's answer…");
 }
 
+} // namespace window
 } // namespace dialog

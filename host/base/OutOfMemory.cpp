@@ -15,19 +15,20 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace base {
 
 namespace {
 
 struct OutOfMemoryText {
-    Q_DECLARE_TR_FUNCTIONS(host::OutOfMemory)
+    Q_DECLARE_TR_FUNCTIONS(host::base::OutOfMemory)
 };
 
 /// Indexed by JobProgress.
 constexpr std::array texts = {
-    QT_TRANSLATE_NOOP("host::OutOfMemory", "Out of memory; nothing was printed."),
-    QT_TRANSLATE_NOOP("host::OutOfMemory",
+    QT_TRANSLATE_NOOP("host::base::OutOfMemory", "Out of memory; nothing was printed."),
+    QT_TRANSLATE_NOOP("host::base::OutOfMemory",
                       "Out of memory; the job may be incomplete, or left on the print server."),
-    QT_TRANSLATE_NOOP("host::OutOfMemory", "Out of memory. The job was sent all the same."),
+    QT_TRANSLATE_NOOP("host::base::OutOfMemory", "Out of memory. The job was sent all the same."),
 };
 
 /// The texts that end() writes: in English, or in the language of the program after translate().
@@ -103,4 +104,5 @@ void OutOfMemory::setJobProgress(JobProgress progress)
     jobProgress = progress;
 }
 
+} // namespace base
 } // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 namespace host {
+inline namespace base {
 
 /// The progress of the job that the program prints.
 enum class JobProgress {
@@ -31,4 +32,5 @@ public:
     static void setJobProgress(JobProgress progress);
 };
 
+} // namespace base
 } // namespace host

@@ -8,6 +8,7 @@
 #include <variant>
 
 namespace host {
+inline namespace base {
 
 /// The error of an operation: its kind, from which the program decides how to continue, and one sentence for
 /// the user that names the thing, the place and the reason.
@@ -79,4 +80,5 @@ Result<void, Error> Result<Value, Error>::withoutValue() const
     return *this ? Result<void, Error>() : Result<void, Error>(error());
 }
 
+} // namespace base
 } // namespace host

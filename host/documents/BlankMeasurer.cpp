@@ -10,6 +10,7 @@
 #include <chrono>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -116,4 +117,5 @@ void BlankMeasurer::store(const Measured &results)
     }
 }
 
+} // namespace documents
 } // namespace host

@@ -13,6 +13,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 /// Measures the blank at the ends of labels of one paper, in the background and in the order in which it is
 /// asked for, and keeps what it has measured.
@@ -59,4 +60,5 @@ private:
     QElapsedTimer m_sinceSignal;
 };
 
+} // namespace documents
 } // namespace host

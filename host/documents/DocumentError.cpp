@@ -4,11 +4,12 @@
 #include <QCoreApplication>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct DocumentErrorText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 } // namespace
@@ -22,4 +23,5 @@ DocumentError documentError(const DocumentProblem &problem, const QString &name)
             DocumentErrorText::tr("Cannot open the document \"%1\": %2").arg(name, problem.reason)};
 }
 
+} // namespace documents
 } // namespace host

@@ -6,6 +6,7 @@
 #include <QString>
 
 namespace host {
+inline namespace documents {
 
 enum class DocumentFailure {
     Missing,     ///< there is no such file, or no document was named
@@ -37,4 +38,5 @@ inline constexpr QStringView standardInputName = u"-";
 /// The error for the user: names the document, a path or "-" for standard input, and the reason.
 DocumentError documentError(const DocumentProblem &problem, const QString &name);
 
+} // namespace documents
 } // namespace host

@@ -2,6 +2,7 @@
 #include "DocumentKind.h"
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -35,4 +36,5 @@ std::optional<DocumentKind> documentKind(const QByteArray &head)
     return std::nullopt;
 }
 
+} // namespace documents
 } // namespace host

@@ -6,6 +6,7 @@
 #include <optional>
 
 namespace host {
+inline namespace documents {
 
 /// The kinds of documents that can be printed.
 enum class DocumentKind { Pdf, Png, Jpeg, Svg };
@@ -17,4 +18,5 @@ inline constexpr qsizetype documentHeadSize = 1024;
 /// no more than that it looks like XML.
 std::optional<DocumentKind> documentKind(const QByteArray &head);
 
+} // namespace documents
 } // namespace host

@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -138,4 +139,5 @@ ImageFacts jpegFacts(const QByteArray &jpeg)
     return JpegSegments(jpeg).facts();
 }
 
+} // namespace documents
 } // namespace host

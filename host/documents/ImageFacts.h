@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace host {
+inline namespace documents {
 
 /// What a PNG or JPEG says beside its pixels, which image readers keep to themselves.
 struct ImageFacts {
@@ -21,4 +22,5 @@ struct ImageFacts {
 ImageFacts pngFacts(const QByteArray &png);
 ImageFacts jpegFacts(const QByteArray &jpeg);
 
+} // namespace documents
 } // namespace host

@@ -11,11 +11,12 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct ImagePdfText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 constexpr double pointsPerMetre = 72.0 / 0.0254;
@@ -232,4 +233,5 @@ std::optional<DocumentProblem> writeImagePdf(const QByteArray &image, DocumentKi
     return std::nullopt;
 }
 
+} // namespace documents
 } // namespace host

@@ -11,6 +11,7 @@
 class QIODevice;
 
 namespace host {
+inline namespace documents {
 
 /// The most pixels an image may have, 64 million, and half as many where they have to be decoded first, as
 /// those of a PNG have: several times what a label printer puts on a metre of tape. More would take a
@@ -23,4 +24,5 @@ inline constexpr double usualImageResolution = 96.0;
 /// without losing a pixel; what is transparent becomes white.
 std::optional<DocumentProblem> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf);
 
+} // namespace documents
 } // namespace host

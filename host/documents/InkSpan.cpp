@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -69,4 +70,5 @@ std::optional<InkSpan> inkedColumns(const QImage &image, const QRect &area)
     return InkSpan{first, last + 1};
 }
 
+} // namespace documents
 } // namespace host

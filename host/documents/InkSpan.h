@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace host {
+inline namespace documents {
 
 /// A stretch of rows or columns of an image: the first, and the one after the last.
 struct InkSpan {
@@ -22,4 +23,5 @@ std::optional<InkSpan> inkedRows(const QImage &image, const QRect &area);
 /// The same for columns.
 std::optional<InkSpan> inkedColumns(const QImage &image, const QRect &area);
 
+} // namespace documents
 } // namespace host

@@ -10,11 +10,12 @@
 #include <numeric>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct LabelDocumentText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 } // namespace
@@ -158,4 +159,5 @@ std::optional<DocumentError> LabelDocument::checkForPrinting() const
     return std::nullopt;
 }
 
+} // namespace documents
 } // namespace host

@@ -13,6 +13,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 class OpenedDocument;
 class PdfPages;
@@ -108,4 +109,5 @@ private:
     std::vector<std::unique_ptr<OpenedDocument>> m_documents;
 };
 
+} // namespace documents
 } // namespace host

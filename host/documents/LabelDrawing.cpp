@@ -11,6 +11,7 @@
 #include <cmath>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -113,4 +114,5 @@ LabelExtent LabelDrawing::measure(int page) const
     return {m_label.width(), before * millimetres, after * millimetres, false};
 }
 
+} // namespace documents
 } // namespace host

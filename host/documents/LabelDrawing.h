@@ -5,6 +5,7 @@
 #include "LabelExtent.h"
 
 namespace host {
+inline namespace documents {
 
 /// Lays the document's pages on labels of one paper and draws them as they lie on the tape: the edge that
 /// leaves the printer first on the left, the length of the label from left to right. It keeps nothing, so
@@ -45,4 +46,5 @@ private:
     QSizeF m_label;
 };
 
+} // namespace documents
 } // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 namespace host {
+inline namespace documents {
 
 /// A page of the document as it lies on the tape; lengths along the tape in millimetres.
 struct LabelExtent {
@@ -17,4 +18,5 @@ struct LabelExtent {
     bool operator==(const LabelExtent &) const = default;
 };
 
+} // namespace documents
 } // namespace host

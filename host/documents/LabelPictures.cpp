@@ -9,6 +9,7 @@
 #include <chrono>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -102,4 +103,5 @@ void LabelPictures::dropUnseen()
     m_pictures = std::move(seen);
 }
 
+} // namespace documents
 } // namespace host

@@ -11,6 +11,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 /// The pictures of the labels that one widget shows, drawn in the background. It keeps pictures that are out
 /// of sight, too, as long as they need little memory.
@@ -63,4 +64,5 @@ private:
     bool m_isDrawing = false;
 };
 
+} // namespace documents
 } // namespace host

@@ -10,6 +10,7 @@
 #include <memory>
 
 namespace host {
+inline namespace documents {
 
 class BlankMeasurer;
 class LabelPictures;
@@ -60,4 +61,5 @@ private:
     mutable QCache<QPair<int, int>, QImage> m_images;
 };
 
+} // namespace documents
 } // namespace host

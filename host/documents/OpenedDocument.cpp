@@ -10,11 +10,12 @@
 #include <QLocale>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct OpenedDocumentText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 Result<QByteArray, DocumentProblem> readWhole(QFile &file, qint64 most)
@@ -107,4 +108,5 @@ std::optional<DocumentProblem> OpenedDocument::checkForPrinting() const
     return m_pages->checkPages();
 }
 
+} // namespace documents
 } // namespace host

@@ -9,6 +9,7 @@
 #include <memory>
 
 namespace host {
+inline namespace documents {
 
 /// One of the documents that were named: its pages, and the PDF that is sent. A PDF by name is sent as it
 /// is; everything else becomes a temporary PDF that is gone with the object, so that what is shown is what is
@@ -44,4 +45,5 @@ private:
     std::unique_ptr<PdfPages> m_pages;
 };
 
+} // namespace documents
 } // namespace host

@@ -2,6 +2,7 @@
 #include "PageCheck.h"
 
 namespace host {
+inline namespace documents {
 
 PageCheck::PageCheck(const LabelDocument &document, PageThread &thread)
     : m_document(document)
@@ -59,4 +60,5 @@ void PageCheck::store(int first, const std::vector<QSizeF> &sizes)
         m_document.setStatedPageSize(page++, size);
 }
 
+} // namespace documents
 } // namespace host

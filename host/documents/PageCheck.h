@@ -7,6 +7,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 /// Reads the sizes of a document's pages in the background, so that LabelDocument::checkForPrinting() has
 /// nothing left to read. It reads when nothing else is to be drawn or measured, until a job waits for it.
@@ -39,4 +40,5 @@ private:
     PageThread::Urgency m_urgency = PageThread::Urgency::Checked;
 };
 
+} // namespace documents
 } // namespace host

@@ -6,6 +6,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 /// Which pages come out, how often and in which order.
 struct PageChoices {
@@ -16,4 +17,5 @@ struct PageChoices {
     PageOrder order = PageOrder::FirstFirst;
 };
 
+} // namespace documents
 } // namespace host

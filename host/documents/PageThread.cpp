@@ -14,6 +14,7 @@
 #include <pthread.h>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -179,4 +180,5 @@ void PageThread::work(Queue &queue, LabelDocument::Source source)
     }
 }
 
+} // namespace documents
 } // namespace host

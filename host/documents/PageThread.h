@@ -11,6 +11,7 @@
 #include <thread>
 
 namespace host {
+inline namespace documents {
 
 /// A thread that draws and measures a document's pages with an instance of the document of its own, so that
 /// no event of a window waits for pdfium. Belongs to the main thread. The thread starts with its first task.
@@ -49,4 +50,5 @@ private:
     std::thread m_thread;
 };
 
+} // namespace documents
 } // namespace host

@@ -7,11 +7,12 @@
 #include <cmath>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct PdfPagesText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 std::optional<DocumentProblem> loadingProblem(QPdfDocument::Error error)
@@ -122,4 +123,5 @@ std::optional<DocumentProblem> PdfPages::checkPagesUpTo(int end) const
     return std::nullopt;
 }
 
+} // namespace documents
 } // namespace host

@@ -13,6 +13,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 /// Sizes of pages as the PDF states them, in points; absent for pages that are not read yet.
 using PageSizes = std::vector<std::optional<QSizeF>>;
@@ -76,4 +77,5 @@ private:
     mutable int m_checked = 0;
 };
 
+} // namespace documents
 } // namespace host

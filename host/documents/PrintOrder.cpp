@@ -8,11 +8,12 @@
 #include <limits>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct PrintOrderText {
-    Q_DECLARE_TR_FUNCTIONS(host::PrintOrder)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::PrintOrder)
 };
 
 struct Range {
@@ -174,4 +175,5 @@ std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument
     return order;
 }
 
+} // namespace documents
 } // namespace host

@@ -9,6 +9,7 @@
 #include <vector>
 
 namespace host {
+inline namespace documents {
 
 enum class PageRangeFailure {
     NotUnderstood, ///< something else than numbers and ranges
@@ -65,4 +66,5 @@ std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
 std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
                             PageOrder pageOrder = PageOrder::FirstFirst);
 
+} // namespace documents
 } // namespace host

@@ -9,11 +9,12 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct RegularFileText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 FileStamp stampOf(const struct stat &status)
@@ -78,4 +79,5 @@ std::optional<FileStamp> fileStamp(int descriptor)
     return stampOf(status);
 }
 
+} // namespace documents
 } // namespace host

@@ -9,6 +9,7 @@
 #include <optional>
 
 namespace host {
+inline namespace documents {
 
 /// Which file lies at a path, and in which state: another one put in its place, or other content, makes a
 /// different stamp.
@@ -36,4 +37,5 @@ std::optional<FileStamp> fileStamp(const QString &path);
 /// The state of a file that is open.
 std::optional<FileStamp> fileStamp(int descriptor);
 
+} // namespace documents
 } // namespace host

@@ -11,11 +11,12 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct StandardInputText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 /// Like read(), but waits for input that whoever started the program has set not to be waited for.
@@ -77,4 +78,5 @@ Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardIn
     return file;
 }
 
+} // namespace documents
 } // namespace host

@@ -8,6 +8,7 @@
 #include <memory>
 
 namespace host {
+inline namespace documents {
 
 /// The most bytes taken from standard input: 1 GiB, far more than any document of labels has, and a bound
 /// for what a program that never stops writing can fill.
@@ -22,4 +23,5 @@ DocumentProblem notStored(const platform::TemporaryFile &file);
 /// bytes; nothing is kept when there is more.
 Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardInput(qint64 limit = mostInput);
 
+} // namespace documents
 } // namespace host

@@ -8,6 +8,7 @@
 #include <array>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
@@ -102,4 +103,5 @@ std::optional<QRectF> parseViewBox(const QString &text)
     return QRectF(values[0], values[1], values[2], values[3]);
 }
 
+} // namespace documents
 } // namespace host

@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace host {
+inline namespace documents {
 
 /// The length in px at 96 an inch; nothing when there is none, or one that depends on something else.
 std::optional<double> lengthInPixels(const QString &length);
@@ -20,4 +21,5 @@ bool holdsLengths(QStringView attribute);
 /// The four numbers of a view box; nothing when they are not four.
 std::optional<QRectF> parseViewBox(const QString &text);
 
+} // namespace documents
 } // namespace host

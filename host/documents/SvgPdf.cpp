@@ -13,11 +13,12 @@
 #include <cmath>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct SvgPdfText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 constexpr double pointsPerPixel = 72.0 / 96.0;
@@ -100,4 +101,5 @@ std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf
     return std::nullopt;
 }
 
+} // namespace documents
 } // namespace host

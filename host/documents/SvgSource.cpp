@@ -13,11 +13,12 @@
 #include <algorithm>
 
 namespace host {
+inline namespace documents {
 
 namespace {
 
 struct SvgSourceText {
-    Q_DECLARE_TR_FUNCTIONS(host::LabelDocument)
+    Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
 /// What may be loaded or drawn in place of the element.
@@ -240,4 +241,5 @@ Result<SvgSource, DocumentProblem> SvgSource::read(const QByteArray &svg)
     return reader.takeSource();
 }
 
+} // namespace documents
 } // namespace host

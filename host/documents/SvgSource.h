@@ -9,6 +9,7 @@
 #include <optional>
 
 namespace host {
+inline namespace documents {
 
 /// An SVG after it has been looked through, written anew so that it can be drawn without reading anything
 /// else and in its right size: without a document type, with lengths in px at 96 an inch (the drawing code
@@ -33,4 +34,5 @@ struct SvgSource {
     static Result<SvgSource, DocumentProblem> read(const QByteArray &svg);
 };
 
+} // namespace documents
 } // namespace host

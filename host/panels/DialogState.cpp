@@ -4,6 +4,7 @@
 #include <platform/NotificationCenter.h>
 
 namespace host {
+inline namespace panels {
 
 const QString DialogState::ticketKey = QStringLiteral("com.tarvick.print.PrintSettingsTicket.LxE5");
 const QString DialogState::paperDidChange = QStringLiteral("PMPrintDestinationPaperDidChangeNotification");
@@ -44,4 +45,5 @@ void DialogState::changeOption(const std::optional<QString> &keyword, const std:
     }
 }
 
+} // namespace panels
 } // namespace host

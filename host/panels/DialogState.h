@@ -12,6 +12,7 @@
 #include <vector>
 
 namespace host {
+inline namespace panels {
 
 /// Receives the option changes of a DialogState.
 class OptionListener {
@@ -93,4 +94,5 @@ private:
     std::vector<OptionListener *> m_listeners;
 };
 
+} // namespace panels
 } // namespace host

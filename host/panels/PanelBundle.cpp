@@ -9,11 +9,12 @@
 #include <QPluginLoader>
 
 namespace host {
+inline namespace panels {
 
 namespace {
 
 struct PanelBundleText {
-    Q_DECLARE_TR_FUNCTIONS(host::PanelBundle)
+    Q_DECLARE_TR_FUNCTIONS(host::panels::PanelBundle)
 };
 
 BundleError failure(BundleFailure kind, const QString &folder, const QString &reason)
@@ -118,4 +119,5 @@ Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const 
     return bundle;
 }
 
+} // namespace panels
 } // namespace host

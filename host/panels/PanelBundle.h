@@ -12,6 +12,7 @@
 #include <optional>
 
 namespace host {
+inline namespace panels {
 
 /// Why a bundle could not be found or loaded.
 enum class BundleFailure {
@@ -60,4 +61,5 @@ private:
     std::unique_ptr<PDEPlugIn> m_plugIn;
 };
 
+} // namespace panels
 } // namespace host

@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 
 namespace host {
+inline namespace panels {
 
 PanelHost::PanelHost(std::shared_ptr<DialogState> state)
     : m_state(std::move(state))
@@ -64,4 +65,5 @@ void PanelHost::panelViewDidResize()
         m_didResize();
 }
 
+} // namespace panels
 } // namespace host

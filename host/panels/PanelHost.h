@@ -11,6 +11,7 @@
 #include <memory>
 
 namespace host {
+inline namespace panels {
 
 /// The callback object of one bundle's panels: it offers the session, settings, paper, printer and PPD of the
 /// dialog, and it is the only way in which these panels change a printer option. Each bundle has its own, so
@@ -64,4 +65,5 @@ private:
     std::function<void()> m_didResize;
 };
 
+} // namespace panels
 } // namespace host

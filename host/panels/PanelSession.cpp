@@ -4,11 +4,12 @@
 #include <QCoreApplication>
 
 namespace host {
+inline namespace panels {
 
 namespace {
 
 struct PanelSessionText {
-    Q_DECLARE_TR_FUNCTIONS(host::PrinterSetup)
+    Q_DECLARE_TR_FUNCTIONS(host::panels::PanelSession)
 };
 
 } // namespace
@@ -65,4 +66,5 @@ PanelSettings PanelSession::settings() const
     return settings;
 }
 
+} // namespace panels
 } // namespace host

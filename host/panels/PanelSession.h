@@ -5,6 +5,7 @@
 #include "PanelHost.h"
 
 namespace host {
+inline namespace panels {
 
 /// The panels of one bundle for one dialog: owns the bundle, the callback object and the panels, and destroys
 /// them in the right order. Move-only.
@@ -37,4 +38,5 @@ private:
     std::optional<PDEPanelList> m_panels;
 };
 
+} // namespace panels
 } // namespace host

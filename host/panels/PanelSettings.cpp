@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace panels {
 
 void setChoice(PDEChoices &choices, const QString &keyword, const QString &choice)
 {
@@ -25,4 +26,5 @@ std::optional<QString> PanelSettings::choice(const QString &keyword) const
     return findChoice(choices, keyword);
 }
 
+} // namespace panels
 } // namespace host

@@ -4,6 +4,7 @@
 #include <protocol/PDEUserChoices.h>
 
 namespace host {
+inline namespace panels {
 
 /// What a panel would do for a job that is printed now: the choices that it would save, and whether it lets
 /// the job be printed. Reading it from a panel changes nothing.
@@ -28,4 +29,5 @@ void setChoice(PDEChoices &choices, const QString &keyword, const QString &choic
 /// Returns the choice for the keyword; absent if the list does not contain the keyword.
 std::optional<QString> findChoice(const PDEChoices &choices, const QString &keyword);
 
+} // namespace panels
 } // namespace host

@@ -4,6 +4,7 @@
 #include "PanelSettings.h"
 
 namespace host {
+inline namespace panels {
 
 void RecordedChoices::record(const QString &keyword, const QString &choice)
 {
@@ -15,4 +16,5 @@ std::optional<QString> RecordedChoices::choice(const QString &keyword) const
     return findChoice(m_pairs, keyword);
 }
 
+} // namespace panels
 } // namespace host

@@ -8,6 +8,7 @@
 #include <vector>
 
 namespace host {
+inline namespace panels {
 
 /// The option choices that are recorded for a job: pairs of keyword and choice, each keyword once, in the
 /// order in which the keywords were first recorded.
@@ -27,4 +28,5 @@ private:
     std::vector<Pair> m_pairs;
 };
 
+} // namespace panels
 } // namespace host

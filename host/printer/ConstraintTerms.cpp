@@ -2,6 +2,7 @@
 #include "ConstraintTerms.h"
 
 namespace host {
+inline namespace printer {
 
 ConstraintTerms::ConstraintTerms(const PpdFile &ppd)
     : m_ppdOptions(ppd)
@@ -147,4 +148,5 @@ bool ConstraintTerms::holdsWith(int number, int choice) const
                                     : term.choice == choice;
 }
 
+} // namespace printer
 } // namespace host

@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace host {
+inline namespace printer {
 
 /// The terms of a PPD's constraints, "this option has this choice", each stored once and identified by a
 /// number. A PPD may have a hundred thousand constraints, so all lookups use hash tables. Used by
@@ -85,4 +86,5 @@ private:
     QHash<std::pair<int, int>, int> m_termNumbers;
 };
 
+} // namespace printer
 } // namespace host

@@ -6,11 +6,12 @@
 #include <algorithm>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
 struct ConstraintsText {
-    Q_DECLARE_TR_FUNCTIONS(host::Constraints)
+    Q_DECLARE_TR_FUNCTIONS(host::printer::Constraints)
 };
 
 QString quoted(const ConflictSide &side)
@@ -277,4 +278,5 @@ std::optional<Remedy> Constraints::remedy(const std::set<QString> &keep, const P
     return remedy;
 }
 
+} // namespace printer
 } // namespace host

@@ -6,6 +6,7 @@
 #include <set>
 
 namespace host {
+inline namespace printer {
 
 /// One of the choices of a conflict, with its texts for users.
 struct ConflictSide {
@@ -81,4 +82,5 @@ private:
     std::vector<Constraint> m_constraints;
 };
 
+} // namespace printer
 } // namespace host

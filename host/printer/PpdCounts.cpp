@@ -2,6 +2,7 @@
 #include "PpdCounts.h"
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
@@ -90,4 +91,5 @@ std::optional<PpdCounts::Excess> PpdCounts::excess() const
     return std::nullopt;
 }
 
+} // namespace printer
 } // namespace host

@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace host {
+inline namespace printer {
 
 /// Counts those statements of a PPD whose number determines how long libcups takes to read the file. To find
 /// an option, a group, a parameter or a paper size, libcups compares its name with all earlier names: a file
@@ -57,4 +58,5 @@ private:
     Excess m_mostChoices{{}, 0, maxChoices};
 };
 
+} // namespace printer
 } // namespace host

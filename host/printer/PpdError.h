@@ -4,6 +4,7 @@
 #include <host/base/Result.h>
 
 namespace host {
+inline namespace printer {
 
 /// Why a PPD file could not be opened.
 enum class PpdFailure {
@@ -16,4 +17,5 @@ enum class PpdFailure {
 };
 using PpdError = Failure<PpdFailure>;
 
+} // namespace printer
 } // namespace host

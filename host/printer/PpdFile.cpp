@@ -10,6 +10,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
@@ -250,4 +251,5 @@ QString PpdFile::choiceText(const QString &keyword, const QString &choice) const
     return found && found->text[0] ? QString::fromUtf8(found->text) : choice;
 }
 
+} // namespace printer
 } // namespace host

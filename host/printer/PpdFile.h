@@ -15,6 +15,7 @@
 #include <vector>
 
 namespace host {
+inline namespace printer {
 
 class PpdText;
 
@@ -126,4 +127,5 @@ private:
     PpdPaperSizes m_paperSizes;
 };
 
+} // namespace printer
 } // namespace host

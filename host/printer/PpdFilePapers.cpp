@@ -8,6 +8,7 @@
 #include <QSet>
 
 namespace host {
+inline namespace printer {
 
 std::optional<PpdPaper> PpdFile::fixedPaper(const QByteArray &name, const QString &text) const
 {
@@ -108,4 +109,5 @@ std::optional<PpdCustomLimits> PpdFile::customLimits() const
     return hasSizes ? std::optional(limits) : std::nullopt;
 }
 
+} // namespace printer
 } // namespace host

@@ -4,6 +4,7 @@
 #include "PpdFile.h"
 
 namespace host {
+inline namespace printer {
 
 /// Gives the panel host access to the ppd_file_t, which is part of the panel protocol. No other code uses it,
 /// so that a libcups without PPD support affects only the Ppd classes.
@@ -13,4 +14,5 @@ public:
     static ppd_file_t *handle(const PpdFile &ppd) { return ppd.handle(); }
 };
 
+} // namespace printer
 } // namespace host

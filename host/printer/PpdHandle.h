@@ -6,6 +6,7 @@
 #include <memory>
 
 namespace host {
+inline namespace printer {
 
 /// Closes a PPD that libcups has opened.
 struct PpdClose {
@@ -14,4 +15,5 @@ struct PpdClose {
 /// Owns a PPD that libcups has opened.
 using PpdHandle = std::unique_ptr<ppd_file_t, PpdClose>;
 
+} // namespace printer
 } // namespace host

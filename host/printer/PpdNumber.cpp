@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
@@ -84,4 +85,5 @@ QByteArray customPaperName(const QSizeF &points)
            ppdNumber(points.height() * millimetresPerPoint) + "mm";
 }
 
+} // namespace printer
 } // namespace host

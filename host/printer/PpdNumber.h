@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace host {
+inline namespace printer {
 
 /// Returns the number in the form of PPDs and job options, independent of the locale, rounded to four
 /// decimals without trailing zeros: "12.5".
@@ -24,4 +25,5 @@ QByteArray customPaperName(const QSizeF &points);
 /// unit as points, and filters would print on a paper of that size.
 std::optional<QSizeF> customPaperSize(const QByteArray &name);
 
+} // namespace printer
 } // namespace host

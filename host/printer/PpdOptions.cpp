@@ -14,11 +14,12 @@
 #include <tuple>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
 struct PpdOptionsText {
-    Q_DECLARE_TR_FUNCTIONS(host::PpdOptions)
+    Q_DECLARE_TR_FUNCTIONS(host::printer::PpdOptions)
 };
 
 /// Returns the text, or the name if the PPD does not have a text.
@@ -276,4 +277,5 @@ QByteArray freeChoiceValue(const std::vector<PpdParameter> &parameters)
     return '{' + values.join(' ') + '}';
 }
 
+} // namespace printer
 } // namespace host

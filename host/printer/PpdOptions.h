@@ -4,6 +4,7 @@
 #include "PpdFile.h"
 
 namespace host {
+inline namespace printer {
 
 /// The type of a custom option's parameter.
 enum class PpdParameterKind {
@@ -121,4 +122,5 @@ private:
 /// written in millimetres.
 QByteArray freeChoiceValue(const std::vector<PpdParameter> &parameters);
 
+} // namespace printer
 } // namespace host

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
@@ -81,4 +82,5 @@ std::optional<QMarginsF> PpdPaperSizes::margins(const QByteArray &paper) const
     return QMarginsF(found->left, whole->height() - found->top, whole->width() - found->right, found->bottom);
 }
 
+} // namespace printer
 } // namespace host

@@ -10,6 +10,7 @@
 #include <string_view>
 
 namespace host {
+inline namespace printer {
 
 /// The sizes and margins of a PPD's papers, from statements such as *PaperDimension W24H60/Tape: "68 170".
 /// Names are exact: libcups treats papers whose names differ only in case as one, and keeps one size for all
@@ -50,4 +51,5 @@ private:
     QHash<QByteArray, Area> m_areas;
 };
 
+} // namespace printer
 } // namespace host

@@ -11,11 +11,12 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
 struct PpdSourceText {
-    Q_DECLARE_TR_FUNCTIONS(host::PpdFile)
+    Q_DECLARE_TR_FUNCTIONS(host::printer::PpdFile)
 };
 
 PpdError failure(PpdFailure kind, const QString &path, const QString &reason)
@@ -153,4 +154,5 @@ Result<PpdHandle, PpdError> PpdSource::parse()
     return ppd;
 }
 
+} // namespace printer
 } // namespace host

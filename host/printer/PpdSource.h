@@ -8,6 +8,7 @@
 #include <cups/file.h>
 
 namespace host {
+inline namespace printer {
 
 /// The file from which a PPD is read. It is opened once, checked in bounded memory and then passed to libcups
 /// with the same descriptor, so that replacing the file meanwhile cannot circumvent the checks.
@@ -40,4 +41,5 @@ private:
     std::unique_ptr<cups_file_t, Close> m_file;
 };
 
+} // namespace printer
 } // namespace host

@@ -2,6 +2,7 @@
 #include "PpdText.h"
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
@@ -68,4 +69,5 @@ void PpdText::endLine()
     m_colon = false;
 }
 
+} // namespace printer
 } // namespace host

@@ -9,6 +9,7 @@
 #include <string_view>
 
 namespace host {
+inline namespace printer {
 
 /// Scans the text of a PPD, piece by piece, for what libcups does not provide.
 ///
@@ -53,4 +54,5 @@ private:
     PpdPaperSizes m_paperSizes;
 };
 
+} // namespace printer
 } // namespace host

@@ -7,6 +7,7 @@
 #include <cctype>
 
 namespace host {
+inline namespace printer {
 
 namespace {
 
@@ -80,4 +81,5 @@ std::optional<QByteArray> PpdTranslations::text(const QString &language, const Q
     return std::nullopt;
 }
 
+} // namespace printer
 } // namespace host

@@ -9,6 +9,7 @@
 #include <string_view>
 
 namespace host {
+inline namespace printer {
 
 /// The translations of a PPD in all its languages, from statements such as *de.PageSize W24H60/Band: "" and
 /// *pt_BR.Translation KvHalfCut/Meio corte: "".
@@ -28,4 +29,5 @@ private:
     QHash<QByteArray, QByteArray> m_texts;
 };
 
+} // namespace printer
 } // namespace host

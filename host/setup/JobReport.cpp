@@ -13,11 +13,12 @@
 #include <cmath>
 
 namespace host {
+inline namespace setup {
 
 namespace {
 
 struct JobReportText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobReport)
+    Q_DECLARE_TR_FUNCTIONS(host::setup::JobReport)
 };
 
 QString originKey(Origin origin)
@@ -149,4 +150,5 @@ QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, 
             {"options", choicesJson(ticket)},    {"plan", cutPlanJson(plan)}};
 }
 
+} // namespace setup
 } // namespace host

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 
 namespace host {
+inline namespace setup {
 
 /// A job that is not sent: what the server would be given. For a terminal.
 QString ticketInPlainText(const CupsServer &server, const Ticket &ticket);
@@ -23,4 +24,5 @@ QJsonObject ticketJson(const CupsServer &server, const Ticket &ticket);
 QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, const QString &ppdPath,
                            const CutPlan &plan);
 
+} // namespace setup
 } // namespace host

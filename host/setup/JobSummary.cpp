@@ -8,11 +8,12 @@
 #include <QLocale>
 
 namespace host {
+inline namespace setup {
 
 namespace {
 
 struct JobSummaryText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobSummary)
+    Q_DECLARE_TR_FUNCTIONS(host::setup::JobSummary)
 };
 
 QString number(std::size_t value)
@@ -99,4 +100,5 @@ QJsonArray summaryJson(const std::vector<SummarySection> &sections)
     return list;
 }
 
+} // namespace setup
 } // namespace host

@@ -11,6 +11,7 @@
 #include <vector>
 
 namespace host {
+inline namespace setup {
 
 /// Lines of a summary under one title.
 struct SummarySection {
@@ -28,4 +29,5 @@ QString summaryInPlainText(const std::vector<SummarySection> &sections);
 /// For programs: a list of sections, each with "title" and "lines" of "title" and "value".
 QJsonArray summaryJson(const std::vector<SummarySection> &sections);
 
+} // namespace setup
 } // namespace host

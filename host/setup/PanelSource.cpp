@@ -4,11 +4,12 @@
 #include <QCoreApplication>
 
 namespace host {
+inline namespace setup {
 
 namespace {
 
 struct PanelSourceText {
-    Q_DECLARE_TR_FUNCTIONS(host::PanelSource)
+    Q_DECLARE_TR_FUNCTIONS(host::setup::PanelSource)
 };
 
 PanelError bundleError(const BundleError &error)
@@ -50,4 +51,5 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
     return panels;
 }
 
+} // namespace setup
 } // namespace host

@@ -4,6 +4,7 @@
 #include <host/panels/PanelSession.h>
 
 namespace host {
+inline namespace setup {
 
 enum class PanelFailure {
     NoPanel,      ///< no bundle, or one that is of no use here: the dialog goes on without it
@@ -30,4 +31,5 @@ struct PanelSource {
     Result<ClaimedPanels, PanelError> panelsFor(const std::shared_ptr<DialogState> &state) const;
 };
 
+} // namespace setup
 } // namespace host

@@ -9,11 +9,12 @@
 #include <algorithm>
 
 namespace host {
+inline namespace setup {
 
 namespace {
 
 struct PrinterSetupText {
-    Q_DECLARE_TR_FUNCTIONS(host::PrinterSetup)
+    Q_DECLARE_TR_FUNCTIONS(host::setup::PrinterSetup)
 };
 
 platform::Paper panelPaper(const PpdPaper &paper)
@@ -371,4 +372,5 @@ void PrinterSetup::setDidChangeHook(std::function<void()> hook)
         host->setDidChangeHook(std::move(hook));
 }
 
+} // namespace setup
 } // namespace host

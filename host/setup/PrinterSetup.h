@@ -4,10 +4,11 @@
 #include "SetupPanels.h"
 
 #include <host/cups/jobs/ChoiceCheck.h>
-#include <host/printer/Constraints.h>
 #include <host/cups/jobs/JobOptions.h>
+#include <host/printer/Constraints.h>
 
 namespace host {
+inline namespace setup {
 
 /// What is wanted of a printer from the beginning: by the command line, or because it was set for the same
 /// queue before.
@@ -141,4 +142,5 @@ private:
     int m_notedCombinations = 0;
 };
 
+} // namespace setup
 } // namespace host

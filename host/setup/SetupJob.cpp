@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 namespace host {
+inline namespace setup {
 
 Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft)
 {
@@ -25,4 +26,5 @@ QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document)
     return setup && setup->paper() ? setup->paper()->size : document.pageSize(0).transposed();
 }
 
+} // namespace setup
 } // namespace host

@@ -5,6 +5,7 @@
 #include "Ticket.h"
 
 namespace host {
+inline namespace setup {
 
 /// The job as it would be sent to the printer now. The panel is asked what it would save; nothing changes.
 Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft);
@@ -16,4 +17,5 @@ QString defaultTitle(const LabelDocument &document);
 /// printer is not known) one on which the first page stands as it is read.
 QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document);
 
+} // namespace setup
 } // namespace host

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace setup {
 
 SetupKeeper::SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent)
     : QObject(parent)
@@ -118,4 +119,5 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
         m_firstChoices = m_setup->choicesNow();
 }
 
+} // namespace setup
 } // namespace host

@@ -8,6 +8,7 @@
 #include <map>
 
 namespace host {
+inline namespace setup {
 
 /// Keeps the setup of the printer that is chosen now. As a server's answers come in, or the user chooses
 /// another queue, one setup takes the place of another, and what was chosen moves along as far as the new PPD
@@ -62,4 +63,5 @@ private:
     bool m_ppdIsLate = false;
 };
 
+} // namespace setup
 } // namespace host

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace setup {
 
 SetupPanels::SetupPanels(std::shared_ptr<DialogState> state)
     : m_state(std::move(state))
@@ -215,4 +216,5 @@ void SetupPanels::apply(const PDEChoices &choices)
         controls->applyUserChoices(choices);
 }
 
+} // namespace setup
 } // namespace host

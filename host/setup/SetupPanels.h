@@ -6,6 +6,7 @@
 #include <QVariantMap>
 
 namespace host {
+inline namespace setup {
 
 /// A choice that the panel's rules have replaced, although it was asked for.
 struct ReplacedChoice {
@@ -94,4 +95,5 @@ private:
     mutable bool m_isAsking = false;
 };
 
+} // namespace setup
 } // namespace host

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace setup {
 
 namespace {
 
@@ -103,4 +104,5 @@ CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const Labe
     return CutPlan::make(ticket.cuts, order, extents, leadingMargin);
 }
 
+} // namespace setup
 } // namespace host

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/printer/Constraints.h>
 #include <host/cups/jobs/JobTicket.h>
 #include <host/documents/LabelRenderer.h>
 #include <host/documents/PageChoices.h>
 #include <host/panels/PanelSettings.h>
+#include <host/printer/Constraints.h>
 #include <host/strip/CutPlan.h>
 
 namespace host {
+inline namespace setup {
 
 /// What is set for the job beside the printer's own options.
 struct JobDraft {
@@ -74,4 +75,5 @@ Ticket makeTicket(const TicketSource &source);
 /// The plan of cuts of a ticket that has a paper, for the pages as the renderer lays them on that paper.
 CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const LabelRenderer &renderer);
 
+} // namespace setup
 } // namespace host

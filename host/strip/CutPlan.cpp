@@ -5,6 +5,7 @@
 #include <numeric>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
@@ -80,4 +81,5 @@ double CutPlan::stripLength() const
                            [](double sum, const PlannedLabel &label) { return sum + label.length; });
 }
 
+} // namespace strip
 } // namespace host

@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace host {
+inline namespace strip {
 
 /// What the printer does to the tape after a label.
 struct LabelEnd {
@@ -94,4 +95,5 @@ private:
     bool m_isMeasured = true;
 };
 
+} // namespace strip
 } // namespace host

@@ -9,11 +9,12 @@
 #include <cmath>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
 struct CutPlanWordsText {
-    Q_DECLARE_TR_FUNCTIONS(host::CutPlan)
+    Q_DECLARE_TR_FUNCTIONS(host::strip::CutPlan)
 };
 
 bool any(const CutPlan &plan, bool LabelEnd::*what)
@@ -134,4 +135,5 @@ QJsonObject cutPlanJson(const CutPlan &plan)
             {"tapeUsed", lengthJson(plan.tapeUsed(), plan.isMeasured())}};
 }
 
+} // namespace strip
 } // namespace host

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 namespace host {
+inline namespace strip {
 
 /// Returns a length such as "36.5 mm" in the number format of the user's locale, with at most one decimal.
 QString lengthInWords(double millimetres);
@@ -26,4 +27,5 @@ QStringList cutPlanSentences(const CutPlan &plan);
 /// null until they are measured.
 QJsonObject cutPlanJson(const CutPlan &plan);
 
+} // namespace strip
 } // namespace host

@@ -5,6 +5,7 @@
 #include <utility>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
@@ -61,4 +62,5 @@ CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &reco
     return settings;
 }
 
+} // namespace strip
 } // namespace host

@@ -5,6 +5,7 @@
 #include <host/printer/PpdFile.h>
 
 namespace host {
+inline namespace strip {
 
 /// How the labels of a job are cut and finished, according to its option choices. Settings whose options are
 /// missing in the PPD are off.
@@ -41,4 +42,5 @@ struct CutSettings {
     static CutSettings fromJob(const PpdFile &ppd, const RecordedChoices &recorded);
 };
 
+} // namespace strip
 } // namespace host

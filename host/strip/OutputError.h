@@ -4,6 +4,7 @@
 #include <host/base/Result.h>
 
 namespace host {
+inline namespace strip {
 
 /// Why output files could not be written.
 enum class OutputFailure {
@@ -12,4 +13,5 @@ enum class OutputFailure {
 };
 using OutputError = Failure<OutputFailure>;
 
+} // namespace strip
 } // namespace host

@@ -8,11 +8,12 @@
 #include <QFileInfo>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
 struct OutputFilesText {
-    Q_DECLARE_TR_FUNCTIONS(host::VirtualPrinter)
+    Q_DECLARE_TR_FUNCTIONS(host::strip::VirtualPrinter)
 };
 
 } // namespace
@@ -87,4 +88,5 @@ Result<void, OutputError> OutputFiles::commit()
     return m_outcome;
 }
 
+} // namespace strip
 } // namespace host

@@ -9,6 +9,7 @@
 #include <memory>
 
 namespace host {
+inline namespace strip {
 
 /// Writes several files to a folder so that either all of them appear there or none. Each file is first
 /// written to a temporary file beside its final path; commit() moves all of them into place once all are
@@ -41,4 +42,5 @@ private:
     bool m_done = false;
 };
 
+} // namespace strip
 } // namespace host

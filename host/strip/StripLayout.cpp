@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
@@ -79,4 +80,5 @@ std::pair<std::size_t, std::size_t> StripLayout::piecesBetween(double left, doub
             static_cast<std::size_t>(std::max(first, end) - pieces.begin())};
 }
 
+} // namespace strip
 } // namespace host

@@ -8,6 +8,7 @@
 #include <utility>
 
 namespace host {
+inline namespace strip {
 
 /// The positions of all parts of a drawn strip, in millimetres: x runs along the tape from the end that left
 /// the printer first, y across the tape; the upper edge of the tape is y = 0. Pieces are drawn with gaps
@@ -50,4 +51,5 @@ private:
     std::vector<double> m_labelStarts;
 };
 
+} // namespace strip
 } // namespace host

@@ -10,11 +10,12 @@
 #include <QPalette>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
 struct StripPainterText {
-    Q_DECLARE_TR_FUNCTIONS(host::StripPainter)
+    Q_DECLARE_TR_FUNCTIONS(host::strip::StripPainter)
 };
 
 const QColor backingColor(0xd8, 0xc3, 0x94);
@@ -297,4 +298,5 @@ void StripPainter::paintText(QPainter &painter, const QRectF &area, const QStrin
     painter.restore();
 }
 
+} // namespace strip
 } // namespace host

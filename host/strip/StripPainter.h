@@ -12,6 +12,7 @@ class QPainter;
 class QPalette;
 
 namespace host {
+inline namespace strip {
 
 /// The colours of everything that is drawn beside the tape. The tape itself always has the colours of labels.
 struct StripColors {
@@ -64,4 +65,5 @@ private:
     double m_resolution;
 };
 
+} // namespace strip
 } // namespace host

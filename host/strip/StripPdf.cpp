@@ -9,11 +9,12 @@
 #include <QPdfWriter>
 
 namespace host {
+inline namespace strip {
 
 namespace {
 
 struct StripPdfText {
-    Q_DECLARE_TR_FUNCTIONS(host::StripPdf)
+    Q_DECLARE_TR_FUNCTIONS(host::strip::StripPdf)
 };
 
 /// In millimetres. The length of a PDF page is limited to 5080 mm.
@@ -143,4 +144,5 @@ bool writeStripPdf(const PrintedStrip &strip, QIODevice *device)
     return PdfStrip(strip, device).write();
 }
 
+} // namespace strip
 } // namespace host

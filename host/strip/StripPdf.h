@@ -8,6 +8,7 @@
 class QIODevice;
 
 namespace host {
+inline namespace strip {
 
 /// A strip to be written as a PDF, with the texts of its heading.
 struct PrintedStrip {
@@ -25,4 +26,5 @@ struct PrintedStrip {
 /// if the device cannot hold the whole PDF.
 bool writeStripPdf(const PrintedStrip &strip, QIODevice *device);
 
+} // namespace strip
 } // namespace host

@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 
 namespace host {
+inline namespace strip {
 
 const QString VirtualPrinter::stripName = QStringLiteral("strip.pdf");
 const QString VirtualPrinter::jobName = QStringLiteral("job.json");
@@ -47,4 +48,5 @@ QString VirtualPrinter::freshFolder()
     return folder;
 }
 
+} // namespace strip
 } // namespace host

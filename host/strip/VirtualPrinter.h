@@ -8,6 +8,7 @@
 #include <QJsonObject>
 
 namespace host {
+inline namespace strip {
 
 /// A printer without a print server: it writes the label strip as a PDF and the options of the job as JSON to
 /// a folder.
@@ -31,4 +32,5 @@ public:
     static QString freshFolder();
 };
 
+} // namespace strip
 } // namespace host

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 
 namespace platform {
+inline namespace controls {
 
 void Alert::runModal(QWidget *above) const
 {
@@ -16,4 +17,5 @@ void Alert::runModal(QWidget *above) const
     box.exec();
 }
 
+} // namespace controls
 } // namespace platform

@@ -6,6 +6,7 @@
 class QWidget;
 
 namespace platform {
+inline namespace controls {
 
 /// A message that must be read before the work goes on.
 struct Alert {
@@ -18,4 +19,5 @@ struct Alert {
     void runModal(QWidget *above) const;
 };
 
+} // namespace controls
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <QToolTip>
 
 namespace platform {
+inline namespace controls {
 
 CheckBox::CheckBox(QWidget *parent)
     : QCheckBox(parent)
@@ -39,4 +40,5 @@ void CheckBox::paintEvent(QPaintEvent *)
     painter.drawControl(QStyle::CE_CheckBox, option);
 }
 
+} // namespace controls
 } // namespace platform

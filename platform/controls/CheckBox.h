@@ -4,6 +4,7 @@
 #include <QCheckBox>
 
 namespace platform {
+inline namespace controls {
 
 /// A check box on a panel of fixed width: a title that is too long for it, as a translated option text
 /// of a PPD may be, ends in an ellipsis and is told whole in the tool tip.
@@ -21,4 +22,5 @@ private:
     QString shownTitle() const;
 };
 
+} // namespace controls
 } // namespace platform

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -70,4 +71,5 @@ void CheckBoxAccess::doAction(const QString &name)
         QAccessibleWidget::doAction(name);
 }
 
+} // namespace controls
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 
 namespace platform {
+inline namespace controls {
 
 class CheckBox;
 
@@ -23,4 +24,5 @@ private:
     CheckBox *box() const;
 };
 
+} // namespace controls
 } // namespace platform

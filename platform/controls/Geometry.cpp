@@ -5,6 +5,7 @@
 #include <QWidget>
 
 namespace platform {
+inline namespace controls {
 
 QRectF frameFromBottom(const QWidget *widget)
 {
@@ -32,4 +33,5 @@ QPointF pointFromString(const QString &text)
     return xIsNumber && yIsNumber ? point : QPointF();
 }
 
+} // namespace controls
 } // namespace platform

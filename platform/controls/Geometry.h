@@ -8,6 +8,7 @@
 class QWidget;
 
 namespace platform {
+inline namespace controls {
 
 /// A widget's frame in its parent's coordinates with y growing upwards from the parent's bottom edge:
 /// the coordinates in which the panel's layout rules are written. Points; the origin is the frame's
@@ -22,4 +23,5 @@ void setBottomEdge(QWidget *widget, double y, double parentHeight);
 /// brace, blanks allowed between. The zero point when the text is anything else.
 QPointF pointFromString(const QString &text);
 
+} // namespace controls
 } // namespace platform

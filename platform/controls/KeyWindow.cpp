@@ -5,6 +5,7 @@
 #include <QWidget>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -30,4 +31,5 @@ void setKeyWindowQuery(std::function<std::optional<double>()> replacement)
     query() = std::move(replacement);
 }
 
+} // namespace controls
 } // namespace platform

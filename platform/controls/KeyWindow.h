@@ -5,6 +5,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace controls {
 
 /// The window that takes the keyboard. The height is in points, title bar included; nothing when no
 /// window of the application takes the keyboard.
@@ -14,4 +15,5 @@ std::optional<double> keyWindowFrameHeight();
 /// without windows on a screen answers for the window it stands for.
 void setKeyWindowQuery(std::function<std::optional<double>()> query);
 
+} // namespace controls
 } // namespace platform

@@ -14,6 +14,7 @@
 #include <QUiLoader>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -109,4 +110,5 @@ LayoutLoader::Result LayoutLoader::load(const QString &path)
     return {std::move(view), {}};
 }
 
+} // namespace controls
 } // namespace platform

@@ -8,6 +8,7 @@
 #include <memory>
 
 namespace platform {
+inline namespace controls {
 
 /// Builds a panel's view from its layout file (Qt Designer's format).
 ///
@@ -35,4 +36,5 @@ public:
     static Result load(const QString &path);
 };
 
+} // namespace controls
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <QStyledItemDelegate>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -140,4 +141,5 @@ void PopUpButton::wheelEvent(QWheelEvent *event)
     QComboBox::wheelEvent(event);
 }
 
+} // namespace controls
 } // namespace platform

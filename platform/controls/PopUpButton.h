@@ -7,6 +7,7 @@
 #include <functional>
 
 namespace platform {
+inline namespace controls {
 
 /// A pop-up button whose items are known by tags, and whose items may be greyed by their owner at the
 /// moment the pop-up opens.
@@ -69,4 +70,5 @@ private:
     QSize m_popUpIconSize;
 };
 
+} // namespace controls
 } // namespace platform

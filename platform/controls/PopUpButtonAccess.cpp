@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -117,4 +118,5 @@ QVariant PopUpButtonAccess::maximumValue() const
     return popUp()->count() - 1;
 }
 
+} // namespace controls
 } // namespace platform

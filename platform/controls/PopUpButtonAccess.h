@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 
 namespace platform {
+inline namespace controls {
 
 class PopUpButton;
 
@@ -38,4 +39,5 @@ private:
     QString spokenText(int position) const;
 };
 
+} // namespace controls
 } // namespace platform

@@ -5,6 +5,7 @@
 #include <QStylePainter>
 
 namespace platform {
+inline namespace controls {
 
 StaticText::StaticText(QWidget *parent)
     : QLabel(parent)
@@ -31,4 +32,5 @@ void StaticText::paintEvent(QPaintEvent *)
                          enabled, shown, foregroundRole());
 }
 
+} // namespace controls
 } // namespace platform

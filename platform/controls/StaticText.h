@@ -4,6 +4,7 @@
 #include <QLabel>
 
 namespace platform {
+inline namespace controls {
 
 /// The two colours of a control's text.
 enum class ControlTextColor { Enabled, Disabled };
@@ -33,4 +34,5 @@ private:
     ControlTextColor m_color = ControlTextColor::Enabled;
 };
 
+} // namespace controls
 } // namespace platform

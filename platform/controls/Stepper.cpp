@@ -14,6 +14,7 @@
 #include <algorithm>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -175,4 +176,5 @@ void Stepper::paintEvent(QPaintEvent *)
     painter.drawLine(QPointF(1, middle), QPointF(width() - 1, middle));
 }
 
+} // namespace controls
 } // namespace platform

@@ -9,6 +9,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace controls {
 
 /// Two small arrows, one above the other, that count a number up and down. The number itself is shown
 /// by another control, a text field beside the stepper.
@@ -71,4 +72,5 @@ private:
     QBasicTimer m_repeat;
 };
 
+} // namespace controls
 } // namespace platform

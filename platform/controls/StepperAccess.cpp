@@ -8,6 +8,7 @@
 #include <cmath>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -89,4 +90,5 @@ QVariant StepperAccess::minimumValue() const
     return stepper()->minimum();
 }
 
+} // namespace controls
 } // namespace platform

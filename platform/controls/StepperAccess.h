@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 
 namespace platform {
+inline namespace controls {
 
 class Stepper;
 
@@ -29,4 +30,5 @@ private:
     Stepper *stepper() const;
 };
 
+} // namespace controls
 } // namespace platform

@@ -2,6 +2,7 @@
 #include "TextField.h"
 
 namespace platform {
+inline namespace controls {
 
 TextField::TextField(QWidget *parent)
     : QLineEdit(parent)
@@ -19,4 +20,5 @@ void TextField::enterText(const QString &text)
         insert(text);
 }
 
+} // namespace controls
 } // namespace platform

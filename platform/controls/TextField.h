@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 namespace platform {
+inline namespace controls {
 
 /// A text field that reports every edit of the user by textEdited(), those by assistive technology included.
 class TextField : public QLineEdit {
@@ -18,4 +19,5 @@ public:
     int offsetAt(QPoint point) { return cursorPositionAt(point); }
 };
 
+} // namespace controls
 } // namespace platform

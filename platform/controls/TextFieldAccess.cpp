@@ -8,6 +8,7 @@
 #include <algorithm>
 
 namespace platform {
+inline namespace controls {
 
 namespace {
 
@@ -166,4 +167,5 @@ void TextFieldAccess::replaceText(int start, int end, const QString &text)
     field()->enterText(field()->text().replace(first, std::max(end - first, 0), text));
 }
 
+} // namespace controls
 } // namespace platform

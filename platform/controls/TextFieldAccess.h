@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 
 namespace platform {
+inline namespace controls {
 
 class TextField;
 
@@ -44,4 +45,5 @@ private:
     TextField *field() const;
 };
 
+} // namespace controls
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <ctime>
 
 namespace platform {
+inline namespace files {
 
 BrokenPipeSilence::BrokenPipeSilence()
 {
@@ -24,4 +25,5 @@ BrokenPipeSilence::~BrokenPipeSilence()
     pthread_sigmask(SIG_SETMASK, &m_previousMask, nullptr);
 }
 
+} // namespace files
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <csignal>
 
 namespace platform {
+inline namespace files {
 
 /// Keeps a write to a pipe without a reader from raising SIGPIPE in the calling thread while the object
 /// lives; the write fails with EPIPE all the same.
@@ -24,4 +25,5 @@ private:
     bool m_raised = false;
 };
 
+} // namespace files
 } // namespace platform

@@ -12,11 +12,12 @@
 #include <unistd.h>
 
 namespace platform {
+inline namespace files {
 
 namespace {
 
 struct OutputFileText {
-    Q_DECLARE_TR_FUNCTIONS(platform::OutputFile)
+    Q_DECLARE_TR_FUNCTIONS(platform::files::OutputFile)
 };
 
 /// Why nothing is written to what is there; nothing for what can be replaced or written to.
@@ -160,4 +161,5 @@ bool OutputFile::writeAll(int descriptor)
     return true;
 }
 
+} // namespace files
 } // namespace platform

@@ -11,6 +11,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace files {
 
 /// A file that the program writes where the user says. It takes its place whole or not at all, can be read by
 /// this user only (0600), and replaces nothing but a regular file:
@@ -59,4 +60,5 @@ private:
     bool m_hasPlacedFile = false;
 };
 
+} // namespace files
 } // namespace platform

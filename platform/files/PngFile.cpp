@@ -6,6 +6,7 @@
 #include <zlib.h>
 
 namespace platform {
+inline namespace files {
 
 namespace {
 
@@ -65,4 +66,5 @@ std::optional<QSize> sizeOfIntactPng(const QByteArray &bytes)
     return size;
 }
 
+} // namespace files
 } // namespace platform

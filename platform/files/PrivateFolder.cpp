@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 namespace platform {
+inline namespace files {
 
 namespace {
 
@@ -48,4 +49,5 @@ void closeToOthers(const QString &folder)
         ::chmod(name.constData(), S_IRWXU);
 }
 
+} // namespace files
 } // namespace platform

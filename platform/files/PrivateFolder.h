@@ -6,6 +6,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace files {
 
 /// Makes the folder, with those above it that are missing, for this user alone (0700), whatever the umask is.
 /// Folders that are there stay as they are. Nothing when the folder is there afterwards, else why it is not.
@@ -15,4 +16,5 @@ std::optional<QString> makePrivateFolders(const QString &folder);
 /// where the system does not permit it.
 void closeToOthers(const QString &folder);
 
+} // namespace files
 } // namespace platform

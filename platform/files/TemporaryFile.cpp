@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 namespace platform {
+inline namespace files {
 
 namespace {
 
@@ -133,4 +134,5 @@ void TemporaryFile::removeLeftOvers(const QString &folder)
         removeAbandoned(QFile::encodeName(files.next()));
 }
 
+} // namespace files
 } // namespace platform

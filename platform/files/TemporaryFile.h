@@ -4,6 +4,7 @@
 #include <QFile>
 
 namespace platform {
+inline namespace files {
 
 /// A file that only this user can read and write (0600), whatever the umask is; gone with the object.
 ///
@@ -38,4 +39,5 @@ private:
     bool m_isTemporary = false;
 };
 
+} // namespace files
 } // namespace platform

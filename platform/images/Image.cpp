@@ -12,6 +12,7 @@
 #include <algorithm>
 
 namespace platform {
+inline namespace images {
 
 namespace {
 
@@ -128,4 +129,5 @@ void Image::drawInRect(QPainter &painter, const QRectF &rect, const QPalette &pa
     painter.restore();
 }
 
+} // namespace images
 } // namespace platform

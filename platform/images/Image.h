@@ -15,6 +15,7 @@ class QPainter;
 class QPalette;
 
 namespace platform {
+inline namespace images {
 
 /// A picture from a file, drawn at its natural size. Beside NAME.png there may lie NAME@2x.png with
 /// twice the pixels for dense screens, and NAME-dark.png and NAME-dark@2x.png for dark themes.
@@ -59,4 +60,5 @@ private:
     std::array<ImageVariant, variantCount> m_variants;
 };
 
+} // namespace images
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <QPalette>
 
 namespace platform {
+inline namespace images {
 
 namespace {
 
@@ -49,4 +50,5 @@ QIcon iconFromImage(std::shared_ptr<const Image> image)
     return image ? QIcon(new ImageIconEngine(std::move(image))) : QIcon();
 }
 
+} // namespace images
 } // namespace platform

@@ -6,9 +6,11 @@
 #include <QIcon>
 
 namespace platform {
+inline namespace images {
 
 /// An icon that draws the picture, always in the variant that suits the application's theme. A null icon for
 /// no picture.
 QIcon iconFromImage(std::shared_ptr<const Image> image);
 
+} // namespace images
 } // namespace platform

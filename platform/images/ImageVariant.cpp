@@ -6,6 +6,7 @@
 #include <QFile>
 
 namespace platform {
+inline namespace images {
 
 ImageVariant::ImageVariant(const QString &path)
 {
@@ -33,4 +34,5 @@ const QPixmap &ImageVariant::pixmap() const
     return m_pixmap;
 }
 
+} // namespace images
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <QString>
 
 namespace platform {
+inline namespace images {
 
 /// One file of a picture, held in memory and decoded when it is first drawn.
 class ImageVariant {
@@ -29,4 +30,5 @@ private:
     mutable QPixmap m_pixmap;
 };
 
+} // namespace images
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 namespace platform {
+inline namespace system {
 
 namespace {
 
@@ -86,4 +87,5 @@ std::optional<QString> Bundle::pathForLayout(const QString &name) const
     return existingFile(m_path + QStringLiteral("/Resources/") + name + QStringLiteral(".ui"));
 }
 
+} // namespace system
 } // namespace platform

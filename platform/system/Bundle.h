@@ -9,6 +9,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace system {
 
 /// A folder that holds a loadable library and, in Resources/, what it needs at run time: layout
 /// files, pictures and translated texts.
@@ -48,4 +49,5 @@ private:
     std::vector<std::unique_ptr<QTranslator>> m_catalogues;
 };
 
+} // namespace system
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 namespace platform {
+inline namespace system {
 
 namespace {
 
@@ -30,4 +31,5 @@ void setLogSink(std::function<void(const QString &)> replacement)
     sink() = std::move(replacement);
 }
 
+} // namespace system
 } // namespace platform

@@ -6,6 +6,7 @@
 #include <functional>
 
 namespace platform {
+inline namespace system {
 
 /// Writes one record to the system log, which on this platform is standard error: the text and a
 /// line end, in one write.
@@ -14,4 +15,5 @@ void log(const QString &text);
 /// Sends the records elsewhere; an empty function brings standard error back.
 void setLogSink(std::function<void(const QString &)> sink);
 
+} // namespace system
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace platform {
+inline namespace system {
 
 NotificationCenter &NotificationCenter::defaultCenter()
 {
@@ -54,4 +55,5 @@ void NotificationCenter::post(const Notification &notification)
     }
 }
 
+} // namespace system
 } // namespace platform

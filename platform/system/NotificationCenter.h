@@ -8,6 +8,7 @@
 #include <vector>
 
 namespace platform {
+inline namespace system {
 
 /// One announcement: its name and the object it is about.
 struct Notification {
@@ -62,4 +63,5 @@ private:
     std::uint64_t m_nextId = 1;
 };
 
+} // namespace system
 } // namespace platform

@@ -2,6 +2,7 @@
 #include "PrintSession.h"
 
 namespace platform {
+inline namespace system {
 
 std::optional<std::int32_t> PrintSession::data(const QString &key) const
 {
@@ -11,4 +12,5 @@ std::optional<std::int32_t> PrintSession::data(const QString &key) const
     return *found;
 }
 
+} // namespace system
 } // namespace platform

@@ -8,6 +8,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace system {
 
 /// One run of a print dialog, with the values that components of a printer's software leave there for
 /// each other.
@@ -21,4 +22,5 @@ private:
     QMap<QString, std::int32_t> m_data;
 };
 
+} // namespace system
 } // namespace platform

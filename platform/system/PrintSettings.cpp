@@ -2,6 +2,7 @@
 #include "PrintSettings.h"
 
 namespace platform {
+inline namespace system {
 
 std::optional<QVariant> PrintSettings::value(const QString &key) const
 {
@@ -21,4 +22,5 @@ void PrintSettings::remove(const QString &key)
     m_values.remove(key);
 }
 
+} // namespace system
 } // namespace platform

@@ -9,6 +9,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace system {
 
 /// The settings of the job that a dialog is about to print: named values, as a print dialog hands
 /// them from panel to panel and at last to the printing system.
@@ -35,4 +36,5 @@ private:
     QVariantMap m_values;
 };
 
+} // namespace system
 } // namespace platform

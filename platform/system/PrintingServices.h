@@ -15,6 +15,7 @@
 /// argument untouched when it fails.
 
 namespace platform {
+inline namespace system {
 
 using Status = std::int32_t;
 
@@ -47,6 +48,7 @@ struct Printer {
     std::optional<QString> deviceURI;
 };
 
+} // namespace system
 } // namespace platform
 
 // The names under which panels know these; all are borrowed from the dialog.

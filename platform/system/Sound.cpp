@@ -4,6 +4,7 @@
 #include <QApplication>
 
 namespace platform {
+inline namespace system {
 
 namespace {
 
@@ -35,4 +36,5 @@ std::uint64_t beepCount()
     return count;
 }
 
+} // namespace system
 } // namespace platform

@@ -5,6 +5,7 @@
 #include <functional>
 
 namespace platform {
+inline namespace system {
 
 /// The system beep, which says that an entry was refused.
 void beep();
@@ -17,4 +18,5 @@ void setBeepListener(std::function<void()> listener);
 /// operation made without taking the listener's place.
 std::uint64_t beepCount();
 
+} // namespace system
 } // namespace platform

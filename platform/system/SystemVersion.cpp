@@ -4,6 +4,7 @@
 #include <string_view>
 
 namespace platform {
+inline namespace system {
 
 namespace {
 
@@ -30,6 +31,7 @@ void setSystemVersionQuery(SystemVersionQuery query)
     currentQuery() = query ? std::move(query) : SystemVersionQuery(declaredVersion);
 }
 
+} // namespace system
 } // namespace platform
 
 OSStatus Gestalt(const char *selector, std::int32_t *number)

@@ -9,6 +9,7 @@
 /// too old for it.
 
 namespace platform {
+inline namespace system {
 
 /// Answers the number for a selector ("sys1" major, "sys2" minor, "sys3" bug-fix), or nothing when
 /// that query fails.
@@ -17,6 +18,7 @@ using SystemVersionQuery = std::function<std::optional<std::int32_t>(const char 
 /// Replaces the query; an empty one brings back the default, version 11.0.0.
 void setSystemVersionQuery(SystemVersionQuery query);
 
+} // namespace system
 } // namespace platform
 
 /// The number for the selector; platform::keyNotFound, leaving the number untouched, when the query fails.

@@ -10,6 +10,7 @@
 #include <cstdlib>
 
 namespace platform {
+inline namespace text {
 
 namespace {
 
@@ -94,4 +95,5 @@ QString FormatArgument::description() const
     return orNull(std::get<Object>(m_value).description);
 }
 
+} // namespace text
 } // namespace platform

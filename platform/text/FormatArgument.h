@@ -14,6 +14,7 @@
 #include <variant>
 
 namespace platform {
+inline namespace text {
 
 /// A value's text for a log or a display: a text is itself, a number its digits, a list "(a, b)", a map
 /// "{key = value}". Nothing for a value that is null.
@@ -138,4 +139,5 @@ private:
     Value m_value;
 };
 
+} // namespace text
 } // namespace platform

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace platform {
+inline namespace text {
 
 namespace {
 
@@ -109,4 +110,5 @@ FormatDirective FormatDirective::read(QStringView format, qsizetype start)
     return DirectiveReader(format, start).read();
 }
 
+} // namespace text
 } // namespace platform

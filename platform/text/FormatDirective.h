@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace text {
 
 /// One directive of a format string, taken apart: "%", an argument's position, flags, width, precision,
 /// length modifier, conversion. Read by stringWithFormat().
@@ -34,4 +35,5 @@ struct FormatDirective {
     char16_t conversion = 0;
 };
 
+} // namespace text
 } // namespace platform

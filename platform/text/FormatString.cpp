@@ -10,6 +10,7 @@
 #include <string>
 
 namespace platform {
+inline namespace text {
 
 namespace {
 
@@ -224,4 +225,5 @@ QString stringWithFormat(const QString &format, std::span<const FormatArgument> 
     }
 }
 
+} // namespace text
 } // namespace platform

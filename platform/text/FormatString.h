@@ -9,6 +9,7 @@
 #include <span>
 
 namespace platform {
+inline namespace text {
 
 /// Fills the directives of the format from the arguments, in order.
 ///
@@ -38,4 +39,5 @@ QString stringWithFormat(const QString &format, const Arguments &...arguments)
     return stringWithFormat(format, std::span<const FormatArgument>(formatArguments(arguments...)));
 }
 
+} // namespace text
 } // namespace platform

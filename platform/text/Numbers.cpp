@@ -6,6 +6,7 @@
 #include <limits>
 
 namespace platform {
+inline namespace text {
 
 std::int32_t integerValue(QStringView text)
 {
@@ -29,4 +30,5 @@ std::int32_t integerValue(QStringView text)
     return static_cast<std::int32_t>(value > largest ? largest : value);
 }
 
+} // namespace text
 } // namespace platform

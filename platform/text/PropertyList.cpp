@@ -7,6 +7,7 @@
 #include <memory>
 
 namespace platform {
+inline namespace text {
 
 namespace {
 
@@ -176,4 +177,5 @@ QByteArray toXmlPropertyList(const QVariant &value)
     return QByteArray(xml, static_cast<qsizetype>(length));
 }
 
+} // namespace text
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace platform {
+inline namespace text {
 
 /// Reads an XML property list (libplist). Dictionaries become QVariantMap, arrays QVariantList,
 /// strings QString, data QByteArray, integers qlonglong, reals double, booleans bool. Nothing when
@@ -22,4 +23,5 @@ std::optional<QString> stringInXmlPropertyList(const QByteArray &xml, const QStr
 /// are written as their text.
 QByteArray toXmlPropertyList(const QVariant &value);
 
+} // namespace text
 } // namespace platform

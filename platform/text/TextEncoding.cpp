@@ -10,6 +10,7 @@
 #include <string>
 
 namespace platform {
+inline namespace text {
 
 namespace {
 
@@ -157,4 +158,5 @@ std::optional<QString> TextEncoding::decode(const char *bytes) const
     return decode(QByteArray(bytes));
 }
 
+} // namespace text
 } // namespace platform

@@ -11,6 +11,7 @@
 struct UConverter;
 
 namespace platform {
+inline namespace text {
 
 /// A character encoding, by ICU. Conversions are strict: a text or a byte sequence that does not
 /// fit the encoding yields nothing rather than replacement characters, so that "absent" is never
@@ -57,4 +58,5 @@ private:
     QByteArray m_name;
 };
 
+} // namespace text
 } // namespace platform

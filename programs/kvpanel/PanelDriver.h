@@ -17,9 +17,11 @@ class PDEPanel;
 class PDEPanelInspection;
 
 namespace host {
+inline namespace panels {
 class DialogState;
 class PanelHost;
 class PanelSession;
+} // namespace panels
 } // namespace host
 
 /// Stands in for the print dialog: opens a printer's PPD, loads the real bundle, and does with its panel what

@@ -10,10 +10,11 @@
 
 extern "C" {
 // The C library's own, for programs that replace the public ones.
-void *__libc_malloc(std::size_t size);                          // NOLINT(bugprone-reserved-identifier)
-void *__libc_calloc(std::size_t count, std::size_t size);       // NOLINT(bugprone-reserved-identifier)
-void *__libc_realloc(void *memory, std::size_t size);           // NOLINT(bugprone-reserved-identifier)
-void *__libc_memalign(std::size_t alignment, std::size_t size); // NOLINT(bugprone-reserved-identifier)
+void *__libc_malloc(std::size_t size);                    // NOLINT(bugprone-reserved-identifier)
+void *__libc_calloc(std::size_t count, std::size_t size); // NOLINT(bugprone-reserved-identifier)
+void *__libc_realloc(void *memory, std::size_t size);     // NOLINT(bugprone-reserved-identifier)
+void *__libc_memalign(std::size_t alignment,
+                      std::size_t size); // NOLINT(bugprone-reserved-identifier)
 }
 
 namespace {

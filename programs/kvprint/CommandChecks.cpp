@@ -5,12 +5,13 @@
 
 #include <QCoreApplication>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct CommandChecksText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::HeadlessRun)
 };
 
 /// The papers' names for a message, and "…" in place of most of them when there are many.
@@ -39,7 +40,7 @@ QString CommandChecks::errorText(const host::ChoiceError &error, const host::Pri
         m_command.ppd && m_command.paper && error.kind == host::ChoiceFailure::UnknownPaper;
     if (!isPaperOfFile)
         return error.message;
-    return QCoreApplication::translate("dialog::PrintRun",
+    return QCoreApplication::translate("programs::kvprint::PrintRun",
                                        "The PPD file \"%1\" has no paper \"%2\"; it has: %3")
         .arg(*m_command.ppd, QString::fromUtf8(*m_command.paper), paperNames(setup.ppd()));
 }
@@ -78,7 +79,7 @@ bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup
     return ticket.conflicts.empty() || m_command.force || m_command.task == Task::Summary;
 }
 
-void CommandChecks::printRequestId(const QueueSender &sender) const
+void CommandChecks::printRequestId(const dialog::QueueSender &sender) const
 {
     if (!m_command.quiet)
         m_console.tellRequestId(sender.queue(), sender.jobId(),
@@ -90,4 +91,5 @@ ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &
     return status == ExitStatus::Printed && setup.panelProblem() ? ExitStatus::PrintedWithoutPanel : status;
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

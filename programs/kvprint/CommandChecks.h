@@ -7,8 +7,13 @@
 #include <host/setup/SetupJob.h>
 
 namespace dialog {
-
+inline namespace job {
 class QueueSender;
+} // namespace job
+} // namespace dialog
+
+namespace programs {
+inline namespace kvprint {
 
 /// What may keep a run of the command line from printing, and what it reports on the console: the same for
 /// queues and for PPD files, with and without a window.
@@ -24,7 +29,7 @@ public:
     /// requested choices that the panel's rules have replaced, and conflicts with their remedy.
     bool accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const;
     /// Prints the line by which scripts know the job that was sent, unless the run is quiet.
-    void printRequestId(const QueueSender &sender) const;
+    void printRequestId(const dialog::QueueSender &sender) const;
     /// The status of a run that ended like this: a job that was printed without its panel has its own.
     static ExitStatus statusOf(ExitStatus status, const host::PrinterSetup &setup);
 
@@ -36,4 +41,5 @@ private:
     const Console &m_console;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -5,12 +5,13 @@
 
 #include <QCoreApplication>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct CommandHelpText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::CommandLine)
 };
 
 constexpr qsizetype lineWidth = 79;
@@ -42,7 +43,8 @@ QString lines(const QString &option, const QString &text)
 QString lines(const CommandOption &option)
 {
     const QString value = option.value ? u' ' + QString::fromLatin1(option.value) : QString();
-    return lines(option.spelling() + value, QCoreApplication::translate("dialog::CommandLine", option.help));
+    return lines(option.spelling() + value,
+                 QCoreApplication::translate("programs::kvprint::CommandLine", option.help));
 }
 
 } // namespace
@@ -76,4 +78,5 @@ QString commandHelp()
                "  129, 130, 143  stopped by a signal before the job was sent\n");
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

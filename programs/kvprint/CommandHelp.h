@@ -3,9 +3,11 @@
 
 #include <QString>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// The help text in the user's language: usage, all options, exit statuses. Lines of up to 80 columns.
 QString commandHelp();
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -8,7 +8,8 @@
 
 #include <optional>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// The statuses with which kvprint ends.
 enum class ExitStatus {
@@ -85,4 +86,5 @@ struct CommandLine {
     bool json = false;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -8,12 +8,13 @@
 #include <algorithm>
 #include <iterator>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct CommandOptionText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::CommandLine)
 };
 
 constexpr unsigned bit(Task task)
@@ -93,101 +94,110 @@ constexpr auto Virtual = CommandOption::Printer::Virtual;
 
 constexpr CommandOption optionTable[] = {
     {'d', nullptr, "QUEUE[/INSTANCE]",
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "The queue to print on, with a named set of options. The default queue without it."),
      documentTasks, Queue, takeDestination},
-    {'h', nullptr, "HOST[:PORT]", QT_TRANSLATE_NOOP("dialog::CommandLine", "The print server."), allTasks,
-     Queue, takeText<&CommandLine::server>},
-    {'U', nullptr, "USER", QT_TRANSLATE_NOOP("dialog::CommandLine", "The user for whom is printed."),
-     allTasks, Queue, takeText<&CommandLine::user>},
+    {'h', nullptr, "HOST[:PORT]", QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The print server."),
+     allTasks, Queue, takeText<&CommandLine::server>},
+    {'U', nullptr, "USER",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The user for whom is printed."), allTasks, Queue,
+     takeText<&CommandLine::user>},
     {'E', nullptr, nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Encrypts the connection to the print server."), allTasks,
-     Queue, takeFlag<&CommandLine::encrypt>},
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Encrypts the connection to the print server."),
+     allTasks, Queue, takeFlag<&CommandLine::encrypt>},
     {0, "paper", "NAME",
      QT_TRANSLATE_NOOP(
-         "dialog::CommandLine",
+         "programs::kvprint::CommandLine",
          "The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes."),
      jobTasks, Any, takePaper},
-    {'n', nullptr, "COPIES", QT_TRANSLATE_NOOP("dialog::CommandLine", "The number of copies."), jobTasks, Any,
-     takeCopies},
-    {'P', nullptr, "PAGES", QT_TRANSLATE_NOOP("dialog::CommandLine", "The pages to print, as in 1-3,5,8-."),
-     jobTasks, Any, takePages},
+    {'n', nullptr, "COPIES", QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The number of copies."),
+     jobTasks, Any, takeCopies},
+    {'P', nullptr, "PAGES",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The pages to print, as in 1-3,5,8-."), jobTasks,
+     Any, takePages},
     {'o', nullptr, "NAME=VALUE",
      QT_TRANSLATE_NOOP(
-         "dialog::CommandLine",
+         "programs::kvprint::CommandLine",
          "An option of the PPD or of the print server; several in one, with blanks between them, or one "
          "by one."),
      jobTasks, Any, takeOptions},
-    {'t', nullptr, "TITLE", QT_TRANSLATE_NOOP("dialog::CommandLine", "The job's name in the queue."),
-     jobTasks, Any, takeTitle},
+    {'t', nullptr, "TITLE",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The job's name in the queue."), jobTasks, Any,
+     takeTitle},
     {'q', nullptr, "PRIORITY",
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "The job's priority, from 1 to 100 (first)."), jobTasks, Any,
-     takePriority},
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The job's priority, from 1 to 100 (first)."),
+     jobTasks, Any, takePriority},
     {'H', nullptr, "WHEN",
      QT_TRANSLATE_NOOP(
-         "dialog::CommandLine",
+         "programs::kvprint::CommandLine",
          "When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent "
          "before also resume and restart."),
      jobTasks, Any, takeHold},
     {'m', nullptr, nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Sends a mail when the job is over; -s is part of it."),
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
+                       "Sends a mail when the job is over; -s is part of it."),
      sendingTasks | bit(Task::ChangeJob), Queue, takeMail},
-    {'s', nullptr, nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Does not tell the job's number."),
-     allTasks, Any, takeFlag<&CommandLine::quiet>},
+    {'s', nullptr, nullptr,
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Does not tell the job's number."), allTasks, Any,
+     takeFlag<&CommandLine::quiet>},
     {'c', nullptr, nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Accepted for lp's sake: documents are always copied."),
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
+                       "Accepted for lp's sake: documents are always copied."),
      allTasks, Any, takeCopyFlag},
     {'i', nullptr, "[QUEUE-]JOB",
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Changes a job that was sent before."), bit(Task::ChangeJob),
-     Queue, takeJob},
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Changes a job that was sent before."),
+     bit(Task::ChangeJob), Queue, takeJob},
     {0, "cancel-left", "JOB",
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Cancels a job that a program left on a print server when it was stopped."),
      bit(Task::CancelLeft), Queue, takeLeftJob<Task::CancelLeft>},
     {0, "release-left", "JOB",
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Prints what the print server has of such a job, perhaps not all documents."),
      bit(Task::ReleaseLeft), Queue, takeLeftJob<Task::ReleaseLeft>},
     {0, "no-dialog", nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Prints at once, with the settings that the dialog would open with."),
      allTasks, Any, takeFlag<&CommandLine::noDialog>},
-    {0, "list", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Lists the queues and how they are."),
+    {0, "list", nullptr,
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Lists the queues and how they are."),
      bit(Task::List), Queue, takeTask<Task::List>},
     {0, "summary", nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Tells the settings that the dialog would open with, and prints nothing."),
      bit(Task::Summary), Any, takeTask<Task::Summary>},
     {0, "dry-run", nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Does everything but sending, and tells what would be sent."),
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
+                       "Does everything but sending, and tells what would be sent."),
      bit(Task::DryRun), Any, takeTask<Task::DryRun>},
-    {0, "json", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Tells it as JSON."), reportTasks, Any,
-     takeFlag<&CommandLine::json>},
+    {0, "json", nullptr, QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Tells it as JSON."),
+     reportTasks, Any, takeFlag<&CommandLine::json>},
     {0, "force", nullptr,
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Sends even what the printer does not have, and what conflicts."),
      sendingTasks | bit(Task::ChangeJob), Any, takeFlag<&CommandLine::force>},
     {0, "screenshot", "OUT.png",
-     QT_TRANSLATE_NOOP("dialog::CommandLine", "Saves a picture of the dialog, as it opens, in a PNG file."),
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
+                       "Saves a picture of the dialog, as it opens, in a PNG file."),
      documentTasks, Any, takeText<&CommandLine::screenshot>},
     {0, "bundle", "DIR",
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "The bundle with the cut-options panel, or the folder it is in."),
      documentTasks, Any, takeText<&CommandLine::bundle>},
     {0, "ppd", "FILE",
-     QT_TRANSLATE_NOOP("dialog::CommandLine",
+     QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "A PPD file, plain or gzip: prints on a virtual printer instead of a queue."),
      documentTasks, Any, takeText<&CommandLine::ppd>},
     {0, "output", "DIR",
      QT_TRANSLATE_NOOP(
-         "dialog::CommandLine",
+         "programs::kvprint::CommandLine",
          "The folder for the virtual printer's strip.pdf and job.json, made when it is not there. A new "
          "folder among the user's data without it."),
      printingTasks, Virtual, takeText<&CommandLine::output>},
-    {0, "help", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Shows this help."), allTasks, Any,
-     nullptr},
-    {0, "version", nullptr, QT_TRANSLATE_NOOP("dialog::CommandLine", "Shows the version."), allTasks, Any,
-     nullptr},
+    {0, "help", nullptr, QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Shows this help."), allTasks,
+     Any, nullptr},
+    {0, "version", nullptr, QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Shows the version."),
+     allTasks, Any, nullptr},
 };
 
 } // namespace
@@ -230,4 +240,5 @@ const CommandOption *findOption(QStringView name)
     return found == std::end(optionTable) ? nullptr : found;
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -6,7 +6,8 @@
 
 #include <span>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// One option of the command line: a row of the table that parser and help are made from.
 struct CommandOption {
@@ -44,4 +45,5 @@ std::span<const CommandOption> commandOptions();
 const CommandOption *findOption(QChar letter);
 const CommandOption *findOption(QStringView name);
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

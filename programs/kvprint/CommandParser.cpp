@@ -9,12 +9,13 @@
 
 #include <algorithm>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct CommandParserText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::CommandLine)
 };
 
 UsageError wrong(const QString &message)
@@ -197,4 +198,5 @@ host::Result<void, UsageError> checkInput(const CommandLine &command, bool input
     return wrong(CommandParserText::tr("No document was named; name a file, or \"-\" to type one in"));
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -5,7 +5,8 @@
 
 #include <host/base/Result.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 enum class UsageProblem {
     HelpWanted,    ///< the message is the help text
@@ -21,4 +22,5 @@ host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &argume
 /// program would seem to hang.
 host::Result<void, UsageError> checkInput(const CommandLine &command, bool inputIsTerminal);
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -7,7 +7,8 @@
 
 #include <algorithm>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 host::CupsServer cupsServer(const CommandLine &command)
 {
@@ -35,4 +36,5 @@ host::PanelSource panelSource(const CommandLine &command)
     return {command.bundle, QLocale().uiLanguages()};
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -6,7 +6,8 @@
 #include <host/cups/server/CupsServer.h>
 #include <host/setup/PrinterSetup.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 // What the command line asks for, as the parts of a run take it.
 
@@ -17,4 +18,5 @@ host::SetupWishes setupWishes(const CommandLine &command);
 /// Where the panel is looked for.
 host::PanelSource panelSource(const CommandLine &command);
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -5,9 +5,11 @@
 
 #include <optional>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// Nothing when a value was good, otherwise what is wrong with it.
 using Complaint = std::optional<QString>;
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

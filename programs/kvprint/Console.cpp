@@ -3,12 +3,13 @@
 
 #include <QCoreApplication>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct ConsoleText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::Console)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::Console)
 };
 
 } // namespace
@@ -27,4 +28,5 @@ void Console::tellRequestId(const QString &queue, int jobId, qsizetype documents
         complain(ConsoleText::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -5,7 +5,8 @@
 
 #include <functional>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// Where a run of the program writes what it has to say.
 struct Console {
@@ -21,4 +22,5 @@ struct Console {
     void tellRequestId(const QString &queue, int jobId, qsizetype documents) const;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -8,12 +8,13 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct DestinationReportText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::DestinationReport)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::DestinationReport)
 };
 
 QString stateKeyword(host::QueueState state)
@@ -95,4 +96,5 @@ QByteArray destinationsAsJson(const std::vector<host::Destination> &destinations
     return QJsonDocument(array).toJson();
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

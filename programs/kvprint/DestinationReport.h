@@ -3,7 +3,8 @@
 
 #include <host/cups/queues/Destination.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// The destinations for people: each one's name at the beginning of a line, with what is known of it on
 /// indented lines below, so that the names alone can be taken out. Empty for none.
@@ -23,4 +24,5 @@ QString destinationsInPlainText(const std::vector<host::Destination> &destinatio
 ///   message        the server's own words
 QByteArray destinationsAsJson(const std::vector<host::Destination> &destinations);
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

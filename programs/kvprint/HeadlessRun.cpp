@@ -16,12 +16,13 @@
 #include <QJsonDocument>
 #include <QTimer>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct HeadlessRunText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::HeadlessRun)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::HeadlessRun)
 };
 
 /// A printer on the network that has no queue yet announces itself within this time.
@@ -133,11 +134,11 @@ bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
 {
     if (!m_command.screenshot)
         return true;
-    QueueSender sender(m_server);
-    PrintDialog dialog(m_document, keeper, sender, {m_command.settings, m_command.title, {}});
+    dialog::QueueSender sender(m_server);
+    dialog::PrintDialog dialog(m_document, keeper, sender, {m_command.settings, m_command.title, {}});
     dialog.show();
     QCoreApplication::processEvents();
-    const auto saved = saveScreenshot(dialog, *m_command.screenshot);
+    const auto saved = dialog::saveScreenshot(dialog, *m_command.screenshot);
     if (!saved)
         m_console.complain(saved.error().message);
     return static_cast<bool>(saved);
@@ -193,15 +194,15 @@ ExitStatus HeadlessRun::endedBy(int signal) const
 
 ExitStatus HeadlessRun::send(const host::Ticket &ticket)
 {
-    QueueSender sender(m_server);
+    dialog::QueueSender sender(m_server);
     QEventLoop loop;
     std::optional<QString> problem;
-    QObject::connect(&sender, &JobSender::sent, &loop, &QEventLoop::quit);
-    QObject::connect(&sender, &JobSender::failed, &loop, [&](const QString &text) {
+    QObject::connect(&sender, &dialog::JobSender::sent, &loop, &QEventLoop::quit);
+    QObject::connect(&sender, &dialog::JobSender::failed, &loop, [&](const QString &text) {
         problem = text;
         loop.quit();
     });
-    QObject::connect(&m_signals, &SignalWatch::caught, &sender, &JobSender::cancel);
+    QObject::connect(&m_signals, &SignalWatch::caught, &sender, &dialog::JobSender::cancel);
     if (const std::optional<int> signal = m_signals.signal())
         return endedBy(*signal);
     sender.send({ticket, *m_document, {}});
@@ -218,4 +219,5 @@ ExitStatus HeadlessRun::send(const host::Ticket &ticket)
     return ExitStatus::Printed;
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -9,7 +9,8 @@
 #include <host/setup/SetupJob.h>
 #include <host/setup/SetupKeeper.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// Printing on a queue without a dialog, or telling what would be printed. The panel works all the same,
 /// without being seen, so that its rules hold for what the command line asks for.
@@ -41,4 +42,5 @@ private:
     SignalWatch m_signals;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

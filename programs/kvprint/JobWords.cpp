@@ -12,12 +12,13 @@
 #include <algorithm>
 #include <iterator>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct JobWordsText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::CommandLine)
 };
 
 /// A word for when a job is printed, and where it may stand.
@@ -295,4 +296,5 @@ bool holdNeedsJob(const QString &hold)
     });
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -3,7 +3,8 @@
 
 #include "Complaint.h"
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 struct CommandLine;
 
@@ -29,4 +30,5 @@ Complaint takeOptions(CommandLine &command, const QString &value);
 /// Whether the value of -H is about a job that was sent before: "resume" and "restart".
 bool holdNeedsJob(const QString &hold);
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -5,12 +5,13 @@
 
 #include <QCoreApplication>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct LeftJobsRunText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::LeftJobsRun)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::LeftJobsRun)
 };
 
 } // namespace
@@ -78,7 +79,7 @@ ExitStatus LeftJobsRun::settle(const host::CupsServer &server) const
         return ExitStatus::Failed;
     const host::LeftJobAction action =
         m_command.task == Task::ReleaseLeft ? host::LeftJobAction::Release : host::LeftJobAction::Cancel;
-    const auto outcome = outcomeOf([server, job = *job, action](host::BackgroundTask &task) {
+    const auto outcome = dialog::outcomeOf([server, job = *job, action](host::BackgroundTask &task) {
         return host::settleLeftJob(server, job, action, task);
     });
     if (!outcome) {
@@ -89,4 +90,5 @@ ExitStatus LeftJobsRun::settle(const host::CupsServer &server) const
     return ExitStatus::Printed;
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -6,7 +6,8 @@
 
 #include <host/cups/jobs/LeftJob.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// What kvprint without a window does about jobs that killed programs have left on print servers.
 class LeftJobsRun {
@@ -28,4 +29,5 @@ private:
     const Console &m_console;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

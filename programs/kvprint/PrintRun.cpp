@@ -22,12 +22,13 @@
 #include <QTimer>
 #include <QWindow>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct PrintRunText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::PrintRun)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::PrintRun)
 };
 
 /// The run has no window.
@@ -69,7 +70,7 @@ std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
     return nullptr;
 }
 
-DialogWishes PrintRun::dialogWishes() const
+dialog::DialogWishes PrintRun::dialogWishes() const
 {
     return {m_command.settings, m_command.title, {}};
 }
@@ -100,12 +101,12 @@ ExitStatus PrintRun::runVirtual()
     if (!document)
         return ExitStatus::Failed;
     host::SetupKeeper keeper(std::move(setup));
-    VirtualSender sender(m_command.output);
-    PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    dialog::VirtualSender sender(m_command.output);
+    dialog::PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
     return CommandChecks::statusOf(showVirtual(dialog, sender, *keeper.setup()), *keeper.setup());
 }
 
-bool PrintRun::canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const
+bool PrintRun::canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const
 {
     if (const std::optional<QString> problem = dialog.prepare()) {
         m_console.complain(*problem);
@@ -114,7 +115,8 @@ bool PrintRun::canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &set
     return CommandChecks(m_command, m_console).accepts(*dialog.ticket(), setup);
 }
 
-ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, const host::PrinterSetup &setup)
+ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSender &sender,
+                                 const host::PrinterSetup &setup)
 {
     dialog.show();
     // Layout and first painting happen here, so that the picture shows what a person would see.
@@ -129,7 +131,7 @@ ExitStatus PrintRun::showVirtual(PrintDialog &dialog, VirtualSender &sender, con
         return ExitStatus::Printed;
     }
     if (printsAtOnce) {
-        sender.setPictureTaker([&] { return completePicture(dialog); });
+        sender.setPictureTaker([&] { return dialog::completePicture(dialog); });
         dialog.print();
         if (!dialog.problem().isEmpty()) {
             m_console.complain(dialog.problem());
@@ -164,13 +166,15 @@ ExitStatus PrintRun::runOnQueue()
         const std::optional<int> signal = watch.signal();
         return signal ? statusOfSignal(*signal) : ExitStatus::Cancelled;
     };
-    PrintDialog *window = nullptr;
-    server.askPassword = [&](const host::PasswordRequest &request) { askWithDialog(window)(request); };
-    server.askTrust = [&](const host::TrustRequest &request) { askTrustWithDialog(window)(request); };
+    dialog::PrintDialog *window = nullptr;
+    server.askPassword = [&](const host::PasswordRequest &request) {
+        dialog::askWithDialog(window)(request);
+    };
+    server.askTrust = [&](const host::TrustRequest &request) { dialog::askTrustWithDialog(window)(request); };
     host::QueueSession session(server, m_command.destination);
     host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
-    QueueSender sender(server);
-    PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    dialog::QueueSender sender(server);
+    dialog::PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
     window = &dialog;
     dialog.show();
     waitForPainting(dialog);
@@ -185,10 +189,11 @@ ExitStatus PrintRun::runOnQueue()
     return follow(dialog, sender, server);
 }
 
-ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, const host::CupsServer &server)
+ExitStatus PrintRun::follow(dialog::PrintDialog &dialog, const dialog::QueueSender &sender,
+                            const host::CupsServer &server)
 {
     CommandChecks(m_command, m_console).printRequestId(sender);
-    JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
+    dialog::JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
     window.exec();
     if (const auto &status = window.status()) {
         if (status->state == host::JobState::Aborted) {
@@ -205,17 +210,17 @@ ExitStatus PrintRun::follow(PrintDialog &dialog, const QueueSender &sender, cons
     return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 
-bool PrintRun::takeScreenshot(PrintDialog &dialog)
+bool PrintRun::takeScreenshot(dialog::PrintDialog &dialog)
 {
     if (!m_command.screenshot)
         return true;
-    const auto saved = saveScreenshot(dialog, *m_command.screenshot);
+    const auto saved = dialog::saveScreenshot(dialog, *m_command.screenshot);
     if (!saved)
         m_console.complain(saved.error().message);
     return static_cast<bool>(saved);
 }
 
-void PrintRun::tellSummary(const std::vector<SummarySection> &summary)
+void PrintRun::tellSummary(const std::vector<host::SummarySection> &summary)
 {
     m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(host::summaryJson(summary)).toJson())
                                  : host::summaryInPlainText(summary));
@@ -236,4 +241,5 @@ ExitStatus PrintRun::run()
     return m_command.ppd ? runVirtual() : runOnQueue();
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

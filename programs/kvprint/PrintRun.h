@@ -7,6 +7,14 @@
 #include <dialog/window/PrintDialog.h>
 
 namespace dialog {
+inline namespace job {
+class QueueSender;
+class VirtualSender;
+} // namespace job
+} // namespace dialog
+
+namespace programs {
+inline namespace kvprint {
 
 /// One run of kvprint: opens what was asked for, shows the dialog or does without, and prints.
 class PrintRun {
@@ -23,16 +31,19 @@ private:
     ExitStatus runOnQueue();
     /// The printer of a PPD file; null, with the reason told, when it cannot be used as asked.
     std::unique_ptr<host::PrinterSetup> openPrinter();
-    ExitStatus showVirtual(PrintDialog &dialog, class VirtualSender &sender, const host::PrinterSetup &setup);
+    ExitStatus showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSender &sender,
+                           const host::PrinterSetup &setup);
     /// Whether what would be printed without a dialog may be; tells what is wrong with it.
-    bool canPrintAtOnce(PrintDialog &dialog, const host::PrinterSetup &setup) const;
-    ExitStatus follow(PrintDialog &dialog, const class QueueSender &sender, const host::CupsServer &server);
-    DialogWishes dialogWishes() const;
-    bool takeScreenshot(PrintDialog &dialog);
-    void tellSummary(const std::vector<SummarySection> &summary);
+    bool canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const;
+    ExitStatus follow(dialog::PrintDialog &dialog, const dialog::QueueSender &sender,
+                      const host::CupsServer &server);
+    dialog::DialogWishes dialogWishes() const;
+    bool takeScreenshot(dialog::PrintDialog &dialog);
+    void tellSummary(const std::vector<host::SummarySection> &summary);
 
     CommandLine m_command;
     Console m_console;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -10,7 +10,8 @@
 
 #include <QEventLoop>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 ServerRun::ServerRun(const CommandLine &command, const Console &console, host::CupsServer server)
     : m_command(command)
@@ -47,7 +48,7 @@ ExitStatus ServerRun::tellDestinations()
 
 host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ServerRun::ppdOfJob(int jobId)
 {
-    const auto queue = outcomeOf([server = m_server, jobId](host::BackgroundTask &task) {
+    const auto queue = dialog::outcomeOf([server = m_server, jobId](host::BackgroundTask &task) {
         return host::queueOfJob(server, jobId, task);
     });
     if (!queue)
@@ -101,7 +102,7 @@ ExitStatus ServerRun::changeJob()
         change.options.push_back({"PageSize", *m_command.paper});
     if (!m_command.force && !change.options.empty() && !printerHas(change))
         return ExitStatus::Failed;
-    const auto changed = outcomeOf([server = m_server, change](host::BackgroundTask &task) {
+    const auto changed = dialog::outcomeOf([server = m_server, change](host::BackgroundTask &task) {
         return host::changeJob(server, change, task);
     });
     if (changed)
@@ -110,4 +111,5 @@ ExitStatus ServerRun::changeJob()
     return ExitStatus::Failed;
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -9,7 +9,8 @@
 
 #include <memory>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// What kvprint does with a print server alone: telling its destinations, and changing a job that waits.
 class ServerRun {
@@ -32,4 +33,5 @@ private:
     host::CupsServer m_server;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -7,7 +7,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
@@ -77,4 +78,5 @@ std::optional<int> SignalWatch::signal()
     return m_signal;
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -9,7 +9,8 @@
 
 class QSocketNotifier;
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// While it lives, the signals by which people and systems end programs (SIGINT, SIGTERM, SIGHUP) end nothing
 /// but are told, so that the program can leave things in order. The second one of a kind ends the program at
@@ -45,4 +46,5 @@ private:
     std::optional<int> m_signal;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

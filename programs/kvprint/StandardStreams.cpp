@@ -8,12 +8,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct StandardStreamsText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::StandardStreams)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::StandardStreams)
 };
 
 bool write(std::FILE *stream, const QString &text)
@@ -56,4 +57,5 @@ void StandardStreams::error(const QString &text)
     write(stderr, text);
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -3,7 +3,8 @@
 
 #include <QString>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// The program's standard output and standard error. What cannot be written to standard output is told on
 /// standard error, once.
@@ -24,4 +25,5 @@ private:
     bool m_isOutputIncomplete = false;
 };
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

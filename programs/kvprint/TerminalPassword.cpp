@@ -9,7 +9,8 @@
 #include <termios.h>
 #include <unistd.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
@@ -129,4 +130,5 @@ host::PasswordHandler askOnTerminal()
     };
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

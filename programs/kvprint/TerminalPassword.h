@@ -3,7 +3,8 @@
 
 #include <host/cups/server/Passwords.h>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 /// Asks for a password, or something else, on the terminal that the program was started from, as lp does;
 /// standard input and output may be something else, for they carry documents and results.
@@ -36,4 +37,5 @@ private:
 /// lets no other events come in meanwhile: for runs without windows.
 host::PasswordHandler askOnTerminal();
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

@@ -7,18 +7,19 @@
 
 #include <QCoreApplication>
 
-namespace dialog {
+namespace programs {
+inline namespace kvprint {
 
 namespace {
 
 struct TerminalTrustText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::TerminalTrust)
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::TerminalTrust)
 };
 
 /// Typed in full, so that a wrong key grants nothing; the same in every language.
 constexpr QLatin1String consent("yes");
 
-QString promptFor(const TrustWords &words)
+QString promptFor(const dialog::TrustWords &words)
 {
     return words.question + u'\n' + words.details + u'\n' +
            TerminalTrustText::tr("Type \"%1\" to continue:").arg(consent);
@@ -31,7 +32,7 @@ host::TrustHandler askTrustOnTerminal()
     return [](const host::TrustRequest &request) {
         const TerminalPassword terminal;
         const std::optional<QString> answer =
-            terminal.ask(promptFor(TrustWords(request)), TerminalPassword::Typing::Shown);
+            terminal.ask(promptFor(dialog::TrustWords(request)), TerminalPassword::Typing::Shown);
         if (answer && answer->trimmed().compare(consent, Qt::CaseInsensitive) == 0)
             request.grant();
         else
@@ -39,4 +40,5 @@ host::TrustHandler askTrustOnTerminal()
     };
 }
 
-} // namespace dialog
+} // namespace kvprint
+} // namespace programs

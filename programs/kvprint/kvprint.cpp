@@ -30,8 +30,8 @@ bool hasDisplay()
 /// Whether the arguments ask for the dialog; not when they only make the program tell something.
 bool asksForDialog(const QStringList &arguments)
 {
-    const auto command = dialog::parseCommandLine(arguments);
-    return command && command.value().task == dialog::Task::Print && !command.value().noDialog;
+    const auto command = programs::parseCommandLine(arguments);
+    return command && command.value().task == programs::Task::Print && !command.value().noDialog;
 }
 
 /// Whether somebody sees the windows. Decided before there is an application, which could not start
@@ -64,24 +64,25 @@ void silenceReaders()
 }
 
 /// Nobody may take a part of the output for all of it.
-int status(dialog::ExitStatus status, const dialog::StandardStreams &streams)
+int status(programs::ExitStatus status, const programs::StandardStreams &streams)
 {
     const bool seemsGood =
-        status == dialog::ExitStatus::Printed || status == dialog::ExitStatus::PrintedWithoutPanel;
-    return static_cast<int>(seemsGood && streams.isOutputIncomplete() ? dialog::ExitStatus::Failed : status);
+        status == programs::ExitStatus::Printed || status == programs::ExitStatus::PrintedWithoutPanel;
+    return static_cast<int>(seemsGood && streams.isOutputIncomplete() ? programs::ExitStatus::Failed
+                                                                      : status);
 }
 
-dialog::ExitStatus refuse(const dialog::UsageError &error, dialog::StandardStreams &streams)
+programs::ExitStatus refuse(const programs::UsageError &error, programs::StandardStreams &streams)
 {
-    if (error.kind != dialog::UsageProblem::Wrong) {
+    if (error.kind != programs::UsageProblem::Wrong) {
         streams.out(error.message);
-        return dialog::ExitStatus::Printed;
+        return programs::ExitStatus::Printed;
     }
-    dialog::StandardStreams::error(
+    programs::StandardStreams::error(
         QStringLiteral("kvprint: %1\n%2\n")
             .arg(error.message,
-                 QCoreApplication::translate("dialog::CommandLine", "Try \"kvprint --help\".")));
-    return dialog::ExitStatus::WrongUsage;
+                 QCoreApplication::translate("programs::kvprint::CommandLine", "Try \"kvprint --help\".")));
+    return programs::ExitStatus::WrongUsage;
 }
 
 } // namespace
@@ -90,7 +91,7 @@ dialog::ExitStatus refuse(const dialog::UsageError &error, dialog::StandardStrea
 int main(int argc, char **argv)
 {
     host::OutOfMemory::endsProgram();
-    dialog::StandardStreams streams;
+    programs::StandardStreams streams;
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
@@ -112,16 +113,16 @@ int main(int argc, char **argv)
     dialog::installTranslations(QLocale());
     host::OutOfMemory::translate();
 
-    auto command = dialog::parseCommandLine(arguments);
+    auto command = programs::parseCommandLine(arguments);
     if (!command)
         return status(refuse(command.error(), streams), streams);
     if (const auto checked = checkInput(command.value(), isatty(STDIN_FILENO) == 1); !checked)
         return status(refuse(checked.error(), streams), streams);
     command.value().noDialog = command.value().noDialog || !attended;
-    const dialog::Console console{[&](const QString &text) { return streams.out(text); },
-                                  dialog::StandardStreams::error};
+    const programs::Console console{[&](const QString &text) { return streams.out(text); },
+                                    programs::StandardStreams::error};
     platform::TemporaryFile::removeLeftOvers(QDir::tempPath());
-    const int outcome = status(dialog::PrintRun(std::move(command).value(), console).run(), streams);
+    const int outcome = status(programs::PrintRun(std::move(command).value(), console).run(), streams);
     if (host::Background::wasUsed())
         std::_Exit(outcome);
     return outcome;

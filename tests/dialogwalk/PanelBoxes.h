@@ -6,8 +6,10 @@
 #include <QCheckBox>
 
 namespace platform {
+inline namespace controls {
 class PopUpButton;
 class Stepper;
+} // namespace controls
 } // namespace platform
 
 class QLineEdit;

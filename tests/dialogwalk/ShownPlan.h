@@ -4,7 +4,9 @@
 #include "StripOracle.h"
 
 namespace host {
+inline namespace strip {
 class CutPlan;
+} // namespace strip
 } // namespace host
 
 namespace dialogwalk {

@@ -10,11 +10,13 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct ChoiceCheckText {
-    Q_DECLARE_TR_FUNCTIONS(host::ChoiceCheck)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::ChoiceCheck)
 };
 
 // The options of the print server and its filters in addition to the printer's, from lp(1) and the
@@ -168,4 +170,6 @@ CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &
     return carried;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,6 +6,8 @@
 #include <host/printer/PpdFile.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Why a choice cannot be set.
 enum class ChoiceFailure {
@@ -32,4 +34,6 @@ struct CarriedChoices {
 /// Marks the choices in the new PPD, as far as it has them.
 CarriedChoices carryOverChoices(const std::vector<JobChoice> &choices, PpdFile &ppd);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -12,11 +12,13 @@
 #include <utility>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct DocumentSourceText {
-    Q_DECLARE_TR_FUNCTIONS(host::DocumentSource)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::DocumentSource)
 };
 
 constexpr qint64 pieceSize = 65536;
@@ -117,4 +119,6 @@ bool DocumentSource::rewind()
     return true;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

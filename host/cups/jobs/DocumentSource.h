@@ -6,6 +6,8 @@
 #include <host/documents/RegularFile.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Reads the content of a document in parts, from a file or from standard input. Move-only.
 class DocumentSource {
@@ -40,4 +42,6 @@ private:
     std::optional<FileStamp> m_stamp;
 };
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

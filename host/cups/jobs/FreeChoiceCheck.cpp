@@ -9,6 +9,8 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
@@ -73,4 +75,6 @@ bool isFreeChoice(const PpdFile &ppd, const NamedValue &choice)
     });
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

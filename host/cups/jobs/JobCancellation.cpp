@@ -2,6 +2,8 @@
 #include "JobCancellation.h"
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 Result<void, CupsError> cancelJob(const CupsServer &server, const QString &queue, int jobId,
                                   BackgroundTask &task)
@@ -13,4 +15,6 @@ Result<void, CupsError> cancelJob(const CupsServer &server, const QString &queue
     return connection.value().exchange(std::move(request), "/jobs").withoutValue();
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -9,11 +9,13 @@
 #include <tuple>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobChangeText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobChange)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobChange)
 };
 
 bool isRestart(const JobChange &change)
@@ -156,4 +158,6 @@ Result<void, CupsError> changeJob(const CupsServer &server, const JobChange &cha
     return {};
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

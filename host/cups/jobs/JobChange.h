@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsConnection.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// The changes to a job that was sent before; absent values do not change.
 struct JobChange {
@@ -35,4 +37,6 @@ Result<QString, CupsError> queueOfJob(const CupsServer &server, int jobId, Backg
 /// Returns the reason with a message that the job was not changed.
 CupsError notChanged(int jobId, CupsError reason);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

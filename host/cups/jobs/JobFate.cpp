@@ -11,11 +11,13 @@
 #include <thread>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobFateText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobFate)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobFate)
 };
 
 } // namespace
@@ -176,4 +178,6 @@ CupsError JobFate::isOver(const JobStatus &job, const CupsError &reason) const
                 .arg(reason.message, job.queue, QString::number(job.jobId), job.sentences().join(u' '))};
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

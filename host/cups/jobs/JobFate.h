@@ -5,6 +5,8 @@
 #include "JobStatus.h"
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Determines the state of a job whose upload failed, and cancels the job where possible.
 ///
@@ -49,4 +51,6 @@ private:
     const JobHold &m_hold;
 };
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -5,6 +5,8 @@
 #include <array>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
@@ -85,4 +87,6 @@ bool JobHold::isStillOn(const QString &heldUntil) const
     return m_isNeeded && m_wanted != endlessHold && heldUntil.toUtf8() == endlessHold;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsConnection.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Holds a job until the server has all of its documents.
 ///
@@ -37,4 +39,6 @@ private:
     QByteArray m_wanted = "no-hold";
 };
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

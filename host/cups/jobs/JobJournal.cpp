@@ -16,11 +16,13 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobJournalText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobJournal)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobJournal)
 };
 
 const QByteArray uuidPrefix = "urn:uuid:";
@@ -202,4 +204,6 @@ void JobJournalEntry::write()
         m_file = std::move(file);
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

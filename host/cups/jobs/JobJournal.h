@@ -10,10 +10,14 @@
 #include <vector>
 
 namespace platform {
+inline namespace files {
 class TemporaryFile;
-}
+} // namespace files
+} // namespace platform
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// A job that a program sends or has started to send.
 struct JobRecord {
@@ -90,4 +94,6 @@ private:
     std::unique_ptr<platform::TemporaryFile> m_file;
 };
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -4,6 +4,8 @@
 #include "JobCancellation.h"
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId,
                        std::chrono::milliseconds pause, QObject *parent)
@@ -68,4 +70,6 @@ void JobMonitor::cancelJob()
     });
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,6 +6,8 @@
 #include <host/cups/server/Background.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Monitors a job that the server has accepted until the job is over or the monitor is destroyed.
 class JobMonitor : public QObject {
@@ -43,4 +45,6 @@ private:
     Background m_background;
 };
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -9,11 +9,13 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobOptionsText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobOptions)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobOptions)
 };
 
 /// Returns whether the option is another name for the paper, which could only contradict the exact one.
@@ -184,4 +186,6 @@ void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
     markNamed(destination.userOptions);
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

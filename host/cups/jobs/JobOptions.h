@@ -6,6 +6,8 @@
 #include <host/printer/PpdFile.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// The origin of a job option. A later origin overrides an earlier one.
 enum class Origin { Ppd, Queue, UserDefault, Preset, Panel, You };
@@ -57,4 +59,6 @@ std::optional<QByteArray> queuePaper(const Destination &destination, const PpdFi
 /// of the queue and of the user's lpoptions.
 void markEffectiveDefaults(PpdFile &ppd, const Destination &destination);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

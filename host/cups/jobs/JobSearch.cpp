@@ -4,6 +4,8 @@
 #include <array>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
@@ -45,4 +47,6 @@ Result<std::optional<int>, CupsError> findJob(CupsConnection &connection, const 
     return jobWith(uuid, jobs.value().get());
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

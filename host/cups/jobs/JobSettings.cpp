@@ -6,11 +6,13 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobSettingsText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobSettings)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobSettings)
 };
 
 constexpr int highestPriority = 100;
@@ -134,4 +136,6 @@ Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const
                        settings.order.value_or(PageOrder::FirstFirst)};
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

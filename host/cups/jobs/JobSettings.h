@@ -5,6 +5,8 @@
 #include <host/documents/PageChoices.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Orientations with the values of IPP's "orientation-requested".
 enum class Orientation { Portrait = 3, Landscape = 4, ReverseLandscape = 5, ReversePortrait = 6 };
@@ -45,4 +47,6 @@ JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults);
 Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const JobSettings &defaults,
                                                 const std::vector<int> &pageCounts);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -9,11 +9,13 @@
 #include <array>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobStatusText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobStatus)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobStatus)
 };
 
 constexpr std::array requestedAttributes = {
@@ -103,4 +105,6 @@ Result<JobStatus, CupsError> queryJob(CupsConnection &connection, const QString 
     return job;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

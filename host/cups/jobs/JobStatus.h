@@ -6,6 +6,8 @@
 #include <QStringList>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// The state of a job; the values are those of IPP's "job-state".
 enum class JobState {
@@ -51,4 +53,6 @@ struct JobStatus {
 /// Queries the state of a job. For background tasks.
 Result<JobStatus, CupsError> queryJob(CupsConnection &connection, const QString &queue, int jobId);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

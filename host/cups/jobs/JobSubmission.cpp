@@ -2,6 +2,8 @@
 #include "JobSubmission.h"
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 JobSubmission::JobSubmission(CupsServer server, QObject *parent)
     : QObject(parent)
@@ -36,4 +38,6 @@ void JobSubmission::cancel()
         m_task->cancel();
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

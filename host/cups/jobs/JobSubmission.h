@@ -6,6 +6,8 @@
 #include <host/cups/server/Background.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// Sends jobs one after another, from the main thread without blocking it, with progress and cancellation.
 class JobSubmission : public QObject {
@@ -41,4 +43,6 @@ private:
     std::shared_ptr<BackgroundTask> m_task;
 };
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

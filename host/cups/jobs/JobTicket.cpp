@@ -6,6 +6,8 @@
 #include <cups/cups.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 QString sendableTitle(const QString &title)
 {
@@ -70,4 +72,6 @@ void encodeJobOptions(ipp_t *request, const std::vector<JobOption> &options)
     }
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

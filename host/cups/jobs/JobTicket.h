@@ -8,6 +8,8 @@
 struct _ipp_s;
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// One document of a job.
 struct JobDocument {
@@ -55,4 +57,6 @@ bool isSentAsName(const JobOption &option);
 /// In filters, an unclosed brace includes all following options in the value.
 const JobOption *findUnsendable(const std::vector<JobOption> &options);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -13,11 +13,13 @@
 #include <QUuid>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct JobUploadText {
-    Q_DECLARE_TR_FUNCTIONS(host::JobUpload)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobUpload)
 };
 
 /// The upload of one job over one connection.
@@ -246,4 +248,6 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     return job;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsConnection.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// The progress of an upload.
 struct UploadProgress {
@@ -28,4 +30,6 @@ struct UploadProgress {
 Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,
                                  const std::function<void(const UploadProgress &)> &progress);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

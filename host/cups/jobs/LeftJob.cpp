@@ -7,11 +7,13 @@
 #include <QCoreApplication>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct LeftJobText {
-    Q_DECLARE_TR_FUNCTIONS(host::LeftJob)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::LeftJob)
 };
 
 /// Returns the server of the job, which may differ from the current one.
@@ -87,4 +89,6 @@ Result<QString, CupsError> settleLeftJob(const CupsServer &asking, const JobReco
     return outcome;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,8 +6,16 @@
 #include <host/cups/server/CupsServer.h>
 
 namespace host {
-
+inline namespace cups {
+inline namespace server {
 class BackgroundTask;
+} // namespace server
+} // namespace cups
+} // namespace host
+
+namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// The user's decision about a job that a killed program has left.
 enum class LeftJobAction {
@@ -24,4 +32,6 @@ QString leftJobSentence(const JobRecord &record);
 Result<QString, CupsError> settleLeftJob(const CupsServer &asking, const JobRecord &record,
                                          LeftJobAction action, BackgroundTask &task);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,11 +6,13 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
 struct LpCommandText {
-    Q_DECLARE_TR_FUNCTIONS(host::LpCommand)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::LpCommand)
 };
 
 /// Options of lp with a letter of their own.
@@ -121,4 +123,6 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
     return command;
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsServer.h>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 /// The lp(1) command that prints the same job, as shell words, quoted where needed.
 struct LpCommand {
@@ -25,4 +27,6 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket);
 /// Quotes the word for a POSIX shell, if needed.
 QString shellWord(const QString &word);
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -13,6 +13,8 @@
 #include <memory>
 
 namespace host {
+inline namespace cups {
+inline namespace jobs {
 
 namespace {
 
@@ -41,4 +43,6 @@ QByteArray mailRecipient(const std::optional<QString> &user)
     return "mailto:" + name + '@' + fullHostName();
 }
 
+} // namespace jobs
+} // namespace cups
 } // namespace host

@@ -7,6 +7,8 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
@@ -136,4 +138,6 @@ std::pair<QString, std::optional<QString>> splitDestinationName(const QString &n
     return {name.left(slash), name.mid(slash + 1)};
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

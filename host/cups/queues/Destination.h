@@ -10,6 +10,8 @@
 #include <vector>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// An option and its value, byte for byte as in a job.
 struct NamedValue {
@@ -81,4 +83,6 @@ bool isSamePrinter(const Destination &one, const Destination &other);
 /// Splits "queue/instance" at the last slash, as lp does. Without a slash, the instance is absent.
 std::pair<QString, std::optional<QString>> splitDestinationName(const QString &name);
 
+} // namespace queues
+} // namespace cups
 } // namespace host

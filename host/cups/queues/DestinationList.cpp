@@ -7,6 +7,8 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
@@ -137,4 +139,6 @@ const Destination *DestinationList::defaultDestination() const
     return found == m_destinations.end() ? nullptr : &*found;
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

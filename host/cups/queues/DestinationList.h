@@ -7,6 +7,8 @@
 #include <host/cups/server/CupsServer.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// Whether printers are also discovered on the network.
 enum class Discovery { No, Yes };
@@ -68,4 +70,6 @@ private:
     std::shared_ptr<BackgroundTask> m_task;
 };
 
+} // namespace queues
+} // namespace cups
 } // namespace host

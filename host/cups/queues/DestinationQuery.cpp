@@ -7,6 +7,8 @@
 #include <array>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
@@ -226,4 +228,6 @@ void discoverDestinations(BackgroundTask &task, std::chrono::milliseconds time,
                   CUPS_PRINTER_DISCOVERED, CUPS_PRINTER_DISCOVERED, discovered, &discovery);
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

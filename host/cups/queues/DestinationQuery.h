@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsConnection.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// Returns all queues and classes of the server, with the user's instances of them, in the server's order;
 /// the default destination is marked. For background tasks.
@@ -23,4 +25,6 @@ Result<Destination, CupsError> queryDestination(CupsConnection &connection, cons
 void discoverDestinations(BackgroundTask &task, std::chrono::milliseconds time,
                           const std::function<void(const Destination &)> &found);
 
+} // namespace queues
+} // namespace cups
 } // namespace host

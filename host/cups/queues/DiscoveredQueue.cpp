@@ -9,11 +9,13 @@
 #include <array>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
 struct DiscoveredQueueText {
-    Q_DECLARE_TR_FUNCTIONS(host::DiscoveredQueue)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::queues::DiscoveredQueue)
 };
 
 /// The interval at which the server is queried whether it has created the queue.
@@ -125,4 +127,6 @@ Result<void, CupsError> ensureQueue(CupsConnection &connection, const Destinatio
     return waitUntilMade(connection, destination.queue, task, printersTime);
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

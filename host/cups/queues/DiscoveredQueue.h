@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsConnection.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// Ensures that the server has a queue for a discovered printer: has it created if needed and waits until it
 /// can be used. Does nothing for other destinations. The server removes such a queue after a minute without
@@ -18,4 +20,6 @@ Result<void, CupsError> ensureQueue(CupsConnection &connection, const Destinatio
                                     BackgroundTask &task,
                                     const std::optional<std::chrono::milliseconds> &time = std::nullopt);
 
+} // namespace queues
+} // namespace cups
 } // namespace host

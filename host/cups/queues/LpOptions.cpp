@@ -8,6 +8,8 @@
 #include <algorithm>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
@@ -93,4 +95,6 @@ std::vector<NamedValue> LpOptions::options(const QString &queue, const std::opti
     return {};
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

@@ -4,6 +4,8 @@
 #include "Destination.h"
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// The options that lpoptions(1) stores, for all users and for the current one. They are read here because
 /// libcups merges them into the server's options, so that the two cannot be distinguished, and does not list
@@ -37,4 +39,6 @@ private:
     std::optional<QString> m_defaultName;
 };
 
+} // namespace queues
+} // namespace cups
 } // namespace host

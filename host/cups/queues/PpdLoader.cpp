@@ -12,6 +12,8 @@
 #include <QFileInfo>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
@@ -172,4 +174,6 @@ void PpdLoader::report(const QString &queue, const Outcome &outcome)
         Q_EMIT unchanged(queue);
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

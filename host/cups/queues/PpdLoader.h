@@ -10,6 +10,8 @@
 #include <map>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// Loads the PPDs of queues: first the cached one, then the server's.
 ///
@@ -67,4 +69,6 @@ private:
     std::map<QString, QByteArray> m_given;
 };
 
+} // namespace queues
+} // namespace cups
 } // namespace host

@@ -12,6 +12,8 @@
 #include <cups/http.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
@@ -144,4 +146,6 @@ void QueueCache::removePpd(const QString &queue) const
     QFile::remove(ppdFileName(queue));
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

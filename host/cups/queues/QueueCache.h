@@ -6,6 +6,8 @@
 #include <host/cups/server/CupsServer.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// The cache of what a server last reported, which a dialog shows before the server responds: queues, their
 /// states and their PPDs. Stored in $XDG_CACHE_HOME/kvprint/cups/SERVER, in separate files, which are always
@@ -52,4 +54,6 @@ private:
     QString m_folder;
 };
 
+} // namespace queues
+} // namespace cups
 } // namespace host

@@ -4,6 +4,8 @@
 #include "DestinationQuery.h"
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 QueueMonitor::QueueMonitor(const CupsServer &server, const QString &queue,
                            const std::optional<QString> &instance, std::chrono::milliseconds pause,
@@ -30,4 +32,6 @@ QueueMonitor::QueueMonitor(const CupsServer &server, const QString &queue,
     });
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

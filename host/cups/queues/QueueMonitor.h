@@ -7,6 +7,8 @@
 #include <host/cups/server/CupsServer.h>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// Monitors the state of one destination until the monitor is destroyed. For the chosen destination of a
 /// dialog.
@@ -29,4 +31,6 @@ private:
     Background m_background;
 };
 
+} // namespace queues
+} // namespace cups
 } // namespace host

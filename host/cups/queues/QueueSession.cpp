@@ -7,11 +7,13 @@
 #include <QTimer>
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 namespace {
 
 struct QueueSessionText {
-    Q_DECLARE_TR_FUNCTIONS(host::QueueSession)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::queues::QueueSession)
 };
 
 /// The interval after which a server that could not be reached is queried again.
@@ -244,4 +246,6 @@ std::optional<PpdFile> QueueSession::takePpd()
     return std::exchange(m_ppd, std::nullopt);
 }
 
+} // namespace queues
+} // namespace cups
 } // namespace host

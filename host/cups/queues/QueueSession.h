@@ -6,6 +6,8 @@
 #include "QueueMonitor.h"
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// The state of the chosen queue's PPD.
 enum class PpdKnowledge {
@@ -117,4 +119,6 @@ private:
     bool m_isOutOfReach = false;
 };
 
+} // namespace queues
+} // namespace cups
 } // namespace host

@@ -4,6 +4,8 @@
 #include "Destination.h"
 
 namespace host {
+inline namespace cups {
+inline namespace queues {
 
 /// The severity of a state, for the choice of an icon or color.
 enum class StateSeverity { Good, Warning, Error };
@@ -21,4 +23,6 @@ QString stateReasonSentence(const QString &reason);
 /// Returns the severity of an IPP keyword, such as that of the suffix "-error".
 StateSeverity stateReasonSeverity(const QString &reason);
 
+} // namespace queues
+} // namespace cups
 } // namespace host

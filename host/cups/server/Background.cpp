@@ -7,6 +7,8 @@
 #include <pthread.h>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 bool BackgroundTask::isCancelled() const
 {
@@ -77,4 +79,6 @@ void Background::detach(std::function<void()> work)
     thread.detach();
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

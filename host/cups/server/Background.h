@@ -10,6 +10,8 @@
 #include <vector>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// A task on its own thread, as seen by that thread.
 class BackgroundTask {
@@ -80,4 +82,6 @@ private:
     std::vector<std::weak_ptr<BackgroundTask>> m_tasks;
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

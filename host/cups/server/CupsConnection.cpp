@@ -11,11 +11,13 @@
 #include <sys/ioctl.h>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
 struct CupsConnectionText {
-    Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::server::CupsConnection)
 };
 
 /// The interval in seconds at which the task is checked while the server is silent.
@@ -141,4 +143,6 @@ CupsError CupsConnection::noAnswer() const
             CupsConnectionText::tr("The connection to the print server \"%1\" broke.").arg(name)};
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

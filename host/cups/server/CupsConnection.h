@@ -11,6 +11,8 @@
 #include <memory>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// The deleter of IppPointer.
 struct IppDelete {
@@ -191,4 +193,6 @@ QByteArray queueUri(const QString &queue);
 /// Returns the resource to which requests about a queue are sent.
 QByteArray queueResource(const QString &queue);
 
+} // namespace server
+} // namespace cups
 } // namespace host

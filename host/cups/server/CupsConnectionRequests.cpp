@@ -10,11 +10,13 @@
 #include <array>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
 struct CupsConnectionRequestsText {
-    Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::server::CupsConnection)
 };
 
 /// The length that libcups uses for content whose length is not known in advance.
@@ -347,4 +349,6 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     return std::optional(file);
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

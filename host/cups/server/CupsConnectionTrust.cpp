@@ -8,11 +8,13 @@
 #include <utility>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
 struct CupsConnectionTrustText {
-    Q_DECLARE_TR_FUNCTIONS(host::CupsConnection)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::server::CupsConnection)
 };
 
 } // namespace
@@ -171,4 +173,6 @@ CupsError CupsConnection::passwordError() const
                 .arg(name, user)};
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

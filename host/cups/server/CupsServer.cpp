@@ -4,6 +4,8 @@
 #include <cups/cups.h>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 QString CupsServer::displayName() const
 {
@@ -25,4 +27,6 @@ void CupsServer::forgetRefusals() const
     trust->forgetRefusals();
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

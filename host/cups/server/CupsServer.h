@@ -15,6 +15,8 @@
 #include <optional>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// Why a request to a print server, or the operation that needs it, failed.
 enum class CupsFailure {
@@ -70,4 +72,6 @@ struct CupsServer {
     QString displayName() const;
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

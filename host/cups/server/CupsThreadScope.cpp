@@ -4,6 +4,8 @@
 #include <vector>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
@@ -66,4 +68,6 @@ void CupsThreadScope::apply() const
     cupsSetPasswordCB2(m_password, m_data);
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

@@ -6,6 +6,8 @@
 #include <cups/cups.h>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// Sets the libcups settings of the calling thread: server, encryption, user and password callback. The
 /// destructor restores those of the enclosing scope, or libcups's defaults. No other class changes these
@@ -33,4 +35,6 @@ private:
     void *m_data;
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

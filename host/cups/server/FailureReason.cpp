@@ -11,11 +11,13 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
 struct FailureReasonText {
-    Q_DECLARE_TR_FUNCTIONS(host::FailureReason)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::server::FailureReason)
 };
 
 struct AddressListFree {
@@ -68,4 +70,6 @@ QString statusReason(http_status_t status)
     return QString::fromUtf8(httpStatus(status));
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

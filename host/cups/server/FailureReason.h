@@ -7,6 +7,8 @@
 #include <QString>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// Returns why a connection to the server on the port cannot be made: the system's message, in the user's
 /// language. Must be called directly after httpConnect2() has failed, which reports "Host is down" for every
@@ -17,4 +19,6 @@ QString connectionFailureReason(const QByteArray &server, int port);
 /// the user's language where libcups's does not describe the cause.
 QString statusReason(http_status_t status);
 
+} // namespace server
+} // namespace cups
 } // namespace host

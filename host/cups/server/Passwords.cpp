@@ -2,6 +2,8 @@
 #include "Passwords.h"
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 PasswordRequest::PasswordRequest(QString prompt, QString user)
     : m_prompt(std::move(prompt))
@@ -70,4 +72,6 @@ void PasswordMemory::forgetRefusal()
     m_isRefused = false;
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

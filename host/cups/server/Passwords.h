@@ -10,6 +10,8 @@
 #include <functional>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// A server's request for a password, shown to the user on the main thread while the thread of the connection
 /// waits. Copies share their state; only the first answer counts.
@@ -76,4 +78,6 @@ private:
     bool m_isRefused = false;
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

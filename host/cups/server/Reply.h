@@ -9,6 +9,8 @@
 #include <optional>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// The user's answer to a question: given on the main thread, awaited by the thread of the connection. Copies
 /// share their state; only the first answer counts.
@@ -45,4 +47,6 @@ private:
     std::shared_ptr<State> m_state = std::make_shared<State>();
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

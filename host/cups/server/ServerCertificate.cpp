@@ -11,6 +11,8 @@
 #include <unistd.h>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
@@ -125,4 +127,6 @@ QString ServerCertificate::path(const std::optional<QString> &folder) const
     return folder.value_or(usual) + u'/' + file + QStringLiteral(".crt");
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

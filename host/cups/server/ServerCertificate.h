@@ -10,6 +10,8 @@
 #include <optional>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// Returns whether the peer of the connection is this machine: a local socket or the loopback interface. Such
 /// a connection cannot be read on the network, whether it is encrypted or not.
@@ -61,4 +63,6 @@ private:
     QByteArray m_server;
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

@@ -2,6 +2,8 @@
 #include "Trust.h"
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 namespace {
 
@@ -63,4 +65,6 @@ void TrustMemory::forgetRefusals()
     m_refused.clear();
 }
 
+} // namespace server
+} // namespace cups
 } // namespace host

@@ -9,6 +9,8 @@
 #include <functional>
 
 namespace host {
+inline namespace cups {
+inline namespace server {
 
 /// A question to the user about the security of a connection to a print server on another machine, shown on
 /// the main thread while the thread of the connection waits. Copies share their state; only the first answer
@@ -75,4 +77,6 @@ private:
     QSet<QString> m_refused;
 };
 
+} // namespace server
+} // namespace cups
 } // namespace host

@@ -89,17 +89,22 @@ std::vector<QStringList> screens()
 {
     // What stands beside the pages; the fields of a custom paper come and go, whatever page is in front.
     const QStringList mainWindow{
-        QStringLiteral("dialog::PrintDialog"),       QStringLiteral("dialog::DestinationChooser"),
-        QStringLiteral("dialog::PaperChooser"),      QStringLiteral("dialog::PaperList"),
-        QStringLiteral("dialog::CustomPaperFields"), QStringLiteral("dialog::PageOptions"),
-        QStringLiteral("dialog::DialogPages"),       QStringLiteral("dialog::StripPreview"),
-        QStringLiteral("dialog::SendBar"),
+        QStringLiteral("dialog::window::PrintDialog"),
+        QStringLiteral("dialog::job::DestinationChooser"),
+        QStringLiteral("dialog::paper::PaperChooser"),
+        QStringLiteral("dialog::paper::PaperList"),
+        QStringLiteral("dialog::paper::CustomPaperFields"),
+        QStringLiteral("dialog::job::PageOptions"),
+        QStringLiteral("dialog::window::DialogPages"),
+        QStringLiteral("dialog::window::StripPreview"),
+        QStringLiteral("dialog::job::SendBar"),
     };
     std::vector<QStringList> screens;
-    for (const char *const page : {"JobPage", "OptionsPage", "SentPage", "PagePreview", "SummaryPage"})
+    for (const char *const page :
+         {"job::JobPage", "options::OptionsPage", "job::SentPage", "window::PagePreview", "job::SummaryPage"})
         screens.push_back(mainWindow + QStringList{QStringLiteral("dialog::") + QLatin1String(page)});
-    screens.push_back({QStringLiteral("dialog::PasswordDialog")});
-    screens.push_back({QStringLiteral("dialog::JobWindow")});
+    screens.push_back({QStringLiteral("dialog::job::PasswordDialog")});
+    screens.push_back({QStringLiteral("dialog::job::JobWindow")});
     return screens;
 }
 
@@ -173,8 +178,9 @@ TEST(Translations, LetterKeysAreTakenOnlyOnceInAWindow)
 TEST(Translations, AreFoundByTheLocale)
 {
     dialog::installTranslations(QLocale(QLocale::German, QLocale::Austria));
-    EXPECT_EQ(QCoreApplication::translate("dialog::PrintDialog", "&Print"), QStringLiteral("&Drucken"));
+    EXPECT_EQ(QCoreApplication::translate("dialog::window::PrintDialog", "&Print"),
+              QStringLiteral("&Drucken"));
     for (QTranslator *const translator : QCoreApplication::instance()->findChildren<QTranslator *>())
         delete translator;
-    EXPECT_EQ(QCoreApplication::translate("dialog::PrintDialog", "&Print"), QStringLiteral("&Print"));
+    EXPECT_EQ(QCoreApplication::translate("dialog::window::PrintDialog", "&Print"), QStringLiteral("&Print"));
 }

@@ -75,7 +75,7 @@ TEST(CommandDocuments, TheManualPageTellsEveryOptionAndNoOther)
     for (auto matches = item.globalMatch(page.section(QStringLiteral(".Sh JSON"), 0, 0)); matches.hasNext();)
         documented.append(u'-' + matches.next().captured(1));
     QStringList wanted;
-    for (const dialog::CommandOption &option : dialog::commandOptions())
+    for (const programs::CommandOption &option : programs::commandOptions())
         wanted.append(option.spelling());
     documented.removeDuplicates();
     documented.sort();
@@ -86,7 +86,7 @@ TEST(CommandDocuments, TheManualPageTellsEveryOptionAndNoOther)
 TEST(CommandDocuments, BashCompletesEveryOptionAndNoOther)
 {
     QStringList wanted{QStringLiteral("--")};
-    for (const dialog::CommandOption &option : dialog::commandOptions())
+    for (const programs::CommandOption &option : programs::commandOptions())
         wanted.append(option.spelling());
     QStringList words = offered({QStringLiteral("kvprint"), QStringLiteral("-")});
     words.sort();
@@ -106,7 +106,7 @@ TEST(CommandDocuments, ZshCompletesEveryOptionAndNoOther)
         const QRegularExpressionMatch match = matches.next();
         words.append(match.captured(1) + match.captured(3));
     }
-    for (const dialog::CommandOption &option : dialog::commandOptions())
+    for (const programs::CommandOption &option : programs::commandOptions())
         wanted.append(option.spelling() + (option.value ? QStringLiteral(":") : QString()));
     words.sort();
     wanted.sort();

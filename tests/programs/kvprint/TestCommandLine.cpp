@@ -5,20 +5,20 @@
 
 #include <gtest/gtest.h>
 
-using dialog::CommandLine;
-using dialog::Task;
-using dialog::UsageProblem;
+using programs::CommandLine;
+using programs::Task;
+using programs::UsageProblem;
 using host::Collate;
 using host::Orientation;
 
 namespace {
 
-host::Result<CommandLine, dialog::UsageError> parse(const QStringList &words)
+host::Result<CommandLine, programs::UsageError> parse(const QStringList &words)
 {
-    return dialog::parseCommandLine(QStringList{QStringLiteral("kvprint")} + words);
+    return programs::parseCommandLine(QStringList{QStringLiteral("kvprint")} + words);
 }
 
-host::Result<CommandLine, dialog::UsageError> parse(const char *line)
+host::Result<CommandLine, programs::UsageError> parse(const char *line)
 {
     return parse(QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts));
 }
@@ -275,7 +275,7 @@ TEST(CommandLine, HelpNamesEveryOptionAndExitStatus)
     ASSERT_FALSE(help);
     EXPECT_EQ(help.error().kind, UsageProblem::HelpWanted);
     const QString text = help.error().message;
-    for (const dialog::CommandOption &option : dialog::commandOptions())
+    for (const programs::CommandOption &option : programs::commandOptions())
         EXPECT_TRUE(text.contains(u' ' + option.spelling())) << qPrintable(option.spelling());
     for (const char *const status : {"  0  ", "  1  ", "  2  ", "  3  ", "  4  "})
         EXPECT_TRUE(text.contains(QLatin1String(status))) << status;

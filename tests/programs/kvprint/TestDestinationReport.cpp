@@ -44,7 +44,7 @@ std::vector<Destination> everyKind()
 
 TEST(DestinationReport, TellsPeopleHowQueuesAre)
 {
-    EXPECT_EQ(dialog::destinationsInPlainText(everyKind()),
+    EXPECT_EQ(programs::destinationsInPlainText(everyKind()),
               QStringLiteral("tape (default)\n"
                              "    Tape printer, Desk by the window\n"
                              "    The queue is paused; jobs wait. The label roll or tape is empty. "
@@ -56,12 +56,12 @@ TEST(DestinationReport, TellsPeopleHowQueuesAre)
                              "    Printing.\n"
                              "far\n"
                              "    State unknown.\n"));
-    EXPECT_EQ(dialog::destinationsInPlainText({}), QString());
+    EXPECT_EQ(programs::destinationsInPlainText({}), QString());
 }
 
 TEST(DestinationReport, TellsProgramsEverythingUnderKeysThatStay)
 {
-    const QByteArray json = dialog::destinationsAsJson(everyKind());
+    const QByteArray json = programs::destinationsAsJson(everyKind());
     EXPECT_TRUE(json.endsWith('\n'));
     const QJsonArray array = QJsonDocument::fromJson(json).array();
     ASSERT_EQ(array.size(), 4);
@@ -79,5 +79,5 @@ TEST(DestinationReport, TellsProgramsEverythingUnderKeysThatStay)
     EXPECT_EQ(array.at(2)[u"members"], (QJsonArray{QStringLiteral("tape"), QStringLiteral("Büro")}));
     EXPECT_EQ(array.at(2)[u"state"], QStringLiteral("printing"));
     EXPECT_EQ(array.at(3)[u"state"], QStringLiteral("unknown"));
-    EXPECT_EQ(dialog::destinationsAsJson({}), "[\n]\n");
+    EXPECT_EQ(programs::destinationsAsJson({}), "[\n]\n");
 }
