@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "OptionTable.h"
-
 #include <plugin/BasePDE.h>
 #include <preview/OptionView.h>
 #include <protocol/PDEUserChoices.h>
+#include <table/OptionTable.h>
+#include <table/Preset.h>
 
 #include <QCheckBox>
 #include <QJsonObject>
@@ -22,13 +22,13 @@
 
 /// The cut-options panel: it sets how labels are cut and finished.
 ///
-/// It has a row with a check box for each of nine options of the printer's PPD. A row is visible only if the
-/// PPD defines its keyword. The marks of the PPD are the panel's state: on a click the panel passes the
-/// choice to the dialog, which marks it, and the row is updated from the marked choice. A pop-up button
-/// offers predefined combinations, a picture shows the current one, and rules disable the controls that
-/// conflict with the paper or with another option.
+/// It has a row with a check box for each of nine options of the printer's PPD (OptionKind). A row is visible
+/// only if the PPD defines its keyword. The marks of the PPD are the panel's state: on a click the panel
+/// passes the choice to the dialog, which marks it, and the row is updated from the marked choice. A pop-up
+/// button offers predefined combinations, a picture shows the current one, and rules disable the controls
+/// that conflict with the paper or with another option.
 ///
-/// All rows are driven by one table (OptionRow), so that a new option is a new row. Controls that are not
+/// All rows are driven by one table (optionTable), so that a new option is a new row. Controls that are not
 /// loaded yet read as visible, disabled and off, and writing to them does nothing, since a dialog may save or
 /// request the summary before it shows the panel.
 class OptionPDE13_v400_ : public BasePDE13_v400_, public PDEUserChoices_v1, public PDEChoiceSummary_v1 {
@@ -134,12 +134,12 @@ public:
     // The state of the panel, for tools and tests. The caller does not own any of the pointers. They are null
     // if the PPD does not define the option, no choice is selected or the view is not loaded.
 
-    const ppd_option_t *option(OptionKind kind) const { return this->*row(kind).option; }
-    const PDEChoiceList *choices(OptionKind kind) const { return (this->*row(kind).choices).get(); }
-    const PDEChoice *selection(OptionKind kind) const { return this->*row(kind).selection; }
+    const ppd_option_t *option(OptionKind kind) const { return fields(kind).record; }
+    const PDEChoiceList *choices(OptionKind kind) const { return fields(kind).choices.get(); }
+    const PDEChoice *selection(OptionKind kind) const { return fields(kind).selection; }
     const PDEChoice *cutEveryAutoCutSelection() const { return mAutoCut_CutEvery_Selection; }
     /// The check box of the row; null while the view is not loaded.
-    QCheckBox *checkBox(OptionKind kind) const { return this->*row(kind).box; }
+    QCheckBox *checkBox(OptionKind kind) const { return fields(kind).box; }
     QLineEdit *countField() const { return mCutEveryTxBx; }
     platform::Stepper *countStepper() const { return mCutEveryStpr; }
     QLabel *countWord() const { return mCutEveryStr; }
@@ -155,47 +155,31 @@ protected:
     bool connectOutlets(QWidget *view, QString *error) override;
 
 private:
-    /// How the choice index that a row saves is determined.
-    enum class SaveIndex : std::uint8_t { State, AutoChain };
-
-    /// One option: its names and the members of the panel that belong to it.
-    struct OptionRow {
-        OptionKind kind;
-        const char *keyword;
-        std::uint32_t item;
-        const char *titleKey;
-        const char *summaryKey;
-        /// The default choice for which the box is on when the panel is first shown.
-        const char *onDefault;
-        SaveIndex saveIndex;
-        /// The object name of the box in the layout file, equal to the name of the member.
-        const char *boxName;
-        QPointer<QCheckBox> OptionPDE13_v400_::*box;
-        ppd_option_t *OptionPDE13_v400_::*option;
-        ChoicesField OptionPDE13_v400_::*choices;
-        const PDEChoice *OptionPDE13_v400_::*selection;
-        /// The option that the box edits: the option of the row, except for the cut-every row. Its box edits
-        /// the automatic cut, which it shares with the auto-cut box, so that printers with and without a
-        /// separate box behave alike.
-        const char *boxKeyword;
-        ChoicesField OptionPDE13_v400_::*boxChoices;
-        const PDEChoice *OptionPDE13_v400_::*boxSelection;
-        void (OptionView13_v400_::*handToPreview)(const QAbstractButton *);
-        void (OptionPDE13_v400_::*initialize)();
-        void (OptionPDE13_v400_::*save)();
+    /// What the panel keeps for each option.
+    struct OptionFields {
+        /// The option in the PPD, owned by the dialog; null if the PPD does not define it.
+        ppd_option_t *record = nullptr;
+        /// The choices of the option; null without a record.
+        ChoicesField choices;
+        /// The selected choice, which points into the choices; may be null.
+        const PDEChoice *selection = nullptr;
+        /// The check box, owned by the view. Becomes null when the box is deleted, even if the view still
+        /// exists.
+        QPointer<QCheckBox> box;
     };
-    static const std::array<OptionRow, OptionCount> optionTable;
-    static const OptionRow &row(OptionKind kind) { return optionTable[static_cast<std::size_t>(kind)]; }
-
-    struct LayoutRow;
+    OptionFields &fields(OptionKind kind) { return mFields[static_cast<std::size_t>(kind)]; }
+    const OptionFields &fields(OptionKind kind) const { return mFields[static_cast<std::size_t>(kind)]; }
 
     void layOutRows(double viewHeight, double *hiddenHeight);
-    void placeRow(const LayoutRow &row, double viewHeight, double *y);
+    void placeRow(const OptionRow &row, double viewHeight, double *y);
+    void removePresets(const PresetSet &removed);
     bool isRowShown(OptionKind kind) const;
     void prunePopUpByFamily();
     void dressPopUp();
     void makePreview();
     void connectActions();
+    /// Initializes the row by the function that stands for it above.
+    void initializeUI(OptionKind kind);
     void initializeRow(OptionKind kind);
     void initializeTitleAndState(OptionKind kind);
     void fillReplacedControls();
@@ -218,15 +202,21 @@ private:
     };
     CountRange countRange() const;
     void showCount(const QString &text);
+    /// The row of the check box; null for any other object.
     const OptionRow *rowOfBox(const QWidget *box) const;
     void chooseBoxState(const OptionRow &edited);
+    void applyUserChoice(OptionKind kind, const PDEChoices &choices);
     void applyToBox(OptionKind kind, int index);
     void applyToCount(int index);
     int boxIndexGiven(OptionKind kind, const PDEChoices &choices) const;
     void applyPreset(int tag);
     void updateRow(const OptionRow &row);
+    /// The selection that the box of the row shows: of the option that the box edits.
+    const PDEChoice *boxSelection(const OptionRow &row) const;
     bool isBoxOn(OptionKind kind) const;
 
+    /// Saves the row by the function that stands for it above.
+    void saveRow(OptionKind kind);
     void saveSetting(OptionKind kind);
     /// The choice that is saved for an option; absent for a list without choices.
     std::optional<QString> choiceToSave(OptionKind kind) const;
@@ -235,7 +225,10 @@ private:
     int boxIndexToSave(const OptionRow &row) const;
     int countIndexToSave() const;
     QString chainedAutoCutToSave() const;
+    /// The index of the marked choice; without a mark, of the default; -1 without either.
     int markedElseDefault(const PDEChoiceList *list, const char *keyword) const;
+    /// The marked choice of the option; without a mark, its default; null without either.
+    const PDEChoice *markedElseDefaultChoice(OptionKind kind) const;
     void sendChoice(const ppd_option_t *option, const std::optional<QString> &choice);
 
     static std::optional<QString> choiceGiven(OptionKind kind, const PDEChoices &given);
@@ -247,50 +240,12 @@ private:
     bool isInSummary(OptionKind kind, const PDEChoices &given) const;
     QString summaryValue(OptionKind kind, const PDEChoices &given) const;
 
-    ppd_option_t *mCutEvery_Option = nullptr;
-    ppd_option_t *mCutEnd_Option = nullptr;
-    ppd_option_t *mMirror_Option = nullptr;
-    ppd_option_t *mAutoCut_Option = nullptr;
-    ppd_option_t *mHalfCut_Option = nullptr;
-    ppd_option_t *mChainPrint_Option = nullptr;
-    ppd_option_t *mSpecialTape_Option = nullptr;
-    ppd_option_t *mRemoveBlkSpace_Option = nullptr;
-    ppd_option_t *mCutMark_Option = nullptr;
-
-    ChoicesField mCutEvery_Choices;
-    ChoicesField mCutEnd_Choices;
-    ChoicesField mMirror_Choices;
-    ChoicesField mAutoCut_Choices;
-    ChoicesField mHalfCut_Choices;
-    ChoicesField mChainPrint_Choices;
-    ChoicesField mSpecialTape_Choices;
-    ChoicesField mRemoveBlkSpace_Choices;
-    ChoicesField mCutMark_Choices;
-
-    // The selected choices; each points into the list of its option.
-    const PDEChoice *mCutEvery_Selection = nullptr;
-    const PDEChoice *mCutEnd_Selection = nullptr;
-    const PDEChoice *mMirror_Selection = nullptr;
-    const PDEChoice *mAutoCut_Selection = nullptr;
-    const PDEChoice *mHalfCut_Selection = nullptr;
-    const PDEChoice *mChainPrint_Selection = nullptr;
-    const PDEChoice *mSpecialTape_Selection = nullptr;
-    const PDEChoice *mRemoveBlkSpace_Selection = nullptr;
-    const PDEChoice *mCutMark_Selection = nullptr;
+    std::array<OptionFields, OptionCount> mFields;
     /// The choice of the automatic cut that the box of the cut-every row edits.
     const PDEChoice *mAutoCut_CutEvery_Selection = nullptr;
 
     // Controls of the layout file, owned by the view. Each pointer becomes null when its control is deleted,
     // even if the view still exists.
-    QPointer<QCheckBox> mCutEveryChkBx;
-    QPointer<QCheckBox> mCutAndEndChkBx;
-    QPointer<QCheckBox> mMirrorPrintChkBx;
-    QPointer<QCheckBox> mAutoCutChkBx;
-    QPointer<QCheckBox> mHalfCutChkBx;
-    QPointer<QCheckBox> mChainPrintChkBx;
-    QPointer<QCheckBox> mSpecialTapeChkBx;
-    QPointer<QCheckBox> mRemoveBlkSpaceChkBx;
-    QPointer<QCheckBox> mCutMarkChkBx;
     QPointer<QLineEdit> mCutEveryTxBx;
     QPointer<platform::Stepper> mCutEveryStpr;
     QPointer<QLabel> mCutEveryStr;

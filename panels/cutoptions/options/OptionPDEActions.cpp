@@ -22,10 +22,10 @@ int countFromTitle(const PDEChoice &choice)
 
 } // namespace
 
-const OptionPDE13_v400_::OptionRow *OptionPDE13_v400_::rowOfBox(const QWidget *box) const
+const OptionRow *OptionPDE13_v400_::rowOfBox(const QWidget *box) const
 {
-    const auto found =
-        std::ranges::find_if(optionTable, [&](const OptionRow &row) { return box && this->*row.box == box; });
+    const auto found = std::ranges::find_if(
+        optionTable, [&](const OptionRow &row) { return box && checkBox(row.kind) == box; });
     return found == optionTable.end() ? nullptr : &*found;
 }
 
@@ -34,8 +34,8 @@ void OptionPDE13_v400_::changeOption(const QWidget *sender)
     if (mOptionView)
         mOptionView->update();
     if (const OptionRow *const row = rowOfBox(sender)) {
-        const int state = controls::state(this->*row->box);
-        const bool cutsAutomatically = row->boxChoices == &OptionPDE13_v400_::mAutoCut_Choices;
+        const int state = controls::state(checkBox(row->kind));
+        const bool cutsAutomatically = row->edits == OptionKind::AutoCut;
         if (cutsAutomatically && state == 1 && isHSTapePage())
             platform::Alert{QString(), localized(QStringLiteral("RS_Alrt_AutoCutWithHS")),
                             QStringLiteral("OK")}
@@ -47,8 +47,8 @@ void OptionPDE13_v400_::changeOption(const QWidget *sender)
 
 void OptionPDE13_v400_::chooseBoxState(const OptionRow &edited)
 {
-    selectionForItem(controls::state(this->*edited.box), QLatin1String(edited.boxKeyword),
-                     (this->*edited.boxChoices).get(), edited.item);
+    selectionForItem(controls::state(checkBox(edited.kind)), QLatin1String(optionRow(edited.edits).keyword),
+                     choices(edited.edits), edited.item);
     updateUIItem(edited.item);
 }
 
@@ -67,9 +67,10 @@ int OptionPDE13_v400_::CountRange::indexOf(int count) const
 
 OptionPDE13_v400_::CountRange OptionPDE13_v400_::countRange() const
 {
-    if (!mCutEvery_Choices || mCutEvery_Choices->empty())
+    const PDEChoiceList *const counts = choices(OptionKind::CutLabel);
+    if (!counts || counts->empty())
         return {smallestCount, largestCount};
-    return {countFromTitle(*mCutEvery_Choices->front()), countFromTitle(*mCutEvery_Choices->back())};
+    return {countFromTitle(*counts->front()), countFromTitle(*counts->back())};
 }
 
 void OptionPDE13_v400_::changeCutEveryValue(const QWidget *sender)
@@ -89,8 +90,8 @@ void OptionPDE13_v400_::changeCutEveryValue(const QWidget *sender)
         if (typed && std::ranges::none_of(text, [](QChar character) { return character.isDigit(); }))
             mCutEveryTxBx->selectAll();
     }
-    const OptionRow &row = OptionPDE13_v400_::row(OptionKind::CutLabel);
-    selectionForItem(counts.indexOf(count), QLatin1String(row.keyword), mCutEvery_Choices.get(), row.item);
+    const OptionRow &row = optionRow(OptionKind::CutLabel);
+    selectionForItem(counts.indexOf(count), QLatin1String(row.keyword), choices(row.kind), row.item);
     updateUIItem(row.item);
 }
 

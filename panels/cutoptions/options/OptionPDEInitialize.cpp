@@ -12,7 +12,7 @@ void OptionPDE13_v400_::initUI()
     if (set_formatSetting)
         return;
     for (const OptionRow &row : optionTable)
-        (this->*row.initialize)();
+        initializeUI(row.kind);
     setValuesToKey();
     set_formatSetting = true;
 }
@@ -24,10 +24,24 @@ void OptionPDE13_v400_::fillReplacedControls()
     if (!set_formatSetting)
         return;
     for (const OptionRow &row : optionTable)
-        (this->*row.initialize)();
+        initializeUI(row.kind);
     setPDEItems2();
     for (const OptionRow &row : optionTable)
         updateUIItem(row.item);
+}
+
+void OptionPDE13_v400_::initializeUI(OptionKind kind)
+{
+    switch (kind) {
+    case OptionKind::CutLabel:
+        return initializeUI_CutLabel();
+    case OptionKind::AutoCut:
+        return initializeUI_AutoCut();
+    case OptionKind::RemoveBlkSpace:
+        return initializeUI_RemoveBlkSpace();
+    default:
+        return initializeRow(kind);
+    }
 }
 
 void OptionPDE13_v400_::initializeRow(OptionKind kind)
@@ -38,29 +52,29 @@ void OptionPDE13_v400_::initializeRow(OptionKind kind)
 
 void OptionPDE13_v400_::initializeTitleAndState(OptionKind kind)
 {
-    const OptionRow &row = OptionPDE13_v400_::row(kind);
+    const OptionRow &row = optionRow(kind);
     const PDEChoiceList *const list = choices(kind);
     if (!list)
         return;
-    controls::setTitle(this->*row.box, titleFor(row.keyword, row.titleKey));
+    controls::setTitle(checkBox(kind), titleFor(row.keyword, row.titleKey));
     if (!list->empty())
-        controls::setState(this->*row.box,
+        controls::setState(checkBox(kind),
                            isDefaultOfOption(list->front()->choice()->option, row.onDefault) ? 1 : 0);
 }
 
 void OptionPDE13_v400_::initializeUI_CutLabel()
 {
-    const bool exists = mCutEvery_Option != nullptr;
-    controls::setEnabled(mCutEveryChkBx, exists);
-    if (!mCutEvery_Choices)
+    const ppd_option_t *const counts = option(OptionKind::CutLabel);
+    const bool exists = counts != nullptr;
+    controls::setEnabled(checkBox(OptionKind::CutLabel), exists);
+    if (!choices(OptionKind::CutLabel))
         return;
     if (mCutEveryStr)
         mCutEveryStr->setText(localized(QStringLiteral("RS_Labels")));
     initializeTitleAndState(OptionKind::CutLabel);
     controls::setEnabled(mCutEveryTxBx, exists);
     controls::setEnabled(mCutEveryStpr, exists);
-    const QString count =
-        platform::TextEncoding::system().decode(mCutEvery_Option->defchoice).value_or(QString());
+    const QString count = platform::TextEncoding::system().decode(counts->defchoice).value_or(QString());
     showCount(count);
     if (mCutEveryStpr)
         mCutEveryStpr->setValue(platform::integerValue(count));
@@ -68,7 +82,7 @@ void OptionPDE13_v400_::initializeUI_CutLabel()
 
 void OptionPDE13_v400_::initializeUI_AutoCut()
 {
-    controls::setEnabled(mAutoCutChkBx, mAutoCut_Option != nullptr);
+    controls::setEnabled(checkBox(OptionKind::AutoCut), option(OptionKind::AutoCut) != nullptr);
     if (mAutoCutHideKey_dec)
         initializeTitleAndState(OptionKind::AutoCut);
 }
@@ -92,5 +106,5 @@ void OptionPDE13_v400_::enableRemoveBlankSpaceByTape()
 {
     // Labels of a fixed length have no blank tape that could be removed.
     const bool removable = getTapeState() == TapeKindPlain || getTapeState() == TapeKindUnlisted;
-    controls::setEnabled(mRemoveBlkSpaceChkBx, removable);
+    controls::setEnabled(checkBox(OptionKind::RemoveBlkSpace), removable);
 }

@@ -72,21 +72,14 @@ QJsonObject OptionPDE13_v400_::inspection() const
 {
     if (!kPDEView)
         return {};
-    static constexpr std::array<const char *, OptionCount> selectionFields = {
-        "mCutEvery_Selection",    "mCutEnd_Selection",         "mMirror_Selection",
-        "mAutoCut_Selection",     "mHalfCut_Selection",        "mChainPrint_Selection",
-        "mSpecialTape_Selection", "mRemoveBlkSpace_Selection", "mCutMark_Selection",
-    };
     QJsonObject controlStates;
     QJsonObject selections{{"mAutoCut_CutEvery_Selection", titleOf(mAutoCut_CutEvery_Selection)}};
-    for (std::size_t index = 0; index < OptionCount; ++index) {
-        const OptionRow &row = optionTable[index];
-        const QCheckBox *const box = this->*row.box;
-        if (box)
+    for (const OptionRow &row : optionTable) {
+        if (const QCheckBox *const box = checkBox(row.kind))
             controlStates.insert(
                 QLatin1String(row.boxName),
                 with(with(controlState(box), "state", controls::state(box)), "title", controls::title(box)));
-        selections.insert(QLatin1String(selectionFields[index]), titleOf(this->*row.selection));
+        selections.insert(QLatin1String(row.selectionName), titleOf(selection(row.kind)));
     }
     if (mCutEveryTxBx)
         controlStates.insert(QStringLiteral("mCutEveryTxBx"),

@@ -5,38 +5,18 @@
 #include <platform/Geometry.h>
 #include <platform/ImageIcon.h>
 
+#include <algorithm>
 #include <initializer_list>
-#include <iterator>
 
 namespace {
 
-constexpr double rowHeight = 26.0;
+constexpr double lineHeight = 26.0;
 constexpr double firstRowFromTop = 38.0;
 constexpr double previewFromTop = 130.0;
 constexpr double smallestPanelHeight = 150.0;
 
-using Titles = std::initializer_list<const char *>;
-
-constexpr Titles none = {};
-constexpr Titles withoutCutMark = {"CTMROnOffOff", "CTMROffOnOff", "CTMROnOnOff", "CTMROffOffOff"};
-constexpr Titles withCutMark = {"AHCMOffOffOffOff", "AHCMOffOffOnOff", "AHCMOffOnOnOff", "AHCMOnOffOnOff",
-                                "AHCMOnOnOnOff"};
-constexpr Titles withoutCutEvery = {"EveryEndMirrorOnOffOff"};
-constexpr Titles withoutAnyAutoCut = {"AHCMOnOffOffOff", "AHCMOnOffOnOff", "AHCMOnOnOffOff", "AHCMOnOnOnOff"};
-constexpr Titles withoutCutAtEnd = {"EveryEndMirrorOffOnOff"};
-constexpr Titles withoutHalfCut = {"AHCMOffOnOffOff", "AHCMOffOnOnOff", "AHCMOnOnOffOff", "AHCMOnOnOnOff"};
-constexpr Titles withoutSpecialTape = {"SPMROnOff"};
-constexpr Titles withoutChain = {"AHCMOffOffOnOff", "AHCMOffOnOnOff", "AHCMOnOffOnOff",
-                                 "AHCMOnOnOnOff",   "CTMROffOnOff",   "CTMROnOnOff"};
-constexpr Titles tapeFamilyLacks = {"EveryEndMirrorOffOffOff", "EveryEndMirrorOffOnOff",
-                                    "EveryEndMirrorOnOffOff"};
-constexpr Titles labelFamilyLacks = {"AHCMOffOffOffOff"};
-
-void removeItems(platform::PopUpButton *popUp, Titles titles)
-{
-    for (const char *title : titles)
-        popUp->removeItemWithTitle(QLatin1String(title));
-}
+constexpr PresetSet tapeFamilyLacks = {PresetLabelsUncut, PresetLabelsCutAtEnd, PresetLabelsCutEvery};
+constexpr PresetSet labelFamilyLacks = {PresetTapeUncut};
 
 /// Finds the control by its name. Returns false and sets the error if the layout does not contain it.
 template<typename Control>
@@ -52,21 +32,10 @@ bool connectOutlet(QWidget *view, const char *name, QPointer<Control> &field, QS
 
 } // namespace
 
-/// One row of the panel, listed from top to bottom. The order follows the processing of a strip: marks and
-/// cuts first, print effects last.
-struct OptionPDE13_v400_::LayoutRow {
-    OptionKind kind;
-    double height;
-    /// The presets that do not apply to a printer with this option, and those that do not apply to one
-    /// without it.
-    Titles removedWhenShown;
-    Titles removedWhenHidden;
-};
-
 bool OptionPDE13_v400_::connectOutlets(QWidget *view, QString *error)
 {
     for (const OptionRow &row : optionTable) {
-        if (!connectOutlet(view, row.boxName, this->*row.box, error))
+        if (!connectOutlet(view, row.boxName, fields(row.kind).box, error))
             return false;
     }
     return connectOutlet(view, "mCutEveryTxBx", mCutEveryTxBx, error) &&
@@ -97,7 +66,7 @@ void OptionPDE13_v400_::awakeFromNib()
 void OptionPDE13_v400_::connectActions()
 {
     for (const OptionRow &row : optionTable) {
-        QCheckBox *const box = this->*row.box;
+        QCheckBox *const box = checkBox(row.kind);
         QObject::connect(box, &QCheckBox::clicked, box, [this, box] { changeOption(box); });
     }
     QObject::connect(mCutEveryStpr, &platform::Stepper::stepped, mCutEveryStpr,
@@ -111,7 +80,7 @@ void OptionPDE13_v400_::connectActions()
 
 void OptionPDE13_v400_::prunePopUpByFamily()
 {
-    removeItems(mOptionPopUpButton, isDZPrinter() ? labelFamilyLacks : tapeFamilyLacks);
+    removePresets(isDZPrinter() ? labelFamilyLacks : tapeFamilyLacks);
 }
 
 bool OptionPDE13_v400_::isRowShown(OptionKind kind) const
@@ -121,55 +90,52 @@ bool OptionPDE13_v400_::isRowShown(OptionKind kind) const
 
 void OptionPDE13_v400_::layOutRows(double viewHeight, double *hiddenHeight)
 {
-    static const std::array<LayoutRow, OptionCount> rows = {{
-        {OptionKind::CutMark, rowHeight, withCutMark, withoutCutMark},
-        {OptionKind::CutLabel, 2 * rowHeight, none, withoutCutEvery},
-        {OptionKind::AutoCut, rowHeight, none, withoutAnyAutoCut},
-        {OptionKind::CutAtEnd, rowHeight, none, withoutCutAtEnd},
-        {OptionKind::HalfCut, rowHeight, none, withoutHalfCut},
-        {OptionKind::SpecialTape, rowHeight, none, withoutSpecialTape},
-        {OptionKind::ChainPrint, rowHeight, none, withoutChain},
-        {OptionKind::Mirror, rowHeight, none, none},
-        {OptionKind::RemoveBlkSpace, rowHeight, none, none},
-    }};
     for (const OptionRow &row : optionTable)
-        (this->*row.box)->hide();
+        checkBox(row.kind)->hide();
     for (QWidget *const control :
          std::initializer_list<QWidget *>{mCutEveryTxBx, mCutEveryStpr, mCutEveryStr})
         control->hide();
 
     double y = viewHeight - firstRowFromTop;
-    for (const LayoutRow &row : rows) {
-        if (isRowShown(row.kind)) {
-            removeItems(mOptionPopUpButton, row.removedWhenShown);
+    for (const OptionKind kind : panelOrder) {
+        const OptionRow &row = optionRow(kind);
+        if (isRowShown(kind)) {
+            removePresets(row.removedWith);
             placeRow(row, viewHeight, &y);
             continue;
         }
-        *hiddenHeight += row.height;
+        *hiddenHeight += row.lines * lineHeight;
         // If the cut-every row is visible, its box replaces the missing auto-cut box.
-        if (row.kind != OptionKind::AutoCut || !mCutEvery_Choices)
-            removeItems(mOptionPopUpButton, row.removedWhenHidden);
+        if (kind != OptionKind::AutoCut || !choices(OptionKind::CutLabel))
+            removePresets(row.removedWithout);
     }
 }
 
-void OptionPDE13_v400_::placeRow(const LayoutRow &layout, double viewHeight, double *y)
+void OptionPDE13_v400_::removePresets(const PresetSet &removed)
 {
-    QCheckBox *const box = checkBox(layout.kind);
+    for (const Preset &preset : presets) {
+        if (removed.contains(preset.tag))
+            mOptionPopUpButton->removeItemWithTitle(
+                QLatin1String(preset.picture.data(), static_cast<qsizetype>(preset.picture.size())));
+    }
+}
+
+void OptionPDE13_v400_::placeRow(const OptionRow &row, double viewHeight, double *y)
+{
+    QCheckBox *const box = checkBox(row.kind);
     platform::setBottomEdge(box, *y, viewHeight);
     box->show();
-    if (layout.kind != OptionKind::CutLabel) {
-        *y -= layout.height;
-        return;
+    if (row.kind == OptionKind::CutLabel) {
+        const int countLine = static_cast<int>(*y - lineHeight);
+        // The three controls differ in height; the offsets align their middle lines.
+        platform::setBottomEdge(mCutEveryTxBx, countLine - 4, viewHeight);
+        platform::setBottomEdge(mCutEveryStpr, countLine - 5, viewHeight);
+        platform::setBottomEdge(mCutEveryStr, countLine + 2, viewHeight);
+        mCutEveryTxBx->show();
+        mCutEveryStpr->show();
+        mCutEveryStr->show();
     }
-    const int countLine = static_cast<int>(*y - rowHeight);
-    // The three controls differ in height; the offsets align their middle lines.
-    platform::setBottomEdge(mCutEveryTxBx, countLine - 4, viewHeight);
-    platform::setBottomEdge(mCutEveryStpr, countLine - 5, viewHeight);
-    platform::setBottomEdge(mCutEveryStr, countLine + 2, viewHeight);
-    mCutEveryTxBx->show();
-    mCutEveryStpr->show();
-    mCutEveryStr->show();
-    *y = countLine - rowHeight;
+    *y -= row.lines * lineHeight;
 }
 
 void OptionPDE13_v400_::dressPopUp()
@@ -194,6 +160,6 @@ void OptionPDE13_v400_::makePreview()
     mOptionView->setObjectName(QStringLiteral("mOptionView"));
     delete mOptionDummyView.data();
     for (const OptionRow &row : optionTable)
-        (mOptionView->*row.handToPreview)(this->*row.box);
+        mOptionView->setBox(row.kind, checkBox(row.kind));
     mOptionView->show();
 }

@@ -3,7 +3,20 @@
 #include "Controls.h"
 #include "OptionPDE.h"
 
-#include <algorithm>
+namespace {
+
+PresetTag tapeTag(bool cuts, bool half, bool chain)
+{
+    if (cuts && half)
+        return chain ? PresetTapeCutHalfCutChain : PresetTapeCutHalfCut;
+    if (cuts)
+        return chain ? PresetTapeCutChain : PresetTapeCut;
+    if (half)
+        return chain ? PresetTapeHalfCutChain : PresetTapeHalfCut;
+    return chain ? PresetTapeChain : PresetTapeUncut;
+}
+
+} // namespace
 
 bool OptionPDE13_v400_::isBoxOn(OptionKind kind) const
 {
@@ -20,23 +33,23 @@ int OptionPDE13_v400_::targetPopUpButtonTag() const
     const bool cuts = !special && (isBoxOn(OptionKind::AutoCut) || isBoxOn(OptionKind::CutLabel));
     if (isDZPrinter()) {
         if (cuts)
-            return 3;
-        return isBoxOn(OptionKind::CutAtEnd) ? 2 : 1;
+            return PresetLabelsCutEvery;
+        return isBoxOn(OptionKind::CutAtEnd) ? PresetLabelsCutAtEnd : PresetLabelsUncut;
     }
     if (currentPaperName().startsWith("FL")) {
         if (half)
-            return 1;
-        return cuts ? 8 : 4;
+            return PresetLabelsUncut;
+        return cuts ? PresetTapeCut : PresetTapeUncut;
     }
-    if (!controls::isHidden(mCutMarkChkBx)) {
+    if (!controls::isHidden(checkBox(OptionKind::CutMark))) {
         const bool mark = isBoxOn(OptionKind::CutMark);
         if (mark)
-            return chain ? 14 : 13;
-        return chain ? 15 : 16;
+            return chain ? PresetCutMarkChain : PresetCutMark;
+        return chain ? PresetNoCutMarkChain : PresetNoCutMark;
     }
     if (special)
-        return 12;
-    return 4 + (chain ? 1 : 0) + (half ? 2 : 0) + (cuts ? 4 : 0);
+        return PresetSpecialTape;
+    return tapeTag(cuts, half, chain);
 }
 
 void OptionPDE13_v400_::applyPreset(int tag)
@@ -46,7 +59,7 @@ void OptionPDE13_v400_::applyPreset(int tag)
         return;
     for (const OptionRow &row : optionTable) {
         if (const std::optional<bool> state = preset->stateOf(row.kind))
-            controls::setState(this->*row.box, *state ? 1 : 0);
+            controls::setState(checkBox(row.kind), *state ? 1 : 0);
     }
 }
 
@@ -54,7 +67,10 @@ bool OptionPDE13_v400_::validateMenuItem(int tag) const
 {
     // Flag labels can be cut after each label or left uncut; the other combinations need options that are
     // disabled.
-    static constexpr std::array<int, 7> notOnFlagPaper = {5, 6, 7, 9, 10, 11, 12};
-    return !currentPaperName().startsWith("FL") ||
-           std::ranges::find(notOnFlagPaper, tag) == notOnFlagPaper.end();
+    static constexpr PresetSet notOnFlagPaper = {
+        PresetTapeChain,      PresetTapeHalfCut,         PresetTapeHalfCutChain, PresetTapeCutChain,
+        PresetTapeCutHalfCut, PresetTapeCutHalfCutChain, PresetSpecialTape,
+    };
+    const Preset *const preset = presetWithTag(tag);
+    return !currentPaperName().startsWith("FL") || !preset || !notOnFlagPaper.contains(preset->tag);
 }

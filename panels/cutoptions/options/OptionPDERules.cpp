@@ -16,36 +16,36 @@ void OptionPDE13_v400_::enabledCheck_OP()
     const QByteArray paper = currentPaperName();
     const bool flagPaper = paper.startsWith("FL");
     const bool fixedLength = flagPaper || paper.startsWith("DC") || paper.startsWith("AV");
-    controls::setEnabledIfDifferent(mRemoveBlkSpaceChkBx, !fixedLength);
+    controls::setEnabledIfDifferent(checkBox(OptionKind::RemoveBlkSpace), !fixedLength);
     // Flag labels are folded around a cable; a half cut would divide the fold.
     if (flagPaper)
-        controls::setEnabledIfDifferent(mHalfCutChkBx, false);
-    if (!controls::isHidden(mSpecialTapeChkBx))
+        controls::setEnabledIfDifferent(checkBox(OptionKind::HalfCut), false);
+    if (!controls::isHidden(checkBox(OptionKind::SpecialTape)))
         applySpecialTapeRules(flagPaper);
-    if (controls::isEnabled(mCutEveryChkBx))
+    if (controls::isEnabled(checkBox(OptionKind::CutLabel)))
         applyCutEveryRules();
 }
 
 void OptionPDE13_v400_::applySpecialTapeRules(bool flagPaper)
 {
+    QCheckBox *const specialTape = checkBox(OptionKind::SpecialTape);
+    QCheckBox *const chainPrint = checkBox(OptionKind::ChainPrint);
     if (flagPaper) {
-        controls::setEnabledIfDifferent(mSpecialTapeChkBx, false);
-        controls::setEnabledIfDifferent(mChainPrintChkBx, false);
+        controls::setEnabledIfDifferent(specialTape, false);
+        controls::setEnabledIfDifferent(chainPrint, false);
         return;
     }
-    controls::setEnabledIfDifferent(mSpecialTapeChkBx, true);
-    if (controls::state(mSpecialTapeChkBx) == 1) {
-        // Special tape must not be cut, so the cut options are disabled.
-        for (QWidget *const control : std::initializer_list<QWidget *>{
-                 mAutoCutChkBx, mChainPrintChkBx, mHalfCutChkBx, mCutEveryChkBx, mCutEveryTxBx})
-            controls::setEnabledIfDifferent(control, false);
-        if (controls::setEnabledIfDifferent(mCutEveryStpr, false))
-            PDEUtilsMethod13::setEnabledForText(0, mCutEveryStr);
+    controls::setEnabledIfDifferent(specialTape, true);
+    // Special tape must not be cut, so the cut options are disabled.
+    const bool canCut = controls::state(specialTape) != 1;
+    for (QCheckBox *const box : {checkBox(OptionKind::AutoCut), chainPrint, checkBox(OptionKind::HalfCut),
+                                 checkBox(OptionKind::CutLabel)})
+        controls::setEnabledIfDifferent(box, canCut);
+    if (canCut)
         return;
-    }
-    for (QWidget *const box :
-         std::initializer_list<QWidget *>{mAutoCutChkBx, mCutEveryChkBx, mHalfCutChkBx, mChainPrintChkBx})
-        controls::setEnabledIfDifferent(box, true);
+    controls::setEnabledIfDifferent(mCutEveryTxBx, false);
+    if (controls::setEnabledIfDifferent(mCutEveryStpr, false))
+        PDEUtilsMethod13::setEnabledForText(0, mCutEveryStr);
 }
 
 void OptionPDE13_v400_::applyCutEveryRules()
@@ -53,7 +53,7 @@ void OptionPDE13_v400_::applyCutEveryRules()
     // The field and the stepper of the count are enabled together with the box, but only if both are
     // currently in the same state.
     const bool fieldEnabled = controls::isEnabled(mCutEveryTxBx);
-    const bool on = controls::state(mCutEveryChkBx) == 1;
+    const bool on = controls::state(checkBox(OptionKind::CutLabel)) == 1;
     if (fieldEnabled != controls::isEnabled(mCutEveryStpr) || fieldEnabled == on)
         return;
     controls::setEnabled(mCutEveryTxBx, on);

@@ -27,7 +27,21 @@ std::optional<QString> keywordAt(const PDEChoiceList *list, int index)
 void OptionPDE13_v400_::setValuesToKey()
 {
     for (const OptionRow &row : optionTable)
-        (this->*row.save)();
+        saveRow(row.kind);
+}
+
+void OptionPDE13_v400_::saveRow(OptionKind kind)
+{
+    switch (kind) {
+    case OptionKind::CutLabel:
+        return saveSetting_CutLabel();
+    case OptionKind::AutoCut:
+        return saveSetting_AutoCut();
+    case OptionKind::RemoveBlkSpace:
+        return saveSetting_RemoveBlkSpace();
+    default:
+        return saveSetting(kind);
+    }
 }
 
 std::int32_t OptionPDE13_v400_::indexForSaveAutoChain(const QWidget *control) const
@@ -35,8 +49,8 @@ std::int32_t OptionPDE13_v400_::indexForSaveAutoChain(const QWidget *control) co
     const auto *const box = qobject_cast<const QCheckBox *>(control);
     if (!box)
         return 0;
-    const bool specialTape =
-        !controls::isHidden(mSpecialTapeChkBx) && controls::state(mSpecialTapeChkBx) != 0;
+    const QCheckBox *const specialTapeBox = checkBox(OptionKind::SpecialTape);
+    const bool specialTape = !controls::isHidden(specialTapeBox) && controls::state(specialTapeBox) != 0;
     return specialTape ? 0 : controls::state(box);
 }
 
@@ -60,7 +74,7 @@ std::optional<QString> OptionPDE13_v400_::choiceToSave(OptionKind kind) const
         return keywordAt(choices(kind), countIndexToSave());
     if (kind == OptionKind::AutoCut && !mAutoCutHideKey_dec)
         return chainedAutoCutToSave();
-    return keywordAt(choices(kind), boxIndexToSave(row(kind)));
+    return keywordAt(choices(kind), boxIndexToSave(optionRow(kind)));
 }
 
 std::optional<QString> OptionPDE13_v400_::choiceShown(OptionKind kind) const
@@ -76,51 +90,51 @@ std::optional<QString> OptionPDE13_v400_::choiceShown(OptionKind kind) const
 
 int OptionPDE13_v400_::boxIndexToSave(const OptionRow &row) const
 {
-    const QCheckBox *const box = this->*row.box;
+    const QCheckBox *const box = checkBox(row.kind);
     if (!box)
-        return markedElseDefault((this->*row.choices).get(), row.keyword);
-    return row.saveIndex == SaveIndex::AutoChain ? indexForSaveAutoChain(box) : controls::state(box);
+        return markedElseDefault(choices(row.kind), row.keyword);
+    return row.isOffOnSpecialTape ? indexForSaveAutoChain(box) : controls::state(box);
 }
 
 int OptionPDE13_v400_::countIndexToSave() const
 {
-    const OptionRow &row = OptionPDE13_v400_::row(OptionKind::CutLabel);
+    const PDEChoiceList *const counts = choices(OptionKind::CutLabel);
+    const char *const keyword = optionRow(OptionKind::CutLabel).keyword;
     // Typing and stepping mark the choice of the count. If nothing is marked while the field is loaded, the
     // minimum count is saved rather than the default.
-    return mCutEveryTxBx ? indexOfMarkedOption(mCutEvery_Choices.get(), QLatin1String(row.keyword))
-                         : markedElseDefault(mCutEvery_Choices.get(), row.keyword);
+    return mCutEveryTxBx ? indexOfMarkedOption(counts, QLatin1String(keyword))
+                         : markedElseDefault(counts, keyword);
 }
 
 QString OptionPDE13_v400_::chainedAutoCutToSave() const
 {
-    const int index = mCutEveryTxBx
-                          ? indexForSaveAutoChain(mCutEveryChkBx)
-                          : markedElseDefault(mAutoCut_Choices.get(), row(OptionKind::AutoCut).keyword);
+    const int index = mCutEveryTxBx ? indexForSaveAutoChain(checkBox(OptionKind::CutLabel))
+                                    : markedElseDefault(choices(OptionKind::AutoCut),
+                                                        optionRow(OptionKind::AutoCut).keyword);
     return index == 1 ? QStringLiteral("ON") : QStringLiteral("OFF");
 }
 
 void OptionPDE13_v400_::saveSetting(OptionKind kind)
 {
-    const OptionRow &row = OptionPDE13_v400_::row(kind);
-    if (this->*row.choices && printSettings)
-        sendChoice(this->*row.option, choiceToSave(kind));
+    if (choices(kind) && printSettings)
+        sendChoice(option(kind), choiceToSave(kind));
 }
 
 void OptionPDE13_v400_::saveSetting_AutoCut()
 {
     if (mAutoCutHideKey_dec && printSettings)
-        sendChoice(mAutoCut_Option, choiceToSave(OptionKind::AutoCut));
+        sendChoice(option(OptionKind::AutoCut), choiceToSave(OptionKind::AutoCut));
 }
 
 void OptionPDE13_v400_::saveSetting_CutLabel()
 {
-    if (!mCutEvery_Choices || !printSettings)
+    if (!choices(OptionKind::CutLabel) || !printSettings)
         return;
     const std::optional<QString> count = choiceToSave(OptionKind::CutLabel);
     // Without its own box, the automatic cut follows the cut-every box and is written first.
     if (!mAutoCutHideKey_dec)
-        sendChoice(mAutoCut_Option, choiceToSave(OptionKind::AutoCut));
-    sendChoice(mCutEvery_Option, count);
+        sendChoice(option(OptionKind::AutoCut), choiceToSave(OptionKind::AutoCut));
+    sendChoice(option(OptionKind::CutLabel), count);
 }
 
 void OptionPDE13_v400_::saveSetting_RemoveBlkSpace()
@@ -133,7 +147,6 @@ void OptionPDE13_v400_::saveSetting_RemoveBlkSpace()
 bool OptionPDE13_v400_::shouldPrint()
 {
     for (const OptionRow &row : optionTable)
-        setDefaultChoices(this->*row.option, (this->*row.choices).get(), row.keyword,
-                          QLatin1String(row.keyword));
+        setDefaultChoices(option(row.kind), choices(row.kind), row.keyword, QLatin1String(row.keyword));
     return BasePDE13_v400_::shouldPrint();
 }

@@ -8,18 +8,12 @@
 
 std::optional<QVariantMap> OptionPDE13_v400_::summaryInfoFor(const PDEChoices &given) const
 {
-    // Cuts are listed first, in the order in which they are made.
-    static constexpr std::array<OptionKind, OptionCount> displayOrder = {
-        OptionKind::CutLabel, OptionKind::AutoCut,        OptionKind::CutAtEnd,
-        OptionKind::HalfCut,  OptionKind::SpecialTape,    OptionKind::ChainPrint,
-        OptionKind::Mirror,   OptionKind::RemoveBlkSpace, OptionKind::CutMark,
-    };
     QVariantMap summary;
     QStringList titles;
-    for (const OptionKind kind : displayOrder) {
+    for (const OptionKind kind : summaryOrder) {
         if (!isInSummary(kind, given))
             continue;
-        const OptionRow &row = OptionPDE13_v400_::row(kind);
+        const OptionRow &row = optionRow(kind);
         const QString title = titleFor(row.keyword, row.summaryKey);
         titles.append(title);
         summary.insert(title, summaryValue(kind, given));
@@ -33,7 +27,7 @@ std::optional<QVariantMap> OptionPDE13_v400_::summaryInfoFor(const PDEChoices &g
 std::optional<QString> OptionPDE13_v400_::choiceGiven(OptionKind kind, const PDEChoices &given)
 {
     const auto found =
-        std::ranges::find(given, QLatin1String(row(kind).keyword), &PDEChoices::value_type::first);
+        std::ranges::find(given, QLatin1String(optionRow(kind).keyword), &PDEChoices::value_type::first);
     return found == given.end() ? std::nullopt : std::optional(found->second);
 }
 
@@ -67,12 +61,11 @@ bool OptionPDE13_v400_::isInSummary(OptionKind kind, const PDEChoices &given) co
 
 QString OptionPDE13_v400_::summaryValue(OptionKind kind, const PDEChoices &given) const
 {
-    // Whether labels are cut at intervals is the choice of the automatic cut.
-    const OptionRow &chosen = row(kind == OptionKind::CutLabel ? OptionKind::AutoCut : kind);
+    // The value is that of the box: whether labels are cut at intervals is the choice of the automatic cut.
+    const OptionRow &chosen = optionRow(optionRow(kind).edits);
     const int index = indexGiven(chosen.kind, given);
     const PDEChoice &held = *heldChoice(kind, given);
-    switch (index < 0 ? indexOfMarkedOption((this->*chosen.choices).get(), QLatin1String(chosen.keyword))
-                      : index) {
+    switch (index < 0 ? indexOfMarkedOption(choices(chosen.kind), QLatin1String(chosen.keyword)) : index) {
     case 0:
         return localized(QStringLiteral("RS_STitle_No"));
     case 1:

@@ -45,15 +45,23 @@ void OptionPDE13_v400_::setPDEItems2()
 void OptionPDE13_v400_::updateMarkedSelections(ItemTypes items)
 {
     for (const OptionRow &row : optionTable) {
-        if (!(items & row.item) || !(this->*row.option))
+        if (!(items & row.item) || !option(row.kind))
             continue;
-        const PDEChoiceList *const list = (this->*row.choices).get();
-        this->*row.selection = choiceAt(list, markedElseDefault(list, row.keyword));
-        if (row.boxSelection == row.selection)
-            continue;
-        const PDEChoiceList *const boxList = (this->*row.boxChoices).get();
-        this->*row.boxSelection = choiceAt(boxList, markedElseDefault(boxList, row.boxKeyword));
+        fields(row.kind).selection = markedElseDefaultChoice(row.kind);
+        if (row.edits != row.kind)
+            mAutoCut_CutEvery_Selection = markedElseDefaultChoice(row.edits);
     }
+}
+
+const PDEChoice *OptionPDE13_v400_::markedElseDefaultChoice(OptionKind kind) const
+{
+    const PDEChoiceList *const list = choices(kind);
+    return choiceAt(list, markedElseDefault(list, optionRow(kind).keyword));
+}
+
+const PDEChoice *OptionPDE13_v400_::boxSelection(const OptionRow &row) const
+{
+    return row.edits == row.kind ? selection(row.kind) : mAutoCut_CutEvery_Selection;
 }
 
 void OptionPDE13_v400_::PPDOptionKeyValueDidChange(const std::optional<QString> &key,
@@ -64,8 +72,8 @@ void OptionPDE13_v400_::PPDOptionKeyValueDidChange(const std::optional<QString> 
     const auto changed = std::ranges::find_if(
         optionTable, [&](const OptionRow &row) { return *key == QLatin1String(row.keyword); });
     if (changed != optionTable.end())
-        this->*changed->selection =
-            PDEUtilsMethod13::findChoiceForString(choice, (this->*changed->choices).get());
+        fields(changed->kind).selection =
+            PDEUtilsMethod13::findChoiceForString(choice, choices(changed->kind));
 }
 
 void OptionPDE13_v400_::updateUIItem(ItemTypes items)
@@ -89,29 +97,29 @@ void OptionPDE13_v400_::updateUIItem(ItemTypes items)
 void OptionPDE13_v400_::updateRow(const OptionRow &row)
 {
     if (row.kind == OptionKind::CutLabel) {
-        if (!mCutEvery_Choices || !mCutEvery_Selection)
+        const PDEChoice *const selected = selection(row.kind);
+        if (!choices(row.kind) || !selected)
             return;
-        if (indexOf(mCutEvery_Choices.get(), mCutEvery_Selection) >= 0) {
-            const QString count = QString::fromUtf8(mCutEvery_Selection->choice()->choice);
+        if (indexOf(choices(row.kind), selected) >= 0) {
+            const QString count = QString::fromUtf8(selected->choice()->choice);
             showCount(count);
             if (mCutEveryStpr)
                 mCutEveryStpr->setValue(platform::integerValue(count));
         }
     }
-    // These two boxes keep the state that the user has set while the paper disables them.
-    const bool onlyWhileEnabled = row.kind == OptionKind::RemoveBlkSpace || row.kind == OptionKind::CutMark;
-    if (onlyWhileEnabled && !controls::isEnabled(this->*row.box))
+    QCheckBox *const box = checkBox(row.kind);
+    if (row.keepsStateWhileDisabled && !controls::isEnabled(box))
         return;
-    const int index = indexOf((this->*row.boxChoices).get(), this->*row.boxSelection);
+    const int index = indexOf(choices(row.edits), boxSelection(row));
     if (index >= 0)
-        controls::setState(this->*row.box, index);
+        controls::setState(box, index);
 }
 
 void OptionPDE13_v400_::checkChangeSettingWhenPageSizeChanged(const platform::Notification &)
 {
     if (ppd && isHSTapePage()) {
         // The cutter cannot cut heat-shrink tube.
-        ppdMarkOption(ppd, row(OptionKind::AutoCut).keyword, "OFF");
+        ppdMarkOption(ppd, optionRow(OptionKind::AutoCut).keyword, "OFF");
         updateMarkedSelections(ItemType::CutEvery);
         updateMarkedSelections(ItemType::AutoCut);
     }

@@ -5,8 +5,6 @@
 
 #include <platform/Numbers.h>
 
-#include <algorithm>
-
 PDEChoices OptionPDE13_v400_::shownChoices() const
 {
     PDEChoices shown;
@@ -22,20 +20,22 @@ void OptionPDE13_v400_::applyUserChoices(const PDEChoices &choices)
 {
     // Special tape is applied first, since the saved choices of the cut options depend on it. A control that
     // the paper has disabled is set, too: its state is saved, and a predefined combination also sets it.
-    static constexpr std::array<OptionKind, OptionCount> order = {
-        OptionKind::SpecialTape, OptionKind::CutLabel,       OptionKind::CutAtEnd,
-        OptionKind::Mirror,      OptionKind::AutoCut,        OptionKind::HalfCut,
-        OptionKind::ChainPrint,  OptionKind::RemoveBlkSpace, OptionKind::CutMark,
-    };
-    for (const OptionKind kind : order) {
-        const std::optional<QString> choice = choiceGiven(kind, choices);
-        if (!choice || !option(kind) || choiceShown(kind) == choice)
-            continue;
-        if (kind == OptionKind::CutLabel)
-            applyToCount(indexGiven(kind, choices));
-        else
-            applyToBox(kind, boxIndexGiven(kind, choices));
+    applyUserChoice(OptionKind::SpecialTape, choices);
+    for (const OptionRow &row : optionTable) {
+        if (row.kind != OptionKind::SpecialTape)
+            applyUserChoice(row.kind, choices);
     }
+}
+
+void OptionPDE13_v400_::applyUserChoice(OptionKind kind, const PDEChoices &choices)
+{
+    const std::optional<QString> choice = choiceGiven(kind, choices);
+    if (!choice || !option(kind) || choiceShown(kind) == choice)
+        return;
+    if (kind == OptionKind::CutLabel)
+        applyToCount(indexGiven(kind, choices));
+    else
+        applyToBox(kind, boxIndexGiven(kind, choices));
 }
 
 int OptionPDE13_v400_::boxIndexGiven(OptionKind kind, const PDEChoices &choices) const
@@ -55,8 +55,8 @@ void OptionPDE13_v400_::applyToBox(OptionKind kind, int index)
 {
     // If the automatic cut does not have its own box, saving reads the box of the cut-every row.
     const bool chained = kind == OptionKind::AutoCut && !mAutoCutHideKey_dec;
-    const OptionRow &edited = row(chained ? OptionKind::CutLabel : kind);
-    QCheckBox *const box = this->*edited.box;
+    const OptionRow &edited = optionRow(chained ? OptionKind::CutLabel : kind);
+    QCheckBox *const box = checkBox(edited.kind);
     const bool canShow = index == 0 || index == 1;
     if (!canShow || !controls::isShown(box) || controls::state(box) == index)
         return;
@@ -72,7 +72,7 @@ void OptionPDE13_v400_::applyToCount(int index)
     if (index < 0 || !controls::isShown(mCutEveryTxBx))
         return;
     const QString count =
-        (*mCutEvery_Choices)[static_cast<std::size_t>(index)]->ppdTitle().value_or(QString());
+        (*choices(OptionKind::CutLabel))[static_cast<std::size_t>(index)]->ppdTitle().value_or(QString());
     // In a list with gaps, typing the number of this choice may select another one.
     const CountRange counts = countRange();
     if (counts.indexOf(counts.clamped(platform::integerValue(count))) != index)

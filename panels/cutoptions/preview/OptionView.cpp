@@ -6,15 +6,15 @@
 
 namespace {
 
-/// The paper-label family: every, end, mirror. The slots run none, end, every and then the same with
-/// mirror writing.
+/// The pictures of the paper-label family: cut every, cut at end, mirror printing. The slots are none, end,
+/// every, and then the same with mirror printing.
 constexpr std::array<const char *, OptionView13_v400_::DZPictureCount> picturesDZ = {
     "EveryEndMirrorOffOffOff", "EveryEndMirrorOffOnOff", "EveryEndMirrorOnOffOff",
     "EveryEndMirrorOffOffOn",  "EveryEndMirrorOffOnOn",  "EveryEndMirrorOnOffOn",
 };
 
-/// The tape family: automatic cut, half cut, chain printing, mirror; then special tape and mirror; then the
-/// cut-mark pictures, which are the pop-up's and never drawn here.
+/// The pictures of the tape family: automatic cut, half cut, chain printing, mirror printing; then special
+/// tape and mirror printing; then the pictures of cut marks, which only the pop-up button shows.
 constexpr std::array<const char *, OptionView13_v400_::LXPictureCount> picturesLX = {
     "AHCMOffOffOffOff", "AHCMOffOffOffOn", "AHCMOffOffOnOff", "AHCMOffOffOnOn",  "AHCMOffOnOffOff",
     "AHCMOffOnOffOn",   "AHCMOffOnOnOff",  "AHCMOffOnOnOn",   "AHCMOnOffOffOff", "AHCMOnOffOffOn",
@@ -24,12 +24,6 @@ constexpr std::array<const char *, OptionView13_v400_::LXPictureCount> picturesL
 };
 
 constexpr std::size_t firstSpecialTapeSlot = 16;
-
-/// A box that the user cannot see has no say, whatever its state; one that is greyed still has.
-bool isOn(const QAbstractButton *box)
-{
-    return box && !box->isHidden() && box->isChecked();
-}
 
 std::shared_ptr<const platform::Image> pictureFromBundle(const platform::Bundle &bundle, const char *name)
 {
@@ -66,26 +60,32 @@ void OptionView13_v400_::loadPictures(const platform::Bundle &bundle)
         load(picturesLX, mOptionImgLX);
 }
 
+bool OptionView13_v400_::isOn(OptionKind kind) const
+{
+    const QAbstractButton *const button = box(kind);
+    return button && !button->isHidden() && button->isChecked();
+}
+
 std::size_t OptionView13_v400_::slotDZ() const
 {
-    const bool special = isOn(mSpecialTapeChkBx);
-    const bool every = !special && (isOn(mCutEveryChkBx) || isOn(mAutoCutChkBx));
-    const std::size_t mirror = isOn(mMirrorPrintChkBx) ? 3 : 0;
-    // Cutting every label cuts at the end too, so the end alone shows only without it.
+    const bool special = isOn(OptionKind::SpecialTape);
+    const bool every = !special && (isOn(OptionKind::CutLabel) || isOn(OptionKind::AutoCut));
+    const std::size_t mirror = isOn(OptionKind::Mirror) ? 3 : 0;
+    // Cutting every label includes the last one, so the cut at the end is shown only without it.
     if (every)
         return mirror + 2;
-    return mirror + (isOn(mCutAndEndChkBx) ? 1 : 0);
+    return mirror + (isOn(OptionKind::CutAtEnd) ? 1 : 0);
 }
 
 std::size_t OptionView13_v400_::slotLX() const
 {
-    const std::size_t mirror = isOn(mMirrorPrintChkBx) ? 1 : 0;
-    // Special tape is never cut by the printer, so nothing about cuts is asked.
-    if (isOn(mSpecialTapeChkBx))
+    const std::size_t mirror = isOn(OptionKind::Mirror) ? 1 : 0;
+    // The printer never cuts special tape, so the cut options do not matter.
+    if (isOn(OptionKind::SpecialTape))
         return firstSpecialTapeSlot + mirror;
-    const std::size_t automatic = isOn(mAutoCutChkBx) || isOn(mCutEveryChkBx) ? 8 : 0;
-    const std::size_t half = isOn(mHalfCutChkBx) ? 4 : 0;
-    const std::size_t chain = isOn(mChainPrintChkBx) ? 2 : 0;
+    const std::size_t automatic = isOn(OptionKind::AutoCut) || isOn(OptionKind::CutLabel) ? 8 : 0;
+    const std::size_t half = isOn(OptionKind::HalfCut) ? 4 : 0;
+    const std::size_t chain = isOn(OptionKind::ChainPrint) ? 2 : 0;
     return automatic + half + chain + mirror;
 }
 

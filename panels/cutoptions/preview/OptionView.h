@@ -3,6 +3,7 @@
 
 #include <platform/Bundle.h>
 #include <platform/Image.h>
+#include <table/OptionTable.h>
 
 #include <QAbstractButton>
 #include <QPointer>
@@ -12,58 +13,68 @@
 
 class QPainter;
 
-/// The picture beside the cut options that shows what the ticked boxes will do to the label.
+/// The picture beside the cut options that shows what the checked boxes do to the label.
 ///
-/// Made by the panel in place of a placeholder, handed the panel's nine check boxes, and asked to
-/// redraw whenever one of them may have changed. It reads the boxes afresh each time it draws and
-/// changes nothing. A view serves one printer family and has that family's pictures only.
+/// The panel inserts the view in place of a placeholder, passes its check boxes, and requests an update when
+/// one of them may have changed. The view reads the boxes whenever it draws, and changes nothing. It has the
+/// pictures of one printer family only.
 class OptionView13_v400_ : public QWidget {
     Q_OBJECT
 
 public:
+    /// The number of pictures of the family of paper-label printers and of the family of tape printers.
     static constexpr std::size_t DZPictureCount = 6;
     static constexpr std::size_t LXPictureCount = 22;
 
-    /// A view of the given frame in the parent, with the pictures of its family from the bundle.
-    /// The parent owns it. All pictures are read here, so that a package that is replaced later leaves none
-    /// of them blank; one that the bundle lacks, or whose file is broken, stays empty.
+    /// Makes a view in the parent, which owns it. The frame is in the parent's coordinates. Reads all
+    /// pictures of the family from the bundle, so that none is missing when the package is replaced later; a
+    /// picture that the bundle does not contain or whose file is invalid stays empty.
     static OptionView13_v400_ *initWithFrame(const QRect &frame, const platform::Bundle &bundle, bool isDZ,
                                              QWidget *parent);
 
-    /// Whether the view's origin is its top-left corner. It never is: pictures stand on the bottom edge.
+    /// Whether the origin of the view is its top-left corner. Always false: pictures are aligned with the
+    /// bottom edge.
     bool isFlipped() const { return false; }
 
-    /// The picture for the boxes as they are now; null when the bundle lacks it.
+    /// The picture for the current states of the boxes; null if the bundle does not contain it. The view owns
+    /// it.
     const platform::Image *targetDrawImage() const;
 
-    /// Draws the picture at its natural size into the view's bottom-left corner; nothing, and no
-    /// background, when there is none.
+    /// Draws the picture in its natural size into the bottom-left corner of the view. Draws no background,
+    /// and nothing without a picture.
     void drawRect(QPainter &painter) const;
 
-    /// The family. Setting it does not load the other family's pictures: the view then shows nothing.
+    /// Whether the printer prints on paper labels (true) or on tape (false). Setting it does not load the
+    /// pictures of the other family: the view then shows nothing.
     void setIsDZ(bool isDZ) { mIsDZ = isDZ; }
     bool isDZ() const { return mIsDZ; }
 
-    // The panel's check boxes: borrowed, null until handed over and when they are gone. One that is not there
-    // counts as off. Setting one does not redraw.
-    void setCutEveryChkBx(const QAbstractButton *box) { mCutEveryChkBx = box; }
-    const QAbstractButton *cutEveryChkBx() const { return mCutEveryChkBx; }
-    void setCutAndEndChkBx(const QAbstractButton *box) { mCutAndEndChkBx = box; }
-    const QAbstractButton *cutAndEndChkBx() const { return mCutAndEndChkBx; }
-    void setMirrorPrintChkBx(const QAbstractButton *box) { mMirrorPrintChkBx = box; }
-    const QAbstractButton *mirrorPrintChkBx() const { return mMirrorPrintChkBx; }
-    void setAutoCutChkBx(const QAbstractButton *box) { mAutoCutChkBx = box; }
-    const QAbstractButton *autoCutChkBx() const { return mAutoCutChkBx; }
-    void setHalfCutChkBx(const QAbstractButton *box) { mHalfCutChkBx = box; }
-    const QAbstractButton *halfCutChkBx() const { return mHalfCutChkBx; }
-    void setChainPrintChkBx(const QAbstractButton *box) { mChainPrintChkBx = box; }
-    const QAbstractButton *chainPrintChkBx() const { return mChainPrintChkBx; }
-    void setSpecialTapeChkBx(const QAbstractButton *box) { mSpecialTapeChkBx = box; }
-    const QAbstractButton *specialTapeChkBx() const { return mSpecialTapeChkBx; }
-    void setRemoveBlkSpaceChkBx(const QAbstractButton *box) { mRemoveBlkSpaceChkBx = box; }
-    const QAbstractButton *removeBlkSpaceChkBx() const { return mRemoveBlkSpaceChkBx; }
-    /// Kept with the others; nothing asks for it back, as the cut mark has no part in the picture.
-    void setCutMarkChkBx(const QAbstractButton *box) { mCutMarkChkBx = box; }
+    /// The panel's check box of an option. The view does not own it. Null before it is set and after it is
+    /// deleted; a missing box counts as off. Setting a box does not redraw the view.
+    void setBox(OptionKind kind, const QAbstractButton *button)
+    {
+        mBoxes[static_cast<std::size_t>(kind)] = button;
+    }
+    const QAbstractButton *box(OptionKind kind) const { return mBoxes[static_cast<std::size_t>(kind)]; }
+
+    // The same by the names of the boxes.
+    void setCutEveryChkBx(const QAbstractButton *button) { setBox(OptionKind::CutLabel, button); }
+    const QAbstractButton *cutEveryChkBx() const { return box(OptionKind::CutLabel); }
+    void setCutAndEndChkBx(const QAbstractButton *button) { setBox(OptionKind::CutAtEnd, button); }
+    const QAbstractButton *cutAndEndChkBx() const { return box(OptionKind::CutAtEnd); }
+    void setMirrorPrintChkBx(const QAbstractButton *button) { setBox(OptionKind::Mirror, button); }
+    const QAbstractButton *mirrorPrintChkBx() const { return box(OptionKind::Mirror); }
+    void setAutoCutChkBx(const QAbstractButton *button) { setBox(OptionKind::AutoCut, button); }
+    const QAbstractButton *autoCutChkBx() const { return box(OptionKind::AutoCut); }
+    void setHalfCutChkBx(const QAbstractButton *button) { setBox(OptionKind::HalfCut, button); }
+    const QAbstractButton *halfCutChkBx() const { return box(OptionKind::HalfCut); }
+    void setChainPrintChkBx(const QAbstractButton *button) { setBox(OptionKind::ChainPrint, button); }
+    const QAbstractButton *chainPrintChkBx() const { return box(OptionKind::ChainPrint); }
+    void setSpecialTapeChkBx(const QAbstractButton *button) { setBox(OptionKind::SpecialTape, button); }
+    const QAbstractButton *specialTapeChkBx() const { return box(OptionKind::SpecialTape); }
+    void setRemoveBlkSpaceChkBx(const QAbstractButton *button) { setBox(OptionKind::RemoveBlkSpace, button); }
+    const QAbstractButton *removeBlkSpaceChkBx() const { return box(OptionKind::RemoveBlkSpace); }
+    void setCutMarkChkBx(const QAbstractButton *button) { setBox(OptionKind::CutMark, button); }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -72,19 +83,14 @@ private:
     explicit OptionView13_v400_(QWidget *parent);
 
     void loadPictures(const platform::Bundle &bundle);
+    /// Whether the option's box is checked. A box that the user cannot see counts as off; a disabled one
+    /// counts.
+    bool isOn(OptionKind kind) const;
     std::size_t slotDZ() const;
     std::size_t slotLX() const;
 
     std::array<std::shared_ptr<const platform::Image>, DZPictureCount> mOptionImgDZ;
     std::array<std::shared_ptr<const platform::Image>, LXPictureCount> mOptionImgLX;
     bool mIsDZ = false;
-    QPointer<const QAbstractButton> mCutEveryChkBx;
-    QPointer<const QAbstractButton> mCutAndEndChkBx;
-    QPointer<const QAbstractButton> mMirrorPrintChkBx;
-    QPointer<const QAbstractButton> mAutoCutChkBx;
-    QPointer<const QAbstractButton> mHalfCutChkBx;
-    QPointer<const QAbstractButton> mChainPrintChkBx;
-    QPointer<const QAbstractButton> mSpecialTapeChkBx;
-    QPointer<const QAbstractButton> mRemoveBlkSpaceChkBx;
-    QPointer<const QAbstractButton> mCutMarkChkBx;
+    std::array<QPointer<const QAbstractButton>, OptionCount> mBoxes;
 };
