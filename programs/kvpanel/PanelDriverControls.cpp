@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the driver does around the panel: the user's hands, changes from outside, reading back.
+// What the driver does around the panel: user actions, changes from outside, reading the state.
 #include "OpenRequest.h"
 #include "PanelDriver.h"
 
@@ -13,14 +13,6 @@
 #include <QImageWriter>
 #include <QPixmap>
 #include <QWidget>
-
-namespace {
-
-constexpr const char *keywords[] = {"KvCutLabel",    "KvCutAtEnd",       "KvMirror",
-                                    "KvAutoTapeCut", "KvHalfCut",        "KvChainPrint",
-                                    "KvSpecialTape", "KvRemoveBlkSpace", "KvCutMark"};
-
-} // namespace
 
 QJsonObject PanelDriver::click(const DriverRequest &request)
 {
@@ -91,12 +83,6 @@ QJsonObject PanelDriver::trackingAreasUpdated(const DriverRequest &)
 QJsonObject PanelDriver::state(const DriverRequest &)
 {
     QJsonObject state = inspection().panelState(m_panel);
-    QJsonObject marked;
-    for (const char *keyword : keywords) {
-        const std::optional<QString> choice = m_dialog->ppd().markedChoice(QLatin1String(keyword));
-        marked.insert(QLatin1String(keyword), choice ? QJsonValue(*choice) : QJsonValue());
-    }
-    state.insert(QStringLiteral("marked"), marked);
     QJsonObject settings;
     for (const auto &[keyword, choice] : m_dialog->recorded().pairs())
         settings.insert(keyword, choice);

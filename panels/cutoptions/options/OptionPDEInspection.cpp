@@ -73,6 +73,7 @@ QJsonObject OptionPDE13_v400_::inspection() const
     if (!kPDEView)
         return {};
     QJsonObject controlStates;
+    QJsonObject marked;
     QJsonObject selections{{"mAutoCut_CutEvery_Selection", titleOf(mAutoCut_CutEvery_Selection)}};
     for (const OptionRow &row : optionTable) {
         if (const QCheckBox *const box = checkBox(row.kind))
@@ -80,6 +81,9 @@ QJsonObject OptionPDE13_v400_::inspection() const
                 QLatin1String(row.boxName),
                 with(with(controlState(box), "state", controls::state(box)), "title", controls::title(box)));
         selections.insert(QLatin1String(row.selectionName), titleOf(selection(row.kind)));
+        const ppd_choice_t *const choice = ppd ? ppdFindMarkedChoice(ppd, row.keyword) : nullptr;
+        marked.insert(QLatin1String(row.keyword),
+                      choice ? QJsonValue(QString::fromUtf8(choice->choice)) : QJsonValue());
     }
     if (mCutEveryTxBx)
         controlStates.insert(QStringLiteral("mCutEveryTxBx"),
@@ -95,6 +99,7 @@ QJsonObject OptionPDE13_v400_::inspection() const
         {"popUp", popUpState(*this)},
         {"preview", previewState(mOptionView)},
         {"selections", selections},
+        {"marked", marked},
         {"tapeState", mTapeState},
         {"flags", QJsonObject{{"set_formatSetting", set_formatSetting},
                               {"mAutoCutHideKey_dec", mAutoCutHideKey_dec},
