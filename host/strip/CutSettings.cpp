@@ -31,6 +31,9 @@ bool isOn(const PpdFile &ppd, const RecordedChoices &recorded, const char *keywo
     return index ? *index == 1 : *choice == QStringLiteral("ON");
 }
 
+constexpr const char *countKeyword = "KvCutLabel";
+
+/// The options that are on or off, and the setting of each.
 constexpr std::pair<const char *, bool CutSettings::*> switches[] = {
     {"KvAutoTapeCut", &CutSettings::automaticCut},
     {"KvCutAtEnd", &CutSettings::cutAtEnd},
@@ -44,11 +47,17 @@ constexpr std::pair<const char *, bool CutSettings::*> switches[] = {
 
 } // namespace
 
+QStringList CutSettings::keywords()
+{
+    QStringList keywords{QLatin1String(countKeyword)};
+    for (const auto &[keyword, field] : switches)
+        keywords.append(QLatin1String(keyword));
+    return keywords;
+}
+
 bool CutSettings::areKnownTo(const PpdFile &ppd)
 {
-    return ppd.hasOption(QStringLiteral("KvCutLabel")) ||
-           std::any_of(std::begin(switches), std::end(switches),
-                       [&](const auto &each) { return ppd.hasOption(QLatin1String(each.first)); });
+    return std::ranges::any_of(keywords(), [&](const QString &keyword) { return ppd.hasOption(keyword); });
 }
 
 CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &recorded)
@@ -57,7 +66,7 @@ CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &reco
     settings.areKnown = areKnownTo(ppd);
     for (const auto &[keyword, field] : switches)
         settings.*field = isOn(ppd, recorded, keyword);
-    const std::optional<QString> count = effectiveChoice(ppd, recorded, QStringLiteral("KvCutLabel"));
+    const std::optional<QString> count = effectiveChoice(ppd, recorded, QLatin1String(countKeyword));
     settings.labelsPerCut = qMax(1, count.value_or(QString()).toInt());
     return settings;
 }

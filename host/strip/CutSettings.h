@@ -4,6 +4,8 @@
 #include <host/panels/RecordedChoices.h>
 #include <host/printer/PpdFile.h>
 
+#include <QStringList>
+
 namespace host {
 inline namespace strip {
 
@@ -31,6 +33,9 @@ struct CutSettings {
     /// False if the PPD has none of these options. Whether such a printer cuts is then unknown, and the other
     /// members are meaningless.
     bool areKnown = true;
+
+    /// The keywords of these options.
+    static QStringList keywords();
 
     /// Returns whether the PPD has at least one of these options.
     static bool areKnownTo(const PpdFile &ppd);

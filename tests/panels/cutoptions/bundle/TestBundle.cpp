@@ -2,6 +2,7 @@
 // The bundle as a print dialog meets it: loaded at run time, known by the protocol alone.
 #include <host/panels/DialogState.h>
 #include <host/panels/PanelSession.h>
+#include <host/strip/CutSettings.h>
 #include <protocol/PDEPanelInspection.h>
 #include <tests/support/PpdBuilder.h>
 
@@ -16,29 +17,50 @@ namespace {
 
 const QString bundleFolder = QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle");
 
+/// The bundle in a print dialog of a printer with all options.
+class BundleTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        const QTemporaryDir folder;
+        const QString ppdPath = folder.filePath(QStringLiteral("printer.ppd"));
+        ASSERT_TRUE(test_support::PpdBuilder().allOptions().writeTo(ppdPath));
+        auto ppd = host::PpdFile::open(ppdPath);
+        ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
+        auto bundle = host::PanelBundle::load(bundleFolder, {QStringLiteral("de")});
+        ASSERT_TRUE(bundle) << bundle.error().message.toStdString();
+        const auto state = std::make_shared<host::DialogState>(std::move(ppd).value());
+        session.emplace(std::move(bundle).value(), std::make_shared<host::PanelHost>(state));
+        panel = session->firstPanel();
+        ASSERT_TRUE(panel);
+        ASSERT_TRUE(panel->panelView());
+        panel->restoreValuesAndReturnError(nullptr);
+        panel->willShow();
+        ASSERT_TRUE(session->bundle().inspection());
+    }
+
+    QJsonObject panelState() const { return session->bundle().inspection()->panelState(panel); }
+
+    std::optional<host::PanelSession> session;
+    PDEPanel *panel = nullptr;
+};
+
 } // namespace
 
-TEST(Bundle, AnswersThePrintDialogWithOnePanel)
+TEST_F(BundleTest, AnswersThePrintDialogWithOnePanel)
 {
-    const QTemporaryDir folder;
-    const QString ppdPath = folder.filePath(QStringLiteral("printer.ppd"));
-    ASSERT_TRUE(test_support::PpdBuilder().allOptions().writeTo(ppdPath));
-    auto ppd = host::PpdFile::open(ppdPath);
-    ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
-    auto bundle = host::PanelBundle::load(bundleFolder, {QStringLiteral("de")});
-    ASSERT_TRUE(bundle) << bundle.error().message.toStdString();
-    const auto state = std::make_shared<host::DialogState>(std::move(ppd).value());
-    const host::PanelSession session(std::move(bundle).value(), std::make_shared<host::PanelHost>(state));
-    PDEPanel *const panel = session.firstPanel();
-    ASSERT_TRUE(panel);
-    EXPECT_EQ(session.panels()->size(), 1U);
+    EXPECT_EQ(session->panels()->size(), 1U);
     EXPECT_NE(panel->panelName(), QStringLiteral("OP_PANEL_NAME"));
-    ASSERT_TRUE(panel->panelView());
-    panel->restoreValuesAndReturnError(nullptr);
-    panel->willShow();
-    ASSERT_TRUE(session.bundle().inspection());
-    EXPECT_EQ(session.bundle().inspection()->panelState(panel)["preview"].toObject()["picture"].toString(),
-              QStringLiteral("AHCMOffOffOffOff"));
+    EXPECT_EQ(panelState()["preview"].toObject()["picture"].toString(), QStringLiteral("AHCMOffOffOffOff"));
+}
+
+// The strip that the dialog draws does not use the panel's table: it is drawn for the panels of any bundle.
+// Both read the same keywords in the PPD.
+TEST_F(BundleTest, TheStripKnowsEachOptionOfThePanel)
+{
+    QStringList ofStrip = host::CutSettings::keywords();
+    ofStrip.sort();
+    EXPECT_EQ(panelState()["marked"].toObject().keys(), ofStrip);
 }
 
 TEST(Bundle, ExportsItsFunctionsByName)
