@@ -25,9 +25,9 @@ void setState(QCheckBox *box, int index);
 void setEnabled(QWidget *control, bool enabled);
 /// Enables or disables the control if its state differs. Returns whether it was changed.
 bool setEnabledIfDifferent(QWidget *control, bool enabled);
-/// Sets the title literally: an ampersand is displayed and does not define a mnemonic. title() returns it in
-/// the same form.
+/// Sets the title literally: an ampersand is displayed and does not define a mnemonic.
 void setTitle(QCheckBox *box, const QString &title);
+/// The title as it was set; empty for null.
 QString title(const QCheckBox *box);
 
 } // namespace controls

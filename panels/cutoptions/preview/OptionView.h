@@ -22,8 +22,9 @@ class OptionView13_v400_ : public QWidget {
     Q_OBJECT
 
 public:
-    /// The number of pictures of the family of paper-label printers and of the family of tape printers.
+    /// The number of pictures for printers of paper labels.
     static constexpr std::size_t DZPictureCount = 6;
+    /// The number of pictures for printers of tape.
     static constexpr std::size_t LXPictureCount = 22;
 
     /// Makes a view in the parent, which owns it. The frame is in the parent's coordinates. Reads all
@@ -44,36 +45,55 @@ public:
     /// and nothing without a picture.
     void drawRect(QPainter &painter) const;
 
-    /// Whether the printer prints on paper labels (true) or on tape (false). Setting it does not load the
-    /// pictures of the other family: the view then shows nothing.
+    /// Sets the printer family. Does not load the pictures of the other family: the view then shows nothing.
     void setIsDZ(bool isDZ) { mIsDZ = isDZ; }
+    /// Whether the printer prints on paper labels rather than on tape.
     bool isDZ() const { return mIsDZ; }
 
-    /// The panel's check box of an option. The view does not own it. Null before it is set and after it is
-    /// deleted; a missing box counts as off. Setting a box does not redraw the view.
+    /// Sets the panel's check box of an option; null for none, which counts as off. The view does not own the
+    /// box. Does not redraw the view.
     void setBox(OptionKind kind, const QAbstractButton *button)
     {
         mBoxes[static_cast<std::size_t>(kind)] = button;
     }
+    /// The check box of the option; null before it is set and after it is deleted.
     const QAbstractButton *box(OptionKind kind) const { return mBoxes[static_cast<std::size_t>(kind)]; }
 
-    // The same by the names of the boxes.
+    // setBox() and box() by the names of the boxes.
+
+    /// Sets the cut-every box.
     void setCutEveryChkBx(const QAbstractButton *button) { setBox(OptionKind::CutLabel, button); }
+    /// The cut-every box; null without one.
     const QAbstractButton *cutEveryChkBx() const { return box(OptionKind::CutLabel); }
+    /// Sets the cut-at-end box.
     void setCutAndEndChkBx(const QAbstractButton *button) { setBox(OptionKind::CutAtEnd, button); }
+    /// The cut-at-end box; null without one.
     const QAbstractButton *cutAndEndChkBx() const { return box(OptionKind::CutAtEnd); }
+    /// Sets the mirror-printing box.
     void setMirrorPrintChkBx(const QAbstractButton *button) { setBox(OptionKind::Mirror, button); }
+    /// The mirror-printing box; null without one.
     const QAbstractButton *mirrorPrintChkBx() const { return box(OptionKind::Mirror); }
+    /// Sets the auto-cut box.
     void setAutoCutChkBx(const QAbstractButton *button) { setBox(OptionKind::AutoCut, button); }
+    /// The auto-cut box; null without one.
     const QAbstractButton *autoCutChkBx() const { return box(OptionKind::AutoCut); }
+    /// Sets the half-cut box.
     void setHalfCutChkBx(const QAbstractButton *button) { setBox(OptionKind::HalfCut, button); }
+    /// The half-cut box; null without one.
     const QAbstractButton *halfCutChkBx() const { return box(OptionKind::HalfCut); }
+    /// Sets the chain-printing box.
     void setChainPrintChkBx(const QAbstractButton *button) { setBox(OptionKind::ChainPrint, button); }
+    /// The chain-printing box; null without one.
     const QAbstractButton *chainPrintChkBx() const { return box(OptionKind::ChainPrint); }
+    /// Sets the special-tape box.
     void setSpecialTapeChkBx(const QAbstractButton *button) { setBox(OptionKind::SpecialTape, button); }
+    /// The special-tape box; null without one.
     const QAbstractButton *specialTapeChkBx() const { return box(OptionKind::SpecialTape); }
+    /// Sets the remove-blank-space box.
     void setRemoveBlkSpaceChkBx(const QAbstractButton *button) { setBox(OptionKind::RemoveBlkSpace, button); }
+    /// The remove-blank-space box; null without one.
     const QAbstractButton *removeBlkSpaceChkBx() const { return box(OptionKind::RemoveBlkSpace); }
+    /// Sets the cut-mark box. It is part of no picture.
     void setCutMarkChkBx(const QAbstractButton *button) { setBox(OptionKind::CutMark, button); }
 
 protected:

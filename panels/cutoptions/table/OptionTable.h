@@ -28,6 +28,7 @@ inline constexpr std::size_t OptionCount = static_cast<std::size_t>(OptionKind::
 /// What the panel knows of one option. Everything that is the same for all options is done by loops over the
 /// rows; OptionPDE13_v400_ handles the few options that need more.
 struct OptionRow {
+    /// The option, which is also the index of the row.
     OptionKind kind;
     /// The keyword of the option in the PPD.
     const char *keyword;
@@ -60,9 +61,9 @@ struct OptionRow {
     /// Whether the box keeps the state that the user has set while the paper disables it.
     bool keepsStateWhileDisabled = false;
 
-    /// The combinations that do not apply to a printer with this option, and those that do not apply to one
-    /// without it.
+    /// The combinations that do not apply to a printer with this option.
     PresetSet removedWith = {};
+    /// The combinations that do not apply to a printer without this option.
     PresetSet removedWithout = {};
 };
 
@@ -211,14 +212,23 @@ static_assert(hasRowForEachOption(),
 /// One bit for each control that can be updated; a set of controls is the bitwise OR of their bits. The
 /// cut-every row has one bit for both of its keywords: the count and the automatic cut of its check box.
 namespace ItemType {
+/// The cut-every row: its box and the count.
 inline constexpr std::uint32_t CutEvery = optionRow(OptionKind::CutLabel).item;
+/// The cut-at-end box.
 inline constexpr std::uint32_t CutAtEnd = optionRow(OptionKind::CutAtEnd).item;
+/// The mirror-printing box.
 inline constexpr std::uint32_t Mirror = optionRow(OptionKind::Mirror).item;
+/// The auto-cut box.
 inline constexpr std::uint32_t AutoCut = optionRow(OptionKind::AutoCut).item;
+/// The half-cut box.
 inline constexpr std::uint32_t HalfCut = optionRow(OptionKind::HalfCut).item;
+/// The chain-printing box.
 inline constexpr std::uint32_t ChainPrint = optionRow(OptionKind::ChainPrint).item;
+/// The special-tape box.
 inline constexpr std::uint32_t SpecialTape = optionRow(OptionKind::SpecialTape).item;
+/// The remove-blank-space box.
 inline constexpr std::uint32_t RemoveBlkSpace = optionRow(OptionKind::RemoveBlkSpace).item;
+/// The cut-mark box.
 inline constexpr std::uint32_t CutMark = optionRow(OptionKind::CutMark).item;
 /// The pop-up button of the predefined combinations.
 inline constexpr std::uint32_t OptionPopUp = 0x40000;

@@ -14,7 +14,9 @@ using PresetBoxes = std::array<std::optional<bool>, OptionCount>;
 
 /// A predefined combination in the pop-up button with pictures.
 struct Preset {
+    /// The tag of its item in the pop-up button.
     PresetTag tag;
+    /// What it does to the boxes.
     PresetBoxes boxes;
     /// The name of the picture, which is also the title of the item in the layout file.
     std::string_view picture;

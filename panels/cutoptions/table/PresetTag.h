@@ -29,13 +29,16 @@ enum PresetTag : int {
 /// A set of predefined combinations.
 class PresetSet {
 public:
+    /// An empty set.
     constexpr PresetSet() = default;
+    /// The set of these combinations.
     constexpr PresetSet(std::initializer_list<PresetTag> tags)
     {
         for (const PresetTag tag : tags)
             m_bits |= bit(tag);
     }
 
+    /// Whether the combination is in the set.
     constexpr bool contains(PresetTag tag) const { return (m_bits & bit(tag)) != 0; }
 
 private:
