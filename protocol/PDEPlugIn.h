@@ -15,44 +15,45 @@
 
 class PDEPanelInspection;
 
-/// The panels that a bundle hands over for one dialog.
+/// The panels that a bundle creates for one dialog.
 using PDEPanelList = std::vector<std::shared_ptr<PDEPanel>>;
 
-/// The type of panel that a print dialog asks for.
+/// The type of panel that a print dialog requests.
 inline const QString PDEPrintDialogType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
 
-/// The principal object of a bundle: made once per loading, asked for panels when a dialog opens.
+/// The principal object of a bundle. It is created each time the bundle is loaded, and creates panels when a
+/// dialog opens.
 class KV_EXPORT PDEPlugIn {
 public:
     virtual ~PDEPlugIn() = default;
 
-    /// Hands the object its own bundle, which the host keeps open for the object's life. False when
-    /// the bundle cannot work on this system; the host then unloads it.
+    /// Passes the bundle to the object. The host keeps the bundle open while the object exists. Returns false
+    /// if the bundle cannot work on this system; the host then unloads it.
     virtual bool initWithBundle(const platform::Bundle *bundle) = 0;
 
-    /// The bundle's panels of that type for the dialog that the callback object stands for. Nothing
-    /// when the bundle has panels of the type but could not make them; an empty list for a type it
-    /// does not know.
+    /// Returns the bundle's panels of the type for the dialog that hostInfo represents. Returns std::nullopt
+    /// if the bundle has panels of the type but cannot create them, and an empty list for an unknown type.
     virtual std::optional<PDEPanelList>
     PDEPanelsForType(const QString &type, std::shared_ptr<PDEPluginCallback13_v400_> hostInfo) = 0;
 };
 
-/// What a bundle's library exports: a maker of principal objects. The interface version is part of
-/// the interface's name, so that a bundle that was built for another version is told apart before
-/// any of its code runs.
+/// The factory of principal objects that the library of a bundle exports. The interface version is part of
+/// the interface's name, so that a bundle that was built for another version is detected before any of its
+/// code runs.
 class KV_EXPORT PDEPlugInFactory {
 public:
     virtual ~PDEPlugInFactory() = default;
 
-    /// A new principal object. Never null.
+    /// Creates a principal object. Never returns null.
     virtual std::unique_ptr<PDEPlugIn> createPlugIn() = 0;
 
-    /// Looks into the bundle's panels, for tools that check printers and report problems; null when the
-    /// bundle offers none. Lives as long as the library is loaded.
+    /// Returns the interface for inspecting the bundle's panels, for tools that check printers and report
+    /// errors; null if the bundle has none. It exists as long as the library is loaded.
     virtual PDEPanelInspection *panelInspection() { return nullptr; }
 };
 
-/// The name that every bundle's interface identifier begins with, and the version that this host speaks.
+/// The prefix of every bundle's interface identifier, and the identifier of the version that this host
+/// supports.
 #define PDEPlugInFactory_iid_stem "kvprint.PDEPlugInFactory/"
 #define PDEPlugInFactory_iid PDEPlugInFactory_iid_stem "1"
 Q_DECLARE_INTERFACE(PDEPlugInFactory, PDEPlugInFactory_iid)

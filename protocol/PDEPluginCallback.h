@@ -10,31 +10,33 @@
 
 #include <optional>
 
-/// What a panel may ask of the print dialog that hosts it, and the one way in which it changes a
-/// printer option. Implemented by the host; a panel holds it for its life.
+/// The interface of a print dialog for its panels: gives access to the dialog's state, and is the only way in
+/// which a panel changes a printer option. The host implements it; a panel holds it as long as the panel
+/// exists.
 ///
-/// The handles belong to the dialog and stay valid as long as the callback object does.
+/// The dialog owns the handles; they are valid as long as the callback object exists.
 class KV_EXPORT PDEPluginCallback13_v400_ {
 public:
     virtual ~PDEPluginCallback13_v400_() = default;
 
-    /// The dialog's print session; may be null.
+    /// Returns the dialog's print session; may be null.
     virtual PMPrintSession printSession() const = 0;
-    /// The job's settings as they are now; null when the dialog has none.
+    /// Returns the job's current settings; null if the dialog has none.
     virtual PMPrintSettings printSettings() const = 0;
-    /// The page format, which holds the chosen paper, as it is now; may be null.
+    /// Returns the current page format, which holds the chosen paper; may be null.
     virtual PMPageFormat pageFormat() const = 0;
-    /// The selected printer; may be null.
+    /// Returns the selected printer; may be null.
     virtual ::PMPrinter PMPrinter() const = 0;
-    /// The printer's PPD with its current markings, open as long as the panel lives; null without a PPD.
+    /// Returns the printer's PPD with its current marks, which is open as long as the panel exists; null if
+    /// the printer has no PPD.
     virtual ppd_file_t *ppdFile() const = 0;
 
-    /// Marks the choice of the option in the PPD and records it in the job's settings, as if the user
-    /// had chosen it. An absent choice, one whose keyword could not be read, changes nothing.
+    /// Marks the choice of the option in the PPD and records it in the job's settings, as if the user had
+    /// chosen it. An absent choice, which means that its keyword could not be read, changes nothing.
     virtual void willChangePPDOptionKeyValue(const QString &key, const std::optional<QString> &choice) = 0;
 
-    /// Whether the dialog wants to hear that a panel's view has changed its size.
+    /// Returns whether the dialog handles panelViewDidResize().
     virtual bool respondsToPanelViewDidResize() const { return false; }
-    /// Lays the dialog out anew after a panel's view has changed its size.
+    /// Updates the dialog's layout after the size of a panel's view has changed.
     virtual void panelViewDidResize() {}
 };

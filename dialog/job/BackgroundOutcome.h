@@ -10,7 +10,7 @@
 namespace dialog {
 inline namespace job {
 
-/// Runs the work in the background and the event loop meanwhile; answers what came of it.
+/// Runs the work on a background thread, runs an event loop until it is complete, and returns its result.
 template<typename Work>
 auto outcomeOf(Work work)
 {

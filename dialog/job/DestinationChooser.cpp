@@ -18,7 +18,7 @@ namespace {
 
 QString listText(const host::Destination &destination)
 {
-    // Two queues may have one description, and an instance has that of its queue.
+    // Several queues may have the same description, and an instance has that of its queue.
     if (destination.description.isEmpty() || destination.description == destination.name())
         return destination.name();
     return QStringLiteral("%1 – %2").arg(destination.name(), destination.description);
@@ -57,13 +57,14 @@ DestinationChooser::DestinationChooser(host::QueueSession &session, QWidget *par
     , m_session(session)
     , m_list(new QComboBox(this))
     , m_icon(new QLabel(this))
-    // With room for what a paused queue says, papers do not jump when a state comes and goes.
+    // The minimum height fits the message of a paused queue, so that the papers below do not move when the
+    // state changes.
     , m_state(new FittedLabel(3, 6, this))
 {
     auto *const label = new QLabel(tr("P&rinter"), this);
     label->setBuddy(m_list);
     m_list->setAccessibleName(tr("Printer"));
-    // As wide as the papers below it, however long the printers' descriptions are.
+    // As wide as the list of papers below, regardless of the length of the printers' descriptions.
     m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_list->setMinimumContentsLength(20);
     m_icon->setAlignment(Qt::AlignTop);
@@ -101,12 +102,12 @@ void DestinationChooser::showChosen()
     const QString name = m_session.chosenName();
     int index = m_list->findData(name);
     if (index < 0 && !name.isEmpty()) {
-        // Asked for and not there yet, or an instance that nobody has made.
+        // A requested destination that has not been found yet, or an instance that does not exist.
         m_list->insertItem(0, name, name);
         index = 0;
     }
     m_list->setCurrentIndex(index);
-    // Descriptions may be longer than the list is wide.
+    // A description may be wider than the list.
     m_list->setToolTip(plainToolTip(m_list->currentText()));
     showState();
 }
@@ -136,8 +137,8 @@ QString DestinationChooser::stateText() const
 void DestinationChooser::enterEvent(QEnterEvent *event)
 {
     QWidget::enterEvent(event);
-    // So that the server's words can be copied. Not before there is a mouse to do it: laying out a text that
-    // can be selected takes many times as long.
+    // The server's message can be selected and copied once the mouse pointer has entered: the layout of a
+    // selectable text takes many times as long.
     m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
@@ -150,7 +151,7 @@ void DestinationChooser::showState()
     const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();
     const host::StateSeverity severity =
         isKnown ? host::queueSeverity(*m_session.chosen()) : host::StateSeverity::Warning;
-    // A printer that is well needs no sign.
+    // A printer without warnings or errors has no icon.
     m_icon->setVisible(isKnown && severity != host::StateSeverity::Good);
     if (m_icon->isHidden())
         return;

@@ -17,13 +17,14 @@ class FittedLabel;
 namespace dialog {
 inline namespace job {
 
-/// The choice of the printer: queues, classes and instances of the server, and how the chosen one is. What is
-/// known only from last time is shown as such.
+/// A list of the server's queues, classes and instances, with the state of the chosen one. A state from the
+/// cache is marked as the last known one.
 class DestinationChooser : public QWidget {
     Q_OBJECT
 
 public:
-    /// The session is borrowed.
+    /// The session is not owned and must outlive the widget. The widget follows the session's signals and
+    /// passes the user's choice to it.
     DestinationChooser(host::QueueSession &session, QWidget *parent);
 
 protected:

@@ -8,7 +8,7 @@ inline namespace job {
 
 namespace {
 
-/// When it is that time of day next, by the clock of now.
+/// Returns the next occurrence of the time of day after now, in the time zone of now.
 QDateTime next(const QTime &time, const QDateTime &now)
 {
     QDateTime moment = now;

@@ -9,12 +9,13 @@
 namespace dialog {
 inline namespace job {
 
-/// The server's time of day, "HH:MM" in UTC, at which it is next this time of day for the user. The server
-/// starts a job when that time comes next, today or tomorrow; over the night the clocks may change.
+/// Returns the next occurrence of a local time of day as a UTC time, "HH:MM" or "HH:MM:SS", as the server
+/// expects it. The server starts a job at the next occurrence of that time, today or tomorrow. The offset
+/// from UTC is that of the next occurrence: daylight saving time may begin or end before it.
 QString holdFromLocalTime(const QTime &local, const QDateTime &now);
 
-/// The user's time of day when it is next that time for the server; nothing for a text that is no time.
-/// Understands "HH:MM" and "HH:MM:SS".
+/// Returns the local time of day at the next occurrence of a UTC time, "HH:MM" or "HH:MM:SS"; absent if the
+/// text is not a time.
 std::optional<QTime> localTimeFromHold(const QString &hold, const QDateTime &now);
 
 } // namespace job

@@ -19,10 +19,10 @@ namespace {
 
 constexpr int highestPriority = 100;
 
-/// The entry that opens the field for a time.
+/// The entry that shows the field for a time.
 const QString atATime = QStringLiteral("time");
 
-/// Other words of lp and the server for the same.
+/// Values of lp and the server that have the same meaning as an entry of the list.
 struct Synonym {
     const char *word;
     const char *meaning;
@@ -63,19 +63,20 @@ JobPage::JobPage(QWidget *parent)
 
 void JobPage::build()
 {
-    // IPP has no longer names.
+    // The maximum length of IPP's type name (RFC 8011), in bytes; sending shortens the name further if
+    // needed.
     constexpr int longestTitle = 255;
     m_title->setMaxLength(longestTitle);
     fillOrientations();
     fillHolds();
     m_time->setAccessibleName(tr("Time to print at"));
-    // Qt turns a time around in a right-to-left window, where people do not.
+    // Qt reverses a time in a right-to-left window, but times are written from left to right there.
     m_time->setLayoutDirection(Qt::LeftToRight);
     m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
-    // A job may wait past midnight: after 23 comes 0.
+    // A job may be held until after midnight: stepping up from 23 leads to 0.
     m_time->setWrapping(true);
     m_time->hide();
-    // 0 stands for the queue's own setting.
+    // 0 stands for the queue's default.
     m_priority->setRange(0, highestPriority);
     m_priority->setSpecialValueText(tr("As the queue is set"));
     m_priority->setToolTip(tr("From 1 to 100; jobs with a higher priority are printed before others"));
@@ -132,7 +133,7 @@ void JobPage::setSettings(const host::JobSettings &settings)
         settings.orientation ? m_orientation->findData(static_cast<int>(*settings.orientation)) : 0;
     m_orientation->setCurrentIndex(orientation);
     showHold(settings.hold.value_or(QString()));
-    // lp prints at once what is to be printed "immediate", before all others.
+    // lp sends a job with "immediate" at the highest priority, so that it is printed before all others.
     const bool isFirst = settings.hold == QStringLiteral("immediate");
     m_priority->setValue(settings.priority.value_or(isFirst ? highestPriority : 0));
 }
@@ -156,7 +157,7 @@ void JobPage::holdChosen()
 {
     const bool hasTime = m_hold->currentData().toString() == atATime;
     if (hasTime && m_time->isHidden()) {
-        // The next full hour is a good beginning.
+        // Start with the next full hour.
         constexpr int secondsPerHour = 3600;
         const QTime later = QTime::currentTime().addSecs(secondsPerHour);
         m_time->setTime(QTime(later.hour(), 0));
@@ -192,7 +193,7 @@ QString JobPage::title() const
 void JobPage::setTitle(const QString &title)
 {
     m_title->setText(title);
-    // Names differ at their beginning.
+    // Show the beginning of the name, where names differ.
     m_title->setCursorPosition(0);
 }
 

@@ -13,25 +13,28 @@ class QTimeEdit;
 namespace dialog {
 inline namespace job {
 
-/// What is asked of the print server: the job's name, how it lies on the paper, when it is printed, and
-/// before which others. As long as nothing is chosen, the queue's own settings hold.
+/// The settings that the print server applies: the job's name, its orientation, when it is printed, and its
+/// priority. A setting without a chosen value is absent, and the queue's default applies.
 class JobPage : public QWidget {
     Q_OBJECT
 
 public:
+    /// Creates the page without settings and without a name.
     explicit JobPage(QWidget *parent);
 
-    /// Shows orientation, hold and priority, quietly; a hold that the page does not know is kept as it is.
+    /// Shows orientation, hold and priority without emitting a signal. A value of hold that the page does not
+    /// know is kept unchanged.
     void setSettings(const host::JobSettings &settings);
-    /// Orientation, hold and priority; copies, collating and pages are not set here and stay empty.
+    /// Returns orientation, hold and priority. Copies, pages and order are not set on this page and are
+    /// absent.
     host::JobSettings settings() const;
 
-    /// The job's name, as the user wrote it.
+    /// The job's name, as the user has entered it.
     QString title() const;
     void setTitle(const QString &title);
 
 Q_SIGNALS:
-    /// The user changed something.
+    /// Emitted when the user has changed a setting or the name.
     void changed();
 
 private:

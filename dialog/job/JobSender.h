@@ -8,36 +8,41 @@
 namespace dialog {
 inline namespace job {
 
-/// A job that is ready to leave the dialog.
+/// A job that is ready to be sent. The references and pointers are not owned.
 struct ReadyJob {
     const host::Ticket &ticket;
     const host::LabelDocument &document;
-    /// The printer's PPD file; empty without one.
+    /// The path of the printer's PPD file; empty if there is none.
     QString ppdPath;
-    /// The strip as it is shown. Null without a paper, or where no strip is printed.
+    /// The strip as the preview shows it, and its renderer. Null if there is no paper or no strip is printed.
     const host::CutPlan *plan = nullptr;
     const host::LabelRenderer *renderer = nullptr;
 };
 
-/// Takes jobs from the dialog. The outcome may come at once or later; until then no other job is handed over.
+/// Sends the jobs of the dialog. The result is reported during send() or later; until then, send() is not
+/// called again.
 class JobSender : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// One of sent() and failed() follows. What the job borrows is only used during the call.
+    /// Sends the job; results in sent() or failed(). The objects to which the job refers are used only during
+    /// the call.
     virtual void send(const ReadyJob &job) = 0;
-    /// Whether the sender needs the plan of the strip with all lengths; a print server does not.
+    /// Returns whether the sender needs the plan of the strip with all lengths; a print server does not.
     virtual bool needsStrip() const { return false; }
-    /// Takes the job back while it is on its way; failed() follows, or sent() if it was too late.
+    /// Cancels the job while it is being sent; results in failed(), or in sent() if everything was already
+    /// sent.
     virtual void cancel() = 0;
 
 Q_SIGNALS:
-    /// How much has been sent, 0 to 100; -1 when nobody can tell.
+    /// Emitted during sending with the percentage that has been sent; -1 if it is not known.
     void progressed(int percent);
+    /// Emitted when the job has been sent.
     void sent();
-    /// Nothing is printed. The text is empty when it was the user who took the job back.
+    /// Emitted when the job was not sent. Nothing is printed unless the text states otherwise. The text is
+    /// empty if the user canceled the job.
     void failed(const QString &problem);
 };
 

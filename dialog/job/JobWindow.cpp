@@ -44,7 +44,7 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     connect(&m_monitor, &host::JobMonitor::changed, this, &JobWindow::showStatus);
     connect(&m_monitor, &host::JobMonitor::failed, this, [this](const host::CupsError &error) {
         showWords(error.message);
-        // A job that could not be canceled may still be, unless the server knows of none.
+        // Allow another attempt to cancel the job, unless the server does not have it.
         m_cancel->setEnabled(error.kind != host::CupsFailure::NotFound);
     });
 }

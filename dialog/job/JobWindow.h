@@ -16,16 +16,17 @@ class FittedLabel;
 namespace dialog {
 inline namespace job {
 
-/// Follows a job that has been sent until nothing more will happen to it, with a button to take it back.
-/// Closes by itself when the job is printed.
+/// Shows the state of a job that has been sent until the job is over, with a button to cancel it. Closes by
+/// itself when the job has been printed.
 class JobWindow : public QDialog {
     Q_OBJECT
 
 public:
+    /// Starts to monitor the job; the title is the job's name.
     JobWindow(const host::CupsServer &server, const QString &queue, int jobId, const QString &title,
               QWidget *parent = nullptr);
 
-    /// The job as it was told of last; nothing before the first answer.
+    /// The last reported state of the job; absent before the first response.
     const std::optional<host::JobStatus> &status() const { return m_status; }
 
 private:

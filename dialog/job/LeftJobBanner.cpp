@@ -37,7 +37,7 @@ void LeftJobBanner::showNext()
 
 void LeftJobBanner::settle(host::LeftJobAction action)
 {
-    // Not pressed twice while the server is asked.
+    // The buttons cannot be pressed again until the server has responded.
     setEnabled(false);
     m_server.passwords->forgetRefusal();
     m_background.start([this, server = m_server, job = m_jobs.front(), action](host::BackgroundTask &task) {

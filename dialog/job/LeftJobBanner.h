@@ -8,16 +8,17 @@
 namespace dialog {
 inline namespace job {
 
-/// Shows, one after the other, the jobs that killed programs have left on print servers, and offers to cancel
-/// or release them. A job stays as it is until the user presses a button.
+/// Shows, one after another, the jobs that killed programs have left on print servers, and offers to cancel
+/// or release them. A job is not changed until the user presses a button.
 class LeftJobBanner : public Banner {
     Q_OBJECT
 
 public:
-    /// The server says how the user is asked for passwords.
+    /// The server supplies the prompts for passwords and trust; each request is sent to the job's own server.
     LeftJobBanner(host::CupsServer server, QWidget *parent);
 
-    /// Reads the journal and shows what is left. Asks no server.
+    /// Reads the journal and shows the jobs that are left, and the damaged files. Sends no request to a
+    /// server.
     void lookForJobs();
 
 private:
@@ -27,7 +28,7 @@ private:
 
     host::CupsServer m_server;
     std::vector<host::JobRecord> m_jobs;
-    /// What is to be read before the next job: damaged files, and the state of the job before.
+    /// Shown before the sentence about the next job: the damaged files, or the result for the previous job.
     QStringList m_news;
     host::Background m_background;
 };

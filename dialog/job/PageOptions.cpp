@@ -51,8 +51,8 @@ void PageOptions::connectAll()
         m_collate->setEnabled(copies > 1);
         Q_EMIT changed();
     });
-    // A number that is typed is the user's, even where the printer's defaults show the same: QSpinBox reports
-    // no change then, and another printer has other defaults.
+    // A number that the user has typed is a setting even if it equals the printer's default, because another
+    // printer may have another default. QSpinBox does not report such a number as a change.
     connect(m_copies->findChild<QLineEdit *>(), &QLineEdit::textEdited, this, [this] {
         if (!m_copies->hasAcceptableInput() || m_wishes.copies == m_copies->value())
             return;

@@ -12,26 +12,28 @@ class QSpinBox;
 namespace dialog {
 inline namespace job {
 
-/// Which pages of the documents are printed, how often and in which order.
+/// Fields for the pages of the documents to print, the number of copies and the order.
 class PageOptions : public QWidget {
     Q_OBJECT
 
 public:
-    /// The documents' page counts, in the order in which they are printed.
+    /// pageCounts are the numbers of pages of the documents, in the order in which they are printed.
     PageOptions(std::vector<int> pageCounts, QWidget *parent);
 
-    /// What will come out, or why it cannot be printed.
+    /// Returns the pages that will be printed, or an error if they cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
-    /// Shows what is wished, quietly; nothing stands for what the printer does by itself. Copies are brought
-    /// within 1 to host::mostCopies; the text of the pages is taken as it is, and checked by choices().
+    /// Shows the requested settings without emitting a signal. Absent values stand for the printer's
+    /// defaults. Copies are limited to 1 to host::mostCopies; the text of the pages is kept unchanged,
+    /// choices() checks it.
     void setSettings(const host::JobSettings &settings);
-    /// Shows, quietly, what another printer does by itself with all that nobody has set.
+    /// Shows the defaults of another printer for the values that are not set, without emitting a signal.
     void setDefaults(const host::JobSettings &defaults);
-    /// Puts what is wished of pages, copies and order into the settings, the others stay. What nobody has set
-    /// is left to the printer.
+    /// Writes pages, copies and order to the settings, and leaves the other settings unchanged. Values that
+    /// are not set become absent, so that the printer's defaults apply.
     void writeTo(host::JobSettings &settings) const;
 
 Q_SIGNALS:
+    /// Emitted when the user has changed a setting.
     void changed();
 
 private:

@@ -11,7 +11,7 @@ void ProblemBanner::follow(host::QueueSession &session)
     connect(&session, &host::QueueSession::failed, this,
             [this](const host::CupsError &error) { setServerProblem(error); });
     connect(&session, &host::QueueSession::recovered, this, [this] { setServerProblem({}); });
-    // What was wrong with another printer is no concern of this one.
+    // The errors of another printer do not apply to this one.
     connect(&session, &host::QueueSession::chosenChanged, this, [this] {
         m_sending.clear();
         setServerProblem({});
@@ -51,8 +51,8 @@ void ProblemBanner::refresh()
     QStringList problems{m_sending, m_server ? m_server->message : QString(), m_refusals};
     problems.removeAll(QString());
     problems.removeDuplicates();
-    // A server that is out of reach is asked again and again; for a password or for trust only the
-    // user can be asked.
+    // The session keeps querying a server that it cannot reach, but only the user can supply a password or
+    // trust.
     const bool wantsUser = m_server && (m_server->kind == host::CupsFailure::NotAuthorized ||
                                         m_server->kind == host::CupsFailure::Untrusted);
     setMessage(problems.join(u'\n'), wantsUser ? tr("Try again") : QString());

@@ -16,24 +16,27 @@ class QueueSession;
 namespace dialog {
 inline namespace job {
 
-/// Tells everything that keeps the user from printing, or from printing as wished. No problem hides another:
-/// that a job may be printed after all must not vanish because the server is gone as well.
+/// Shows all errors that prevent printing, or printing as requested. No error hides another: the message that
+/// a job may have been printed after all must stay when the server cannot be reached any more.
 class ProblemBanner : public Banner {
     Q_OBJECT
 
 public:
+    /// Creates a hidden banner.
     explicit ProblemBanner(QWidget *parent)
         : Banner(parent)
     {
     }
 
-    /// Tells from now on what goes wrong between the session and its server, until it goes well again, and
-    /// offers to try again what nobody tries by itself. The session must outlive the banner.
+    /// Shows the errors of the session until the server responds again or another destination is chosen.
+    /// Offers to retry after those errors after which the session does not retry by itself. The session must
+    /// outlive the banner.
     void follow(host::QueueSession &session);
-    /// Why the job was not sent; empty when there is nothing to say about it.
+    /// The message about a job that was not sent; empty if there is no such error.
     void setSendingProblem(const QString &problem);
     const QString &sendingProblem() const { return m_sending; }
-    /// What was requested and the printer cannot do, and the sentences about what its panel does instead.
+    /// Shows the errors about requested choices that the printer does not have, and the sentences about what
+    /// its panel does instead.
     void setRefusals(const std::vector<host::ChoiceError> &refusals, const QStringList &replaced);
 
 private:
@@ -41,7 +44,7 @@ private:
     void refresh();
 
     QString m_sending;
-    /// What the server said last when it could not be asked.
+    /// The last error of the session; absent if there is none.
     std::optional<host::CupsError> m_server;
     QString m_refusals;
 };

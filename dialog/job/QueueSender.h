@@ -13,12 +13,13 @@ class QueueSender : public JobSender {
     Q_OBJECT
 
 public:
+    /// Sends to the queues of this server; the ticket contains the queue.
     explicit QueueSender(host::CupsServer server, QObject *parent = nullptr);
 
     void send(const ReadyJob &job) override;
     void cancel() override { m_submission.cancel(); }
 
-    /// The job that was sent last.
+    /// The queue and the number of the last job that was sent; empty and 0 before the first.
     const QString &queue() const { return m_queue; }
     int jobId() const { return m_jobId; }
 

@@ -24,7 +24,7 @@ SendBar::SendBar(QWidget *parent)
     layout->addWidget(m_bar, 1);
     layout->addWidget(m_cancel);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
-        // Shows that it was heard: taking a job back from a slow server takes a while.
+        // Acknowledge the click: canceling a job on a slow server takes a while.
         showStopping();
         Q_EMIT cancelled();
     });
@@ -33,7 +33,7 @@ SendBar::SendBar(QWidget *parent)
 
 void SendBar::begin(const QString &title)
 {
-    // Beside the bar: most styles show no text in a bar that does not know how far it is.
+    // The text is beside the bar: most styles show no text in a bar without known progress.
     const QString text = tr("Sending \"%1\"").arg(title);
     const int widest = 40 * fontMetrics().averageCharWidth();
     m_title->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, widest));
@@ -46,7 +46,7 @@ void SendBar::begin(const QString &title)
 
 void SendBar::setProgress(int percent)
 {
-    // A range of nothing is how progress bars show that they do not know.
+    // QProgressBar shows a busy indicator if its range is 0 to 0.
     m_bar->setRange(0, percent < 0 ? 0 : 100);
     m_bar->setValue(qMax(percent, 0));
 }

@@ -10,21 +10,25 @@ class QPushButton;
 namespace dialog {
 inline namespace job {
 
-/// Tells how far the sending of a job is, with a button to take it back. Hidden while nothing is sent.
+/// Shows the progress of sending a job, with a button to cancel it. Hidden while no job is being sent.
 class SendBar : public QWidget {
     Q_OBJECT
 
 public:
+    /// Creates a hidden bar.
     explicit SendBar(QWidget *parent);
 
+    /// Shows the bar for the job of this name, without known progress.
     void begin(const QString &title);
-    /// 0 to 100; -1 when nobody can tell.
+    /// Shows the progress in percent; -1 if it is not known.
     void setProgress(int percent);
-    /// Shows that somebody wants the sending to stop, which takes a while on a slow line.
+    /// Disables the button while the job is being canceled, which takes a while on a slow connection.
     void showStopping();
+    /// Hides the bar.
     void end();
 
 Q_SIGNALS:
+    /// Emitted when the user presses the button.
     void cancelled();
 
 private:

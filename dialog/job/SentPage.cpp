@@ -60,14 +60,14 @@ void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &
             new QTreeWidgetItem({QString::fromUtf8(option.name), QString::fromUtf8(option.value),
                                  host::originText(option.origin), option.isSent ? tr("yes") : tr("no")});
         item->setToolTip(1, plainToolTip(item->text(1)));
-        // What the server does by itself steps back.
+        // Dim the options that the job does not contain: the server sets them to the same values by itself.
         for (int column = 0; !option.isSent && column < item->columnCount(); ++column)
             item->setForeground(column, palette().brush(QPalette::Disabled, QPalette::Text));
         items.append(item);
     }
     m_options->addTopLevelItems(items);
     const host::LpCommand command = host::lpCommand(server, ticket);
-    // Loading another font is put off until somebody looks at this page.
+    // Set the font here, so that it is not loaded unless this page is shown.
     m_line->setFont(QFont(QStringLiteral("monospace")));
     m_line->setText(command.line);
     m_line->setCursorPosition(0);

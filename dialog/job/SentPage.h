@@ -13,13 +13,16 @@ class QTreeWidget;
 namespace dialog {
 inline namespace job {
 
-/// What will be sent: every option of the job with where it comes from, and the lp line that prints the same.
+/// Shows the ticket that will be sent: every option of the job with its origin, and the lp command that
+/// prints the same job.
 class SentPage : public QWidget {
     Q_OBJECT
 
 public:
+    /// Creates an empty page.
     explicit SentPage(QWidget *parent);
 
+    /// Replaces the contents with this ticket, as it is sent to the server.
     void setTicket(const host::CupsServer &server, const host::JobTicket &ticket);
 
 private:

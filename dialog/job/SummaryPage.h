@@ -10,13 +10,15 @@ inline namespace job {
 
 using host::SummarySection;
 
-/// All settings of the job in one list, to be read before printing.
+/// Shows all settings of the job in one list, to be checked before printing.
 class SummaryPage : public QTreeWidget {
     Q_OBJECT
 
 public:
+    /// Creates an empty page.
     explicit SummaryPage(QWidget *parent);
 
+    /// Replaces the contents with these sections.
     void setSections(const std::vector<SummarySection> &sections);
 };
 

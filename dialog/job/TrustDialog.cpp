@@ -13,7 +13,7 @@ inline namespace job {
 
 namespace {
 
-/// The text with the fingerprint in lines of eight bytes: a message box would break it anywhere.
+/// Returns the text with the fingerprint in lines of eight bytes; a message box would break it anywhere.
 QString withFingerprintInLines(QString text, const QString &fingerprint)
 {
     constexpr qsizetype lineLength = qsizetype{8} * 3;
@@ -36,7 +36,7 @@ TrustDialog::TrustDialog(const host::TrustRequest &request, QWidget *parent)
     setWindowTitle(words.title);
     setText(words.question);
     setInformativeText(withFingerprintInLines(words.details, request.fingerprint()));
-    // Fingerprints are compared with what stands elsewhere.
+    // The fingerprint can be selected, so that it can be compared with one from another source.
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     QPushButton *const trust = addButton(words.action, AcceptRole);
     setDefaultButton(addButton(Cancel));

@@ -8,22 +8,24 @@
 namespace dialog {
 inline namespace job {
 
-/// Asks the user about the safety of a connection. Grants the request when its button is pressed, and refuses
-/// it when the dialog is closed in any other way.
+/// Asks the user about the security of a connection. Grants the request when its button is pressed, and
+/// declines it when the dialog is closed in any other way. Deletes itself when it is closed.
 class TrustDialog : public QMessageBox {
     Q_OBJECT
 
 public:
+    /// Shows the question as TrustWords describes it.
     TrustDialog(const host::TrustRequest &request, QWidget *parent);
 
-    /// Refuses when nothing was answered.
+    /// Declines the request if it has not been granted.
     ~TrustDialog() override;
 
 private:
     host::TrustRequest m_request;
 };
 
-/// Shows a dialog for every request, in front of the parent or whatever window blocks that.
+/// Returns a handler that shows a dialog for each request, in front of the parent or of the modal window that
+/// blocks it. The parent may be destroyed before the handler.
 host::TrustHandler askTrustWithDialog(QWidget *parent);
 
 } // namespace job

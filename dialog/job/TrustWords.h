@@ -6,16 +6,17 @@
 namespace dialog {
 inline namespace job {
 
-/// A question about the safety of a connection in words, for windows and terminals.
+/// The translated texts of a question about the security of a connection, for windows and terminals.
 struct TrustWords {
     explicit TrustWords(const host::TrustRequest &request);
 
+    /// The title of a window.
     QString title;
-    /// What is not certain, in one sentence.
+    /// What cannot be verified, in one sentence.
     QString question;
     /// What the user needs to know for the answer.
     QString details;
-    /// What granting it is called on a button.
+    /// The text of the button that grants the request.
     QString action;
 };
 

@@ -10,21 +10,23 @@
 namespace dialog {
 inline namespace job {
 
-/// Sends to the virtual printer, which leaves the strip in a folder.
+/// Sends to the virtual printer, which writes the strip to a folder. The result is reported during send(),
+/// and a job cannot be canceled.
 class VirtualSender : public JobSender {
     Q_OBJECT
 
 public:
-    /// Without a folder, each job gets a new one among the user's data.
+    /// If the folder is absent, each job is written to a new folder below the user's data folder.
     explicit VirtualSender(std::optional<QString> folder, QObject *parent = nullptr);
 
     void send(const ReadyJob &job) override;
     void cancel() override {}
     bool needsStrip() const override { return true; }
 
-    /// What takes the picture that is put beside the strip; empty for none.
+    /// Sets the function that returns the screenshot of the dialog, which is saved beside the strip. No
+    /// screenshot is saved if the function is empty.
     void setPictureTaker(std::function<QImage()> taker) { m_takePicture = std::move(taker); }
-    /// Where the last job is, as an absolute path.
+    /// The absolute path of the folder with the last job; empty before the first.
     const QString &folder() const { return m_usedFolder; }
 
 private:

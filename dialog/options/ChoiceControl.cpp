@@ -21,13 +21,13 @@ ChoiceControl::ChoiceControl(host::PpdOption option, QWidget *parent)
     , m_option(std::move(option))
     , m_list(new QComboBox(this))
 {
-    // Measuring every text of every list would take longer than all the rest of a large page.
+    // Measuring the text of every choice would take longer than the rest of a large page.
     m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_list->setMinimumContentsLength(16);
     m_list->setModel(new QStringListModel(texts(), m_list));
     m_list->setPlaceholderText(tr("not set"));
     m_list->setCurrentIndex(-1);
-    // The wheel is to move the page.
+    // The mouse wheel scrolls the page unless the list has the focus.
     m_list->setFocusPolicy(Qt::StrongFocus);
     m_list->installEventFilter(this);
     m_list->setAccessibleName(m_option.text);
@@ -100,7 +100,8 @@ void ChoiceControl::showMarked(const host::PpdOptions &options)
     const std::vector<QByteArray> marked = options.markedChoices(keyword());
     const QByteArray now = marked.empty() ? QByteArray() : marked.front();
     m_parameters = m_option.freeText ? options.parameters(keyword()) : std::vector<host::PpdParameter>();
-    // While a value is being typed, other options may be marked; this one is then as it was.
+    // Other options may be marked while the user types a value; the marked choice of this option is unchanged
+    // then.
     if (m_isWaiting && now == m_marked)
         return;
     m_isWaiting = false;

@@ -10,11 +10,13 @@ inline namespace options {
 
 class FreeChoiceFields;
 
-/// A list to pick one choice from; "Custom…" in it opens the fields of a free choice.
+/// A combo box with the choices of an option that has one choice at a time. If the option allows custom
+/// values, the last entry ("Custom…") shows the fields for one.
 class ChoiceControl : public OptionControl {
     Q_OBJECT
 
 public:
+    /// Creates the control without a selection; showMarked() makes one.
     ChoiceControl(host::PpdOption option, QWidget *parent);
 
     QWidget *labelled() const override;
@@ -34,9 +36,9 @@ private:
     std::vector<host::PpdParameter> m_parameters;
     QByteArray m_marked;
     QComboBox *m_list;
-    /// Made when a free choice is first shown.
+    /// Created when a custom value is first shown.
     FreeChoiceFields *m_fields = nullptr;
-    /// The user asked for a free choice, and a value that the job can carry is still missing.
+    /// The user selected the custom value, but has not yet entered a value that a job can contain.
     bool m_isWaiting = false;
 };
 

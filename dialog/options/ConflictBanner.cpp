@@ -10,7 +10,7 @@ inline namespace options {
 
 namespace {
 
-/// More than anybody reads; laying out the text of thousands would keep the dialog waiting.
+/// More than a user reads; laying out the text of thousands of conflicts would block the dialog.
 constexpr std::size_t maxSentences = 100;
 
 } // namespace

@@ -13,20 +13,22 @@ class SetupKeeper;
 namespace dialog {
 inline namespace options {
 
-/// Tells which of the chosen options cannot be printed together, and offers the printer's own remedy.
+/// Reports which of the selected choices conflict, and offers the resolution computed from the PPD's
+/// constraints.
 class ConflictBanner : public Banner {
     Q_OBJECT
 
 public:
-    /// The keeper is borrowed; its printer is the one whose conflicts are told.
+    /// The keeper is not owned and must outlive the banner; the remedy is applied to its setup.
     ConflictBanner(host::SetupKeeper &keeper, QWidget *parent);
 
-    /// Shows these conflicts, and the remedy as a button where there is one; no conflicts hide the banner.
+    /// Shows the conflicts, and the remedy as a button if there is one. An empty list hides the banner. Of
+    /// many conflicts, only the first are shown.
     void setConflicts(const std::vector<host::Conflict> &conflicts,
                       const std::optional<host::Remedy> &remedy = {});
 
 Q_SIGNALS:
-    /// The remedy was applied to the printer's options.
+    /// Emitted when the remedy has been applied to the printer's options.
     void remedied();
 
 private:

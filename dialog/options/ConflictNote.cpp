@@ -12,7 +12,7 @@ inline namespace options {
 
 namespace {
 
-/// More are told in the dialog's banner.
+/// The dialog's banner shows more.
 constexpr qsizetype mostSentences = 2;
 
 } // namespace

@@ -12,20 +12,22 @@ class FittedLabel;
 namespace dialog {
 inline namespace options {
 
-/// Tells, beside what was chosen, with what else it cannot be printed. Hidden while there is nothing to tell.
+/// Describes, next to a control, the conflicts of its current choice. Hidden while there are none.
 class ConflictNote : public QWidget {
     Q_OBJECT
 
 public:
+    /// Creates a hidden note.
     explicit ConflictNote(QWidget *parent);
 
-    /// Shows these sentences, of many the first ones; none hides the note. All are in the tool tip.
+    /// Shows the first of these sentences; the tool tip and the accessible name contain all of them. An empty
+    /// list hides the note.
     void setSentences(const QStringList &sentences);
 
 private:
     void build();
 
-    /// Null until there is something to tell.
+    /// Null until the first conflict.
     FittedLabel *m_text = nullptr;
 };
 

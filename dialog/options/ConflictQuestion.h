@@ -8,8 +8,9 @@ class QWidget;
 namespace dialog {
 inline namespace options {
 
-/// Asks whether a job is to be sent although its settings exclude each other, which the sentences tell. Waits
-/// for the user.
+/// Asks whether to send a job although its settings conflict, and returns true if the user chooses to print
+/// anyway. The sentences describe the conflicts. The dialog is modal; the function returns when it is closed.
+/// The parent must not be null.
 bool sendsInSpiteOf(const QString &sentences, QWidget *parent);
 
 } // namespace options

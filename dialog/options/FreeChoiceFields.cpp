@@ -16,8 +16,8 @@ inline namespace options {
 
 namespace {
 
-/// Characters that the parameter takes. Braces are none: to the server, one that is not closed takes in all
-/// options that come after it.
+/// Returns the expression for the characters that the parameter allows. Braces are excluded: the server reads
+/// an unclosed brace as a value that contains all the options that follow.
 QRegularExpression characters(host::PpdParameterKind kind)
 {
     return QRegularExpression(kind == host::PpdParameterKind::Passcode ? QStringLiteral("[0-9]*")
@@ -111,13 +111,13 @@ void FreeChoiceFields::changed()
 
 void FreeChoiceFields::showValues(const std::vector<host::PpdParameter> &parameters)
 {
-    // A text that is not long enough yet is not what is marked; it stays, to be finished.
+    // A text that is still too short is not marked; keep it, so that the user can complete it.
     if (!isComplete() && std::ranges::any_of(m_fields, [](QWidget *field) { return field->hasFocus(); }))
         return;
     m_parameters = parameters;
     for (std::size_t i = 0; i < m_fields.size() && i < m_parameters.size(); ++i) {
         host::PpdParameter &parameter = m_parameters[i];
-        // What is sent is what is shown, limits rounded to what can be entered included.
+        // Send the value that is shown, which is limited to the rounded limits of its field.
         if (auto *const length = qobject_cast<LengthField *>(m_fields[i])) {
             length->showPoints(parameter.number);
             parameter.number = length->points();

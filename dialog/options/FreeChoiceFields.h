@@ -11,23 +11,25 @@ class QLabel;
 namespace dialog {
 inline namespace options {
 
-/// A field for each parameter of a free choice. Numbers out of their limits cannot be entered; a text that is
-/// still too short is told in words, and counts from when it is long enough.
+/// A field for each parameter of a custom value. Numbers outside their limits cannot be entered. While a text
+/// is shorter than its minimum, a message reports it and edited() is not emitted.
 class FreeChoiceFields : public QWidget {
     Q_OBJECT
 
 public:
+    /// Creates the fields and shows the current values of the parameters.
     FreeChoiceFields(std::vector<host::PpdParameter> parameters, QWidget *parent);
 
-    /// Shows these values, quietly. The same parameters as at first.
+    /// Shows the values of the same parameters as in the constructor, without emitting a signal. Does nothing
+    /// while the user edits an incomplete value.
     void showValues(const std::vector<host::PpdParameter> &parameters);
-    /// Whether every field holds what the job can carry.
+    /// Returns whether a job can contain the values of all fields.
     bool isComplete() const;
-    /// The value, as a job carries it.
+    /// Returns the custom value, as a job contains it.
     QByteArray value() const;
 
 Q_SIGNALS:
-    /// The user entered something, and the value is complete.
+    /// Emitted when the user has edited a field and the value is complete.
     void edited();
 
 private:

@@ -9,12 +9,13 @@ class QGroupBox;
 namespace dialog {
 inline namespace options {
 
-/// A check box for each choice of an option that may have several at once. A choice that means "none of them"
-/// has no box: it is chosen when no other is.
+/// A check box for each choice of a PickMany option. The choice that means "none" has no check box: it is
+/// chosen when no box is checked.
 class ManyControl : public OptionControl {
     Q_OBJECT
 
 public:
+    /// Creates the check boxes, all unchecked; showMarked() checks them.
     ManyControl(const host::PpdOption &option, QWidget *parent);
 
     void showMarked(const host::PpdOptions &options) override;
@@ -26,7 +27,7 @@ private:
     QByteArray value() const;
 
     std::vector<std::pair<QByteArray, QCheckBox *>> m_boxes;
-    /// Empty when the PPD has no word for it.
+    /// The name of the choice that means "none"; empty if the PPD does not have one.
     QByteArray m_none;
     QGroupBox *m_frame;
 };

@@ -12,37 +12,39 @@ inline namespace options {
 
 class ConflictNote;
 
-/// What the user sets an option of the PPD with, and below it what is wrong with the choice. It shows what is
-/// marked and tells what the user chose; it marks nothing.
+/// Base class of the controls for an option of the PPD. It shows the marked choice, and below it the
+/// conflicts of that choice. It emits what the user chooses, but does not mark it.
 class OptionControl : public QWidget {
     Q_OBJECT
 
 public:
+    /// Returns the option's keyword, without an asterisk.
     const QByteArray &keyword() const { return m_keyword; }
-    /// The widget that a label before the control belongs to; null for controls that bear their own title.
+    /// Returns the buddy for a label in front of the control; null for controls that have their own title.
     virtual QWidget *labelled() const { return nullptr; }
 
-    /// Shows what is marked, quietly.
+    /// Shows the marked choices of the option without emitting a signal.
     virtual void showMarked(const host::PpdOptions &options) = 0;
-    /// Shows these sentences below the control; none takes them away.
+    /// Shows the sentences that describe the option's conflicts below the control; an empty list removes
+    /// them.
     void setConflicts(const QStringList &sentences);
 
 Q_SIGNALS:
-    /// The user chose this, as a job carries it.
+    /// Emitted when the user has chosen a value, which is as a job contains it.
     void chosen(const QByteArray &value);
 
 protected:
     OptionControl(const host::PpdOption &option, QWidget *parent);
 
-    /// Where the controls go, one below the other.
+    /// The layout to which subclasses add their widgets, one below the other.
     QVBoxLayout *column() const { return m_column; }
-    /// The widgets that screen readers speak the conflicts at.
+    /// The widgets whose accessible descriptions contain the conflicts.
     virtual QList<QWidget *> spoken() const = 0;
 
 private:
     QByteArray m_keyword;
     QVBoxLayout *m_column;
-    /// Null until there is a conflict: most options never have one.
+    /// Null until the first conflict; most options never have one.
     ConflictNote *m_note = nullptr;
 };
 

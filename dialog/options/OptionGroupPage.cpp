@@ -15,10 +15,10 @@ inline namespace options {
 
 namespace {
 
-/// What one event adds.
+/// The maximum number of options that one event adds.
 constexpr std::size_t optionsPerForm = 12;
 
-/// How long an event builds: with what else it does, shorter than one picture of the screen.
+/// How long one event builds; together with its other work it is shorter than one frame of the screen.
 constexpr std::chrono::milliseconds slice{8};
 
 } // namespace
@@ -30,7 +30,7 @@ OptionGroupPage::OptionGroupPage(const host::PpdFile &ppd, std::vector<QByteArra
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    // The page scrolls with its controls; on the way of the Tab key it would only be in between.
+    // The page scrolls to the control that has the focus; it needs no place of its own in the tab order.
     setFocusPolicy(Qt::NoFocus);
 }
 
@@ -48,8 +48,8 @@ void OptionGroupPage::build()
     auto *const content = new QWidget(this);
     m_column = new QVBoxLayout(content);
     m_column->addStretch(1);
-    // The page grows before its forms are moved; else all of them would be squeezed and stretched with every
-    // slice.
+    // Makes the page grow before its forms are moved; otherwise every slice would squeeze and stretch all of
+    // them.
     m_column->setSizeConstraint(QLayout::SetMinimumSize);
     m_labelWidth = labelWidth();
     buildSlice(deadline);
@@ -77,7 +77,8 @@ void OptionGroupPage::buildSlice(QDeadlineTimer deadline)
 void OptionGroupPage::addForm()
 {
     auto *const part = new QWidget(m_column->parentWidget());
-    // Shown with all its rows; a widget that is added to a visible form is shown by an event of its own.
+    // The form is shown when it has all its rows: each widget added to a visible form is shown by an event of
+    // its own.
     part->hide();
     m_form = new QFormLayout(part);
     m_form->setContentsMargins({});
@@ -96,7 +97,7 @@ int OptionGroupPage::labelWidth() const
     int widest = 0;
     for (auto keyword = m_keywords.begin(); keyword != m_keywords.end() && widest < limit; ++keyword)
         widest = qMax(widest, metrics.horizontalAdvance(m_ppd.optionText(QString::fromUtf8(*keyword))));
-    // A label is a little wider than its letters.
+    // A label is slightly wider than its text.
     return qMin(widest, limit) + metrics.averageCharWidth();
 }
 

@@ -15,25 +15,27 @@ inline namespace options {
 
 class OptionControl;
 
-/// The controls of one group of options, one below the other. They are made when the page is first shown:
-/// there are PPDs with thousands of choices in groups that hardly anybody opens. Those that take longer than
-/// a moment follow in slices, in their order, so that the window never stalls.
+/// The controls of one group of options, one below the other. They are created when the page is first shown,
+/// because some PPDs have thousands of choices in groups that are rarely opened. Large groups are built in
+/// slices, in their order, so that the window stays responsive.
 class OptionGroupPage : public QScrollArea {
     Q_OBJECT
 
 public:
-    /// The options are shown in the given order. The PPD is borrowed.
+    /// The options are shown in the order of the keywords; keywords that the PPD does not have are skipped.
+    /// The PPD is not owned and must outlive the page.
     OptionGroupPage(const host::PpdFile &ppd, std::vector<QByteArray> keywords, QWidget *parent);
 
-    /// Shows what is marked now, quietly.
+    /// Shows the choices that are marked now, without emitting a signal.
     void refresh();
-    /// Shows each conflict at the options that it involves; sentences by keywords.
+    /// Shows the conflicts below the options that they involve. The sentences are given by the options'
+    /// keywords.
     void setConflicts(const QHash<QString, QStringList> &sentences);
-    /// The sentences about options of this group.
+    /// Returns the sentences about the options of this group, each once.
     QStringList conflictSentences() const;
 
 Q_SIGNALS:
-    /// The user chose this, as a job carries it.
+    /// Emitted when the user has chosen a value, which is as a job contains it.
     void chosen(const QByteArray &keyword, const QByteArray &value);
 
 protected:
@@ -41,7 +43,8 @@ protected:
 
 private:
     void build();
-    /// Adds a form of options, fewer when the deadline expires, and continues in an event of its own.
+    /// Adds a form with the next options, with fewer of them if the deadline expires, and continues in a
+    /// later event.
     void buildSlice(QDeadlineTimer deadline);
     void addForm();
     int labelWidth() const;
@@ -53,13 +56,13 @@ private:
     std::vector<QByteArray> m_keywords;
     std::vector<OptionControl *> m_controls;
     QHash<QString, QStringList> m_conflicts;
-    /// The forms, one below the other; null until the page is shown.
+    /// Contains the forms, one below the other; null until the page is shown.
     QVBoxLayout *m_column = nullptr;
-    /// Where controls are being added.
+    /// The form to which controls are added now.
     QFormLayout *m_form = nullptr;
-    /// So that the fields of all forms begin at one place; 0 while there is only one.
+    /// Aligns the fields of all forms, in pixels; 0 if there is only one form.
     int m_labelWidth = 0;
-    /// The option that is built next.
+    /// The index of the option that is built next.
     std::size_t m_next = 0;
 };
 

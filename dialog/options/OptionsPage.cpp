@@ -24,7 +24,7 @@ bool isPaper(const QByteArray &keyword)
     return qstricmp(keyword.constData(), "PageSize") == 0 || qstricmp(keyword.constData(), "PageRegion") == 0;
 }
 
-/// The options of a group that the page shows.
+/// Returns the keywords of the group's options that the page shows.
 std::vector<QByteArray> shownKeywords(const host::PpdOptions &options, const host::PpdGroup &group,
                                       const QStringList &claimedKeywords)
 {
@@ -95,7 +95,7 @@ void OptionsPage::layOut()
 
 void OptionsPage::fitGroups()
 {
-    // Wide enough for the names and the sign of a conflict, as long as the names are no novels.
+    // Wide enough for the names and the icon of a conflict, up to a limit.
     const int sign = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) * 2;
     const int widest = fontMetrics().averageCharWidth() * 28;
     int names = 0;

@@ -15,36 +15,38 @@ inline namespace options {
 
 class OptionGroupPage;
 
-/// All options of the PPD that are not set elsewhere, in the PPD's groups and with its texts. Left out are
-/// the paper, which has its own list; the options that a panel takes care of; what the printer is fitted
-/// with, which is a fact of the printer and not of a job; and options that leave nothing to choose.
+/// All options of the PPD that are not set elsewhere, in the PPD's groups and with its texts. The page omits
+/// the paper, which has its own list; the options that a panel claims; InstallableOptions, which describe the
+/// printer and not a job; and options that the user cannot change.
 ///
-/// The page shows what the PPD has marked and tells what the user chooses. Its owner marks that, calls
-/// refresh(), and gives it the conflicts. No choice is hidden or disabled because of another.
+/// The page shows the choices that are marked in the PPD and emits chosen() when the user makes another
+/// choice. The owner marks that choice, calls refresh(), and passes the conflicts to setConflicts(). No
+/// choice is hidden or disabled because of another choice.
 class OptionsPage : public QWidget {
     Q_OBJECT
 
 public:
-    /// The PPD is borrowed, localized already, and must outlive the page.
+    /// The PPD must be localized already; it is not owned and must outlive the page. The page omits the
+    /// options with the claimed keywords, which a panel shows.
     OptionsPage(host::PpdFile &ppd, const QStringList &claimedKeywords, QWidget *parent);
 
-    /// Whether such a page would have anything to choose.
+    /// Returns whether a page for these arguments would show at least one option.
     static bool hasOptions(const host::PpdFile &ppd, const QStringList &claimedKeywords);
 
-    /// Shows what the PPD has marked now, quietly.
+    /// Shows the choices that are marked in the PPD now, without emitting a signal.
     void refresh();
-    /// Shows the conflicts at their options and at the groups that hold these; an empty list clears them.
+    /// Shows the conflicts below their options and in the list of groups; an empty list removes them.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
 
-    /// The text of the group that is shown; empty when there is none.
+    /// Returns the text of the group that is shown; empty if the page has no groups.
     QString shownGroup() const;
-    /// Shows the group of that text, if there is one.
+    /// Shows the group with this text. Does nothing if there is no such group.
     void showGroup(const QString &text);
 
 Q_SIGNALS:
-    /// The user chose this: a choice by its PPD name, for options with several a list with commas, or a free
-    /// value as host::freeChoiceValue() writes it. Empty when of several none is chosen and the PPD has no
-    /// name for that.
+    /// Emitted when the user has chosen a value: the PPD name of a choice, a comma-separated list of names
+    /// for a PickMany option, or a custom value as host::freeChoiceValue() writes it. The value is empty if
+    /// no choice of a PickMany option is selected and the PPD has no choice that means "none".
     void chosen(const QByteArray &keyword, const QByteArray &value);
 
 private:

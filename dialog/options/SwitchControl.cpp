@@ -68,7 +68,7 @@ void SwitchControl::showMarked(const host::PpdOptions &options)
 
 void SwitchControl::showMeaning()
 {
-    // A PPD may mean something else by "True" than a tick says.
+    // The texts of True and False in a PPD may have another meaning than the check mark suggests.
     m_box->setToolTip(plainToolTip(m_box->isChecked() ? m_on.text : m_off.text));
 }
 

@@ -8,14 +8,16 @@ class QCheckBox;
 namespace dialog {
 inline namespace options {
 
-/// A check box, for options that are on or off.
+/// A check box for an option that is on or off.
 class SwitchControl : public OptionControl {
     Q_OBJECT
 
 public:
-    /// Whether the option says itself that it is on or off, and its two choices do too.
+    /// Returns whether the option is of type Boolean, has exactly the two choices True and False or On and
+    /// Off (in any case), and allows no custom value.
     static bool suits(const host::PpdOption &option);
 
+    /// The option must suit the control.
     SwitchControl(const host::PpdOption &option, QWidget *parent);
 
     void showMarked(const host::PpdOptions &options) override;

@@ -14,22 +14,23 @@ class LengthField;
 namespace dialog {
 inline namespace paper {
 
-/// Width and length of a paper of free size, within what the printer takes.
+/// Fields for the width and length of a custom paper size, within the printer's limits.
 class CustomPaperFields : public QWidget {
     Q_OBJECT
 
 public:
+    /// A dimension whose limits are equal is shown read-only.
     CustomPaperFields(const host::PpdCustomLimits &limits, QWidget *parent);
 
-    /// The size as entered, in points.
+    /// Returns the entered size in points.
     QSizeF size() const;
-    /// Shows the size, in points, brought within the limits; quietly.
+    /// Shows the size, given in points and limited to the range, without emitting a signal.
     void showSize(const QSizeF &points);
-    /// Where the Tab key leaves the fields.
+    /// Returns the last field in the tab order.
     QWidget *lastField() const;
 
 Q_SIGNALS:
-    /// The user entered another size.
+    /// Emitted when the user has entered another size.
     void edited();
 
 private:

@@ -10,18 +10,18 @@ inline namespace paper {
 
 namespace {
 
-/// In points. Lengths are given in hundredths of millimetres.
+/// In points. Lengths are precise to 0.01 mm.
 constexpr double exact = 0.01 * host::pointsPerMillimetre;
-/// Documents round their pages to whole points or to tenths of millimetres.
+/// In points. Documents round their page sizes to whole points or to 0.1 mm.
 constexpr double rounded = 0.5;
 
-/// By how many points the sizes differ, in the direction in which they differ more.
+/// Returns the difference of the widths or of the lengths in points, whichever is larger.
 double difference(const QSizeF &one, const QSizeF &other)
 {
     return std::max(std::abs(one.width() - other.width()), std::abs(one.height() - other.height()));
 }
 
-/// The same, turned where that comes nearer.
+/// Returns the smaller of the differences with the first size upright and rotated.
 double differenceTurned(const QSizeF &one, const QSizeF &other)
 {
     return std::min(difference(one, other), difference(one.transposed(), other));
@@ -33,8 +33,9 @@ bool isWhole(double points)
     return std::abs(points - std::round(points)) < asWritten;
 }
 
-/// The paper that differs least, as long as it differs by no more than rounding does; upright ones come
-/// first, and of equal ones the first. Null when there is none.
+/// Returns the paper with the smallest difference, which rounding can explain. If differences are equal,
+/// upright papers take precedence over rotated ones, and earlier papers over later ones. Null if there is
+/// none.
 const host::PpdPaper *nearestPaper(const std::vector<host::PpdPaper> &papers, const QSizeF &page)
 {
     const host::PpdPaper *nearest = nullptr;

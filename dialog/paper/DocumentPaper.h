@@ -8,16 +8,17 @@
 namespace dialog {
 inline namespace paper {
 
-/// The free size of width and length in points; nothing where the printer does not take it.
+/// Returns the custom paper with this width and length in points; absent if the printer does not support it.
 using FreeSize = std::function<std::optional<host::PpdPaper>(const QSizeF &points)>;
 
-/// The paper for pages of that size in points, upright or turned: one of exactly this size; else, for a size
-/// in whole points, which many programs round to, the nearest one; else a free size; else the nearest one all
-/// the same. Nothing when none of this comes near, and for an empty page.
+/// Returns the paper for pages of this size in points, upright or rotated. In order of preference: a paper of
+/// exactly this size; the nearest paper, if the size is in whole points, to which many programs round; a
+/// custom size; the nearest paper. A paper whose width or length differs by more than 0.5 points is not
+/// considered. Absent if there is no such paper, or if the page size is empty.
 std::optional<host::PpdPaper> paperForPage(const std::vector<host::PpdPaper> &papers, const QSizeF &page,
                                            const FreeSize &freeSize);
 
-/// Whether both have one size, upright or turned.
+/// Returns whether both sizes are equal to 0.01 mm, upright or rotated. The page size is in points.
 bool fitsExactly(const host::PpdPaper &paper, const QSizeF &page);
 
 } // namespace paper

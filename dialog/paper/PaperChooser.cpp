@@ -79,7 +79,8 @@ bool PaperChooser::eventFilter(QObject *watched, QEvent *event)
     };
     if (watched != m_search || (!isKey(Qt::Key_Return) && !isKey(Qt::Key_Enter)))
         return QWidget::eventFilter(watched, event);
-    // Who searches wants what is found; the window's own button would print.
+    // Return in the search field chooses the first paper found; otherwise it would trigger the window's
+    // default button, which prints.
     m_list->chooseFirst();
     return true;
 }
@@ -88,7 +89,7 @@ void PaperChooser::setPpd(const host::PpdFile &ppd, const host::PpdPaper &chosen
 {
     m_ppd = &ppd;
     m_papers = ppd.papers();
-    // A few papers are seen at a glance.
+    // A short list needs no search.
     constexpr std::size_t searchable = 8;
     m_search->setVisible(m_papers.size() > searchable);
     buildCustom();
@@ -103,13 +104,13 @@ void PaperChooser::setPpd(const host::PpdFile &ppd, const host::PpdPaper &chosen
 void PaperChooser::buildCustom()
 {
     const std::optional<host::PpdCustomLimits> limits = m_ppd->customLimits();
-    // The same fields, so that whoever types in them goes on when a PPD is replaced.
+    // If the limits are the same, keep the fields: the user may be typing while the PPD is replaced.
     if (m_fields && limits == m_limits)
         return;
     delete m_fields;
     m_fields = nullptr;
     m_limits = limits;
-    // Some PPDs give limits, and no way to ask for a size.
+    // Some PPDs state limits, but do not allow custom sizes.
     if (!m_limits || !customPaper(host::customPaperName(m_limits->smallest)))
         return;
     m_fields = new CustomPaperFields(*m_limits, this);
@@ -166,7 +167,7 @@ void PaperChooser::showPaper(const host::PpdPaper &paper)
 void PaperChooser::chooseEntry(int entry)
 {
     if (entry == PaperList::customEntry) {
-        // The last paper is a good beginning.
+        // Start with the size of the previous paper.
         m_fields->showSize(m_chosen.size);
         m_fields->show();
         chooseCustomSize();
@@ -190,7 +191,7 @@ void PaperChooser::chooseDocumentSize()
     const auto paper = paperForDocument();
     if (!paper)
         return;
-    // The button is about to go; what it did is seen in the list.
+    // Move the focus to the list, which shows the result: the button is about to be hidden.
     m_list->setFocus();
     showPaper(*paper);
     Q_EMIT paperChosen();
@@ -212,7 +213,7 @@ std::optional<host::PpdPaper> PaperChooser::paperForDocument() const
 void PaperChooser::updateDocumentButton()
 {
     auto paper = paperForDocument();
-    // Of papers of one size, the chosen one is as good as the first.
+    // If several papers have the size, do not offer the first one when another one is chosen.
     if (paper && (fitsExactly(m_chosen, m_documentPage) || fitsExactly(m_chosen, paper->size)))
         paper.reset();
     m_documentButton->setVisible(paper.has_value());

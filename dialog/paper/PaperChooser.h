@@ -21,30 +21,33 @@ inline namespace paper {
 class CustomPaperFields;
 class PaperList;
 
-/// The printer's papers under the PPD's own names and texts, by width, with a field to search among many;
-/// free sizes where the printer takes them; and the document's own size where that fits.
+/// A list of the printer's papers with the names and texts of the PPD, grouped by width. It has a search
+/// field if there are many papers, fields for a custom size if the printer supports one, and a button for the
+/// document's page size if the printer has a paper for it.
 class PaperChooser : public QWidget {
     Q_OBJECT
 
 public:
-    /// The PPD is borrowed. A paper to choose that is not among its papers, nor a free size, is put in front.
+    /// The PPD is not owned and must outlive the widget, or be replaced with setPpd(). A chosen paper that is
+    /// neither one of the PPD's papers nor a custom size is inserted as the first paper.
     PaperChooser(const host::PpdFile &ppd, const host::PpdPaper &chosen, QWidget *parent);
 
-    /// Shows the papers of another PPD, quietly; what is being searched for stays.
+    /// Shows the papers of another PPD without emitting a signal; the text of the search is kept.
     void setPpd(const host::PpdFile &ppd, const host::PpdPaper &chosen);
-    /// Offers the size of the document's pages, in points, where the printer takes it, turned or not; an
-    /// empty one offers nothing.
+    /// Offers the size of the document's pages, in points, if the printer has a paper for it, upright or
+    /// rotated. An empty size offers nothing.
     void setDocumentPage(const QSizeF &points);
 
+    /// Returns the chosen paper.
     const host::PpdPaper &chosen() const { return m_chosen; }
-    /// Chooses a paper by its name, byte for byte, or a free size such as "Custom.36x50mm"; quietly. False,
-    /// and nothing is changed, when the printer does not have it.
+    /// Chooses a paper by its name, byte for byte, or a custom size such as "Custom.36x50mm", without
+    /// emitting a signal. Returns false, and changes nothing, if the printer does not have the paper.
     bool choose(const QByteArray &name);
-    /// Tells below the papers which of these the chosen paper is part of.
+    /// Shows, below the list, those of the conflicts that involve the paper.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
 
 Q_SIGNALS:
-    /// The user chose another paper.
+    /// Emitted when the user has chosen another paper.
     void paperChosen();
 
 protected:
@@ -69,7 +72,7 @@ private:
     QLineEdit *m_search;
     PaperList *m_list;
     ConflictNote *m_note;
-    /// Null where the printer takes no free sizes.
+    /// Null if the printer does not support custom sizes.
     CustomPaperFields *m_fields = nullptr;
     QPushButton *m_documentButton;
 };

@@ -18,7 +18,7 @@ struct PaperGroupsText {
     Q_DECLARE_TR_FUNCTIONS(dialog::paper::PaperGroups)
 };
 
-/// PPDs round widths as they like.
+/// In points. PPDs round widths in different ways.
 constexpr double sameWidth = 0.3 * host::pointsPerMillimetre;
 
 } // namespace

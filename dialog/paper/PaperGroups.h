@@ -8,15 +8,15 @@ inline namespace paper {
 
 /// Papers of one width.
 struct PaperGroup {
-    /// "12 mm wide".
+    /// The translated heading, such as "12 mm wide".
     QString title;
-    /// Positions among all papers, in the PPD's order.
+    /// Indexes into the list of all papers, in the order of the PPD.
     std::vector<std::size_t> papers;
 };
 
-/// The papers by width, the narrowest first: the width is what is loaded, and what people know of it. Widths
-/// that differ by less than anybody sells apart are one. Empty when groups would tell nothing: all papers
-/// have one width, or every paper has another.
+/// Groups the papers by width, the narrowest first: the width is what users know of the loaded tape. Widths
+/// that differ by up to 0.3 mm form one group; tapes on sale differ by more. Returns no groups if they would
+/// not help: if all papers have the same width, or each has its own.
 std::vector<PaperGroup> groupPapers(const std::vector<host::PpdPaper> &papers);
 
 } // namespace paper

@@ -18,8 +18,8 @@ inline namespace paper {
 namespace {
 
 enum Role {
-    EntryRole = Qt::UserRole, ///< a position, or customEntry; absent for headings
-    SearchRole,               ///< what a search looks through
+    EntryRole = Qt::UserRole, ///< the index of the paper, or customEntry; absent for headings
+    SearchRole,               ///< the text in which a search looks
 };
 
 bool isHeading(const QListWidgetItem &item)
@@ -29,7 +29,7 @@ bool isHeading(const QListWidgetItem &item)
 
 bool matches(const QListWidgetItem &item, const QStringList &words)
 {
-    // Every word may stand anywhere: "24 die" finds "Die-Cut 24 mm x 38 mm".
+    // The words can be in any order: "24 die" finds "Die-Cut 24 mm x 38 mm".
     const QString searched = item.data(SearchRole).toString();
     return std::ranges::all_of(
         words, [&](const QString &word) { return searched.contains(word, Qt::CaseInsensitive); });
@@ -43,7 +43,7 @@ QString toolTipText(const host::PpdPaper &paper)
             .arg(exactLength(paper.size.width()), exactLength(paper.size.height())));
 }
 
-/// The papers' texts; with their names where several have the same text.
+/// Returns the texts of the papers, followed by the name if several papers have the same text.
 QStringList entryTexts(const std::vector<host::PpdPaper> &papers)
 {
     QHash<QString, int> counts;
@@ -101,7 +101,7 @@ void PaperList::setPapers(const std::vector<host::PpdPaper> &papers, bool takesC
 void PaperList::addHeading(const QString &title)
 {
     auto *const item = new QListWidgetItem(title, this);
-    // Keys pass over what is not enabled.
+    // The arrow keys skip items that are not enabled.
     item->setFlags(Qt::NoItemFlags);
 }
 
@@ -115,7 +115,8 @@ void PaperList::addPaper(const host::PpdPaper &paper, const QString &text, int e
 
 void PaperList::dressHeadings()
 {
-    // Set off by their ground: bold letters would need a second font, loaded for this alone.
+    // Headings have another background. Bold text would need a second font, which would be loaded for this
+    // purpose only.
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     for (int row = 0; row < count(); ++row) {
         if (!isHeading(*item(row)))
@@ -128,7 +129,7 @@ void PaperList::dressHeadings()
 void PaperList::fitWidth()
 {
     setMinimumHeight(fontMetrics().height() * 6);
-    // Wide enough for the papers' texts, unless one of them is a novel.
+    // Wide enough for the texts of the papers, up to a limit.
     const int widest = fontMetrics().averageCharWidth() * 40;
     int texts = 0;
     for (int row = 0; row < count(); ++row)
@@ -179,8 +180,8 @@ void PaperList::filter(const QString &search)
 QItemSelectionModel::SelectionFlags PaperList::selectionCommand(const QModelIndex &index,
                                                                 const QEvent *) const
 {
-    // One paper is always chosen. Qt would take the highlight off it at clicks beside the papers, and at
-    // Ctrl-clicks, and leave it behind when Ctrl and a key choose another.
+    // One paper is always selected. QListWidget would clear the selection on a click next to the items and on
+    // a Ctrl-click, and would not update it when the current item changes by a key pressed with Ctrl.
     const Qt::ItemFlags usable = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     const bool isPaper = index.isValid() && (index.flags() & usable) == usable;
     return isPaper ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;

@@ -8,28 +8,30 @@
 namespace dialog {
 inline namespace paper {
 
-/// Papers to pick one from, under headings where these help to find it. A search never changes the choice.
+/// A list from which one paper is chosen, with headings if these help to find a paper. A search does not
+/// change the chosen paper.
 class PaperList : public QListWidget {
     Q_OBJECT
 
 public:
-    /// The entry for a paper whose size is still to be given.
+    /// The entry for a custom size, which the user still has to enter.
     static constexpr int customEntry = -1;
 
+    /// Creates an empty list.
     explicit PaperList(QWidget *parent);
 
-    /// Replaces all entries, quietly. The entry for custom sizes comes first: there it is found among
-    /// hundreds.
+    /// Replaces all entries without emitting a signal. If takesCustom is true, the first entry is the one
+    /// for custom sizes: it would be hard to find after hundreds of papers.
     void setPapers(const std::vector<host::PpdPaper> &papers, bool takesCustom);
-    /// Makes the paper at that position the current one, or the custom entry; quietly.
+    /// Makes the paper at this index, or customEntry, the current entry without emitting a signal.
     void showEntry(int entry);
-    /// Shows only papers in whose texts every word of the search stands, and the entry for custom sizes.
+    /// Shows only the papers whose texts contain every word of the search, and the entry for custom sizes.
     void filter(const QString &search);
-    /// Chooses the first paper of those that are shown; nothing when there is none.
+    /// Chooses the first paper that is shown; does nothing if there is none.
     void chooseFirst();
 
 Q_SIGNALS:
-    /// The user chose the paper at that position, or customEntry.
+    /// Emitted when a paper has been chosen; the entry is its index, or customEntry.
     void entryChosen(int entry);
 
 protected:

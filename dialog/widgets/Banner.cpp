@@ -51,10 +51,11 @@ void Banner::build()
     auto *const layout = new QGridLayout(this);
     layout->addWidget(icon, 0, 0, Qt::AlignTop);
     layout->addWidget(m_view, 0, 1);
-    // Below the text: beside it, a long remedy would leave the text no room.
+    // The buttons are below the text: beside it, a long button text would leave the message no room.
     layout->addLayout(buttons, 1, 1);
     layout->setColumnStretch(1, 1);
-    // Before it is shown: the window would make room for a whole empty page.
+    // Set the height before the banner is shown; otherwise the window reserves the default height of a scroll
+    // area.
     fitText();
 }
 
@@ -67,7 +68,7 @@ ElidedButton *Banner::makeButton()
 
 void Banner::setButton(ElidedButton *button, const QString &text)
 {
-    // An ampersand in a PPD's text is no shortcut.
+    // An ampersand in a text of the PPD does not mark a mnemonic.
     button->setText(QString(text).replace(u'&', QStringLiteral("&&")));
     button->setVisible(!text.isEmpty());
 }
@@ -115,15 +116,15 @@ void Banner::changeEvent(QEvent *event)
 
 void Banner::fitText()
 {
-    // A window takes no notice of what a wrapped text needs, so its height is told.
+    // The window's layout ignores the height that a wrapped text needs; set it explicitly.
     constexpr int mostLines = 4;
     if (!m_text)
         return;
     const int line = m_text->fontMetrics().lineSpacing();
-    // As long as the banner has no place in the window, its width is not known.
+    // The width is not known until the banner is laid out in the window.
     const int needed = isVisible() ? m_text->heightForWidth(m_view->width()) : line;
     m_view->setFixedHeight(qBound(line, needed, mostLines * line));
-    // Who has no mouse scrolls with keys, where there is something to scroll.
+    // A text that needs scrolling accepts the focus, so that it can be scrolled with the keyboard.
     m_view->setFocusPolicy(needed > mostLines * line ? Qt::StrongFocus : Qt::NoFocus);
 }
 

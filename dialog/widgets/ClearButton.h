@@ -6,8 +6,8 @@ class QLineEdit;
 namespace dialog {
 inline namespace widgets {
 
-/// Gives the field a button that clears it, once there is something to clear. The button's icon is searched
-/// for in the desktop's icon themes, which would make every opening of the dialog noticeably later.
+/// Adds a clear button to the field when its text is not empty for the first time. Qt looks up the button's
+/// icon in the desktop's icon themes, which would noticeably delay every opening of the dialog.
 void addClearButton(QLineEdit *field);
 
 } // namespace widgets

@@ -6,12 +6,13 @@
 namespace dialog {
 inline namespace widgets {
 
-/// A button for a text of any length: as wide as the text where there is room, and no wider than its place.
-/// A text that does not fit is elided, and to be read in the tool tip; screen readers speak all of it.
+/// A button with a text of any length. It is as wide as its text if the layout has room, and narrower
+/// otherwise. A text that does not fit is elided; the tool tip and screen readers give the full text.
 class ElidedButton : public QPushButton {
     Q_OBJECT
 
 public:
+    /// Creates a button without a text.
     explicit ElidedButton(QWidget *parent);
 
     QSize minimumSizeHint() const override;

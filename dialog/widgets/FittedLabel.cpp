@@ -14,7 +14,7 @@ FittedLabel::FittedLabel(int fewestLines, int mostLines, QWidget *parent)
     setWordWrap(true);
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    // A long word makes nothing wider.
+    // A long word does not make the window wider.
     setMinimumWidth(1);
     fit();
 }
@@ -47,7 +47,7 @@ void FittedLabel::changeEvent(QEvent *event)
 void FittedLabel::fit()
 {
     const int line = fontMetrics().lineSpacing();
-    // Before it is shown, the width is no width that it will have.
+    // Before the label is shown, its width is not the final one.
     const int needed = isVisible() ? heightForWidth(width()) : 0;
     setFixedHeight(qBound(m_fewestLines * line, needed, m_mostLines * line));
 }

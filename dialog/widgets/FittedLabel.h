@@ -6,18 +6,21 @@
 namespace dialog {
 inline namespace widgets {
 
-/// Plain words of any length that wrap and keep their window in shape. Windows take no notice of the lines
-/// that a wrapped text needs, and squeeze whatever stands beside it; so this label asks for a height of its
-/// own, which follows its width: so many lines as the words need, but never fewer than some, lest the window
-/// jumps whenever words change, and never more than some, for no window has room for novels.
+/// A label for a plain text of any length that wraps. A window's layout ignores the height that a wrapped
+/// text needs and squeezes the widgets beside it; this label therefore sets its own fixed height, which
+/// follows its width: the number of lines that the text needs, but at least a minimum, so that the window
+/// does not change its size with every text, and at most a maximum.
 class FittedLabel : public QLabel {
     Q_OBJECT
 
 public:
+    /// Both limits are heights in lines of text.
     FittedLabel(int fewestLines, int mostLines, QWidget *parent);
 
+    /// Sets the text, which is shown as plain text, and adjusts the height.
     void setWords(const QString &words);
 
+    /// Returns false: the height is fixed, although the text wraps.
     bool hasHeightForWidth() const override { return false; }
 
 protected:

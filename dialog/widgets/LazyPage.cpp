@@ -19,7 +19,7 @@ void LazyPage::showEvent(QShowEvent *event)
         layout->setContentsMargins({});
         QWidget *const content = maker(this);
         layout->addWidget(content);
-        // The layout would show it only after the page has been painted empty.
+        // The layout would show the content only after the page has been painted empty.
         content->show();
     }
     QWidget::showEvent(event);

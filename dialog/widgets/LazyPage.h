@@ -8,15 +8,16 @@
 namespace dialog {
 inline namespace widgets {
 
-/// A page that is filled when it is shown for the first time: most dialogs are printed from without a look at
-/// most pages, and all of them open the sooner for it.
+/// A page whose content is created when the page is shown for the first time. Most jobs are printed without
+/// opening most pages, so the dialog opens faster.
 class LazyPage : public QWidget {
     Q_OBJECT
 
 public:
-    /// What fills the page; its parent is the page, which owns it.
+    /// Creates the content of the page. The page is its parent and owns it.
     using Maker = std::function<QWidget *(QWidget *parent)>;
 
+    /// Calls the maker once, when the page is first shown, and then destroys it.
     LazyPage(Maker maker, QWidget *parent);
 
 protected:

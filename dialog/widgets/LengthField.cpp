@@ -13,7 +13,7 @@ LengthField::LengthField(double minimum, double maximum, QWidget *parent)
 {
     setSuffix(u' ' + unitText(m_unit));
     setSingleStep(m_unit == LengthUnit::Inch ? 0.125 : 1.0);
-    // A range narrower than the decimals has turned over.
+    // If the range is narrower than the last decimal, rounding makes the minimum larger than the maximum.
     const bool isFixed = this->minimum() >= this->maximum() || maximum <= minimum;
     setReadOnly(isFixed);
     setButtonSymbols(isFixed ? NoButtons : UpDownArrows);

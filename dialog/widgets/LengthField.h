@@ -7,18 +7,18 @@
 namespace dialog {
 inline namespace widgets {
 
-/// A field for a length within limits, in the user's unit and to 0.01 mm. Where the limits leave no choice it
-/// shows the only length and takes no other.
+/// A field for a length within limits, in the user's unit and with a precision of 0.01 mm. If the limits
+/// allow only one length, the field shows it and is read-only.
 class LengthField : public NumberField {
     Q_OBJECT
 
 public:
-    /// The limits in points.
+    /// Both limits are in points.
     LengthField(double minimum, double maximum, QWidget *parent);
 
-    /// The length in points, exactly the limit where there is no choice.
+    /// Returns the length in points, always within the limits; exactly the minimum if the field is read-only.
     double points() const;
-    /// Shows the length, in points, brought within the limits; quietly.
+    /// Shows the length, given in points and limited to the range, without emitting a signal.
     void showPoints(double points);
 
 private:

@@ -40,7 +40,7 @@ QString withUnit(const QString &number, LengthUnit unit)
 
 LengthUnit userLengthUnit()
 {
-    // Britain keeps miles, and measures paper in millimetres.
+    // The United Kingdom (ImperialUKSystem) uses miles, but measures paper in millimetres.
     return QLocale().measurementSystem() == QLocale::ImperialUSSystem ? LengthUnit::Inch
                                                                       : LengthUnit::Millimetre;
 }

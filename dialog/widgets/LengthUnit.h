@@ -7,23 +7,25 @@
 namespace dialog {
 inline namespace widgets {
 
-/// In what people measure labels.
+/// The unit in which lengths are shown and entered.
 enum class LengthUnit { Millimetre, Inch };
 
-/// The unit of the user's country.
+/// Returns the unit of the user's country (default locale): inches where the US system is used, otherwise
+/// millimetres.
 LengthUnit userLengthUnit();
-/// How many points there are to the unit.
+/// Returns the number of points in one unit.
 double pointsPer(LengthUnit unit);
-/// The unit as it stands behind a number.
+/// Returns the translated symbol of the unit, as it follows a number.
 QString unitText(LengthUnit unit);
-/// So many decimals tell apart what differs by 0.01 mm.
+/// Returns the number of decimals that distinguishes lengths that differ by 0.01 mm.
 int exactDecimals(LengthUnit unit);
 
-/// A length in points, to 0.01 mm, in the user's unit and number format: "36.05 mm".
+/// Returns a length, given in points, in the user's unit and number format, to 0.01 mm: "36.05 mm".
 QString exactLength(double points);
-/// A length in points, to what tells papers apart at a glance: "36 mm", "101.6 mm", "0.47 in".
+/// Returns a length, given in points, rounded to what distinguishes papers: 0.1 mm or 0.01 in; "36 mm",
+/// "101.6 mm", "0.47 in".
 QString roundLength(double points);
-/// A size in points, width first: "36 × 50 mm".
+/// Returns a size, given in points, in the user's unit to 0.01 mm, width first: "36 × 50 mm".
 QString exactSize(const QSizeF &points);
 
 } // namespace widgets

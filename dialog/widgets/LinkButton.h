@@ -6,11 +6,13 @@
 namespace dialog {
 inline namespace widgets {
 
-/// A button that looks like a link, for something offered beside the controls.
+/// A button that looks like a link, for an action offered beside other controls. A text that does not fit is
+/// elided.
 class LinkButton : public QPushButton {
     Q_OBJECT
 
 public:
+    /// Creates a button without a text.
     explicit LinkButton(QWidget *parent);
 
     QSize sizeHint() const override;

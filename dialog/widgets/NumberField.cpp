@@ -14,8 +14,8 @@ NumberField::NumberField(double minimum, double maximum, int decimals, QWidget *
 {
     setFocusPolicy(Qt::StrongFocus);
     setDecimals(decimals);
-    // Rounded to the decimals, a limit must not come to lie outside of what is allowed; except where it was
-    // meant: 28.3465 points are 10 mm.
+    // Rounding a limit to the decimals must not extend the range. A limit within 0.2 of the last decimal is
+    // the exception, because it is a rounded value itself: 28.3465 points are 10 mm.
     const double scale = std::pow(10.0, decimals);
     constexpr double noise = 0.2;
     setRange(std::ceil(minimum * scale - noise) / scale, std::floor(maximum * scale + noise) / scale);

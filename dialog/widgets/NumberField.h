@@ -6,17 +6,20 @@
 namespace dialog {
 inline namespace widgets {
 
-/// A field for a number within limits, which shows no more decimals than the number has. Turning the mouse
-/// wheel over it, on the way down a page, changes nothing.
+/// A field for a number within limits that omits trailing zeros. The mouse wheel changes the number only
+/// while the field has the focus, so that scrolling a page does not change it.
 class NumberField : public QDoubleSpinBox {
     Q_OBJECT
 
 public:
+    /// The limits are rounded inwards to the given number of decimals.
     NumberField(double minimum, double maximum, int decimals, QWidget *parent);
 
-    /// Shows the number, quietly. One that is shown already leaves the text alone, which may be half typed.
+    /// Shows the number without emitting a signal. A number that is shown already leaves the text unchanged,
+    /// because it may be half typed.
     void showNumber(double number);
 
+    /// Returns the number without trailing zeros.
     QString textFromValue(double value) const override;
 
 protected:

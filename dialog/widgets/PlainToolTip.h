@@ -6,8 +6,8 @@
 namespace dialog {
 inline namespace widgets {
 
-/// The text for a tool tip that shows it as it is: Qt takes what looks like HTML for HTML, and titles, PPDs
-/// and print servers say whatever they like. Empty for no text.
+/// Returns the text escaped for a tool tip that shows it unchanged. Qt interprets a tool tip that looks like
+/// HTML as HTML, and the texts of titles, PPDs and print servers are arbitrary. Empty for an empty text.
 inline QString plainToolTip(const QString &text)
 {
     if (text.isEmpty())

@@ -6,8 +6,9 @@ class QWidget;
 namespace dialog {
 inline namespace widgets {
 
-/// The parent for a question that belongs to the window: the window itself, or the dialog that blocks the
-/// window. A question to one window stays when another window's dialog is closed. The window may be null.
+/// Returns the parent for a question that belongs to the window: the window itself, or the modal dialog that
+/// blocks it. A dialog that blocks only another window is not used, because closing it would close the
+/// question. The window may be null; the result is then the active modal dialog, or null if there is none.
 QWidget *questionParent(QWidget *window);
 
 } // namespace widgets

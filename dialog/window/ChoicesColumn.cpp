@@ -26,7 +26,7 @@ ChoicesColumn::ChoicesColumn(const host::LabelDocument &document, host::SetupKee
     layout->addWidget(makePrinter());
     layout->addLayout(m_paperPlace, 1);
     layout->addWidget(m_pages);
-    // Without papers, what is left stays together at the top.
+    // If there are no papers, the other widgets stay together at the top.
     layout->addStretch();
 }
 
@@ -49,7 +49,7 @@ void ChoicesColumn::showPapers()
     const host::PrinterSetup *const setup = m_keeper.setup();
     const bool hasPapers = setup && setup->paper();
     if (hasPapers && m_papers) {
-        // The same one, so that a search and the focus stay while a PPD is replaced.
+        // Keep the widget, so that a search and the focus stay when the PPD is replaced.
         m_papers->setPpd(setup->ppd(), *setup->paper());
     } else if (hasPapers) {
         m_papers = new PaperChooser(setup->ppd(), *setup->paper(), this);

@@ -28,26 +28,28 @@ class PaperChooser;
 namespace dialog {
 inline namespace window {
 
-/// What is chosen of every printer, beside its own pages: the printer itself, the paper, pages and copies.
+/// The settings that every printer has: the printer itself, the paper, the pages and the copies. Stands
+/// beside the pages of the printer.
 class ChoicesColumn : public QWidget {
     Q_OBJECT
 
 public:
-    /// Document and keeper are borrowed. The settings are those to begin with.
+    /// The document and the keeper are not owned and must outlive the widget. The settings are the initial
+    /// ones.
     ChoicesColumn(const host::LabelDocument &document, host::SetupKeeper &keeper,
                   const host::JobSettings &settings, QWidget *parent);
 
+    /// The fields for pages, copies and order.
     PageOptions &pages() const { return *m_pages; }
-    /// Shows the papers of the keeper's printer as it is now, and none when it has none or there is no
-    /// printer.
+    /// Shows the papers of the keeper's current setup. The list is hidden if there is no setup, or no paper.
     void showPapers();
-    /// The paper that paperChosen() told of.
+    /// Returns the chosen paper. Must be called only while papers are shown, for example after paperChosen().
     const host::PpdPaper &chosenPaper() const;
-    /// Shows those conflicts that are about the paper.
+    /// Shows those of the conflicts that involve the paper.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
 
 Q_SIGNALS:
-    /// The user has chosen another paper.
+    /// Emitted when the user has chosen another paper.
     void paperChosen();
 
 private:
@@ -56,7 +58,7 @@ private:
     const host::LabelDocument &m_document;
     host::SetupKeeper &m_keeper;
     QVBoxLayout *m_paperPlace;
-    /// Null until a printer has papers.
+    /// Null until the first printer with papers.
     PaperChooser *m_papers = nullptr;
     PageOptions *m_pages;
 };

@@ -19,13 +19,14 @@ inline namespace window {
 
 namespace {
 
-/// The control with the focus, by the name of it or of what it is part of; empty when none within has it.
+/// Returns the object name of the widget with the focus, or of the nearest named widget that contains it;
+/// empty if no widget within has the focus.
 QString nameOfFocus(const QWidget *within)
 {
     const QWidget *each = QApplication::focusWidget();
     if (!within || !within->isAncestorOf(each))
         return {};
-    // Qt names the parts of its own widgets.
+    // Qt gives names to the parts of its own widgets.
     while (each != within && (each->objectName().isEmpty() || each->objectName().startsWith(u"qt_")))
         each = each->parentWidget();
     return each == within ? QString() : each->objectName();
@@ -59,7 +60,7 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     addTab(m_pagePreview, tr("Page pre&view"));
     addTab(new LazyPage([this](QWidget *page) { return m_summaryPage = new SummaryPage(page); }, this),
            tr("&Summary"));
-    // Who has turned to another page while the printer is awaited stays there.
+    // If the user opens another page before the printer is known, that page stays in front.
     connect(this, &QTabWidget::currentChanged, this, [this] {
         if (!m_setup)
             m_front = Front::Other;
@@ -68,8 +69,8 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
         return;
     addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
            tr("&What will be sent"));
-    // A printer's pages mostly come later; the window has their room from the beginning, so that it does not
-    // jump under the mouse.
+    // The pages of a printer are usually added later. Reserve room for them now, so that the window does not
+    // grow while the user operates it.
     constexpr int lines = 23;
     makeRoom(tabBar()->sizeHint().width() * 3 / 2);
     setMinimumHeight(lines * fontMetrics().lineSpacing());
@@ -86,7 +87,8 @@ QWidget *DialogPages::makeJobPage(QWidget *parent)
 
 DialogPages::~DialogPages()
 {
-    // The panel's view must leave before its panel goes, and taking its page away changes the front page.
+    // The panel's view must be released before the panel is destroyed. Removing its page would emit
+    // currentChanged().
     const QSignalBlocker quiet(this);
     dropSetup();
 }
@@ -108,10 +110,10 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
 
 void DialogPages::makeRoom(int titleWidth)
 {
-    // All titles are in sight, as long as no language makes novels of them.
+    // All tab titles are visible, up to a limit for languages with long titles.
     const int widest = 120 * fontMetrics().averageCharWidth();
     const int titles = qMin(titleWidth + tabBar()->fontMetrics().height(), widest);
-    // So is the whole panel, which is laid out for its own width.
+    // The whole panel is visible, too; it is laid out for its own width.
     QStyleOptionTabWidgetFrame frame;
     initStyleOption(&frame);
     const QSize panel = m_panelPage ? m_panelPage->minimumSizeHint() : QSize(0, 0);
@@ -174,7 +176,7 @@ void DialogPages::dropSetup()
     const QSignalBlocker quiet(this);
     if (m_setup)
         rememberUse();
-    // The options first: else they would be made, to be shown in the panel's place.
+    // Delete the options first: if they came to the front in place of the panel, they would be created.
     delete m_optionsPlace;
     m_optionsPlace = nullptr;
     m_optionsPage = nullptr;
@@ -218,7 +220,7 @@ void DialogPages::refresh()
     if (!m_sentPage || !m_ticket || !m_sentPage->isVisible())
         return;
     const host::JobTicket *const ticket = m_ticket();
-    // While another printer is awaited, what is shown is not true.
+    // While another printer is being loaded, the contents are out of date.
     m_sentPage->setEnabled(ticket != nullptr);
     if (ticket)
         m_sentPage->setTicket(*m_server, *ticket);

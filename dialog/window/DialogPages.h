@@ -34,43 +34,46 @@ inline namespace window {
 class PagePreview;
 class PanelPage;
 
-/// The dialog's pages: the printer's panel and its other options, which come and go with the printer, and
-/// those that every printer has.
+/// The pages of the dialog: the printer's panel and its other options, which are replaced with the printer,
+/// and the pages that every printer has.
 class DialogPages : public QTabWidget {
     Q_OBJECT
 
 public:
-    /// The document is borrowed. Without a server there is no page of what will be sent.
+    /// The document and the server are not owned and must outlive the widget. If the server is null, the
+    /// pages "Job" and "What will be sent" are omitted.
     DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent);
     ~DialogPages() override;
 
-    /// Shows the pages of the printer, which is borrowed until dropSetup().
+    /// Shows the pages of the printer. The setup is not owned and must exist until dropSetup() is called.
     void takeSetup(host::PrinterSetup &setup);
-    /// Gives back the panel's view and takes off all that belongs to the printer.
+    /// Releases the panel's view and removes all pages of the printer.
     void dropSetup();
 
-    /// Labels as the renderer draws them; borrowed until the next call.
+    /// Shows labels that this renderer draws. It is not owned and must exist until the next call.
     void setRenderer(const host::LabelRenderer &renderer);
-    /// Job name, orientation, hold and priority, as they are shown; without a server they are left as they
-    /// are.
+    /// Sets the job's name, orientation, hold and priority that the "Job" page shows when it is created.
     void showJob(const host::JobDraft &draft) { m_job = draft; }
+    /// Writes these values, with the user's changes, to the draft. Without a server they are unchanged.
     void writeJobTo(host::JobDraft &draft) const;
-    /// Shows the conflicts at the options that they are about, and above the panel those that its options
-    /// are part of.
+    /// Shows the conflicts below the options that they involve, and those of the panel's options above the
+    /// panel.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
-    /// What the summary and the page of what will be sent show when they are in front.
+    /// Sets the functions whose results the pages "Summary" and "What will be sent" show when they are in
+    /// front.
     void setSummary(std::function<std::vector<SummarySection>()> summary) { m_summary = std::move(summary); }
-    /// The ticket is null while nothing can be sent.
+    /// The function returns null while no job can be sent.
     void setTicket(std::function<const host::JobTicket *()> ticket) { m_ticket = std::move(ticket); }
     /// Refreshes the page in front.
     void refresh();
-    /// Tells the panel that its page comes to the front, if it does.
+    /// Notifies the panel that its page is in front; does nothing if it is not.
     void announceFront();
-    /// The dialog is about to close.
+    /// Notifies the panel that the dialog is about to close.
     void announceClosing(QWidget *window);
 
 Q_SIGNALS:
-    /// The user has chosen a printer option, which is marked already, or has set something for the job.
+    /// Emitted when the user has chosen a printer option, which is marked already, or has changed a setting
+    /// of the job.
     void chosen();
 
 private:
@@ -86,24 +89,24 @@ private:
     host::PrinterSetup *m_setup = nullptr;
     PanelPage *m_panelPage = nullptr;
     LazyPage *m_optionsPlace = nullptr;
-    /// Which page comes to the front with a printer's pages: whoever looks at one stays there when they are
-    /// replaced.
+    /// The page that comes to the front with the pages of a printer. The page that the user looks at stays in
+    /// front when they are replaced.
     enum class Front { Panel, Options, Other };
     Front m_front = Front::Panel;
-    /// The group of options and the control that were in use.
+    /// The group of options that was shown, and the name of the control that had the focus.
     QString m_group;
     QString m_focused;
     PagePreview *m_pagePreview;
-    // Null until they are shown.
+    // Null until they are first shown.
     OptionsPage *m_optionsPage = nullptr;
     JobPage *m_jobPage = nullptr;
     SummaryPage *m_summaryPage = nullptr;
     SentPage *m_sentPage = nullptr;
-    /// What the page of the job begins with.
+    /// The initial values of the "Job" page.
     host::JobDraft m_job;
     std::function<std::vector<SummarySection>()> m_summary;
     std::function<const host::JobTicket *()> m_ticket;
-    /// As setConflicts() received them last.
+    /// The conflicts of the last setConflicts().
     std::vector<host::Conflict> m_conflicts;
 };
 

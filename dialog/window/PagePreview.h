@@ -14,19 +14,19 @@ class QToolButton;
 namespace dialog {
 inline namespace window {
 
-/// One page of the document on its label, with buttons to go through the pages. With a page thread, the page
-/// is drawn in the background, and is white until then.
+/// Shows one page of the document on its label, with buttons for the previous and the next page. If the
+/// renderer has a page thread, the page is drawn in the background and is white until then.
 class PagePreview : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document is borrowed.
+    /// The document is not owned and must outlive the widget.
     PagePreview(const host::LabelDocument &document, QWidget *parent);
 
-    /// Shows labels drawn by the renderer, which is borrowed until the next call. All renderers are of the
-    /// document.
+    /// Shows labels that this renderer draws. It must be a renderer of the document; it is not owned and must
+    /// exist until the next call.
     void setRenderer(const host::LabelRenderer &renderer);
-    /// Whether the page has been painted as it will stay.
+    /// Returns whether the final picture of the page has been painted, or nothing is to be painted.
     bool isComplete() const { return !isVisible() || !m_renderer || m_isComplete; }
 
 protected:
@@ -36,12 +36,12 @@ private:
     void go(int page);
     void showNote();
     void paintLabel(QPaintDevice *device);
-    /// Paints the picture, or white as long as it is not there.
+    /// Paints the picture of the page, or white until it has been drawn.
     void paintPicture(QPainter &painter, const QRectF &area, double pixelsPerMillimetre);
 
     const host::LabelDocument &m_document;
     const host::LabelRenderer *m_renderer = nullptr;
-    /// Null when pages are drawn at once.
+    /// Null if pages are drawn synchronously.
     std::unique_ptr<host::LabelPictures> m_pictures;
     int m_page = 0;
     bool m_isComplete = false;

@@ -13,7 +13,8 @@ inline namespace window {
 
 namespace {
 
-/// A panel that needs more room than the dialog had waits for this announcement from its view.
+/// The notification for which a panel waits if it needs more room than the dialog had. Its view is the
+/// sender.
 const QString viewIsLaidOut = QStringLiteral("NSViewDidUpdateTrackingAreasNotification");
 
 } // namespace
@@ -32,7 +33,7 @@ PanelPage::PanelPage(PDEPanel &panel, QWidget *parent)
     m_scrolled->setFrameShape(QFrame::NoFrame);
     m_scrolled->setWidget(m_frame);
     m_scrolled->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    // One ground, for the note too.
+    // The note has the same background as the panel.
     setAutoFillBackground(true);
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this);
     m_note->setContentsMargins(margin, margin, margin, 0);
@@ -55,7 +56,7 @@ void PanelPage::fitView()
 {
     if (!m_view)
         return;
-    // The panel lays out its view itself; the page only gives it the room that it needs.
+    // The panel lays out its view itself; the page only provides the room that the view needs.
     m_frame->setFixedSize(m_view->size());
     const int frame = 2 * m_scrolled->frameWidth();
     m_scrolled->setMinimumSize(m_view->size() + QSize(frame, frame));

@@ -17,20 +17,22 @@ class ConflictNote;
 namespace dialog {
 inline namespace window {
 
-/// The page that shows a bundle's panel, and above it what is wrong with the panel's settings.
+/// Shows a bundle's panel, and above it the conflicts of the panel's settings.
 class PanelPage : public QWidget {
     Q_OBJECT
 
 public:
-    /// The panel is borrowed, and so is its view, which is given back when the page ends. The view must
-    /// have been loaded.
+    /// The panel is not owned and must outlive the page. Its view must be loaded already; the page shows the
+    /// view without owning it.
     PanelPage(PDEPanel &panel, QWidget *parent);
+    /// Hides the view and removes it from the page.
     ~PanelPage() override;
 
+    /// The panel that the page shows.
     PDEPanel &panel() const { return m_panel; }
-    /// Makes room for the view as it is now.
+    /// Adapts the page to the current size of the view.
     void fitView();
-    /// Shows these sentences above the panel; none takes them away.
+    /// Shows the sentences that describe conflicts above the panel; an empty list removes them.
     void setConflicts(const QStringList &sentences);
 
 protected:
@@ -41,7 +43,7 @@ private:
     void postLaidOut() const;
 
     PDEPanel &m_panel;
-    /// Null once the panel has lost it.
+    /// Null when the panel has deleted it.
     QPointer<QWidget> m_view;
     QWidget *m_frame;
     QScrollArea *m_scrolled;

@@ -11,7 +11,7 @@ inline namespace window {
 
 namespace {
 
-/// Input of every kind, and the painting that follows a change without input.
+/// Returns whether the event is input of any kind, or may follow a change without input, as painting does.
 bool mayFollowFromChange(QEvent::Type type)
 {
     switch (type) {
@@ -63,7 +63,7 @@ void PanelWatch::follow(QWidget *view)
 
 bool PanelWatch::belongsToView(const QObject *object) const
 {
-    // Menus, lists and alerts are windows of their own, but children of the view all the same.
+    // Menus, lists and alerts are separate windows, but they are children of the view.
     while (object && object != m_view)
         object = object->parent();
     return object != nullptr;

@@ -56,13 +56,13 @@ void PrintDialog::build(const DialogWishes &wishes)
     m_panelBanner = new Banner(this);
     m_conflictBanner = new ConflictBanner(m_keeper, this);
     m_problemBanner = new ProblemBanner(this);
-    // The keys go from here to the printer's pages, and on to the strip.
+    // The tab order leads from here to the pages of the printer and then to the strip.
     m_choices = new ChoicesColumn(*m_document, m_keeper, wishes.settings, m_content);
     const host::QueueSession *const session = m_keeper.session();
     m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
     m_panelWatch = new PanelWatch(this);
     m_stripPreview = new StripPreview(m_content);
-    // With lines in reserve, the window does not grow at every click.
+    // The minimum height keeps the window from growing whenever the text changes.
     m_figures = new FittedLabel(3, 20, this);
     auto *const leftJobs = session ? new LeftJobBanner(session->server(), this) : nullptr;
     m_sendBar = new SendBar(this);
@@ -124,7 +124,7 @@ void PrintDialog::connectAll()
         QDialog::accept();
     });
     connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
-        // Something to say keeps the window open: a job that could not be canceled, for instance.
+        // An error keeps the window open, for example if the job could not be canceled.
         const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
         stayOpen();
         m_problemBanner->setSendingProblem(problem);
@@ -173,7 +173,7 @@ void PrintDialog::changePaper()
 
 void PrintDialog::applyPaper()
 {
-    // What shows the old labels lets go of them first.
+    // Everything that refers to the old renderer releases it first.
     m_stripPreview->clear();
     m_plan.reset();
     const host::PrinterSetup *const setup = m_keeper.setup();
@@ -202,7 +202,7 @@ void PrintDialog::refresh()
     m_plan.reset();
     host::PrinterSetup *const setup = m_keeper.setup();
     if (setup) {
-        // A panel that asks a question has not changed anything yet.
+        // While the panel asks a question, its settings have not changed yet.
         if (!m_isBlocked && !setup->isPanelBusy())
             setup->notePanelInput();
         m_choices->pages().setDefaults(host::defaultPageSettings(setup->destination()));
@@ -269,7 +269,7 @@ void PrintDialog::pageShown()
 
 bool PrintDialog::event(QEvent *event)
 {
-    // A question about the printer is about the one that is shown.
+    // While a question is open, the printer to which it refers is not replaced.
     if (event->type() == QEvent::WindowBlocked) {
         m_isBlocked = true;
         m_keeper.hold();
@@ -281,7 +281,7 @@ bool PrintDialog::event(QEvent *event)
                 m_keeper.release();
         });
     }
-    // The pages wait for the first painting: another thread would make it slower.
+    // Checking the pages starts after the first painting, which another thread would slow down.
     if (event->type() == QEvent::Paint)
         m_pageCheck.start();
     return QDialog::event(event);

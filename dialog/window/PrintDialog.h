@@ -40,49 +40,55 @@ class DialogPages;
 class PanelWatch;
 class StripPreview;
 
-/// What the dialog opens with, beside the printer.
+/// What was requested for the job in addition to the printer; the initial state of the dialog.
 struct DialogWishes {
+    /// Absent values stand for the printer's defaults.
     host::JobSettings settings = {};
-    /// Nothing for the document's name.
+    /// The name of the job; absent for that of the document.
     std::optional<QString> title = {};
-    /// Told in a banner from the beginning.
+    /// An error that a banner shows when the dialog opens; empty if there is none.
     QString problem = {};
 };
 
-/// The print dialog: printer, paper and pages, the printer's own panel, the strip as it will come out, and a
-/// summary. Everything is live: what the panel, the user or the print server changes is seen at once.
+/// The print dialog: printer, paper and pages, the printer's own panel, a preview of the strip, and a
+/// summary. All of it is updated immediately when the panel, the user or the print server changes something.
 class PrintDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Keeper and sender are borrowed.
+    /// The keeper and the sender are not owned and must outlive the dialog.
     PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
                 JobSender &sender, const DialogWishes &wishes, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
-    /// Prints as the Print button does: the ticket is handed to the sender. When that has sent it, the dialog
-    /// is accepted; otherwise problem() says why not, and everything stays as set. Conflicts are not asked
-    /// about.
+    /// Prints like the "Print" button, but does not ask about conflicts: passes the ticket to the sender.
+    /// When the sender has sent it, the dialog is accepted. Otherwise problem() describes the error, and all
+    /// settings are kept.
     void print();
-    /// Readies the job for sending without sending it; why that cannot be done, or nothing.
+    /// Prepares the job for sending without sending it. Returns the message of the error that prevents it;
+    /// absent if the job can be sent.
     std::optional<QString> prepare();
-    /// Waits until the lengths of all labels are known, for runs whose output depends on them.
+    /// Waits until the lengths of all labels have been measured, for output that depends on them.
     void finishMeasuring();
-    /// Why the last print() failed; empty when it did not.
+    /// Returns the message of the error of the last print(); empty if there is none.
     const QString &problem() const;
-    /// Whether a job is on its way, or will be as soon as its document is checked.
+    /// Returns whether a job is being sent, or will be sent as soon as its document is checked.
     bool isSending() const { return m_isSending || m_printsWhenReady; }
-    /// What would be sent now; absent while no printer is known.
+    /// Returns the ticket that would be sent now; absent while no printer is known.
     const std::optional<host::Ticket> &ticket() const { return m_ticket; }
-    /// The job's name.
+    /// Returns the job's name.
     const QString &title() const { return m_draft.title; }
-    /// Whether the printer has cut options, but there is no panel for them.
+    /// Returns whether the printer has cut options, but its panel cannot be shown.
     bool hasPanelProblem() const;
-    /// The summary of all settings as they are now; empty while no printer is known.
+    /// Returns the summary of all current settings; empty while no printer is known.
     std::vector<SummarySection> summary() const;
 
+    /// Asks about conflicts and sends the job; a long document is checked first. The dialog closes when the
+    /// job has been sent.
     void accept() override;
+    /// Closes the dialog; a job that is being sent is canceled first.
     void reject() override;
+    /// Notifies the panel and closes the dialog.
     void done(int result) override;
 
 protected:
@@ -96,25 +102,25 @@ private:
     void dropSetup();
     void changePaper();
     void applyPaper();
-    /// Everything that shows the job is refreshed once, when control returns to the event loop.
+    /// Refreshes everything that shows the job, once, when control returns to the event loop.
     void refreshLater();
     void refresh();
-    /// Whether the document is checked and, for a sender that needs it, the strip measured.
+    /// Returns whether the document is checked and, if the sender needs it, the strip is measured.
     bool isReadyToSend() const;
     void printWhenReady();
     void refreshStrip();
     void refreshMessages();
-    /// Refreshes when the panel would save something else than the ticket says.
+    /// Refreshes if the settings that the panel would save differ from those of the ticket.
     void lookAtPanel();
     void pageShown();
-    /// Readies the job; when it cannot be, says why and leaves the dialog as it was.
+    /// Prepares the job. If that fails, shows the error, enables the dialog again and returns false.
     bool isPrepared();
     void send();
-    /// Nothing is printed; everything is as it was before Print was pressed.
+    /// Restores the state before "Print" was pressed, without printing.
     void stayOpen();
 
     std::shared_ptr<const host::LabelDocument> m_document;
-    /// Before all that draws and measures with it.
+    /// Declared before everything that draws and measures with it.
     host::PageThread m_pageThread{*m_document};
     host::PageCheck m_pageCheck{*m_document, m_pageThread};
     host::SetupKeeper &m_keeper;
@@ -127,11 +133,12 @@ private:
     bool m_printsWhenReady = false;
     host::JobDraft m_draft;
     std::unique_ptr<host::LabelRenderer> m_renderer;
-    /// What would be sent now; absent while no printer is known. Everything that is shown is made from it.
+    /// The ticket that would be sent now; absent while no printer is known. Everything that the dialog shows
+    /// is derived from it.
     std::optional<host::Ticket> m_ticket;
-    /// The ticket's plan of cuts; absent without a paper, and while the pages to print are not valid.
+    /// The cut plan of the ticket; absent if there is no paper, or while the chosen pages are not valid.
     std::optional<host::CutPlan> m_plan;
-    /// Why the chosen pages cannot be printed; empty when they can.
+    /// Why the chosen pages cannot be printed; empty if they can be.
     QString m_pagesError;
 
     QWidget *m_content = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// From Print to the job's end: checking, asking about conflicts, sending, canceling.
+// What happens after "Print" is pressed: checking, the question about conflicts, sending, canceling.
 #include "PrintDialog.h"
 
 #include "WaitingWords.h"
@@ -89,16 +89,17 @@ void PrintDialog::accept()
 {
     if (m_isSending)
         return;
-    // What was changed just now decides whether there is something to measure.
+    // Apply pending changes first: they decide whether the strip has to be measured.
     if (m_refreshPending)
         refresh();
     if (!m_printButton->isEnabled()) {
-        // Since Print was pressed, while a long document was checked.
+        // Printing has become impossible while a long document was checked after "Print" was pressed.
         m_sendBar->end();
         return;
     }
     if (isVisible() && !isReadyToSend()) {
-        // It has thousands of pages; checking and measuring go on, and the window stays alive meanwhile.
+        // The document has thousands of pages; the window stays responsive while they are checked and
+        // measured.
         m_printsWhenReady = true;
         m_pageCheck.start();
         if (!m_sender.needsStrip())
@@ -122,7 +123,7 @@ void PrintDialog::reject()
         QDialog::reject();
         return;
     }
-    // The job is canceled first, so that no part of it stays on the server.
+    // Cancel the job before closing, so that no part of it stays on the server.
     m_closesAfterSending = true;
     m_sendBar->showStopping();
     m_buttons->setEnabled(false);

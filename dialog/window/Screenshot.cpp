@@ -28,13 +28,13 @@ bool areComplete(const QWidget &window)
 
 QImage completePicture(QWidget &window)
 {
-    // A text that wraps asks for its height when it has its width, and so on.
+    // The layout needs several passes: the height of a wrapped text depends on its width.
     for (int pass = 0; pass < 4; ++pass)
         QCoreApplication::processEvents();
     QImage picture = window.grab().toImage();
     while (!areComplete<StripPreview>(window) || !areComplete<PagePreview>(window)) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        // Painting asks for what is still missing, even where the screen shows nothing of the window.
+        // Painting requests the missing pictures, even if the window is not visible on the screen.
         picture = window.grab().toImage();
     }
     return picture;

@@ -11,8 +11,8 @@ class QWidget;
 namespace dialog {
 inline namespace window {
 
-/// A picture of the window as it looks when all that is drawn and measured in the background is done; returns
-/// then, and handles events meanwhile.
+/// Returns a picture of the window after everything that is drawn and measured in the background is complete.
+/// Processes events until then.
 QImage completePicture(QWidget &window);
 
 /// Saves a complete picture of the window as a PNG file. An error leaves no incomplete file.

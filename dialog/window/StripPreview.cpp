@@ -14,7 +14,7 @@ inline namespace window {
 
 namespace {
 
-/// Narrow tape is not blown up beyond this, so that a few labels stay in sight.
+/// In pixels per millimetre. The maximum keeps several labels of narrow tape visible.
 constexpr double largestScale = 6.0;
 constexpr double smallestScale = 0.4;
 
@@ -26,7 +26,7 @@ StripPreview::StripPreview(QWidget *parent)
     setAccessibleName(tr("Label strip"));
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
-    // The tape leaves the printer to the left, whichever way one reads.
+    // The tape leaves the printer to the left in every reading direction.
     setLayoutDirection(Qt::LeftToRight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     setFrameShape(QFrame::StyledPanel);
@@ -54,7 +54,7 @@ void StripPreview::setPlan(const host::CutPlan &plan, const host::LabelRenderer 
 void StripPreview::clear()
 {
     m_renderer = nullptr;
-    // Mostly another plan follows at once, and the strip stays as it is, and where it is scrolled to.
+    // Usually another plan follows immediately; keep the strip and its scroll position until then.
     QMetaObject::invokeMethod(this, &StripPreview::dropCleared, Qt::QueuedConnection);
 }
 
@@ -87,8 +87,8 @@ void StripPreview::layOut()
         return;
     }
     const double tapeWidth = m_paper.width() * host::millimetresPerPoint;
-    // The layout needs 18 units above and below the tape, and a little air. The scroll bar's room is never
-    // used: a strip that grew into it when it goes would need it again.
+    // The layout needs 18 units above and below the tape, and some spacing. The room of the scroll bar is
+    // always reserved: a strip that used it while the bar is hidden would need the bar again.
     const int height = maximumViewportSize().height() - horizontalScrollBar()->sizeHint().height();
     const double room = height - 19.0 * unitPixels();
     m_pixelsPerMillimetre = qBound(smallestScale, room / tapeWidth, largestScale);
@@ -155,7 +155,7 @@ void StripPreview::resizeEvent(QResizeEvent *)
 
 void StripPreview::wheelEvent(QWheelEvent *event)
 {
-    // The strip has one direction only, so an ordinary wheel moves along it.
+    // The strip scrolls in one direction only; a vertical wheel scrolls it, too.
     const QPoint delta = event->angleDelta();
     const int amount = delta.x() != 0 ? delta.x() : delta.y();
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() - amount);

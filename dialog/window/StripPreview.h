@@ -11,28 +11,31 @@
 namespace dialog {
 inline namespace window {
 
-/// The strip as it will leave the printer, with every cut, as large as the height allows. Longer strips
-/// scroll, by the arrow keys too. It is spoken as the plan's words. With a page thread, labels are drawn in
-/// the background, and are white until then.
+/// Shows the strip as it will leave the printer, with all cuts, as large as the height allows. Long strips
+/// scroll, also with the arrow keys. The accessible description is the description of the plan. If the
+/// renderer has a page thread, labels are drawn in the background and are white until then.
 class StripPreview : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
+    /// Creates an empty preview.
     explicit StripPreview(QWidget *parent);
 
-    /// Shows the plan, of which it keeps a copy; costs little when nothing has changed. The renderer is
-    /// borrowed until the next call or clear(), and all renderers are of one document.
+    /// Shows a copy of the plan; cheap if nothing has changed. The renderer is not owned and must exist until
+    /// the next call or clear(). All renderers must be of the same document.
     void setPlan(const host::CutPlan &plan, const host::LabelRenderer &renderer);
-    /// Shows nothing, unless another plan follows at once.
+    /// Releases the renderer and, unless another plan is set before control returns to the event loop,
+    /// removes the plan.
     void clear();
-    /// The plan that is shown; null while there is none.
+    /// Returns the plan that is shown; null if there is none.
     const host::CutPlan *plan() const { return m_plan && m_renderer ? &*m_plan : nullptr; }
 
-    /// Whether everything in sight has been painted as it will stay: measured, and with all pictures.
+    /// Returns whether everything that is visible has been painted in its final state: measured, and with all
+    /// pictures.
     bool isComplete() const { return !isVisible() || !m_plan || m_isComplete; }
 
 Q_SIGNALS:
-    /// A painting has made it complete.
+    /// Emitted when isComplete() has become true by painting.
     void completed();
 
 public:
@@ -47,21 +50,21 @@ protected:
 
 private:
     void layOut();
-    /// Drops the plan when clear() was called and no plan has followed.
+    /// Removes the plan if clear() was called and no other plan has been set.
     void dropCleared();
     void paintStrip(QPainter &painter);
-    /// Has the pictures drawn that the stretch shows.
+    /// Requests the pictures of the labels between these positions of the layout.
     void requestPictures(double left, double right);
     void finishPainting();
-    /// Pixels of one unit of the layout, by the font.
+    /// Returns the size of one unit of the layout in pixels, which depends on the font.
     double unitPixels() const;
 
     std::optional<host::CutPlan> m_plan;
     /// Null after clear().
     const host::LabelRenderer *m_renderer = nullptr;
-    /// The paper that is shown, in points.
+    /// The size of the paper that is shown, in points.
     QSizeF m_paper;
-    /// Null when labels are drawn at once.
+    /// Null if labels are drawn synchronously.
     std::unique_ptr<host::LabelPictures> m_pictures;
     std::optional<host::StripLayout> m_layout;
     double m_pixelsPerMillimetre = 1.0;

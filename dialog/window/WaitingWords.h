@@ -14,8 +14,8 @@ class QueueSession;
 namespace dialog {
 inline namespace window {
 
-/// What the dialog waits for, or lacks, while no printer is ready to be printed on, as a sentence. Null for a
-/// dialog without a print server.
+/// Describes in a translated sentence what the dialog is waiting for, or what is missing, while no printer is
+/// ready. The session is null for a dialog without a print server.
 QString waitingWords(const host::QueueSession *session);
 
 } // namespace window

@@ -6,8 +6,8 @@
 namespace platform {
 inline namespace controls {
 
-/// A check box on a panel of fixed width: a title that is too long for it, as a translated option text
-/// of a PPD may be, ends in an ellipsis and is told whole in the tool tip.
+/// A check box for a panel of fixed width. A title that is too long, such as a translated option text of a
+/// PPD, is elided, and the tool tip shows it in full.
 class CheckBox : public QCheckBox {
     Q_OBJECT
 

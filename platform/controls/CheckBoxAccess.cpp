@@ -21,10 +21,10 @@ void installCheckBoxAccess()
     QAccessible::installFactory(makeCheckBoxAccess);
 }
 
-// Runs when the application starts, or at once when the library is loaded later than that.
+// Runs when the application starts, or immediately if the library is loaded later.
 Q_COREAPP_STARTUP_FUNCTION(installCheckBoxAccess)
 
-/// The title without the marks of shortcuts; a doubled ampersand is a letter.
+/// Returns the title without the marks of shortcuts; a doubled ampersand is a literal ampersand.
 QString withoutMnemonics(QString title)
 {
     for (qsizetype at = title.indexOf(u'&'); at >= 0; at = title.indexOf(u'&', at + 1))

@@ -8,11 +8,12 @@ inline namespace controls {
 
 class CheckBox;
 
-/// A check box as assistive technology sees and operates it. Toggling is a click: Qt's own interface changes
-/// the box without clicked(), and the panel would not receive the choice.
+/// The accessible interface of a check box. Toggling is a click: Qt's own interface changes the box without
+/// emitting clicked(), and the panel would not receive the choice.
 class CheckBoxAccess : public QAccessibleWidget {
 public:
-    /// Qt creates it for every CheckBox that it is asked about: it is registered when the application starts.
+    /// Qt creates an object for each CheckBox that assistive technology queries; the factory is registered
+    /// when the application starts.
     explicit CheckBoxAccess(CheckBox *box);
 
     QString text(QAccessible::Text kind) const override;

@@ -10,17 +10,17 @@ class QWidget;
 namespace platform {
 inline namespace controls {
 
-/// A widget's frame in its parent's coordinates with y growing upwards from the parent's bottom edge:
-/// the coordinates in which the panel's layout rules are written. Points; the origin is the frame's
-/// bottom-left corner. These two are the only place where the two directions meet.
+/// Returns a widget's frame in points, in its parent's coordinates, with y increasing upwards from the
+/// parent's bottom edge; the origin is the frame's bottom-left corner. The layout rules of the panel use
+/// these coordinates. Only this function and setBottomEdge() convert between the two directions.
 QRectF frameFromBottom(const QWidget *widget);
 
-/// Moves the widget so that its frame's bottom edge lies at y above the bottom edge of a parent of the
-/// given height; x stays.
+/// Moves the widget so that its frame's bottom edge is y points above the bottom edge of a parent of the
+/// given height; x does not change.
 void setBottomEdge(QWidget *widget, double y, double parentHeight);
 
-/// The point that a text such as "{12, 3.5}" describes: an opening brace, x, a comma, y, a closing
-/// brace, blanks allowed between. The zero point when the text is anything else.
+/// Parses a point such as "{12, 3.5}": an opening brace, x, a comma, y, a closing brace, optionally with
+/// blanks in between. Returns the point (0, 0) for any other text.
 QPointF pointFromString(const QString &text);
 
 } // namespace controls

@@ -7,12 +7,12 @@
 namespace platform {
 inline namespace controls {
 
-/// The window that takes the keyboard. The height is in points, title bar included; nothing when no
-/// window of the application takes the keyboard.
+/// Returns the height in points, including the title bar, of the window that has the keyboard focus;
+/// std::nullopt if no window of the application has it.
 std::optional<double> keyWindowFrameHeight();
 
-/// Replaces the question; an empty function brings back the default, Qt's active window. A host
-/// without windows on a screen answers for the window it stands for.
+/// Replaces the query; an empty function restores the default, Qt's active window. A host without windows on
+/// a screen returns the height of the window that it represents.
 void setKeyWindowQuery(std::function<std::optional<double>()> query);
 
 } // namespace controls

@@ -55,9 +55,9 @@ public:
     }
 };
 
-/// A QUiLoader loads every Designer plug-in that it finds when it is made. Those are another program's
-/// tools, cost tens of milliseconds and have no place in a print dialog, so it is made while there is
-/// nowhere to look.
+/// Creates the builder while Qt has no library paths: a QUiLoader loads every Designer plug-in that it finds
+/// when it is created. Those belong to other programs, take tens of milliseconds and are of no use in a print
+/// dialog.
 std::unique_ptr<WidgetBuilder> makeBuilder()
 {
     const QStringList paths = QCoreApplication::libraryPaths();
@@ -68,7 +68,7 @@ std::unique_ptr<WidgetBuilder> makeBuilder()
     return builder;
 }
 
-/// Fixed positions know no reading direction, so the layout of a right-to-left language is its mirror image.
+/// Mirrors the layout for a right-to-left language: fixed positions have no reading direction.
 void mirror(QWidget *view)
 {
     for (QWidget *const child : view->findChildren<QWidget *>(Qt::FindDirectChildrenOnly))

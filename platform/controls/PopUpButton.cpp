@@ -13,7 +13,7 @@ namespace {
 
 constexpr int tagRole = Qt::UserRole;
 
-/// Draws the items of the open pop-up: their pictures at the size that the button wants for them.
+/// Draws the items of the open pop-up with their pictures in the size that the button sets.
 class PictureItemDelegate : public QStyledItemDelegate {
 public:
     PictureItemDelegate(QSize pictureSize, QObject *parent)

@@ -9,10 +9,10 @@
 namespace platform {
 inline namespace controls {
 
-/// A pop-up button whose items are known by tags, and whose items may be greyed by their owner at the
-/// moment the pop-up opens.
+/// A pop-up button whose items are identified by tags, and whose owner can disable items when the pop-up
+/// opens.
 ///
-/// In a layout file the items' texts are their titles, and the property itemTags lists their tags in
+/// In a layout file, the texts of the items are their titles, and the property itemTags lists their tags in
 /// the same order.
 class PopUpButton : public QComboBox {
     Q_OBJECT
@@ -20,42 +20,44 @@ class PopUpButton : public QComboBox {
     Q_PROPERTY(QSize popUpIconSize READ popUpIconSize WRITE setPopUpIconSize)
 
 public:
-    /// Answers whether the item with that tag can be chosen now.
+    /// Returns whether the item with the tag can be chosen now.
     using Validator = std::function<bool(int tag)>;
 
     explicit PopUpButton(QWidget *parent = nullptr);
 
-    /// The tags of the items in menu order, as texts.
+    /// Returns the tags of the items in menu order, as strings.
     QStringList itemTags() const;
-    /// Gives the items their tags, in menu order. Tags for items that are not there yet wait for them,
-    /// since a layout file may name properties and items in either order.
+    /// Sets the tags of the items, in menu order. Tags of items that do not exist yet are set when the items
+    /// are added, because a layout file may contain properties and items in either order.
     void setItemTags(const QStringList &tags);
 
-    /// The tag of an item; 0 for a position without an item or an item without a tag.
+    /// Returns the tag of the item at the position; 0 if there is no item or it has no tag.
     int tagOfItem(int position) const;
-    /// The tag of the selected item; 0 when none is selected.
+    /// Returns the tag of the selected item; 0 if none is selected.
     int selectedTag() const { return tagOfItem(currentIndex()); }
-    /// The position of the item with the tag, or -1.
+    /// Returns the position of the item with the tag; -1 if there is none.
     int indexOfItemWithTag(int tag) const;
-    /// Selects the item with the tag without telling anybody; false, with the selection as it was,
-    /// when there is none.
+    /// Selects the item with the tag without emitting activated(). If there is none, returns false and keeps
+    /// the selection.
     bool selectItemWithTag(int tag);
-    /// Chooses the item at the position as the user does: activated() follows. Does nothing for a greyed
-    /// item, a position without one, and while the button is disabled.
+    /// Chooses the item at the position as the user does, and emits activated(). Does nothing for a disabled
+    /// item, for a position without an item, and while the button is disabled.
     void chooseItem(int position);
-    /// Removes the item of that title; does nothing when there is none.
+    /// Removes the item with this title; does nothing if there is none. If the item is selected, the
+    /// selection moves to the first item.
     void removeItemWithTitle(const QString &title);
 
-    /// Whoever decides which items can be chosen. Asked for every item when the pop-up opens and before
-    /// a key or the wheel steps through the items.
+    /// Sets the validator, which is called for every item when the pop-up opens and before a key or the wheel
+    /// changes the selection.
     void setValidator(Validator validator) { m_validator = std::move(validator); }
-    /// Asks the validator now and greys the items that it refuses.
+    /// Calls the validator now and disables the items that it rejects.
     void validateItems();
 
     /// The size of the items' pictures in the open pop-up; the closed button uses iconSize().
     void setPopUpIconSize(QSize size);
     QSize popUpIconSize() const { return m_popUpIconSize; }
 
+    /// Validates the items and opens the pop-up.
     void showPopup() override;
 
 protected:

@@ -22,7 +22,7 @@ void installPopUpButtonAccess()
     QAccessible::installFactory(makePopUpButtonAccess);
 }
 
-// Runs when the application starts, or at once when the library is loaded later than that.
+// Runs when the application starts, or immediately if the library is loaded later.
 Q_COREAPP_STARTUP_FUNCTION(installPopUpButtonAccess)
 
 } // namespace

@@ -8,18 +8,18 @@ inline namespace controls {
 
 class PopUpButton;
 
-/// A pop-up button as assistive technology sees and operates it. Its value is the selected item's spoken
-/// text, or its title where it has none; items without a title would otherwise be silent. Its number is the
-/// item's position. Setting either chooses the item as the user does, unless the item is greyed.
+/// The accessible interface of a pop-up button. Its value is the accessible text of the selected item, or the
+/// item's title if it has none; otherwise items without a title would be silent. Its number is the item's
+/// position. Setting either chooses the item as the user does, unless the item is disabled.
 class PopUpButtonAccess : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    /// Qt creates it for every PopUpButton that it is asked about: it is registered when the application
-    /// starts.
+    /// Qt creates an object for each PopUpButton that assistive technology queries; the factory is registered
+    /// when the application starts.
     explicit PopUpButtonAccess(PopUpButton *popUp);
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     int childCount() const override { return 1; }
-    /// The list of the items.
+    /// Returns the list of the items for index 0, otherwise null.
     QAccessibleInterface *child(int index) const override;
     int indexOfChild(const QAccessibleInterface *child) const override;
     QString text(QAccessible::Text kind) const override;
@@ -28,6 +28,7 @@ public:
     QStringList actionNames() const override;
     void doAction(const QString &name) override;
 
+    /// The position of the selected item and its limits.
     QVariant currentValue() const override;
     void setCurrentValue(const QVariant &value) override;
     QVariant maximumValue() const override;

@@ -9,15 +9,15 @@ inline namespace controls {
 /// The two colours of a control's text.
 enum class ControlTextColor { Enabled, Disabled };
 
-/// A control whose text colour can be set apart from its enabled flag.
+/// A control whose text colour can be set independently of its enabled state.
 class TextColoring {
 public:
     virtual ~TextColoring() = default;
     virtual void setTextColor(ControlTextColor color) = 0;
 };
 
-/// A text on a panel that can be greyed without being disabled, as a word that belongs to a disabled
-/// field is. The colours are the theme's and follow it.
+/// A text on a panel that can have the disabled colour without being disabled, such as a text that belongs to
+/// a disabled field. The colours come from the theme and follow its changes.
 class StaticText : public QLabel, public TextColoring {
     Q_OBJECT
 

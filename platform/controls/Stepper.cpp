@@ -106,7 +106,7 @@ void Stepper::timerEvent(QTimerEvent *event)
 
 void Stepper::changeEvent(QEvent *event)
 {
-    // A stepper that is disabled while an arrow is held must not go on counting.
+    // A stepper that is disabled while an arrow is pressed must stop stepping.
     if (event->type() == QEvent::EnabledChange && !isEnabled())
         release();
     QWidget::changeEvent(event);
@@ -130,7 +130,7 @@ void Stepper::keyPressEvent(QKeyEvent *event)
 
 void Stepper::wheelEvent(QWheelEvent *event)
 {
-    // Fine wheels and touch pads report fractions of a notch; they add up to whole steps.
+    // Fine wheels and touch pads report fractions of a notch, which add up to whole steps.
     m_wheelRemainder += event->angleDelta().y();
     const int steps = m_wheelRemainder / QWheelEvent::DefaultDeltasPerStep;
     m_wheelRemainder -= steps * QWheelEvent::DefaultDeltasPerStep;

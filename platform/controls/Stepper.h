@@ -11,10 +11,10 @@
 namespace platform {
 inline namespace controls {
 
-/// Two small arrows, one above the other, that count a number up and down. The number itself is shown
-/// by another control, a text field beside the stepper.
+/// Two small arrows, one above the other, that increase and decrease a number. Another control, a text field
+/// beside the stepper, shows the number.
 ///
-/// The arrows repeat while held; the arrow and page keys and the wheel work too.
+/// The arrows repeat while they are pressed; the arrow keys, the page keys and the wheel also work.
 class Stepper : public QWidget {
     Q_OBJECT
     Q_PROPERTY(int value READ value WRITE setValue)
@@ -26,14 +26,15 @@ public:
 
     std::int32_t value() const { return m_value; }
 
-    /// Sets the value, held within minimum and maximum. A change by the program is not a change by the
-    /// user: nothing is signalled.
+    /// Sets the value, limited to minimum and maximum. Emits no signal, because the program and not the user
+    /// changes the value.
     void setValue(std::int32_t value);
 
-    /// Steps to the value, held within minimum and maximum, as the user's arrows do: stepped() follows, also
-    /// when the value was there before. Does nothing while the stepper is disabled.
+    /// Sets the value, limited to minimum and maximum, as the arrows do, and emits stepped() even if the
+    /// value is the same as before. Does nothing while the stepper is disabled.
     void stepTo(std::int64_t value);
 
+    /// The limits of the value, both included. Setting a limit does not change the value.
     std::int32_t minimum() const { return m_minimum; }
     void setMinimum(std::int32_t minimum) { m_minimum = minimum; }
     std::int32_t maximum() const { return m_maximum; }
@@ -42,7 +43,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user has stepped; value() is the new number.
+    /// Emitted when the user has stepped; value() is the new number.
     void stepped();
 
 protected:

@@ -23,7 +23,7 @@ void installStepperAccess()
     QAccessible::installFactory(makeStepperAccess);
 }
 
-// Runs when the application starts, or at once when the library is loaded later than that.
+// Runs when the application starts, or immediately if the library is loaded later.
 Q_COREAPP_STARTUP_FUNCTION(installStepperAccess)
 
 } // namespace
@@ -72,7 +72,7 @@ QVariant StepperAccess::currentValue() const
 
 void StepperAccess::setCurrentValue(const QVariant &value)
 {
-    // AT-SPI speaks of numbers as double.
+    // AT-SPI passes numbers as double.
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
     constexpr double limit = std::numeric_limits<std::int32_t>::max();

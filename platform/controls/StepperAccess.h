@@ -8,11 +8,12 @@ inline namespace controls {
 
 class Stepper;
 
-/// A stepper as assistive technology sees and operates it: a number that can be read, set and counted up and
-/// down. Whatever changes it is a step of the user.
+/// The accessible interface of a stepper: a number that can be read, set, increased and decreased. Every
+/// change is a step of the user.
 class StepperAccess : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    /// Qt creates it for every Stepper that it is asked about: it is registered when the application starts.
+    /// Qt creates an object for each Stepper that assistive technology queries; the factory is registered
+    /// when the application starts.
     explicit StepperAccess(Stepper *stepper);
 
     void *interface_cast(QAccessible::InterfaceType type) override;
@@ -20,6 +21,7 @@ public:
     QStringList actionNames() const override;
     void doAction(const QString &name) override;
 
+    /// The stepper's value and its limits.
     QVariant currentValue() const override;
     void setCurrentValue(const QVariant &value) override;
     QVariant maximumValue() const override;

@@ -6,7 +6,7 @@
 namespace platform {
 inline namespace controls {
 
-/// A text field that reports every edit of the user by textEdited(), those by assistive technology included.
+/// A text field that emits textEdited() for every edit of the user, including edits by assistive technology.
 class TextField : public QLineEdit {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
 
     /// Replaces the text as one edit of the user. Does nothing while the field is disabled or read-only.
     void enterText(const QString &text);
-    /// The place between two characters that is nearest to the point in the field.
+    /// Returns the offset between two characters that is nearest to the point, in the field's coordinates.
     int offsetAt(QPoint point) { return cursorPositionAt(point); }
 };
 

@@ -23,7 +23,7 @@ void installTextFieldAccess()
     QAccessible::installFactory(makeTextFieldAccess);
 }
 
-// Runs when the application starts, or at once when the library is loaded later than that.
+// Runs when the application starts, or immediately if the library is loaded later.
 Q_COREAPP_STARTUP_FUNCTION(installTextFieldAccess)
 
 } // namespace
@@ -122,7 +122,7 @@ QRect TextFieldAccess::characterRect(int offset) const
 {
     if (offset < 0 || offset >= characterCount())
         return {};
-    // The cursor's rectangle is the only place of a character that the field reveals.
+    // The field exposes the position of the cursor only; the position of the character is computed from it.
     const QFontMetrics metrics(field()->font());
     const QString shown = field()->displayText();
     const int fromCursor = metrics.horizontalAdvance(shown.left(offset)) -

@@ -8,14 +8,14 @@ inline namespace controls {
 
 class TextField;
 
-/// A text field as assistive technology reads and edits it. An edit is an edit of the user: Qt's own
-/// interface sets the text without textEdited(), and the panel would not receive what is entered.
+/// The accessible interface of a text field. An edit counts as an edit of the user: Qt's own interface sets
+/// the text without emitting textEdited(), and the panel would not receive the text.
 class TextFieldAccess : public QAccessibleWidget,
                         public QAccessibleTextInterface,
                         public QAccessibleEditableTextInterface {
 public:
-    /// Qt creates it for every TextField that it is asked about: it is registered when the application
-    /// starts.
+    /// Qt creates an object for each TextField that assistive technology queries; the factory is registered
+    /// when the application starts.
     explicit TextFieldAccess(TextField *field);
 
     void *interface_cast(QAccessible::InterfaceType type) override;
@@ -23,6 +23,7 @@ public:
     void setText(QAccessible::Text kind, const QString &text) override;
     QAccessible::State state() const override;
 
+    /// Reimplements QAccessibleTextInterface. Offsets count the UTF-16 units of the displayed text.
     void selection(int index, int *start, int *end) const override;
     int selectionCount() const override;
     void addSelection(int start, int end) override;
@@ -37,6 +38,7 @@ public:
     void scrollToSubstring(int start, int end) override;
     QString attributes(int offset, int *start, int *end) const override;
 
+    /// Reimplements QAccessibleEditableTextInterface. Offsets are limited to the length of the text.
     void deleteText(int start, int end) override;
     void insertText(int offset, const QString &text) override;
     void replaceText(int start, int end, const QString &text) override;

@@ -18,7 +18,7 @@ BrokenPipeSilence::BrokenPipeSilence()
 
 BrokenPipeSilence::~BrokenPipeSilence()
 {
-    // One that was pending before is somebody else's and stays.
+    // A signal that was already pending belongs to other code and stays pending.
     constexpr timespec atOnce{0, 0};
     if (m_raised && !m_wasPending)
         sigtimedwait(&m_signal, nullptr, &atOnce);

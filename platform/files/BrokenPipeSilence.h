@@ -6,16 +6,19 @@
 namespace platform {
 inline namespace files {
 
-/// Keeps a write to a pipe without a reader from raising SIGPIPE in the calling thread while the object
-/// lives; the write fails with EPIPE all the same.
+/// Prevents SIGPIPE in the calling thread while the object exists. A write to a pipe without a reader still
+/// fails with EPIPE.
 class BrokenPipeSilence {
 public:
+    /// Blocks SIGPIPE in the calling thread.
     BrokenPipeSilence();
+    /// Removes the signal that raised() reports, and restores the signal mask. Must run in the thread of the
+    /// constructor.
     ~BrokenPipeSilence();
     BrokenPipeSilence(const BrokenPipeSilence &) = delete;
     BrokenPipeSilence &operator=(const BrokenPipeSilence &) = delete;
 
-    /// To be called after a write that failed with EPIPE.
+    /// Must be called after a write that failed with EPIPE.
     void raised() { m_raised = true; }
 
 private:

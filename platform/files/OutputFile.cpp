@@ -20,7 +20,8 @@ struct OutputFileText {
     Q_DECLARE_TR_FUNCTIONS(platform::files::OutputFile)
 };
 
-/// Why nothing is written to what is there; nothing for what can be replaced or written to.
+/// Returns the reason why nothing is written to the object at the path; std::nullopt if it can be replaced or
+/// written to.
 std::optional<QString> refusalOf(const struct stat &status)
 {
     if (S_ISDIR(status.st_mode))
@@ -51,7 +52,7 @@ bool OutputFile::refuse(const QString &reason)
 
 OutputFile::Way OutputFile::findWay()
 {
-    // The system would take the name to end at U+0000.
+    // For the system, the name would end at U+0000.
     if (m_path.isEmpty() || m_path.contains(QChar::Null)) {
         refuse(qt_error_string(m_path.isEmpty() ? ENOENT : EINVAL));
         return Way::Refuse;
@@ -59,7 +60,7 @@ OutputFile::Way OutputFile::findWay()
     const QByteArray name = QFile::encodeName(m_path);
     struct stat status = {};
     if (::lstat(name.constData(), &status) != 0) {
-        // Where there is no folder, making the file fails and says so.
+        // If the folder does not exist, creating the file fails with that error.
         if (errno == ENOENT && !QFileInfo(m_path).fileName().isEmpty())
             return Way::Replace;
         refuse(qt_error_string(errno));
@@ -74,7 +75,7 @@ OutputFile::Way OutputFile::findWay()
     }
     if (!S_ISREG(status.st_mode))
         return Way::WriteThrough;
-    // A file that is protected from being written to is not to be replaced either.
+    // A write-protected file must not be replaced either.
     if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) == 0)
         return Way::Replace;
     refuse(qt_error_string(errno));
@@ -105,7 +106,7 @@ bool OutputFile::commit(const QDateTime &modified)
         return false;
     if (m_way != Way::Replace)
         return writeToDevice();
-    // Something else may have come there since write().
+    // The object at the path may have changed since write().
     const Way way = findWay();
     if (way == Way::Refuse)
         return false;
@@ -122,7 +123,7 @@ bool OutputFile::commit(const QDateTime &modified)
 
 bool OutputFile::writeToDevice()
 {
-    // Without O_NONBLOCK, opening a FIFO would wait for a reader, perhaps for ever.
+    // Without O_NONBLOCK, opening a FIFO blocks until it has a reader, possibly forever.
     const int flags =
         O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (m_way == Way::FollowLink ? 0 : O_NOFOLLOW);
     const int descriptor = ::open(QFile::encodeName(m_path).constData(), flags); // NOLINT
@@ -133,7 +134,7 @@ bool OutputFile::writeToDevice()
     const bool isDevice =
         ::fstat(descriptor, &status) == 0 &&
         (S_ISCHR(status.st_mode) || (S_ISFIFO(status.st_mode) && m_way == Way::WriteThrough));
-    // Something else may have come there since write(). Opening has not changed it.
+    // The object at the path may have changed since write(). Opening it has not modified it.
     const bool isWritten = isDevice ? writeAll(descriptor) : refuse(qt_error_string(EEXIST));
     const bool isClosed = ::close(descriptor) == 0;
     return isWritten && (isClosed || refuse(qt_error_string(errno)));
@@ -141,7 +142,7 @@ bool OutputFile::writeToDevice()
 
 bool OutputFile::writeAll(int descriptor)
 {
-    // The reader may be slower than this program.
+    // Writing must block, because the reader may be slower than this program.
     ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) & ~O_NONBLOCK); // NOLINT
     BrokenPipeSilence silence;
     QByteArrayView left(m_buffer.data());

@@ -13,38 +13,42 @@
 namespace platform {
 inline namespace files {
 
-/// A file that the program writes where the user says. It takes its place whole or not at all, can be read by
-/// this user only (0600), and replaces nothing but a regular file:
+/// A file that the program writes to a path that the user has chosen. The file is replaced atomically, can be
+/// read by this user only (0600), and replaces nothing but a regular file:
 ///
-/// - Character devices and FIFOs with a reader are written to, and stay what they are.
-/// - Folders, sockets and block devices are refused.
-/// - Symbolic links are refused, so that another user with write access to the folder cannot choose which
-///   file is overwritten; except for those to character devices, such as /dev/stdout.
+/// - Character devices and FIFOs with a reader are written to directly and remain what they are.
+/// - Folders, sockets and block devices are rejected.
+/// - Symbolic links are rejected, so that another user with write access to the folder cannot choose which
+///   file is overwritten. Links to character devices, such as /dev/stdout, are accepted.
 class OutputFile {
 public:
+    /// Does not access the path.
     explicit OutputFile(QString path);
 
-    /// Takes the content from the function, which answers false when the device takes no more. What is at the
-    /// path stays as it is. False, with the reason in errorString(), when the path is refused or the content
-    /// does not fit; nothing is left then.
+    /// Calls writer to write the content; writer returns false when the device accepts no more data. The path
+    /// stays unchanged until commit(). Returns false, with the reason in errorString(), if the path is
+    /// rejected or the content cannot be written; no temporary file remains then.
     bool write(const std::function<bool(QIODevice *)> &writer);
-    /// Puts what was written at the path. A time is when the file counts as modified; it has no meaning for
-    /// devices. False, with the reason in errorString(); the path then is as it was, unless it is a device.
+    /// Moves the written content to the path. modified, if valid, becomes the modification time of the file;
+    /// it has no effect on devices. On failure, returns false, with the reason in errorString(), and the path
+    /// is unchanged unless it is a device.
     bool commit(const QDateTime &modified = {});
 
+    /// The path that the constructor received.
     const QString &path() const { return m_path; }
-    /// Whether commit() has put a file there, which can be removed, rather than written to a device.
+    /// Returns true if commit() has created a file at the path, which can be removed; false if it has written
+    /// to a device.
     bool hasPlacedFile() const { return m_hasPlacedFile; }
-    /// The end of a sentence, without a full stop: "it is a folder".
+    /// The reason of the last error, as the end of a sentence without a full stop: "it is a folder".
     const QString &errorString() const { return m_error; }
 
 private:
-    /// What can be done with what is at the path.
+    /// How the object at the path is written to.
     enum class Way {
         Replace,
         WriteThrough,
-        FollowLink, ///< and write through
-        Refuse,     ///< errorString() says why
+        FollowLink, ///< and write to its target
+        Refuse,     ///< errorString() holds the reason
     };
     Way findWay();
     bool refuse(const QString &reason);
@@ -53,7 +57,7 @@ private:
 
     QString m_path;
     Way m_way = Way::Refuse;
-    /// One of the two takes the content.
+    /// The content is written to one of the two.
     std::unique_ptr<TemporaryFile> m_file;
     QBuffer m_buffer;
     QString m_error;

@@ -11,7 +11,7 @@ inline namespace files {
 namespace {
 
 constexpr qsizetype signatureLength = 8;
-// A chunk is its length, its name of four letters, its data and a checksum of name and data.
+// A chunk consists of its length, a name of four letters, its data, and a checksum of name and data.
 constexpr qsizetype lengthLength = 4;
 constexpr qsizetype nameLength = 4;
 constexpr qsizetype checksumLength = 4;
@@ -26,7 +26,8 @@ quint32 numberAt(QByteArrayView bytes, qsizetype position)
     return qFromBigEndian<quint32>(bytes.data() + position);
 }
 
-/// Moves the first chunk out of the bytes; nothing when it is cut off or its checksum is wrong.
+/// Moves the first chunk out of the bytes. Returns std::nullopt if the chunk is truncated or its checksum is
+/// wrong.
 std::optional<Chunk> moveOutChunk(QByteArrayView *bytes)
 {
     constexpr qsizetype frame = lengthLength + nameLength + checksumLength;

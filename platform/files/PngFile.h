@@ -9,9 +9,9 @@
 namespace platform {
 inline namespace files {
 
-/// The picture's size in pixels when the bytes are a PNG file that is whole: it begins as one, ends with its
-/// end chunk, and the checksum of each chunk is right. Decoding would say the same and takes fifty times as
-/// long.
+/// Returns the picture's size in pixels if the bytes are an intact PNG file: it has the signature and the
+/// header, ends with the end chunk, and the checksum of each chunk is correct. Returns std::nullopt
+/// otherwise. Decoding would give the same result and takes fifty times as long.
 std::optional<QSize> sizeOfIntactPng(const QByteArray &bytes);
 
 } // namespace files

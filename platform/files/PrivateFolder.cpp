@@ -14,7 +14,7 @@ namespace {
 
 constexpr mode_t allPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
 
-/// 0, or the system's number of the error.
+/// Returns 0, or the errno value of the error.
 int makeFolders(const QString &folder)
 {
     const QByteArray name = QFile::encodeName(folder);
@@ -29,7 +29,7 @@ int makeFolders(const QString &folder)
     if (error == EEXIST)
         return QFileInfo(folder).isDir() ? 0 : ENOTDIR;
     if (error == 0)
-        closeToOthers(folder); // the umask may have taken permissions of the user's own
+        closeToOthers(folder); // the umask may have removed permissions of the user
     return error;
 }
 

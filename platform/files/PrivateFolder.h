@@ -8,12 +8,13 @@
 namespace platform {
 inline namespace files {
 
-/// Makes the folder, with those above it that are missing, for this user alone (0700), whatever the umask is.
-/// Folders that are there stay as they are. Nothing when the folder is there afterwards, else why it is not.
+/// Creates the folder and its missing parent folders for this user only (0700), whatever the umask is.
+/// Existing folders stay unchanged. Returns std::nullopt if the folder exists afterwards, otherwise the
+/// reason why it does not.
 std::optional<QString> makePrivateFolders(const QString &folder);
 
-/// Takes a folder away from all but this user (0700). For folders that belong to the program; does nothing
-/// where the system does not permit it.
+/// Restricts access to a folder to this user (0700). For folders that belong to the program; does nothing if
+/// the system does not permit the change.
 void closeToOthers(const QString &folder);
 
 } // namespace files

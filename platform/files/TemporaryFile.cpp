@@ -17,7 +17,7 @@ namespace {
 
 constexpr int randomDigits = 16;
 
-/// A name that is hidden and that no user gives to a file.
+/// Returns the name of a hidden file, which users do not give to their files.
 QString nameWith(const QString &random)
 {
     return QStringLiteral(".kvprint-%1.tmp").arg(random);
@@ -29,10 +29,10 @@ QString randomName()
                                              QLatin1Char('0')));
 }
 
-/// Locks the file for as long as the descriptor is open. False when another program is just removing it.
+/// Locks the file while the descriptor is open. Returns false if another program is removing the file.
 bool claim(int descriptor)
 {
-    // A file system without locks has none for removeLeftOvers() either, which then removes nothing.
+    // On a file system without locks, removeLeftOvers() cannot lock the file either and removes nothing.
     if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0)
         return errno != EWOULDBLOCK;
     struct stat status = {};
@@ -49,11 +49,11 @@ bool isOwnFile(const struct stat &status)
     return S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
 }
 
-/// Removes the file unless the program that made it still runs.
+/// Removes the file unless the program that created it is still running.
 void removeAbandoned(const QByteArray &name)
 {
     struct stat found = {};
-    // Asked before opening, since opening alone makes some devices do something.
+    // Checked before opening, because opening alone has side effects on some devices.
     if (::lstat(name.constData(), &found) != 0 || !isOwnFile(found))
         return;
     constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
@@ -61,8 +61,8 @@ void removeAbandoned(const QByteArray &name)
     if (descriptor < 0)
         return;
     struct stat opened = {};
-    // The name is compared again under the lock: until then the file may get its final name, and another file
-    // this one.
+    // The name is compared again under the lock: before that, the file may receive its final name, and
+    // another file this one.
     if (::fstat(descriptor, &opened) == 0 && isOwnFile(opened) &&
         ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::lstat(name.constData(), &found) == 0 &&
         isSame(opened, found))
@@ -104,7 +104,7 @@ bool TemporaryFile::create()
             ::close(descriptor);
             continue;
         }
-        ::fchmod(descriptor, S_IRUSR | S_IWUSR); // the umask may have taken them
+        ::fchmod(descriptor, S_IRUSR | S_IWUSR); // the umask may have removed them
         m_path = path;
         m_isTemporary = true;
         return open(descriptor, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle);
@@ -115,8 +115,8 @@ bool TemporaryFile::moveTo(const QString &path)
 {
     if (!flush())
         return false;
-    // Without this, a computer that loses power may afterwards have an empty file under the final name. Some
-    // file systems cannot be asked for it.
+    // Without fsync(), the file may be empty under its final name after a power failure. Some file systems do
+    // not support it.
     if (::fsync(handle()) != 0 && errno != EINVAL && errno != ENOTSUP)
         return fail(errno);
     if (::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(path).constData()) != 0)

@@ -6,27 +6,28 @@
 namespace platform {
 inline namespace files {
 
-/// A file that only this user can read and write (0600), whatever the umask is; gone with the object.
+/// A file that only this user can read and write (0600), whatever the umask is. The destructor removes it.
 ///
-/// The program holds a lock on the file as long as it is open. A file of this name that no program has locked
-/// is what a killed program has left; removeLeftOvers() takes it away.
+/// The program holds a lock on the file while the file is open. A file with such a name that no program has
+/// locked was left by a program that was killed; removeLeftOvers() removes it.
 class TemporaryFile : public QFile {
 public:
-    /// For a file in the folder, which must be there.
+    /// The folder must exist. create() creates the file in it.
     explicit TemporaryFile(QString folder);
+    /// Removes the file unless moveTo() has succeeded.
     ~TemporaryFile() override;
 
-    /// The file's path, empty before create().
+    /// The file's path; empty before create().
     QString fileName() const override { return m_path; }
-    /// Makes the file and opens it for reading and writing. False, with the reason in errorString(), when it
-    /// cannot be made.
+    /// Creates the file and opens it for reading and writing. Returns false, with the reason in
+    /// errorString(), if it cannot be created.
     bool create();
-    /// Puts the content on the disk and gives the file its final name, in the same folder, in place of what
-    /// has that name. The file stays open, and stays when the object goes. False, with the reason in
-    /// errorString(); the file then still has its first name.
+    /// Writes the content to the disk and renames the file to path, in the same folder, replacing an existing
+    /// file of that name. The file stays open and is no longer removed by the destructor. On failure, returns
+    /// false, with the reason in errorString(); the file then keeps its temporary name.
     bool moveTo(const QString &path);
 
-    /// Removes from a folder the temporary files of this user whose programs have ended without removing
+    /// Removes this user's temporary files from the folder if their programs have ended without removing
     /// them.
     static void removeLeftOvers(const QString &folder);
 
@@ -35,7 +36,7 @@ private:
 
     QString m_folder;
     QString m_path;
-    /// Whether the file goes with the object.
+    /// Whether the destructor removes the file.
     bool m_isTemporary = false;
 };
 

@@ -21,7 +21,7 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-/// What tells a file from the one that replaces it; all zero for no file.
+/// Distinguishes a file from one that replaces it; all zero if there is no file.
 struct FileIdentity {
     dev_t device = 0;
     ino_t node = 0;
@@ -40,13 +40,13 @@ FileIdentity identityOf(const QString &path)
     return {found.st_dev, found.st_ino, found.st_size, found.st_ctim.tv_sec, found.st_ctim.tv_nsec};
 }
 
-/// A picture that may be in use, and the files that it was read from.
+/// A picture that may be in use, and the identities of the files that it was read from.
 struct Shared {
     std::array<FileIdentity, 4> files;
     std::weak_ptr<const Image> image;
 };
 
-/// By path. The pop-up's items and the preview show the same pictures.
+/// The pictures in use by path. The pop-up's items and the preview show the same pictures.
 QHash<QString, Shared> &sharedImages()
 {
     static QHash<QString, Shared> images;
@@ -116,7 +116,7 @@ void Image::drawAtPoint(QPainter &painter, QPointF origin, const QPalette &palet
 void Image::drawInRect(QPainter &painter, const QRectF &rect, const QPalette &palette) const
 {
     const QSizeF fitted = QSizeF(size()).scaled(rect.size(), Qt::KeepAspectRatio);
-    // Pixels as dense as the place has them: reading more takes four times as long.
+    // The variant has the resolution of the target: reading the denser one takes four times as long.
     const double scale = fitted.width() / size().width();
     const QPixmap pixels = pixmap(scale * painter.device()->devicePixelRatioF(), palette);
     if (pixels.isNull())

@@ -17,28 +17,28 @@ class QPalette;
 namespace platform {
 inline namespace images {
 
-/// A picture from a file, drawn at its natural size. Beside NAME.png there may lie NAME@2x.png with
-/// twice the pixels for dense screens, and NAME-dark.png and NAME-dark@2x.png for dark themes.
+/// A picture from a file, drawn at its natural size. Optional variants lie beside NAME.png: NAME@2x.png with
+/// twice the resolution for dense screens, and NAME-dark.png and NAME-dark@2x.png for dark themes.
 ///
-/// All of them are read at once, so that a picture stays what it was when its files are replaced; they are
-/// checked then and decoded when they are first drawn.
+/// All files are read at once, so that a picture does not change when its files are replaced. They are
+/// checked when they are read and decoded when they are first drawn.
 class Image {
 public:
-    /// Null when NAME.png cannot be read or is broken; another file that is broken counts as missing. As long
-    /// as the files are the same ones, everybody who asks for a picture that is in use shares it.
+    /// Returns the picture; null if NAME.png cannot be read or is damaged. A damaged variant counts as
+    /// missing. As long as the files do not change, all callers share a picture that is in use.
     static std::shared_ptr<const Image> initWithContentsOfFile(const QString &path);
 
-    /// The natural size in points: the pixels of NAME.png.
+    /// The natural size in points, which is the size of NAME.png in pixels.
     QSize size() const { return variant(Theme::Light, Density::Single).size(); }
 
     /// The file's name without folder and extension.
     const QString &name() const { return m_name; }
 
-    /// Draws the whole picture over what is there, fully opaque, with its top-left corner at origin,
-    /// choosing the variant that suits the painter's device and the palette.
+    /// Draws the whole picture over the existing content, fully opaque, with its top-left corner at origin.
+    /// Chooses the variant for the painter's device and the palette.
     void drawAtPoint(QPainter &painter, QPointF origin, const QPalette &palette) const;
 
-    /// Draws the whole picture scaled into the rectangle, keeping its proportions, centred.
+    /// Draws the whole picture, scaled to fit into the rectangle, with its proportions kept, and centred.
     void drawInRect(QPainter &painter, const QRectF &rect, const QPalette &palette) const;
 
 private:

@@ -8,8 +8,8 @@
 namespace platform {
 inline namespace images {
 
-/// An icon that draws the picture, always in the variant that suits the application's theme. A null icon for
-/// no picture.
+/// Returns an icon that draws the picture, always in the variant for the application's theme. Returns a null
+/// icon if image is null.
 QIcon iconFromImage(std::shared_ptr<const Image> image);
 
 } // namespace images

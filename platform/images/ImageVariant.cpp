@@ -14,13 +14,13 @@ ImageVariant::ImageVariant(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return;
     m_bytes = file.readAll();
-    // Reading leaves room to grow, for each of a hundred files.
+    // readAll() reserves more memory than it needs, for each of a hundred files.
     m_bytes.squeeze();
     if (const std::optional<QSize> size = sizeOfIntactPng(m_bytes)) {
         m_size = *size;
         return;
     }
-    // Other kinds of files have no checksums: only decoding shows that they are whole.
+    // Other file formats have no checksums: only decoding shows whether a file is intact.
     if (!path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive))
         m_pixmap.loadFromData(m_bytes);
     m_bytes.clear();

@@ -12,20 +12,21 @@ inline namespace images {
 /// One file of a picture, held in memory and decoded when it is first drawn.
 class ImageVariant {
 public:
-    /// No picture.
+    /// Constructs a null variant.
     ImageVariant() = default;
-    /// Reads the file. Without a file, or when the file is broken, this is no picture.
+    /// Reads the file. The variant is null if the file does not exist or is damaged.
     explicit ImageVariant(const QString &path);
 
+    /// Returns true if there is no picture.
     bool isNull() const { return m_size.isEmpty(); }
-    /// The size in pixels.
+    /// The size in pixels; empty for a null variant.
     QSize size() const { return m_size; }
-    /// The decoded picture; null for no picture.
+    /// The decoded picture; null for a null variant. Decodes the file on the first call.
     const QPixmap &pixmap() const;
 
 private:
     QSize m_size;
-    /// Empty once it is decoded.
+    /// The content of the file; empty once it is decoded.
     mutable QByteArray m_bytes;
     mutable QPixmap m_pixmap;
 };

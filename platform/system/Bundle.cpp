@@ -8,7 +8,7 @@ inline namespace system {
 
 namespace {
 
-/// "pt_BR" and "pt-BR" are looked for as such first and then as "pt".
+/// Returns the names to search for: "pt_BR" and then "pt" for both "pt_BR" and "pt-BR".
 QStringList catalogueNames(const QString &language)
 {
     QString name = language;
@@ -56,7 +56,7 @@ bool Bundle::loadCatalogue(const QString &language)
     auto catalogue = std::make_unique<QTranslator>();
     const QString file =
         m_path + QStringLiteral("/Resources/Localizable_") + language + QStringLiteral(".qm");
-    // An exact file name: QTranslator would otherwise try shortened names by itself.
+    // The file must have exactly this name: QTranslator would also try shortened names.
     if (!QFileInfo::exists(file) || !catalogue->load(file))
         return false;
     m_catalogues.push_back(std::move(catalogue));
@@ -65,7 +65,7 @@ bool Bundle::loadCatalogue(const QString &language)
 
 QString Bundle::localizedStringForKey(const QString &key) const
 {
-    // A catalogue keeps its own head under the empty key.
+    // A catalogue stores its header under the empty key.
     if (key.isEmpty())
         return key;
     const QByteArray utf8 = key.toUtf8();

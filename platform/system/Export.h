@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// Marks what crosses the border between the programs and the bundle: classes whose type
-/// identity both sides must share, and functions that the bundle offers by name.
+/// Exports a symbol that the programs and the bundles share: a class whose type identity must be the same on
+/// both sides, or a function that the bundle offers by name.
 #define KV_EXPORT __attribute__((visibility("default")))

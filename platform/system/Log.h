@@ -8,11 +8,11 @@
 namespace platform {
 inline namespace system {
 
-/// Writes one record to the system log, which on this platform is standard error: the text and a
-/// line end, in one write.
+/// Writes one record to the system log, which is standard error on this platform: the text and a newline, in
+/// one write.
 void log(const QString &text);
 
-/// Sends the records elsewhere; an empty function brings standard error back.
+/// Sends the records to the sink instead; an empty function restores standard error.
 void setLogSink(std::function<void(const QString &)> sink);
 
 } // namespace system

@@ -39,7 +39,7 @@ void NotificationCenter::post(const QString &name, const void *object)
 
 void NotificationCenter::post(const Notification &notification)
 {
-    // Handlers may add and remove observers, so the list is walked by identifier, not by position.
+    // Handlers may add and remove observers, so the loop iterates by identifier, not by position.
     std::vector<std::uint64_t> matching;
     for (const Registration &registration : m_registrations) {
         const bool objectMatches = !registration.object || registration.object == notification.object;

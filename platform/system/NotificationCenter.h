@@ -10,45 +10,45 @@
 namespace platform {
 inline namespace system {
 
-/// One announcement: its name and the object it is about.
+/// A notification: its name and the object that it concerns.
 struct Notification {
     QString name;
-    /// The sender or subject, compared by address only; null when there is none.
+    /// The sender or subject, compared only by address; null if there is none.
     const void *object = nullptr;
     /// The subject as text, for notifications that carry a text instead of an object.
     QString text;
 };
 
-/// Announcements by name between parts that do not know each other: the host tells panels that
-/// the paper changed, a text field tells whoever cares that an edit was refused.
+/// Delivers notifications by name between components that do not know each other: the host notifies panels of
+/// a changed paper, a text field notifies its observers of a rejected edit.
 ///
-/// The host and every loaded bundle share the one default centre. Everything happens on the main
-/// thread: post() calls each matching handler before it returns.
+/// The host and every loaded bundle share the default centre. All calls are made on the main thread: post()
+/// calls each matching handler before it returns.
 class NotificationCenter {
 public:
     using Handler = std::function<void(const Notification &)>;
 
-    /// The centre that everyone uses; lives as long as the process.
+    /// Returns the shared centre, which exists as long as the process.
     static NotificationCenter &defaultCenter();
 
-    /// Calls handler for every notification of that name. A null object stands for "from any
-    /// sender". The observer is only an address that names the registration in removeObserver.
+    /// Calls the handler for every notification with this name. A null object matches every sender. The
+    /// observer is only an address that identifies the registration for removeObserver().
     void addObserver(const void *observer, const QString &name, const void *object, Handler handler);
 
-    /// Ends the registrations of that observer for that name and object. Does nothing when there are none.
+    /// Removes the observer's registrations for this name and object. Does nothing if there are none.
     void removeObserver(const void *observer, const QString &name, const void *object);
 
-    /// Ends every registration of the observer.
+    /// Removes every registration of the observer.
     void removeObserver(const void *observer);
 
-    /// Tells every observer whose name and object match, in the order of registration. An observer
-    /// removed by an earlier handler of the same notification is not called any more.
+    /// Calls the handler of every observer whose name and object match, in the order of registration. An
+    /// observer that an earlier handler of the same notification has removed is not called.
     void post(const QString &name, const void *object = nullptr);
 
     /// Posts a notification that carries a text.
     void post(const Notification &notification);
 
-    /// The number of registrations, for checks that nobody is left behind.
+    /// The number of registrations, for tests that check that every observer has been removed.
     std::size_t observerCount() const { return m_registrations.size(); }
 
 private:

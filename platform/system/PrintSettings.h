@@ -11,24 +11,24 @@
 namespace platform {
 inline namespace system {
 
-/// The settings of the job that a dialog is about to print: named values, as a print dialog hands
-/// them from panel to panel and at last to the printing system.
+/// The settings of the job that a dialog is about to print: named values that the dialog passes from panel to
+/// panel and finally to the printing system.
 class PrintSettings {
 public:
-    /// The value under the key, or nothing.
+    /// Returns the value that is stored under the key; std::nullopt if there is none.
     std::optional<QVariant> value(const QString &key) const;
 
-    /// Stores the value, replacing what was there. Values are texts, numbers, booleans, byte
-    /// arrays, and lists and maps of these: what a property list can hold.
+    /// Stores the value and replaces an earlier one. A value has a type that a property list can hold:
+    /// string, number, boolean, byte array, or a list or map of these.
     void setValue(const QString &key, const QVariant &value);
 
-    /// Takes the entry out; does nothing when there is none.
+    /// Removes the entry; does nothing if there is none.
     void remove(const QString &key);
 
-    /// All entries in the order of their keys.
+    /// All entries, sorted by key.
     const QVariantMap &values() const { return m_values; }
 
-    /// First and last page to print, counted from 1.
+    /// The first and the last page to print, counted from 1.
     std::uint32_t firstPage = 1;
     std::uint32_t lastPage = 0x7fffffff;
 

@@ -7,15 +7,15 @@
 namespace platform {
 inline namespace system {
 
-/// The system beep, which says that an entry was refused.
+/// Sounds the system beep, which signals that an entry was rejected.
 void beep();
 
-/// Tells the listener of every beep, besides sounding it; an empty function ends that. For hosts
-/// that report what a person would hear.
+/// Calls the listener at every beep, in addition to the sound; an empty function removes the listener. For
+/// hosts that report audible signals.
 void setBeepListener(std::function<void()> listener);
 
-/// How often the system beep has sounded since the program started, for telling how many beeps an
-/// operation made without taking the listener's place.
+/// Returns the number of system beeps since the program started. Callers use it to count the beeps of an
+/// operation without replacing the listener.
 std::uint64_t beepCount();
 
 } // namespace system

@@ -47,7 +47,7 @@ std::optional<QString> textOf(const char *bytes)
 
 std::optional<QString> description(const QVariant &value)
 {
-    // A QVariant that holds an empty text may call itself null, yet a text is there.
+    // QVariant::isNull() may return true for an empty text, which is not absent.
     if (!value.isValid() || value.metaType().id() == QMetaType::Nullptr)
         return std::nullopt;
     switch (value.metaType().id()) {

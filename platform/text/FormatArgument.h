@@ -16,14 +16,14 @@
 namespace platform {
 inline namespace text {
 
-/// A value's text for a log or a display: a text is itself, a number its digits, a list "(a, b)", a map
-/// "{key = value}". Nothing for a value that is null.
+/// Returns the description of a value for a log or a display: a string is its own description, a number is
+/// shown as its digits, a list as "(a, b)", a map as "{key = value}". Returns std::nullopt for a null value.
 std::optional<QString> description(const QVariant &value);
 
-/// "<ClassName: 0x55d0c0ffee00>", for an object that has no description() of its own.
+/// Returns "<ClassName: 0x55d0c0ffee00>", the description of an object that has no description() of its own.
 QString anonymousDescription(const std::type_info &type, const void *address);
 
-/// A class whose objects describe themselves for logs.
+/// A class whose objects describe themselves for logs with description().
 template<typename Type>
 concept Described = requires(const Type &object)
 {
@@ -32,26 +32,27 @@ concept Described = requires(const Type &object)
         } -> std::convertible_to<QString>;
 };
 
-/// One value for a directive of a format string, together with its kind, so that a directive that asks
-/// for another kind can be told instead of reading memory that is not there.
+/// One argument of a format string, together with its type, so that a directive for another type is detected
+/// and does not read memory of the wrong type.
 ///
-/// Made implicitly from what one would hand to printf. An object is described at once, and nothing is
-/// kept but its text and address.
+/// Implicitly constructed from the types that are passed to printf, and from objects. The constructor reads
+/// the description of an object; only the description and the address are kept.
 class FormatArgument {
 public:
-    /// A whole number, a character or a flag, sign-extended, and the number of bytes that it had as an
-    /// argument: at least those of an int.
+    /// An integer, a character or a flag, sign-extended, and its size as an argument in bytes, which is at
+    /// least that of an int.
     struct Integer {
         std::int64_t value;
         int bytes;
     };
-    /// A text or an object: its description (nothing for null) and its address.
+    /// A string or an object: its description, absent for null, and its address.
     struct Object {
         std::optional<QString> description;
         const void *address;
     };
     using Value = std::variant<Integer, double, Object>;
 
+    /// An integer, a character, a flag or an enumerator.
     template<typename Number>
     requires std::is_integral_v<Number> || std::is_enum_v<Number> FormatArgument(Number number)
         : m_value(Integer{static_cast<std::int64_t>(number),
@@ -59,45 +60,52 @@ public:
     {
     }
 
+    /// A floating-point number.
     template<std::floating_point Number>
     FormatArgument(Number number)
         : m_value(static_cast<double>(number))
     {
     }
 
+    /// A null pointer.
     FormatArgument(std::nullptr_t)
         : m_value(Object{std::nullopt, nullptr})
     {
     }
 
+    /// A string.
     FormatArgument(const QString &text)
         : m_value(Object{text, &text})
     {
     }
 
-    /// A C string in the system encoding, up to its terminator; null is an absent text. Bytes that are not
-    /// valid there are read as Latin-1, so that a log line shows them rather than nothing.
+    /// A null-terminated C string in the system encoding; null is an absent text. Bytes that are invalid in
+    /// that encoding are read as Latin-1, so that a log line shows them.
     FormatArgument(const char *text);
 
+    /// A text that may be absent.
     template<std::same_as<std::optional<QString>> Text>
     FormatArgument(const Text &text)
         : m_value(Object{text, &text})
     {
     }
 
+    /// A value, described by platform::description().
     template<std::same_as<QVariant> Variant>
     FormatArgument(const Variant &value)
         : m_value(Object{platform::description(value), &value})
     {
     }
 
+    /// An object that describes itself.
     template<Described Type>
     FormatArgument(const Type &object)
         : m_value(Object{QString(object.description()), &object})
     {
     }
 
-    /// An object by address, alive or null; or any other address, which is only shown.
+    /// A pointer to an existing object, or null; or any other pointer, of which the type and the address are
+    /// shown.
     template<typename Type>
     FormatArgument(const Type *object)
         : m_value(Object{object ? std::optional(describe(object)) : std::nullopt, object})
@@ -116,12 +124,13 @@ public:
     {
     }
 
+    /// The value with its type.
     const Value &value() const { return m_value; }
 
-    /// True for a null pointer and an absent text.
+    /// Returns true for a null pointer and an absent text.
     bool isNull() const;
 
-    /// The argument as "%@" shows it; "(null)" when it is null.
+    /// Returns the text that "%@" shows, which is "(null)" if the argument is null.
     QString description() const;
 
 private:

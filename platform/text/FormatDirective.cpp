@@ -8,7 +8,7 @@ inline namespace text {
 
 namespace {
 
-/// Reads one directive, of whatever conversion.
+/// Parses one directive, with a known or unknown conversion.
 class DirectiveReader {
 public:
     DirectiveReader(QStringView format, qsizetype start)
@@ -51,7 +51,7 @@ private:
         return number;
     }
 
-    /// The digits before a "$"; digits without one are a width and are left to be read as such.
+    /// Reads the digits before a "$". Digits without a "$" are a width and are left for readExtent().
     std::optional<int> readPosition()
     {
         const qsizetype start = m_at;

@@ -9,29 +9,32 @@
 namespace platform {
 inline namespace text {
 
-/// One directive of a format string, taken apart: "%", an argument's position, flags, width, precision,
-/// length modifier, conversion. Read by stringWithFormat().
+/// One parsed directive of a format string: "%", the argument's position, flags, width, precision, length
+/// modifier, conversion. stringWithFormat() uses it.
 struct FormatDirective {
-    /// Widths and precisions beyond this are cut down to it.
+    /// The maximum width and precision; larger values are reduced to it.
     static constexpr int largestExtent = 4096;
 
+    /// The length modifier: none, "hh", "h", or one of "l", "q", "j", "z", "t" and "L".
     enum class Length { None, Char, Short, Wide };
 
-    /// Reads the directive whose "%" is at start, of whatever conversion, known or not.
+    /// Parses the directive whose "%" is at the position start, with a known or unknown conversion.
     static FormatDirective read(QStringView format, qsizetype start);
 
-    /// The position after the directive in the format string.
+    /// The position in the format string after the directive.
     qsizetype end = 0;
-    /// The position of its argument, counted from 1; nothing for the next one.
+    /// The position of the argument, counted from 1; absent for the next argument.
     std::optional<int> position;
+    /// The flag characters, as in the format string.
     QByteArray flags;
-    /// Whether width and precision are "*", to be taken from the arguments.
+    /// Whether width and precision are "*", which means that they are read from the arguments.
     bool starWidth = false;
     bool starPrecision = false;
+    /// Absent if the directive does not state them. A "." without digits is a precision of 0.
     std::optional<int> width;
     std::optional<int> precision;
     Length length = Length::None;
-    /// The last character; 0 when the format string ends before it.
+    /// The conversion, which is the last character; 0 if the format string ends before it.
     char16_t conversion = 0;
 };
 

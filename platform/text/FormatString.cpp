@@ -14,8 +14,8 @@ inline namespace text {
 
 namespace {
 
-/// The "C" locale for the calling thread: a print dialog runs in the user's locale, where printf writes
-/// a comma for the decimal point.
+/// Sets the "C" locale for the calling thread while the object exists: a print dialog runs in the user's
+/// locale, where printf may write a comma for the decimal point.
 class NeutralLocale {
 public:
     NeutralLocale()
@@ -31,8 +31,8 @@ private:
     locale_t m_previous;
 };
 
-/// Has printf write one number. The directive is put together anew from its checked parts, so that it
-/// asks for exactly the type that is handed over.
+/// Formats one number with snprintf(). The directive is rebuilt from its validated parts, so that it states
+/// exactly the type of the argument.
 template<typename Number>
 QString printNumber(const FormatDirective &directive, const char *modifier, Number number)
 {
@@ -51,7 +51,7 @@ QString printNumber(const FormatDirective &directive, const char *modifier, Numb
     return QString::fromStdString(text);
 }
 
-/// The bytes that the directive looks at.
+/// Returns the number of bytes of the integer that the directive shows.
 int shownBytes(const FormatDirective &directive, const FormatArgument::Integer &integer)
 {
     switch (directive.length) {
@@ -77,14 +77,15 @@ QString showInteger(const FormatDirective &directive, const FormatArgument::Inte
     return printNumber(directive, "ll", static_cast<unsigned long long>(bits >> unusedBits));
 }
 
-/// Pads a text to the directive's width, with blanks: a zero before a text would seem to belong to it.
+/// Pads a text to the directive's width with spaces: a zero before a text would look like a part of it.
 QString padded(const FormatDirective &directive, const QString &text)
 {
     const int width = directive.width.value_or(0);
     return directive.flags.contains('-') ? text.leftJustified(width) : text.rightJustified(width);
 }
 
-/// The text's beginning as far as the precision goes, without cutting a surrogate pair in two.
+/// Returns the beginning of the text up to the precision, padded to the width. Does not split a surrogate
+/// pair.
 QString showText(const FormatDirective &directive, const QString &text)
 {
     if (!directive.precision || *directive.precision >= text.size())
@@ -102,8 +103,8 @@ QString showCharacter(const FormatDirective &directive, const FormatArgument::In
     return padded(directive, QString(QChar(code)));
 }
 
-/// The argument as the directive asks for it; nothing when it is of another kind or the conversion is
-/// unknown.
+/// Formats the argument for the directive. Returns std::nullopt if the argument has another type or the
+/// conversion is unknown.
 std::optional<QString> show(const FormatDirective &directive, const FormatArgument &argument)
 {
     const FormatArgument::Value &value = argument.value();
@@ -134,7 +135,7 @@ std::optional<QString> show(const FormatDirective &directive, const FormatArgume
     return std::nullopt;
 }
 
-/// Hands out the arguments in order.
+/// The arguments of a call, read in order or by position.
 class ArgumentList {
 public:
     explicit ArgumentList(std::span<const FormatArgument> arguments)
@@ -142,17 +143,18 @@ public:
     {
     }
 
-    /// Null when there is none left.
+    /// Returns the next argument; null if none is left.
     const FormatArgument *next() { return m_next < m_arguments.size() ? &m_arguments[m_next++] : nullptr; }
 
-    /// The argument at a position counted from 1; null when there is none.
+    /// Returns the argument at the position, counted from 1; null if there is none.
     const FormatArgument *at(int position) const
     {
         const auto index = static_cast<std::size_t>(position) - 1;
         return position >= 1 && index < m_arguments.size() ? &m_arguments[index] : nullptr;
     }
 
-    /// The value of a "*"; nothing when there is no argument or it is no number.
+    /// Returns the next argument as the value of a "*"; std::nullopt if no argument is left or it is not an
+    /// integer.
     std::optional<int> nextExtent()
     {
         const FormatArgument *const argument = next();
@@ -169,7 +171,8 @@ private:
     std::size_t m_next = 0;
 };
 
-/// Replaces "*" by the arguments' values; false when one is missing or no number.
+/// Replaces "*" with the values of the arguments. Returns false if an argument is missing or is not an
+/// integer.
 bool resolveExtents(FormatDirective *directive, ArgumentList *arguments)
 {
     if (directive->starWidth) {

@@ -8,9 +8,9 @@
 namespace platform {
 inline namespace text {
 
-/// The integer that a text begins with, as a person's entry in a number field is read: leading
-/// blanks are passed over, a sign may follow, then the digits up to the first other character.
-/// 0 when there is no number; a number beyond 32 bits gives the nearest 32-bit value.
+/// Returns the integer at the beginning of a text, as in an entry of a number field: leading white space is
+/// skipped, a sign may follow, then digits up to the first other character. Returns 0 if there is no number,
+/// and the nearest 32-bit value for a number outside the 32-bit range.
 std::int32_t integerValue(QStringView text);
 
 } // namespace text

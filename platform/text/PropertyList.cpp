@@ -43,7 +43,7 @@ void forEachEntry(plist_t dictionary, const Action &action)
 
 QString toText(plist_t string)
 {
-    // Not plist_get_string_val(), which ends the program when the text holds U+0000.
+    // plist_get_string_val() is not used: it terminates the program if the string contains U+0000.
     std::uint64_t length = 0;
     const char *const text = plist_get_string_ptr(string, &length);
     return QString::fromUtf8(text, static_cast<qsizetype>(length));

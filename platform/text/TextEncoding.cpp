@@ -14,12 +14,12 @@ inline namespace text {
 
 namespace {
 
-/// The character set of the locale that the environment asks for.
+/// Returns the character set of the locale that the environment selects.
 std::string environmentCharset()
 {
     const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
     if (!locale)
-        return "US-ASCII"; // the C locale: an unknown locale name falls back to it
+        return "US-ASCII"; // an unknown locale name falls back to the C locale
     std::string charset = nl_langinfo_l(CODESET, locale);
     freelocale(locale);
     return charset;
@@ -39,8 +39,8 @@ const TextEncoding &required(const char *name, std::optional<TextEncoding> encod
     return *kept.emplace_back(std::make_unique<TextEncoding>(*std::move(encoding)));
 }
 
-/// Leaves the error that ICU found as it is. ICU's own callback of that purpose passes over invisible
-/// characters, so that a soft hyphen would count as ASCII and vanish from the bytes.
+/// Leaves the error status of ICU unchanged. ICU's own callback for this purpose skips invisible characters:
+/// a soft hyphen would count as ASCII and be missing in the bytes.
 void U_CALLCONV stopAtUnencodable(const void *, UConverterFromUnicodeArgs *, const UChar *, int32_t, UChar32,
                                   UConverterCallbackReason, UErrorCode *)
 {
@@ -80,7 +80,7 @@ const TextEncoding &TextEncoding::system()
 
 void TextEncoding::refreshSystem()
 {
-    // A character set that ICU does not know is as good as none: its ASCII part is what is left.
+    // If ICU does not know the character set, only its ASCII part can be used.
     std::optional<TextEncoding> encoding = named(environmentCharset().c_str());
     systemEncoding() = encoding ? encoding : ascii();
 }
@@ -140,7 +140,7 @@ std::optional<QByteArray> TextEncoding::encode(const QString &text) const
 std::optional<QString> TextEncoding::decode(const QByteArray &bytes) const
 {
     UErrorCode status = U_ZERO_ERROR;
-    // No encoding yields more than two UTF-16 units for a byte.
+    // No encoding decodes one byte to more than two UTF-16 units.
     QString text(2 * bytes.size() + 1, Qt::Uninitialized);
     const int32_t length = ucnv_toUChars(m_converter.get(), reinterpret_cast<UChar *>(text.data()),
                                          static_cast<int32_t>(text.size()), bytes.constData(),
