@@ -40,7 +40,7 @@ void examineOption(host::PpdFile &ppd, const host::PpdOption &option)
             (parameter.number < parameter.minimum || parameter.number > parameter.maximum))
             qFatal("the parameter \"%s\" is outside its limits", parameter.name.constData());
     if (!parameters.empty())
-        ppd.mark(keyword, QString::fromUtf8(host::freeChoiceValue(parameters)));
+        ppd.mark(keyword, QString::fromUtf8(host::customChoiceValue(parameters)));
     options.markedChoices(option.keyword);
 }
 

@@ -233,7 +233,7 @@ void Bench::planSilent()
     Measurement &qt = plan(QStringLiteral("Qt"), "silent", server);
     qt.runs = 1;
     qt.warmsUp = false;
-    qt.patience = std::chrono::seconds(20);
+    qt.timeout = std::chrono::seconds(20);
     if (m_commands.contains(QStringLiteral("GTK")))
         plan(QStringLiteral("GTK"), "silent", server);
     plan(QStringLiteral("kvprint"), "silent", server);
@@ -242,7 +242,7 @@ void Bench::planSilent()
 void Bench::planEmptyCache()
 {
     Measurement &fast = plan(QStringLiteral("kvprint"), "fast, empty cache", address(m_cupsd.port()));
-    fast.panelPatience = std::chrono::seconds(5);
+    fast.panelTimeout = std::chrono::seconds(5);
     fast.hasEmptyCache = true;
     fast.complete = m_completeAtLast;
     Measurement &silent = plan(QStringLiteral("kvprint"), "silent, empty cache", address(m_silent.port()));

@@ -20,7 +20,7 @@ constexpr std::chrono::seconds screenPatience{5};
 constexpr std::chrono::milliseconds memoryTime{300};
 constexpr std::chrono::milliseconds settlingTime{2500};
 /// Texts of the printer's state come and go; without the panel far more is different.
-constexpr double mostDifference = 0.03;
+constexpr double maxDifference = 0.03;
 
 double milliseconds(Clock::duration time)
 {
@@ -78,7 +78,7 @@ void Measurer::run(Measurement &measurement, bool isWarmUp)
         qFatal("a window does not go away");
     const Opening opening(measurement.command, environment(measurement.server, measurement.hasEmptyCache),
                           output());
-    const auto first = m_watch.waitForPainting(opening.start() + measurement.patience, hasContent);
+    const auto first = m_watch.waitForPainting(opening.start() + measurement.timeout, hasContent);
     if (isWarmUp)
         return;
     if (!first) {
@@ -97,13 +97,13 @@ void Measurer::notePanel(Measurement &measurement, const WindowWatch::Painting &
                          Clock::time_point start)
 {
     const auto hasPanel = [&](const QImage &picture) {
-        return difference(picture, measurement.complete) <= mostDifference;
+        return difference(picture, measurement.complete) <= maxDifference;
     };
     if (hasPanel(first.picture)) {
         measurement.panelPainted.push_back(milliseconds(first.time - start));
         return;
     }
-    const auto later = m_watch.waitForPainting(first.time + measurement.panelPatience, hasPanel);
+    const auto later = m_watch.waitForPainting(first.time + measurement.panelTimeout, hasPanel);
     if (later)
         measurement.panelPainted.push_back(milliseconds(later->time - start));
     else

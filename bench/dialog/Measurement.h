@@ -24,11 +24,11 @@ struct Measurement {
     /// The program starts without the files of earlier runs.
     bool hasEmptyCache = false;
     /// The timeout for the window.
-    std::chrono::milliseconds patience{30000};
+    std::chrono::milliseconds timeout{30000};
     /// The window with the panel visible; a null image for a program without a panel.
     QImage complete;
     /// The timeout for the panel after the first painting.
-    std::chrono::milliseconds panelPatience{0};
+    std::chrono::milliseconds panelTimeout{0};
 
     /// Milliseconds from the program's start to its first painted window.
     std::vector<double> painted;

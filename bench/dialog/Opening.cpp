@@ -50,9 +50,9 @@ Opening::~Opening()
     if (m_process < 0)
         return;
     ::kill(m_process, SIGTERM);
-    const Clock::time_point patience = Clock::now() + std::chrono::seconds(2);
+    const Clock::time_point timeout = Clock::now() + std::chrono::seconds(2);
     while (waitpid(m_process, nullptr, WNOHANG) == 0) {
-        if (Clock::now() > patience)
+        if (Clock::now() > timeout)
             ::kill(m_process, SIGKILL);
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }

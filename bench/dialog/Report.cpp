@@ -35,7 +35,7 @@ QByteArray row(const Measurement &measurement)
             cell(number(measurement.memory, 0.5), 7);
     if (measurement.withoutWindow > 0)
         text += QByteArray::number(measurement.withoutWindow) + " without a window in " +
-                QByteArray::number(static_cast<qlonglong>(measurement.patience.count())) + " ms";
+                QByteArray::number(static_cast<qlonglong>(measurement.timeout.count())) + " ms";
     if (measurement.withoutPanel > 0)
         text += QByteArray::number(measurement.withoutPanel) + " without the panel";
     return text.trimmed() + '\n';

@@ -66,7 +66,7 @@ void WindowWatch::takeEvent(const void *event)
     }
 }
 
-bool WindowWatch::takeEvents(Clock::time_point end)
+bool WindowWatch::processEvents(Clock::time_point end)
 {
     bool hasAny = false;
     for (;;) {
@@ -119,7 +119,7 @@ QImage WindowWatch::grab(const QRect &area)
 
 QImage WindowWatch::picture()
 {
-    takeEvents(Clock::now());
+    processEvents(Clock::now());
     const std::optional<QRect> window = shownWindow();
     return window ? grab(*window) : QImage();
 }
@@ -127,7 +127,7 @@ QImage WindowWatch::picture()
 std::optional<WindowWatch::Painting>
 WindowWatch::waitForPainting(Clock::time_point end, const std::function<bool(const QImage &)> &accept)
 {
-    while (takeEvents(end)) {
+    while (processEvents(end)) {
         const Clock::time_point now = Clock::now();
         const std::optional<QRect> window = shownWindow();
         if (!m_isDrawn || !window)
@@ -142,9 +142,9 @@ WindowWatch::waitForPainting(Clock::time_point end, const std::function<bool(con
 
 bool WindowWatch::waitForEmptyScreen(Clock::time_point end)
 {
-    takeEvents(Clock::now());
+    processEvents(Clock::now());
     while (shownWindow()) {
-        if (!takeEvents(end))
+        if (!processEvents(end))
             return false;
     }
     m_isDrawn = false;

@@ -52,7 +52,7 @@ private:
     using Owned = std::unique_ptr<Type, Free>;
 
     /// Processes all pending events; false when none arrived until then.
-    bool takeEvents(Clock::time_point end);
+    bool processEvents(Clock::time_point end);
     void takeEvent(const void *event);
     bool isShown(const QRect &area) const;
     std::optional<QRect> shownWindow() const;

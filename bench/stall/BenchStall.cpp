@@ -94,11 +94,11 @@ int main(int argc, char **argv)
     // Interleaved, so that other load of the machine affects all alike; the first round only warms up.
     for (int round = 0; round <= runs; ++round) {
         for (Row &row : measured) {
-            application.takeLongest();
+            application.resetMax();
             const Duration unanswered = scenarios.run(row.scenario);
             if (round == 0)
                 continue;
-            row.events.push_back(application.takeLongest());
+            row.events.push_back(application.resetMax());
             row.unanswered.push_back(unanswered);
         }
         std::fprintf(stderr, "round %d of %d\n", round, runs);

@@ -144,7 +144,7 @@ StallScenarios::Duration StallScenarios::damagedPpd()
     overwritePpd(name, damagedPpdText());
     open(name);
     StallWatch watch;
-    waitUntil([this] { return session->ppdKnowledge() == host::PpdKnowledge::Failed; });
+    waitUntil([this] { return session->ppdState() == host::PpdState::Failed; });
     const Duration longest = watch.longest();
     close();
     cupsd->removeQueue(name);

@@ -20,7 +20,7 @@ TimedApplication::Duration processorTime()
 
 } // namespace
 
-TimedApplication::Duration TimedApplication::takeLongest()
+TimedApplication::Duration TimedApplication::resetMax()
 {
     return std::exchange(m_longest, Duration(0));
 }

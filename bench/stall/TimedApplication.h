@@ -18,7 +18,7 @@ public:
     /// Begins to measure events, or ends it. An event that is being delivered is not measured.
     void setMeasuring(bool measuring) { m_isMeasuring = measuring; }
     /// The longest event that was measured since the last call.
-    Duration takeLongest();
+    Duration resetMax();
 
     bool notify(QObject *receiver, QEvent *event) override;
 

@@ -66,9 +66,9 @@ public:
         : m_application(application)
         , m_document(std::move(host::LabelDocument::open(path)).value())
         , m_keeper(std::make_unique<host::PrinterSetup>(host::Destination(), openTapePpd(m_sandbox),
-                                                        host::SetupWishes(),
+                                                        host::SetupRequest(),
                                                         host::PanelSource{QStringLiteral(KV_BUNDLE), {}}))
-        , m_dialog(m_document, m_keeper, m_sender, dialog::DialogWishes())
+        , m_dialog(m_document, m_keeper, m_sender, dialog::RequestedSettings())
         , m_strip(*m_dialog.findChild<dialog::StripPreview *>())
     {
     }

@@ -53,7 +53,7 @@ BENCHMARK(checkOfOnePaste)
     ->Complexity(benchmark::oN);
 
 /// A rejected key, which the field inserts and then removes.
-void refusedKeyInAField(benchmark::State &state)
+void rejectedKeyInAField(benchmark::State &state)
 {
     QLineEdit field;
     field.setMaxLength(1000000);
@@ -65,7 +65,7 @@ void refusedKeyInAField(benchmark::State &state)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(refusedKeyInAField)->ArgName("characters")->RangeMultiplier(10)->Range(10, 10000);
+BENCHMARK(rejectedKeyInAField)->ArgName("characters")->RangeMultiplier(10)->Range(10, 10000);
 
 } // namespace
 

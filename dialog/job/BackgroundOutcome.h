@@ -12,7 +12,7 @@ inline namespace job {
 
 /// Runs the work on a background thread, runs an event loop until it is complete, and returns its result.
 template<typename Work>
-auto outcomeOf(Work work)
+auto runInBackground(Work work)
 {
     host::Background background;
     QEventLoop loop;

@@ -3,7 +3,7 @@
 
 #include <dialog/widgets/FittedLabel.h>
 #include <dialog/widgets/PlainToolTip.h>
-#include <host/cups/queues/QueueWords.h>
+#include <host/cups/queues/QueueText.h>
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -114,24 +114,24 @@ void DestinationChooser::showChosen()
 
 QString DestinationChooser::stateText() const
 {
-    const bool isFromLastTime = m_session.destinations().isStale();
+    const bool isCached = m_session.destinations().isStale();
     const std::optional<host::CupsError> &error = m_session.listError();
-    const bool wantsPassword = error && error->kind == host::CupsFailure::NotAuthorized;
-    const bool isUntrusted = error && error->kind == host::CupsFailure::Untrusted;
+    const bool needsPassword = error && error->kind == host::CupsErrorKind::NotAuthorized;
+    const bool isUntrusted = error && error->kind == host::CupsErrorKind::Untrusted;
     if (!m_session.chosen())
         return !m_session.isSettled() ? tr("Waiting for the print server's answer…")
-               : wantsPassword        ? tr("The print server wants a password.")
+               : needsPassword        ? tr("The print server wants a password.")
                : isUntrusted          ? tr("The print server is not trusted.")
-               : isFromLastTime       ? tr("The print server does not answer.")
+               : isCached             ? tr("The print server does not answer.")
                                       : tr("There is no such printer.");
     const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
-    if (isFromLastTime && !m_session.isSettled())
+    if (isCached && !m_session.isSettled())
         return tr("Last time: %1").arg(sentences);
-    if (isFromLastTime && wantsPassword)
+    if (isCached && needsPassword)
         return tr("The print server wants a password. Last time: %1").arg(sentences);
-    if (isFromLastTime && isUntrusted)
+    if (isCached && isUntrusted)
         return tr("The print server is not trusted. Last time: %1").arg(sentences);
-    return isFromLastTime ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
+    return isCached ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
 }
 
 void DestinationChooser::enterEvent(QEnterEvent *event)
@@ -145,7 +145,7 @@ void DestinationChooser::enterEvent(QEnterEvent *event)
 void DestinationChooser::showState()
 {
     const QString text = stateText();
-    m_state->setWords(text);
+    m_state->setMessage(text);
     m_state->setToolTip(plainToolTip(text));
     m_list->setAccessibleDescription(text);
     const bool isKnown = m_session.chosen() && !m_session.destinations().isStale();

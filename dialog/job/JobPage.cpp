@@ -17,7 +17,7 @@ inline namespace job {
 
 namespace {
 
-constexpr int highestPriority = 100;
+constexpr int maxPriority = 100;
 
 /// The entry that shows the field for a time.
 const QString atATime = QStringLiteral("time");
@@ -34,7 +34,7 @@ constexpr Synonym synonyms[] = {
     {"immediate", "resume"},
 };
 
-QString plainHold(const QString &hold)
+QString canonicalHold(const QString &hold)
 {
     for (const Synonym &synonym : synonyms) {
         if (hold == QLatin1String(synonym.word))
@@ -65,8 +65,8 @@ void JobPage::build()
 {
     // The maximum length of IPP's type name (RFC 8011), in bytes; sending shortens the name further if
     // needed.
-    constexpr int longestTitle = 255;
-    m_title->setMaxLength(longestTitle);
+    constexpr int maxTitleLength = 255;
+    m_title->setMaxLength(maxTitleLength);
     fillOrientations();
     fillHolds();
     m_time->setAccessibleName(tr("Time to print at"));
@@ -77,7 +77,7 @@ void JobPage::build()
     m_time->setWrapping(true);
     m_time->hide();
     // 0 stands for the queue's default.
-    m_priority->setRange(0, highestPriority);
+    m_priority->setRange(0, maxPriority);
     m_priority->setSpecialValueText(tr("As the queue is set"));
     m_priority->setToolTip(tr("From 1 to 100; jobs with a higher priority are printed before others"));
 
@@ -135,7 +135,7 @@ void JobPage::setSettings(const host::JobSettings &settings)
     showHold(settings.hold.value_or(QString()));
     // lp sends a job with "immediate" at the highest priority, so that it is printed before all others.
     const bool isFirst = settings.hold == QStringLiteral("immediate");
-    m_priority->setValue(settings.priority.value_or(isFirst ? highestPriority : 0));
+    m_priority->setValue(settings.priority.value_or(isFirst ? maxPriority : 0));
 }
 
 void JobPage::showHold(const QString &hold)
@@ -144,7 +144,7 @@ void JobPage::showHold(const QString &hold)
     if (time)
         m_time->setTime(*time);
     m_time->setVisible(time.has_value());
-    const QString entry = time ? atATime : plainHold(hold);
+    const QString entry = time ? atATime : canonicalHold(hold);
     int index = entry.isEmpty() ? 0 : m_hold->findData(entry);
     if (index < 0) {
         m_hold->addItem(entry, entry);

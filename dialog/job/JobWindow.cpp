@@ -33,7 +33,7 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     layout->addWidget(m_words);
     layout->addStretch(1);
     layout->addWidget(buttons);
-    showWords(tr("The job is sent."));
+    showMessage(tr("The job is sent."));
     setMinimumWidth(40 * fontMetrics().averageCharWidth());
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -43,22 +43,22 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     });
     connect(&m_monitor, &host::JobMonitor::changed, this, &JobWindow::showStatus);
     connect(&m_monitor, &host::JobMonitor::failed, this, [this](const host::CupsError &error) {
-        showWords(error.message);
+        showMessage(error.message);
         // Allow another attempt to cancel the job, unless the server does not have it.
-        m_cancel->setEnabled(error.kind != host::CupsFailure::NotFound);
+        m_cancel->setEnabled(error.kind != host::CupsErrorKind::NotFound);
     });
 }
 
-void JobWindow::showWords(const QString &words)
+void JobWindow::showMessage(const QString &words)
 {
-    m_words->setWords(words);
+    m_words->setMessage(words);
     m_words->setAccessibleName(words);
 }
 
 void JobWindow::showStatus(const host::JobStatus &status)
 {
     m_status = status;
-    showWords(status.sentences().join(u'\n'));
+    showMessage(status.sentences().join(u'\n'));
     m_cancel->setEnabled(!status.isOver());
     if (status.state == host::JobState::Completed)
         accept();

@@ -30,7 +30,7 @@ public:
     const std::optional<host::JobStatus> &status() const { return m_status; }
 
 private:
-    void showWords(const QString &words);
+    void showMessage(const QString &words);
     void showStatus(const host::JobStatus &status);
 
     host::JobMonitor m_monitor;

@@ -21,17 +21,17 @@ void LeftJobBanner::lookForJobs()
 {
     host::JobJournal::Left left = host::JobJournal().left();
     m_jobs = std::move(left.jobs);
-    m_news = left.damages;
+    m_messages = left.damages;
     showNext();
 }
 
 void LeftJobBanner::showNext()
 {
     if (m_jobs.empty()) {
-        setMessage(m_news.join(u'\n'), m_news.isEmpty() ? QString() : tr("Dismiss"));
+        setMessage(m_messages.join(u'\n'), m_messages.isEmpty() ? QString() : tr("Dismiss"));
         return;
     }
-    const QStringList sentences = m_news + QStringList{host::leftJobSentence(m_jobs.front())};
+    const QStringList sentences = m_messages + QStringList{host::leftJobSentence(m_jobs.front())};
     setMessage(sentences.join(u'\n'), tr("Cancel the job"), tr("Print what is there"));
 }
 
@@ -39,7 +39,7 @@ void LeftJobBanner::settle(host::LeftJobAction action)
 {
     // The buttons cannot be pressed again until the server has responded.
     setEnabled(false);
-    m_server.passwords->forgetRefusal();
+    m_server.passwords->resetRefusal();
     m_background.start([this, server = m_server, job = m_jobs.front(), action](host::BackgroundTask &task) {
         const auto outcome = host::settleLeftJob(server, job, action, task);
         task.deliver([this, outcome] { takeOutcome(outcome); });
@@ -51,7 +51,7 @@ void LeftJobBanner::takeOutcome(const host::Result<QString, host::CupsError> &ou
     setEnabled(true);
     if (outcome)
         m_jobs.erase(m_jobs.begin());
-    m_news = {outcome ? outcome.value() : outcome.error().message};
+    m_messages = {outcome ? outcome.value() : outcome.error().message};
     showNext();
 }
 

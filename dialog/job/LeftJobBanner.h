@@ -29,7 +29,7 @@ private:
     host::CupsServer m_server;
     std::vector<host::JobRecord> m_jobs;
     /// Shown before the sentence about the next job: the damaged files, or the result for the previous job.
-    QStringList m_news;
+    QStringList m_messages;
     host::Background m_background;
 };
 

@@ -21,7 +21,7 @@ PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     , m_copies(new QSpinBox(this))
     , m_collate(new QCheckBox(tr("Set &by set"), this))
     , m_pages(new QLineEdit(this))
-    , m_lastFirst(new QCheckBox(tr("Last page first"), this))
+    , m_reverse(new QCheckBox(tr("Last page first"), this))
 {
     build();
     show();
@@ -30,7 +30,7 @@ PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
 
 void PageOptions::build()
 {
-    m_copies->setRange(1, host::mostCopies);
+    m_copies->setRange(1, host::maxCopies);
     m_copies->setAccelerated(true);
     m_collate->setToolTip(
         tr("All pages once, then all pages again; otherwise all copies of a page together"));
@@ -41,34 +41,34 @@ void PageOptions::build()
     layout->addRow(tr("&Copies"), m_copies);
     layout->addRow(QString(), m_collate);
     layout->addRow(tr("Pa&ges"), m_pages);
-    layout->addRow(QString(), m_lastFirst);
+    layout->addRow(QString(), m_reverse);
 }
 
 void PageOptions::connectAll()
 {
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
-        m_wishes.copies = copies;
+        m_requested.copies = copies;
         m_collate->setEnabled(copies > 1);
         Q_EMIT changed();
     });
     // A number that the user has typed is a setting even if it equals the printer's default, because another
     // printer may have another default. QSpinBox does not report such a number as a change.
     connect(m_copies->findChild<QLineEdit *>(), &QLineEdit::textEdited, this, [this] {
-        if (!m_copies->hasAcceptableInput() || m_wishes.copies == m_copies->value())
+        if (!m_copies->hasAcceptableInput() || m_requested.copies == m_copies->value())
             return;
-        m_wishes.copies = m_copies->value();
+        m_requested.copies = m_copies->value();
         Q_EMIT changed();
     });
     connect(m_collate, &QCheckBox::toggled, this, [this](bool isOn) {
-        m_wishes.collate = isOn ? Collate::Yes : Collate::No;
+        m_requested.collate = isOn ? Collate::Yes : Collate::No;
         Q_EMIT changed();
     });
     connect(m_pages, &QLineEdit::textChanged, this, [this](const QString &text) {
-        m_wishes.pageRanges = text;
+        m_requested.pageRanges = text;
         Q_EMIT changed();
     });
-    connect(m_lastFirst, &QCheckBox::toggled, this, [this](bool isOn) {
-        m_wishes.order = isOn ? PageOrder::LastFirst : PageOrder::FirstFirst;
+    connect(m_reverse, &QCheckBox::toggled, this, [this](bool isOn) {
+        m_requested.order = isOn ? PageOrder::Reverse : PageOrder::Normal;
         Q_EMIT changed();
     });
 }
@@ -76,23 +76,23 @@ void PageOptions::connectAll()
 void PageOptions::show()
 {
     const QSignalBlocker quiet[] = {QSignalBlocker(m_copies), QSignalBlocker(m_collate),
-                                    QSignalBlocker(m_pages), QSignalBlocker(m_lastFirst)};
-    const host::JobSettings shown = withDefaults(m_wishes, m_defaults);
+                                    QSignalBlocker(m_pages), QSignalBlocker(m_reverse)};
+    const host::JobSettings shown = withDefaults(m_requested, m_defaults);
     m_copies->setValue(shown.copies.value_or(1));
     m_collate->setChecked(shown.collate == Collate::Yes);
     m_collate->setEnabled(m_copies->value() > 1);
     m_pages->setText(shown.pageRanges.value_or(QString()));
-    m_lastFirst->setChecked(shown.order == PageOrder::LastFirst);
+    m_reverse->setChecked(shown.order == PageOrder::Reverse);
 }
 
 host::Result<host::PageChoices, host::PageRangeError> PageOptions::choices() const
 {
-    return host::choosePages(m_wishes, m_defaults, m_pageCounts);
+    return host::choosePages(m_requested, m_defaults, m_pageCounts);
 }
 
 void PageOptions::setSettings(const host::JobSettings &settings)
 {
-    m_wishes = settings;
+    m_requested = settings;
     show();
 }
 
@@ -106,11 +106,11 @@ void PageOptions::setDefaults(const host::JobSettings &defaults)
 
 void PageOptions::writeTo(host::JobSettings &settings) const
 {
-    settings.copies = m_wishes.copies;
-    settings.collate = m_wishes.collate;
-    settings.pageRanges = m_wishes.pageRanges;
-    settings.pageSet = m_wishes.pageSet;
-    settings.order = m_wishes.order;
+    settings.copies = m_requested.copies;
+    settings.collate = m_requested.collate;
+    settings.pageRanges = m_requested.pageRanges;
+    settings.pageSet = m_requested.pageSet;
+    settings.order = m_requested.order;
 }
 
 } // namespace job

@@ -23,7 +23,7 @@ public:
     /// Returns the pages that will be printed, or an error if they cannot be printed.
     host::Result<host::PageChoices, host::PageRangeError> choices() const;
     /// Shows the requested settings without emitting a signal. Absent values stand for the printer's
-    /// defaults. Copies are limited to 1 to host::mostCopies; the text of the pages is kept unchanged,
+    /// defaults. Copies are limited to 1 to host::maxCopies; the text of the pages is kept unchanged,
     /// choices() checks it.
     void setSettings(const host::JobSettings &settings);
     /// Shows the defaults of another printer for the values that are not set, without emitting a signal.
@@ -42,12 +42,12 @@ private:
     void show();
 
     std::vector<int> m_pageCounts;
-    host::JobSettings m_wishes;
+    host::JobSettings m_requested;
     host::JobSettings m_defaults;
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QLineEdit *m_pages;
-    QCheckBox *m_lastFirst;
+    QCheckBox *m_reverse;
 };
 
 } // namespace job

@@ -39,7 +39,7 @@ PasswordDialog::PasswordDialog(const host::PasswordRequest &request, QWidget *pa
 
 PasswordDialog::~PasswordDialog()
 {
-    m_request.refuse();
+    m_request.reject();
 }
 
 void PasswordDialog::done(int result)
@@ -47,7 +47,7 @@ void PasswordDialog::done(int result)
     if (result == Accepted)
         m_request.answer(m_user->text(), m_password->text());
     else
-        m_request.refuse();
+        m_request.reject();
     QDialog::done(result);
 }
 

@@ -18,7 +18,7 @@ QueueSender::QueueSender(host::CupsServer server, QObject *parent)
         Q_EMIT sent();
     });
     connect(&m_submission, &host::JobSubmission::failed, this, [this](const host::CupsError &error) {
-        Q_EMIT failed(error.kind == host::CupsFailure::Cancelled ? QString() : error.message);
+        Q_EMIT failed(error.kind == host::CupsErrorKind::Canceled ? QString() : error.message);
     });
 }
 

@@ -25,8 +25,8 @@ SendBar::SendBar(QWidget *parent)
     layout->addWidget(m_cancel);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
         // Acknowledge the click: canceling a job on a slow server takes a while.
-        showStopping();
-        Q_EMIT cancelled();
+        showCanceling();
+        Q_EMIT canceled();
     });
     hide();
 }
@@ -51,7 +51,7 @@ void SendBar::setProgress(int percent)
     m_bar->setValue(qMax(percent, 0));
 }
 
-void SendBar::showStopping()
+void SendBar::showCanceling()
 {
     m_cancel->setEnabled(false);
 }

@@ -23,13 +23,13 @@ public:
     /// Shows the progress in percent; -1 if it is not known.
     void setProgress(int percent);
     /// Disables the button while the job is being canceled, which takes a while on a slow connection.
-    void showStopping();
+    void showCanceling();
     /// Hides the bar.
     void end();
 
 Q_SIGNALS:
     /// Emitted when the user presses the button.
-    void cancelled();
+    void canceled();
 
 private:
     QLabel *m_title;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TrustDialog.h"
 
-#include "TrustWords.h"
+#include "TrustText.h"
 
 #include <dialog/widgets/QuestionParent.h>
 
@@ -29,7 +29,7 @@ TrustDialog::TrustDialog(const host::TrustRequest &request, QWidget *parent)
     : QMessageBox(parent)
     , m_request(request)
 {
-    const TrustWords words(request);
+    const TrustText words(request);
     setAttribute(Qt::WA_DeleteOnClose);
     setIcon(Warning);
     setTextFormat(Qt::PlainText);
@@ -48,7 +48,7 @@ TrustDialog::TrustDialog(const host::TrustRequest &request, QWidget *parent)
 
 TrustDialog::~TrustDialog()
 {
-    m_request.refuse();
+    m_request.reject();
 }
 
 host::TrustHandler askTrustWithDialog(QWidget *parent)

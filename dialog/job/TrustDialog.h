@@ -14,7 +14,7 @@ class TrustDialog : public QMessageBox {
     Q_OBJECT
 
 public:
-    /// Shows the question as TrustWords describes it.
+    /// Shows the question as TrustText describes it.
     TrustDialog(const host::TrustRequest &request, QWidget *parent);
 
     /// Declines the request if it has not been granted.

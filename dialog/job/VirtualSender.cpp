@@ -21,8 +21,8 @@ void VirtualSender::send(const ReadyJob &job)
         Q_EMIT failed(tr("The PPD file names no paper to print on"));
         return;
     }
-    const QString folder = m_folder.value_or(host::VirtualPrinter::freshFolder());
-    const QImage picture = m_takePicture ? m_takePicture() : QImage();
+    const QString folder = m_folder.value_or(host::VirtualPrinter::unusedFolder());
+    const QImage picture = m_screenshot ? m_screenshot() : QImage();
     const host::PrintedStrip strip{*job.plan, *job.renderer, job.ticket.document, job.ticket.printer,
                                    job.ticket.paper->text};
     const QJsonObject options = host::printedJobJson(job.ticket, job.document, job.ppdPath, *job.plan);
@@ -32,7 +32,7 @@ void VirtualSender::send(const ReadyJob &job)
         Q_EMIT failed(printed.error().message);
         return;
     }
-    m_usedFolder = QDir(folder).absolutePath();
+    m_lastFolder = QDir(folder).absolutePath();
     Q_EMIT sent();
 }
 

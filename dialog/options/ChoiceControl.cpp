@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ChoiceControl.h"
 
-#include "FreeChoiceFields.h"
+#include "CustomValueFields.h"
 
 #include <dialog/widgets/PlainToolTip.h>
 
@@ -48,8 +48,8 @@ QStringList ChoiceControl::texts() const
         const QString name = QString::fromUtf8(choice.name);
         texts.append(uses[choice.text] == 1 ? choice.text : tr("%1 (%2)").arg(choice.text, name));
     }
-    if (m_option.freeText)
-        texts.append(tr("%1\u2026", "a choice whose value is still to be given").arg(*m_option.freeText));
+    if (m_option.customText)
+        texts.append(tr("%1\u2026", "a choice whose value is still to be given").arg(*m_option.customText));
     return texts;
 }
 
@@ -64,7 +64,7 @@ void ChoiceControl::choose(int index)
         return;
     const auto chosenIndex = static_cast<std::size_t>(index);
     if (chosenIndex == m_option.choices.size()) {
-        chooseFree();
+        chooseCustom();
         return;
     }
     m_isWaiting = false;
@@ -72,7 +72,7 @@ void ChoiceControl::choose(int index)
     Q_EMIT chosen(m_option.choices[chosenIndex].name);
 }
 
-void ChoiceControl::chooseFree()
+void ChoiceControl::chooseCustom()
 {
     showFields(true);
     m_fields->setFocus();
@@ -84,9 +84,9 @@ void ChoiceControl::chooseFree()
 void ChoiceControl::showFields(bool show)
 {
     if (show && !m_fields) {
-        m_fields = new FreeChoiceFields(m_parameters, this);
+        m_fields = new CustomValueFields(m_parameters, this);
         column()->insertWidget(1, m_fields);
-        connect(m_fields, &FreeChoiceFields::edited, this, [this] {
+        connect(m_fields, &CustomValueFields::edited, this, [this] {
             m_isWaiting = false;
             Q_EMIT chosen(m_fields->value());
         });
@@ -99,7 +99,7 @@ void ChoiceControl::showMarked(const host::PpdOptions &options)
 {
     const std::vector<QByteArray> marked = options.markedChoices(keyword());
     const QByteArray now = marked.empty() ? QByteArray() : marked.front();
-    m_parameters = m_option.freeText ? options.parameters(keyword()) : std::vector<host::PpdParameter>();
+    m_parameters = m_option.customText ? options.parameters(keyword()) : std::vector<host::PpdParameter>();
     // Other options may be marked while the user types a value; the marked choice of this option is unchanged
     // then.
     if (m_isWaiting && now == m_marked)
@@ -107,7 +107,7 @@ void ChoiceControl::showMarked(const host::PpdOptions &options)
     m_isWaiting = false;
     m_marked = now;
     const auto found = std::ranges::find(m_option.choices, now, &host::PpdChoice::name);
-    const bool isFree = m_option.freeText && qstricmp(now.constData(), host::freeChoiceName) == 0;
+    const bool isFree = m_option.customText && qstricmp(now.constData(), host::customChoiceName) == 0;
     const bool isKnown = isFree || found != m_option.choices.end();
     m_list->setCurrentIndex(isKnown ? static_cast<int>(found - m_option.choices.begin()) : -1);
     showFields(isFree);

@@ -8,7 +8,7 @@ class QComboBox;
 namespace dialog {
 inline namespace options {
 
-class FreeChoiceFields;
+class CustomValueFields;
 
 /// A combo box with the choices of an option that has one choice at a time. If the option allows custom
 /// values, the last entry ("Custom…") shows the fields for one.
@@ -29,7 +29,7 @@ protected:
 private:
     QStringList texts() const;
     void choose(int index);
-    void chooseFree();
+    void chooseCustom();
     void showFields(bool show);
 
     host::PpdOption m_option;
@@ -37,7 +37,7 @@ private:
     QByteArray m_marked;
     QComboBox *m_list;
     /// Created when a custom value is first shown.
-    FreeChoiceFields *m_fields = nullptr;
+    CustomValueFields *m_fields = nullptr;
     /// The user selected the custom value, but has not yet entered a value that a job can contain.
     bool m_isWaiting = false;
 };

@@ -22,7 +22,7 @@ ConflictBanner::ConflictBanner(host::SetupKeeper &keeper, QWidget *parent)
     connect(this, &Banner::remedyClicked, this, [this] {
         if (m_keeper.setup() && m_shownRemedy)
             m_keeper.setup()->apply(host::Remedy(*m_shownRemedy));
-        Q_EMIT remedied();
+        Q_EMIT remedyApplied();
     });
 }
 

@@ -29,7 +29,7 @@ public:
 
 Q_SIGNALS:
     /// Emitted when the remedy has been applied to the printer's options.
-    void remedied();
+    void remedyApplied();
 
 private:
     host::SetupKeeper &m_keeper;

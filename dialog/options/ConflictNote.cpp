@@ -13,7 +13,7 @@ inline namespace options {
 namespace {
 
 /// The dialog's banner shows more.
-constexpr qsizetype mostSentences = 2;
+constexpr qsizetype maxSentences = 2;
 
 } // namespace
 
@@ -42,10 +42,10 @@ void ConflictNote::setSentences(const QStringList &sentences)
         return;
     if (!m_text)
         build();
-    QStringList shown = sentences.first(qMin(sentences.size(), mostSentences));
+    QStringList shown = sentences.first(qMin(sentences.size(), maxSentences));
     if (shown.size() < sentences.size())
         shown.append(QStringLiteral("\u2026"));
-    m_text->setWords(shown.join(u'\n'));
+    m_text->setMessage(shown.join(u'\n'));
     setToolTip(plainToolTip(sentences.join(u'\n')));
     setAccessibleName(sentences.join(u' '));
     setVisible(!sentences.isEmpty());

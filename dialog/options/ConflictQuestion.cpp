@@ -16,7 +16,7 @@ struct ConflictQuestionText {
 
 } // namespace
 
-bool sendsInSpiteOf(const QString &sentences, QWidget *parent)
+bool confirmConflicts(const QString &sentences, QWidget *parent)
 {
     QMessageBox question(QMessageBox::Warning, parent->windowTitle(),
                          ConflictQuestionText::tr("The printer cannot do all of these together."),

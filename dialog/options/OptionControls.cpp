@@ -2,7 +2,7 @@
 #include "OptionControls.h"
 
 #include "ChoiceControl.h"
-#include "ManyControl.h"
+#include "PickManyControl.h"
 #include "SwitchControl.h"
 
 namespace dialog {
@@ -11,7 +11,7 @@ inline namespace options {
 OptionControl *makeOptionControl(const host::PpdOption &option, QWidget *parent)
 {
     if (option.kind == host::PpdOptionKind::PickMany)
-        return new ManyControl(option, parent);
+        return new PickManyControl(option, parent);
     if (SwitchControl::suits(option))
         return new SwitchControl(option, parent);
     return new ChoiceControl(option, parent);

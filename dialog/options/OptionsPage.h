@@ -45,7 +45,7 @@ public:
 
 Q_SIGNALS:
     /// Emitted when the user has chosen a value: the PPD name of a choice, a comma-separated list of names
-    /// for a PickMany option, or a custom value as host::freeChoiceValue() writes it. The value is empty if
+    /// for a PickMany option, or a custom value as host::customChoiceValue() writes it. The value is empty if
     /// no choice of a PickMany option is selected and the PPD has no choice that means "none".
     void chosen(const QByteArray &keyword, const QByteArray &value);
 

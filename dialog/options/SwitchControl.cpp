@@ -39,7 +39,7 @@ bool SwitchControl::suits(const host::PpdOption &option)
         return findChoice(option, pair.on) && findChoice(option, pair.off);
     });
     return option.kind == host::PpdOptionKind::Boolean && option.choices.size() == 2 && isPair &&
-           !option.freeText;
+           !option.customText;
 }
 
 SwitchControl::SwitchControl(const host::PpdOption &option, QWidget *parent)

@@ -10,7 +10,7 @@ inline namespace paper {
 
 namespace {
 
-QString limitsInWords(double minimum, double maximum)
+QString limitsText(double minimum, double maximum)
 {
     return CustomPaperFields::tr("%1 to %2", "the smallest and the largest length")
         .arg(exactLength(minimum), exactLength(maximum));
@@ -23,8 +23,8 @@ CustomPaperFields::CustomPaperFields(const host::PpdCustomLimits &limits, QWidge
     , m_width(new LengthField(limits.smallest.width(), limits.largest.width(), this))
     , m_length(new LengthField(limits.smallest.height(), limits.largest.height(), this))
 {
-    m_width->setToolTip(limitsInWords(limits.smallest.width(), limits.largest.width()));
-    m_length->setToolTip(limitsInWords(limits.smallest.height(), limits.largest.height()));
+    m_width->setToolTip(limitsText(limits.smallest.width(), limits.largest.width()));
+    m_length->setToolTip(limitsText(limits.smallest.height(), limits.largest.height()));
     m_width->setAccessibleName(tr("Paper width"));
     m_length->setAccessibleName(tr("Paper length"));
     auto *const form = new QFormLayout(this);

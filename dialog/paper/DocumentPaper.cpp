@@ -60,7 +60,7 @@ bool fitsExactly(const host::PpdPaper &paper, const QSizeF &page)
 }
 
 std::optional<host::PpdPaper> paperForPage(const std::vector<host::PpdPaper> &papers, const QSizeF &page,
-                                           const FreeSize &freeSize)
+                                           const CustomSize &customSize)
 {
     if (page.isEmpty())
         return std::nullopt;
@@ -69,7 +69,7 @@ std::optional<host::PpdPaper> paperForPage(const std::vector<host::PpdPaper> &pa
     if (nearest && (isRounded || fitsExactly(*nearest, page)))
         return *nearest;
     for (const QSizeF &size : {page, page.transposed()}) {
-        if (std::optional<host::PpdPaper> paper = freeSize(size))
+        if (std::optional<host::PpdPaper> paper = customSize(size))
             return paper;
     }
     return nearest ? std::optional(*nearest) : std::nullopt;

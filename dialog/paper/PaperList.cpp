@@ -73,11 +73,11 @@ PaperList::PaperList(QWidget *parent)
     });
 }
 
-void PaperList::setPapers(const std::vector<host::PpdPaper> &papers, bool takesCustom)
+void PaperList::setPapers(const std::vector<host::PpdPaper> &papers, bool allowsCustom)
 {
     const QSignalBlocker quiet(this);
     clear();
-    if (takesCustom) {
+    if (allowsCustom) {
         auto *const item = new QListWidgetItem(tr("Custom size\u2026"), this);
         item->setData(EntryRole, customEntry);
     }
@@ -94,7 +94,7 @@ void PaperList::setPapers(const std::vector<host::PpdPaper> &papers, bool takesC
     }
     for (std::size_t index = 0; groups.empty() && index < papers.size(); ++index)
         add(index, {});
-    dressHeadings();
+    styleHeadings();
     fitWidth();
 }
 
@@ -113,7 +113,7 @@ void PaperList::addPaper(const host::PpdPaper &paper, const QString &text, int e
     item->setToolTip(plainToolTip(toolTipText(paper)));
 }
 
-void PaperList::dressHeadings()
+void PaperList::styleHeadings()
 {
     // Headings have another background. Bold text would need a second font, which would be loaded for this
     // purpose only.
@@ -199,7 +199,7 @@ void PaperList::changeEvent(QEvent *event)
     QListWidget::changeEvent(event);
     const QEvent::Type changes[] = {QEvent::PaletteChange, QEvent::FontChange, QEvent::EnabledChange};
     if (std::ranges::find(changes, event->type()) != std::end(changes))
-        dressHeadings();
+        styleHeadings();
 }
 
 } // namespace paper

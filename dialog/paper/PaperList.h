@@ -20,9 +20,9 @@ public:
     /// Creates an empty list.
     explicit PaperList(QWidget *parent);
 
-    /// Replaces all entries without emitting a signal. If takesCustom is true, the first entry is the one
+    /// Replaces all entries without emitting a signal. If allowsCustom is true, the first entry is the one
     /// for custom sizes: it would be hard to find after hundreds of papers.
-    void setPapers(const std::vector<host::PpdPaper> &papers, bool takesCustom);
+    void setPapers(const std::vector<host::PpdPaper> &papers, bool allowsCustom);
     /// Makes the paper at this index, or customEntry, the current entry without emitting a signal.
     void showEntry(int entry);
     /// Shows only the papers whose texts contain every word of the search, and the entry for custom sizes.
@@ -43,7 +43,7 @@ protected:
 private:
     void addHeading(const QString &title);
     void addPaper(const host::PpdPaper &paper, const QString &text, int entry, const QString &heading);
-    void dressHeadings();
+    void styleHeadings();
     void fitWidth();
 };
 

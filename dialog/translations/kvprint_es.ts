@@ -216,7 +216,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ProblemBanner</name>
+    <name>dialog::job::ErrorBanner</name>
     <message>
         <source>Try again</source>
         <translation>Intentar de nuevo</translation>
@@ -234,7 +234,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::SentPage</name>
+    <name>dialog::job::TicketPage</name>
     <message>
         <source>Option</source>
         <translation>Opción</translation>
@@ -292,7 +292,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::TrustWords</name>
+    <name>dialog::job::TrustText</name>
     <message>
         <source>Connection without encryption</source>
         <translation>Conexión sin cifrar</translation>
@@ -371,7 +371,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
-    <name>dialog::options::FreeChoiceFields</name>
+    <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
         <translation>
@@ -844,7 +844,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
-    <name>host::cups::queues::QueueWords</name>
+    <name>host::cups::queues::QueueText</name>
     <message>
         <source>The printer waits for labels or tape.</source>
         <translation>La impresora espera etiquetas o cinta.</translation>

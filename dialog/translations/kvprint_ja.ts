@@ -216,7 +216,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ProblemBanner</name>
+    <name>dialog::job::ErrorBanner</name>
     <message>
         <source>Try again</source>
         <translation>再試行</translation>
@@ -234,7 +234,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::SentPage</name>
+    <name>dialog::job::TicketPage</name>
     <message>
         <source>Option</source>
         <translation>オプション</translation>
@@ -292,7 +292,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::TrustWords</name>
+    <name>dialog::job::TrustText</name>
     <message>
         <source>Connection without encryption</source>
         <translation>暗号化されていない接続</translation>
@@ -371,7 +371,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
     </message>
 </context>
 <context>
-    <name>dialog::options::FreeChoiceFields</name>
+    <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
         <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
         <translation>
@@ -843,7 +843,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
     </message>
 </context>
 <context>
-    <name>host::cups::queues::QueueWords</name>
+    <name>host::cups::queues::QueueText</name>
     <message>
         <source>The printer waits for labels or tape.</source>
         <translation>ラベルまたはテープの補給を待っています。</translation>

@@ -117,15 +117,15 @@ void Banner::changeEvent(QEvent *event)
 void Banner::fitText()
 {
     // The window's layout ignores the height that a wrapped text needs; set it explicitly.
-    constexpr int mostLines = 4;
+    constexpr int maxLines = 4;
     if (!m_text)
         return;
     const int line = m_text->fontMetrics().lineSpacing();
     // The width is not known until the banner is laid out in the window.
     const int needed = isVisible() ? m_text->heightForWidth(m_view->width()) : line;
-    m_view->setFixedHeight(qBound(line, needed, mostLines * line));
+    m_view->setFixedHeight(qBound(line, needed, maxLines * line));
     // A text that needs scrolling accepts the focus, so that it can be scrolled with the keyboard.
-    m_view->setFocusPolicy(needed > mostLines * line ? Qt::StrongFocus : Qt::NoFocus);
+    m_view->setFocusPolicy(needed > maxLines * line ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 } // namespace widgets

@@ -6,10 +6,10 @@
 namespace dialog {
 inline namespace widgets {
 
-FittedLabel::FittedLabel(int fewestLines, int mostLines, QWidget *parent)
+FittedLabel::FittedLabel(int minLines, int maxLines, QWidget *parent)
     : QLabel(parent)
-    , m_fewestLines(fewestLines)
-    , m_mostLines(mostLines)
+    , m_minLines(minLines)
+    , m_maxLines(maxLines)
 {
     setWordWrap(true);
     setTextFormat(Qt::PlainText);
@@ -19,7 +19,7 @@ FittedLabel::FittedLabel(int fewestLines, int mostLines, QWidget *parent)
     fit();
 }
 
-void FittedLabel::setWords(const QString &words)
+void FittedLabel::setMessage(const QString &words)
 {
     setText(words);
     fit();
@@ -49,7 +49,7 @@ void FittedLabel::fit()
     const int line = fontMetrics().lineSpacing();
     // Before the label is shown, its width is not the final one.
     const int needed = isVisible() ? heightForWidth(width()) : 0;
-    setFixedHeight(qBound(m_fewestLines * line, needed, m_mostLines * line));
+    setFixedHeight(qBound(m_minLines * line, needed, m_maxLines * line));
 }
 
 } // namespace widgets

@@ -15,10 +15,10 @@ class FittedLabel : public QLabel {
 
 public:
     /// Both limits are heights in lines of text.
-    FittedLabel(int fewestLines, int mostLines, QWidget *parent);
+    FittedLabel(int minLines, int maxLines, QWidget *parent);
 
     /// Sets the text, which is shown as plain text, and adjusts the height.
-    void setWords(const QString &words);
+    void setMessage(const QString &words);
 
     /// Returns false: the height is fixed, although the text wraps.
     bool hasHeightForWidth() const override { return false; }
@@ -31,8 +31,8 @@ protected:
 private:
     void fit();
 
-    int m_fewestLines;
-    int m_mostLines;
+    int m_minLines;
+    int m_maxLines;
 };
 
 } // namespace widgets

@@ -24,8 +24,8 @@ NumberField::NumberField(double minimum, double maximum, int decimals, QWidget *
 
 void NumberField::showNumber(double number)
 {
-    const double smallestStep = std::pow(10.0, -decimals());
-    if (std::abs(value() - number) < smallestStep / 2)
+    const double minStep = std::pow(10.0, -decimals());
+    if (std::abs(value() - number) < minStep / 2)
         return;
     const QSignalBlocker quiet(this);
     setValue(number);

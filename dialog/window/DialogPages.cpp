@@ -5,7 +5,7 @@
 #include "PanelPage.h"
 
 #include <dialog/job/JobPage.h>
-#include <dialog/job/SentPage.h>
+#include <dialog/job/TicketPage.h>
 #include <dialog/options/OptionsPage.h>
 #include <dialog/widgets/LazyPage.h>
 
@@ -67,7 +67,7 @@ DialogPages::DialogPages(const host::LabelDocument &document, const host::CupsSe
     });
     if (!m_server)
         return;
-    addTab(new LazyPage([this](QWidget *page) { return m_sentPage = new SentPage(page); }, this),
+    addTab(new LazyPage([this](QWidget *page) { return m_ticketPage = new TicketPage(page); }, this),
            tr("&What will be sent"));
     // The pages of a printer are usually added later. Reserve room for them now, so that the window does not
     // grow while the user operates it.
@@ -90,10 +90,10 @@ DialogPages::~DialogPages()
     // The panel's view must be released before the panel is destroyed. Removing its page would emit
     // currentChanged().
     const QSignalBlocker quiet(this);
-    dropSetup();
+    detachSetup();
 }
 
-void DialogPages::takeSetup(host::PrinterSetup &setup)
+void DialogPages::attachSetup(host::PrinterSetup &setup)
 {
     const bool isInUse = currentWidget() && currentWidget()->isAncestorOf(QApplication::focusWidget());
     if (!m_setup && isInUse)
@@ -105,7 +105,7 @@ void DialogPages::takeSetup(host::PrinterSetup &setup)
     if (PDEPanel *const panel = setup.panel())
         addPanel(*panel);
     makeRoom(tabBar()->sizeHint().width());
-    restoreUse();
+    restoreFocus();
 }
 
 void DialogPages::makeRoom(int titleWidth)
@@ -152,7 +152,7 @@ QWidget *DialogPages::makeOptionsPage(QWidget *parent)
     return m_optionsPage;
 }
 
-void DialogPages::writeJobTo(host::JobDraft &draft) const
+void DialogPages::writeJobTo(host::JobRequest &draft) const
 {
     draft.settings = m_jobPage ? m_jobPage->settings() : m_job.settings;
     draft.title = m_jobPage ? m_jobPage->title() : m_job.title;
@@ -169,13 +169,13 @@ void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
     m_optionsPage->setConflicts(conflicts);
 }
 
-void DialogPages::dropSetup()
+void DialogPages::detachSetup()
 {
     if (m_setup && m_setup->panelHost())
         m_setup->panelHost()->setPanelViewDidResizeHook([] {});
     const QSignalBlocker quiet(this);
     if (m_setup)
-        rememberUse();
+        saveFocus();
     // Delete the options first: if they came to the front in place of the panel, they would be created.
     delete m_optionsPlace;
     m_optionsPlace = nullptr;
@@ -185,7 +185,7 @@ void DialogPages::dropSetup()
     m_setup = nullptr;
 }
 
-void DialogPages::rememberUse()
+void DialogPages::saveFocus()
 {
     m_group = m_optionsPage ? m_optionsPage->shownGroup() : QString();
     m_focused = nameOfFocus(currentWidget());
@@ -195,7 +195,7 @@ void DialogPages::rememberUse()
         m_front = !m_panelPage || currentWidget() == m_panelPage ? Front::Panel : Front::Other;
 }
 
-void DialogPages::restoreUse()
+void DialogPages::restoreFocus()
 {
     if (m_front == Front::Panel && m_panelPage)
         setCurrentWidget(m_panelPage);
@@ -217,22 +217,22 @@ void DialogPages::refresh()
 {
     if (m_summary && m_summaryPage && m_summaryPage->isVisible())
         m_summaryPage->setSections(m_summary());
-    if (!m_sentPage || !m_ticket || !m_sentPage->isVisible())
+    if (!m_ticketPage || !m_ticket || !m_ticketPage->isVisible())
         return;
     const host::JobTicket *const ticket = m_ticket();
     // While another printer is being loaded, the contents are out of date.
-    m_sentPage->setEnabled(ticket != nullptr);
+    m_ticketPage->setEnabled(ticket != nullptr);
     if (ticket)
-        m_sentPage->setTicket(*m_server, *ticket);
+        m_ticketPage->setTicket(*m_server, *ticket);
 }
 
-void DialogPages::announceFront()
+void DialogPages::notifyFront()
 {
     if (m_panelPage && currentWidget() == m_panelPage)
         m_setup->announcePanel();
 }
 
-void DialogPages::announceClosing(QWidget *window)
+void DialogPages::notifyClosing(QWidget *window)
 {
     if (m_panelPage)
         m_panelPage->panel().printWindowWillClose(window);

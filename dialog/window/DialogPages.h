@@ -12,7 +12,7 @@
 namespace dialog {
 inline namespace job {
 class JobPage;
-class SentPage;
+class TicketPage;
 } // namespace job
 } // namespace dialog
 
@@ -45,17 +45,17 @@ public:
     DialogPages(const host::LabelDocument &document, const host::CupsServer *server, QWidget *parent);
     ~DialogPages() override;
 
-    /// Shows the pages of the printer. The setup is not owned and must exist until dropSetup() is called.
-    void takeSetup(host::PrinterSetup &setup);
+    /// Shows the pages of the printer. The setup is not owned and must exist until detachSetup() is called.
+    void attachSetup(host::PrinterSetup &setup);
     /// Releases the panel's view and removes all pages of the printer.
-    void dropSetup();
+    void detachSetup();
 
     /// Shows labels that this renderer draws. It is not owned and must exist until the next call.
     void setRenderer(const host::LabelRenderer &renderer);
     /// Sets the job's name, orientation, hold and priority that the "Job" page shows when it is created.
-    void showJob(const host::JobDraft &draft) { m_job = draft; }
+    void showJob(const host::JobRequest &draft) { m_job = draft; }
     /// Writes these values, with the user's changes, to the draft. Without a server they are unchanged.
-    void writeJobTo(host::JobDraft &draft) const;
+    void writeJobTo(host::JobRequest &draft) const;
     /// Shows the conflicts below the options that they involve, and those of the panel's options above the
     /// panel.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
@@ -67,9 +67,9 @@ public:
     /// Refreshes the page in front.
     void refresh();
     /// Notifies the panel that its page is in front; does nothing if it is not.
-    void announceFront();
+    void notifyFront();
     /// Notifies the panel that the dialog is about to close.
-    void announceClosing(QWidget *window);
+    void notifyClosing(QWidget *window);
 
 Q_SIGNALS:
     /// Emitted when the user has chosen a printer option, which is marked already, or has changed a setting
@@ -82,8 +82,8 @@ private:
     QWidget *makeOptionsPage(QWidget *parent);
     QWidget *makeJobPage(QWidget *parent);
     void makeRoom(int titleWidth);
-    void rememberUse();
-    void restoreUse();
+    void saveFocus();
+    void restoreFocus();
 
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;
@@ -101,9 +101,9 @@ private:
     OptionsPage *m_optionsPage = nullptr;
     JobPage *m_jobPage = nullptr;
     SummaryPage *m_summaryPage = nullptr;
-    SentPage *m_sentPage = nullptr;
+    TicketPage *m_ticketPage = nullptr;
     /// The initial values of the "Job" page.
-    host::JobDraft m_job;
+    host::JobRequest m_job;
     std::function<std::vector<SummarySection>()> m_summary;
     std::function<const host::JobTicket *()> m_ticket;
     /// The conflicts of the last setConflicts().

@@ -56,7 +56,7 @@ void PanelWatch::follow(QWidget *view)
         return;
     qApp->installEventFilter(this);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-        if (m_view && !m_isAnnounced)
+        if (m_view && !m_isPending)
             Q_EMIT touched();
     });
 }
@@ -71,18 +71,18 @@ bool PanelWatch::belongsToView(const QObject *object) const
 
 bool PanelWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_view && !m_isAnnounced && mayFollowFromChange(event->type()) && belongsToView(watched))
-        announceLater();
+    if (m_view && !m_isPending && mayFollowFromChange(event->type()) && belongsToView(watched))
+        notifyLater();
     return false;
 }
 
-void PanelWatch::announceLater()
+void PanelWatch::notifyLater()
 {
-    m_isAnnounced = true;
+    m_isPending = true;
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_isAnnounced = false;
+            m_isPending = false;
             if (m_view)
                 Q_EMIT touched();
         },

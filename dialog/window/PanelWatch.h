@@ -33,10 +33,10 @@ Q_SIGNALS:
 
 private:
     bool belongsToView(const QObject *object) const;
-    void announceLater();
+    void notifyLater();
 
     QPointer<QWidget> m_view;
-    bool m_isAnnounced = false;
+    bool m_isPending = false;
 };
 
 } // namespace window

@@ -5,17 +5,17 @@
 #include "DialogPages.h"
 #include "PanelWatch.h"
 #include "StripPreview.h"
-#include "WaitingWords.h"
+#include "WaitingText.h"
 
+#include <dialog/job/ErrorBanner.h>
 #include <dialog/job/LeftJobBanner.h>
 #include <dialog/job/PageOptions.h>
-#include <dialog/job/ProblemBanner.h>
 #include <dialog/job/SendBar.h>
 #include <dialog/options/ConflictBanner.h>
 #include <dialog/options/ConflictQuestion.h>
 #include <dialog/widgets/FittedLabel.h>
 #include <host/documents/BlankMeasurer.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -28,42 +28,42 @@ namespace dialog {
 inline namespace window {
 
 PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
-                         JobSender &sender, const DialogWishes &wishes, QWidget *parent)
+                         JobSender &sender, const RequestedSettings &requested, QWidget *parent)
     : QDialog(parent)
     , m_document(std::move(document))
     , m_keeper(keeper)
     , m_sender(sender)
 {
-    m_draft.settings = wishes.settings;
-    m_draft.title = wishes.title.value_or(host::defaultTitle(*m_document));
+    m_jobRequest.settings = requested.settings;
+    m_jobRequest.title = requested.title.value_or(host::defaultTitle(*m_document));
     setWindowTitle(tr("Print %1").arg(m_document->title()));
-    build(wishes);
-    m_pages->showJob(m_draft);
+    build(requested);
+    m_pages->showJob(m_jobRequest);
     connectAll();
-    takeSetup();
-    m_problemBanner->setSendingProblem(wishes.problem);
+    attachSetup();
+    m_errorBanner->setSendError(requested.problem);
 }
 
 PrintDialog::~PrintDialog()
 {
     m_pages->disconnect(this);
-    dropSetup();
+    detachSetup();
 }
 
-void PrintDialog::build(const DialogWishes &wishes)
+void PrintDialog::build(const RequestedSettings &requested)
 {
     m_content = new QWidget(this);
     m_panelBanner = new Banner(this);
     m_conflictBanner = new ConflictBanner(m_keeper, this);
-    m_problemBanner = new ProblemBanner(this);
+    m_errorBanner = new ErrorBanner(this);
     // The tab order leads from here to the pages of the printer and then to the strip.
-    m_choices = new ChoicesColumn(*m_document, m_keeper, wishes.settings, m_content);
+    m_choices = new ChoicesColumn(*m_document, m_keeper, requested.settings, m_content);
     const host::QueueSession *const session = m_keeper.session();
     m_pages = new DialogPages(*m_document, session ? &session->server() : nullptr, m_content);
     m_panelWatch = new PanelWatch(this);
     m_stripPreview = new StripPreview(m_content);
     // The minimum height keeps the window from growing whenever the text changes.
-    m_figures = new FittedLabel(3, 20, this);
+    m_planText = new FittedLabel(3, 20, this);
     auto *const leftJobs = session ? new LeftJobBanner(session->server(), this) : nullptr;
     m_sendBar = new SendBar(this);
     m_buttons = new QDialogButtonBox(this);
@@ -81,9 +81,9 @@ void PrintDialog::build(const DialogWishes &wishes)
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_panelBanner);
     layout->addWidget(m_content, 1);
-    layout->addWidget(m_figures);
+    layout->addWidget(m_planText);
     layout->addWidget(m_conflictBanner);
-    layout->addWidget(m_problemBanner);
+    layout->addWidget(m_errorBanner);
     if (leftJobs) {
         layout->addWidget(leftJobs);
         leftJobs->lookForJobs();
@@ -102,19 +102,19 @@ void PrintDialog::connectAll()
     connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
     m_pages->setSummary([this] { return summary(); });
     m_pages->setTicket([this] { return m_ticket && m_pagesError.isEmpty() ? &m_ticket->job : nullptr; });
-    connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::lookAtPanel);
+    connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::checkPanel);
     connect(&m_pageCheck, &host::PageCheck::done, this, &PrintDialog::refreshLater);
-    connect(m_conflictBanner, &ConflictBanner::remedied, this, &PrintDialog::refresh);
-    connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::dropSetup);
-    connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::takeSetup);
+    connect(m_conflictBanner, &ConflictBanner::remedyApplied, this, &PrintDialog::refresh);
+    connect(&m_keeper, &host::SetupKeeper::setupAboutToEnd, this, &PrintDialog::detachSetup);
+    connect(&m_keeper, &host::SetupKeeper::setupChanged, this, &PrintDialog::attachSetup);
     if (host::QueueSession *const session = m_keeper.session()) {
-        m_problemBanner->follow(*session);
+        m_errorBanner->follow(*session);
         connect(session, &host::QueueSession::settled, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::ppdChanged, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
     }
-    connect(m_sendBar, &SendBar::cancelled, &m_sender, &JobSender::cancel);
-    connect(m_sendBar, &SendBar::cancelled, this, [this] {
+    connect(m_sendBar, &SendBar::canceled, &m_sender, &JobSender::cancel);
+    connect(m_sendBar, &SendBar::canceled, this, [this] {
         if (!m_isSending)
             stayOpen();
     });
@@ -127,32 +127,31 @@ void PrintDialog::connectAll()
         // An error keeps the window open, for example if the job could not be canceled.
         const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
         stayOpen();
-        m_problemBanner->setSendingProblem(problem);
+        m_errorBanner->setSendError(problem);
         if (closes)
             QDialog::reject();
     });
 }
 
-void PrintDialog::takeSetup()
+void PrintDialog::attachSetup()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
-    const bool hasProblem = setup && setup->panelProblem();
+    const bool hasError = setup && setup->panelError();
     m_panelBanner->setMessage(
-        hasProblem ? tr("The cut options cannot be shown. %1").arg(setup->panelProblem()->message)
-                   : QString());
+        hasError ? tr("The cut options cannot be shown. %1").arg(setup->panelError()->message) : QString());
     if (setup) {
-        m_pages->takeSetup(*setup);
+        m_pages->attachSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
         m_panelWatch->follow(setup->panel() ? setup->panel()->panelView() : nullptr);
     }
     m_choices->showPapers();
     applyPaper();
     if (isVisible())
-        m_pages->announceFront();
+        m_pages->notifyFront();
     refresh();
 }
 
-void PrintDialog::dropSetup()
+void PrintDialog::detachSetup()
 {
     m_panelWatch->follow(nullptr);
     m_stripPreview->clear();
@@ -160,7 +159,7 @@ void PrintDialog::dropSetup()
     m_ticket.reset();
     if (m_keeper.setup())
         m_keeper.setup()->setDidChangeHook({});
-    m_pages->dropSetup();
+    m_pages->detachSetup();
     m_conflictBanner->setConflicts({});
 }
 
@@ -209,10 +208,10 @@ void PrintDialog::refresh()
     }
     const auto choices = m_choices->pages().choices();
     m_pagesError = choices ? QString() : choices.error().message;
-    m_draft.pages = choices ? choices.value() : host::PageChoices();
-    m_pages->writeJobTo(m_draft);
-    m_choices->pages().writeTo(m_draft.settings);
-    m_ticket = setup ? std::optional(host::ticketFor(*setup, *m_document, m_draft)) : std::nullopt;
+    m_jobRequest.pages = choices ? choices.value() : host::PageChoices();
+    m_pages->writeJobTo(m_jobRequest);
+    m_choices->pages().writeTo(m_jobRequest.settings);
+    m_ticket = setup ? std::optional(host::ticketFor(*setup, *m_document, m_jobRequest)) : std::nullopt;
     m_printButton->setEnabled(setup && choices && !m_isSending);
     refreshStrip();
     refreshMessages();
@@ -224,23 +223,25 @@ void PrintDialog::refresh()
 void PrintDialog::refreshStrip()
 {
     if (!m_pagesError.isEmpty()) {
-        m_figures->setWords(m_pagesError);
+        m_planText->setMessage(m_pagesError);
         return;
     }
     if (!m_ticket) {
-        m_figures->setWords(waitingWords(m_keeper.session()));
+        m_planText->setMessage(waitingText(m_keeper.session()));
         return;
     }
     m_stripPreview->setVisible(m_ticket->paper.has_value());
     if (!m_ticket->paper) {
-        m_figures->setWords(tr("The printer has no description, so its papers and cuts are not known here."));
+        m_planText->setMessage(
+            tr("The printer has no description, so its papers and cuts are not known here."));
         return;
     }
     if (!m_ticket->cuts.removeBlank)
         m_renderer->measurer()->cancel();
     m_plan = host::makePlan(*m_ticket, *m_document, *m_renderer);
     m_stripPreview->setPlan(*m_plan, *m_renderer);
-    m_figures->setWords(host::cutPlanFigures(*m_plan) + u'\n' + host::cutPlanSentences(*m_plan).join(u' '));
+    m_planText->setMessage(host::cutPlanFigures(*m_plan) + u'\n' +
+                           host::cutPlanDescription(*m_plan).join(u' '));
 }
 
 void PrintDialog::refreshMessages()
@@ -251,10 +252,10 @@ void PrintDialog::refreshMessages()
     m_choices->setConflicts(conflicts);
     m_conflictBanner->setConflicts(conflicts, m_ticket ? m_ticket->remedy : std::nullopt);
     if (const host::PrinterSetup *const setup = m_keeper.setup())
-        m_problemBanner->setRefusals(setup->refusals(), setup->replacedChoices());
+        m_errorBanner->setChoiceErrors(setup->choiceErrors(), setup->replacedChoices());
 }
 
-void PrintDialog::lookAtPanel()
+void PrintDialog::checkPanel()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
     if (setup && m_ticket && !setup->isPanelBusy() && setup->panelSettings() != m_ticket->panel)
@@ -263,7 +264,7 @@ void PrintDialog::lookAtPanel()
 
 void PrintDialog::pageShown()
 {
-    m_pages->announceFront();
+    m_pages->notifyFront();
     refresh();
 }
 
@@ -297,18 +298,18 @@ void PrintDialog::showEvent(QShowEvent *event)
 
 void PrintDialog::done(int result)
 {
-    m_pages->announceClosing(this);
+    m_pages->notifyClosing(this);
     QDialog::done(result);
 }
 
 const QString &PrintDialog::problem() const
 {
-    return m_problemBanner->sendingProblem();
+    return m_errorBanner->sendError();
 }
 
-bool PrintDialog::hasPanelProblem() const
+bool PrintDialog::hasPanelError() const
 {
-    return m_keeper.setup() && m_keeper.setup()->panelProblem();
+    return m_keeper.setup() && m_keeper.setup()->panelError();
 }
 
 std::vector<SummarySection> PrintDialog::summary() const

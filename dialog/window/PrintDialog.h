@@ -27,7 +27,7 @@ class ConflictBanner;
 
 namespace dialog {
 inline namespace job {
-class ProblemBanner;
+class ErrorBanner;
 class SendBar;
 } // namespace job
 } // namespace dialog
@@ -41,7 +41,7 @@ class PanelWatch;
 class StripPreview;
 
 /// What was requested for the job in addition to the printer; the initial state of the dialog.
-struct DialogWishes {
+struct RequestedSettings {
     /// Absent values stand for the printer's defaults.
     host::JobSettings settings = {};
     /// The name of the job; absent for that of the document.
@@ -58,7 +58,7 @@ class PrintDialog : public QDialog {
 public:
     /// The keeper and the sender are not owned and must outlive the dialog.
     PrintDialog(std::shared_ptr<const host::LabelDocument> document, host::SetupKeeper &keeper,
-                JobSender &sender, const DialogWishes &wishes, QWidget *parent = nullptr);
+                JobSender &sender, const RequestedSettings &requested, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
     /// Prints like the "Print" button, but does not ask about conflicts: passes the ticket to the sender.
@@ -77,9 +77,9 @@ public:
     /// Returns the ticket that would be sent now; absent while no printer is known.
     const std::optional<host::Ticket> &ticket() const { return m_ticket; }
     /// Returns the job's name.
-    const QString &title() const { return m_draft.title; }
+    const QString &title() const { return m_jobRequest.title; }
     /// Returns whether the printer has cut options, but its panel cannot be shown.
-    bool hasPanelProblem() const;
+    bool hasPanelError() const;
     /// Returns the summary of all current settings; empty while no printer is known.
     std::vector<SummarySection> summary() const;
 
@@ -96,10 +96,10 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void build(const DialogWishes &wishes);
+    void build(const RequestedSettings &requested);
     void connectAll();
-    void takeSetup();
-    void dropSetup();
+    void attachSetup();
+    void detachSetup();
     void changePaper();
     void applyPaper();
     /// Refreshes everything that shows the job, once, when control returns to the event loop.
@@ -111,7 +111,7 @@ private:
     void refreshStrip();
     void refreshMessages();
     /// Refreshes if the settings that the panel would save differ from those of the ticket.
-    void lookAtPanel();
+    void checkPanel();
     void pageShown();
     /// Prepares the job. If that fails, shows the error, enables the dialog again and returns false.
     bool isPrepared();
@@ -131,7 +131,7 @@ private:
     bool m_isSending = false;
     bool m_closesAfterSending = false;
     bool m_printsWhenReady = false;
-    host::JobDraft m_draft;
+    host::JobRequest m_jobRequest;
     std::unique_ptr<host::LabelRenderer> m_renderer;
     /// The ticket that would be sent now; absent while no printer is known. Everything that the dialog shows
     /// is derived from it.
@@ -144,12 +144,12 @@ private:
     QWidget *m_content = nullptr;
     Banner *m_panelBanner = nullptr;
     ConflictBanner *m_conflictBanner = nullptr;
-    ProblemBanner *m_problemBanner = nullptr;
+    ErrorBanner *m_errorBanner = nullptr;
     ChoicesColumn *m_choices = nullptr;
     DialogPages *m_pages = nullptr;
     PanelWatch *m_panelWatch = nullptr;
     StripPreview *m_stripPreview = nullptr;
-    FittedLabel *m_figures = nullptr;
+    FittedLabel *m_planText = nullptr;
     SendBar *m_sendBar = nullptr;
     QDialogButtonBox *m_buttons = nullptr;
     QPushButton *m_printButton = nullptr;

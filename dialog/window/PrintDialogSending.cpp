@@ -2,9 +2,9 @@
 // What happens after "Print" is pressed: checking, the question about conflicts, sending, canceling.
 #include "PrintDialog.h"
 
-#include "WaitingWords.h"
+#include "WaitingText.h"
 
-#include <dialog/job/ProblemBanner.h>
+#include <dialog/job/ErrorBanner.h>
 #include <dialog/job/SendBar.h>
 #include <dialog/options/ConflictBanner.h>
 #include <dialog/options/ConflictQuestion.h>
@@ -31,7 +31,7 @@ void PrintDialog::printWhenReady()
 std::optional<QString> PrintDialog::prepare()
 {
     if (!m_keeper.setup())
-        return waitingWords(m_keeper.session());
+        return waitingText(m_keeper.session());
     if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
         return error->message;
     refresh();
@@ -52,7 +52,7 @@ void PrintDialog::finishMeasuring()
 
 bool PrintDialog::isPrepared()
 {
-    m_problemBanner->setSendingProblem(prepare().value_or(QString()));
+    m_errorBanner->setSendError(prepare().value_or(QString()));
     if (!problem().isEmpty())
         stayOpen();
     return problem().isEmpty();
@@ -69,7 +69,7 @@ void PrintDialog::send()
     m_isSending = true;
     m_content->setEnabled(false);
     m_printButton->setEnabled(false);
-    m_sendBar->begin(m_draft.title);
+    m_sendBar->begin(m_jobRequest.title);
     const host::PpdFile *const ppd = m_keeper.setup()->ppdOrNull();
     m_sender.send({*m_ticket, *m_document, ppd ? ppd->path() : QString(), m_plan ? &*m_plan : nullptr,
                    m_renderer.get()});
@@ -104,13 +104,13 @@ void PrintDialog::accept()
         m_pageCheck.start();
         if (!m_sender.needsStrip())
             m_pageCheck.hurry();
-        m_sendBar->begin(m_draft.title);
+        m_sendBar->begin(m_jobRequest.title);
         return;
     }
     if (!isPrepared())
         return;
     const QString conflicts = m_conflictBanner->message();
-    if (conflicts.isEmpty() || sendsInSpiteOf(conflicts, this))
+    if (conflicts.isEmpty() || confirmConflicts(conflicts, this))
         send();
     else
         stayOpen();
@@ -125,7 +125,7 @@ void PrintDialog::reject()
     }
     // Cancel the job before closing, so that no part of it stays on the server.
     m_closesAfterSending = true;
-    m_sendBar->showStopping();
+    m_sendBar->showCanceling();
     m_buttons->setEnabled(false);
     m_sender.cancel();
 }

@@ -2,7 +2,7 @@
 #include "StripPreview.h"
 
 #include <host/base/Units.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 
 #include <QEvent>
 #include <QPainter>
@@ -15,8 +15,8 @@ inline namespace window {
 namespace {
 
 /// In pixels per millimetre. The maximum keeps several labels of narrow tape visible.
-constexpr double largestScale = 6.0;
-constexpr double smallestScale = 0.4;
+constexpr double maxScale = 6.0;
+constexpr double minScale = 0.4;
 
 } // namespace
 
@@ -47,7 +47,7 @@ void StripPreview::setPlan(const host::CutPlan &plan, const host::LabelRenderer 
         if (m_pictures)
             connect(m_pictures.get(), &host::LabelPictures::drawn, this, [this] { viewport()->update(); });
     }
-    setAccessibleDescription(host::cutPlanFigures(plan) + u' ' + host::cutPlanSentences(plan).join(u' '));
+    setAccessibleDescription(host::cutPlanFigures(plan) + u' ' + host::cutPlanDescription(plan).join(u' '));
     layOut();
 }
 
@@ -91,7 +91,7 @@ void StripPreview::layOut()
     // always reserved: a strip that used it while the bar is hidden would need the bar again.
     const int height = maximumViewportSize().height() - horizontalScrollBar()->sizeHint().height();
     const double room = height - 19.0 * unitPixels();
-    m_pixelsPerMillimetre = qBound(smallestScale, room / tapeWidth, largestScale);
+    m_pixelsPerMillimetre = qBound(minScale, room / tapeWidth, maxScale);
     m_layout.emplace(*m_plan, tapeWidth, unitPixels() / m_pixelsPerMillimetre);
     const int length = qRound(m_layout->bounds().width() * m_pixelsPerMillimetre);
     horizontalScrollBar()->setRange(0, qMax(0, length - viewport()->width()));

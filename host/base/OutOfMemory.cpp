@@ -35,10 +35,10 @@ constexpr std::array texts = {
 std::array<std::atomic<const char *>, texts.size()> sentences = {texts[0], texts[1], texts[2]};
 std::atomic<JobProgress> jobProgress = JobProgress::Nothing;
 std::atomic_flag isEnding;
-std::terminate_handler usualEnd = nullptr;
+std::terminate_handler previousTerminateHandler = nullptr;
 
 /// Returns whether the exception means that memory or threads have run out.
-bool lacksMemory(const std::exception_ptr &exception)
+bool isOutOfMemory(const std::exception_ptr &exception)
 {
     if (!exception)
         return false;
@@ -56,9 +56,9 @@ bool lacksMemory(const std::exception_ptr &exception)
 
 void endUncaught()
 {
-    if (lacksMemory(std::current_exception()))
+    if (isOutOfMemory(std::current_exception()))
         OutOfMemory::end();
-    usualEnd();
+    previousTerminateHandler();
 }
 
 /// Writes the sentence as one line to standard error without allocating memory.
@@ -74,9 +74,9 @@ void writeError(const char *sentence)
 
 } // namespace
 
-void OutOfMemory::endsProgram()
+void OutOfMemory::installHandlers()
 {
-    usualEnd = std::set_terminate(endUncaught);
+    previousTerminateHandler = std::set_terminate(endUncaught);
     std::set_new_handler(end);
 }
 

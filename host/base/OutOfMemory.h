@@ -20,7 +20,7 @@ public:
     /// Installs the handlers that call end() for every failed allocation by "new" and for every uncaught
     /// exception that is caused by a lack of memory or threads. The message is in English until translate()
     /// is called.
-    static void endsProgram();
+    static void installHandlers();
     /// Translates the message to the language of the program. Must be called after the translators are
     /// installed.
     static void translate();

@@ -14,7 +14,7 @@ struct DocumentErrorText {
 
 } // namespace
 
-DocumentError documentError(const DocumentProblem &problem, const QString &name)
+DocumentError documentError(const DocumentErrorReason &problem, const QString &name)
 {
     if (name == standardInputName)
         return {problem.kind,

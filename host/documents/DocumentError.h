@@ -8,7 +8,7 @@
 namespace host {
 inline namespace documents {
 
-enum class DocumentFailure {
+enum class DocumentErrorKind {
     Missing,     ///< there is no such file, or no document was named
     NotAFile,    ///< a folder, a pipe or a device
     Unreadable,  ///< no permission, or the medium fails
@@ -23,11 +23,11 @@ enum class DocumentFailure {
     NotStored,   ///< there is no room for what is kept while the document is open
     Changed,     ///< the file is no longer the one that was opened
 };
-using DocumentError = Failure<DocumentFailure>;
+using DocumentError = Failure<DocumentErrorKind>;
 
 /// What is wrong with a document, before its name is put to it.
-struct DocumentProblem {
-    DocumentFailure kind;
+struct DocumentErrorReason {
+    DocumentErrorKind kind;
     /// The end of a sentence, without a full stop: "it is empty".
     QString reason;
 };
@@ -36,7 +36,7 @@ struct DocumentProblem {
 inline constexpr QStringView standardInputName = u"-";
 
 /// The error for the user: names the document, a path or "-" for standard input, and the reason.
-DocumentError documentError(const DocumentProblem &problem, const QString &name);
+DocumentError documentError(const DocumentErrorReason &problem, const QString &name);
 
 } // namespace documents
 } // namespace host

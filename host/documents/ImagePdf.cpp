@@ -21,7 +21,7 @@ struct ImagePdfText {
 
 constexpr double pointsPerMetre = 72.0 / 0.0254;
 /// What image readers allot to one image: 32 million pixels of four bytes.
-constexpr qint64 mostDecodedBytes = 128LL * 1024 * 1024;
+constexpr qint64 maxDecodedBytes = 128LL * 1024 * 1024;
 
 /// An image in one of the forms that a PDF can hold.
 struct PdfImage {
@@ -32,16 +32,16 @@ struct PdfImage {
     QByteArray data;
 };
 
-DocumentProblem damaged()
+DocumentErrorReason damaged()
 {
-    return {DocumentFailure::Damaged, ImagePdfText::tr("it is a damaged image")};
+    return {DocumentErrorKind::Damaged, ImagePdfText::tr("it is a damaged image")};
 }
 
-DocumentProblem tooManyPixels(QSize size)
+DocumentErrorReason tooManyPixels(QSize size)
 {
-    return {DocumentFailure::TooLarge, ImagePdfText::tr("it has %1 × %2 pixels, more than can be printed")
-                                           .arg(size.width())
-                                           .arg(size.height())};
+    return {DocumentErrorKind::TooLarge, ImagePdfText::tr("it has %1 × %2 pixels, more than can be printed")
+                                             .arg(size.width())
+                                             .arg(size.height())};
 }
 
 /// The image's rows without gaps, on white; one byte a pixel when nothing is coloured.
@@ -155,17 +155,17 @@ public:
         m_reader.setAutoTransform(true);
     }
 
-    std::optional<DocumentProblem> check()
+    std::optional<DocumentErrorReason> check()
     {
         if (!m_facts.complete)
-            return DocumentProblem{DocumentFailure::Damaged,
-                                   ImagePdfText::tr("it is an image whose end is missing")};
+            return DocumentErrorReason{DocumentErrorKind::Damaged,
+                                       ImagePdfText::tr("it is an image whose end is missing")};
         m_size = m_reader.size();
         if (m_size.isEmpty())
             return damaged();
         const qint64 pixels = static_cast<qint64>(m_size.width()) * m_size.height();
         const int bits = QImage::toPixelFormat(m_reader.imageFormat()).bitsPerPixel();
-        if (pixels > mostImagePixels || (!fitsAsItIs() && pixels * bits / 8 > mostDecodedBytes))
+        if (pixels > maxImagePixels || (!fitsAsItIs() && pixels * bits / 8 > maxDecodedBytes))
             return tooManyPixels(m_size);
         return PdfPages::checkSize(pageSize(), 0);
     }
@@ -173,7 +173,7 @@ public:
     /// In points, as one looks at it.
     QSizeF pageSize() const
     {
-        const double usual = usualImageResolution / 0.0254;
+        const double usual = defaultImageResolution / 0.0254;
         const QSizeF resolution = m_facts.resolution.value_or(QSizeF(usual, usual));
         const QSizeF size(m_size.width() / resolution.width() * pointsPerMetre,
                           m_size.height() / resolution.height() * pointsPerMetre);
@@ -220,7 +220,7 @@ private:
 
 } // namespace
 
-std::optional<DocumentProblem> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf)
+std::optional<DocumentErrorReason> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf)
 {
     ImageSource source(image, kind);
     if (auto problem = source.check())
@@ -229,7 +229,7 @@ std::optional<DocumentProblem> writeImagePdf(const QByteArray &image, DocumentKi
     if (!page)
         return damaged();
     if (!writePage(*page, source.pageSize(), pdf))
-        return DocumentProblem{DocumentFailure::NotStored, pdf->errorString()};
+        return DocumentErrorReason{DocumentErrorKind::NotStored, pdf->errorString()};
     return std::nullopt;
 }
 

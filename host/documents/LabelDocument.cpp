@@ -29,10 +29,11 @@ LabelDocument::Source::Source(Source &&) noexcept = default;
 Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const QStringList &names)
 {
     if (names.isEmpty())
-        return DocumentError{DocumentFailure::Missing, LabelDocumentText::tr("No document is named")};
+        return DocumentError{DocumentErrorKind::Missing, LabelDocumentText::tr("No document is named")};
     if (names.count(standardInputName.toString()) > 1)
-        return documentError({DocumentFailure::InputTaken, LabelDocumentText::tr("it can be read only once")},
-                             standardInputName.toString());
+        return documentError(
+            {DocumentErrorKind::InputTaken, LabelDocumentText::tr("it can be read only once")},
+            standardInputName.toString());
     std::unique_ptr<LabelDocument> document(new LabelDocument);
     for (const QString &name : names) {
         auto opened = OpenedDocument::open(name);

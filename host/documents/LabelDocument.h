@@ -55,7 +55,7 @@ public:
     int pageCount() const;
     /// The documents' page counts, in order.
     std::vector<int> pageCounts() const;
-    /// Width and height of the page in points, as one reads it. Of a page that checkForPrinting refuses, some
+    /// Width and height of the page in points, as one reads it. Of a page that checkForPrinting rejects, some
     /// size that a PDF page can have.
     QSizeF pageSize(int page) const;
     /// The page on white. The size is in pixels; a page that cannot be drawn is left white.

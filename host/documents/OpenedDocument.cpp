@@ -18,36 +18,35 @@ struct OpenedDocumentText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-Result<QByteArray, DocumentProblem> readWhole(QFile &file, qint64 most)
+Result<QByteArray, DocumentErrorReason> readWhole(QFile &file, qint64 most)
 {
     if (file.size() > most)
-        return DocumentProblem{
-            DocumentFailure::TooLarge,
+        return DocumentErrorReason{
+            DocumentErrorKind::TooLarge,
             OpenedDocumentText::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
     // No more than there is: reading makes room for all that is asked for.
     QByteArray content = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
-        return DocumentProblem{DocumentFailure::Unreadable, file.errorString()};
+        return DocumentErrorReason{DocumentErrorKind::Unreadable, file.errorString()};
     return content;
 }
 
 /// Turns an image or an SVG into a PDF.
-std::optional<DocumentProblem> convert(QFile &file, DocumentKind kind, platform::TemporaryFile &pdf)
+std::optional<DocumentErrorReason> convert(QFile &file, DocumentKind kind, platform::TemporaryFile &pdf)
 {
     const bool isSvg = kind == DocumentKind::Svg;
-    const auto content =
-        readWhole(file, isSvg ? OpenedDocument::mostSvgBytes : OpenedDocument::mostImageBytes);
+    const auto content = readWhole(file, isSvg ? OpenedDocument::maxSvgBytes : OpenedDocument::maxImageBytes);
     if (!content)
         return content.error();
     auto problem = isSvg ? writeSvgPdf(content.value(), &pdf) : writeImagePdf(content.value(), kind, &pdf);
-    if ((problem && problem->kind == DocumentFailure::NotStored) || (!problem && !pdf.flush()))
+    if ((problem && problem->kind == DocumentErrorKind::NotStored) || (!problem && !pdf.flush()))
         return notStored(pdf);
     return problem;
 }
 
 } // namespace
 
-Result<std::unique_ptr<OpenedDocument>, DocumentProblem> OpenedDocument::open(const QString &name)
+Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> OpenedDocument::open(const QString &name)
 {
     std::unique_ptr<OpenedDocument> document(new OpenedDocument);
     document->m_path = name;
@@ -63,8 +62,8 @@ Result<std::unique_ptr<OpenedDocument>, DocumentProblem> OpenedDocument::open(co
         return file.error();
     const std::optional<DocumentKind> kind = documentKind(file.value().file->peek(documentHeadSize));
     if (!kind)
-        return DocumentProblem{DocumentFailure::UnknownKind,
-                               OpenedDocumentText::tr("it is no PDF, PNG, JPEG or SVG")};
+        return DocumentErrorReason{DocumentErrorKind::UnknownKind,
+                                   OpenedDocumentText::tr("it is no PDF, PNG, JPEG or SVG")};
     if (*kind != DocumentKind::Pdf) {
         auto pdf = makeTemporaryFile();
         if (!pdf)
@@ -99,11 +98,11 @@ PdfSource OpenedDocument::source() const
     return {isSame ? std::move(file.value().file) : nullptr, m_pages->knownSizes()};
 }
 
-std::optional<DocumentProblem> OpenedDocument::checkForPrinting() const
+std::optional<DocumentErrorReason> OpenedDocument::checkForPrinting() const
 {
     if (fileStamp(m_path) != m_stamp)
-        return DocumentProblem{
-            DocumentFailure::Changed,
+        return DocumentErrorReason{
+            DocumentErrorKind::Changed,
             OpenedDocumentText::tr("the file has changed since it was opened; open it again")};
     return m_pages->checkPages();
 }

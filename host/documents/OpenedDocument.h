@@ -17,11 +17,11 @@ inline namespace documents {
 class OpenedDocument {
 public:
     /// The most bytes of an image or SVG that are read: more than the largest image has that is printed.
-    static constexpr qint64 mostImageBytes = 256LL * 1024 * 1024;
-    static constexpr qint64 mostSvgBytes = 64LL * 1024 * 1024;
+    static constexpr qint64 maxImageBytes = 256LL * 1024 * 1024;
+    static constexpr qint64 maxSvgBytes = 64LL * 1024 * 1024;
 
     /// Opens a file, or standard input by its name "-", which is read to its end.
-    static Result<std::unique_ptr<OpenedDocument>, DocumentProblem> open(const QString &name);
+    static Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> open(const QString &name);
     /// The pages of another instance, for another thread. Has no path, so it is not for printing.
     static std::unique_ptr<OpenedDocument> openAgain(PdfSource source);
     /// The source for openAgain(), without a file when the file at the path is another one now.
@@ -34,7 +34,7 @@ public:
     const FileStamp &stamp() const { return m_stamp; }
     /// Checks what opening leaves out: the pages beyond the first hundreds, and whether the file at the path
     /// is still the one that was opened.
-    std::optional<DocumentProblem> checkForPrinting() const;
+    std::optional<DocumentErrorReason> checkForPrinting() const;
 
 private:
     OpenedDocument() = default;

@@ -14,7 +14,7 @@ struct PageChoices {
     std::vector<int> pages;
     int copies = 1;
     Collate collate = Collate::Yes;
-    PageOrder order = PageOrder::FirstFirst;
+    PageOrder order = PageOrder::Normal;
 };
 
 } // namespace documents

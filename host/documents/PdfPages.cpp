@@ -15,25 +15,25 @@ struct PdfPagesText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-std::optional<DocumentProblem> loadingProblem(QPdfDocument::Error error)
+std::optional<DocumentErrorReason> loadError(QPdfDocument::Error error)
 {
     switch (error) {
     case QPdfDocument::Error::None:
         return std::nullopt;
     case QPdfDocument::Error::IncorrectPassword:
-        return DocumentProblem{DocumentFailure::Encrypted,
-                               PdfPagesText::tr("it is encrypted; remove its password first")};
+        return DocumentErrorReason{DocumentErrorKind::Encrypted,
+                                   PdfPagesText::tr("it is encrypted; remove its password first")};
     case QPdfDocument::Error::UnsupportedSecurityScheme:
-        return DocumentProblem{DocumentFailure::Encrypted,
-                               PdfPagesText::tr("it is encrypted in a way that is not known here")};
+        return DocumentErrorReason{DocumentErrorKind::Encrypted,
+                                   PdfPagesText::tr("it is encrypted in a way that is not known here")};
     default:
-        return DocumentProblem{DocumentFailure::Damaged, PdfPagesText::tr("it is a damaged PDF")};
+        return DocumentErrorReason{DocumentErrorKind::Damaged, PdfPagesText::tr("it is a damaged PDF")};
     }
 }
 
 double withinLimits(double side)
 {
-    return std::isnan(side) ? 1.0 : qBound(1.0, side, PdfPages::longestSide);
+    return std::isnan(side) ? 1.0 : qBound(1.0, side, PdfPages::maxSide);
 }
 
 } // namespace
@@ -44,14 +44,14 @@ PdfPages::PdfPages(std::unique_ptr<QFile> file, PageSizes sizes)
 {
 }
 
-Result<std::unique_ptr<PdfPages>, DocumentProblem> PdfPages::open(std::unique_ptr<QFile> file)
+Result<std::unique_ptr<PdfPages>, DocumentErrorReason> PdfPages::open(std::unique_ptr<QFile> file)
 {
     std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file), {}));
     pages->load();
-    if (auto problem = loadingProblem(pages->m_pdf.error()))
+    if (auto problem = loadError(pages->m_pdf.error()))
         return *problem;
     if (pages->pageCount() < 1)
-        return DocumentProblem{DocumentFailure::Empty, PdfPagesText::tr("it has no pages")};
+        return DocumentErrorReason{DocumentErrorKind::Empty, PdfPagesText::tr("it has no pages")};
     pages->m_sizes.resize(static_cast<std::size_t>(pages->pageCount()));
     if (auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
         return *problem;
@@ -101,20 +101,20 @@ QImage PdfPages::renderTransparent(int page, QSize size) const
     return m_pdf.render(page, size);
 }
 
-std::optional<DocumentProblem> PdfPages::checkSize(QSizeF size, int page)
+std::optional<DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)
 {
     // Written so that a size that is no number fails too.
     if (!(size.width() >= 1.0 && size.height() >= 1.0))
-        return DocumentProblem{DocumentFailure::BadPage,
-                               PdfPagesText::tr("page %1 has no area").arg(page + 1)};
-    if (!(size.width() <= longestSide && size.height() <= longestSide))
-        return DocumentProblem{DocumentFailure::BadPage, PdfPagesText::tr("page %1 is longer than %2 m")
-                                                             .arg(page + 1)
-                                                             .arg(longestSide / 72.0 * 0.0254, 0, 'f', 2)};
+        return DocumentErrorReason{DocumentErrorKind::BadPage,
+                                   PdfPagesText::tr("page %1 has no area").arg(page + 1)};
+    if (!(size.width() <= maxSide && size.height() <= maxSide))
+        return DocumentErrorReason{DocumentErrorKind::BadPage, PdfPagesText::tr("page %1 is longer than %2 m")
+                                                                   .arg(page + 1)
+                                                                   .arg(maxSide / 72.0 * 0.0254, 0, 'f', 2)};
     return std::nullopt;
 }
 
-std::optional<DocumentProblem> PdfPages::checkPagesUpTo(int end) const
+std::optional<DocumentErrorReason> PdfPages::checkPagesUpTo(int end) const
 {
     for (; m_checked < end; ++m_checked) {
         if (auto problem = checkSize(statedSize(m_checked), m_checked))

@@ -30,13 +30,13 @@ struct PdfSource {
 class PdfPages {
 public:
     /// The largest side of a page, in points: what PDF readers have always taken as the limit.
-    static constexpr double longestSide = 14400.0;
+    static constexpr double maxSide = 14400.0;
     /// How many pages are checked when the PDF is opened. Asking thousands of pages for their size takes
     /// seconds; the others are checked before they are printed.
     static constexpr int checkedAtOnce = 500;
 
     /// Opens the PDF and checks the sizes of its first pages. The file is read as pages are drawn.
-    static Result<std::unique_ptr<PdfPages>, DocumentProblem> open(std::unique_ptr<QFile> file);
+    static Result<std::unique_ptr<PdfPages>, DocumentErrorReason> open(std::unique_ptr<QFile> file);
     /// The PDF of another instance, which has checked it. Pages of a source without a file are white.
     static std::unique_ptr<PdfPages> openAgain(PdfSource source);
 
@@ -57,16 +57,16 @@ public:
     /// How many pages this instance has drawn.
     int drawingCount() const { return m_drawingCount; }
     /// Checks the pages that are not checked yet.
-    std::optional<DocumentProblem> checkPages() const { return checkPagesUpTo(pageCount()); }
+    std::optional<DocumentErrorReason> checkPages() const { return checkPagesUpTo(pageCount()); }
 
     /// Why a page of that size, in points, cannot be printed.
-    static std::optional<DocumentProblem> checkSize(QSizeF size, int page);
+    static std::optional<DocumentErrorReason> checkSize(QSizeF size, int page);
 
 private:
     PdfPages(std::unique_ptr<QFile> file, PageSizes sizes);
 
     void load();
-    std::optional<DocumentProblem> checkPagesUpTo(int end) const;
+    std::optional<DocumentErrorReason> checkPagesUpTo(int end) const;
 
     std::unique_ptr<QFile> m_file;
     /// Drawing a page changes nothing that can be seen.

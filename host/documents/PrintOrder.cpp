@@ -41,7 +41,7 @@ std::optional<Range> parseRange(const QString &text, int pageCount)
 
 PageRangeError notUnderstood(const QString &text)
 {
-    return {PageRangeFailure::NotUnderstood,
+    return {PageRangeErrorKind::NotUnderstood,
             PrintOrderText::tr("Cannot understand the pages \"%1\": write numbers and ranges such as 1-3, 5")
                 .arg(text)};
 }
@@ -59,11 +59,11 @@ Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int p
         std::optional<Range> range = parseRange(part, pageCount);
         if (!range || range->first > range->last)
             return notUnderstood(text);
-        if (beyond == PagesBeyond::AreLeftOut)
+        if (beyond == PagesBeyond::Skip)
             range = Range{qBound(1, range->first, pageCount + 1), qMin(range->last, pageCount)};
         if (range->first < 1 || range->last > pageCount)
             return PageRangeError{
-                PageRangeFailure::OutOfDocument,
+                PageRangeErrorKind::OutOfDocument,
                 PrintOrderText::tr("Cannot print the pages \"%1\": the document's last page is %2")
                     .arg(text)
                     .arg(pageCount)};
@@ -137,7 +137,7 @@ parsePageRanges(const QString &text, const std::vector<int> &pageCounts, PageSet
     }
     if (pages.empty() && first > 0)
         return PageRangeError{
-            PageRangeFailure::NoPage,
+            PageRangeErrorKind::NoPage,
             PrintOrderText::tr("Nothing would be printed: no page of the document is chosen")};
     return pages;
 }
@@ -162,7 +162,7 @@ std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument
 {
     std::vector<int> order;
     for (std::vector<int> pages : pagesByDocument) {
-        if (pageOrder == PageOrder::LastFirst)
+        if (pageOrder == PageOrder::Reverse)
             std::ranges::reverse(pages);
         if (collate == Collate::Yes) {
             for (int copy = 0; copy < copies; ++copy)

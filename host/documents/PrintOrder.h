@@ -11,13 +11,13 @@
 namespace host {
 inline namespace documents {
 
-enum class PageRangeFailure {
+enum class PageRangeErrorKind {
     NotUnderstood, ///< something else than numbers and ranges
     OutOfDocument, ///< a page that no document has
     NoPage,        ///< no page is left to be printed
-    TooMany,       ///< more labels than mostLabels
+    TooMany,       ///< more labels than maxLabels
 };
-using PageRangeError = Failure<PageRangeFailure>;
+using PageRangeError = Failure<PageRangeErrorKind>;
 
 /// Whether copies come out label by label (1 1 2 2) or set by set (1 2 1 2).
 enum class Collate { No, Yes };
@@ -27,15 +27,15 @@ enum class PageSet { All, Odd, Even };
 
 /// What becomes of named pages that no document has. People are told of them; what a queue or lpoptions name
 /// for all documents is left out, as print servers do it.
-enum class PagesBeyond { AreErrors, AreLeftOut };
+enum class PagesBeyond { Reject, Skip };
 
 /// Which page comes out first. People whose tape is wound up want the last one.
-enum class PageOrder { FirstFirst, LastFirst };
+enum class PageOrder { Normal, Reverse };
 
 /// The largest number of copies of one job.
-inline constexpr int mostCopies = 9999;
+inline constexpr int maxCopies = 9999;
 /// The largest number of labels of one job: some kilometres of tape.
-inline constexpr int mostLabels = 100'000;
+inline constexpr int maxLabels = 100'000;
 
 /// The pages that a text such as "1-3, 5, 8-" names, of documents with so many pages each, which are printed
 /// one after the other. The text applies to every document by itself, as lp's -P does: "1" is the first page
@@ -46,10 +46,10 @@ inline constexpr int mostLabels = 100'000;
 Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
                                                          const std::vector<int> &pageCounts,
                                                          PageSet set = PageSet::All,
-                                                         PagesBeyond beyond = PagesBeyond::AreErrors);
+                                                         PagesBeyond beyond = PagesBeyond::Reject);
 
 /// The same pages as IPP wants them (RFC 8011, 5.2.7): in ascending order, no page twice. "5,1-3,2" is
-/// "1-3,5". Empty for all pages; a text that checkPageRanges() refuses is given back as it is, without
+/// "1-3,5". Empty for all pages; a text that checkPageRanges() rejects is given back as it is, without
 /// blanks.
 QString canonicalPageRanges(const QString &text);
 
@@ -64,7 +64,7 @@ std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
 /// server makes them: all copies of the first document come before the second, whatever the order of the
 /// pages.
 std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
-                            PageOrder pageOrder = PageOrder::FirstFirst);
+                            PageOrder pageOrder = PageOrder::Normal);
 
 } // namespace documents
 } // namespace host

@@ -22,27 +22,27 @@ FileStamp stampOf(const struct stat &status)
     return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }
 
-DocumentProblem systemProblem(int error)
+DocumentErrorReason systemError(int error)
 {
     if (error == ENOENT || error == ENOTDIR)
-        return {DocumentFailure::Missing, RegularFileText::tr("there is no such file")};
-    return {DocumentFailure::Unreadable, qt_error_string(error)};
+        return {DocumentErrorKind::Missing, RegularFileText::tr("there is no such file")};
+    return {DocumentErrorKind::Unreadable, qt_error_string(error)};
 }
 
-std::optional<DocumentProblem> checkStatus(int result, const struct stat &status)
+std::optional<DocumentErrorReason> checkStatus(int result, const struct stat &status)
 {
     if (result != 0)
-        return systemProblem(errno);
+        return systemError(errno);
     if (!S_ISREG(status.st_mode))
-        return DocumentProblem{DocumentFailure::NotAFile, RegularFileText::tr("it is not a file")};
+        return DocumentErrorReason{DocumentErrorKind::NotAFile, RegularFileText::tr("it is not a file")};
     if (status.st_size == 0)
-        return DocumentProblem{DocumentFailure::Empty, RegularFileText::tr("it is empty")};
+        return DocumentErrorReason{DocumentErrorKind::Empty, RegularFileText::tr("it is empty")};
     return std::nullopt;
 }
 
 } // namespace
 
-Result<RegularFile, DocumentProblem> openRegularFile(const QString &path)
+Result<RegularFile, DocumentErrorReason> openRegularFile(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
@@ -52,11 +52,11 @@ Result<RegularFile, DocumentProblem> openRegularFile(const QString &path)
     // A pipe may have taken the file's place meanwhile; without O_NONBLOCK, opening it would wait.
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
     if (descriptor < 0)
-        return systemProblem(errno);
+        return systemError(errno);
     auto file = std::make_unique<QFile>();
     if (!file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         ::close(descriptor);
-        return DocumentProblem{DocumentFailure::Unreadable, file->errorString()};
+        return DocumentErrorReason{DocumentErrorKind::Unreadable, file->errorString()};
     }
     if (const auto problem = checkStatus(::fstat(descriptor, &status), status))
         return *problem;

@@ -29,8 +29,8 @@ struct RegularFile {
     FileStamp stamp;
 };
 
-/// Opens a file. Folders, pipes and devices are refused, and never waited on.
-Result<RegularFile, DocumentProblem> openRegularFile(const QString &path);
+/// Opens a file. Folders, pipes and devices are rejected, and never waited on.
+Result<RegularFile, DocumentErrorReason> openRegularFile(const QString &path);
 
 /// What lies at the path now; nothing when there is nothing.
 std::optional<FileStamp> fileStamp(const QString &path);

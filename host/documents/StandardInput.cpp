@@ -37,7 +37,7 @@ ssize_t readPiece(char *buffer, std::size_t size)
 
 } // namespace
 
-Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> makeTemporaryFile()
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> makeTemporaryFile()
 {
     auto file = std::make_unique<platform::TemporaryFile>(QDir::tempPath());
     if (!file->create())
@@ -45,14 +45,14 @@ Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> makeTemporaryF
     return file;
 }
 
-DocumentProblem notStored(const platform::TemporaryFile &file)
+DocumentErrorReason notStored(const platform::TemporaryFile &file)
 {
     return {
-        DocumentFailure::NotStored,
+        DocumentErrorKind::NotStored,
         StandardInputText::tr("it cannot be kept in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
 }
 
-Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardInput(qint64 limit)
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> readStandardInput(qint64 limit)
 {
     auto file = makeTemporaryFile();
     if (!file)
@@ -62,13 +62,13 @@ Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardIn
     for (;;) {
         const ssize_t length = readPiece(buffer.data(), buffer.size());
         if (length < 0)
-            return DocumentProblem{DocumentFailure::Unreadable, qt_error_string(errno)};
+            return DocumentErrorReason{DocumentErrorKind::Unreadable, qt_error_string(errno)};
         if (length == 0)
             break;
         taken += length;
         if (taken > limit)
-            return DocumentProblem{
-                DocumentFailure::TooLarge,
+            return DocumentErrorReason{
+                DocumentErrorKind::TooLarge,
                 StandardInputText::tr("it is longer than %1").arg(QLocale().formattedDataSize(limit))};
         if (file.value()->write(buffer.data(), length) != length)
             return notStored(*file.value());

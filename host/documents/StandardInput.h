@@ -12,16 +12,17 @@ inline namespace documents {
 
 /// The most bytes taken from standard input: 1 GiB, far more than any document of labels has, and a bound
 /// for what a program that never stops writing can fill.
-inline constexpr qint64 mostInput = 1024LL * 1024 * 1024;
+inline constexpr qint64 maxInput = 1024LL * 1024 * 1024;
 
 /// An empty file among the system's temporary ones that only this user can read, gone with the object.
-Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> makeTemporaryFile();
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> makeTemporaryFile();
 /// Why the temporary file could not be written.
-DocumentProblem notStored(const platform::TemporaryFile &file);
+DocumentErrorReason notStored(const platform::TemporaryFile &file);
 
 /// Reads standard input to its end, waiting for whoever writes it, into a temporary file. The limit is in
 /// bytes; nothing is kept when there is more.
-Result<std::unique_ptr<platform::TemporaryFile>, DocumentProblem> readStandardInput(qint64 limit = mostInput);
+Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason>
+readStandardInput(qint64 limit = maxInput);
 
 } // namespace documents
 } // namespace host

@@ -72,7 +72,7 @@ QByteArray draw(QSvgRenderer &renderer, QSizeF size)
 
 } // namespace
 
-std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf)
+std::optional<DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *pdf)
 {
     const auto source = SvgSource::read(svg);
     if (!source)
@@ -82,7 +82,7 @@ std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf
         if (auto problem = PdfPages::checkSize(*source.value().size * pointsPerPixel, 0))
             return problem;
     }
-    DocumentProblem damaged{DocumentFailure::Damaged, SvgPdfText::tr("it is a damaged SVG")};
+    DocumentErrorReason damaged{DocumentErrorKind::Damaged, SvgPdfText::tr("it is a damaged SVG")};
     QSvgRenderer renderer;
     if (!renderer.load(source.value().content))
         return damaged;
@@ -97,7 +97,7 @@ std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf
     if (page.isEmpty())
         return damaged;
     if (pdf->write(page) != page.size())
-        return DocumentProblem{DocumentFailure::NotStored, pdf->errorString()};
+        return DocumentErrorReason{DocumentErrorKind::NotStored, pdf->errorString()};
     return std::nullopt;
 }
 

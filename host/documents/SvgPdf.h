@@ -14,7 +14,7 @@ inline namespace documents {
 
 /// Writes a PDF whose one page is the SVG in its natural size: what its width and height say, else its view
 /// box, else what it draws, a px being 1/96 inch.
-std::optional<DocumentProblem> writeSvgPdf(const QByteArray &svg, QIODevice *pdf);
+std::optional<DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *pdf);
 
 } // namespace documents
 } // namespace host

@@ -31,13 +31,13 @@ bool drawsItsReference(QStringView element)
     return std::ranges::find(names, element) != std::end(names);
 }
 
-DocumentProblem needsOther(QString other)
+DocumentErrorReason needsOther(QString other)
 {
     constexpr qsizetype shown = 100;
     if (other.size() > shown)
         other = other.first(shown) + u'…';
     return {
-        DocumentFailure::NeedsOthers,
+        DocumentErrorKind::NeedsOthers,
         SvgSourceText::tr("it refers to \"%1\", and only what is in the SVG itself is printed").arg(other)};
 }
 
@@ -51,19 +51,19 @@ public:
         m_reader.setNamespaceProcessing(false);
     }
 
-    std::optional<DocumentProblem> read()
+    std::optional<DocumentErrorReason> read()
     {
         while (!m_reader.atEnd() && !m_problem)
             pass(m_reader.readNext());
         if (m_problem)
             return m_problem;
         if (!m_rootSeen)
-            return DocumentProblem{DocumentFailure::UnknownKind,
-                                   SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
+            return DocumentErrorReason{DocumentErrorKind::UnknownKind,
+                                       SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
         if (m_reader.hasError())
-            return DocumentProblem{DocumentFailure::Damaged, SvgSourceText::tr("line %1 of the SVG: %2")
-                                                                 .arg(m_reader.lineNumber())
-                                                                 .arg(m_reader.errorString())};
+            return DocumentErrorReason{DocumentErrorKind::Damaged, SvgSourceText::tr("line %1 of the SVG: %2")
+                                                                       .arg(m_reader.lineNumber())
+                                                                       .arg(m_reader.errorString())};
         return std::nullopt;
     }
 
@@ -115,13 +115,14 @@ private:
     {
         const QStringView name = m_reader.name();
         if (!m_rootSeen && name != u"svg") {
-            m_problem = DocumentProblem{DocumentFailure::UnknownKind,
-                                        SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
+            m_problem = DocumentErrorReason{DocumentErrorKind::UnknownKind,
+                                            SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
             return;
         }
-        if (++m_level > SvgSource::mostLevels || ++m_elements > SvgSource::mostElements) {
-            m_problem = DocumentProblem{DocumentFailure::TooLarge,
-                                        SvgSourceText::tr("it is an SVG of more parts than can be drawn")};
+        if (++m_level > SvgSource::maxLevels || ++m_elements > SvgSource::maxElements) {
+            m_problem =
+                DocumentErrorReason{DocumentErrorKind::TooLarge,
+                                    SvgSourceText::tr("it is an SVG of more parts than can be drawn")};
             return;
         }
         m_inStyle = name == u"style";
@@ -175,8 +176,8 @@ private:
         const std::optional<DocumentKind> kind = documentKind(data.left(documentHeadSize));
         if (kind != DocumentKind::Png && kind != DocumentKind::Jpeg) {
             m_problem =
-                DocumentProblem{DocumentFailure::UnknownKind,
-                                SvgSourceText::tr("it has a picture in it that is neither PNG nor JPEG")};
+                DocumentErrorReason{DocumentErrorKind::UnknownKind,
+                                    SvgSourceText::tr("it has a picture in it that is neither PNG nor JPEG")};
             return;
         }
         QBuffer buffer;
@@ -185,11 +186,11 @@ private:
         const QSize size = QImageReader(&buffer, kind == DocumentKind::Png ? "png" : "jpeg").size();
         m_picturePixels += static_cast<qint64>(size.width()) * size.height();
         if (!size.isValid())
-            m_problem = DocumentProblem{DocumentFailure::Damaged,
-                                        SvgSourceText::tr("it has a damaged picture in it")};
-        else if (m_picturePixels > SvgSource::mostPicturePixels)
-            m_problem = DocumentProblem{
-                DocumentFailure::TooLarge,
+            m_problem = DocumentErrorReason{DocumentErrorKind::Damaged,
+                                            SvgSourceText::tr("it has a damaged picture in it")};
+        else if (m_picturePixels > SvgSource::maxPicturePixels)
+            m_problem = DocumentErrorReason{
+                DocumentErrorKind::TooLarge,
                 SvgSourceText::tr("it has pictures of more pixels in it than can be printed")};
     }
 
@@ -203,8 +204,8 @@ private:
         const std::optional<QSizeF> box =
             m_source.viewBox ? std::optional(m_source.viewBox->size()) : std::nullopt;
         if (box && !(box->width() > 0.0 && box->height() > 0.0)) {
-            m_problem =
-                DocumentProblem{DocumentFailure::BadPage, SvgSourceText::tr("page %1 has no area").arg(1)};
+            m_problem = DocumentErrorReason{DocumentErrorKind::BadPage,
+                                            SvgSourceText::tr("page %1 has no area").arg(1)};
             return;
         }
         const std::optional<double> width = lengthInPixels(value("width"));
@@ -223,7 +224,7 @@ private:
     SvgSource m_source;
     QXmlStreamReader m_reader;
     QXmlStreamWriter m_writer;
-    std::optional<DocumentProblem> m_problem;
+    std::optional<DocumentErrorReason> m_problem;
     bool m_rootSeen = false;
     bool m_inStyle = false;
     int m_level = 0;
@@ -233,7 +234,7 @@ private:
 
 } // namespace
 
-Result<SvgSource, DocumentProblem> SvgSource::read(const QByteArray &svg)
+Result<SvgSource, DocumentErrorReason> SvgSource::read(const QByteArray &svg)
 {
     SvgReader reader(svg);
     if (const auto problem = reader.read())

@@ -17,11 +17,11 @@ inline namespace documents {
 struct SvgSource {
     /// Elements inside each other, and elements at all, that are taken: far more than drawing programs
     /// write, and few enough to be drawn.
-    static constexpr int mostLevels = 256;
-    static constexpr int mostElements = 500'000;
+    static constexpr int maxLevels = 256;
+    static constexpr int maxElements = 500'000;
     /// Pixels of the pictures that stand inside the SVG, all together; a larger one would be left out
     /// without a word when it is drawn.
-    static constexpr qint64 mostPicturePixels = 16LL * 1024 * 1024;
+    static constexpr qint64 maxPicturePixels = 16LL * 1024 * 1024;
 
     QByteArray content;
     /// In px: what width and height say, completed from the view box; nothing when neither tells.
@@ -31,7 +31,7 @@ struct SvgSource {
     bool keepsShape = true;
 
     /// Fails for what is no SVG, not well-formed or too large, and for an SVG that refers to other files.
-    static Result<SvgSource, DocumentProblem> read(const QByteArray &svg);
+    static Result<SvgSource, DocumentErrorReason> read(const QByteArray &svg);
 };
 
 } // namespace documents

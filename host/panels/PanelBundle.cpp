@@ -17,7 +17,7 @@ struct PanelBundleText {
     Q_DECLARE_TR_FUNCTIONS(host::panels::PanelBundle)
 };
 
-BundleError failure(BundleFailure kind, const QString &folder, const QString &reason)
+BundleError failure(BundleErrorKind kind, const QString &folder, const QString &reason)
 {
     return {kind, PanelBundleText::tr("Cannot use the panel bundle \"%1\": %2").arg(folder, reason)};
 }
@@ -41,12 +41,12 @@ std::optional<BundleError> checkInterface(const QString &folder, const QJsonObje
     const QString interface = metaData.value(QStringLiteral("IID")).toString();
     const QString stem = QStringLiteral(PDEPlugInFactory_iid_stem);
     if (!interface.startsWith(stem))
-        return failure(BundleFailure::NotABundle, folder,
+        return failure(BundleErrorKind::NotABundle, folder,
                        PanelBundleText::tr("its library is no library of panels"));
     if (interface != QStringLiteral(PDEPlugInFactory_iid)) {
         const QString own = QStringLiteral(PDEPlugInFactory_iid).mid(stem.size());
         return failure(
-            BundleFailure::WrongInterfaceVersion, folder,
+            BundleErrorKind::WrongInterfaceVersion, folder,
             PanelBundleText::tr(
                 "it was made for version %1 of the panel interface, and this program has version %2")
                 .arg(interface.mid(stem.size()), own));
@@ -67,7 +67,7 @@ std::optional<BundleError> checkResources(const QString &folder, const QJsonObje
     }
     if (missing.isEmpty())
         return std::nullopt;
-    return failure(BundleFailure::ResourceMissing, folder,
+    return failure(BundleErrorKind::ResourceMissing, folder,
                    PanelBundleText::tr("missing or unreadable: %1").arg(missing.join(QStringLiteral(", "))));
 }
 
@@ -84,10 +84,10 @@ Result<QString, BundleError> PanelBundle::find(const std::optional<QString> &fol
             return QDir::cleanPath(QFileInfo(candidate).absoluteFilePath());
     }
     if (folder && QFileInfo::exists(*folder))
-        return failure(BundleFailure::NotABundle, *folder, PanelBundleText::tr("it is not a folder"));
+        return failure(BundleErrorKind::NotABundle, *folder, PanelBundleText::tr("it is not a folder"));
     if (folder)
-        return failure(BundleFailure::Missing, *folder, PanelBundleText::tr("there is no such folder"));
-    return BundleError{BundleFailure::Missing,
+        return failure(BundleErrorKind::Missing, *folder, PanelBundleText::tr("there is no such folder"));
+    return BundleError{BundleErrorKind::Missing,
                        PanelBundleText::tr("Cannot find the panel bundle; looked for %1")
                            .arg(candidates.join(QStringLiteral(", ")))};
 }
@@ -96,12 +96,12 @@ Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const 
 {
     const QString path = libraryPath(folder);
     if (!QFileInfo(path).isFile())
-        return failure(BundleFailure::NotABundle, folder,
+        return failure(BundleErrorKind::NotABundle, folder,
                        PanelBundleText::tr("it has no library %1").arg(QFileInfo(path).fileName()));
     QPluginLoader loader(path);
     const QJsonObject metaData = loader.metaData();
     if (metaData.isEmpty())
-        return failure(BundleFailure::NotABundle, folder, loader.errorString());
+        return failure(BundleErrorKind::NotABundle, folder, loader.errorString());
     if (const std::optional<BundleError> error = checkInterface(folder, metaData))
         return *error;
     if (const std::optional<BundleError> error = checkResources(folder, metaData))
@@ -110,11 +110,11 @@ Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const 
     PanelBundle bundle;
     bundle.m_factory = qobject_cast<PDEPlugInFactory *>(loader.instance());
     if (!bundle.m_factory)
-        return failure(BundleFailure::NotABundle, folder, loader.errorString());
+        return failure(BundleErrorKind::NotABundle, folder, loader.errorString());
     bundle.m_resources = platform::Bundle::open(folder, languages);
     bundle.m_plugIn = bundle.m_factory->createPlugIn();
     if (!bundle.m_plugIn->initWithBundle(bundle.m_resources.get()))
-        return failure(BundleFailure::Unusable, folder,
+        return failure(BundleErrorKind::Unusable, folder,
                        PanelBundleText::tr("it does not work on this system"));
     return bundle;
 }

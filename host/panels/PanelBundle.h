@@ -15,14 +15,14 @@ namespace host {
 inline namespace panels {
 
 /// Why a bundle could not be found or loaded.
-enum class BundleFailure {
+enum class BundleErrorKind {
     Missing,               ///< no bundle in any of the folders searched
     NotABundle,            ///< not a panel bundle, or its library cannot be loaded
     WrongInterfaceVersion, ///< built for another version of the panel interface
     Unusable,              ///< the bundle reported that it does not work on this system
     ResourceMissing,       ///< a file that the library needs is missing or unreadable
 };
-using BundleError = Failure<BundleFailure>;
+using BundleError = Failure<BundleErrorKind>;
 
 /// A loaded panel bundle: its principal object and its resources.
 ///

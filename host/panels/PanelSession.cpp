@@ -27,7 +27,7 @@ PDEPanel *PanelSession::firstPanel() const
     return m_panels && !m_panels->empty() ? m_panels->front().get() : nullptr;
 }
 
-QStringList PanelSession::claimKeywords() const
+QStringList PanelSession::handledKeywords() const
 {
     QStringList keywords;
     for (const std::shared_ptr<PDEPanel> &panel : m_panels.value_or(PDEPanelList()))

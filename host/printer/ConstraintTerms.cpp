@@ -60,8 +60,8 @@ int ConstraintTerms::addOption(const PpdOption &option)
     added.isInstallable = m_installable.contains(option.keyword);
     for (const PpdChoice &choice : option.choices)
         added.choices.push_back(choice.name);
-    if (option.freeText)
-        added.choices.emplace_back(freeChoiceName);
+    if (option.customText)
+        added.choices.emplace_back(customChoiceName);
     QHash<QByteArray, int> positions;
     // The first of several choices with the same name is kept.
     for (std::size_t i = added.choices.size(); i > 0; --i)

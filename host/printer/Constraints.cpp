@@ -29,14 +29,14 @@ public:
         , m_terms(constraints.m_terms)
         , m_marks(marks)
         , m_fixed(std::move(fixed))
-        , m_looks(looksFor(constraints.m_constraints.size()))
+        , m_stepsLeft(looksFor(constraints.m_constraints.size()))
     {
     }
 
     std::optional<Changes> run()
     {
-        constexpr int mostChanges = 6;
-        for (int depth = 1; depth <= mostChanges && m_looks > 0; ++depth) {
+        constexpr int maxChanges = 6;
+        for (int depth = 1; depth <= maxChanges && m_stepsLeft > 0; ++depth) {
             Changes changes;
             if (solve(changes, depth))
                 return changes;
@@ -49,8 +49,8 @@ private:
     static int looksFor(std::size_t constraints)
     {
         constexpr std::size_t most = 20'000;
-        constexpr std::size_t mostInAll = 20'000'000;
-        return static_cast<int>(std::min(most, mostInAll / std::max<std::size_t>(constraints, 1)));
+        constexpr std::size_t maxTotalSteps = 20'000'000;
+        return static_cast<int>(std::min(most, maxTotalSteps / std::max<std::size_t>(constraints, 1)));
     }
 
     bool solve(Changes &changes, int depth)
@@ -66,7 +66,7 @@ private:
             for (const int choice : choicesToTry(option)) {
                 if (m_terms.holdsWith(term, choice))
                     continue;
-                if (--m_looks < 0)
+                if (--m_stepsLeft < 0)
                     return false;
                 changes.emplace_back(option, choice);
                 if (solve(changes, depth - 1))
@@ -115,7 +115,7 @@ private:
             known.insert(name(choice).toLower());
         std::vector<int> choices;
         for (int i = 0; i < static_cast<int>(option.choices.size()); ++i) {
-            const bool isFree = name(i).compare(freeChoiceName, Qt::CaseInsensitive) == 0;
+            const bool isFree = name(i).compare(customChoiceName, Qt::CaseInsensitive) == 0;
             if (!isFree && !known.contains(name(i).toLower()))
                 choices.push_back(i);
             known.insert(name(i).toLower());
@@ -131,7 +131,7 @@ private:
     const ConstraintTerms &m_terms;
     const ConstraintTerms::Marks &m_marks;
     std::set<QString> m_fixed;
-    int m_looks;
+    int m_stepsLeft;
 };
 
 QString Conflict::sentence() const

@@ -69,9 +69,9 @@ void PpdCounts::countChoice(std::string_view keyword, std::string_view rest)
         m_option = QByteArray(option.data(), static_cast<qsizetype>(option.size()));
         m_choices = 0;
     } else if (isEqual(keyword, {m_option.constData(), static_cast<std::size_t>(m_option.size())})) {
-        if (++m_choices > m_mostChoices.count) {
-            m_mostChoices.keyword = m_option;
-            m_mostChoices.count = m_choices;
+        if (++m_choices > m_maxChoicesFound.count) {
+            m_maxChoicesFound.keyword = m_option;
+            m_maxChoicesFound.count = m_choices;
         }
     }
 }
@@ -84,8 +84,8 @@ std::optional<PpdCounts::Excess> PpdCounts::excess() const
             return Excess{QByteArray(keyword.data(), static_cast<qsizetype>(keyword.size())), m_counts[i],
                           counted[i].max};
     }
-    if (m_mostChoices.count > m_mostChoices.max)
-        return m_mostChoices;
+    if (m_maxChoicesFound.count > m_maxChoicesFound.max)
+        return m_maxChoicesFound;
     if (m_statements > maxStatements)
         return Excess{{}, m_statements, maxStatements};
     return std::nullopt;

@@ -55,7 +55,7 @@ private:
     /// The keyword of the current option, including the asterisk; empty before the first option.
     QByteArray m_option;
     int m_choices = 0;
-    Excess m_mostChoices{{}, 0, maxChoices};
+    Excess m_maxChoicesFound{{}, 0, maxChoices};
 };
 
 } // namespace printer

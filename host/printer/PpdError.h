@@ -7,7 +7,7 @@ namespace host {
 inline namespace printer {
 
 /// Why a PPD file could not be opened.
-enum class PpdFailure {
+enum class PpdErrorKind {
     Missing,    ///< the file does not exist
     NotAFile,   ///< the path is a folder, a pipe or a device
     Unreadable, ///< missing permission, or an I/O error
@@ -15,7 +15,7 @@ enum class PpdFailure {
     Truncated,  ///< ends inside a value, or cannot be decompressed completely
     NotAPpd,    ///< libcups cannot parse the file, or the file is empty
 };
-using PpdError = Failure<PpdFailure>;
+using PpdError = Failure<PpdErrorKind>;
 
 } // namespace printer
 } // namespace host

@@ -51,16 +51,16 @@ private:
         for (int i = 0; i < option.num_choices; ++i)
             localize(option.choices[i].text, option.keyword, option.choices[i].choice);
         if (const ppd_coption_t *const free = ppdFindCustomOption(m_ppd, option.keyword))
-            localizeFreeChoice(option, *free);
+            localizeCustomOption(option, *free);
     }
 
     /// PPD 4.3: the texts of a custom option and of its parameters have their own keywords, *CustomKEYWORD
     /// and *ParamCustomKEYWORD.
-    void localizeFreeChoice(ppd_option_t &option, const ppd_coption_t &free) const
+    void localizeCustomOption(ppd_option_t &option, const ppd_coption_t &free) const
     {
-        const QByteArray choice = freeChoiceName + QByteArray(option.keyword);
+        const QByteArray choice = customChoiceName + QByteArray(option.keyword);
         for (int i = 0; i < option.num_choices; ++i) {
-            if (qstricmp(option.choices[i].choice, freeChoiceName) == 0)
+            if (qstricmp(option.choices[i].choice, customChoiceName) == 0)
                 localize(option.choices[i].text, choice.constData(), "True");
         }
         const QByteArray parameters = "Param" + choice;
@@ -138,7 +138,7 @@ PpdFile::PpdFile(QString path, PpdHandle ppd, const PpdText &text)
 
 Result<PpdFile, PpdError> PpdFile::open(const QString &path)
 {
-    Result<PpdSource, PpdError> source = PpdSource::open(path, largestText);
+    Result<PpdSource, PpdError> source = PpdSource::open(path, maxTextSize);
     if (!source)
         return source.error();
     Result<PpdHandle, PpdError> ppd = source.value().parse();

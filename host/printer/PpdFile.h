@@ -22,7 +22,7 @@ class PpdText;
 /// The keyword of the option that selects the paper, as PPD 4.3 names it.
 inline constexpr const char *paperKeyword = "PageSize";
 /// The name of the choice that stands for a custom value, as PPD 4.3 names it.
-inline constexpr const char *freeChoiceName = "Custom";
+inline constexpr const char *customChoiceName = "Custom";
 
 /// A paper of the PPD, or a custom size.
 struct PpdPaper {
@@ -54,9 +54,9 @@ struct PpdCustomLimits {
 class PpdFile {
 public:
     /// The maximum size of the uncompressed text, in bytes; far larger than the PPD of any printer.
-    static constexpr qint64 largestText = qint64{16} * 1024 * 1024;
+    static constexpr qint64 maxTextSize = qint64{16} * 1024 * 1024;
 
-    /// Opens a PPD file, plain or gzip-compressed. No choice is marked yet. Reads at most largestText bytes
+    /// Opens a PPD file, plain or gzip-compressed. No choice is marked yet. Reads at most maxTextSize bytes
     /// of text and never blocks on a pipe.
     static Result<PpdFile, PpdError> open(const QString &path);
 

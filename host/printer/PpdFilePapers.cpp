@@ -13,7 +13,7 @@ inline namespace printer {
 std::optional<PpdPaper> PpdFile::fixedPaper(const QByteArray &name, const QString &text) const
 {
     const std::optional<QSizeF> size = m_paperSizes.size(name);
-    if (!size || name == freeChoiceName)
+    if (!size || name == customChoiceName)
         return std::nullopt;
     return PpdPaper{name, text.isEmpty() ? QString::fromUtf8(name) : text, *size, m_paperSizes.margins(name)};
 }
@@ -85,7 +85,7 @@ std::optional<PpdPaper> PpdFile::markedPaper() const
     // PageSize and PageRegion both select the paper; libcups keeps only the mark that was set last.
     if (!name)
         name = markedChoice(QStringLiteral("PageRegion"));
-    if (name != QLatin1String(freeChoiceName))
+    if (name != QLatin1String(customChoiceName))
         return name ? paper(name->toUtf8()) : std::nullopt;
     const ppd_size_t *const size = ppdPageSize(m_ppd.get(), nullptr);
     if (!size)

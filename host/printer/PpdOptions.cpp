@@ -54,7 +54,7 @@ double exactly(float number)
 }
 
 /// Limits the number to the range of an input field: PPDs may contain "nan" and "inf".
-double showable(double number)
+double inFieldRange(double number)
 {
     constexpr double most = std::numeric_limits<int>::max();
     return std::isnan(number) ? 0 : std::clamp(number, -most, most);
@@ -63,9 +63,10 @@ double showable(double number)
 void readNumber(PpdParameter &parameter, double minimum, double maximum, double current)
 {
     // Some PPDs state the maximum first.
-    std::tie(parameter.minimum, parameter.maximum) = std::minmax({showable(minimum), showable(maximum)});
+    std::tie(parameter.minimum, parameter.maximum) =
+        std::minmax({inFieldRange(minimum), inFieldRange(maximum)});
     // The initial value of libcups is 0, even if 0 is outside of the limits.
-    parameter.number = std::clamp(showable(current), parameter.minimum, parameter.maximum);
+    parameter.number = std::clamp(inFieldRange(current), parameter.minimum, parameter.maximum);
 }
 
 void readCharacters(PpdParameter &parameter, int minimum, int maximum, const char *current)
@@ -199,8 +200,8 @@ std::optional<PpdOption> PpdOptions::option(const QByteArray &keyword) const
     for (int i = 0; i < source->num_choices; ++i) {
         const ppd_choice_t &choice = source->choices[i];
         const QString text = textOr(choice.text, choice.choice);
-        if (hasParameters && qstricmp(choice.choice, freeChoiceName) == 0)
-            option.freeText = text;
+        if (hasParameters && qstricmp(choice.choice, customChoiceName) == 0)
+            option.customText = text;
         else
             option.choices.push_back({choice.choice, text});
     }
@@ -262,7 +263,7 @@ std::vector<PpdConstraint> PpdOptions::constraints() const
     return constraints;
 }
 
-QByteArray freeChoiceValue(const std::vector<PpdParameter> &parameters)
+QByteArray customChoiceValue(const std::vector<PpdParameter> &parameters)
 {
     if (parameters.size() == 1) {
         const QByteArray value = plainValue(parameters.front());

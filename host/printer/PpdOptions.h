@@ -59,7 +59,7 @@ struct PpdOption {
     std::vector<PpdChoice> choices;
     /// The text of the choice that stands for a custom value; absent if the option does not allow custom
     /// values.
-    std::optional<QString> freeText;
+    std::optional<QString> customText;
     /// The default choice of the PPD; the option need not have a choice of this name.
     QByteArray defaultChoice = {};
 };
@@ -120,7 +120,7 @@ private:
 /// Returns the custom value that these parameters form, as a job contains it: "Custom.VALUE", or "{Name=VALUE
 /// Name=VALUE}" for several parameters and for texts with characters that servers interpret. Lengths are
 /// written in millimetres.
-QByteArray freeChoiceValue(const std::vector<PpdParameter> &parameters);
+QByteArray customChoiceValue(const std::vector<PpdParameter> &parameters);
 
 } // namespace printer
 } // namespace host

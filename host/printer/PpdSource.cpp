@@ -19,20 +19,20 @@ struct PpdSourceText {
     Q_DECLARE_TR_FUNCTIONS(host::printer::PpdFile)
 };
 
-PpdError failure(PpdFailure kind, const QString &path, const QString &reason)
+PpdError failure(PpdErrorKind kind, const QString &path, const QString &reason)
 {
     return {kind, PpdSourceText::tr("Cannot open the PPD file \"%1\": %2").arg(path, reason)};
 }
 
-PpdError failureAtLine(PpdFailure kind, const QString &path, int line, const QString &reason)
+PpdError failureAtLine(PpdErrorKind kind, const QString &path, int line, const QString &reason)
 {
     return failure(kind, path, PpdSourceText::tr("line %1: %2").arg(line).arg(reason));
 }
 
 PpdError systemFailure(const QString &path, int error)
 {
-    const PpdFailure kind =
-        error == ENOENT || error == ENOTDIR ? PpdFailure::Missing : PpdFailure::Unreadable;
+    const PpdErrorKind kind =
+        error == ENOENT || error == ENOTDIR ? PpdErrorKind::Missing : PpdErrorKind::Unreadable;
     return failure(kind, path, qt_error_string(error));
 }
 
@@ -54,7 +54,7 @@ QString tooMany(const PpdCounts::Excess &excess)
 
 PpdError damaged(const QString &path)
 {
-    return failure(PpdFailure::Truncated, path,
+    return failure(PpdErrorKind::Truncated, path,
                    PpdSourceText::tr("it is damaged or incomplete: it cannot be unpacked to its end"));
 }
 
@@ -78,7 +78,7 @@ PpdSource::PpdSource(QString path, cups_file_t *file)
 {
 }
 
-Result<PpdSource, PpdError> PpdSource::open(const QString &path, qint64 largestText)
+Result<PpdSource, PpdError> PpdSource::open(const QString &path, qint64 maxTextSize)
 {
     // Without O_NONBLOCK, opening a pipe would block until another process opens it for writing.
     const int descriptor =
@@ -88,39 +88,39 @@ Result<PpdSource, PpdError> PpdSource::open(const QString &path, qint64 largestT
     PpdSource source(path, cupsFileOpenFd(descriptor, "r"));
     if (!source.m_file) {
         ::close(descriptor);
-        return failure(PpdFailure::Unreadable, path, qt_error_string(errno));
+        return failure(PpdErrorKind::Unreadable, path, qt_error_string(errno));
     }
-    if (const Result<void, PpdError> checked = source.check(largestText, descriptor); !checked)
+    if (const Result<void, PpdError> checked = source.check(maxTextSize, descriptor); !checked)
         return checked.error();
     return source;
 }
 
-Result<void, PpdError> PpdSource::check(qint64 largestText, int descriptor)
+Result<void, PpdError> PpdSource::check(qint64 maxTextSize, int descriptor)
 {
     struct stat status = {};
     if (fstat(descriptor, &status) != 0)
         return systemFailure(m_path, errno);
     if (!S_ISREG(status.st_mode))
-        return failure(PpdFailure::NotAFile, m_path, PpdSourceText::tr("it is not a file"));
-    if (status.st_size > largestText)
-        return failure(PpdFailure::TooLarge, m_path, tooLarge(largestText));
+        return failure(PpdErrorKind::NotAFile, m_path, PpdSourceText::tr("it is not a file"));
+    if (status.st_size > maxTextSize)
+        return failure(PpdErrorKind::TooLarge, m_path, tooLarge(maxTextSize));
     if (status.st_size == 0)
-        return failure(PpdFailure::NotAPpd, m_path, PpdSourceText::tr("it is empty"));
+        return failure(PpdErrorKind::NotAPpd, m_path, PpdSourceText::tr("it is empty"));
 
-    const Result<qint64, PpdError> length = readThrough(largestText);
+    const Result<qint64, PpdError> length = scan(maxTextSize);
     if (!length)
         return length.error();
     const std::optional<quint32> announced = gzipLength(descriptor, status.st_size);
     if (announced && *announced != static_cast<quint32>(length.value()))
         return damaged(m_path);
     if (const std::optional<PpdCounts::Excess> excess = m_text.counts().excess())
-        return failure(PpdFailure::TooLarge, m_path, tooMany(*excess));
+        return failure(PpdErrorKind::TooLarge, m_path, tooMany(*excess));
     if (cupsFileRewind(m_file.get()) != 0)
         return systemFailure(m_path, errno);
     return {};
 }
 
-Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)
+Result<qint64, PpdError> PpdSource::scan(qint64 maxTextSize)
 {
     std::vector<char> piece(16384);
     qint64 length = 0;
@@ -130,8 +130,8 @@ Result<qint64, PpdError> PpdSource::readThrough(qint64 largestText)
     while ((read = cupsFileRead(m_file.get(), piece.data(), piece.size())) > 0) {
         m_text.add({piece.data(), static_cast<std::size_t>(read)});
         length += read;
-        if (length > largestText)
-            return failure(PpdFailure::TooLarge, m_path, tooLarge(largestText));
+        if (length > maxTextSize)
+            return failure(PpdErrorKind::TooLarge, m_path, tooLarge(maxTextSize));
     }
     if (read < 0 && errno != 0)
         return damaged(m_path);
@@ -145,11 +145,11 @@ Result<PpdHandle, PpdError> PpdSource::parse()
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        return failureAtLine(PpdFailure::NotAPpd, m_path, line, QString::fromUtf8(ppdErrorString(status)));
+        return failureAtLine(PpdErrorKind::NotAPpd, m_path, line, QString::fromUtf8(ppdErrorString(status)));
     }
     // Checked after ppdOpen2(), whose error is more specific if the file is not a PPD.
     if (m_text.isInsideValue())
-        return failureAtLine(PpdFailure::Truncated, m_path, m_text.line(),
+        return failureAtLine(PpdErrorKind::Truncated, m_path, m_text.line(),
                              PpdSourceText::tr("it ends in the middle of a value; the file is incomplete"));
     return ppd;
 }

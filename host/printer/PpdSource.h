@@ -15,8 +15,8 @@ inline namespace printer {
 class PpdSource {
 public:
     /// Opens the file and checks that it is a regular file, that its uncompressed text has at most
-    /// largestText bytes and no more statements than PpdCounts allows, and that compressed data is complete.
-    static Result<PpdSource, PpdError> open(const QString &path, qint64 largestText);
+    /// maxTextSize bytes and no more statements than PpdCounts allows, and that compressed data is complete.
+    static Result<PpdSource, PpdError> open(const QString &path, qint64 maxTextSize);
 
     /// Parses the file with libcups. Also reports an error if the text ends inside a value. Must be called
     /// only once.
@@ -32,9 +32,9 @@ private:
 
     PpdSource(QString path, cups_file_t *file);
 
-    Result<void, PpdError> check(qint64 largestText, int descriptor);
+    Result<void, PpdError> check(qint64 maxTextSize, int descriptor);
 
-    Result<qint64, PpdError> readThrough(qint64 largestText);
+    Result<qint64, PpdError> scan(qint64 maxTextSize);
 
     QString m_path;
     PpdText m_text;

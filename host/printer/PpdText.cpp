@@ -7,9 +7,9 @@ inline namespace printer {
 namespace {
 
 /// libcups rejects lines whose part before the value is longer than this.
-constexpr std::size_t longestHead = 255;
+constexpr std::size_t maxHeadLength = 255;
 /// Sufficient for four numbers, the longest value that is parsed.
-constexpr std::size_t longestValue = 255;
+constexpr std::size_t maxValueLength = 255;
 
 } // namespace
 
@@ -43,7 +43,7 @@ void PpdText::addCharacter(char character)
         addToValue(character);
     else if (character == ':' && !m_head.starts_with("*%"))
         m_colon = true;
-    else if (m_head.size() < longestHead)
+    else if (m_head.size() < maxHeadLength)
         m_head += character;
 }
 
@@ -51,7 +51,7 @@ void PpdText::addToValue(char character)
 {
     if (character == '"')
         m_quoted = !m_quoted;
-    else if (m_value.size() < longestValue)
+    else if (m_value.size() < maxValueLength)
         m_value += character;
 }
 

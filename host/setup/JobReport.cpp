@@ -4,7 +4,7 @@
 #include <host/base/Units.h>
 #include <host/cups/jobs/LpCommand.h>
 #include <host/documents/StandardInput.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -116,7 +116,7 @@ QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
         text += conflict.sentence() + u'\n';
     const LpCommand lp = lpCommand(server, ticket);
     text += lp.line + u'\n';
-    return lp.differences.isEmpty() ? text : text + lp.differencesInWords() + u'\n';
+    return lp.differences.isEmpty() ? text : text + lp.differencesText() + u'\n';
 }
 
 QJsonObject ticketJson(const CupsServer &server, const Ticket &whole)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobSummary.h"
 
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -37,7 +37,7 @@ SummarySection printingSection(const Ticket &ticket)
                                    set == PageSet::Odd ? JobSummaryText::tr("the odd pages")
                                                        : JobSummaryText::tr("the even pages"));
     section.lines.emplace_back(JobSummaryText::tr("Copies"), QLocale().toString(ticket.pages.copies));
-    if (ticket.pages.order == PageOrder::LastFirst)
+    if (ticket.pages.order == PageOrder::Reverse)
         section.lines.emplace_back(JobSummaryText::tr("Order"), JobSummaryText::tr("last page first"));
     return section;
 }
@@ -59,8 +59,8 @@ SummarySection stripSection(const CutPlan &plan)
     section.lines.emplace_back(JobSummaryText::tr("Labels"), number(plan.labels().size()));
     if (plan.settings().areKnown)
         section.lines.emplace_back(JobSummaryText::tr("Pieces"), number(plan.pieces().size()));
-    section.lines.emplace_back(JobSummaryText::tr("Tape"), tapeInWords(plan));
-    section.lines.emplace_back(JobSummaryText::tr("Cuts"), cutPlanSentences(plan).join(u' '));
+    section.lines.emplace_back(JobSummaryText::tr("Tape"), tapeText(plan));
+    section.lines.emplace_back(JobSummaryText::tr("Cuts"), cutPlanDescription(plan).join(u' '));
     return section;
 }
 

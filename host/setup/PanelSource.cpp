@@ -14,8 +14,8 @@ struct PanelSourceText {
 
 PanelError bundleError(const BundleError &error)
 {
-    const bool isBroken = error.kind == BundleFailure::ResourceMissing;
-    return {isBroken ? PanelFailure::BrokenBundle : PanelFailure::NoPanel, error.message};
+    const bool isBroken = error.kind == BundleErrorKind::ResourceMissing;
+    return {isBroken ? PanelErrorKind::BrokenBundle : PanelErrorKind::NoPanel, error.message};
 }
 
 } // namespace
@@ -34,17 +34,17 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
     // A panel takes the size it needs while its view is loaded, if the dialog listens.
     host->setPanelViewDidResizeHook([] {});
     panels.session = std::make_unique<PanelSession>(std::move(bundle).value(), std::move(host));
-    panels.keywords = panels.session->claimKeywords();
+    panels.keywords = panels.session->handledKeywords();
     PDEPanel *const panel = panels.session->firstPanel();
     if (!panel)
         return PanelError{
-            PanelFailure::NoPanel,
+            PanelErrorKind::NoPanel,
             PanelSourceText::tr("The panel bundle \"%1\" could not make its panel").arg(found.value())};
     if (panels.keywords.isEmpty())
         return ClaimedPanels();
     if (!panel->panelView())
         return PanelError{
-            PanelFailure::BrokenBundle,
+            PanelErrorKind::BrokenBundle,
             PanelSourceText::tr(
                 "The panel of the bundle \"%1\" cannot be shown: its layout file cannot be used")
                 .arg(found.value())};

@@ -6,11 +6,11 @@
 namespace host {
 inline namespace setup {
 
-enum class PanelFailure {
+enum class PanelErrorKind {
     NoPanel,      ///< no bundle, or one that is of no use here: the dialog goes on without it
     BrokenBundle, ///< the bundle lacks files of its own: printing on would mislead
 };
-using PanelError = Failure<PanelFailure>;
+using PanelError = Failure<PanelErrorKind>;
 
 /// A bundle's panels at work for one printer, and the PPD keywords that they take care of.
 struct ClaimedPanels {

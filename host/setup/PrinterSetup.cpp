@@ -27,28 +27,28 @@ platform::Paper panelPaper(const PpdPaper &paper)
 
 } // namespace
 
-PrinterSetup::PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupWishes &wishes,
+PrinterSetup::PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupRequest &requested,
                            const PanelSource &panelSource)
     : m_destination(std::move(destination))
 {
     if (!ppd) {
         // Nobody knows what such a queue can do, so everything is passed on.
-        m_choices = wishes.choices;
-        if (wishes.paper)
-            record(paperKeyword, *wishes.paper, Origin::You);
+        m_choices = requested.choices;
+        if (requested.paper)
+            record(paperKeyword, *requested.paper, Origin::You);
         return;
     }
     markEffectiveDefaults(*ppd, m_destination);
-    if (!wishes.language.isEmpty())
-        ppd->localize(wishes.language);
+    if (!requested.language.isEmpty())
+        ppd->localize(requested.language);
     m_state = std::make_shared<DialogState>(std::move(*ppd));
     if (!m_destination.deviceUri.isEmpty())
         m_state->setDeviceURI(m_destination.deviceUri);
     m_constraints.emplace(m_state->ppd());
-    markWishes(wishes);
-    takePaper(wishes);
-    if (wishes.force)
-        keepRefused(wishes);
+    markRequested(requested);
+    applyPaper(requested);
+    if (requested.force)
+        keepRejected(requested);
     loadPanels(panelSource);
 }
 
@@ -59,16 +59,17 @@ PrinterSetup::~PrinterSetup()
         host->setWillChangeHook({});
 }
 
-void PrinterSetup::markWishes(const SetupWishes &wishes)
+void PrinterSetup::markRequested(const SetupRequest &requested)
 {
-    std::vector<JobChoice> choices = wishes.choices;
-    std::erase_if(choices, [](const JobChoice &wish) { return wish.name == paperKeyword; });
+    std::vector<JobChoice> choices = requested.choices;
+    std::erase_if(choices,
+                  [](const JobChoice &requestedChoice) { return requestedChoice.name == paperKeyword; });
     CarriedChoices carried = carryOverChoices(choices, m_state->ppd());
     m_choices = std::move(carried.kept);
-    m_refusals = std::move(carried.lost);
-    for (const JobChoice &wish : choices) {
-        if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
-            m_refusedWishes.push_back(wish);
+    m_choiceErrors = std::move(carried.lost);
+    for (const JobChoice &requestedChoice : choices) {
+        if (std::ranges::find(m_choices, requestedChoice.name, &JobChoice::name) == m_choices.end())
+            m_rejectedChoices.push_back(requestedChoice);
     }
 }
 
@@ -84,31 +85,31 @@ std::vector<JobChoice> PrinterSetup::choicesNow() const
     return all;
 }
 
-std::vector<JobChoice> PrinterSetup::choicesAndRefusedWishes() const
+std::vector<JobChoice> PrinterSetup::choicesAndRejected() const
 {
     std::vector<JobChoice> all = choicesNow();
     // Another setup, on another paper or with another description, may be able to do them.
     for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
         setJobChoice(all, {each.keyword.toUtf8(), each.choice.toUtf8(), Origin::Panel});
-    for (const JobChoice &wish : m_refusedWishes) {
-        if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
-            all.push_back(wish);
+    for (const JobChoice &requestedChoice : m_rejectedChoices) {
+        if (std::ranges::find(m_choices, requestedChoice.name, &JobChoice::name) == m_choices.end())
+            all.push_back(requestedChoice);
     }
     return all;
 }
 
-std::optional<QByteArray> PrinterSetup::wishedPaper(const SetupWishes &wishes)
+std::optional<QByteArray> PrinterSetup::requestedPaper(const SetupRequest &requested)
 {
-    const auto chosen = std::ranges::find(wishes.choices, QByteArray(paperKeyword), &JobChoice::name);
-    const bool isAmongChoices = !wishes.paper && chosen != wishes.choices.end();
-    return isAmongChoices ? chosen->value : wishes.paper;
+    const auto chosen = std::ranges::find(requested.choices, QByteArray(paperKeyword), &JobChoice::name);
+    const bool isAmongChoices = !requested.paper && chosen != requested.choices.end();
+    return isAmongChoices ? chosen->value : requested.paper;
 }
 
-std::optional<QByteArray> PrinterSetup::lackingUserPaper() const
+std::optional<QByteArray> PrinterSetup::missingUserPaper() const
 {
     const QByteArray *const users = findValue(m_destination.userOptions, paperKeyword);
-    const bool isLacking = users && m_state && !m_state->ppd().paper(*users);
-    return isLacking ? std::optional(*users) : std::nullopt;
+    const bool isMissing = users && m_state && !m_state->ppd().paper(*users);
+    return isMissing ? std::optional(*users) : std::nullopt;
 }
 
 std::optional<PpdPaper> PrinterSetup::defaultPaper() const
@@ -130,28 +131,28 @@ std::optional<PpdPaper> PrinterSetup::defaultPaper() const
     return papers.empty() ? std::nullopt : std::optional(papers.front());
 }
 
-void PrinterSetup::takePaper(const SetupWishes &wishes)
+void PrinterSetup::applyPaper(const SetupRequest &requested)
 {
-    if (const std::optional<QByteArray> wished = wishedPaper(wishes)) {
-        m_paper = m_state->ppd().paper(*wished);
-        const JobChoice wish{paperKeyword, *wished, Origin::You};
+    if (const std::optional<QByteArray> requestedName = requestedPaper(requested)) {
+        m_paper = m_state->ppd().paper(*requestedName);
+        const JobChoice requestedChoice{paperKeyword, *requestedName, Origin::You};
         if (m_paper) {
             record(paperKeyword, m_paper->name, Origin::You);
         } else {
-            m_refusals.push_back(checkChoice(m_state->ppd(), wish).error());
-            m_refusedWishes.push_back(wish);
+            m_choiceErrors.push_back(checkChoice(m_state->ppd(), requestedChoice).error());
+            m_rejectedChoices.push_back(requestedChoice);
         }
-    } else if (const std::optional<QByteArray> lacking = lackingUserPaper()) {
-        m_refusals.push_back(
-            {ChoiceFailure::UnknownPaper,
+    } else if (const std::optional<QByteArray> missing = missingUserPaper()) {
+        m_choiceErrors.push_back(
+            {ChoiceErrorKind::UnknownPaper,
              PrinterSetupText::tr(
                  "The printer \"%1\" has no paper \"%2\", which is your default (lpoptions).")
-                 .arg(ppd().printerName(), QString::fromUtf8(*lacking))});
+                 .arg(ppd().printerName(), QString::fromUtf8(*missing))});
     }
     if (!m_paper)
         m_paper = defaultPaper();
     if (!m_paper) {
-        refuseUnusableDefault();
+        rejectUnusableDefault();
         return;
     }
     // Marked and recorded before there is a panel, since a panel looks at the paper from the beginning.
@@ -159,31 +160,31 @@ void PrinterSetup::takePaper(const SetupWishes &wishes)
     m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(m_paper->name), nullptr);
 }
 
-void PrinterSetup::refuseUnusableDefault()
+void PrinterSetup::rejectUnusableDefault()
 {
     // Without a choice, the server would print on it.
     const QByteArray paper = PpdOptions(ppd()).defaultChoice(paperKeyword);
-    if (m_refusals.empty() && ppd().unusableSize(paper))
-        m_refusals.push_back(checkChoice(ppd(), {paperKeyword, paper, Origin::Ppd}).error());
+    if (m_choiceErrors.empty() && ppd().unusableSize(paper))
+        m_choiceErrors.push_back(checkChoice(ppd(), {paperKeyword, paper, Origin::Ppd}).error());
 }
 
-void PrinterSetup::keepRefused(const SetupWishes &wishes)
+void PrinterSetup::keepRejected(const SetupRequest &requested)
 {
-    for (const JobChoice &wish : wishes.choices) {
-        if (std::ranges::find(m_choices, wish.name, &JobChoice::name) == m_choices.end())
-            m_choices.push_back(wish);
+    for (const JobChoice &requestedChoice : requested.choices) {
+        if (std::ranges::find(m_choices, requestedChoice.name, &JobChoice::name) == m_choices.end())
+            m_choices.push_back(requestedChoice);
     }
-    if (const std::optional<QByteArray> wished = wishedPaper(wishes))
-        record(paperKeyword, *wished, Origin::You);
-    else if (const std::optional<QByteArray> lacking = lackingUserPaper())
-        record(paperKeyword, *lacking, Origin::UserDefault);
+    if (const std::optional<QByteArray> requestedName = requestedPaper(requested))
+        record(paperKeyword, *requestedName, Origin::You);
+    else if (const std::optional<QByteArray> missing = missingUserPaper())
+        record(paperKeyword, *missing, Origin::UserDefault);
 }
 
 void PrinterSetup::loadPanels(const PanelSource &source)
 {
     m_panels.emplace(m_state);
     // Whether a bundle is there and whole does not matter for printers that cannot cut.
-    if (!CutSettings::areKnownTo(ppd()))
+    if (!CutSettings::areDefinedBy(ppd()))
         return;
     PDEChoices requested;
     for (const JobChoice &choice : m_choices)
@@ -193,7 +194,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
         return;
     startNoting();
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
-        m_panels->forgetReplaced(keyword, choice);
+        m_panels->clearReplaced(keyword, choice);
         m_reported.insert(keyword);
         // A panel that saves what is marked anyway has not chosen anything.
         if (!choice || ppd().markedChoice(keyword) == choice)
@@ -203,7 +204,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     });
 }
 
-std::optional<PanelError> PrinterSetup::panelProblem() const
+std::optional<PanelError> PrinterSetup::panelError() const
 {
     return m_panels ? m_panels->problem() : std::nullopt;
 }
@@ -290,7 +291,7 @@ void PrinterSetup::noteCombination()
         if (const std::optional<QString> choice = now.choice(each.keyword))
             record(each.keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
     }
-    m_panels->forgetReplaced(std::nullopt, std::nullopt);
+    m_panels->clearReplaced(std::nullopt, std::nullopt);
 }
 
 void PrinterSetup::notePanelInput()
@@ -303,7 +304,7 @@ void PrinterSetup::notePanelInput()
     for (const auto &[keyword, choice] : m_panels->choicesToKeep()) {
         if (findChoice(m_noted, keyword) == choice || m_reported.contains(keyword))
             continue;
-        m_panels->forgetReplaced(keyword, choice);
+        m_panels->clearReplaced(keyword, choice);
         changed = keyword;
     }
     if (changed) {

@@ -12,7 +12,7 @@ inline namespace setup {
 
 /// What is wanted of a printer from the beginning: by the command line, or because it was set for the same
 /// queue before.
-struct SetupWishes {
+struct SetupRequest {
     std::vector<JobChoice> choices = {};
     /// By its exact name in the PPD; nothing for the default.
     std::optional<QByteArray> paper = {};
@@ -25,12 +25,12 @@ struct SetupWishes {
 /// A printer while it is set up for a job: its PPD with all that is marked, its panels, the paper, and every
 /// choice with who made it. Without widgets but the panels' own views; lives on the main thread.
 ///
-/// When a queue's PPD is replaced by another, a new setup is made, with what was chosen as wishes.
+/// When a queue's PPD is replaced by another, a new setup is made, with what was chosen as requested.
 class PrinterSetup {
 public:
     /// A queue with the PPD, or without one. Marked at first are the queue's effective defaults, then the
-    /// wishes, of which those that the PPD does not have are left out and told by refusals().
-    PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupWishes &wishes,
+    /// requested, of which those that the PPD does not have are left out and told by choiceErrors().
+    PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupRequest &requested,
                  const PanelSource &panelSource);
     ~PrinterSetup();
     PrinterSetup(const PrinterSetup &) = delete;
@@ -54,7 +54,7 @@ public:
     /// Null when there is none.
     PanelHost *panelHost() const { return m_panels ? m_panels->panelHost() : nullptr; }
     /// Why there is no panel, although the printer has options for it; absent when that is no problem.
-    std::optional<PanelError> panelProblem() const;
+    std::optional<PanelError> panelError() const;
     QStringList claimedKeywords() const;
     /// What the panel would save if the job were printed now; empty without a panel. Marks, records and
     /// reports nothing.
@@ -77,19 +77,19 @@ public:
     void choose(const QByteArray &keyword, const QByteArray &value);
 
     /// The paper of the user's lpoptions when the PPD does not have it; nothing otherwise.
-    std::optional<QByteArray> lackingUserPaper() const;
+    std::optional<QByteArray> missingUserPaper() const;
 
     /// All that was chosen, each option once, in the order of the first choosing.
     const std::vector<JobChoice> &choices() const { return m_choices; }
     /// Wishes that the printer cannot fulfil, one sentence each; the paper of the user's lpoptions among
-    /// them, where no other is wished for.
-    const std::vector<ChoiceError> &refusals() const { return m_refusals; }
+    /// them, where no other is requestedName for.
+    const std::vector<ChoiceError> &choiceErrors() const { return m_choiceErrors; }
     /// What was chosen, with what the panel's controls have and nothing has saved yet.
     std::vector<JobChoice> choicesNow() const;
     /// What is requested of the printer all in all: choicesNow(), and of the requested choices that it cannot
     /// fulfil those that nothing else was chosen for. To be carried over to another setup, which may fulfil
     /// them or reports again that it cannot.
-    std::vector<JobChoice> choicesAndRefusedWishes() const;
+    std::vector<JobChoice> choicesAndRejected() const;
 
     /// Null without a PPD.
     const Constraints *constraints() const { return m_constraints ? &*m_constraints : nullptr; }
@@ -112,13 +112,13 @@ public:
     void setDidChangeHook(std::function<void()> hook);
 
 private:
-    void markWishes(const SetupWishes &wishes);
-    static std::optional<QByteArray> wishedPaper(const SetupWishes &wishes);
+    void markRequested(const SetupRequest &requested);
+    static std::optional<QByteArray> requestedPaper(const SetupRequest &requested);
     std::optional<PpdPaper> defaultPaper() const;
-    void takePaper(const SetupWishes &wishes);
+    void applyPaper(const SetupRequest &requested);
     /// For a PPD that has no usable paper, and one of an unusable size as its default.
-    void refuseUnusableDefault();
-    void keepRefused(const SetupWishes &wishes);
+    void rejectUnusableDefault();
+    void keepRejected(const SetupRequest &requested);
     void loadPanels(const PanelSource &source);
     void startNoting();
     void noteCombination();
@@ -130,9 +130,9 @@ private:
     std::optional<SetupPanels> m_panels;
     std::optional<PpdPaper> m_paper;
     std::vector<JobChoice> m_choices;
-    std::vector<ChoiceError> m_refusals;
-    /// What the refusals are about.
-    std::vector<JobChoice> m_refusedWishes;
+    std::vector<ChoiceError> m_choiceErrors;
+    /// What the choiceErrors are about.
+    std::vector<JobChoice> m_rejectedChoices;
     /// The option that was chosen last, which a remedy leaves as it is if it can.
     QString m_lastChosen;
     /// What the panel kept when it was looked at last, and the keywords that it has reported since.

@@ -6,7 +6,7 @@
 namespace host {
 inline namespace setup {
 
-Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft)
+Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &draft)
 {
     return makeTicket({setup.destination(), setup.printerText(), setup.ppdOrNull(), setup.constraints(),
                        setup.choices(), setup.keptByRemedies(), setup.panelSettings(), setup.paper(),

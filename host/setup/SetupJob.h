@@ -8,7 +8,7 @@ namespace host {
 inline namespace setup {
 
 /// The job as it would be sent to the printer now. The panel is asked what it would save; nothing changes.
-Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobDraft &draft);
+Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &draft);
 
 /// The name that lp gives a job: that of its first document.
 QString defaultTitle(const LabelDocument &document);

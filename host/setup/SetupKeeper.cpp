@@ -12,11 +12,12 @@ SetupKeeper::SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent)
 {
 }
 
-SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWishes wishes, QObject *parent)
+SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupRequest requested,
+                         QObject *parent)
     : QObject(parent)
     , m_session(&session)
     , m_panelSource(std::move(panelSource))
-    , m_wishes(std::move(wishes))
+    , m_requested(std::move(requested))
 {
     connect(&session, &QueueSession::chosenChanged, this, &SetupKeeper::changeQueue);
     connect(&session, &QueueSession::ppdChanged, this, &SetupKeeper::changePpd);
@@ -77,7 +78,7 @@ void SetupKeeper::changePpd()
     }
     std::optional<PpdFile> ppd = m_session->takePpd();
     // "The same as before" brings no PPD, and a failure leaves the one that is there.
-    const bool lostIts = m_session->ppdKnowledge() == PpdKnowledge::Absent && m_setup && m_setup->hasPpd();
+    const bool lostIts = m_session->ppdState() == PpdState::Absent && m_setup && m_setup->hasPpd();
     if (!ppd && !lostIts && (m_setup || !isUsableWithoutPpd()))
         return;
     end();
@@ -87,10 +88,10 @@ void SetupKeeper::changePpd()
 bool SetupKeeper::isUsableWithoutPpd() const
 {
     // A PPD that cannot be read must not keep its queue from printing.
-    const PpdKnowledge knowledge = m_session->ppdKnowledge();
-    const bool isUnusable = knowledge == PpdKnowledge::Failed && m_session->ppdError() &&
-                            m_session->ppdError()->kind == CupsFailure::Refused;
-    return knowledge == PpdKnowledge::Absent || isUnusable;
+    const PpdState knowledge = m_session->ppdState();
+    const bool isUnusable = knowledge == PpdState::Failed && m_session->ppdError() &&
+                            m_session->ppdError()->kind == CupsErrorKind::Rejected;
+    return knowledge == PpdState::Absent || isUnusable;
 }
 
 void SetupKeeper::end()
@@ -99,20 +100,20 @@ void SetupKeeper::end()
         return;
     m_hadUsersChoices = userHasSet();
     Q_EMIT setupAboutToEnd();
-    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choicesAndRefusedWishes();
+    m_choicesOfQueues[m_setup->destination().name()] = m_setup->choicesAndRejected();
     m_setup.reset();
 }
 
 void SetupKeeper::replace(std::optional<PpdFile> ppd)
 {
-    SetupWishes wishes = m_wishes;
+    SetupRequest requested = m_requested;
     const auto before = m_choicesOfQueues.find(m_session->chosen()->name());
     if (before != m_choicesOfQueues.end()) {
-        wishes.choices = before->second;
-        wishes.paper.reset();
+        requested.choices = before->second;
+        requested.paper.reset();
     }
     const bool isAnother = before == m_choicesOfQueues.end();
-    m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), wishes, m_panelSource);
+    m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), requested, m_panelSource);
     Q_EMIT setupChanged();
     // Compared with later choices when the panels have been shown: they record what they find.
     if (isAnother || !m_hadUsersChoices)

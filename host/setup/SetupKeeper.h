@@ -12,7 +12,7 @@ inline namespace setup {
 
 /// Keeps the setup of the printer that is chosen now. As a server's answers come in, or the user chooses
 /// another queue, one setup takes the place of another, and what was chosen moves along as far as the new PPD
-/// has it; what it lacks is told by the setup's refusals(), and comes back with a PPD that has it. Each
+/// has it; what it lacks is told by the setup's choiceErrors(), and comes back with a PPD that has it. Each
 /// queue's choices are kept while the program runs, so that going back to it finds them.
 class SetupKeeper : public QObject {
     Q_OBJECT
@@ -20,8 +20,8 @@ class SetupKeeper : public QObject {
 public:
     /// For one printer that stays, without a print server.
     explicit SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent = nullptr);
-    /// For the queues of a server. The session is borrowed; the wishes are those for any queue.
-    SetupKeeper(QueueSession &session, PanelSource panelSource, SetupWishes wishes,
+    /// For the queues of a server. The session is borrowed; the requested are those for any queue.
+    SetupKeeper(QueueSession &session, PanelSource panelSource, SetupRequest requested,
                 QObject *parent = nullptr);
     ~SetupKeeper() override;
 
@@ -51,7 +51,7 @@ private:
 
     QueueSession *m_session = nullptr;
     PanelSource m_panelSource;
-    SetupWishes m_wishes;
+    SetupRequest m_requested;
     std::unique_ptr<PrinterSetup> m_setup;
     std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
     /// As they were when the setup was new.

@@ -83,7 +83,7 @@ void SetupPanels::announce()
 void SetupPanels::choose(const QString &keyword, const QString &choice)
 {
     const QScopedValueRollback operating(m_isOperating, true);
-    PDEChoices wanted = wantedChoices(Retry::No);
+    PDEChoices wanted = requestedChoices(Retry::No);
     setChoice(wanted, keyword, choice);
     std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == keyword; });
     if (!panel()) {
@@ -114,7 +114,7 @@ void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
         return;
     }
     const QScopedValueRollback operating(m_isOperating, true);
-    const PDEChoices wanted = wantedChoices(retry);
+    const PDEChoices wanted = requestedChoices(retry);
     const PDEChoices saved = settings().choices;
     const PDEChoices shown = choicesToKeep();
     save();
@@ -141,7 +141,7 @@ void SetupPanels::markSettings()
         save();
 }
 
-void SetupPanels::forgetReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice)
+void SetupPanels::clearReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice)
 {
     if (m_isOperating)
         return;
@@ -150,7 +150,7 @@ void SetupPanels::forgetReplaced(const std::optional<QString> &keyword, const st
     });
 }
 
-PDEChoices SetupPanels::wantedChoices(Retry retry)
+PDEChoices SetupPanels::requestedChoices(Retry retry)
 {
     PDEChoices wanted = settings().choices;
     for (const ReplacedChoice &each : m_replaced) {
@@ -172,7 +172,7 @@ void SetupPanels::noteReplaced(const PDEChoices &wanted)
         // A choice that the PPD does not list was not replaced by a rule: the panel spells it so.
         if (!saved || isSame(keyword, saved, choice) || !ppd().choiceIndex(keyword, *saved))
             continue;
-        // Named anew: a lambda of C++20 may capture it, but clang 14 refuses that of a structured binding.
+        // Named anew: a lambda of C++20 may capture it, but clang 14 rejects that of a structured binding.
         const QString &ofKeyword = keyword;
         std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == ofKeyword; });
         m_replaced.push_back({keyword, choice, *saved});
@@ -207,7 +207,7 @@ void SetupPanels::restore()
 {
     QString error;
     if (!panel()->restoreValuesAndReturnError(&error))
-        m_problem = PanelError{PanelFailure::NoPanel, error};
+        m_problem = PanelError{PanelErrorKind::NoPanel, error};
 }
 
 void SetupPanels::apply(const PDEChoices &choices)

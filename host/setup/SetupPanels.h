@@ -72,7 +72,7 @@ public:
     /// The user has made the choice on the panel, or with an absent keyword a combination of several: what
     /// else was asked for before does not count any more. Ignored while this object itself operates the
     /// panel.
-    void forgetReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice);
+    void clearReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice);
 
     /// Whether a caller further up asks or operates the panel, which then must not be asked again.
     bool isBusy() const { return m_isOperating || m_isAsking; }
@@ -85,7 +85,7 @@ private:
     void restore();
     void apply(const PDEChoices &choices);
     void noteReplaced(const PDEChoices &wanted);
-    PDEChoices wantedChoices(Retry retry);
+    PDEChoices requestedChoices(Retry retry);
 
     std::shared_ptr<DialogState> m_state;
     ClaimedPanels m_panels;

@@ -11,7 +11,7 @@ inline namespace setup {
 namespace {
 
 /// The user's default paper, where the printer does not have it.
-bool lacksUserPaper(const TicketSource &source)
+bool isUserPaperMissing(const TicketSource &source)
 {
     const QByteArray *const users = findValue(source.destination.userOptions, paperKeyword);
     return users && source.ppd && !source.ppd->paper(*users);
@@ -44,7 +44,7 @@ JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
     job.title = sendableTitle(source.draft.title);
     Destination known = source.destination;
     // Another paper stands in for the one that the printer does not have, and is not the user's default.
-    if (lacksUserPaper(source))
+    if (isUserPaperMissing(source))
         std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == paperKeyword; });
     job.options = makeJobOptions(known, source.ppd, ticket.choices, source.draft.settings);
     sendShownPaper(ticket, job.options);

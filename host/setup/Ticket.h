@@ -12,7 +12,7 @@ namespace host {
 inline namespace setup {
 
 /// What is set for the job beside the printer's own options.
-struct JobDraft {
+struct JobRequest {
     /// Nothing in it stands for the queue's own setting.
     JobSettings settings;
     /// The job's name in the queue.
@@ -40,7 +40,7 @@ struct TicketSource {
     /// Absent without a PPD, or when the PPD names no paper.
     const std::optional<PpdPaper> &paper;
     const LabelDocument &document;
-    const JobDraft &draft;
+    const JobRequest &draft;
 };
 
 /// What would be sent if Print were pressed now: the one value from which everything is made that shows the

@@ -55,7 +55,7 @@ QStringList CutSettings::keywords()
     return keywords;
 }
 
-bool CutSettings::areKnownTo(const PpdFile &ppd)
+bool CutSettings::areDefinedBy(const PpdFile &ppd)
 {
     return std::ranges::any_of(keywords(), [&](const QString &keyword) { return ppd.hasOption(keyword); });
 }
@@ -63,7 +63,7 @@ bool CutSettings::areKnownTo(const PpdFile &ppd)
 CutSettings CutSettings::fromJob(const PpdFile &ppd, const RecordedChoices &recorded)
 {
     CutSettings settings;
-    settings.areKnown = areKnownTo(ppd);
+    settings.areKnown = areDefinedBy(ppd);
     for (const auto &[keyword, field] : switches)
         settings.*field = isOn(ppd, recorded, keyword);
     const std::optional<QString> count = effectiveChoice(ppd, recorded, QLatin1String(countKeyword));

@@ -38,7 +38,7 @@ struct CutSettings {
     static QStringList keywords();
 
     /// Returns whether the PPD has at least one of these options.
-    static bool areKnownTo(const PpdFile &ppd);
+    static bool areDefinedBy(const PpdFile &ppd);
 
     bool operator==(const CutSettings &) const = default;
 

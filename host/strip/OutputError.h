@@ -7,11 +7,11 @@ namespace host {
 inline namespace strip {
 
 /// Why output files could not be written.
-enum class OutputFailure {
+enum class OutputErrorKind {
     NoFolder,   ///< the folder does not exist and cannot be created, or is not a folder
     NotWritten, ///< a file cannot be written or put in place
 };
-using OutputError = Failure<OutputFailure>;
+using OutputError = Failure<OutputErrorKind>;
 
 } // namespace strip
 } // namespace host

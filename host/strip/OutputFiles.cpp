@@ -21,38 +21,38 @@ struct OutputFilesText {
 OutputFiles::OutputFiles(QString folder)
     : m_folder(std::move(folder))
 {
-    makeFolder();
+    createFolder();
 }
 
 OutputFiles::~OutputFiles()
 {
-    if (m_done || m_madeFolder.isEmpty())
+    if (m_done || m_createdFolder.isEmpty())
         return;
     m_files.clear();
     // Removes the created folders from the innermost upwards. A folder that another program has put a file
     // into is not empty and stays.
     QString folder = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
-    while (QDir().rmdir(folder) && folder != m_madeFolder)
+    while (QDir().rmdir(folder) && folder != m_createdFolder)
         folder = QFileInfo(folder).path();
 }
 
-void OutputFiles::makeFolder()
+void OutputFiles::createFolder()
 {
     QString missing = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
     if (QFileInfo::exists(missing)) {
         if (!QFileInfo(missing).isDir())
-            fail(OutputFailure::NoFolder, m_folder, OutputFilesText::tr("it is not a folder"));
+            fail(OutputErrorKind::NoFolder, m_folder, OutputFilesText::tr("it is not a folder"));
         return;
     }
     while (!QFileInfo::exists(QFileInfo(missing).path()))
         missing = QFileInfo(missing).path();
-    m_madeFolder = missing;
-    if (const std::optional<QString> reason = platform::makePrivateFolders(m_folder))
-        fail(OutputFailure::NoFolder, m_folder,
+    m_createdFolder = missing;
+    if (const std::optional<QString> reason = platform::createPrivateFolders(m_folder))
+        fail(OutputErrorKind::NoFolder, m_folder,
              OutputFilesText::tr("the folder cannot be made: %1").arg(*reason));
 }
 
-void OutputFiles::fail(OutputFailure kind, const QString &path, const QString &reason)
+void OutputFiles::fail(OutputErrorKind kind, const QString &path, const QString &reason)
 {
     if (m_outcome)
         m_outcome = OutputError{kind, OutputFilesText::tr("Cannot write \"%1\": %2").arg(path, reason)};
@@ -64,7 +64,7 @@ void OutputFiles::write(const QString &name, const std::function<bool(QIODevice 
         return;
     auto file = std::make_unique<platform::OutputFile>(m_folder + u'/' + name);
     if (!file->write(writer))
-        fail(OutputFailure::NotWritten, file->path(), file->errorString());
+        fail(OutputErrorKind::NotWritten, file->path(), file->errorString());
     m_files.push_back(std::move(file));
 }
 
@@ -75,8 +75,8 @@ Result<void, OutputError> OutputFiles::commit()
         if (!m_outcome)
             break;
         if (!file->commit())
-            fail(OutputFailure::NotWritten, file->path(), file->errorString());
-        else if (file->hasPlacedFile())
+            fail(OutputErrorKind::NotWritten, file->path(), file->errorString());
+        else if (file->hasCreatedFile())
             placed.append(file->path());
     }
     m_done = static_cast<bool>(m_outcome);

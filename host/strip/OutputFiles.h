@@ -31,12 +31,12 @@ public:
     Result<void, OutputError> commit();
 
 private:
-    void makeFolder();
-    void fail(OutputFailure kind, const QString &path, const QString &reason);
+    void createFolder();
+    void fail(OutputErrorKind kind, const QString &path, const QString &reason);
 
     QString m_folder;
     /// The topmost folder that was created; empty if the folder existed.
-    QString m_madeFolder;
+    QString m_createdFolder;
     std::vector<std::unique_ptr<platform::OutputFile>> m_files;
     Result<void, OutputError> m_outcome;
     bool m_done = false;

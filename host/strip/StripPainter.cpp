@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StripPainter.h"
 
-#include "CutPlanWords.h"
+#include "CutPlanText.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -276,7 +276,7 @@ void StripPainter::paintPieceLength(QPainter &painter, std::size_t index) const
     const double margin = index == 0 ? m_layout.leadingMargin().width() : 0.0;
     const QRectF area(piece.left() - units(10.0), y + units(1.2), piece.width() + units(20.0), units(4.4));
     const QString length =
-        planned.isMeasured ? lengthInWords(planned.length + margin) : QStringLiteral("\u2026");
+        planned.isMeasured ? lengthText(planned.length + margin) : QStringLiteral("\u2026");
     paintText(painter, area, length, m_colors.ink);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StripPdf.h"
 
-#include "CutPlanWords.h"
+#include "CutPlanText.h"
 #include "StripPainter.h"
 
 #include <QCoreApplication>
@@ -18,8 +18,8 @@ struct StripPdfText {
 };
 
 /// In millimetres. The length of a PDF page is limited to 5080 mm.
-constexpr double longestPage = 5000.0;
-constexpr double shortestPage = 150.0;
+constexpr double maxPageLength = 5000.0;
+constexpr double minPageLength = 150.0;
 constexpr double margin = 8.0;
 constexpr double lineHeight = 5.0;
 constexpr double unit = 1.0;
@@ -41,7 +41,7 @@ std::vector<Segment> segmentsOf(const StripLayout &layout)
     for (std::size_t i = 1; i < layout.plan().labels().size(); ++i) {
         const bool last = i + 1 == layout.plan().labels().size();
         const double end = last ? bounds.right() : layout.boundaryAfter(i) + layout.unit();
-        if (end - segments.back().left > longestPage - 2.0 * margin) {
+        if (end - segments.back().left > maxPageLength - 2.0 * margin) {
             segments.back().right = layout.label(i).left();
             segments.push_back({layout.label(i).left(), bounds.right()});
         }
@@ -49,11 +49,11 @@ std::vector<Segment> segmentsOf(const StripLayout &layout)
     return segments;
 }
 
-QStringList headLines(const PrintedStrip &strip)
+QStringList headingLines(const PrintedStrip &strip)
 {
     QStringList lines{StripPdfText::tr("%1 on %2, %3").arg(strip.document, strip.printer, strip.paper),
                       cutPlanFigures(strip.plan)};
-    return lines + cutPlanSentences(strip.plan);
+    return lines + cutPlanDescription(strip.plan);
 }
 
 class PdfStrip {
@@ -62,7 +62,7 @@ public:
         : m_strip(strip)
         , m_layout(strip.plan, strip.renderer.labelSize().height(), unit)
         , m_writer(device)
-        , m_lines(headLines(strip))
+        , m_lines(headingLines(strip))
         , m_segments(segmentsOf(m_layout))
     {
         m_writer.setResolution(coordinateResolution);
@@ -90,12 +90,12 @@ public:
     }
 
 private:
-    double headHeight() const { return static_cast<double>(m_lines.size()) * lineHeight; }
+    double headingHeight() const { return static_cast<double>(m_lines.size()) * lineHeight; }
 
     void setPageSize(const Segment &segment)
     {
-        const QSizeF size(qMax(shortestPage, segment.right - segment.left + 2.0 * margin),
-                          headHeight() + m_layout.bounds().height() + 3.0 * margin);
+        const QSizeF size(qMax(minPageLength, segment.right - segment.left + 2.0 * margin),
+                          headingHeight() + m_layout.bounds().height() + 3.0 * margin);
         m_writer.setPageSize(QPageSize(size, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
     }
 
@@ -105,8 +105,8 @@ private:
         const double dotsPerMillimetre = coordinateResolution / 25.4;
         painter.scale(dotsPerMillimetre, dotsPerMillimetre);
         painter.translate(margin, margin);
-        paintHead(painter);
-        painter.translate(-segment.left, headHeight() + margin - m_layout.bounds().top());
+        paintHeading(painter);
+        painter.translate(-segment.left, headingHeight() + margin - m_layout.bounds().top());
         const StripPainter painted(m_layout, m_strip.renderer, StripColors::forPaper(), labelResolution);
         painter.setClipRect(QRectF(segment.left, m_layout.bounds().top(), segment.right - segment.left,
                                    m_layout.bounds().height()));
@@ -114,7 +114,7 @@ private:
         painter.restore();
     }
 
-    void paintHead(QPainter &painter) const
+    void paintHeading(QPainter &painter) const
     {
         painter.save();
         const QTransform toDevice = painter.transform();

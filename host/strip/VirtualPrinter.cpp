@@ -37,7 +37,7 @@ Result<void, OutputError> VirtualPrinter::print(const PrintedStrip &strip, const
     return outcome;
 }
 
-QString VirtualPrinter::freshFolder()
+QString VirtualPrinter::unusedFolder()
 {
     const QString jobs = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                          QStringLiteral("/kvprint/jobs/");

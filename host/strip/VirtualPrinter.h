@@ -29,7 +29,7 @@ public:
 
     /// Returns the path of an unused folder for one job, named after the current time, below the user's data
     /// folder. The folder is not created.
-    static QString freshFolder();
+    static QString unusedFolder();
 };
 
 } // namespace strip

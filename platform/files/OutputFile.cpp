@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OutputFile.h"
 
-#include "BrokenPipeSilence.h"
+#include "BrokenPipeBlocker.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -22,7 +22,7 @@ struct OutputFileText {
 
 /// Returns the reason why nothing is written to the object at the path; std::nullopt if it can be replaced or
 /// written to.
-std::optional<QString> refusalOf(const struct stat &status)
+std::optional<QString> rejectionReason(const struct stat &status)
 {
     if (S_ISDIR(status.st_mode))
         return OutputFileText::tr("it is a folder");
@@ -42,10 +42,10 @@ OutputFile::OutputFile(QString path)
 {
 }
 
-bool OutputFile::refuse(const QString &reason)
+bool OutputFile::reject(const QString &reason)
 {
     m_error = reason;
-    m_way = Way::Refuse;
+    m_way = Way::Reject;
     m_file.reset();
     return false;
 }
@@ -54,8 +54,8 @@ OutputFile::Way OutputFile::findWay()
 {
     // For the system, the name would end at U+0000.
     if (m_path.isEmpty() || m_path.contains(QChar::Null)) {
-        refuse(qt_error_string(m_path.isEmpty() ? ENOENT : EINVAL));
-        return Way::Refuse;
+        reject(qt_error_string(m_path.isEmpty() ? ENOENT : EINVAL));
+        return Way::Reject;
     }
     const QByteArray name = QFile::encodeName(m_path);
     struct stat status = {};
@@ -63,61 +63,61 @@ OutputFile::Way OutputFile::findWay()
         // If the folder does not exist, creating the file fails with that error.
         if (errno == ENOENT && !QFileInfo(m_path).fileName().isEmpty())
             return Way::Replace;
-        refuse(qt_error_string(errno));
-        return Way::Refuse;
+        reject(qt_error_string(errno));
+        return Way::Reject;
     }
     struct stat target = {};
     if (S_ISLNK(status.st_mode) && ::stat(name.constData(), &target) == 0 && S_ISCHR(target.st_mode))
         return Way::FollowLink;
-    if (const std::optional<QString> reason = refusalOf(status)) {
-        refuse(*reason);
-        return Way::Refuse;
+    if (const std::optional<QString> reason = rejectionReason(status)) {
+        reject(*reason);
+        return Way::Reject;
     }
     if (!S_ISREG(status.st_mode))
         return Way::WriteThrough;
     // A write-protected file must not be replaced either.
     if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) == 0)
         return Way::Replace;
-    refuse(qt_error_string(errno));
-    return Way::Refuse;
+    reject(qt_error_string(errno));
+    return Way::Reject;
 }
 
 bool OutputFile::write(const std::function<bool(QIODevice *)> &writer)
 {
     m_way = findWay();
-    if (m_way == Way::Refuse)
+    if (m_way == Way::Reject)
         return false;
     if (m_way != Way::Replace) {
         m_buffer.open(QIODevice::WriteOnly);
-        return writer(&m_buffer) || refuse(m_buffer.errorString());
+        return writer(&m_buffer) || reject(m_buffer.errorString());
     }
     const QString folder = QFileInfo(m_path).path();
-    TemporaryFile::removeLeftOvers(folder);
+    TemporaryFile::removeLeftovers(folder);
     m_file = std::make_unique<TemporaryFile>(folder);
     if (m_file->create() && writer(m_file.get()) && m_file->error() == QFileDevice::NoError &&
         m_file->flush())
         return true;
-    return refuse(m_file->errorString());
+    return reject(m_file->errorString());
 }
 
 bool OutputFile::commit(const QDateTime &modified)
 {
-    if (m_way == Way::Refuse)
+    if (m_way == Way::Reject)
         return false;
     if (m_way != Way::Replace)
         return writeToDevice();
     // The object at the path may have changed since write().
     const Way way = findWay();
-    if (way == Way::Refuse)
+    if (way == Way::Reject)
         return false;
     if (way != Way::Replace)
-        return refuse(qt_error_string(EEXIST));
+        return reject(qt_error_string(EEXIST));
     if (modified.isValid())
         m_file->setFileTime(modified, QFileDevice::FileModificationTime);
     if (!m_file->moveTo(m_path))
-        return refuse(m_file->errorString());
+        return reject(m_file->errorString());
     m_file.reset();
-    m_hasPlacedFile = true;
+    m_hasCreatedFile = true;
     return true;
 }
 
@@ -128,23 +128,23 @@ bool OutputFile::writeToDevice()
         O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (m_way == Way::FollowLink ? 0 : O_NOFOLLOW);
     const int descriptor = ::open(QFile::encodeName(m_path).constData(), flags); // NOLINT
     if (descriptor < 0)
-        return refuse(errno == ENXIO ? OutputFileText::tr("no program reads from it")
+        return reject(errno == ENXIO ? OutputFileText::tr("no program reads from it")
                                      : qt_error_string(errno));
     struct stat status = {};
     const bool isDevice =
         ::fstat(descriptor, &status) == 0 &&
         (S_ISCHR(status.st_mode) || (S_ISFIFO(status.st_mode) && m_way == Way::WriteThrough));
     // The object at the path may have changed since write(). Opening it has not modified it.
-    const bool isWritten = isDevice ? writeAll(descriptor) : refuse(qt_error_string(EEXIST));
+    const bool isWritten = isDevice ? writeAll(descriptor) : reject(qt_error_string(EEXIST));
     const bool isClosed = ::close(descriptor) == 0;
-    return isWritten && (isClosed || refuse(qt_error_string(errno)));
+    return isWritten && (isClosed || reject(qt_error_string(errno)));
 }
 
 bool OutputFile::writeAll(int descriptor)
 {
     // Writing must block, because the reader may be slower than this program.
     ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) & ~O_NONBLOCK); // NOLINT
-    BrokenPipeSilence silence;
+    BrokenPipeBlocker silence;
     QByteArrayView left(m_buffer.data());
     while (!left.isEmpty()) {
         const ssize_t written = ::write(descriptor, left.data(), static_cast<std::size_t>(left.size()));
@@ -157,7 +157,7 @@ bool OutputFile::writeAll(int descriptor)
         const int error = errno;
         if (error == EPIPE)
             silence.raised();
-        return refuse(qt_error_string(error));
+        return reject(qt_error_string(error));
     }
     return true;
 }

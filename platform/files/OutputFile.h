@@ -38,7 +38,7 @@ public:
     const QString &path() const { return m_path; }
     /// Returns true if commit() has created a file at the path, which can be removed; false if it has written
     /// to a device.
-    bool hasPlacedFile() const { return m_hasPlacedFile; }
+    bool hasCreatedFile() const { return m_hasCreatedFile; }
     /// The reason of the last error, as the end of a sentence without a full stop: "it is a folder".
     const QString &errorString() const { return m_error; }
 
@@ -48,20 +48,20 @@ private:
         Replace,
         WriteThrough,
         FollowLink, ///< and write to its target
-        Refuse,     ///< errorString() holds the reason
+        Reject,     ///< errorString() holds the reason
     };
     Way findWay();
-    bool refuse(const QString &reason);
+    bool reject(const QString &reason);
     bool writeToDevice();
     bool writeAll(int descriptor);
 
     QString m_path;
-    Way m_way = Way::Refuse;
+    Way m_way = Way::Reject;
     /// The content is written to one of the two.
     std::unique_ptr<TemporaryFile> m_file;
     QBuffer m_buffer;
     QString m_error;
-    bool m_hasPlacedFile = false;
+    bool m_hasCreatedFile = false;
 };
 
 } // namespace files

@@ -29,19 +29,19 @@ int makeFolders(const QString &folder)
     if (error == EEXIST)
         return QFileInfo(folder).isDir() ? 0 : ENOTDIR;
     if (error == 0)
-        closeToOthers(folder); // the umask may have removed permissions of the user
+        restrictToUser(folder); // the umask may have removed permissions of the user
     return error;
 }
 
 } // namespace
 
-std::optional<QString> makePrivateFolders(const QString &folder)
+std::optional<QString> createPrivateFolders(const QString &folder)
 {
     const int error = folder.isEmpty() ? ENOENT : makeFolders(folder);
     return error == 0 ? std::nullopt : std::optional(qt_error_string(error));
 }
 
-void closeToOthers(const QString &folder)
+void restrictToUser(const QString &folder)
 {
     const QByteArray name = QFile::encodeName(folder);
     struct stat status = {};

@@ -11,11 +11,11 @@ inline namespace files {
 /// Creates the folder and its missing parent folders for this user only (0700), whatever the umask is.
 /// Existing folders stay unchanged. Returns std::nullopt if the folder exists afterwards, otherwise the
 /// reason why it does not.
-std::optional<QString> makePrivateFolders(const QString &folder);
+std::optional<QString> createPrivateFolders(const QString &folder);
 
 /// Restricts access to a folder to this user (0700). For folders that belong to the program; does nothing if
 /// the system does not permit the change.
-void closeToOthers(const QString &folder);
+void restrictToUser(const QString &folder);
 
 } // namespace files
 } // namespace platform

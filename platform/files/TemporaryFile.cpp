@@ -32,7 +32,7 @@ QString randomName()
 /// Locks the file while the descriptor is open. Returns false if another program is removing the file.
 bool claim(int descriptor)
 {
-    // On a file system without locks, removeLeftOvers() cannot lock the file either and removes nothing.
+    // On a file system without locks, removeLeftovers() cannot lock the file either and removes nothing.
     if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0)
         return errno != EWOULDBLOCK;
     struct stat status = {};
@@ -126,7 +126,7 @@ bool TemporaryFile::moveTo(const QString &path)
     return true;
 }
 
-void TemporaryFile::removeLeftOvers(const QString &folder)
+void TemporaryFile::removeLeftovers(const QString &folder)
 {
     const QStringList names{nameWith(QString(randomDigits, u'?'))};
     QDirIterator files(folder, names, QDir::Files | QDir::Hidden | QDir::NoSymLinks);

@@ -9,7 +9,7 @@ inline namespace files {
 /// A file that only this user can read and write (0600), whatever the umask is. The destructor removes it.
 ///
 /// The program holds a lock on the file while the file is open. A file with such a name that no program has
-/// locked was left by a program that was killed; removeLeftOvers() removes it.
+/// locked was left by a program that was killed; removeLeftovers() removes it.
 class TemporaryFile : public QFile {
 public:
     /// The folder must exist. create() creates the file in it.
@@ -29,7 +29,7 @@ public:
 
     /// Removes this user's temporary files from the folder if their programs have ended without removing
     /// them.
-    static void removeLeftOvers(const QString &folder);
+    static void removeLeftovers(const QString &folder);
 
 private:
     bool fail(int error);

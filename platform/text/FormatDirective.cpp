@@ -47,7 +47,7 @@ private:
             return std::nullopt;
         int number = 0;
         while (isDigit(peek()))
-            number = std::min(number * 10 + (take() - u'0'), FormatDirective::largestExtent);
+            number = std::min(number * 10 + (take() - u'0'), FormatDirective::maxExtent);
         return number;
     }
 

@@ -13,7 +13,7 @@ inline namespace text {
 /// modifier, conversion. stringWithFormat() uses it.
 struct FormatDirective {
     /// The maximum width and precision; larger values are reduced to it.
-    static constexpr int largestExtent = 4096;
+    static constexpr int maxExtent = 4096;
 
     /// The length modifier: none, "hh", "h", or one of "l", "q", "j", "z", "t" and "L".
     enum class Length { None, Char, Short, Wide };

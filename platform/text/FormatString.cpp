@@ -162,8 +162,8 @@ public:
             argument ? std::get_if<FormatArgument::Integer>(&argument->value()) : nullptr;
         if (!integer)
             return std::nullopt;
-        return static_cast<int>(std::clamp<std::int64_t>(integer->value, -FormatDirective::largestExtent,
-                                                         FormatDirective::largestExtent));
+        return static_cast<int>(std::clamp<std::int64_t>(integer->value, -FormatDirective::maxExtent,
+                                                         FormatDirective::maxExtent));
     }
 
 private:

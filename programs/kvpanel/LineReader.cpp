@@ -26,7 +26,7 @@ LineReader::Result LineReader::next(QByteArray *line)
             return tooLong ? Result::TooLong : line->isEmpty() ? Result::End : Result::Line;
         const qsizetype end = m_buffer.indexOf('\n', m_position);
         const qsizetype stop = end < 0 ? m_buffer.size() : end;
-        tooLong = tooLong || line->size() + stop - m_position > longestLine;
+        tooLong = tooLong || line->size() + stop - m_position > maxLineLength;
         if (tooLong)
             line->clear();
         else

@@ -9,11 +9,11 @@
 class LineReader {
 public:
     /// The longest line that is handed over, in bytes without the line end.
-    static constexpr qsizetype longestLine = qsizetype(16) << 20;
+    static constexpr qsizetype maxLineLength = qsizetype(16) << 20;
 
     enum class Result {
         Line,
-        /// The line was longer than longestLine; it is passed over as a whole.
+        /// The line was longer than maxLineLength; it is passed over as a whole.
         TooLong,
         End,
     };

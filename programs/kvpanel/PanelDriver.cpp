@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <iterator>
 
-using host::BundleFailure;
+using host::BundleErrorKind;
 
 const PanelDriver::Operation PanelDriver::operations[] = {
     {"open", Needs::Nothing, &PanelDriver::open},
@@ -128,7 +128,7 @@ QJsonObject PanelDriver::open(const DriverRequest &members)
 
     platform::setSystemVersionQuery(request.systemVersionQuery());
     auto bundle = host::PanelBundle::load(folder.value(), {request.language});
-    if (!bundle && bundle.error().kind == BundleFailure::Unusable)
+    if (!bundle && bundle.error().kind == BundleErrorKind::Unusable)
         return {{"loaded", false}, {"panels", QJsonValue()}};
     if (!bundle)
         throw RequestError(bundle.error().message);

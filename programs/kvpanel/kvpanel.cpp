@@ -31,7 +31,7 @@ QJsonObject replyTo(PanelDriver &driver, LineReader::Result result, const QByteA
 {
     if (result == LineReader::Result::TooLong)
         return PanelDriver::failure(
-            QStringLiteral("the line is longer than %1 bytes").arg(LineReader::longestLine));
+            QStringLiteral("the line is longer than %1 bytes").arg(LineReader::maxLineLength));
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (error.error != QJsonParseError::NoError)

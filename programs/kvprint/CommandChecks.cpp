@@ -37,7 +37,7 @@ CommandChecks::CommandChecks(const CommandLine &command, const Console &console)
 QString CommandChecks::errorText(const host::ChoiceError &error, const host::PrinterSetup &setup) const
 {
     const bool isPaperOfFile =
-        m_command.ppd && m_command.paper && error.kind == host::ChoiceFailure::UnknownPaper;
+        m_command.ppd && m_command.paper && error.kind == host::ChoiceErrorKind::UnknownPaper;
     if (!isPaperOfFile)
         return error.message;
     return QCoreApplication::translate("programs::kvprint::PrintRun",
@@ -47,34 +47,34 @@ QString CommandChecks::errorText(const host::ChoiceError &error, const host::Pri
 
 bool CommandChecks::accepts(const host::PrinterSetup &setup) const
 {
-    for (const host::ChoiceError &error : setup.refusals())
-        m_console.complain(errorText(error, setup));
-    if (!setup.refusals().empty() && !m_command.force)
+    for (const host::ChoiceError &error : setup.choiceErrors())
+        m_console.printError(errorText(error, setup));
+    if (!setup.choiceErrors().empty() && !m_command.force)
         return false;
-    const auto problem = setup.panelProblem();
+    const auto problem = setup.panelError();
     if (problem)
-        m_console.complain(problem->message);
-    return !problem || problem->kind != host::PanelFailure::BrokenBundle;
+        m_console.printError(problem->message);
+    return !problem || problem->kind != host::PanelErrorKind::BrokenBundle;
 }
 
 void CommandChecks::reportReplaced(const host::PrinterSetup &setup) const
 {
     // By the names that the command line uses.
     for (const auto &[keyword, choice, saved] : setup.replaced())
-        m_console.complain(host::PrinterSetup::replacedSentence(keyword, choice, saved));
+        m_console.printError(host::PrinterSetup::replacedSentence(keyword, choice, saved));
 }
 
 bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const
 {
     if (ticket.panel.error) {
-        m_console.complain(*ticket.panel.error);
+        m_console.printError(*ticket.panel.error);
         return false;
     }
     reportReplaced(setup);
     for (const host::Conflict &conflict : ticket.conflicts)
-        m_console.complain(conflict.sentence());
+        m_console.printError(conflict.sentence());
     if (ticket.remedy)
-        m_console.complain(CommandChecksText::tr("This would help: %1").arg(ticket.remedy->sentence()));
+        m_console.printError(CommandChecksText::tr("This would help: %1").arg(ticket.remedy->sentence()));
     // A summary of conflicting settings reports the conflicts, as the dialog does.
     return ticket.conflicts.empty() || m_command.force || m_command.task == Task::Summary;
 }
@@ -88,7 +88,7 @@ void CommandChecks::printRequestId(const dialog::QueueSender &sender) const
 
 ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &setup)
 {
-    return status == ExitStatus::Printed && setup.panelProblem() ? ExitStatus::PrintedWithoutPanel : status;
+    return status == ExitStatus::Printed && setup.panelError() ? ExitStatus::PrintedWithoutPanel : status;
 }
 
 } // namespace kvprint

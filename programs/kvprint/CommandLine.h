@@ -17,7 +17,7 @@ enum class ExitStatus {
     Failed = 1,
     WrongUsage = 2,
     PrintedWithoutPanel = 3,
-    Cancelled = 4,
+    Canceled = 4,
     /// Ended by a signal: 128 and its number, as shells say it.
     HungUp = 129,
     Interrupted = 130,

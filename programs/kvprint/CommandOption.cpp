@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CommandOption.h"
 
-#include "JobWords.h"
+#include "JobOptionsText.h"
 
 #include <QCoreApplication>
 
@@ -30,7 +30,7 @@ constexpr unsigned reportTasks = bit(Task::List) | bit(Task::Summary) | bit(Task
 constexpr unsigned allTasks = jobTasks | reportTasks;
 
 template<auto Field>
-Complaint takeText(CommandLine &command, const QString &value)
+ErrorMessage parseText(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return CommandOptionText::tr("the value is empty");
@@ -39,20 +39,20 @@ Complaint takeText(CommandLine &command, const QString &value)
 }
 
 template<auto Field>
-Complaint takeFlag(CommandLine &command, const QString &)
+ErrorMessage parseFlag(CommandLine &command, const QString &)
 {
     command.*Field = true;
     return std::nullopt;
 }
 
 template<Task Wanted>
-Complaint takeTask(CommandLine &command, const QString &)
+ErrorMessage parseTask(CommandLine &command, const QString &)
 {
     command.task = Wanted;
     return std::nullopt;
 }
 
-Complaint takeTitle(CommandLine &command, const QString &value)
+ErrorMessage parseTitle(CommandLine &command, const QString &value)
 {
     // An empty one leaves the name to the document, as without the option.
     command.title = value.isEmpty() ? std::nullopt : std::optional(value);
@@ -60,14 +60,14 @@ Complaint takeTitle(CommandLine &command, const QString &value)
 }
 
 /// The mail tells the job's number; lp is silent then, and so are we.
-Complaint takeMail(CommandLine &command, const QString &)
+ErrorMessage parseMail(CommandLine &command, const QString &)
 {
     command.mail = true;
     command.quiet = true;
     return std::nullopt;
 }
 
-Complaint takePaper(CommandLine &command, const QString &value)
+ErrorMessage applyPaper(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return CommandOptionText::tr("the value is empty");
@@ -76,14 +76,14 @@ Complaint takePaper(CommandLine &command, const QString &value)
 }
 
 template<Task Wanted>
-Complaint takeLeftJob(CommandLine &command, const QString &value)
+ErrorMessage parseLeftJob(CommandLine &command, const QString &value)
 {
     command.task = Wanted;
-    return takeText<&CommandLine::leftJob>(command, value);
+    return parseText<&CommandLine::leftJob>(command, value);
 }
 
 /// Documents are always copied before the program ends.
-Complaint takeCopyFlag(CommandLine &, const QString &)
+ErrorMessage parseCopyFlag(CommandLine &, const QString &)
 {
     return std::nullopt;
 }
@@ -96,104 +96,104 @@ constexpr CommandOption optionTable[] = {
     {'d', nullptr, "QUEUE[/INSTANCE]",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "The queue to print on, with a named set of options. The default queue without it."),
-     documentTasks, Queue, takeDestination},
+     documentTasks, Queue, parseDestination},
     {'h', nullptr, "HOST[:PORT]", QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The print server."),
-     allTasks, Queue, takeText<&CommandLine::server>},
+     allTasks, Queue, parseText<&CommandLine::server>},
     {'U', nullptr, "USER",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The user for whom is printed."), allTasks, Queue,
-     takeText<&CommandLine::user>},
+     parseText<&CommandLine::user>},
     {'E', nullptr, nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Encrypts the connection to the print server."),
-     allTasks, Queue, takeFlag<&CommandLine::encrypt>},
+     allTasks, Queue, parseFlag<&CommandLine::encrypt>},
     {0, "paper", "NAME",
      QT_TRANSLATE_NOOP(
          "programs::kvprint::CommandLine",
          "The paper's name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes."),
-     jobTasks, Any, takePaper},
+     jobTasks, Any, applyPaper},
     {'n', nullptr, "COPIES", QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The number of copies."),
-     jobTasks, Any, takeCopies},
+     jobTasks, Any, parseCopies},
     {'P', nullptr, "PAGES",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The pages to print, as in 1-3,5,8-."), jobTasks,
-     Any, takePages},
+     Any, parsePages},
     {'o', nullptr, "NAME=VALUE",
      QT_TRANSLATE_NOOP(
          "programs::kvprint::CommandLine",
          "An option of the PPD or of the print server; several in one, with blanks between them, or one "
          "by one."),
-     jobTasks, Any, takeOptions},
+     jobTasks, Any, parseOptions},
     {'t', nullptr, "TITLE",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The job's name in the queue."), jobTasks, Any,
-     takeTitle},
+     parseTitle},
     {'q', nullptr, "PRIORITY",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "The job's priority, from 1 to 100 (first)."),
-     jobTasks, Any, takePriority},
+     jobTasks, Any, parsePriority},
     {'H', nullptr, "WHEN",
      QT_TRANSLATE_NOOP(
          "programs::kvprint::CommandLine",
          "When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent "
          "before also resume and restart."),
-     jobTasks, Any, takeHold},
+     jobTasks, Any, parseHold},
     {'m', nullptr, nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Sends a mail when the job is over; -s is part of it."),
-     sendingTasks | bit(Task::ChangeJob), Queue, takeMail},
+     sendingTasks | bit(Task::ChangeJob), Queue, parseMail},
     {'s', nullptr, nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Does not tell the job's number."), allTasks, Any,
-     takeFlag<&CommandLine::quiet>},
+     parseFlag<&CommandLine::quiet>},
     {'c', nullptr, nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Accepted for lp's sake: documents are always copied."),
-     allTasks, Any, takeCopyFlag},
+     allTasks, Any, parseCopyFlag},
     {'i', nullptr, "[QUEUE-]JOB",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Changes a job that was sent before."),
-     bit(Task::ChangeJob), Queue, takeJob},
+     bit(Task::ChangeJob), Queue, parseJob},
     {0, "cancel-left", "JOB",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Cancels a job that a program left on a print server when it was stopped."),
-     bit(Task::CancelLeft), Queue, takeLeftJob<Task::CancelLeft>},
+     bit(Task::CancelLeft), Queue, parseLeftJob<Task::CancelLeft>},
     {0, "release-left", "JOB",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Prints what the print server has of such a job, perhaps not all documents."),
-     bit(Task::ReleaseLeft), Queue, takeLeftJob<Task::ReleaseLeft>},
+     bit(Task::ReleaseLeft), Queue, parseLeftJob<Task::ReleaseLeft>},
     {0, "no-dialog", nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Prints at once, with the settings that the dialog would open with."),
-     allTasks, Any, takeFlag<&CommandLine::noDialog>},
+     allTasks, Any, parseFlag<&CommandLine::noDialog>},
     {0, "list", nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Lists the queues and how they are."),
-     bit(Task::List), Queue, takeTask<Task::List>},
+     bit(Task::List), Queue, parseTask<Task::List>},
     {0, "summary", nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Tells the settings that the dialog would open with, and prints nothing."),
-     bit(Task::Summary), Any, takeTask<Task::Summary>},
+     bit(Task::Summary), Any, parseTask<Task::Summary>},
     {0, "dry-run", nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Does everything but sending, and tells what would be sent."),
-     bit(Task::DryRun), Any, takeTask<Task::DryRun>},
+     bit(Task::DryRun), Any, parseTask<Task::DryRun>},
     {0, "json", nullptr, QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Tells it as JSON."),
-     reportTasks, Any, takeFlag<&CommandLine::json>},
+     reportTasks, Any, parseFlag<&CommandLine::json>},
     {0, "force", nullptr,
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Sends even what the printer does not have, and what conflicts."),
-     sendingTasks | bit(Task::ChangeJob), Any, takeFlag<&CommandLine::force>},
+     sendingTasks | bit(Task::ChangeJob), Any, parseFlag<&CommandLine::force>},
     {0, "screenshot", "OUT.png",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "Saves a picture of the dialog, as it opens, in a PNG file."),
-     documentTasks, Any, takeText<&CommandLine::screenshot>},
+     documentTasks, Any, parseText<&CommandLine::screenshot>},
     {0, "bundle", "DIR",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "The bundle with the cut-options panel, or the folder it is in."),
-     documentTasks, Any, takeText<&CommandLine::bundle>},
+     documentTasks, Any, parseText<&CommandLine::bundle>},
     {0, "ppd", "FILE",
      QT_TRANSLATE_NOOP("programs::kvprint::CommandLine",
                        "A PPD file, plain or gzip: prints on a virtual printer instead of a queue."),
-     documentTasks, Any, takeText<&CommandLine::ppd>},
+     documentTasks, Any, parseText<&CommandLine::ppd>},
     {0, "output", "DIR",
      QT_TRANSLATE_NOOP(
          "programs::kvprint::CommandLine",
          "The folder for the virtual printer's strip.pdf and job.json, made when it is not there. A new "
          "folder among the user's data without it."),
-     printingTasks, Virtual, takeText<&CommandLine::output>},
+     printingTasks, Virtual, parseText<&CommandLine::output>},
     {0, "help", nullptr, QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Shows this help."), allTasks,
      Any, nullptr},
     {0, "version", nullptr, QT_TRANSLATE_NOOP("programs::kvprint::CommandLine", "Shows the version."),

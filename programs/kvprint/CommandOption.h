@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CommandLine.h"
-#include "Complaint.h"
+#include "ErrorMessage.h"
 
 #include <span>
 
@@ -30,7 +30,7 @@ struct CommandOption {
     unsigned tasks;
     Printer printer;
     /// Puts the option and its value where it belongs; null for those that end the reading at once.
-    Complaint (*take)(CommandLine &command, const QString &value);
+    ErrorMessage (*take)(CommandLine &command, const QString &value);
 
     /// "-d" or "--ppd".
     QString spelling() const;

@@ -3,7 +3,7 @@
 
 #include "CommandHelp.h"
 #include "CommandOption.h"
-#include "JobWords.h"
+#include "JobOptionsText.h"
 
 #include <QCoreApplication>
 
@@ -20,7 +20,7 @@ struct CommandParserText {
 
 UsageError wrong(const QString &message)
 {
-    return {UsageProblem::Wrong, message};
+    return {UsageErrorKind::Wrong, message};
 }
 
 bool takesDocuments(Task task)
@@ -105,16 +105,16 @@ private:
             }
             value = m_words.takeFirst();
         }
-        if (const Complaint complaint = option.take(m_command, value.value_or(QString())))
-            m_error = wrong(option.spelling() + QStringLiteral(": ") + *complaint);
+        if (const ErrorMessage errorMessage = option.take(m_command, value.value_or(QString())))
+            m_error = wrong(option.spelling() + QStringLiteral(": ") + *errorMessage);
         m_used.push_back(&option);
     }
 
     static UsageError answer(const CommandOption &option)
     {
         if (qstrcmp(option.name, "help") == 0)
-            return {UsageProblem::HelpWanted, commandHelp()};
-        return {UsageProblem::VersionWanted,
+            return {UsageErrorKind::HelpRequested, commandHelp()};
+        return {UsageErrorKind::VersionRequested,
                 QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() + u'\n'};
     }
 

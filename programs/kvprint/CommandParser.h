@@ -8,12 +8,12 @@
 namespace programs {
 inline namespace kvprint {
 
-enum class UsageProblem {
-    HelpWanted,    ///< the message is the help text
-    VersionWanted, ///< the message is the version
-    Wrong,         ///< the message says what is wrong
+enum class UsageErrorKind {
+    HelpRequested,    ///< the message is the help text
+    VersionRequested, ///< the message is the version
+    Wrong,            ///< the message says what is wrong
 };
-using UsageError = host::Failure<UsageProblem>;
+using UsageError = host::Failure<UsageErrorKind>;
 
 /// Reads the arguments, the program's name first. Needs no application object.
 host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &arguments);

@@ -14,7 +14,7 @@ struct ConsoleText {
 
 } // namespace
 
-void Console::complain(const QString &message) const
+void Console::printError(const QString &message) const
 {
     error(QCoreApplication::applicationName() + QStringLiteral(": ") + message + u'\n');
 }
@@ -25,7 +25,7 @@ void Console::tellRequestId(const QString &queue, int jobId, qsizetype documents
     const QString line =
         QStringLiteral("request id is %1-%2 (%3 file(s))\n").arg(queue).arg(jobId).arg(documents);
     if (!out(line))
-        complain(ConsoleText::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
+        printError(ConsoleText::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
 }
 
 } // namespace kvprint

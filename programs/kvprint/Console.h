@@ -16,7 +16,7 @@ struct Console {
     std::function<void(const QString &)> error;
 
     /// Writes the message as a line of the program's.
-    void complain(const QString &message) const;
+    void printError(const QString &message) const;
     /// Writes the line by which scripts know a job that was sent; among the messages where it cannot be
     /// written, lest somebody print once more.
     void tellRequestId(const QString &queue, int jobId, qsizetype documents) const;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DestinationReport.h"
 
-#include <host/cups/queues/QueueWords.h>
+#include <host/cups/queues/QueueText.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>

@@ -2,7 +2,7 @@
 #include "HeadlessRun.h"
 
 #include "CommandChecks.h"
-#include "CommandWishes.h"
+#include "CommandRequest.h"
 
 #include <dialog/job/QueueSender.h>
 #include <dialog/window/PrintDialog.h>
@@ -30,8 +30,7 @@ constexpr std::chrono::milliseconds discoveryTimeout{1500};
 
 bool isPpdKnown(const host::QueueSession &session)
 {
-    return session.ppdKnowledge() != host::PpdKnowledge::Asked &&
-           session.ppdKnowledge() != host::PpdKnowledge::Cached;
+    return session.ppdState() != host::PpdState::Asked && session.ppdState() != host::PpdState::Cached;
 }
 
 /// Runs the event loop until the condition holds or a signal comes, or until the timeout; answers
@@ -74,7 +73,8 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     session.start(host::Discovery::No);
     waitUntil(session, m_signals,
               [&] { return session.isSettled() && (!session.chosen() || isPpdKnown(session)); });
-    const bool mayBeDiscovered = !session.chosen() && failure && failure->kind == host::CupsFailure::NotFound;
+    const bool mayBeDiscovered =
+        !session.chosen() && failure && failure->kind == host::CupsErrorKind::NotFound;
     if (mayBeDiscovered) {
         session.start(host::Discovery::Yes);
         const auto isThere = [&] { return session.chosen().has_value(); };
@@ -88,7 +88,7 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
         return nullptr;
     if (!failure && !session.chosen())
         failure =
-            host::CupsError{host::CupsFailure::NotFound,
+            host::CupsError{host::CupsErrorKind::NotFound,
                             HeadlessRunText::tr("The print server \"%1\" has no destination to print on")
                                 .arg(m_server.displayName())};
     // The dialog shows any other queue then; without it, nobody would see where the labels go.
@@ -96,14 +96,14 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
                             !session.destinations().defaultDestination();
     if (!failure && isAnyQueue)
         failure = host::CupsError{
-            host::CupsFailure::NotFound,
+            host::CupsErrorKind::NotFound,
             HeadlessRunText::tr("There is no default destination on the print server \"%1\"; name one "
                                 "with \"-d\"")
                 .arg(m_server.displayName())};
     if (failure)
-        m_console.complain(failure->message);
+        m_console.printError(failure->message);
     // A PPD that cannot be used says nothing of what would come out.
-    const bool mayGoOn = !failure || (m_command.force && failure->kind == host::CupsFailure::Refused);
+    const bool mayGoOn = !failure || (m_command.force && failure->kind == host::CupsErrorKind::Rejected);
     return mayGoOn ? keeper.setup() : nullptr;
 }
 
@@ -111,23 +111,23 @@ bool HeadlessRun::canPrintDocument() const
 {
     const auto pages = host::choosePages(m_command.settings, {}, m_document->pageCounts());
     if (!pages)
-        m_console.complain(pages.error().message);
+        m_console.printError(pages.error().message);
     const auto error = pages ? m_document->checkForPrinting() : std::nullopt;
     if (error)
-        m_console.complain(error->message);
+        m_console.printError(error->message);
     return pages && !error;
 }
 
-std::optional<host::JobDraft> HeadlessRun::makeDraft(const host::PrinterSetup &setup) const
+std::optional<host::JobRequest> HeadlessRun::makeJobRequest(const host::PrinterSetup &setup) const
 {
     auto pages = host::choosePages(m_command.settings, defaultPageSettings(setup.destination()),
                                    m_document->pageCounts());
     if (!pages) {
-        m_console.complain(pages.error().message);
+        m_console.printError(pages.error().message);
         return std::nullopt;
     }
-    return host::JobDraft{m_command.settings, m_command.title.value_or(host::defaultTitle(*m_document)),
-                          std::move(pages).value()};
+    return host::JobRequest{m_command.settings, m_command.title.value_or(host::defaultTitle(*m_document)),
+                            std::move(pages).value()};
 }
 
 bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
@@ -140,7 +140,7 @@ bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
     QCoreApplication::processEvents();
     const auto saved = dialog::saveScreenshot(dialog, *m_command.screenshot);
     if (!saved)
-        m_console.complain(saved.error().message);
+        m_console.printError(saved.error().message);
     return static_cast<bool>(saved);
 }
 
@@ -150,7 +150,7 @@ ExitStatus HeadlessRun::run()
     if (!canPrintDocument())
         return ExitStatus::Failed;
     host::QueueSession session(m_server, m_command.destination);
-    host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
+    host::SetupKeeper keeper(session, panelSource(m_command), setupRequest(m_command));
     host::PrinterSetup *const setup = waitForSetup(session, keeper);
     // From here on the printer stays as it was found, whatever the server tells meanwhile.
     QObject::disconnect(&session, nullptr, &keeper, nullptr);
@@ -159,7 +159,7 @@ ExitStatus HeadlessRun::run()
     const CommandChecks checks(m_command, m_console);
     if (!setup || !checks.accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
-    const std::optional<host::JobDraft> draft = makeDraft(*setup);
+    const std::optional<host::JobRequest> draft = makeJobRequest(*setup);
     if (!draft)
         return ExitStatus::Failed;
     const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
@@ -188,7 +188,7 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Tick
 
 ExitStatus HeadlessRun::endedBy(int signal) const
 {
-    m_console.complain(HeadlessRunText::tr("Stopped by a signal; nothing was printed."));
+    m_console.printError(HeadlessRunText::tr("Stopped by a signal; nothing was printed."));
     return statusOfSignal(signal);
 }
 
@@ -212,7 +212,7 @@ ExitStatus HeadlessRun::send(const host::Ticket &ticket)
     if (problem && signal && problem->isEmpty())
         return endedBy(*signal);
     if (problem) {
-        m_console.complain(*problem);
+        m_console.printError(*problem);
         return signal ? statusOfSignal(*signal) : ExitStatus::Failed;
     }
     CommandChecks(m_command, m_console).printRequestId(sender);

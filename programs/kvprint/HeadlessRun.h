@@ -25,7 +25,7 @@ private:
     /// Waits for the server; null, with the reason told, when there is nothing to print on.
     host::PrinterSetup *waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper);
     bool canPrintDocument() const;
-    std::optional<host::JobDraft> makeDraft(const host::PrinterSetup &setup) const;
+    std::optional<host::JobRequest> makeJobRequest(const host::PrinterSetup &setup) const;
     /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be
     /// saved.
     bool takeScreenshot(host::SetupKeeper &keeper) const;

@@ -22,21 +22,21 @@ LeftJobsRun::LeftJobsRun(const CommandLine &command, const Console &console)
 {
 }
 
-host::JobJournal::Left LeftJobsRun::takeLeft() const
+host::JobJournal::Left LeftJobsRun::parseLeft() const
 {
     host::JobJournal::Left left = host::JobJournal().left();
     for (const QString &damage : left.damages)
-        m_console.complain(damage);
+        m_console.printError(damage);
     return left;
 }
 
 void LeftJobsRun::tell() const
 {
-    for (const host::JobRecord &job : takeLeft().jobs) {
-        m_console.complain(host::leftJobSentence(job));
-        m_console.complain(LeftJobsRunText::tr("\"kvprint --cancel-left %1\" cancels it, \"kvprint "
-                                               "--release-left %1\" prints what the server has of it.")
-                               .arg(job.name()));
+    for (const host::JobRecord &job : parseLeft().jobs) {
+        m_console.printError(host::leftJobSentence(job));
+        m_console.printError(LeftJobsRunText::tr("\"kvprint --cancel-left %1\" cancels it, \"kvprint "
+                                                 "--release-left %1\" prints what the server has of it.")
+                                 .arg(job.name()));
     }
 }
 
@@ -45,7 +45,7 @@ std::optional<host::JobRecord> LeftJobsRun::meant() const
     QStringList all;
     QStringList several;
     std::optional<host::JobRecord> found;
-    for (const host::JobRecord &job : takeLeft().jobs) {
+    for (const host::JobRecord &job : parseLeft().jobs) {
         all.append(job.name());
         if (m_command.leftJob != job.name() && m_command.leftJob != job.identifier())
             continue;
@@ -56,16 +56,16 @@ std::optional<host::JobRecord> LeftJobsRun::meant() const
         return found;
     const QString separator = QStringLiteral(", ");
     if (several.size() > 1)
-        m_console.complain(
+        m_console.printError(
             LeftJobsRunText::tr("Jobs \"%1\" are left on several print servers; name one of these: %2")
                 .arg(m_command.leftJob, several.join(separator)));
     else if (all.isEmpty())
-        m_console.complain(
+        m_console.printError(
             LeftJobsRunText::tr("There is no job \"%1\" that was left by a program that was stopped; "
                                 "none is left")
                 .arg(m_command.leftJob));
     else
-        m_console.complain(
+        m_console.printError(
             LeftJobsRunText::tr("There is no job \"%1\" that was left by a program that was stopped; "
                                 "these are left: %2")
                 .arg(m_command.leftJob, all.join(separator)));
@@ -79,11 +79,11 @@ ExitStatus LeftJobsRun::settle(const host::CupsServer &server) const
         return ExitStatus::Failed;
     const host::LeftJobAction action =
         m_command.task == Task::ReleaseLeft ? host::LeftJobAction::Release : host::LeftJobAction::Cancel;
-    const auto outcome = dialog::outcomeOf([server, job = *job, action](host::BackgroundTask &task) {
+    const auto outcome = dialog::runInBackground([server, job = *job, action](host::BackgroundTask &task) {
         return host::settleLeftJob(server, job, action, task);
     });
     if (!outcome) {
-        m_console.complain(outcome.error().message);
+        m_console.printError(outcome.error().message);
         return ExitStatus::Failed;
     }
     m_console.out(outcome.value() + u'\n');

@@ -21,7 +21,7 @@ public:
     ExitStatus settle(const host::CupsServer &server) const;
 
 private:
-    host::JobJournal::Left takeLeft() const;
+    host::JobJournal::Left parseLeft() const;
     /// The job that is meant; nothing, with the reason printed, when there is none or more than one.
     std::optional<host::JobRecord> meant() const;
 

@@ -2,7 +2,7 @@
 #include "PrintRun.h"
 
 #include "CommandChecks.h"
-#include "CommandWishes.h"
+#include "CommandRequest.h"
 #include "HeadlessRun.h"
 #include "LeftJobsRun.h"
 #include "ServerRun.h"
@@ -66,11 +66,11 @@ std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
                                                                             : m_command.documents);
     if (document)
         return std::move(document).value();
-    m_console.complain(document.error().message);
+    m_console.printError(document.error().message);
     return nullptr;
 }
 
-dialog::DialogWishes PrintRun::dialogWishes() const
+dialog::RequestedSettings PrintRun::requestedSettings() const
 {
     return {m_command.settings, m_command.title, {}};
 }
@@ -79,15 +79,15 @@ std::unique_ptr<host::PrinterSetup> PrintRun::openPrinter()
 {
     auto ppd = host::PpdFile::open(*m_command.ppd);
     if (!ppd) {
-        m_console.complain(ppd.error().message);
+        m_console.printError(ppd.error().message);
         return nullptr;
     }
     auto setup = std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(),
-                                                      setupWishes(m_command), panelSource(m_command));
+                                                      setupRequest(m_command), panelSource(m_command));
     if (!CommandChecks(m_command, m_console).accepts(*setup))
         return nullptr;
     if (!setup->paper()) {
-        m_console.complain(
+        m_console.printError(
             PrintRunText::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
         return nullptr;
     }
@@ -102,14 +102,14 @@ ExitStatus PrintRun::runVirtual()
         return ExitStatus::Failed;
     host::SetupKeeper keeper(std::move(setup));
     dialog::VirtualSender sender(m_command.output);
-    dialog::PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    dialog::PrintDialog dialog(std::move(document), keeper, sender, requestedSettings());
     return CommandChecks::statusOf(showVirtual(dialog, sender, *keeper.setup()), *keeper.setup());
 }
 
 bool PrintRun::canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const
 {
     if (const std::optional<QString> problem = dialog.prepare()) {
-        m_console.complain(*problem);
+        m_console.printError(*problem);
         return false;
     }
     return CommandChecks(m_command, m_console).accepts(*dialog.ticket(), setup);
@@ -127,21 +127,21 @@ ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSen
     if ((printsAtOnce || m_command.task != Task::Print) && !canPrintAtOnce(dialog, setup))
         return ExitStatus::Failed;
     if (m_command.task != Task::Print) {
-        tellSummary(dialog.summary());
+        printSummary(dialog.summary());
         return ExitStatus::Printed;
     }
     if (printsAtOnce) {
-        sender.setPictureTaker([&] { return dialog::completePicture(dialog); });
+        sender.setScreenshotFunction([&] { return dialog::completePicture(dialog); });
         dialog.print();
         if (!dialog.problem().isEmpty()) {
-            m_console.complain(dialog.problem());
+            m_console.printError(dialog.problem());
             dialog.done(QDialog::Rejected);
             return ExitStatus::Failed;
         }
     } else if (dialog.exec() != QDialog::Accepted) {
-        return ExitStatus::Cancelled;
+        return ExitStatus::Canceled;
     }
-    tellSummary(dialog.summary());
+    printSummary(dialog.summary());
     m_console.out(PrintRunText::tr("The label strip is in:") + u'\n');
     m_console.out(sender.folder() + u'\n');
     return ExitStatus::Printed;
@@ -162,9 +162,9 @@ ExitStatus PrintRun::runOnQueue()
     // The dialog is closed as by hand, so that a job on its way is taken back.
     SignalWatch watch;
     QObject::connect(&watch, &SignalWatch::caught, qApp, &QApplication::closeAllWindows);
-    const auto cancelled = [&] {
+    const auto canceled = [&] {
         const std::optional<int> signal = watch.signal();
-        return signal ? statusOfSignal(*signal) : ExitStatus::Cancelled;
+        return signal ? statusOfSignal(*signal) : ExitStatus::Canceled;
     };
     dialog::PrintDialog *window = nullptr;
     server.askPassword = [&](const host::PasswordRequest &request) {
@@ -172,20 +172,20 @@ ExitStatus PrintRun::runOnQueue()
     };
     server.askTrust = [&](const host::TrustRequest &request) { dialog::askTrustWithDialog(window)(request); };
     host::QueueSession session(server, m_command.destination);
-    host::SetupKeeper keeper(session, panelSource(m_command), setupWishes(m_command));
+    host::SetupKeeper keeper(session, panelSource(m_command), setupRequest(m_command));
     dialog::QueueSender sender(server);
-    dialog::PrintDialog dialog(std::move(document), keeper, sender, dialogWishes());
+    dialog::PrintDialog dialog(std::move(document), keeper, sender, requestedSettings());
     window = &dialog;
     dialog.show();
     waitForPainting(dialog);
     session.start(host::Discovery::Yes);
     QApplication::processEvents();
     if (!dialog.isVisible())
-        return dialog.result() == QDialog::Accepted ? follow(dialog, sender, server) : cancelled();
+        return dialog.result() == QDialog::Accepted ? follow(dialog, sender, server) : canceled();
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
     if (dialog.exec() != QDialog::Accepted)
-        return cancelled();
+        return canceled();
     return follow(dialog, sender, server);
 }
 
@@ -197,16 +197,16 @@ ExitStatus PrintRun::follow(dialog::PrintDialog &dialog, const dialog::QueueSend
     window.exec();
     if (const auto &status = window.status()) {
         if (status->state == host::JobState::Aborted) {
-            m_console.complain(status->sentences().join(u' '));
+            m_console.printError(status->sentences().join(u' '));
             return ExitStatus::Failed;
         }
         // The window has closed too soon to be read, as after any job that was printed.
-        if (status->isForgotten && status->state == host::JobState::Completed)
-            m_console.complain(status->sentences().join(u' '));
-        if (status->state == host::JobState::Cancelled)
-            return ExitStatus::Cancelled;
+        if (status->isPurged && status->state == host::JobState::Completed)
+            m_console.printError(status->sentences().join(u' '));
+        if (status->state == host::JobState::Canceled)
+            return ExitStatus::Canceled;
     }
-    const bool withoutPanel = dialog.hasPanelProblem();
+    const bool withoutPanel = dialog.hasPanelError();
     return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 
@@ -216,11 +216,11 @@ bool PrintRun::takeScreenshot(dialog::PrintDialog &dialog)
         return true;
     const auto saved = dialog::saveScreenshot(dialog, *m_command.screenshot);
     if (!saved)
-        m_console.complain(saved.error().message);
+        m_console.printError(saved.error().message);
     return static_cast<bool>(saved);
 }
 
-void PrintRun::tellSummary(const std::vector<host::SummarySection> &summary)
+void PrintRun::printSummary(const std::vector<host::SummarySection> &summary)
 {
     m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(host::summaryJson(summary)).toJson())
                                  : host::summaryInPlainText(summary));

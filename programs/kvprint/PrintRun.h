@@ -37,9 +37,9 @@ private:
     bool canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const;
     ExitStatus follow(dialog::PrintDialog &dialog, const dialog::QueueSender &sender,
                       const host::CupsServer &server);
-    dialog::DialogWishes dialogWishes() const;
+    dialog::RequestedSettings requestedSettings() const;
     bool takeScreenshot(dialog::PrintDialog &dialog);
-    void tellSummary(const std::vector<host::SummarySection> &summary);
+    void printSummary(const std::vector<host::SummarySection> &summary);
 
     CommandLine m_command;
     Console m_console;

@@ -22,10 +22,10 @@ ServerRun::ServerRun(const CommandLine &command, const Console &console, host::C
 
 ExitStatus ServerRun::run()
 {
-    return m_command.task == Task::ChangeJob ? changeJob() : tellDestinations();
+    return m_command.task == Task::ChangeJob ? changeJob() : printDestinations();
 }
 
-ExitStatus ServerRun::tellDestinations()
+ExitStatus ServerRun::printDestinations()
 {
     host::DestinationList list(m_server);
     QEventLoop loop;
@@ -38,7 +38,7 @@ ExitStatus ServerRun::tellDestinations()
     list.refresh();
     loop.exec();
     if (failure) {
-        m_console.complain(failure->message);
+        m_console.printError(failure->message);
         return ExitStatus::Failed;
     }
     m_console.out(m_command.json ? QString::fromUtf8(destinationsAsJson(list.destinations()))
@@ -48,7 +48,7 @@ ExitStatus ServerRun::tellDestinations()
 
 host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ServerRun::ppdOfJob(int jobId)
 {
-    const auto queue = dialog::outcomeOf([server = m_server, jobId](host::BackgroundTask &task) {
+    const auto queue = dialog::runInBackground([server = m_server, jobId](host::BackgroundTask &task) {
         return host::queueOfJob(server, jobId, task);
     });
     if (!queue)
@@ -80,7 +80,7 @@ bool ServerRun::printerHas(const host::JobChange &change)
 {
     const auto ppd = ppdOfJob(change.jobId);
     if (!ppd) {
-        m_console.complain(host::notChanged(change.jobId, ppd.error()).message);
+        m_console.printError(host::notChanged(change.jobId, ppd.error()).message);
         return false;
     }
     bool hasAll = true;
@@ -89,7 +89,7 @@ bool ServerRun::printerHas(const host::JobChange &change)
             continue;
         const auto checked = host::checkChoice(*ppd.value(), choice);
         if (!checked)
-            m_console.complain(checked.error().message);
+            m_console.printError(checked.error().message);
         hasAll = hasAll && checked;
     }
     return hasAll;
@@ -102,12 +102,12 @@ ExitStatus ServerRun::changeJob()
         change.options.push_back({"PageSize", *m_command.paper});
     if (!m_command.force && !change.options.empty() && !printerHas(change))
         return ExitStatus::Failed;
-    const auto changed = dialog::outcomeOf([server = m_server, change](host::BackgroundTask &task) {
+    const auto changed = dialog::runInBackground([server = m_server, change](host::BackgroundTask &task) {
         return host::changeJob(server, change, task);
     });
     if (changed)
         return ExitStatus::Printed;
-    m_console.complain(changed.error().message);
+    m_console.printError(changed.error().message);
     return ExitStatus::Failed;
 }
 

@@ -20,7 +20,7 @@ public:
     ExitStatus run();
 
 private:
-    ExitStatus tellDestinations();
+    ExitStatus printDestinations();
     ExitStatus changeJob();
     /// Whether the job's printer has all that is to be changed, or nobody can tell because it has no PPD;
     /// tells what it does not have.

@@ -126,7 +126,7 @@ host::PasswordHandler askOnTerminal()
         if (const std::optional<QString> password = terminal.ask(request.prompt()))
             request.answer(request.user(), *password);
         else
-            request.refuse();
+            request.reject();
     };
 }
 

@@ -3,7 +3,7 @@
 
 #include "TerminalPassword.h"
 
-#include <dialog/job/TrustWords.h>
+#include <dialog/job/TrustText.h>
 
 #include <QCoreApplication>
 
@@ -19,7 +19,7 @@ struct TerminalTrustText {
 /// Typed in full, so that a wrong key grants nothing; the same in every language.
 constexpr QLatin1String consent("yes");
 
-QString promptFor(const dialog::TrustWords &words)
+QString promptFor(const dialog::TrustText &words)
 {
     return words.question + u'\n' + words.details + u'\n' +
            TerminalTrustText::tr("Type \"%1\" to continue:").arg(consent);
@@ -32,11 +32,11 @@ host::TrustHandler askTrustOnTerminal()
     return [](const host::TrustRequest &request) {
         const TerminalPassword terminal;
         const std::optional<QString> answer =
-            terminal.ask(promptFor(dialog::TrustWords(request)), TerminalPassword::Typing::Shown);
+            terminal.ask(promptFor(dialog::TrustText(request)), TerminalPassword::Typing::Shown);
         if (answer && answer->trimmed().compare(consent, Qt::CaseInsensitive) == 0)
             request.grant();
         else
-            request.refuse();
+            request.reject();
     };
 }
 

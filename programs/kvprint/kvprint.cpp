@@ -72,9 +72,9 @@ int status(programs::ExitStatus status, const programs::StandardStreams &streams
                                                                       : status);
 }
 
-programs::ExitStatus refuse(const programs::UsageError &error, programs::StandardStreams &streams)
+programs::ExitStatus reject(const programs::UsageError &error, programs::StandardStreams &streams)
 {
-    if (error.kind != programs::UsageProblem::Wrong) {
+    if (error.kind != programs::UsageErrorKind::Wrong) {
         streams.out(error.message);
         return programs::ExitStatus::Printed;
     }
@@ -90,7 +90,7 @@ programs::ExitStatus refuse(const programs::UsageError &error, programs::Standar
 // NOLINTNEXTLINE(bugprone-exception-escape): running out of memory ends the program
 int main(int argc, char **argv)
 {
-    host::OutOfMemory::endsProgram();
+    host::OutOfMemory::installHandlers();
     programs::StandardStreams streams;
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -115,13 +115,13 @@ int main(int argc, char **argv)
 
     auto command = programs::parseCommandLine(arguments);
     if (!command)
-        return status(refuse(command.error(), streams), streams);
+        return status(reject(command.error(), streams), streams);
     if (const auto checked = checkInput(command.value(), isatty(STDIN_FILENO) == 1); !checked)
-        return status(refuse(checked.error(), streams), streams);
+        return status(reject(checked.error(), streams), streams);
     command.value().noDialog = command.value().noDialog || !attended;
     const programs::Console console{[&](const QString &text) { return streams.out(text); },
                                     programs::StandardStreams::error};
-    platform::TemporaryFile::removeLeftOvers(QDir::tempPath());
+    platform::TemporaryFile::removeLeftovers(QDir::tempPath());
     const int outcome = status(programs::PrintRun(std::move(command).value(), console).run(), streams);
     if (host::Background::wasUsed())
         std::_Exit(outcome);

@@ -4,7 +4,7 @@
 #include <dialog/window/PrintDialog.h>
 #include <dialog/window/StripPreview.h>
 #include <host/base/Units.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/samples/SamplePpd.h>
 
@@ -76,7 +76,7 @@ protected:
     std::unique_ptr<host::PrinterSetup> makeSetup(const QString &bundle)
     {
         return std::make_unique<host::PrinterSetup>(host::Destination(), openTapePpd(sandbox),
-                                                    host::SetupWishes(), host::PanelSource{bundle, {}});
+                                                    host::SetupRequest(), host::PanelSource{bundle, {}});
     }
 
     void open(const QString &bundle = QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle"))
@@ -92,7 +92,7 @@ protected:
         auto document = host::LabelDocument::open(documentPath);
         ASSERT_TRUE(document) << document.error().message.toStdString();
         window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *keeper, sender,
-                                                       dialog::DialogWishes());
+                                                       dialog::RequestedSettings());
         window->show();
         QApplication::processEvents();
     }

@@ -199,7 +199,7 @@ QString Hand::replacePpd()
     const QMetaObject::Connection replaced =
         QObject::connect(&m_dialog.keeper(), &host::SetupKeeper::setupChanged, [&] { isReplaced = true; });
     m_dialog.server().replacePpd(destination, 1 - m_dialog.server().variant(destination));
-    m_dialog.session().tryAgain();
+    m_dialog.session().retry();
     EXPECT_TRUE(waitUntil([&] { return isReplaced; })) << m_dialog.told().toStdString();
     QObject::disconnect(replaced);
     EXPECT_TRUE(m_dialog.settle(destination));

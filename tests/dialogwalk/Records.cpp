@@ -65,7 +65,7 @@ OptionTexts optionsOf(const test_support::RecordedDocument &document)
     return texts;
 }
 
-QStringList departuresOnServer(WalkedServer &server, const std::vector<SentJob> &jobs)
+QStringList disagreementsOnServer(WalkedServer &server, const std::vector<SentJob> &jobs)
 {
     const auto documents = server.records();
     QStringList lines;

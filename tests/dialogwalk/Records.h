@@ -12,6 +12,6 @@ OptionTexts optionsOf(const test_support::RecordedDocument &document);
 /// Compares what the server recorded of the jobs with what the dialog showed before Print was pressed: the
 /// document's bytes, every option that was shown as sent, and the strip that the printer makes of it. Waits
 /// until all jobs have passed the filters. Returns one line for each difference.
-QStringList departuresOnServer(WalkedServer &server, const std::vector<SentJob> &jobs);
+QStringList disagreementsOnServer(WalkedServer &server, const std::vector<SentJob> &jobs);
 
 } // namespace dialogwalk

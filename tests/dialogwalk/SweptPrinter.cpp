@@ -4,7 +4,7 @@
 #include "ShownPlan.h"
 
 #include <host/setup/JobReport.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 #include <host/strip/VirtualPrinter.h>
 #include <platform/PopUpButton.h>
 
@@ -50,11 +50,11 @@ SweptPrinter::SweptPrinter(const QString &ppdPath)
     auto document = host::LabelDocument::open(m_labels.path());
     EXPECT_TRUE(ppd && document);
     m_document = std::move(document).value();
-    m_setup =
-        std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(), host::SetupWishes(),
-                                             host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}});
+    m_setup = std::make_unique<host::PrinterSetup>(
+        host::Destination(), std::move(ppd).value(), host::SetupRequest(),
+        host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}});
     for (int page = 0; page < m_document->pageCount(); ++page)
-        m_draft.pages.pages.push_back(page);
+        m_jobRequest.pages.pages.push_back(page);
     look();
 }
 
@@ -92,7 +92,7 @@ void SweptPrinter::visitPage()
 void SweptPrinter::look()
 {
     m_setup->notePanelInput();
-    m_ticket = host::ticketFor(*m_setup, *m_document, m_draft);
+    m_ticket = host::ticketFor(*m_setup, *m_document, m_jobRequest);
     m_plan = host::makePlan(*m_ticket, *m_document, renderer());
     m_options.clear();
     for (const host::JobOption &option : m_ticket->job.options)
@@ -108,7 +108,7 @@ const host::LabelRenderer &SweptPrinter::renderer()
     return *renderer;
 }
 
-QStringList SweptPrinter::departures() const
+QStringList SweptPrinter::disagreements() const
 {
     const OptionTexts boxes = panel().saved();
     QStringList lines;
@@ -155,7 +155,7 @@ QStringList SweptPrinter::compareStrip(const OptionTexts &printed) const
     if (!expected)
         return {QStringLiteral("a paper is printed that the printer lacks")};
     const QString figures = host::cutPlanFigures(*m_plan);
-    const ExpectedStrip shown = stripOf(*m_plan, host::cutPlanSentences(*m_plan).join(u' '));
+    const ExpectedStrip shown = stripOf(*m_plan, host::cutPlanDescription(*m_plan).join(u' '));
     return differences(shown, *expected) +
            compareFigures(QStringLiteral("the line of figures"), figures, *expected);
 }

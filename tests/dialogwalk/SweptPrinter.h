@@ -32,7 +32,7 @@ public:
     /// The options of the job that is shown.
     const OptionTexts &options() const { return m_options; }
     /// The differences between the panel's boxes and the job; empty when they agree.
-    QStringList departures() const;
+    QStringList disagreements() const;
 
     /// Whether the virtual printer writes its files, or only the value that it would write is made.
     enum class Files { No, Yes };
@@ -54,7 +54,7 @@ private:
     PrinterFacts m_facts;
     std::unique_ptr<host::LabelDocument> m_document;
     std::unique_ptr<host::PrinterSetup> m_setup;
-    host::JobDraft m_draft;
+    host::JobRequest m_jobRequest;
     /// By the paper's name.
     std::map<QByteArray, std::unique_ptr<host::LabelRenderer>> m_renderers;
     std::optional<host::Ticket> m_ticket;

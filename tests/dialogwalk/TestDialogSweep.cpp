@@ -41,7 +41,7 @@ protected:
     /// Fails when what is shown is not what is sent, or the user's choices are not kept.
     bool holds(const char *what, const QByteArray &paper, int preset)
     {
-        const QStringList lines = departures(dialog) + intent.broken(dialog);
+        const QStringList lines = disagreements(dialog) + intent.broken(dialog);
         EXPECT_EQ(lines, QStringList())
             << what << " with " << paper.constData() << ", combination " << preset;
         return lines.isEmpty();
@@ -114,7 +114,7 @@ TEST_P(DialogSweep, NothingButTheUserChangesTheJob)
                       visitPaper(paper, other, preset) && printAndReopen(paper, preset);
         }
     }
-    EXPECT_EQ(departuresOnServer(*server, hand.sent()), QStringList());
+    EXPECT_EQ(disagreementsOnServer(*server, hand.sent()), QStringList());
     std::cout << hand.sent().size() << " jobs\n";
 }
 

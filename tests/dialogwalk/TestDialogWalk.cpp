@@ -70,7 +70,7 @@ void report(WalkedServer &server, const Walk &walk, const Fault &found, std::uin
     const auto [episode, fault] = shortest(server, walk.episode(), found, tries);
     ADD_FAILURE() << fault.text().toStdString() << "\n-- at first, after " << found.steps.size()
                   << " steps:\n"
-                  << found.departures.join(u'\n').toStdString() << "\nThis is step " << step
+                  << found.disagreements.join(u'\n').toStdString() << "\nThis is step " << step
                   << " of the walk; repeat it with KV_DIALOG_WALK_SEED=" << seed;
 }
 

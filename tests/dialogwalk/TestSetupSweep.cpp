@@ -70,7 +70,7 @@ protected:
     /// boxes show others, or for other reasons, a line each.
     void hold(const char *what, const OptionTexts &before, const QStringList &reasons = {})
     {
-        const QStringList lines = unexplained(before, printer.options()) + printer.departures() + reasons;
+        const QStringList lines = unexplained(before, printer.options()) + printer.disagreements() + reasons;
         if (!lines.isEmpty() && faults++ < 5)
             ADD_FAILURE() << what << "\n"
                           << text(before).toStdString() << "\n"

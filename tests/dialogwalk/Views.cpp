@@ -287,7 +287,7 @@ std::optional<ExpectedStrip> shownStrip(const WalkedDialog &dialog)
     return stripOf(*plan, preview.accessibleDescription());
 }
 
-QStringList departures(const WalkedDialog &dialog)
+QStringList disagreements(const WalkedDialog &dialog)
 {
     Agreement agreement;
     if (!dialog.window().ticket())

@@ -12,6 +12,6 @@ std::optional<ExpectedStrip> shownStrip(const WalkedDialog &dialog);
 /// Compares everything that shows the job with what would be sent: strip, figures and sentences, summary, the
 /// page of what will be sent with its command, the panel's own boxes, and the conflicts. Returns one line for
 /// each place that differs; empty when all agree.
-QStringList departures(const WalkedDialog &dialog);
+QStringList disagreements(const WalkedDialog &dialog);
 
 } // namespace dialogwalk

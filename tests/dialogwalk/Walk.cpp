@@ -10,7 +10,7 @@ namespace dialogwalk {
 
 QString Fault::text() const
 {
-    return steps.join(u'\n') + QStringLiteral("\n--\n") + departures.join(u'\n');
+    return steps.join(u'\n') + QStringLiteral("\n--\n") + disagreements.join(u'\n');
 }
 
 std::optional<Fault> Walk::begin(const QString &destination)
@@ -41,7 +41,7 @@ std::optional<Fault> Walk::go(const Step &step)
 
 std::optional<Fault> Walk::check()
 {
-    QStringList lines = departures(m_dialog);
+    QStringList lines = disagreements(m_dialog);
     if (m_dialog.window().ticket())
         lines += m_intent.broken(m_dialog);
     return lines.isEmpty() ? std::nullopt : std::optional(Fault{m_done, lines});
@@ -52,7 +52,7 @@ std::optional<Fault> Walk::checkRecords()
     const std::vector<SentJob> &all = m_hand.sent();
     const std::vector<SentJob> jobs(all.begin() + static_cast<std::ptrdiff_t>(m_recorded), all.end());
     m_recorded = all.size();
-    const QStringList lines = departuresOnServer(m_server, jobs);
+    const QStringList lines = disagreementsOnServer(m_server, jobs);
     return lines.isEmpty() ? std::nullopt : std::optional(Fault{m_done, lines});
 }
 

@@ -17,7 +17,7 @@ struct Episode {
 struct Fault {
     /// What was done until then, a line for each step.
     QStringList steps;
-    QStringList departures;
+    QStringList disagreements;
 
     QString text() const;
 };

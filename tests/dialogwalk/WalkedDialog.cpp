@@ -46,7 +46,7 @@ bool WalkedDialog::open(const QString &destination)
     server.address = m_server.cupsd().address();
     m_session = std::make_unique<host::QueueSession>(server, destination);
     m_keeper = std::make_unique<host::SetupKeeper>(*m_session, host::PanelSource{panelBundle, {}},
-                                                   host::SetupWishes());
+                                                   host::SetupRequest());
     m_sender = std::make_unique<dialog::QueueSender>(server);
     if (!showWindow())
         return false;
@@ -63,7 +63,7 @@ bool WalkedDialog::showWindow()
     }
     m_window.reset();
     m_window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *m_keeper, *m_sender,
-                                                     dialog::DialogWishes());
+                                                     dialog::RequestedSettings());
     m_window->show();
     m_window->activateWindow();
     return QTest::qWaitForWindowActive(m_window.get());
@@ -77,10 +77,10 @@ bool WalkedDialog::reopenWindow()
 bool WalkedDialog::settle(const QString &destination)
 {
     const bool isThere = waitUntil([&] {
-        const host::PpdKnowledge knowledge = m_session->ppdKnowledge();
+        const host::PpdState knowledge = m_session->ppdState();
         return m_session->isSettled() && m_keeper->setup() &&
                m_keeper->setup()->destination().name() == destination &&
-               (knowledge == host::PpdKnowledge::Current || knowledge == host::PpdKnowledge::Absent);
+               (knowledge == host::PpdState::Current || knowledge == host::PpdState::Absent);
     });
     return isThere && refresh();
 }

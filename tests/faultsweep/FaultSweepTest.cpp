@@ -10,7 +10,7 @@
 
 #include <cups/ipp.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::JobState;
 using test_support::FaultProxy;
 using test_support::PassedMessage;
@@ -32,7 +32,7 @@ bool isMoving(const host::JobStatus &job)
 /// The server with a timeout that ends when a connection was silent at two checks, 0.1 s apart. A server that
 /// is slow because the machine is busy also counts as silent, which leads to another ending that must be
 /// reported correctly.
-host::CupsServer impatientServerAt(const QString &address)
+host::CupsServer shortTimeoutServerAt(const QString &address)
 {
     static constexpr std::chrono::milliseconds step(500);
     host::CupsServer server = serverAt(address);
@@ -85,15 +85,15 @@ host::JobTicket FaultSweepTest::ticketOf(int documents) const
 host::CupsServer FaultSweepTest::serverFor(const ProxyFault &fault, const QString &address)
 {
     // Other faults than these can make both ends wait for each other.
-    const bool isPatient = fault.kind == ProxyFault::Kind::None || fault.kind == ProxyFault::Kind::Cut ||
-                           fault.kind == ProxyFault::Kind::Delay;
-    return isPatient ? serverAt(address) : impatientServerAt(address);
+    const bool hasLongTimeout = fault.kind == ProxyFault::Kind::None || fault.kind == ProxyFault::Kind::Cut ||
+                                fault.kind == ProxyFault::Kind::Delay;
+    return hasLongTimeout ? serverAt(address) : shortTimeoutServerAt(address);
 }
 
 FaultSweepTest::Ending FaultSweepTest::printThrough(const ProxyFault &fault, int documents)
 {
     QDir(m_journal.folder()).removeRecursively();
-    cupsd.forgetDocuments();
+    cupsd.clearDocuments();
     const host::JobTicket job = ticketOf(documents);
     Ending ending;
     {
@@ -130,7 +130,7 @@ std::vector<host::JobStatus> FaultSweepTest::settledJobs()
         // Numbers are given in order; a number without a job ends the search.
         for (int jobId = m_lastJob + 1;; ++jobId) {
             const auto job = queryJob(connection.value(), QStringLiteral("tape"), jobId);
-            if (!job || job.value().isForgotten)
+            if (!job || job.value().isPurged)
                 break;
             jobs.push_back(job.value());
         }
@@ -146,16 +146,16 @@ std::vector<host::JobStatus> FaultSweepTest::settledJobs()
     return jobs;
 }
 
-void FaultSweepTest::expectTruth(const Ending &ending, int documents)
+void FaultSweepTest::expectCorrectReport(const Ending &ending, int documents)
 {
     EXPECT_LE(ending.silences, 2) << "waited for longer than twice the timeout";
-    expectNoHalfAndNoDouble(ending, documents);
+    expectNoPartialOrRepeatedPrint(ending, documents);
     const std::optional<host::CupsError> &error = ending.outcome.error;
     SCOPED_TRACE(error ? error->message.toStdString() : std::string("printed"));
     if (ending.outcome.jobId) {
         ++endings["printed once and reported"];
         expectPrinted(ending, documents);
-    } else if (error && error->kind == CupsFailure::OutcomeUnknown) {
+    } else if (error && error->kind == CupsErrorKind::OutcomeUnknown) {
         ++endings[ending.printed.empty() ? "not known and reported, not printed"
                                          : "not known and reported, printed once"];
         expectReportedAsUnknown(ending, documents);
@@ -165,7 +165,7 @@ void FaultSweepTest::expectTruth(const Ending &ending, int documents)
     }
 }
 
-void FaultSweepTest::expectNoHalfAndNoDouble(const Ending &ending, int documents) const
+void FaultSweepTest::expectNoPartialOrRepeatedPrint(const Ending &ending, int documents) const
 {
     const bool isWhole = ending.printed.size() == static_cast<std::size_t>(documents);
     EXPECT_TRUE(ending.printed.empty() || isWhole) << ending.printed.size() << " documents were printed";

@@ -40,9 +40,9 @@ protected:
     Ending printThrough(const test_support::ProxyFault &fault, int documents);
 
     /// Expects that the reported outcome is correct: printed once, not printed, or unknown.
-    void expectTruth(const Ending &ending, int documents);
+    void expectCorrectReport(const Ending &ending, int documents);
     /// Expects that nothing is printed twice or in part, regardless of the answers.
-    void expectNoHalfAndNoDouble(const Ending &ending, int documents) const;
+    void expectNoPartialOrRepeatedPrint(const Ending &ending, int documents) const;
 
     /// Places in the message: its first byte, its end, the borders of its parts, and some at random.
     std::vector<qint64> sampleOf(const test_support::PassedMessage &message);

@@ -24,7 +24,7 @@ protected:
                      << "), operation " << ippOpString(static_cast<ipp_op_t>(message.operation)) << ", byte "
                      << fault.byte << " of " << message.bytes << (fault.isLinkDown ? ", link down" : ""));
         EXPECT_TRUE(ending.hasStruck || fault.kind == Kind::None || fault.kind == Kind::Silence);
-        expectTruth(ending, GetParam());
+        expectCorrectReport(ending, GetParam());
     }
 
     template<typename Action>
@@ -74,6 +74,6 @@ TEST_P(FaultSweepOfDocuments, AServerThatPauses)
             .kind = Kind::Delay, .message = index, .byte = random(static_cast<int>(message.bytes) - 1)};
         const Ending ending = printThrough(fault, GetParam());
         EXPECT_TRUE(ending.outcome.jobId);
-        expectTruth(ending, GetParam());
+        expectCorrectReport(ending, GetParam());
     });
 }

@@ -26,7 +26,7 @@ protected:
                      << " of " << message.bytes << ": " << fault.forgery.left(40).toStdString());
         const Ending ending = printThrough(fault, documents);
         EXPECT_TRUE(ending.outcome.jobId || ending.outcome.error);
-        expectNoHalfAndNoDouble(ending, documents);
+        expectNoPartialOrRepeatedPrint(ending, documents);
         ++endings[ending.outcome.jobId ? "reported as printed" : "reported as not printed or not known"];
     }
 
@@ -38,7 +38,7 @@ protected:
             action(static_cast<int>(i), messages[i]);
         const Ending next = printThrough({}, documents);
         EXPECT_TRUE(next.outcome.jobId);
-        expectTruth(next, documents);
+        expectCorrectReport(next, documents);
     }
 
     void atARandomByte(Kind kind)

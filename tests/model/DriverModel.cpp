@@ -84,7 +84,7 @@ QJsonValue paperOrNull(const QJsonObject &request)
 
 } // namespace
 
-void DriverModel::knowPrinter(const QString &path, const PrinterDescription &description)
+void DriverModel::addPrinter(const QString &path, const PrinterDescription &description)
 {
     m_printers[path] = description;
 }

@@ -19,7 +19,7 @@ public:
     }
 
     /// Registers the printer that a PPD file describes; opening any other path fails.
-    void knowPrinter(const QString &path, const PrinterDescription &description);
+    void addPrinter(const QString &path, const PrinterDescription &description);
 
     QJsonObject handle(const QJsonObject &request);
 

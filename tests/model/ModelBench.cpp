@@ -28,7 +28,7 @@ PrinterDescription printerWithout(const QStringList &keywords)
 ModelBench::ModelBench(const PrinterDescription &printer, QJsonObject openMembers)
     : m_driver([](const QString &key) { return key; })
 {
-    m_driver.knowPrinter("printer.ppd", printer);
+    m_driver.addPrinter("printer.ppd", printer);
     openMembers["ppd"] = "printer.ppd";
     ask("open", openMembers);
 }

@@ -116,7 +116,7 @@ void QueueDialogTest::makeDocumentLarger(qsizetype bytes) const
 }
 
 void QueueDialogTest::open(const std::optional<QString> &wanted, const host::CupsServer &given,
-                           const host::SetupWishes &wishes)
+                           const host::SetupRequest &requested)
 {
     close();
     host::CupsServer server = given.address ? given : sharedServer();
@@ -128,10 +128,10 @@ void QueueDialogTest::open(const std::optional<QString> &wanted, const host::Cup
     ASSERT_TRUE(document) << document.error().message.toStdString();
     session = std::make_unique<host::QueueSession>(server, wanted);
     keeper = std::make_unique<host::SetupKeeper>(
-        *session, host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}}, wishes);
+        *session, host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}}, requested);
     sender = std::make_unique<dialog::QueueSender>(sendingServer.value_or(server));
     window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *keeper, *sender,
-                                                   dialog::DialogWishes());
+                                                   dialog::RequestedSettings());
     window->show();
     session->start(host::Discovery::No);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), test_support::failureMilliseconds));
@@ -139,15 +139,15 @@ void QueueDialogTest::open(const std::optional<QString> &wanted, const host::Cup
 
 bool QueueDialogTest::isSettled() const
 {
-    const host::PpdKnowledge knowledge = session->ppdKnowledge();
+    const host::PpdState knowledge = session->ppdState();
     return session->isSettled() && keeper->setup() &&
-           (knowledge == host::PpdKnowledge::Current || knowledge == host::PpdKnowledge::Absent);
+           (knowledge == host::PpdState::Current || knowledge == host::PpdState::Absent);
 }
 
 void QueueDialogTest::openAndSettle(const QString &wanted, const host::CupsServer &server,
-                                    const host::SetupWishes &wishes)
+                                    const host::SetupRequest &requested)
 {
-    open(wanted, server, wishes);
+    open(wanted, server, requested);
     EXPECT_TRUE(waitUntil([this] { return isSettled(); })) << told().toStdString();
     QApplication::processEvents();
 }

@@ -30,10 +30,10 @@ protected:
     /// Opens the dialog on the server; absent for the shared one. wanted is a destination as kvprint parses
     /// it after -d.
     void open(const std::optional<QString> &wanted, const host::CupsServer &server = {},
-              const host::SetupWishes &wishes = {});
+              const host::SetupRequest &requested = {});
     /// Opens it and waits until the server has reported everything about the queue.
     void openAndSettle(const QString &wanted, const host::CupsServer &server = {},
-                       const host::SetupWishes &wishes = {});
+                       const host::SetupRequest &requested = {});
     void close();
     /// Opens the dialog once and closes it, so that the queue is known from last time.
     void fillCache(const QString &queue);

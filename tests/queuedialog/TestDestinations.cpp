@@ -210,7 +210,7 @@ TEST_F(DestinationsTest, WithNothingKnownARefusedPasswordCanBeGivenAfterAll)
 {
     const FaultyServer guarded(cupsd->port(), {.credentials = "ann:secret"});
     open(QStringLiteral("tape"), serverAt(guarded.address()));
-    for (int refusals = 0; refusals < 2; ++refusals) {
+    for (int choiceErrors = 0; choiceErrors < 2; ++choiceErrors) {
         dialog::PasswordDialog *const question = passwordDialog();
         ASSERT_TRUE(question);
         ASSERT_TRUE(QTest::qWaitForWindowActive(question, test_support::failureMilliseconds));
@@ -242,8 +242,8 @@ TEST_F(DestinationsTest, ARefusedPasswordIsNotAskedForAgainAndAgain)
     EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
     // One request for the queue's state may be in progress; the second request proves that the first is
     // complete.
-    const int before = guarded.refusedCount();
-    EXPECT_TRUE(waitUntil([&] { return guarded.refusedCount() >= before + 2 || passwordQuestions > 1; }));
+    const int before = guarded.rejectedCount();
+    EXPECT_TRUE(waitUntil([&] { return guarded.rejectedCount() >= before + 2 || passwordQuestions > 1; }));
     test_support::turnEventLoop();
     ASSERT_EQ(passwordQuestions, 1);
     EXPECT_TRUE(passwordDialogs().empty());

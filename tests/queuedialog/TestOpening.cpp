@@ -177,7 +177,7 @@ TEST_F(OpeningTest, PpdsThatAreNoneAreToldAndTheQueuePrints)
         cupsd->addQueue(QStringLiteral("odd"), good);
         overwritePpd(QStringLiteral("odd"), ppd);
         open(QStringLiteral("odd"));
-        ASSERT_TRUE(waitUntil([this] { return session->ppdKnowledge() == host::PpdKnowledge::Failed; }));
+        ASSERT_TRUE(waitUntil([this] { return session->ppdState() == host::PpdState::Failed; }));
         QApplication::processEvents();
         EXPECT_NE(told(), QString());
         EXPECT_TRUE(keeper->setup());

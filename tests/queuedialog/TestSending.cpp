@@ -59,7 +59,7 @@ protected:
     }
 
     /// Presses Print and waits for the failure.
-    void printInVain() const
+    void printExpectingError() const
     {
         Hands::click(button(QStringLiteral("Print")));
         EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
@@ -109,7 +109,7 @@ TEST_F(SendingTest, ARefusalIsToldInTheServersWordsAndTheNextTimePrintsOnce)
     set();
     const std::size_t before = cupsd->documents().size();
     cupsd->reject(QStringLiteral("tape"), QStringLiteral("closed for lunch"));
-    printInVain();
+    printExpectingError();
     EXPECT_TRUE(told().contains(QStringLiteral("not accepting jobs"))) << told().toStdString();
     expectAllSet();
     meanwhile([] { cupsd->run(QStringLiteral("cupsaccept"), {QStringLiteral("tape")}); });
@@ -124,7 +124,7 @@ TEST_F(SendingTest, AConnectionThatBreaksLeavesNothingAndTheNextTimePrintsOnce)
     openAndSettle(QStringLiteral("tape"), serverAt(breaking.address()));
     set();
     const std::size_t before = cupsd->documents().size();
-    printInVain();
+    printExpectingError();
     EXPECT_TRUE(told().contains(QStringLiteral("broke"))) << told().toStdString();
     EXPECT_FALSE(told().contains(QStringLiteral("taken back"))) << told().toStdString();
     expectAllSet();
@@ -139,7 +139,7 @@ TEST_F(SendingTest, AServerThatDiesIsToldAndTheNextTimePrintsOnce)
     const std::size_t before = cupsd->documents().size();
     cupsd->kill();
     {
-        printInVain();
+        printExpectingError();
         EXPECT_TRUE(told().contains(QStringLiteral("Cannot connect"))) << told().toStdString();
         expectAllSet();
     }
@@ -154,7 +154,7 @@ TEST_F(SendingTest, AFullSpoolIsToldAndLeavesNoJob)
     set();
     const std::size_t before = cupsd->documents().size();
     cupsd->setSpoolFull(true);
-    printInVain();
+    printExpectingError();
     EXPECT_TRUE(told().contains(QStringLiteral("the disk is full"))) << told().toStdString();
     expectAllSet();
     cupsd->setSpoolFull(false);
@@ -257,7 +257,7 @@ TEST_F(SendingTest, ASilentServerWhileSendingCanBeLeft)
     openAndSettle(QStringLiteral("tape"));
     set();
     EXPECT_EQ(told(), QString());
-    printInVain();
+    printExpectingError();
     EXPECT_TRUE(told().contains(QStringLiteral("does not answer"))) << told().toStdString();
     expectAllSet();
 }
@@ -285,7 +285,7 @@ TEST_F(SendingTest, TheJobWindowTellsOfAHeldJobAndTakesItBack)
     EXPECT_TRUE(says(*job, QStringLiteral("Held until it is released.")));
     Hands::click(button(job.get(), QStringLiteral("Cancel the job")));
     EXPECT_TRUE(says(*job, QStringLiteral("Canceled.")));
-    EXPECT_EQ(job->status()->state, host::JobState::Cancelled);
+    EXPECT_EQ(job->status()->state, host::JobState::Canceled);
     EXPECT_TRUE(job->isVisible());
     EXPECT_FALSE(button(job.get(), QStringLiteral("Cancel the job"))->isEnabled());
     EXPECT_EQ(waitingJobs(), QString());

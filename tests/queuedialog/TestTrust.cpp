@@ -21,7 +21,7 @@ public:
         , m_keeper(m_session, host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}}, {})
         , m_sender(m_session.server())
         , m_window(host::LabelDocument::open(QStringList{document}).value(), m_keeper, m_sender,
-                   dialog::DialogWishes())
+                   dialog::RequestedSettings())
     {
         m_window.show();
         m_session.start(host::Discovery::No);

@@ -17,7 +17,7 @@ const QByteArray endOfHeader = "\r\n\r\n";
 /// The end of a document of unknown length (chunked).
 const QByteArray endOfDocument = "0\r\n\r\n";
 /// How often a slow server reads, per second.
-constexpr int takesPerSecond = 50;
+constexpr int readsPerSecond = 50;
 
 /// Returns the IPP operation of a request; absent until its first bytes have arrived. RFC 8010: bytes 2 and 3
 /// of the message, which begins after the HTTP header and, in a document of unknown length, after the first
@@ -119,7 +119,7 @@ void FaultyServer::serve(QTcpSocket *client)
     std::erase_if(m_all, [](const Pair &pair) { return !pair.client || !pair.real; });
     m_all.push_back({client, real});
     if (m_faults.bytesPerSecond > 0)
-        takeSlowly(client, real);
+        readSlowly(client, real);
     else
         QObject::connect(client, &QTcpSocket::readyRead, real,
                          [this, client, real] { takeAll(client, real); });
@@ -139,8 +139,8 @@ void FaultyServer::passAnswer(QTcpSocket *client, QTcpSocket *real)
     if (client->property("holding").toBool())
         return;
     // "100 Continue" is not the answer yet.
-    const bool isEncouragement = real->bytesAvailable() == encouragement.size();
-    const bool isFirst = client->property("asked").toBool() && !isEncouragement;
+    const bool isContinue = real->bytesAvailable() == encouragement.size();
+    const bool isFirst = client->property("asked").toBool() && !isContinue;
     if (!isFirst) {
         client->write(real->readAll());
         return;
@@ -188,9 +188,9 @@ void FaultyServer::passRest(QTcpSocket *client, QTcpSocket *real, const QByteArr
     client->setProperty("holding", false);
 }
 
-void FaultyServer::takeSlowly(QTcpSocket *client, QTcpSocket *real)
+void FaultyServer::readSlowly(QTcpSocket *client, QTcpSocket *real)
 {
-    const int most = m_faults.bytesPerSecond / takesPerSecond;
+    const int most = m_faults.bytesPerSecond / readsPerSecond;
     client->setReadBufferSize(most);
     auto *const pace = new QTimer(client);
     QObject::connect(pace, &QTimer::timeout, real, [this, most, client, real] {
@@ -200,7 +200,7 @@ void FaultyServer::takeSlowly(QTcpSocket *client, QTcpSocket *real)
         else if (client->bytesAvailable() > 0 && !stalls(client))
             take(client->read(most), client, real);
     });
-    pace->start(1000 / takesPerSecond);
+    pace->start(1000 / readsPerSecond);
 }
 
 void FaultyServer::takeAll(QTcpSocket *client, QTcpSocket *real)
@@ -250,11 +250,11 @@ bool FaultyServer::isRefused(const QByteArray &bytes, QTcpSocket *client)
     const bool isRequest = bytes.startsWith("POST ") || bytes.startsWith("GET ");
     if (!isRequest || m_faults.credentials.isEmpty() || hasCredentials(bytes))
         return false;
-    refuse(client);
+    reject(client);
     return true;
 }
 
-bool FaultyServer::isOperationRefused(QByteArray &bytes, QTcpSocket *client)
+bool FaultyServer::isOperationRejected(QByteArray &bytes, QTcpSocket *client)
 {
     if (!client->property("isRefused").toBool()) {
         // Everything is withheld until the operation is known.
@@ -272,23 +272,23 @@ bool FaultyServer::isOperationRefused(QByteArray &bytes, QTcpSocket *client)
     }
     const QByteArray end = client->property("end").toByteArray() + bytes;
     client->setProperty("end", end.right(endOfDocument.size()));
-    if (!m_faults.refusesLate || end.endsWith(endOfDocument))
-        refuse(client);
+    if (!m_faults.rejectsLate || end.endsWith(endOfDocument))
+        reject(client);
     return true;
 }
 
-void FaultyServer::refuse(QTcpSocket *client)
+void FaultyServer::reject(QTcpSocket *client)
 {
     ++m_requestCount;
-    ++m_refusedCount;
+    ++m_rejectedCount;
     client->write("HTTP/1.1 401 Unauthorized\r\nConnection: close\r\nContent-Length: 0\r\n"
                   "WWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n");
     client->disconnectFromHost();
 }
 
-bool FaultyServer::refusesEncryption(const QByteArray &bytes, QTcpSocket *client)
+bool FaultyServer::rejectsEncryption(const QByteArray &bytes, QTcpSocket *client)
 {
-    if (!m_faults.refusesEncryption || !bytes.startsWith("OPTIONS "))
+    if (!m_faults.rejectsEncryption || !bytes.startsWith("OPTIONS "))
         return false;
     client->write("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n");
     return true;
@@ -296,14 +296,14 @@ bool FaultyServer::refusesEncryption(const QByteArray &bytes, QTcpSocket *client
 
 void FaultyServer::take(QByteArray bytes, QTcpSocket *client, QTcpSocket *real)
 {
-    const bool lacksPassword =
-        m_faults.lockedOperation != 0 ? isOperationRefused(bytes, client) : isRefused(bytes, client);
-    if (lacksPassword || refusesEncryption(bytes, client))
+    const bool isPasswordMissing =
+        m_faults.lockedOperation != 0 ? isOperationRejected(bytes, client) : isRefused(bytes, client);
+    if (isPasswordMissing || rejectsEncryption(bytes, client))
         return;
     countRequest(bytes, client);
     const qint64 taken = client->property("taken").toLongLong() + bytes.size();
     client->setProperty("taken", taken);
-    m_takenBytes += bytes.size();
+    m_readBytes += bytes.size();
     if (m_faults.answersAfter > 0 && taken > m_faults.answersAfter) {
         if (!client->property("hasAnswered").toBool())
             client->write(m_faults.earlyAnswer);

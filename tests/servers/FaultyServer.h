@@ -42,9 +42,9 @@ struct Faults {
     /// The IPP operation whose requests require the credentials; 0 for all requests.
     int lockedOperation = 0;
     /// Rejects such a request only after all of it has arrived, including its document.
-    bool refusesLate = false;
+    bool rejectsLate = false;
     /// Answers every request to encrypt the connection like a server without encryption.
-    bool refusesEncryption = false;
+    bool rejectsEncryption = false;
     /// The address that it and the real server listen on.
     QString host = QStringLiteral("127.0.0.1");
 };
@@ -69,13 +69,13 @@ public:
     /// missing.
     int requestCount(int operation) const;
     /// The number of requests that were received without the password.
-    int refusedCount() const { return m_refusedCount; }
+    int rejectedCount() const { return m_rejectedCount; }
     /// The number of requests that were received with a password, right or wrong.
     int passwordCount() const { return m_passwordCount; }
     /// The number of connections that were accepted.
     int connectionCount() const { return m_connectionCount; }
     /// The number of bytes that were read from all connections.
-    qint64 takenBytes() const { return m_takenBytes; }
+    qint64 readBytes() const { return m_readBytes; }
     /// The number of answers that were withheld, including those released since.
     int heldCount() const { return m_heldCount; }
     /// The number of connections that have stalled.
@@ -96,16 +96,16 @@ private:
     void serve(QTcpSocket *client);
     void countRequest(const QByteArray &bytes, QTcpSocket *client);
     bool isRefused(const QByteArray &bytes, QTcpSocket *client);
-    bool isOperationRefused(QByteArray &bytes, QTcpSocket *client);
+    bool isOperationRejected(QByteArray &bytes, QTcpSocket *client);
     bool hasCredentials(const QByteArray &request);
-    void refuse(QTcpSocket *client);
-    bool refusesEncryption(const QByteArray &bytes, QTcpSocket *client);
+    void reject(QTcpSocket *client);
+    bool rejectsEncryption(const QByteArray &bytes, QTcpSocket *client);
     bool stalls(QTcpSocket *client);
     void passAnswer(QTcpSocket *client, QTcpSocket *real);
     void beginAnswer(QTcpSocket *client, QTcpSocket *real);
     void passInPieces(QTcpSocket *client, QTcpSocket *real);
     static void passRest(QTcpSocket *client, QTcpSocket *real, const QByteArray &rest);
-    void takeSlowly(QTcpSocket *client, QTcpSocket *real);
+    void readSlowly(QTcpSocket *client, QTcpSocket *real);
     void takeAll(QTcpSocket *client, QTcpSocket *real);
     void take(QByteArray bytes, QTcpSocket *client, QTcpSocket *real);
 
@@ -115,10 +115,10 @@ private:
     Faults m_faults;
     quint16 m_port = 0;
     std::atomic<int> m_requestCount = 0;
-    std::atomic<int> m_refusedCount = 0;
+    std::atomic<int> m_rejectedCount = 0;
     std::atomic<int> m_passwordCount = 0;
     std::atomic<int> m_connectionCount = 0;
-    std::atomic<qint64> m_takenBytes = 0;
+    std::atomic<qint64> m_readBytes = 0;
     std::atomic<int> m_heldCount = 0;
     std::atomic<int> m_stalledCount = 0;
     mutable std::mutex m_operationsMutex;

@@ -335,7 +335,7 @@ std::vector<RecordedDocument> PrivateCupsd::documents() const
     return documents;
 }
 
-void PrivateCupsd::forgetDocuments()
+void PrivateCupsd::clearDocuments()
 {
     const QDir records(path(QStringLiteral("records")));
     for (const QString &name : records.entryList(QDir::Dirs | QDir::NoDotAndDotDot))

@@ -75,7 +75,7 @@ public:
     /// Returns what the filters have received so far, in the order in which they finished.
     std::vector<RecordedDocument> documents() const;
     /// Removes the records of the filters. Must not be called while a job prints.
-    void forgetDocuments();
+    void clearDocuments();
     /// Waits until count documents have passed the filters. Fails the test on timeout.
     std::vector<RecordedDocument> waitForDocuments(std::size_t count);
 

@@ -52,7 +52,7 @@ private:
 
 /// The papers that rules distinguish, and some that they must not distinguish: names listed by the printer,
 /// and none.
-inline const std::array<std::optional<QString>, 6> telltalePapers = {"FL01", "24mm", "DC01",
+inline const std::array<std::optional<QString>, 6> distinctPapers = {"FL01", "24mm", "DC01",
                                                                      "AV01", "HS24", std::nullopt};
 
 } // namespace walk

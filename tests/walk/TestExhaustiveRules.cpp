@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Families, Family, testing::Values(false, true), [](cons
 TEST_P(Family, PresetTagOfEveryCombinationOnEveryPaper)
 {
     PanelPair pair(GetParam());
-    for (const auto &paper : telltalePapers) {
+    for (const auto &paper : distinctPapers) {
         pair.setPaper(paper);
         int wrong = 0;
         forEachHiddenSetAndState(pair, [&](std::uint32_t, std::uint32_t) {
@@ -98,7 +98,7 @@ TEST_P(Family, EnablingRulesFromEveryStateOfTheControls)
     constexpr Row ruled[] = {Row::RemoveBlkSpace, Row::HalfCut, Row::SpecialTape,
                              Row::ChainPrint,     Row::AutoCut, Row::CutEvery};
     int wrong = 0;
-    for (const auto &paper : telltalePapers) {
+    for (const auto &paper : distinctPapers) {
         pair.setPaper(paper);
         for (std::uint32_t input = 0; input < 16; ++input) {
             for (const Row row : model::rows) {
@@ -128,7 +128,7 @@ TEST_P(Family, EnablingRulesInEveryCombination)
 {
     PanelPair pair(GetParam());
     int wrong = 0;
-    for (const auto &paper : telltalePapers) {
+    for (const auto &paper : distinctPapers) {
         pair.setPaper(paper);
         forEachHiddenSetAndState(pair, [&](std::uint32_t, std::uint32_t) {
             pair.real().enabledCheck_OP();
@@ -187,7 +187,7 @@ TEST_P(Family, EveryPresetOnEveryCombinationOfStates)
 TEST_P(Family, EveryPresetsItemOnEveryPaper)
 {
     PanelPair pair(GetParam());
-    for (const auto &paper : telltalePapers) {
+    for (const auto &paper : distinctPapers) {
         pair.setPaper(paper);
         for (int tag = -1; tag <= 18; ++tag)
             EXPECT_EQ(pair.real().validateMenuItem(tag), pair.expected().isPresetAllowed(tag))

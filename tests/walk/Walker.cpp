@@ -29,7 +29,7 @@ void Walker::begin(const model::PrinterDescription &printer)
     if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         file.write(ppdOf(printer));
     m_model = std::make_unique<model::DriverModel>([this](const QString &key) { return localized(key); });
-    m_model->knowPrinter(path, m_tell ? m_tell(printer) : printer);
+    m_model->addPrinter(path, m_tell ? m_tell(printer) : printer);
 }
 
 std::optional<Divergence> Walker::step(int number, QJsonObject request)

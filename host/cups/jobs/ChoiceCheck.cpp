@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ChoiceCheck.h"
 
-#include "FreeChoiceCheck.h"
+#include "CustomChoiceCheck.h"
 
 #include <host/printer/PpdOptions.h>
 
@@ -94,14 +94,14 @@ bool isServerOption(const QByteArray &name)
 QString choiceList(const PpdOption &option)
 {
     // A longer list would not be readable.
-    constexpr qsizetype mostChoices = 12;
+    constexpr qsizetype maxChoices = 12;
     QStringList names;
     for (const PpdChoice &choice : option.choices)
         names.append(QString::fromUtf8(choice.name));
-    if (option.freeText)
-        names.append(QLatin1String(freeChoiceName) + QStringLiteral(".…"));
-    if (names.size() > mostChoices)
-        names = names.first(mostChoices) << QStringLiteral("…");
+    if (option.customText)
+        names.append(QLatin1String(customChoiceName) + QStringLiteral(".…"));
+    if (names.size() > maxChoices)
+        names = names.first(maxChoices) << QStringLiteral("…");
     return names.join(QStringLiteral(", "));
 }
 
@@ -110,7 +110,7 @@ ChoiceError unusablePaper(const PpdFile &ppd, const QString &paper, const QSizeF
     const QString text = ChoiceCheckText::tr(
         "The printer \"%1\" cannot print on the paper \"%2\": its size is %3 × %4 points; width and "
         "length must be above 0, one of them at most %5 m, the other at most %6 m.");
-    return {ChoiceFailure::UnusablePaper,
+    return {ChoiceErrorKind::UnusablePaper,
             text.arg(ppd.printerName(), paper, QString::number(size.width()), QString::number(size.height()),
                      QString::number(PpdPaperSizes::maxShortSide),
                      QString::number(PpdPaperSizes::maxLongSide))};
@@ -128,7 +128,7 @@ Result<void, ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choic
         if (isServerOption(choice.name))
             return {};
         return ChoiceError{
-            ChoiceFailure::UnknownOption,
+            ChoiceErrorKind::UnknownOption,
             ChoiceCheckText::tr("The printer \"%1\" has no option \"%2\".").arg(ppd.printerName(), name)};
     }
     if (choice.name == "PageSize") {
@@ -137,21 +137,21 @@ Result<void, ChoiceError> checkChoice(const PpdFile &ppd, const JobChoice &choic
         if (const std::optional<QSizeF> size = ppd.unusableSize(choice.value))
             return unusablePaper(ppd, value, *size);
         return ChoiceError{
-            ChoiceFailure::UnknownPaper,
+            ChoiceErrorKind::UnknownPaper,
             ChoiceCheckText::tr("The printer \"%1\" has no paper \"%2\".").arg(ppd.printerName(), value)};
     }
-    const bool takesSeveral = option->kind == PpdOptionKind::PickMany;
+    const bool acceptsSeveral = option->kind == PpdOptionKind::PickMany;
     // An option with several choices may have none.
-    if (takesSeveral && choice.value.isEmpty())
+    if (acceptsSeveral && choice.value.isEmpty())
         return {};
-    const QByteArrayList values = takesSeveral ? choice.value.split(',') : QByteArrayList{choice.value};
+    const QByteArrayList values = acceptsSeveral ? choice.value.split(',') : QByteArrayList{choice.value};
     const bool isKnown = std::ranges::all_of(values, [&](const QByteArray &each) {
         return std::ranges::find(option->choices, each, &PpdChoice::name) != option->choices.end();
     });
-    if (isKnown || isFreeChoice(ppd, {choice.name, choice.value}))
+    if (isKnown || isCustomChoice(ppd, {choice.name, choice.value}))
         return {};
     return ChoiceError{
-        ChoiceFailure::UnknownChoice,
+        ChoiceErrorKind::UnknownChoice,
         ChoiceCheckText::tr("The option \"%1\" of the printer \"%2\" has no choice \"%3\"; it has: %4")
             .arg(name, ppd.printerName(), value, choiceList(*option))};
 }

@@ -10,14 +10,14 @@ inline namespace cups {
 inline namespace jobs {
 
 /// Why a choice cannot be set.
-enum class ChoiceFailure {
+enum class ChoiceErrorKind {
     UnknownOption, ///< neither the printer nor the print server has the option
     UnknownChoice, ///< the option does not have the choice
     UnknownPaper,  ///< the printer does not have the paper, or not in that size
     UnusablePaper, ///< no printer can print on the size that the PPD defines
 };
 /// An error with its message for the user.
-using ChoiceError = Failure<ChoiceFailure>;
+using ChoiceError = Failure<ChoiceErrorKind>;
 
 /// Checks whether the printer has the choice. The error names the option and its available choices. Servers
 /// accept any choice and ignore unknown ones, so that labels would be printed otherwise than requested. Does

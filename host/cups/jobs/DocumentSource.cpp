@@ -25,7 +25,7 @@ constexpr qint64 pieceSize = 65536;
 
 CupsError failureFor(const QString &path, const QString &reason)
 {
-    return {CupsFailure::BadDocument,
+    return {CupsErrorKind::BadDocument,
             DocumentSourceText::tr("Cannot read the document \"%1\": %2").arg(path, reason)};
 }
 
@@ -94,7 +94,7 @@ Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
         return QByteArray();
     pollfd input = {m_descriptor, POLLIN, 0};
     while (isInput && ::poll(&input, 1, 100) == 0) {
-        if (task.isCancelled())
+        if (task.isCanceled())
             return QByteArray();
     }
     QByteArray piece(wanted, Qt::Uninitialized);

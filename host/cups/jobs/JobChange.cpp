@@ -144,7 +144,7 @@ Result<void, CupsError> changeJob(const CupsServer &server, const JobChange &cha
     const auto told = [&](const CupsError &error) { return notChanged(change.jobId, error); };
     const std::vector<JobOption> options = changedOptions(change);
     if (const JobOption *const option = findUnsendable(options))
-        return told({CupsFailure::Refused,
+        return told({CupsErrorKind::Rejected,
                      JobChangeText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
                          .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))});
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);

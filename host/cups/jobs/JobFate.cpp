@@ -61,7 +61,7 @@ CupsError JobFate::ofUnansweredCreation(const QByteArray &uuid, const CupsError 
     const Result<std::optional<int>, CupsError> job = findLate(uuid);
     if (job)
         return job.value() ? cancel(*job.value(), reason) : reason;
-    return {CupsFailure::OutcomeUnknown,
+    return {CupsErrorKind::OutcomeUnknown,
             JobFateText::tr("%1 A job \"%2\" without documents may be left in the queue \"%3\" of the print "
                             "server \"%4\"; nothing of it is printed.")
                 .arg(reason.message, sendableTitle(m_ticket.title), m_ticket.destination.queue,
@@ -93,7 +93,7 @@ Result<void, CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError
     const Result<JobStatus, CupsError> job = ask(connection.value(), jobId);
     if (!job)
         return mayBePrinted(jobId, reason);
-    if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
+    if (job.value().state == JobState::Canceled || job.value().state == JobState::Aborted)
         return isOver(job.value(), reason);
     if (!hasAllDocuments(job.value()))
         return cancel(jobId, reason);
@@ -103,7 +103,7 @@ Result<void, CupsError> JobFate::ofUnansweredDocument(int jobId, const CupsError
 Result<void, CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &reason) const
 {
     const auto notKnown = [&]() -> CupsError {
-        return {CupsFailure::OutcomeUnknown,
+        return {CupsErrorKind::OutcomeUnknown,
                 JobFateText::tr("%1 The print server \"%2\" has all documents of job %3-%4 and did not say "
                                 "whether it releases them: the job is printed, or it is held and not "
                                 "printed. Check the queue before you print again.")
@@ -112,11 +112,11 @@ Result<void, CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &rea
     };
     // Does not cancel the job immediately: the server may have released the job or may read the request only
     // now, and would print a part of it. The second request is rejected if the first one has arrived.
-    if (reason.kind != CupsFailure::Cancelled) {
+    if (reason.kind != CupsErrorKind::Canceled) {
         const Result<void, CupsError> released = release(jobId);
         if (released)
             return {};
-        if (released.error().kind == CupsFailure::Silent)
+        if (released.error().kind == CupsErrorKind::Silent)
             return notKnown();
     }
     BackgroundTask task;
@@ -124,7 +124,7 @@ Result<void, CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &rea
     const Result<JobStatus, CupsError> job = connection ? ask(connection.value(), jobId) : connection.error();
     if (!job)
         return notKnown();
-    if (job.value().state == JobState::Cancelled || job.value().state == JobState::Aborted)
+    if (job.value().state == JobState::Canceled || job.value().state == JobState::Aborted)
         return isOver(job.value(), reason);
     if (job.value().state == JobState::Held && m_hold.isStillOn(job.value().heldUntil))
         return cancel(jobId, reason);
@@ -150,7 +150,7 @@ CupsError JobFate::cancel(int jobId, const CupsError &reason) const
 CupsError JobFate::mayBePrinted(int jobId, const CupsError &reason) const
 {
     return {
-        CupsFailure::OutcomeUnknown,
+        CupsErrorKind::OutcomeUnknown,
         JobFateText::tr("%1 Job %2-%3 on the print server \"%4\" may have been printed; check the queue "
                         "before you print again.")
             .arg(reason.message, m_ticket.destination.queue, QString::number(jobId), m_server.displayName())};
@@ -168,12 +168,12 @@ CupsError JobFate::isLeft(int jobId, const CupsError &reason, const CupsError &o
                   .arg(reason.message, m_ticket.destination.queue, QString::number(jobId));
     // The kind is not that of the reason, even for a canceled upload.
     const bool isSameObstacle = obstacle.message == reason.message;
-    return {CupsFailure::OutcomeUnknown, isSameObstacle ? state : state + u' ' + obstacle.message};
+    return {CupsErrorKind::OutcomeUnknown, isSameObstacle ? state : state + u' ' + obstacle.message};
 }
 
 CupsError JobFate::isOver(const JobStatus &job, const CupsError &reason) const
 {
-    return {CupsFailure::Refused,
+    return {CupsErrorKind::Rejected,
             JobFateText::tr("%1 Job %2-%3: %4")
                 .arg(reason.message, job.queue, QString::number(job.jobId), job.sentences().join(u' '))};
 }

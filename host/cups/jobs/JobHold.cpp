@@ -52,9 +52,9 @@ Result<JobHold, CupsError> JobHold::forTicket(CupsConnection &connection, const 
     const char *const usual = ippGetString(
         ippFindAttribute(queue.value().get(), "job-hold-until-default", IPP_TAG_ZERO), 0, nullptr);
     if (chosen != ticket.options.end())
-        hold.m_wanted = chosen->value;
+        hold.m_requestedHold = chosen->value;
     else if (usual)
-        hold.m_wanted = usual;
+        hold.m_requestedHold = usual;
     return hold;
 }
 
@@ -70,21 +70,21 @@ std::vector<JobOption> JobHold::optionsForCreation(const JobTicket &ticket) cons
 
 Result<void, CupsError> JobHold::end(CupsConnection &connection, const QString &queue, int jobId) const
 {
-    if (!m_isNeeded || m_wanted == endlessHold)
+    if (!m_isNeeded || m_requestedHold == endlessHold)
         return {};
     IppPointer request =
-        connection.newRequest(m_wanted == noHold ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, queue, jobId);
+        connection.newRequest(m_requestedHold == noHold ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, queue, jobId);
     // RFC 8011: a time of day is of type name, not keyword.
-    if (m_wanted != noHold)
+    if (m_requestedHold != noHold)
         ippAddString(request.get(), IPP_TAG_OPERATION,
-                     m_wanted.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD, holdName, nullptr,
-                     m_wanted.constData());
-    return connection.exchangeToTheEnd(std::move(request), "/jobs").withoutValue();
+                     m_requestedHold.contains(':') ? IPP_TAG_NAME : IPP_TAG_KEYWORD, holdName, nullptr,
+                     m_requestedHold.constData());
+    return connection.exchangeUncancelable(std::move(request), "/jobs").withoutValue();
 }
 
 bool JobHold::isStillOn(const QString &heldUntil) const
 {
-    return m_isNeeded && m_wanted != endlessHold && heldUntil.toUtf8() == endlessHold;
+    return m_isNeeded && m_requestedHold != endlessHold && heldUntil.toUtf8() == endlessHold;
 }
 
 } // namespace jobs

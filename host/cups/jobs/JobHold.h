@@ -36,7 +36,7 @@ public:
 private:
     bool m_isNeeded = false;
     /// The value of "job-hold-until" of the complete job.
-    QByteArray m_wanted = "no-hold";
+    QByteArray m_requestedHold = "no-hold";
 };
 
 } // namespace jobs

@@ -30,9 +30,9 @@ const QString recordEnding = QStringLiteral(".json");
 
 QByteArray contentOf(const QString &path)
 {
-    constexpr qint64 mostBytes = 65536;
+    constexpr qint64 maxBytes = 65536;
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(mostBytes) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(maxBytes) : QByteArray();
 }
 
 QString bootIdentifier()
@@ -143,7 +143,7 @@ QString JobJournal::path(const JobRecord &record) const
 JobJournal::Left JobJournal::left() const
 {
     Left left;
-    platform::TemporaryFile::removeLeftOvers(m_folder);
+    platform::TemporaryFile::removeLeftovers(m_folder);
     const QDir folder(m_folder);
     for (const QString &name :
          folder.entryList({u'*' + recordEnding}, QDir::Files | QDir::NoSymLinks, QDir::Name)) {
@@ -193,10 +193,10 @@ void JobJournalEntry::remove()
 
 void JobJournalEntry::write()
 {
-    if (platform::makePrivateFolders(m_journal.folder()))
+    if (platform::createPrivateFolders(m_journal.folder()))
         return;
-    platform::closeToOthers(m_journal.folder());
-    platform::closeToOthers(QFileInfo(m_journal.folder()).path());
+    platform::restrictToUser(m_journal.folder());
+    platform::restrictToUser(QFileInfo(m_journal.folder()).path());
     const QByteArray content = QJsonDocument(toJson(m_record)).toJson();
     auto file = std::make_unique<platform::TemporaryFile>(m_journal.folder());
     // Replaces the earlier file as a whole, so that one of the two remains if the program is killed now.

@@ -16,17 +16,17 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
 {
     m_background.start([this, server, queue, jobId, pause](BackgroundTask &task) {
         std::optional<JobStatus> last;
-        std::optional<CupsFailure> lastFailure;
-        const auto isDone = [&] { return task.isCancelled() || (last && last->isOver()); };
+        std::optional<CupsErrorKind> lastFailure;
+        const auto isDone = [&] { return task.isCanceled() || (last && last->isOver()); };
         for (; !isDone(); task.pause(isDone() ? std::chrono::milliseconds(0) : pause)) {
             Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
             const Result<JobStatus, CupsError> now =
                 connection ? queryJob(connection.value(), queue, jobId) : connection.error();
-            if (!now && now.error().kind == CupsFailure::NotFound) {
+            if (!now && now.error().kind == CupsErrorKind::NotFound) {
                 // The job existed, since the server assigned its number.
-                last = JobStatus{
-                    .jobId = jobId, .queue = queue, .state = JobState::Completed, .isForgotten = true};
-                task.deliver([this, status = *last] { tellForgotten(status); });
+                last =
+                    JobStatus{.jobId = jobId, .queue = queue, .state = JobState::Completed, .isPurged = true};
+                task.deliver([this, status = *last] { reportPurged(status); });
             } else if (now && (last != now.value() || lastFailure)) {
                 last = now.value();
                 lastFailure.reset();
@@ -39,34 +39,34 @@ JobMonitor::JobMonitor(const CupsServer &server, const QString &queue, int jobId
     });
 }
 
-void JobMonitor::tellForgotten(JobStatus status)
+void JobMonitor::reportPurged(JobStatus status)
 {
     // The response to the cancellation shows whether the job was printed or canceled.
-    if (m_takingBack == TakingBack::Asked) {
-        m_forgotten = status;
+    if (m_cancellation == Cancellation::Asked) {
+        m_purged = status;
         return;
     }
-    if (m_takingBack == TakingBack::Done)
-        status.state = JobState::Cancelled;
+    if (m_cancellation == Cancellation::Done)
+        status.state = JobState::Canceled;
     Q_EMIT changed(status);
 }
 
-void JobMonitor::takeCancelled(const Result<void, CupsError> &canceled)
+void JobMonitor::cancellationFinished(const Result<void, CupsError> &canceled)
 {
-    m_takingBack = canceled ? TakingBack::Done : TakingBack::No;
-    if (m_forgotten)
-        tellForgotten(*m_forgotten);
+    m_cancellation = canceled ? Cancellation::Done : Cancellation::No;
+    if (m_purged)
+        reportPurged(*m_purged);
     else if (!canceled)
         Q_EMIT failed(canceled.error());
 }
 
 void JobMonitor::cancelJob()
 {
-    m_takingBack = TakingBack::Asked;
-    m_server.forgetRefusals();
+    m_cancellation = Cancellation::Asked;
+    m_server.resetRefusals();
     m_background.start([this, server = m_server, queue = m_queue, jobId = m_jobId](BackgroundTask &task) {
         const Result<void, CupsError> canceled = host::cancelJob(server, queue, jobId, task);
-        task.deliver([this, canceled] { takeCancelled(canceled); });
+        task.deliver([this, canceled] { cancellationFinished(canceled); });
     });
 }
 

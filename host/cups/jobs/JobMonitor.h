@@ -31,17 +31,17 @@ Q_SIGNALS:
     void failed(const host::CupsError &error);
 
 private:
-    enum class TakingBack { No, Asked, Done };
+    enum class Cancellation { No, Asked, Done };
 
-    void tellForgotten(JobStatus status);
-    void takeCancelled(const Result<void, CupsError> &canceled);
+    void reportPurged(JobStatus status);
+    void cancellationFinished(const Result<void, CupsError> &canceled);
 
     CupsServer m_server;
     QString m_queue;
     int m_jobId;
-    TakingBack m_takingBack = TakingBack::No;
+    Cancellation m_cancellation = Cancellation::No;
     /// A purged job, which is reported when the server has responded to the cancellation.
-    std::optional<JobStatus> m_forgotten;
+    std::optional<JobStatus> m_purged;
     Background m_background;
 };
 

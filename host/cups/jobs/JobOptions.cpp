@@ -19,13 +19,13 @@ struct JobOptionsText {
 };
 
 /// Returns whether the option is another name for the paper, which could only contradict the exact one.
-bool namesPaperLoosely(const QByteArray &name)
+bool isOtherPaperOption(const QByteArray &name)
 {
     return name == "media" || name == "PageRegion";
 }
 
 /// Returns whether the option is about the format, which is sent with each document.
-bool namesFormat(const QByteArray &name)
+bool isFormatOption(const QByteArray &name)
 {
     return name == "raw" || name == "document-format";
 }
@@ -47,9 +47,9 @@ public:
     {
         const bool isNew = !has(name);
         JobOption &option = at(name);
-        const bool isRemembered = origin == Origin::UserDefault || origin == Origin::Panel;
+        const bool isAlwaysSent = origin == Origin::UserDefault || origin == Origin::Panel;
         option.isSent =
-            option.isSent || isNew || isRemembered || option.value != value || name == paperKeyword;
+            option.isSent || isNew || isAlwaysSent || option.value != value || name == paperKeyword;
         option.value = value;
         option.origin = origin;
     }
@@ -77,7 +77,7 @@ void addPpdDefaults(Layers &layers, const PpdFile &ppd)
     const PpdOptions options(ppd);
     for (const PpdGroup &group : options.groups()) {
         for (const QByteArray &keyword : group.keywords) {
-            if (!namesPaperLoosely(keyword))
+            if (!isOtherPaperOption(keyword))
                 layers.setByServer(keyword, options.defaultChoice(keyword), Origin::Ppd);
         }
     }
@@ -126,15 +126,15 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
     if (ppd)
         addPpdDefaults(layers, *ppd);
     for (const NamedValue &option : destination.queueOptions) {
-        if (!namesPaperLoosely(option.name))
+        if (!isOtherPaperOption(option.name))
             layers.setByServer(option.name, option.value, Origin::Queue);
     }
     const bool hasPaper = layers.has(paperKeyword);
-    const auto ownPaper = hasPaper && ppd ? queuePaper(destination, *ppd) : std::nullopt;
-    if (ownPaper)
-        layers.setByServer(paperKeyword, *ownPaper, Origin::Queue);
+    const auto paperOfQueue = hasPaper && ppd ? queuePaper(destination, *ppd) : std::nullopt;
+    if (paperOfQueue)
+        layers.setByServer(paperKeyword, *paperOfQueue, Origin::Queue);
     for (const NamedValue &option : destination.userOptions) {
-        if (!namesFormat(option.name) && (!hasPaper || !namesPaperLoosely(option.name)))
+        if (!isFormatOption(option.name) && (!hasPaper || !isOtherPaperOption(option.name)))
             layers.set(option.name, option.value, Origin::UserDefault);
     }
     for (const JobChoice &choice : choices) {
@@ -144,8 +144,8 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
     }
     for (const NamedValue &setting : settingValues(settings)) {
         // All pages are the default.
-        const bool saysNothing = setting.value == "1-" && !layers.has(setting.name);
-        if (!saysNothing)
+        const bool isDefaultRange = setting.value == "1-" && !layers.has(setting.name);
+        if (!isDefaultRange)
             layers.set(setting.name, setting.value, Origin::You);
     }
     if (hasPaper)

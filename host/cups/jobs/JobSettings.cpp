@@ -15,7 +15,7 @@ struct JobSettingsText {
     Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobSettings)
 };
 
-constexpr int highestPriority = 100;
+constexpr int maxPriority = 100;
 
 /// Parses the value of a switch as lp(1) and the server's filters do.
 std::optional<Collate> collateFrom(const QByteArray &value)
@@ -27,7 +27,7 @@ std::optional<Collate> collateFrom(const QByteArray &value)
     return Collate::No;
 }
 
-void takeDefault(JobSettings &settings, const NamedValue &option)
+void readDefault(JobSettings &settings, const NamedValue &option)
 {
     if (option.name == "copies") {
         bool isNumber = false;
@@ -42,7 +42,7 @@ void takeDefault(JobSettings &settings, const NamedValue &option)
                            : option.value == "even" ? PageSet::Even
                                                     : PageSet::All;
     } else if (option.name == "outputorder") {
-        settings.order = option.value == "reverse" ? PageOrder::LastFirst : PageOrder::FirstFirst;
+        settings.order = option.value == "reverse" ? PageOrder::Reverse : PageOrder::Normal;
     }
 }
 
@@ -65,10 +65,10 @@ QByteArray holdValue(const QString &hold)
 }
 
 template<typename Value>
-void fill(std::optional<Value> &wish, const std::optional<Value> &byDefault)
+void fill(std::optional<Value> &requestedChoice, const std::optional<Value> &defaultValue)
 {
-    if (!wish)
-        wish = byDefault;
+    if (!requestedChoice)
+        requestedChoice = defaultValue;
 }
 
 } // namespace
@@ -88,13 +88,13 @@ std::vector<NamedValue> settingValues(const JobSettings &settings)
                         : *settings.pageSet == PageSet::Even ? "even"
                                                              : "all");
     if (settings.order)
-        add("outputorder", *settings.order == PageOrder::LastFirst ? "reverse" : "normal");
+        add("outputorder", *settings.order == PageOrder::Reverse ? "reverse" : "normal");
     if (settings.orientation)
         add("orientation-requested", QByteArray::number(static_cast<int>(*settings.orientation)));
     if (settings.hold)
         add("job-hold-until", holdValue(*settings.hold));
     if (settings.priority || settings.hold == QStringLiteral("immediate"))
-        add("job-priority", QByteArray::number(settings.priority.value_or(highestPriority)));
+        add("job-priority", QByteArray::number(settings.priority.value_or(maxPriority)));
     return values;
 }
 
@@ -103,37 +103,37 @@ JobSettings defaultPageSettings(const Destination &destination)
     JobSettings settings;
     for (const std::vector<NamedValue> *layer : {&destination.queueOptions, &destination.userOptions}) {
         for (const NamedValue &option : *layer)
-            takeDefault(settings, option);
+            readDefault(settings, option);
     }
     return settings;
 }
 
-JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults)
+JobSettings withDefaults(JobSettings requested, const JobSettings &defaults)
 {
-    fill(wishes.copies, defaults.copies);
-    fill(wishes.collate, defaults.collate);
-    fill(wishes.pageRanges, defaults.pageRanges);
-    fill(wishes.pageSet, defaults.pageSet);
-    fill(wishes.order, defaults.order);
-    return wishes;
+    fill(requested.copies, defaults.copies);
+    fill(requested.collate, defaults.collate);
+    fill(requested.pageRanges, defaults.pageRanges);
+    fill(requested.pageSet, defaults.pageSet);
+    fill(requested.order, defaults.order);
+    return requested;
 }
 
-Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const JobSettings &defaults,
+Result<PageChoices, PageRangeError> choosePages(const JobSettings &requested, const JobSettings &defaults,
                                                 const std::vector<int> &pageCounts)
 {
-    const JobSettings settings = withDefaults(wishes, defaults);
+    const JobSettings settings = withDefaults(requested, defaults);
     auto pages = parsePageRanges(settings.pageRanges.value_or(QString()), pageCounts,
                                  settings.pageSet.value_or(PageSet::All),
-                                 wishes.pageRanges ? PagesBeyond::AreErrors : PagesBeyond::AreLeftOut);
+                                 requested.pageRanges ? PagesBeyond::Reject : PagesBeyond::Skip);
     if (!pages)
         return pages.error();
-    const int copies = std::clamp(settings.copies.value_or(1), 1, mostCopies);
-    if (pages.value().size() * static_cast<std::size_t>(copies) > mostLabels)
+    const int copies = std::clamp(settings.copies.value_or(1), 1, maxCopies);
+    if (pages.value().size() * static_cast<std::size_t>(copies) > maxLabels)
         return PageRangeError{
-            PageRangeFailure::TooMany,
-            JobSettingsText::tr("Cannot print so many labels at once: a job has at most %1").arg(mostLabels)};
+            PageRangeErrorKind::TooMany,
+            JobSettingsText::tr("Cannot print so many labels at once: a job has at most %1").arg(maxLabels)};
     return PageChoices{std::move(pages).value(), copies, settings.collate.value_or(Collate::No),
-                       settings.order.value_or(PageOrder::FirstFirst)};
+                       settings.order.value_or(PageOrder::Normal)};
 }
 
 } // namespace jobs

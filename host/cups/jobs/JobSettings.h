@@ -37,14 +37,14 @@ std::vector<NamedValue> settingValues(const JobSettings &settings);
 JobSettings defaultPageSettings(const Destination &destination);
 
 /// Returns the requested settings, with the defaults for absent pages, copies and order.
-JobSettings withDefaults(JobSettings wishes, const JobSettings &defaults);
+JobSettings withDefaults(JobSettings requested, const JobSettings &defaults);
 
 /// Returns the pages that are printed of documents with the given numbers of pages, with the requested
 /// settings and, where they are absent, the defaults. A value absent from both stands for the behavior of
 /// print servers: one copy of all pages, and several copies uncollated. Copies are limited to 1 to
-/// mostCopies. Returns an error if a requested page is in no document, if no page remains, or if the job
-/// would have more than mostLabels.
-Result<PageChoices, PageRangeError> choosePages(const JobSettings &wishes, const JobSettings &defaults,
+/// maxCopies. Returns an error if a requested page is in no document, if no page remains, or if the job
+/// would have more than maxLabels.
+Result<PageChoices, PageRangeError> choosePages(const JobSettings &requested, const JobSettings &defaults,
                                                 const std::vector<int> &pageCounts);
 
 } // namespace jobs

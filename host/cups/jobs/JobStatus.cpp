@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobStatus.h"
 
-#include <host/cups/queues/QueueWords.h>
+#include <host/cups/queues/QueueText.h>
 
 #include <QCoreApplication>
 
@@ -51,12 +51,12 @@ QString stateSentence(const JobStatus &job)
         return JobStatusText::tr("Printing.");
     case JobState::Stopped:
         return JobStatusText::tr("Stopped; it goes on when the printer is ready again.");
-    case JobState::Cancelled:
+    case JobState::Canceled:
         return JobStatusText::tr("Canceled.");
     case JobState::Aborted:
         return JobStatusText::tr("Aborted by the print server.");
     case JobState::Completed:
-        if (job.isForgotten)
+        if (job.isPurged)
             return JobStatusText::tr("The job is over; the print server keeps no record of it.");
         return JobStatusText::tr("Printed.");
     }
@@ -72,9 +72,9 @@ QStringList JobStatus::sentences() const
         for (const QString &reason : printerReasons)
             all.append(stateReasonSentence(reason));
     }
-    const bool tellsMore = !message.trimmed().isEmpty() && state != JobState::Completed &&
-                           state != JobState::Cancelled && state != JobState::Held;
-    if (tellsMore)
+    const bool addsInformation = !message.trimmed().isEmpty() && state != JobState::Completed &&
+                                 state != JobState::Canceled && state != JobState::Held;
+    if (addsInformation)
         all.append(JobStatusText::tr("The server says: %1").arg(message.trimmed()));
     return all;
 }

@@ -15,7 +15,7 @@ enum class JobState {
     Held = 4,
     Printing = 5,
     Stopped = 6,
-    Cancelled = 7,
+    Canceled = 7,
     Aborted = 8,
     Completed = 9,
 };
@@ -39,10 +39,10 @@ struct JobStatus {
     std::optional<int> documents = {};
     /// The job was purged: the server had the job and keeps no record of it, because it keeps no job history.
     /// Whether the job was printed is unknown.
-    bool isForgotten = false;
+    bool isPurged = false;
 
     /// Whether the job is completed, canceled or aborted.
-    bool isOver() const { return state >= JobState::Cancelled; }
+    bool isOver() const { return state >= JobState::Canceled; }
     /// Describes the job in one sentence each, in the user's language: its state, the printer's reasons to
     /// wait, and the server's message if that adds something.
     QStringList sentences() const;

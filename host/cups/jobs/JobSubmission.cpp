@@ -15,7 +15,7 @@ void JobSubmission::submit(const JobTicket &ticket)
 {
     Q_ASSERT(!m_isBusy);
     m_isBusy = true;
-    m_server.forgetRefusals();
+    m_server.resetRefusals();
     m_task = m_background.start([this, server = m_server, ticket](BackgroundTask &task) {
         // "this" is only used in deliveries, on the main thread and while the object exists.
         const Result<int, CupsError> job =

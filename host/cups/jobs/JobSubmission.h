@@ -23,7 +23,7 @@ public:
     void submit(const JobTicket &ticket);
     /// Whether a job is being sent.
     bool isBusy() const { return m_isBusy; }
-    /// Stops sending and cancels the job. Results in failed() with CupsFailure::Cancelled, or in submitted()
+    /// Stops sending and cancels the job. Results in failed() with CupsErrorKind::Canceled, or in submitted()
     /// if everything was already sent.
     void cancel();
 
@@ -33,7 +33,7 @@ Q_SIGNALS:
     /// Emitted when the server has the job and all its documents.
     void submitted(int jobId);
     /// Emitted when the job was not sent. Nothing of it is printed or left on the server, except with
-    /// CupsFailure::OutcomeUnknown: then the message describes what may be left or printed.
+    /// CupsErrorKind::OutcomeUnknown: then the message describes what may be left or printed.
     void failed(const host::CupsError &error);
 
 private:

@@ -11,23 +11,23 @@ inline namespace jobs {
 
 QString sendableTitle(const QString &title)
 {
-    constexpr qsizetype mostBytes = 255;
+    constexpr qsizetype maxBytes = 255;
     const QByteArray all = title.toUtf8();
-    if (all.size() <= mostBytes)
+    if (all.size() <= maxBytes)
         return title;
     QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, title);
     qsizetype end = 0;
     qsizetype bytes = 0;
     for (qsizetype next = characters.toNextBoundary(); next > 0; next = characters.toNextBoundary()) {
         bytes += QStringView(title).sliced(end, next - end).toUtf8().size();
-        if (bytes > mostBytes)
+        if (bytes > maxBytes)
             break;
         end = next;
     }
     if (end > 0)
         return title.first(end);
     // A single letter with too many combining marks: splits between two characters.
-    qsizetype length = mostBytes;
+    qsizetype length = maxBytes;
     while ((all[length] & 0xC0) == 0x80)
         --length;
     return QString::fromUtf8(all.first(length));

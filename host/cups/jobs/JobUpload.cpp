@@ -47,7 +47,7 @@ public:
     }
     /// Whether the last document was sent completely and the response to it is missing.
     bool isDocumentUnanswered() const { return m_isDocumentUnanswered; }
-    bool lacksAnswer() const { return m_connection.lacksAnswer(); }
+    bool isAnswerMissing() const { return m_connection.isAnswerMissing(); }
 
     Result<int, CupsError> createJob()
     {
@@ -58,7 +58,7 @@ public:
         ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, "job-uuid", nullptr, m_uuid.constData());
         encodeJobOptions(request.get(), m_hold.optionsForCreation(m_ticket));
         const Result<IppPointer, CupsError> answer =
-            m_connection.exchangeToTheEnd(std::move(request), queueResource(m_ticket.destination.queue));
+            m_connection.exchangeUncancelable(std::move(request), queueResource(m_ticket.destination.queue));
         if (!answer)
             return answer.error();
         m_jobId = ippGetInteger(ippFindAttribute(answer.value().get(), "job-id", IPP_TAG_INTEGER), 0);
@@ -85,7 +85,7 @@ public:
     /// Releases the job when the server has all documents. Returns the reason if the job is still held.
     Result<void, CupsError> release()
     {
-        if (m_hold.isNeeded() && m_task.isCancelled())
+        if (m_hold.isNeeded() && m_task.isCanceled())
             return m_connection.noAnswer();
         return m_hold.end(m_connection, m_ticket.destination.queue, m_jobId);
     }
@@ -110,17 +110,17 @@ private:
     {
         const UploadProgress before = now;
         // One attempt without a password and three with one.
-        constexpr int mostAttempts = 4;
+        constexpr int maxAttempts = 4;
         for (int attempt = 1;; ++attempt) {
             now = before;
             Result<void, CupsError> sent = sendOnce(source, isLast, now, progress);
-            if (sent || !m_connection.lacksPasswordForDocument() || !source.rewind())
+            if (sent || !m_connection.documentNeedsPassword() || !source.rewind())
                 return sent;
             // The server has checked the document's request only after it received the document.
             Result<void, CupsError> authenticated = m_connection.authenticateDocument();
             if (!authenticated)
                 return authenticated;
-            if (attempt == mostAttempts)
+            if (attempt == maxAttempts)
                 return sent;
         }
     }
@@ -129,14 +129,14 @@ private:
                                      const std::function<void(const UploadProgress &)> &progress)
     {
         const JobDocument &document = m_ticket.documents[static_cast<std::size_t>(now.document)];
-        if (m_task.isCancelled())
+        if (m_task.isCanceled())
             return m_connection.noAnswer();
         Result<void, CupsError> begun = m_connection.beginDocument(documentRequest(document, isLast),
                                                                    queueResource(m_ticket.destination.queue));
         if (!begun)
             return begun;
         bool isWhole = false;
-        while (!m_task.isCancelled()) {
+        while (!m_task.isCanceled()) {
             const Result<QByteArray, CupsError> piece = source.read(m_task);
             if (!piece)
                 return piece.error();
@@ -146,13 +146,13 @@ private:
             now.sent += piece.value().size();
             progress(now);
         }
-        if (m_task.isCancelled())
+        if (m_task.isCanceled())
             return m_connection.noAnswer();
         // A server that has read enough responds before the end, with the reason; some servers then close the
         // connection.
         const Result<IppPointer, CupsError> answer =
             isWhole ? m_connection.finishDocument() : m_connection.earlyAnswer();
-        m_isDocumentUnanswered = isWhole && isLast && m_connection.lacksAnswer() && !m_task.isCancelled();
+        m_isDocumentUnanswered = isWhole && isLast && m_connection.isAnswerMissing() && !m_task.isCanceled();
         if (!answer)
             return answer.error();
         if (!isWhole)
@@ -163,8 +163,9 @@ private:
     /// A server that accepts a part of a document would print that part.
     CupsError cutShort(const JobDocument &document) const
     {
-        return {CupsFailure::Refused, JobUploadText::tr("The print server \"%1\" did not take all of \"%2\".")
-                                          .arg(m_connection.server().displayName(), document.shownName())};
+        return {CupsErrorKind::Rejected,
+                JobUploadText::tr("The print server \"%1\" did not take all of \"%2\".")
+                    .arg(m_connection.server().displayName(), document.shownName())};
     }
 
     CupsConnection &m_connection;
@@ -196,7 +197,7 @@ Result<int, CupsError> send(Upload &upload, const JobFate &fate, JobJournalEntry
 {
     const Result<int, CupsError> job = upload.createJob();
     if (!job)
-        return upload.lacksAnswer() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
+        return upload.isAnswerMissing() ? fate.ofUnansweredCreation(upload.uuid(), job.error()) : job.error();
     entry.setJobId(job.value());
     const Result<void, CupsError> finished = finish(upload, fate, sources, job.value(), progress);
     return finished ? job : finished.error();
@@ -215,11 +216,11 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         sources.push_back(std::move(source).value());
     }
     if (sources.empty())
-        return CupsError{CupsFailure::BadDocument, JobUploadText::tr("There is no document to print.")};
+        return CupsError{CupsErrorKind::BadDocument, JobUploadText::tr("There is no document to print.")};
 
     if (const JobOption *const option = findUnsendable(ticket.options))
         return CupsError{
-            CupsFailure::Refused,
+            CupsErrorKind::Rejected,
             JobUploadText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
                 .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))};
 
@@ -228,12 +229,12 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
         return connection.error();
     if (const Result<void, CupsError> made = ensureQueue(connection.value(), ticket.destination, task); !made)
         return made.error();
-    if (task.isCancelled())
+    if (task.isCanceled())
         return connection.value().noAnswer();
     const Result<JobHold, CupsError> hold = JobHold::forTicket(connection.value(), ticket);
     if (!hold)
         return hold.error();
-    if (task.isCancelled())
+    if (task.isCanceled())
         return connection.value().noAnswer();
     Upload upload(connection.value(), ticket, hold.value(), task);
     JobJournalEntry entry(upload.record());
@@ -241,7 +242,7 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     Result<int, CupsError> job =
         send(upload, JobFate(server, ticket, hold.value()), entry, sources, progress);
     // The next program that starts reports what may be left on the server.
-    if (job || job.error().kind != CupsFailure::OutcomeUnknown) {
+    if (job || job.error().kind != CupsErrorKind::OutcomeUnknown) {
         OutOfMemory::setJobProgress(job ? JobProgress::Printed : JobProgress::Nothing);
         entry.remove();
     }

@@ -24,7 +24,7 @@ struct UploadProgress {
 /// Opens all documents before it creates the job: a missing document leaves nothing on the server. If a later
 /// step fails or the task is canceled, it cancels the job, so that nothing is printed and sending the job
 /// again prints it once. If a response of the server is missing, it queries the server: a job with all its
-/// documents counts as sent. Returns CupsFailure::OutcomeUnknown, with a description, if something may be
+/// documents counts as sent. Returns CupsErrorKind::OutcomeUnknown, with a description, if something may be
 /// left on the server or printed. The server prints nothing of a job before it has all of it: see JobHold.
 /// Calls progress on the task's thread.
 Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &ticket, BackgroundTask &task,

@@ -48,7 +48,7 @@ Result<QString, CupsError> settle(CupsConnection &connection, const JobRecord &r
             .arg(record.queue, number, record.server, job.value().sentences().join(u' '));
     const ipp_op_t operation = action == LeftJobAction::Release ? IPP_OP_RELEASE_JOB : IPP_OP_CANCEL_JOB;
     IppPointer request = connection.newRequest(operation, record.queue, jobId);
-    const Result<IppPointer, CupsError> answer = connection.exchangeToTheEnd(std::move(request), "/jobs");
+    const Result<IppPointer, CupsError> answer = connection.exchangeUncancelable(std::move(request), "/jobs");
     if (!answer)
         return answer.error();
     return (action == LeftJobAction::Release
@@ -78,7 +78,7 @@ Result<QString, CupsError> settleLeftJob(const CupsServer &asking, const JobReco
         return connection.error();
     const Result<std::optional<int>, CupsError> jobId =
         findJob(connection.value(), record.queue, record.uuid);
-    const bool isGone = jobId ? !jobId.value() : jobId.error().kind == CupsFailure::NotFound;
+    const bool isGone = jobId ? !jobId.value() : jobId.error().kind == CupsErrorKind::NotFound;
     if (!isGone && !jobId)
         return jobId.error();
     Result<QString, CupsError> outcome = goneSentence(record);

@@ -35,7 +35,7 @@ QByteArray optionWord(const JobOption &option)
     return word;
 }
 
-QStringList optionWords(const JobOption &option)
+QStringList optionTexts(const JobOption &option)
 {
     for (const auto &[name, letter] : letters) {
         if (option.name == name)
@@ -53,7 +53,7 @@ QString fileWord(const QString &path)
 
 /// Returns the user's lpoptions that lp applies by itself and that the job does not contain: other names for
 /// a paper, and the documents' formats.
-QStringList rememberedOtherwise(const JobTicket &ticket)
+QStringList unsentUserDefaults(const JobTicket &ticket)
 {
     QStringList names;
     for (const NamedValue &option : ticket.destination.userOptions) {
@@ -67,7 +67,7 @@ QStringList rememberedOtherwise(const JobTicket &ticket)
 }
 
 /// Returns whether the document was converted; lp would send the original.
-bool isMadeOfAnother(const JobDocument &document)
+bool isConverted(const JobDocument &document)
 {
     return document.shownName() != document.path && document.shownName() != QStringLiteral("-");
 }
@@ -85,7 +85,7 @@ QString shellWord(const QString &word)
     return u'\'' + QString(word).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
 }
 
-QString LpCommand::differencesInWords() const
+QString LpCommand::differencesText() const
 {
     return differences.isEmpty() ? QString()
                                  : LpCommandText::tr("lp cannot say these options as they are sent: %1")
@@ -106,15 +106,15 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
     for (const JobOption &option : ticket.options) {
         if (!option.isSent)
             continue;
-        words += optionWords(option);
+        words += optionTexts(option);
         if (isSentAsName(option))
             command.differences += QString::fromUtf8(option.name);
     }
-    command.differences += rememberedOtherwise(ticket);
+    command.differences += unsentUserDefaults(ticket);
     words += QStringLiteral("--");
     for (const JobDocument &document : ticket.documents)
         words += fileWord(document.shownName());
-    if (std::ranges::any_of(ticket.documents, isMadeOfAnother))
+    if (std::ranges::any_of(ticket.documents, isConverted))
         command.differences += QStringLiteral("document-format");
     command.differences.removeDuplicates();
     for (QString &word : words)

@@ -18,7 +18,7 @@ struct LpCommand {
     QStringList differences;
 
     /// Returns the differences as a sentence without a full stop; empty if there are none.
-    QString differencesInWords() const;
+    QString differencesText() const;
 };
 
 /// Returns the command for the job on the server.

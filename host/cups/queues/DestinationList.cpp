@@ -52,17 +52,17 @@ void DestinationList::refresh(Discovery discovery)
 {
     if (m_task)
         m_task->cancel();
-    const bool wantsOthers = std::exchange(m_isPartial, false);
-    m_task = m_background.start([this, server = m_server, discovery, wantsOthers](BackgroundTask &task) {
+    const bool needsOthers = std::exchange(m_isPartial, false);
+    m_task = m_background.start([this, server = m_server, discovery, needsOthers](BackgroundTask &task) {
         // "this" is only used in deliveries, on the main thread and while the object exists.
-        if (wantsOthers)
-            task.deliver([this, known = QueueCache(server).destinations()] { takeKnown(known); });
+        if (needsOthers)
+            task.deliver([this, known = QueueCache(server).destinations()] { setCachedDestinations(known); });
         const auto ask = [&]() -> Result<std::vector<Destination>, CupsError> {
             Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
             return connection ? queryDestinations(connection.value()) : connection.error();
         };
         const Result<std::vector<Destination>, CupsError> answer = ask();
-        if (task.isCancelled())
+        if (task.isCanceled())
             return;
         if (answer)
             QueueCache(server).storeDestinations(answer.value());
@@ -79,7 +79,7 @@ void DestinationList::refresh(Discovery discovery)
     });
 }
 
-void DestinationList::takeKnown(const std::vector<Destination> &destinations)
+void DestinationList::setCachedDestinations(const std::vector<Destination> &destinations)
 {
     if (!m_isStale || destinations.empty())
         return;

@@ -58,7 +58,7 @@ Q_SIGNALS:
 
 private:
     void take(std::vector<Destination> destinations);
-    void takeKnown(const std::vector<Destination> &destinations);
+    void setCachedDestinations(const std::vector<Destination> &destinations);
     void addDiscovered(const Destination &destination);
 
     CupsServer m_server;

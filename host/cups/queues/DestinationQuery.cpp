@@ -55,14 +55,14 @@ QByteArray valueText(ipp_attribute_t *attribute)
     return text.data();
 }
 
-void takeType(Destination &destination, int bits)
+void readType(Destination &destination, int bits)
 {
     const auto type = static_cast<cups_ptype_t>(bits);
     destination.isClass = (type & CUPS_PRINTER_CLASS) != 0;
     destination.isDefault = (type & CUPS_PRINTER_DEFAULT) != 0;
 }
 
-void takeAttribute(Destination &destination, ipp_attribute_t *attribute)
+void readAttribute(Destination &destination, ipp_attribute_t *attribute)
 {
     const QByteArray name = ippGetName(attribute);
     for (const auto &[known, field] : textAttributes) {
@@ -74,7 +74,7 @@ void takeAttribute(Destination &destination, ipp_attribute_t *attribute)
             (destination.*field).append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
     }
     if (name == "printer-type")
-        takeType(destination, ippGetInteger(attribute, 0));
+        readType(destination, ippGetInteger(attribute, 0));
     else if (name == "printer-state")
         destination.state = static_cast<QueueState>(std::clamp(ippGetInteger(attribute, 0), 3, 5));
     else if (name == "printer-config-change-time")
@@ -89,7 +89,7 @@ void takeAttribute(Destination &destination, ipp_attribute_t *attribute)
 
 /// While the server creates a queue for a discovered printer, it reports the queue as stopped, although
 /// nothing has been paused.
-void passOverMaking(Destination &destination)
+void ignoreCreationState(Destination &destination)
 {
     if (destination.isDiscovered && destination.state == QueueState::Paused && !destination.acceptsJobs) {
         destination.state = QueueState::Unknown;
@@ -108,12 +108,12 @@ std::vector<Destination> readDestinations(ipp_t *answer)
             destinations.emplace_back();
         inside = ofPrinter;
         if (inside)
-            takeAttribute(destinations.back(), each);
+            readAttribute(destinations.back(), each);
     }
     std::erase_if(destinations, [](const Destination &each) { return each.queue.isEmpty(); });
     for (Destination &each : destinations) {
         each.stateReasons.removeAll(QStringLiteral("none"));
-        passOverMaking(each);
+        ignoreCreationState(each);
     }
     return destinations;
 }
@@ -174,7 +174,7 @@ int discovered(void *data, unsigned flags, cups_dest_t *dest)
         destination.userOptions = discovery.lpOptions.options(destination.queue, std::nullopt);
         discovery.found(destination);
     }
-    return discovery.task.isCancelled() ? 0 : 1;
+    return discovery.task.isCanceled() ? 0 : 1;
 }
 
 } // namespace
@@ -184,7 +184,7 @@ Result<std::vector<Destination>, CupsError> queryDestinations(CupsConnection &co
     Result<IppPointer, CupsError> answer =
         connection.exchange(listRequest(connection, IPP_OP_CUPS_GET_PRINTERS, {}), "/");
     // A server without queues responds that nothing was found.
-    if (!answer && answer.error().kind != CupsFailure::NotFound)
+    if (!answer && answer.error().kind != CupsErrorKind::NotFound)
         return answer.error();
     const LpOptions lpOptions = LpOptions::read();
     std::vector<Destination> destinations;
@@ -204,7 +204,7 @@ Result<Destination, CupsError> queryDestination(CupsConnection &connection, cons
         return answer.error();
     std::vector<Destination> found = readDestinations(answer.value().get());
     if (found.empty())
-        return CupsError{CupsFailure::NotFound,
+        return CupsError{CupsErrorKind::NotFound,
                          QString::fromUtf8(ippErrorString(IPP_STATUS_ERROR_NOT_FOUND))};
     const LpOptions lpOptions = LpOptions::read();
     Destination destination = std::move(found.front());

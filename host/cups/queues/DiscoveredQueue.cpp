@@ -70,7 +70,7 @@ IppPointer creationRequest(const Destination &destination, const QByteArray &dev
 
 /// Returns whether the server has created the queue completely; before that, it reads the printer's
 /// capabilities.
-Result<bool, CupsError> isMade(CupsConnection &connection, const QString &queue)
+Result<bool, CupsError> isCreated(CupsConnection &connection, const QString &queue)
 {
     const Result<Destination, CupsError> now = queryDestination(connection, queue, std::nullopt);
     if (!now)
@@ -78,19 +78,19 @@ Result<bool, CupsError> isMade(CupsConnection &connection, const QString &queue)
     return now.value().state != QueueState::Unknown;
 }
 
-Result<void, CupsError> waitUntilMade(CupsConnection &connection, const QString &queue, BackgroundTask &task,
-                                      std::chrono::milliseconds time)
+Result<void, CupsError> waitUntilCreated(CupsConnection &connection, const QString &queue,
+                                         BackgroundTask &task, std::chrono::milliseconds time)
 {
     const QDeadlineTimer deadline(time);
     for (;; task.pause(pauseBetweenLooks)) {
-        const Result<bool, CupsError> made = isMade(connection, queue);
+        const Result<bool, CupsError> made = isCreated(connection, queue);
         if (!made)
             return made.error();
         if (made.value())
             return {};
         if (deadline.hasExpired())
             return CupsError{
-                CupsFailure::NotFound,
+                CupsErrorKind::NotFound,
                 DiscoveredQueueText::tr("The print server \"%1\" cannot reach the printer \"%2\".")
                     .arg(connection.server().displayName(), queue)};
     }
@@ -105,26 +105,26 @@ Result<void, CupsError> ensureQueue(CupsConnection &connection, const Destinatio
     if (!destination.isDiscovered)
         return {};
     const std::chrono::milliseconds printersTime = time.value_or(connection.server().timeout);
-    const Result<bool, CupsError> made = isMade(connection, destination.queue);
+    const Result<bool, CupsError> made = isCreated(connection, destination.queue);
     if (made && made.value())
         return {};
-    if (!made && made.error().kind != CupsFailure::NotFound)
+    if (!made && made.error().kind != CupsErrorKind::NotFound)
         return made.error();
     if (!made) {
         const std::optional<QByteArray> deviceUri = lookUp(destination, task, printersTime);
-        if (!deviceUri && task.isCancelled())
+        if (!deviceUri && task.isCanceled())
             return connection.noAnswer();
         if (!deviceUri)
-            return CupsError{CupsFailure::NotFound,
+            return CupsError{CupsErrorKind::NotFound,
                              DiscoveredQueueText::tr("The printer \"%1\" is not on the network any more.")
                                  .arg(destination.queue)};
         const Result<IppPointer, CupsError> answer =
             connection.exchange(creationRequest(destination, *deviceUri), "/");
         // Another program may have requested the same queue at the same time; its queue can be used.
-        if (!answer && !isMade(connection, destination.queue))
+        if (!answer && !isCreated(connection, destination.queue))
             return answer.error();
     }
-    return waitUntilMade(connection, destination.queue, task, printersTime);
+    return waitUntilCreated(connection, destination.queue, task, printersTime);
 }
 
 } // namespace queues

@@ -14,7 +14,7 @@ inline namespace queues {
 namespace {
 
 /// lpoptions writes no longer lines; in bytes.
-constexpr qint64 longestLine = 8192;
+constexpr qint64 maxLineLength = 8192;
 
 std::vector<NamedValue> parse(const QByteArray &text)
 {
@@ -66,7 +66,7 @@ void LpOptions::readFile(const QString &path)
         return;
     while (!file.atEnd()) {
         // "Dest NAME[/INSTANCE] OPTIONS" or "Default ..."
-        const QByteArray line = file.readLine(longestLine).trimmed();
+        const QByteArray line = file.readLine(maxLineLength).trimmed();
         const qsizetype space = line.indexOf(' ');
         const QByteArray kind = line.left(space).toLower();
         if (space < 0 || (kind != "dest" && kind != "default"))

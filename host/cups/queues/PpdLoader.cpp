@@ -18,15 +18,15 @@ inline namespace queues {
 namespace {
 
 /// In bytes. Reading a file of this size takes some tens of milliseconds; hardly any PPD is larger.
-constexpr qint64 mostAtOnce = qint64{512} * 1024;
+constexpr qint64 maxSynchronousBytes = qint64{512} * 1024;
 
 bool isLarge(const QString &path)
 {
-    return QFileInfo(path).size() > mostAtOnce;
+    return QFileInfo(path).size() > maxSynchronousBytes;
 }
 
 /// Returns the PPD; no value if it cannot be used.
-std::optional<PpdFile> openQuietly(const QString &path)
+std::optional<PpdFile> openIfUsable(const QString &path)
 {
     Result<PpdFile, PpdError> ppd = PpdFile::open(path);
     return ppd ? std::optional(std::move(ppd).value()) : std::nullopt;
@@ -57,7 +57,7 @@ Result<PpdFile, PpdError> openContent(const QByteArray &content, const std::opti
     }
     platform::TemporaryFile file(QDir::tempPath());
     if (!file.create() || file.write(content) != content.size() || !file.flush())
-        return PpdError{PpdFailure::Unreadable, file.errorString()};
+        return PpdError{PpdErrorKind::Unreadable, file.errorString()};
     return PpdFile::open(file.fileName());
 }
 
@@ -78,7 +78,7 @@ std::optional<PpdFile> PpdLoader::cached(const QString &queue)
         return std::nullopt;
     // Reads the stamp first: if the file is replaced in between, the server sends the new PPD again.
     const QByteArray stamp = cache.ppdStamp(queue);
-    std::optional<PpdFile> ppd = openQuietly(*path);
+    std::optional<PpdFile> ppd = openIfUsable(*path);
     if (ppd)
         m_given[queue] = stamp;
     return ppd;
@@ -95,9 +95,9 @@ void PpdLoader::load(const Destination &destination, LargeCached largeCached)
         [this, server = m_server, destination, given, turn, largeCached](BackgroundTask &task) {
             std::optional<QByteArray> remembered;
             if (largeCached == LargeCached::Wanted)
-                remembered = bringLarge(server, destination.queue, turn, task);
+                remembered = loadLargeCached(server, destination.queue, turn, task);
             const Outcome outcome = ask(server, destination, remembered.value_or(given), task);
-            if (!task.isCancelled()) // "this" is only used on the main thread, while it exists
+            if (!task.isCanceled()) // "this" is only used on the main thread, while it exists
                 task.deliver([this, turn, queue = destination.queue, outcome] {
                     if (turn == m_turn)
                         report(queue, outcome);
@@ -105,15 +105,15 @@ void PpdLoader::load(const Destination &destination, LargeCached largeCached)
         });
 }
 
-std::optional<QByteArray> PpdLoader::bringLarge(const CupsServer &server, const QString &queue, int turn,
-                                                BackgroundTask &task)
+std::optional<QByteArray> PpdLoader::loadLargeCached(const CupsServer &server, const QString &queue, int turn,
+                                                     BackgroundTask &task)
 {
     const QueueCache cache(server);
     const std::optional<QString> path = cache.ppdPath(queue);
     if (!path || !isLarge(*path))
         return std::nullopt;
     const QByteArray stamp = cache.ppdStamp(queue);
-    std::optional<PpdFile> ppd = openQuietly(*path);
+    std::optional<PpdFile> ppd = openIfUsable(*path);
     if (!ppd)
         return std::nullopt;
     // "this" is only used on the main thread, while the object exists.
@@ -137,8 +137,8 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
 
     const QueueCache cache(server);
     const QString &queue = destination.queue;
-    const auto file = connection.value().fetch(queueResource(queue) + ".ppd", given, PpdFile::largestText);
-    if (!file && file.error().kind == CupsFailure::NotFound) {
+    const auto file = connection.value().fetch(queueResource(queue) + ".ppd", given, PpdFile::maxTextSize);
+    if (!file && file.error().kind == CupsErrorKind::NotFound) {
         cache.removePpd(queue);
         return {nullptr, std::nullopt, true};
     }
@@ -152,7 +152,7 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
     if (!ppd) {
         // Removes the PPD: the server may later have a better one with the same date.
         cache.removePpd(queue);
-        return {nullptr, CupsError{CupsFailure::Refused, ppd.error().message}, false};
+        return {nullptr, CupsError{CupsErrorKind::Rejected, ppd.error().message}, false};
     }
     return {std::make_shared<PpdFile>(std::move(ppd).value()), std::nullopt, false,
             QueueCache::stamp(file.value()->modified, content.size())};

@@ -53,8 +53,8 @@ private:
     struct Outcome;
     /// Loads the cached PPD if it is large. Returns its stamp; no value if there is no such PPD. Runs in the
     /// background.
-    std::optional<QByteArray> bringLarge(const CupsServer &server, const QString &queue, int turn,
-                                         BackgroundTask &task);
+    std::optional<QByteArray> loadLargeCached(const CupsServer &server, const QString &queue, int turn,
+                                              BackgroundTask &task);
     static Outcome ask(const CupsServer &server, const Destination &destination, const QByteArray &given,
                        BackgroundTask &task);
     void report(const QString &queue, const Outcome &outcome);

@@ -38,11 +38,11 @@ QString topFolder()
 /// cannot be created.
 bool prepareFolder(const QString &folder)
 {
-    if (platform::makePrivateFolders(folder))
+    if (platform::createPrivateFolders(folder))
         return false;
     const QString top = topFolder();
     for (QString each = folder; each.startsWith(top); each = QFileInfo(each).path())
-        platform::closeToOthers(each);
+        platform::restrictToUser(each);
     return true;
 }
 

@@ -14,8 +14,8 @@ QueueMonitor::QueueMonitor(const CupsServer &server, const QString &queue,
 {
     m_background.start([this, server, queue, instance, pause](BackgroundTask &task) {
         std::optional<Destination> last;
-        std::optional<CupsFailure> lastFailure;
-        for (; !task.isCancelled(); task.pause(pause)) {
+        std::optional<CupsErrorKind> lastFailure;
+        for (; !task.isCanceled(); task.pause(pause)) {
             // One connection per query: servers close connections that are idle for long.
             Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
             const Result<Destination, CupsError> now =

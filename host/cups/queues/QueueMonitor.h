@@ -23,7 +23,7 @@ public:
 Q_SIGNALS:
     /// Emitted with the state of the destination after the first response and after every change.
     void changed(const host::Destination &destination);
-    /// Emitted when the queue no longer exists (CupsFailure::NotFound) or the query of the server fails.
+    /// Emitted when the queue no longer exists (CupsErrorKind::NotFound) or the query of the server fails.
     /// Emitted once for each kind of error; the monitor continues its queries.
     void failed(const host::CupsError &error);
 

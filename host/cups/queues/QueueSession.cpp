@@ -21,7 +21,7 @@ constexpr std::chrono::seconds retryInterval{3};
 
 bool isOutOfReach(const CupsError &error)
 {
-    return error.kind == CupsFailure::Unreachable || error.kind == CupsFailure::Silent;
+    return error.kind == CupsErrorKind::Unreachable || error.kind == CupsErrorKind::Silent;
 }
 
 } // namespace
@@ -29,36 +29,36 @@ bool isOutOfReach(const CupsError &error)
 QueueSession::QueueSession(CupsServer server, const std::optional<QString> &wanted, QObject *parent)
     : QObject(parent)
     , m_server(std::move(server))
-    , m_wanted(wanted ? wanted : LpOptions::read().defaultName())
-    , m_destinations(m_server, m_wanted)
+    , m_requested(wanted ? wanted : LpOptions::read().defaultName())
+    , m_destinations(m_server, m_requested)
     , m_loader(m_server)
 {
     connect(&m_destinations, &DestinationList::changed, this, [this] {
-        chooseWanted();
+        chooseRequested();
         Q_EMIT destinationsChanged();
     });
-    connect(&m_destinations, &DestinationList::refreshed, this, &QueueSession::takeList);
+    connect(&m_destinations, &DestinationList::refreshed, this, &QueueSession::listReceived);
     connect(&m_destinations, &DestinationList::failed, this, &QueueSession::listFailed);
     connect(&m_loader, &PpdLoader::loaded, this,
             [this](const QString &, const std::shared_ptr<PpdFile> &ppd) {
                 m_ppd.emplace(std::move(*ppd));
-                setKnowledge(PpdKnowledge::Current);
+                setPpdState(PpdState::Current);
             });
     connect(&m_loader, &PpdLoader::remembered, this,
             [this](const QString &, const std::shared_ptr<PpdFile> &ppd) {
                 m_ppd.emplace(std::move(*ppd));
-                setKnowledge(PpdKnowledge::Cached);
+                setPpdState(PpdState::Cached);
             });
-    connect(&m_loader, &PpdLoader::unchanged, this, [this] { setKnowledge(PpdKnowledge::Current); });
+    connect(&m_loader, &PpdLoader::unchanged, this, [this] { setPpdState(PpdState::Current); });
     connect(&m_loader, &PpdLoader::absent, this, [this] {
         m_ppd.reset();
-        setKnowledge(PpdKnowledge::Absent);
+        setPpdState(PpdState::Absent);
     });
     connect(&m_loader, &PpdLoader::failed, this, [this](const QString &, const CupsError &error) {
-        setKnowledge(PpdKnowledge::Failed, error);
+        setPpdState(PpdState::Failed, error);
         tell(error);
     });
-    chooseWanted();
+    chooseRequested();
 }
 
 void QueueSession::start(Discovery discovery)
@@ -66,14 +66,14 @@ void QueueSession::start(Discovery discovery)
     m_hasStarted = true;
     m_isSettled = false;
     m_listError.reset();
-    m_server.forgetRefusals();
+    m_server.resetRefusals();
     m_discovery = discovery;
     m_destinations.refresh(discovery);
     if (m_chosen)
         setChosen(*m_chosen);
 }
 
-void QueueSession::tryAgain()
+void QueueSession::retry()
 {
     start(m_discovery);
     Q_EMIT stateChanged();
@@ -81,7 +81,7 @@ void QueueSession::tryAgain()
 
 QString QueueSession::chosenName() const
 {
-    return m_chosen ? m_chosen->name() : m_wanted.value_or(QString());
+    return m_chosen ? m_chosen->name() : m_requested.value_or(QString());
 }
 
 void QueueSession::choose(const QString &name)
@@ -90,28 +90,28 @@ void QueueSession::choose(const QString &name)
     if (!found)
         return;
     m_userHasChosen = true;
-    m_server.forgetRefusals();
+    m_server.resetRefusals();
     if (!m_chosen || m_chosen->name() != found->name())
         setChosen(*found);
 }
 
-void QueueSession::chooseWanted()
+void QueueSession::chooseRequested()
 {
     if (m_chosen) {
         // The list is newer than the chosen destination.
         const Destination *const same = m_destinations.find(m_chosen->name());
         if (same && same->name() == m_chosen->name())
-            takeState(*same);
+            updateState(*same);
     }
     if (m_userHasChosen || (m_chosen && m_isInUse()))
         return;
     const Destination *const found =
-        m_wanted ? m_destinations.find(*m_wanted) : m_destinations.defaultDestination();
+        m_requested ? m_destinations.find(*m_requested) : m_destinations.defaultDestination();
     if (found && (!m_chosen || m_chosen->name() != found->name()))
         setChosen(*found);
 }
 
-bool QueueSession::mayLackPpd() const
+bool QueueSession::isPpdUnreachable() const
 {
     return m_ppdError && isOutOfReach(*m_ppdError);
 }
@@ -139,12 +139,12 @@ void QueueSession::recover()
         return;
     if (m_destinations.isStale())
         m_destinations.refresh(m_discovery);
-    if (mayLackPpd())
+    if (isPpdUnreachable())
         m_loader.load(*m_chosen);
     Q_EMIT recovered();
 }
 
-void QueueSession::takeList()
+void QueueSession::listReceived()
 {
     m_listError.reset();
     settle();
@@ -157,10 +157,10 @@ void QueueSession::settle()
     m_isSettled = true;
     // The server has no queue for a discovered printer before it is used.
     const bool isGone = m_chosen && !m_chosen->isDiscovered && !m_destinations.find(m_chosen->name());
-    if (isGone || (!m_chosen && m_wanted))
+    if (isGone || (!m_chosen && m_requested))
         Q_EMIT failed(noSuchDestination());
     // Without any default, the first destination is chosen.
-    if (!m_chosen && !m_wanted && !m_destinations.destinations().empty())
+    if (!m_chosen && !m_requested && !m_destinations.destinations().empty())
         setChosen(m_destinations.destinations().front());
     if (m_chosen)
         m_destinations.remember(m_chosen->name());
@@ -169,12 +169,12 @@ void QueueSession::settle()
 
 CupsError QueueSession::noSuchDestination() const
 {
-    return {CupsFailure::NotFound,
+    return {CupsErrorKind::NotFound,
             QueueSessionText::tr("The print server \"%1\" has no queue or class \"%2\".")
                 .arg(m_server.displayName(), chosenName())};
 }
 
-void QueueSession::takeState(const Destination &destination)
+void QueueSession::updateState(const Destination &destination)
 {
     if (*m_chosen == destination)
         return;
@@ -184,7 +184,7 @@ void QueueSession::takeState(const Destination &destination)
     m_chosen = destination;
     Q_EMIT stateChanged();
     // The response of a running query already contains the administrator's changes.
-    const bool isAskedFor = m_knowledge == PpdKnowledge::Asked || m_knowledge == PpdKnowledge::Cached;
+    const bool isAskedFor = m_ppdState == PpdState::Asked || m_ppdState == PpdState::Cached;
     if (isReconfigured && m_hasStarted && !isAskedFor)
         m_loader.load(destination);
     if (!hasOtherDefaults)
@@ -197,13 +197,13 @@ void QueueSession::takeState(const Destination &destination)
         m_loader.load(destination, PpdLoader::LargeCached::Wanted);
 }
 
-void QueueSession::takeNews(Destination news)
+void QueueSession::updateFromQuery(Destination news)
 {
     // The query of one queue reports neither whether it is the default nor how it was found.
     news.isDefault = m_chosen->isDefault;
     news.isDiscovered = m_chosen->isDiscovered;
     m_destinations.update(news);
-    takeState(news);
+    updateState(news);
     recover();
 }
 
@@ -213,19 +213,19 @@ void QueueSession::setChosen(const Destination &destination)
     m_chosen = destination;
     if (isAnother) {
         m_ppd = m_loader.cached(destination.queue);
-        m_knowledge = m_ppd ? PpdKnowledge::Cached : PpdKnowledge::Asked;
+        m_ppdState = m_ppd ? PpdState::Cached : PpdState::Asked;
         m_ppdError.reset();
         m_destinations.remember(destination.name());
     }
     if (m_hasStarted) {
-        const bool isUnknown = m_knowledge == PpdKnowledge::Asked;
+        const bool isUnknown = m_ppdState == PpdState::Asked;
         m_loader.load(destination,
                       isUnknown ? PpdLoader::LargeCached::Wanted : PpdLoader::LargeCached::Known);
         m_monitor = std::make_unique<QueueMonitor>(m_server, destination.queue, destination.instance);
-        connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::takeNews);
+        connect(m_monitor.get(), &QueueMonitor::changed, this, &QueueSession::updateFromQuery);
         connect(m_monitor.get(), &QueueMonitor::failed, this, [this](const CupsError &error) {
             // A discovered printer has no queue while it is not used.
-            const bool isMissing = error.kind == CupsFailure::NotFound;
+            const bool isMissing = error.kind == CupsErrorKind::NotFound;
             if (!isMissing || !m_chosen->isDiscovered)
                 tell(isMissing ? noSuchDestination() : error);
         });
@@ -234,9 +234,9 @@ void QueueSession::setChosen(const Destination &destination)
         Q_EMIT chosenChanged();
 }
 
-void QueueSession::setKnowledge(PpdKnowledge knowledge, const std::optional<CupsError> &error)
+void QueueSession::setPpdState(PpdState knowledge, const std::optional<CupsError> &error)
 {
-    m_knowledge = knowledge;
+    m_ppdState = knowledge;
     m_ppdError = error;
     Q_EMIT ppdChanged();
 }

@@ -10,7 +10,7 @@ inline namespace cups {
 inline namespace queues {
 
 /// The state of the chosen queue's PPD.
-enum class PpdKnowledge {
+enum class PpdState {
     Asked,   ///< none yet; the server is being queried
     Cached,  ///< from the cache; the server is being queried
     Current, ///< the server's
@@ -35,7 +35,7 @@ public:
     /// Queries the server for the destinations, and for the state and PPD of the chosen one.
     void start(Discovery discovery);
     /// Repeats all queries; a user who has declined to enter a password is asked again.
-    void tryAgain();
+    void retry();
 
     /// The server of the session and its destinations.
     const CupsServer &server() const { return m_server; }
@@ -56,8 +56,8 @@ public:
     void setIsInUse(std::function<bool()> isInUse) { m_isInUse = std::move(isInUse); }
 
     /// The state of the chosen queue's PPD.
-    PpdKnowledge ppdKnowledge() const { return m_knowledge; }
-    /// Why the PPD cannot be loaded or used; absent unless ppdKnowledge() is PpdKnowledge::Failed.
+    PpdState ppdState() const { return m_ppdState; }
+    /// Why the PPD cannot be loaded or used; absent unless ppdState() is PpdState::Failed.
     const std::optional<CupsError> &ppdError() const { return m_ppdError; }
     /// Moves out the chosen queue's PPD that was last loaded, for the receiver of ppdChanged(). Returns no
     /// value if it was already moved out or there is none.
@@ -72,7 +72,7 @@ Q_SIGNALS:
     void chosenChanged();
     /// Emitted when the state of the chosen destination changes, or when all queries are repeated.
     void stateChanged();
-    /// Emitted when ppdKnowledge() changes; takePpd() returns a new PPD if the server's differs from the
+    /// Emitted when ppdState() changes; takePpd() returns a new PPD if the server's differs from the
     /// earlier one.
     void ppdChanged();
     /// Emitted when the server has reported its destinations, or the query has failed: destinations that are
@@ -85,30 +85,30 @@ Q_SIGNALS:
     void recovered();
 
 private:
-    void takeList();
+    void listReceived();
     void listFailed(const CupsError &error);
     void tell(const CupsError &error);
-    void chooseWanted();
+    void chooseRequested();
     void setChosen(const Destination &destination);
-    void takeState(const Destination &destination);
-    void takeNews(Destination news);
+    void updateState(const Destination &destination);
+    void updateFromQuery(Destination news);
     void recover();
-    bool mayLackPpd() const;
+    bool isPpdUnreachable() const;
     void settle();
-    void setKnowledge(PpdKnowledge knowledge, const std::optional<CupsError> &error = std::nullopt);
+    void setPpdState(PpdState knowledge, const std::optional<CupsError> &error = std::nullopt);
     CupsError noSuchDestination() const;
 
     CupsServer m_server;
     /// The requested destination or that of LPDEST, PRINTER or lpoptions; absent if the server's default
     /// applies.
-    std::optional<QString> m_wanted;
+    std::optional<QString> m_requested;
     DestinationList m_destinations;
     PpdLoader m_loader;
     std::unique_ptr<QueueMonitor> m_monitor;
     std::optional<Destination> m_chosen;
     std::optional<PpdFile> m_ppd;
     std::optional<CupsError> m_listError;
-    PpdKnowledge m_knowledge = PpdKnowledge::Asked;
+    PpdState m_ppdState = PpdState::Asked;
     std::optional<CupsError> m_ppdError;
     Discovery m_discovery = Discovery::No;
     bool m_hasStarted = false;

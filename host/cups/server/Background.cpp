@@ -10,14 +10,14 @@ namespace host {
 inline namespace cups {
 inline namespace server {
 
-bool BackgroundTask::isCancelled() const
+bool BackgroundTask::isCanceled() const
 {
-    return std::atomic_ref(const_cast<int &>(m_cancelled)).load(std::memory_order_relaxed) != 0;
+    return std::atomic_ref(const_cast<int &>(m_canceled)).load(std::memory_order_relaxed) != 0;
 }
 
 void BackgroundTask::cancel()
 {
-    std::atomic_ref(m_cancelled).store(1, std::memory_order_relaxed);
+    std::atomic_ref(m_canceled).store(1, std::memory_order_relaxed);
 }
 
 void BackgroundTask::deliver(std::function<void()> call) const
@@ -31,7 +31,7 @@ void BackgroundTask::deliver(std::function<void()> call) const
 void BackgroundTask::pause(std::chrono::milliseconds time) const
 {
     constexpr std::chrono::milliseconds step{50};
-    for (; time.count() > 0 && !isCancelled(); time -= step)
+    for (; time.count() > 0 && !isCanceled(); time -= step)
         std::this_thread::sleep_for(std::min(step, time));
 }
 

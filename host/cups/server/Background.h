@@ -23,9 +23,9 @@ public:
     }
 
     /// Returns whether the task has been canceled. Long-running work calls this often.
-    bool isCancelled() const;
+    bool isCanceled() const;
     /// Returns the same flag as a variable that libcups watches. Valid for the lifetime of the task.
-    int *cancelFlag() { return &m_cancelled; }
+    int *cancelFlag() { return &m_canceled; }
     /// Queues the call on the main thread. Drops it if the receiver is destroyed before the call.
     void deliver(std::function<void()> call) const;
     /// Sleeps for the given time, or until the task is canceled.
@@ -48,7 +48,7 @@ private:
     }
 
     std::shared_ptr<Mailbox> m_mailbox;
-    int m_cancelled = 0;
+    int m_canceled = 0;
 };
 
 /// Starts tasks that may wait for a network, and owns their deliveries. Belongs to an object of the main

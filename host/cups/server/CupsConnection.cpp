@@ -117,29 +117,29 @@ int CupsConnection::mayWaitOn(http_t *http, void *data)
         state.restartSilence();
     state.unsent = unsent;
     state.wasSilent = state.hasBeenSilentTooLong();
-    return !state.wasSilent && (state.finishesFirst || !state.task->isCancelled());
+    return !state.wasSilent && (state.ignoresCancellation || !state.task->isCanceled());
 }
 
-bool CupsConnection::wasGivenUp() const
+bool CupsConnection::isCanceledOrTimedOut() const
 {
-    return m_state->wasSilent || (m_state->task->isCancelled() && !m_state->finishesFirst);
+    return m_state->wasSilent || (m_state->task->isCanceled() && !m_state->ignoresCancellation);
 }
 
 CupsError CupsConnection::noAnswer() const
 {
     const QString name = server().displayName();
-    if (m_state->task->isCancelled())
-        return {CupsFailure::Cancelled, CupsConnectionText::tr("Canceled on request.")};
+    if (m_state->task->isCanceled())
+        return {CupsErrorKind::Canceled, CupsConnectionText::tr("Canceled on request.")};
     if (m_state->certificateError)
         return *m_state->certificateError;
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
-        return {CupsFailure::Silent,
+        return {CupsErrorKind::Silent,
                 CupsConnectionText::tr("The print server \"%1\" does not answer.").arg(name)};
     if (!m_http)
-        return {CupsFailure::Unreachable,
+        return {CupsErrorKind::Unreachable,
                 CupsConnectionText::tr("Cannot connect to the print server \"%1\": %2")
                     .arg(name, connectionFailureReason(cupsServer(), ippPort()))};
-    return {CupsFailure::Unreachable,
+    return {CupsErrorKind::Unreachable,
             CupsConnectionText::tr("The connection to the print server \"%1\" broke.").arg(name)};
 }
 

@@ -50,11 +50,11 @@ public:
 
     /// Like exchange(), for a request that creates something on the server: canceling the task does not
     /// interrupt it, because only the response identifies what has to be canceled.
-    Result<IppPointer, CupsError> exchangeToTheEnd(IppPointer request, const QByteArray &resource);
+    Result<IppPointer, CupsError> exchangeUncancelable(IppPointer request, const QByteArray &resource);
 
     /// Returns whether the last request, or most of it, was sent and no complete response was received: the
     /// server may have processed the request.
-    bool lacksAnswer() const { return m_state->lacksAnswer; }
+    bool isAnswerMissing() const { return m_state->isAnswerMissing; }
 
     /// Starts sending a document: sends its request, and waits for up to a second whether the server requires
     /// something first, such as a password. Returns no value if the document can follow, otherwise the error.
@@ -69,7 +69,7 @@ public:
     Result<IppPointer, CupsError> earlyAnswer();
     /// Returns whether the server has rejected the document after it was started, because a password is
     /// missing.
-    bool lacksPasswordForDocument() const;
+    bool documentNeedsPassword() const;
     /// Requests that password. Returns no value if the document can be sent again from its beginning,
     /// otherwise the error.
     Result<void, CupsError> authenticateDocument();
@@ -80,11 +80,11 @@ public:
         /// Seconds since 1970-01-01 UTC; 0 if the server does not report it.
         qint64 modified = 0;
     };
-    /// Fetches a file of the server into memory. A file of more than mostBytes bytes is an error. Returns no
+    /// Fetches a file of the server into memory. A file of more than maxBytes bytes is an error. Returns no
     /// value if the file has not changed since the date and length in unlessModifiedSince, the value of an
     /// "If-Modified-Since" field; if that is empty, always fetches the file.
     Result<std::optional<File>, CupsError> fetch(const QByteArray &resource,
-                                                 const QByteArray &unlessModifiedSince, qint64 mostBytes);
+                                                 const QByteArray &unlessModifiedSince, qint64 maxBytes);
 
     /// Returns why there is no response: canceled, timed out, connection broken, or not connected.
     CupsError noAnswer() const;
@@ -103,8 +103,8 @@ private:
         int unsent = 0;
         bool wasSilent = false;
         /// Canceling the task does not interrupt the current request.
-        bool finishesFirst = false;
-        bool lacksAnswer = false;
+        bool ignoresCancellation = false;
+        bool isAnswerMissing = false;
         /// The resource to which the document is being sent; empty if there is no document.
         QByteArray documentResource;
         /// The status of a response that was received before the whole document was sent.
@@ -115,13 +115,13 @@ private:
         http_encryption_t encryption = HTTP_ENCRYPTION_IF_REQUESTED;
         int triedPasswords = 0;
         /// The server requires a password and none was sent.
-        bool lacksPassword = false;
+        bool isPasswordMissing = false;
         /// No password was sent because others on the network could have read it.
-        bool wouldBeReadable = false;
+        bool isPasswordReadable = false;
         /// The last request had a password that the server has not accepted so far.
         bool isPasswordUnconfirmed = false;
         /// The number of passwords that the server has rejected in succession.
-        int refusedPasswords = 0;
+        int rejectedPasswords = 0;
         /// Why the server is not trusted; absent if it is.
         std::optional<CupsError> certificateError;
         PasswordRequest::Credentials credentials;
@@ -137,9 +137,9 @@ private:
     /// The server's timeout in milliseconds.
     qint64 timeout() const { return server().timeout.count(); }
     /// Whether waiting has ended because of the timeout or because the task is canceled.
-    bool wasGivenUp() const;
+    bool isCanceledOrTimedOut() const;
     /// Returns an error with the server's message; passwordError() if the password is the reason.
-    CupsError serverError(CupsFailure kind, const QString &reason) const;
+    CupsError serverError(CupsErrorKind kind, const QString &reason) const;
     CupsError passwordError() const;
     /// Restarts the measurement of the server's silence.
     void beginWaiting() const
@@ -163,11 +163,11 @@ private:
     /// Meets the server's requirements for the request: a password, encryption. Returns true if the request
     /// can be sent again over a new connection; false if the server requires nothing of this kind, or the
     /// requirement is not met.
-    bool clearTheWay(http_status_t status, const char *method, const QByteArray &resource);
+    bool meetRequirement(http_status_t status, const char *method, const QByteArray &resource);
     /// Sends a request with the function ask, and again after each requirement of the server is met. Returns
     /// the last status.
-    http_status_t askUntilAllowed(const char *method, const QByteArray &resource,
-                                  const std::function<http_status_t()> &ask);
+    http_status_t sendUntilAccepted(const char *method, const QByteArray &resource,
+                                    const std::function<http_status_t()> &ask);
     void setAuthorization();
     bool post(ipp_t *request, const QByteArray &resource, std::size_t length);
     http_status_t readStatus();

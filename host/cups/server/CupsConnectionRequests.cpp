@@ -23,41 +23,41 @@ struct CupsConnectionRequestsText {
 constexpr std::size_t unknownLength = 0;
 
 /// The status is an int: a server may send a number that "ipp_status_t" cannot hold.
-CupsFailure failureForIpp(int status)
+CupsErrorKind failureForIpp(int status)
 {
     switch (status) {
     case IPP_STATUS_ERROR_NOT_FOUND:
     case IPP_STATUS_ERROR_GONE:
-        return CupsFailure::NotFound;
+        return CupsErrorKind::NotFound;
     case IPP_STATUS_ERROR_FORBIDDEN:
     case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
     case IPP_STATUS_ERROR_NOT_AUTHORIZED:
     case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
-        return CupsFailure::NotAuthorized;
+        return CupsErrorKind::NotAuthorized;
     case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
     case IPP_STATUS_ERROR_CUPS_PKI:
-        return CupsFailure::Unreachable;
+        return CupsErrorKind::Unreachable;
     default:
-        return CupsFailure::Refused;
+        return CupsErrorKind::Rejected;
     }
 }
 
-CupsFailure failureFor(http_status_t status)
+CupsErrorKind failureFor(http_status_t status)
 {
     switch (status) {
     case HTTP_STATUS_NOT_FOUND:
     case HTTP_STATUS_GONE:
-        return CupsFailure::NotFound;
+        return CupsErrorKind::NotFound;
     case HTTP_STATUS_UNAUTHORIZED:
     case HTTP_STATUS_FORBIDDEN:
     case HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED:
-        return CupsFailure::NotAuthorized;
+        return CupsErrorKind::NotAuthorized;
     case HTTP_STATUS_SERVICE_UNAVAILABLE:
     case HTTP_STATUS_UPGRADE_REQUIRED:
     case HTTP_STATUS_CUPS_PKI_ERROR:
-        return CupsFailure::Unreachable;
+        return CupsErrorKind::Unreachable;
     default:
-        return CupsFailure::Refused;
+        return CupsErrorKind::Rejected;
     }
 }
 
@@ -83,9 +83,10 @@ QByteArray queueResource(const QString &queue)
     return "/printers/" + queue.toUtf8();
 }
 
-CupsError CupsConnection::serverError(CupsFailure kind, const QString &reason) const
+CupsError CupsConnection::serverError(CupsErrorKind kind, const QString &reason) const
 {
-    if ((m_state->lacksPassword || m_state->isPasswordUnconfirmed) && kind == CupsFailure::NotAuthorized)
+    if ((m_state->isPasswordMissing || m_state->isPasswordUnconfirmed) &&
+        kind == CupsErrorKind::NotAuthorized)
         return passwordError();
     return {kind, CupsConnectionRequestsText::tr("The print server \"%1\" says: %2")
                       .arg(server().displayName(), reason)};
@@ -124,7 +125,7 @@ bool CupsConnection::post(ipp_t *request, const QByteArray &resource, std::size_
     if (length == unknownLength && m_state->expectsContinue)
         httpSetExpect(m_http.get(), HTTP_STATUS_CONTINUE);
     // From here on, the server may have the request, unless its response shows otherwise.
-    m_state->lacksAnswer = true;
+    m_state->isAnswerMissing = true;
     if (httpPost(m_http.get(), resource.constData()) != 0)
         return false;
     ippSetState(request, IPP_STATE_IDLE);
@@ -138,28 +139,28 @@ bool CupsConnection::post(ipp_t *request, const QByteArray &resource, std::size_
 
 Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const QByteArray &resource)
 {
-    m_state->lacksAnswer = false;
+    m_state->isAnswerMissing = false;
     // The request contains a password for the printer itself.
     if (ippFindAttribute(request.get(), "auth-info", IPP_TAG_TEXT) && m_http && isReadable(m_http.get())) {
         m_state->encryption = HTTP_ENCRYPTION_REQUIRED;
         if (!connect())
             return noAnswer();
     }
-    return readAnswer(askUntilAllowed("POST", resource, [&] {
+    return readAnswer(sendUntilAccepted("POST", resource, [&] {
         return post(request.get(), resource, ippLength(request.get())) ? awaitAnswer() : HTTP_STATUS_ERROR;
     }));
 }
 
 Result<void, CupsError> CupsConnection::beginDocument(IppPointer request, const QByteArray &resource)
 {
-    m_state->lacksAnswer = false;
+    m_state->isAnswerMissing = false;
     m_state->documentResource.clear();
-    const http_status_t status = askUntilAllowed("POST", resource, [&] {
+    const http_status_t status = sendUntilAccepted("POST", resource, [&] {
         if (!post(request.get(), resource, unknownLength))
             return HTTP_STATUS_ERROR;
         // A server that does not support "Expect" sends nothing yet.
-        constexpr int longestWait = 1000; // milliseconds
-        const bool mayAnswer = m_state->expectsContinue && httpWait(m_http.get(), longestWait);
+        constexpr int maxWait = 1000; // milliseconds
+        const bool mayAnswer = m_state->expectsContinue && httpWait(m_http.get(), maxWait);
         return mayAnswer ? readStatus() : HTTP_STATUS_CONTINUE;
     });
     m_state->earlyStatus.reset();
@@ -206,22 +207,22 @@ Result<IppPointer, CupsError> CupsConnection::readDocumentAnswer(http_status_t s
 {
     noteStatus(status);
     if (status == HTTP_STATUS_UNAUTHORIZED) {
-        m_state->lacksPassword = !m_state->isPasswordUnconfirmed;
-        m_state->wouldBeReadable = false;
+        m_state->isPasswordMissing = !m_state->isPasswordUnconfirmed;
+        m_state->isPasswordReadable = false;
     }
     return readAnswer(status);
 }
 
-bool CupsConnection::lacksPasswordForDocument() const
+bool CupsConnection::documentNeedsPassword() const
 {
-    return m_http && !m_state->documentResource.isEmpty() && !wasGivenUp() &&
+    return m_http && !m_state->documentResource.isEmpty() && !isCanceledOrTimedOut() &&
            httpGetStatus(m_http.get()) == HTTP_STATUS_UNAUTHORIZED;
 }
 
 Result<void, CupsError> CupsConnection::authenticateDocument()
 {
-    if (!clearTheWay(HTTP_STATUS_UNAUTHORIZED, "POST", m_state->documentResource))
-        return serverError(CupsFailure::NotAuthorized,
+    if (!meetRequirement(HTTP_STATUS_UNAUTHORIZED, "POST", m_state->documentResource))
+        return serverError(CupsErrorKind::NotAuthorized,
                            QString::fromUtf8(httpStatus(HTTP_STATUS_UNAUTHORIZED)));
     if (!reconnect())
         return noAnswer();
@@ -232,7 +233,7 @@ http_status_t CupsConnection::readStatus()
 {
     const http_status_t status = knownStatus(httpUpdate(m_http.get()));
     // A successful response does not end with its header; an error is complete with its header.
-    m_state->lacksAnswer =
+    m_state->isAnswerMissing =
         status == HTTP_STATUS_ERROR || status == HTTP_STATUS_OK || status == HTTP_STATUS_CONTINUE;
     return status;
 }
@@ -264,7 +265,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
 {
     if (status != HTTP_STATUS_OK) {
         // A rejected request has created nothing that has to be canceled.
-        if (status == HTTP_STATUS_ERROR || wasGivenUp() || m_state->task->isCancelled())
+        if (status == HTTP_STATUS_ERROR || isCanceledOrTimedOut() || m_state->task->isCanceled())
             return noAnswer();
         httpFlush(m_http.get());
         return serverError(failureFor(status), statusReason(status));
@@ -277,7 +278,7 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
         state = ippReadIO(this, readPiece, 1, nullptr, answer.get());
     if (state == IPP_STATE_ERROR)
         return noAnswer();
-    m_state->lacksAnswer = false;
+    m_state->isAnswerMissing = false;
     httpFlush(m_http.get());
     const int outcome = ippGetStatusCode(answer.get());
     if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE)
@@ -288,17 +289,18 @@ Result<IppPointer, CupsError> CupsConnection::readAnswer(http_status_t status)
                        QString::fromUtf8(words ? words : ippErrorString(ippGetStatusCode(answer.get()))));
 }
 
-Result<IppPointer, CupsError> CupsConnection::exchangeToTheEnd(IppPointer request, const QByteArray &resource)
+Result<IppPointer, CupsError> CupsConnection::exchangeUncancelable(IppPointer request,
+                                                                   const QByteArray &resource)
 {
-    m_state->finishesFirst = true;
+    m_state->ignoresCancellation = true;
     Result<IppPointer, CupsError> answer = exchange(std::move(request), resource);
-    m_state->finishesFirst = false;
+    m_state->ignoresCancellation = false;
     return answer;
 }
 
 http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &unlessModifiedSince)
 {
-    return askUntilAllowed("GET", resource, [&] {
+    return sendUntilAccepted("GET", resource, [&] {
         httpClearFields(m_http.get());
         if (!unlessModifiedSince.isEmpty())
             httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, unlessModifiedSince.constData());
@@ -308,14 +310,14 @@ http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &
 }
 
 Result<std::optional<CupsConnection::File>, CupsError>
-CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifiedSince, qint64 mostBytes)
+CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifiedSince, qint64 maxBytes)
 {
-    const auto failure = [&](CupsFailure kind, const QString &reason) -> CupsError {
+    const auto failure = [&](CupsErrorKind kind, const QString &reason) -> CupsError {
         return {kind, CupsConnectionRequestsText::tr("The print server \"%1\" does not give \"%2\": %3")
                           .arg(server().displayName(), QString::fromUtf8(resource), reason)};
     };
     const http_status_t status = get(resource, unlessModifiedSince);
-    if (wasGivenUp() || status == HTTP_STATUS_ERROR)
+    if (isCanceledOrTimedOut() || status == HTTP_STATUS_ERROR)
         return noAnswer();
     if (status == HTTP_STATUS_NOT_MODIFIED) {
         httpFlush(m_http.get());
@@ -323,8 +325,9 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     }
     if (status != HTTP_STATUS_OK) {
         httpFlush(m_http.get());
-        const CupsFailure kind = failureFor(status);
-        if (kind == CupsFailure::NotAuthorized && (m_state->lacksPassword || m_state->isPasswordUnconfirmed))
+        const CupsErrorKind kind = failureFor(status);
+        if (kind == CupsErrorKind::NotAuthorized &&
+            (m_state->isPasswordMissing || m_state->isPasswordUnconfirmed))
             return passwordError();
         return failure(kind, statusReason(status));
     }
@@ -337,14 +340,14 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     ssize_t length = 0;
     while (beginWaiting(), (length = httpRead2(m_http.get(), piece.data(), piece.size())) > 0) {
         file.content.append(piece.data(), length);
-        if (file.content.size() > mostBytes)
-            return failure(CupsFailure::Refused,
-                           CupsConnectionRequestsText::tr("it is larger than %1 MB").arg(mostBytes >> 20));
+        if (file.content.size() > maxBytes)
+            return failure(CupsErrorKind::Rejected,
+                           CupsConnectionRequestsText::tr("it is larger than %1 MB").arg(maxBytes >> 20));
     }
-    if (wasGivenUp())
+    if (isCanceledOrTimedOut())
         return noAnswer();
     if (length < 0 || (announced > 0 && file.content.size() != announced))
-        return failure(CupsFailure::Unreachable,
+        return failure(CupsErrorKind::Unreachable,
                        CupsConnectionRequestsText::tr("the connection broke in the middle"));
     return std::optional(file);
 }

@@ -19,18 +19,18 @@ struct CupsConnectionTrustText {
 
 } // namespace
 
-http_status_t CupsConnection::askUntilAllowed(const char *method, const QByteArray &resource,
-                                              const std::function<http_status_t()> &ask)
+http_status_t CupsConnection::sendUntilAccepted(const char *method, const QByteArray &resource,
+                                                const std::function<http_status_t()> &ask)
 {
     // More attempts than encryption, the credentials of libcups's own and all passwords together need.
-    constexpr int mostAttempts = 20;
-    m_state->lacksPassword = false;
+    constexpr int maxAttempts = 20;
+    m_state->isPasswordMissing = false;
     for (int attempt = 1;; ++attempt) {
         if (!prepare())
             return HTTP_STATUS_ERROR;
         const http_status_t status = ask();
         noteStatus(status);
-        if (wasGivenUp() || attempt == mostAttempts || !clearTheWay(status, method, resource))
+        if (isCanceledOrTimedOut() || attempt == maxAttempts || !meetRequirement(status, method, resource))
             return status;
         if (!reconnect())
             return HTTP_STATUS_ERROR;
@@ -45,7 +45,7 @@ void CupsConnection::noteStatus(http_status_t status)
         m_state->isPasswordUnconfirmed = false;
 }
 
-bool CupsConnection::clearTheWay(http_status_t status, const char *method, const QByteArray &resource)
+bool CupsConnection::meetRequirement(http_status_t status, const char *method, const QByteArray &resource)
 {
     switch (status) {
     case HTTP_STATUS_UNAUTHORIZED:
@@ -74,7 +74,9 @@ bool CupsConnection::isTrusted()
 
 Result<void, CupsError> CupsConnection::checkCertificate() const
 {
-    const auto untrusted = [](const QString &message) { return CupsError{CupsFailure::Untrusted, message}; };
+    const auto untrusted = [](const QString &message) {
+        return CupsError{CupsErrorKind::Untrusted, message};
+    };
     const QString name = server().displayName();
     const std::optional<ServerCertificate> certificate = ServerCertificate::of(m_http.get());
     if (!certificate)
@@ -119,15 +121,15 @@ const char *CupsConnection::password(const char *prompt, http_t *http, const cha
 {
     State &state = *static_cast<State *>(data);
     const auto trust = TrustRequest::readablePassword(state.server.displayName());
-    state.wouldBeReadable =
+    state.isPasswordReadable =
         isReadable(http) && !state.server.trust->isGranted(trust, *state.task, state.server.askTrust);
-    state.lacksPassword = state.wouldBeReadable && !state.task->isCancelled();
-    if (state.wouldBeReadable)
+    state.isPasswordMissing = state.isPasswordReadable && !state.task->isCanceled();
+    if (state.isPasswordReadable)
         return nullptr;
-    constexpr int mostPasswords = 3;
-    state.refusedPasswords = state.isPasswordUnconfirmed ? state.refusedPasswords + 1 : 0;
-    if (state.refusedPasswords >= mostPasswords) {
-        state.server.passwords->refuse(state.triedPasswords);
+    constexpr int maxPasswords = 3;
+    state.rejectedPasswords = state.isPasswordUnconfirmed ? state.rejectedPasswords + 1 : 0;
+    if (state.rejectedPasswords >= maxPasswords) {
+        state.server.passwords->reject(state.triedPasswords);
         return nullptr;
     }
     QString text = QString::fromUtf8(prompt);
@@ -139,7 +141,7 @@ const char *CupsConnection::password(const char *prompt, http_t *http, const cha
         state.server.passwords->get(PasswordRequest(text, QString::fromUtf8(cupsUser())), *state.task,
                                     state.server.askPassword, state.triedPasswords);
     // Canceling the task does not count as the user's declining.
-    state.lacksPassword = !answer && !state.task->isCancelled();
+    state.isPasswordMissing = !answer && !state.task->isCanceled();
     if (!answer)
         return nullptr;
     // libcups does not copy the password.
@@ -154,20 +156,20 @@ CupsError CupsConnection::passwordError() const
 {
     const QString name = server().displayName();
     const QString user = QString::fromUtf8(cupsUser());
-    if (m_state->lacksPassword && m_state->wouldBeReadable)
+    if (m_state->isPasswordMissing && m_state->isPasswordReadable)
         return {
-            CupsFailure::NotAuthorized,
+            CupsErrorKind::NotAuthorized,
             CupsConnectionTrustText::tr(
                 "The print server \"%1\" wants a password for the user \"%2\". None was sent, because the "
                 "connection is not encrypted and others could read it. Encrypt the connection (-E), or "
                 "confirm when you are asked, in the window or on a terminal.")
                 .arg(name, user)};
     if (m_state->isPasswordUnconfirmed)
-        return {CupsFailure::NotAuthorized,
+        return {CupsErrorKind::NotAuthorized,
                 CupsConnectionTrustText::tr(
                     "The print server \"%1\" does not accept the password of the user \"%2\".")
                     .arg(name, user)};
-    return {CupsFailure::NotAuthorized,
+    return {CupsErrorKind::NotAuthorized,
             CupsConnectionTrustText::tr(
                 "The print server \"%1\" wants a password for the user \"%2\", and none was given.")
                 .arg(name, user)};

@@ -21,10 +21,10 @@ QString CupsServer::displayName() const
     return name.startsWith(u'/') ? name : QStringLiteral("%1:%2").arg(name).arg(ippPort());
 }
 
-void CupsServer::forgetRefusals() const
+void CupsServer::resetRefusals() const
 {
-    passwords->forgetRefusal();
-    trust->forgetRefusals();
+    passwords->resetRefusal();
+    trust->resetRefusals();
 }
 
 } // namespace server

@@ -19,19 +19,19 @@ inline namespace cups {
 inline namespace server {
 
 /// Why a request to a print server, or the operation that needs it, failed.
-enum class CupsFailure {
-    Unreachable,   ///< no connection: unknown host, connection refused, no encryption
+enum class CupsErrorKind {
+    Unreachable,   ///< no connection: unknown host, connection rejected, no encryption
     Silent,        ///< the server accepted the connection or the request and does not respond
     Untrusted,     ///< its certificate is not verified, or differs from the trusted one
     NotAuthorized, ///< the server requires a password, or a different one
     NotFound,      ///< the server has no such queue or job
-    Refused,       ///< the server responded with another error
+    Rejected,      ///< the server responded with another error
     BadDocument,   ///< a document cannot be read
-    Cancelled,     ///< canceled on request
+    Canceled,      ///< canceled on request
     OutcomeUnknown ///< a job may be left on the server or printed; the message describes which
 };
 /// An error with its message for the user.
-using CupsError = Failure<CupsFailure>;
+using CupsError = Failure<CupsErrorKind>;
 
 /// When a connection is encrypted.
 enum class Encryption {
@@ -65,7 +65,7 @@ struct CupsServer {
     std::optional<QString> certificates;
 
     /// Starts a new action of the user: the user may be asked again after declining.
-    void forgetRefusals() const;
+    void resetRefusals() const;
 
     /// Returns "host:port" or the path of the socket, for messages and as the name of the server's cache.
     /// Does not use the network.

@@ -16,16 +16,16 @@ void PasswordRequest::answer(const QString &user, const QString &password) const
     m_reply.give(Credentials{user.toUtf8(), password.toUtf8()});
 }
 
-void PasswordRequest::refuse() const
+void PasswordRequest::reject() const
 {
     m_reply.give(std::nullopt);
 }
 
 bool PasswordMemory::waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task)
 {
-    while (m_isAsking && !task.isCancelled())
+    while (m_isAsking && !task.isCanceled())
         m_answered.wait_for(lock, std::chrono::milliseconds(100));
-    return !task.isCancelled();
+    return !task.isCanceled();
 }
 
 std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRequest &request,
@@ -48,7 +48,7 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     lock.lock();
     m_isAsking = false;
     // Canceling the task does not count as declining.
-    m_isRefused = !answer && !task.isCancelled();
+    m_isRefused = !answer && !task.isCanceled();
     if (answer) {
         m_credentials = answer;
         tried = ++m_count;
@@ -57,7 +57,7 @@ std::optional<PasswordRequest::Credentials> PasswordMemory::get(const PasswordRe
     return answer;
 }
 
-void PasswordMemory::refuse(int tried)
+void PasswordMemory::reject(int tried)
 {
     const std::scoped_lock lock(m_mutex);
     if (tried != m_count)
@@ -66,7 +66,7 @@ void PasswordMemory::refuse(int tried)
     m_isRefused = true;
 }
 
-void PasswordMemory::forgetRefusal()
+void PasswordMemory::resetRefusal()
 {
     const std::scoped_lock lock(m_mutex);
     m_isRefused = false;

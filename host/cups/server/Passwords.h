@@ -28,7 +28,7 @@ public:
     /// Answers the request; the user name may differ from user().
     void answer(const QString &user, const QString &password) const;
     /// Declines the request: the user enters no password.
-    void refuse() const;
+    void reject() const;
 
     /// A user name and its password, in UTF-8.
     struct Credentials {
@@ -61,9 +61,9 @@ public:
     /// Records that the server has rejected the password with this count, and those before it. The password
     /// is not sent again and the user is not asked again, as if the user had declined, unless there is a
     /// newer password.
-    void refuse(int tried);
+    void reject(int tried);
     /// Starts a new action of the user, who may be asked again after declining.
-    void forgetRefusal();
+    void resetRefusal();
 
 private:
     bool waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task);

@@ -32,7 +32,7 @@ public:
     {
         std::unique_lock lock(m_state->mutex);
         // A question whose window is destroyed gets no answer; the task is canceled then.
-        while (!m_state->isGiven && !task.isCancelled())
+        while (!m_state->isGiven && !task.isCanceled())
             m_state->given.wait_for(lock, std::chrono::milliseconds(100));
         return m_state->answer;
     }

@@ -40,11 +40,11 @@ bool TrustMemory::isGranted(const TrustRequest &request, const BackgroundTask &t
 {
     const QString identifier = identifierOf(request);
     std::unique_lock lock(m_mutex);
-    while (m_isAsking && !m_granted.contains(identifier) && !task.isCancelled())
+    while (m_isAsking && !m_granted.contains(identifier) && !task.isCanceled())
         m_answered.wait_for(lock, std::chrono::milliseconds(100));
     if (m_granted.contains(identifier))
         return true;
-    if (m_refused.contains(identifier) || !ask || task.isCancelled())
+    if (m_rejected.contains(identifier) || !ask || task.isCanceled())
         return false;
     m_isAsking = true;
     lock.unlock();
@@ -53,16 +53,16 @@ bool TrustMemory::isGranted(const TrustRequest &request, const BackgroundTask &t
     lock.lock();
     m_isAsking = false;
     // Canceling the task does not count as declining.
-    if (isGranted || !task.isCancelled())
-        (isGranted ? m_granted : m_refused).insert(identifier);
+    if (isGranted || !task.isCanceled())
+        (isGranted ? m_granted : m_rejected).insert(identifier);
     m_answered.notify_all();
     return isGranted;
 }
 
-void TrustMemory::forgetRefusals()
+void TrustMemory::resetRefusals()
 {
     const std::scoped_lock lock(m_mutex);
-    m_refused.clear();
+    m_rejected.clear();
 }
 
 } // namespace server

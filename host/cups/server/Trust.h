@@ -39,7 +39,7 @@ public:
 
     /// Grants or declines the request.
     void grant() const { m_reply.give(true); }
-    void refuse() const { m_reply.give(std::nullopt); }
+    void reject() const { m_reply.give(std::nullopt); }
     /// Waits for the answer, on the thread of the connection. Returns whether the user grants it; false if
     /// the task is canceled.
     bool wait(const BackgroundTask &task) const { return m_reply.wait(task).value_or(false); }
@@ -66,7 +66,7 @@ public:
     /// user. A question that was declined is not asked again.
     bool isGranted(const TrustRequest &request, const BackgroundTask &task, const TrustHandler &ask);
     /// Starts a new action of the user, who may be asked again after declining.
-    void forgetRefusals();
+    void resetRefusals();
 
 private:
     std::mutex m_mutex;
@@ -74,7 +74,7 @@ private:
     bool m_isAsking = false;
     /// The identifiers of the answered questions; see Trust.cpp.
     QSet<QString> m_granted;
-    QSet<QString> m_refused;
+    QSet<QString> m_rejected;
 };
 
 } // namespace server

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DescriptorOutput.h"
 
-#include <platform/BrokenPipeSilence.h>
+#include <platform/BrokenPipeBlocker.h>
 
 #include <cerrno>
 
@@ -11,7 +11,7 @@ namespace diag {
 
 void writeFully(int descriptor, QByteArrayView bytes)
 {
-    platform::BrokenPipeSilence silence;
+    platform::BrokenPipeBlocker silence;
     while (!bytes.isEmpty()) {
         const ssize_t written = ::write(descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (written >= 0) {

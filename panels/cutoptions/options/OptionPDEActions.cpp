@@ -12,8 +12,8 @@
 namespace {
 
 // The range of counts for a printer that does not list its counts.
-constexpr int smallestCount = 1;
-constexpr int largestCount = 99;
+constexpr int minCount = 1;
+constexpr int maxCount = 99;
 
 int countFromTitle(const PDEChoice &choice)
 {
@@ -69,7 +69,7 @@ OptionPDE13_v400_::CountRange OptionPDE13_v400_::countRange() const
 {
     const PDEChoiceList *const counts = choices(OptionKind::CutLabel);
     if (!counts || counts->empty())
-        return {smallestCount, largestCount};
+        return {minCount, maxCount};
     return {countFromTitle(*counts->front()), countFromTitle(*counts->back())};
 }
 

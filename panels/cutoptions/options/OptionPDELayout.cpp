@@ -13,7 +13,7 @@ namespace {
 constexpr double lineHeight = 26.0;
 constexpr double firstRowFromTop = 38.0;
 constexpr double previewFromTop = 130.0;
-constexpr double smallestPanelHeight = 150.0;
+constexpr double minPanelHeight = 150.0;
 
 constexpr PresetSet tapeFamilyLacks = {PresetLabelsUncut, PresetLabelsCutAtEnd, PresetLabelsCutEvery};
 constexpr PresetSet labelFamilyLacks = {PresetTapeUncut};
@@ -55,7 +55,7 @@ void OptionPDE13_v400_::awakeFromNib()
     layOutRows(height, &hiddenHeight);
     dressPopUp();
 
-    const double panelHeight = std::max(smallestPanelHeight, height - hiddenHeight);
+    const double panelHeight = std::max(minPanelHeight, height - hiddenHeight);
     makePreview();
     setViewFrameSize(width, panelHeight);
     if (mOptionView)

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double pointsPerInch = 72.0;
 constexpr double inchesPerMillimetre = 0.0393701;
-constexpr qsizetype longestPaperName = 255; // bytes, as far as papers have ever been compared
+constexpr qsizetype maxPaperNameLength = 255; // bytes, as far as papers have ever been compared
 constexpr OSStatus noSessionData = -30891;
 
 bool isListed(const ppd_file_t *ppd, const QByteArray &name)
@@ -27,11 +27,11 @@ bool isListed(const ppd_file_t *ppd, const QByteArray &name)
     return false;
 }
 
-/// The text as UTF-8, cut after longestPaperName bytes. The longest name that a PPD can give a paper is
+/// The text as UTF-8, cut after maxPaperNameLength bytes. The longest name that a PPD can give a paper is
 /// far shorter, so a name that is cut is listed nowhere; its first letters still tell the material.
 QByteArray paperNameBytes(const std::optional<QString> &name)
 {
-    return name ? name->toUtf8().left(longestPaperName) : QByteArray();
+    return name ? name->toUtf8().left(maxPaperNameLength) : QByteArray();
 }
 
 bool beginsWithFixedLengthPrefix(const QByteArray &name)

@@ -56,7 +56,7 @@ TEST(PageOptions, ShowsWhatThePrinterDoesByItselfAndLeavesItToThePrinter)
     const host::JobSettings defaults{.copies = 3,
                                      .collate = Collate::Yes,
                                      .pageRanges = QStringLiteral("2-3"),
-                                     .order = host::PageOrder::LastFirst};
+                                     .order = host::PageOrder::Reverse};
     options.setDefaults(defaults);
     EXPECT_EQ(spy.count(), 0);
     EXPECT_EQ(copies->value(), 3);
@@ -64,7 +64,7 @@ TEST(PageOptions, ShowsWhatThePrinterDoesByItselfAndLeavesItToThePrinter)
     for (const QCheckBox *box : boxes)
         EXPECT_TRUE(box->isChecked() && box->isEnabled()) << box->text().toStdString();
     EXPECT_EQ(options.choices().value().pages, (std::vector<int>{1, 2}));
-    EXPECT_EQ(options.choices().value().order, host::PageOrder::LastFirst);
+    EXPECT_EQ(options.choices().value().order, host::PageOrder::Reverse);
     host::JobSettings written;
     options.writeTo(written);
     EXPECT_EQ(written, host::JobSettings());
@@ -78,8 +78,8 @@ TEST(PageOptions, ShowsWhatThePrinterDoesByItselfAndLeavesItToThePrinter)
     EXPECT_EQ(copies->value(), 1);
     EXPECT_FALSE(boxes[0]->isChecked());
     options.writeTo(written);
-    EXPECT_EQ(written, (host::JobSettings{
-                           .copies = 1, .pageRanges = QString(), .order = host::PageOrder::FirstFirst}));
+    EXPECT_EQ(written,
+              (host::JobSettings{.copies = 1, .pageRanges = QString(), .order = host::PageOrder::Normal}));
 }
 
 TEST(PageOptions, TakesWhatItCannotPrintAndSaysSo)
@@ -89,6 +89,6 @@ TEST(PageOptions, TakesWhatItCannotPrintAndSaysSo)
     EXPECT_EQ(options.findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)->text(),
               QStringLiteral("9"));
     EXPECT_FALSE(options.choices());
-    options.setSettings(settings(host::mostCopies + 1, Collate::Yes, {}));
-    EXPECT_EQ(options.findChild<QSpinBox *>()->value(), host::mostCopies);
+    options.setSettings(settings(host::maxCopies + 1, Collate::Yes, {}));
+    EXPECT_EQ(options.findChild<QSpinBox *>()->value(), host::maxCopies);
 }

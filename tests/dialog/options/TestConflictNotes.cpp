@@ -21,7 +21,7 @@ protected:
         ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
         ppd.value().markDefaults();
         show(std::make_unique<host::PrinterSetup>(
-            host::Destination(), std::move(ppd).value(), host::SetupWishes(),
+            host::Destination(), std::move(ppd).value(), host::SetupRequest(),
             host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle"), {}}));
     }
 

@@ -100,8 +100,8 @@ std::vector<QStringList> screens()
         QStringLiteral("dialog::job::SendBar"),
     };
     std::vector<QStringList> screens;
-    for (const char *const page :
-         {"job::JobPage", "options::OptionsPage", "job::SentPage", "window::PagePreview", "job::SummaryPage"})
+    for (const char *const page : {"job::JobPage", "options::OptionsPage", "job::TicketPage",
+                                   "window::PagePreview", "job::SummaryPage"})
         screens.push_back(mainWindow + QStringList{QStringLiteral("dialog::") + QLatin1String(page)});
     screens.push_back({QStringLiteral("dialog::job::PasswordDialog")});
     screens.push_back({QStringLiteral("dialog::job::JobWindow")});

@@ -24,7 +24,7 @@ protected:
             QStringLiteral(KV_SOURCE_DIR "/resources/ppd/%1.ppd").arg(QLatin1String(name)));
         ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
         show(std::make_unique<host::PrinterSetup>(
-            host::Destination(), std::move(ppd).value(), host::SetupWishes(),
+            host::Destination(), std::move(ppd).value(), host::SetupRequest(),
             host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle"), {}}));
     }
 
@@ -70,16 +70,16 @@ protected:
     }
 
     /// The strip, the label below it and the summary agree with the ticket.
-    void expectOneTruth(const std::string &after) const
+    void expectAgreement(const std::string &after) const
     {
         const host::Ticket ticket =
             host::ticketFor(*keeper->setup(), *document(), {ticketSettings(), {}, window->ticket()->pages});
         const host::CutPlan plan =
             host::makePlan(ticket, *document(), host::LabelRenderer(*document(), ticket.paper->size));
-        const QString words = host::cutPlanFigures(plan) + u' ' + host::cutPlanSentences(plan).join(u' ');
+        const QString words = host::cutPlanFigures(plan) + u' ' + host::cutPlanDescription(plan).join(u' ');
         EXPECT_EQ(stripInWords(), words) << after;
         EXPECT_EQ(line(QStringLiteral("Label strip"), QStringLiteral("Cuts")),
-                  host::cutPlanSentences(plan).join(u' '))
+                  host::cutPlanDescription(plan).join(u' '))
             << after;
         EXPECT_EQ(window->ticket()->panel, ticket.panel) << after;
         if (inTicket("KvHalfCut").isEmpty())
@@ -112,12 +112,12 @@ TEST_F(OneTruthTest, APictureOfThePopUpIsSeenEverywhereAndStaysThroughAVisit)
         for (int index = 0; index < presets()->count(); ++index) {
             pickPreset(index);
             const std::string after = std::string(sample) + " preset " + std::to_string(index);
-            expectOneTruth(after);
+            expectAgreement(after);
             const host::PanelSettings chosen = window->ticket()->panel;
             chooseTab("Summary");
-            expectOneTruth(after + ", summary");
+            expectAgreement(after + ", summary");
             chooseTab("Cut Options");
-            expectOneTruth(after + ", back");
+            expectAgreement(after + ", back");
             EXPECT_EQ(window->ticket()->panel, chosen) << after;
         }
         window->print();
@@ -133,7 +133,7 @@ TEST_F(OneTruthTest, APictureChosenByKeyIsSeenToo)
     for (int index = 0; index < presets()->count(); ++index) {
         QTest::keyClick(presets(), index == 0 ? Qt::Key_Home : Qt::Key_Down);
         QApplication::processEvents();
-        expectOneTruth("key " + std::to_string(index));
+        expectAgreement("key " + std::to_string(index));
         seen.insert(stripInWords());
     }
     EXPECT_GT(seen.size(), 2U);
@@ -152,7 +152,7 @@ TEST_F(OneTruthTest, AnAutomaticCutThatTheOtherBoxKeepsIsShown)
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
     EXPECT_TRUE(stripInWords().contains(QStringLiteral("Full cut after every")))
         << stripInWords().toStdString();
-    expectOneTruth("cut every off");
+    expectAgreement("cut every off");
 }
 
 TEST_F(OneTruthTest, HeatShrinkPaperIsShownWithoutTheCutsThatItCannotHave)
@@ -165,12 +165,12 @@ TEST_F(OneTruthTest, HeatShrinkPaperIsShownWithoutTheCutsThatItCannotHave)
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("OFF"));
     EXPECT_FALSE(stripInWords().contains(QStringLiteral("Full cut after every")))
         << stripInWords().toStdString();
-    expectOneTruth("heat shrink");
+    expectAgreement("heat shrink");
     EXPECT_FALSE(keeper->setup()->replacedChoices().isEmpty());
     choosePaper([&](const host::PpdPaper &paper) { return paper.name == first; });
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
     EXPECT_TRUE(keeper->setup()->replacedChoices().isEmpty());
-    expectOneTruth("back");
+    expectAgreement("back");
 }
 
 TEST_F(OneTruthTest, ABoxToggledByAScreenReaderIsOneThatTheUserClicked)
@@ -183,7 +183,7 @@ TEST_F(OneTruthTest, ABoxToggledByAScreenReaderIsOneThatTheUserClicked)
     QApplication::processEvents();
     EXPECT_TRUE(mirror->isChecked());
     EXPECT_EQ(inTicket("KvMirror"), QByteArray("ON"));
-    expectOneTruth("toggled");
+    expectAgreement("toggled");
     chooseTab("Page preview");
     chooseTab("Cut Options");
     EXPECT_TRUE(mirror->isChecked());
@@ -255,7 +255,7 @@ TEST_F(OneTruthTest, TheHeatShrinkWarningComesBeforeTheChoiceIsMarked)
     EXPECT_EQ(markedMeanwhile, QStringLiteral("OFF"));
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
     EXPECT_EQ(state->ppd().markedChoice(QStringLiteral("KvAutoTapeCut")), QStringLiteral("ON"));
-    expectOneTruth("after the warning");
+    expectAgreement("after the warning");
 }
 
 TEST_F(OneTruthTest, APresetPickedWhileTheDialogIsAboutToRefreshCountsToo)
@@ -278,7 +278,7 @@ TEST_F(OneTruthTest, APresetPickedWhileTheDialogIsAboutToRefreshCountsToo)
     QApplication::processEvents();
     EXPECT_EQ(inTicket("KvAutoTapeCut"), QByteArray("ON"));
     EXPECT_EQ(state->ppd().markedChoice(QStringLiteral("KvAutoTapeCut")), QStringLiteral("ON"));
-    expectOneTruth("pending");
+    expectAgreement("pending");
 }
 
 TEST_F(OneTruthTest, APanelThatLosesItsViewLeavesADialogThatCloses)

@@ -51,7 +51,7 @@ TEST_F(PrintDialogTest, ThePagesOfALongDocumentAreCheckedBeforeAnybodyWaitsForIt
     ASSERT_TRUE(opened) << opened.error().message.toStdString();
     const std::shared_ptr<const host::LabelDocument> document = std::move(opened).value();
     host::SetupKeeper printer(makeSetup({}));
-    dialog::PrintDialog print(document, printer, sender, dialog::DialogWishes());
+    dialog::PrintDialog print(document, printer, sender, dialog::RequestedSettings());
     print.show();
     EXPECT_TRUE(test_support::waitUntil([&] { return document->isPageSizeKnown(4'999); }));
 }
@@ -63,7 +63,7 @@ TEST_F(PrintDialogTest, BlankIsMeasuredAndDrawnWithoutTheMainThread)
     const std::shared_ptr<const host::LabelDocument> document = std::move(opened).value();
     keeper = std::make_unique<host::SetupKeeper>(
         makeSetup(QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle")));
-    window = std::make_unique<dialog::PrintDialog>(document, *keeper, sender, dialog::DialogWishes());
+    window = std::make_unique<dialog::PrintDialog>(document, *keeper, sender, dialog::RequestedSettings());
     window->show();
     awaitStrip();
     for (int time = 0; time < 3; ++time) {
@@ -217,7 +217,7 @@ TEST_F(PrintDialogTest, ASearchFindsPapersAndChangesNothing)
     auto ppd = host::PpdFile::open(sandbox.path(QStringLiteral("many.ppd")));
     ASSERT_TRUE(ppd) << ppd.error().message.toStdString();
     show(std::make_unique<host::PrinterSetup>(host::Destination(), std::move(ppd).value(),
-                                              host::SetupWishes(), host::PanelSource()));
+                                              host::SetupRequest(), host::PanelSource()));
     auto *const search = find<QLineEdit>(QStringLiteral("Search papers"));
     auto *const papers = find<QListWidget>(QStringLiteral("Paper"));
     ASSERT_TRUE(search && search->isVisible());

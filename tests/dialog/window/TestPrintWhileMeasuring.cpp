@@ -35,7 +35,7 @@ protected:
         auto document = host::LabelDocument::open(documentPath);
         ASSERT_TRUE(document) << document.error().message.toStdString();
         window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *keeper, jobSender,
-                                                       dialog::DialogWishes());
+                                                       dialog::RequestedSettings());
         window->show();
     }
 

@@ -5,7 +5,7 @@
 #include <dialog/window/StripPreview.h>
 #include <host/base/Units.h>
 #include <host/documents/BlankMeasurer.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
 #include <tests/samples/SamplePdf.h>
 

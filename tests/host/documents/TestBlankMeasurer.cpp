@@ -4,7 +4,7 @@
 #include <host/documents/BlankMeasurer.h>
 #include <host/documents/InkSpan.h>
 #include <host/documents/LabelRenderer.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
 #include <tests/samples/SamplePdf.h>
 
@@ -280,7 +280,7 @@ TEST_F(BlankMeasurerTest, NoLengthIsStatedBeforeItIsMeasured)
     EXPECT_FALSE(early.isMeasured());
     EXPECT_EQ(host::cutPlanFigures(early),
               QStringLiteral("Labels: 4 \u00b7 Pieces: 2 \u00b7 Tape: measuring\u2026"));
-    EXPECT_EQ(host::tapeInWords(early), QStringLiteral("measuring\u2026"));
+    EXPECT_EQ(host::tapeText(early), QStringLiteral("measuring\u2026"));
     const QJsonObject json = host::cutPlanJson(early);
     EXPECT_TRUE(json.value(QStringLiteral("tapeUsed")).isNull());
     for (const char *const list : {"labels", "pieces"}) {
@@ -289,7 +289,7 @@ TEST_F(BlankMeasurerTest, NoLengthIsStatedBeforeItIsMeasured)
     }
     const host::CutPlan whole = planOf(*renderer, 4, false);
     EXPECT_TRUE(whole.isMeasured()) << "lengths that do not depend on the blank are known at once";
-    EXPECT_EQ(host::tapeInWords(whole), QStringLiteral("242 mm"));
+    EXPECT_EQ(host::tapeText(whole), QStringLiteral("242 mm"));
 
     gate.open();
     renderer->measurer()->finish();

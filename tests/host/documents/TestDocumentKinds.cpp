@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-using host::DocumentFailure;
+using host::DocumentErrorKind;
 using host::LabelDocument;
 
 namespace {
@@ -121,7 +121,7 @@ TEST_F(DocumentKinds, SayWhenThereIsNoRoomForTemporaryFiles)
     qputenv("TMPDIR", "/proc");
     const auto document = LabelDocument::open(write("one.png", encoded(corners(96, 96), "png")));
     ASSERT_FALSE(document);
-    EXPECT_EQ(document.error().kind, DocumentFailure::NotStored);
+    EXPECT_EQ(document.error().kind, DocumentErrorKind::NotStored);
     EXPECT_TRUE(document.error().message.contains(QStringLiteral("/proc")));
 }
 
@@ -129,7 +129,7 @@ TEST_F(DocumentKinds, NeedAName)
 {
     const auto document = LabelDocument::open(QStringList());
     ASSERT_FALSE(document);
-    EXPECT_EQ(document.error().kind, DocumentFailure::Missing);
+    EXPECT_EQ(document.error().kind, DocumentErrorKind::Missing);
 }
 
 TEST_F(DocumentKinds, ImagesAreAsLargeAsTheirResolutionSays)
@@ -296,14 +296,14 @@ TEST_F(DocumentKinds, StandardInputIsCalledByItsName)
     struct Row {
         QStringList names;
         QByteArray content;
-        DocumentFailure kind;
+        DocumentErrorKind kind;
     };
     const QString input = QStringLiteral("-");
     const Row rows[] = {
-        {{input}, "", DocumentFailure::Empty},
-        {{input}, "Dear printer", DocumentFailure::UnknownKind},
-        {{input}, "%PDF-1.4\n", DocumentFailure::Damaged},
-        {{input, input}, handWrittenPdf({"[0 0 72 36]"}), DocumentFailure::InputTaken},
+        {{input}, "", DocumentErrorKind::Empty},
+        {{input}, "Dear printer", DocumentErrorKind::UnknownKind},
+        {{input}, "%PDF-1.4\n", DocumentErrorKind::Damaged},
+        {{input, input}, handWrittenPdf({"[0 0 72 36]"}), DocumentErrorKind::InputTaken},
     };
     for (const Row &row : rows) {
         const InputFrom from(row.content);
@@ -321,6 +321,6 @@ TEST_F(DocumentKinds, StandardInputHasALimit)
     const InputFrom input(QByteArray(1000, 'x'));
     const auto file = host::readStandardInput(999);
     ASSERT_FALSE(file);
-    EXPECT_EQ(file.error().kind, DocumentFailure::TooLarge);
+    EXPECT_EQ(file.error().kind, DocumentErrorKind::TooLarge);
     EXPECT_TRUE(temporary.entries().isEmpty());
 }

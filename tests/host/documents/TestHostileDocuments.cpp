@@ -16,20 +16,20 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using host::DocumentFailure;
+using host::DocumentErrorKind;
 using host::LabelDocument;
 
 namespace {
 
 constexpr double pixel = 72.0 / 96.0;
 
-struct Refused {
+struct Rejected {
     const char *name;
     QByteArray content;
-    DocumentFailure kind;
+    DocumentErrorKind kind;
 };
 
-void expectRefused(const Refused &row)
+void expectError(const Rejected &row)
 {
     const Sandbox sandbox;
     const Sandbox temporary;
@@ -130,20 +130,20 @@ TEST(HostileDocuments, BytesTurnedAround)
 
 TEST(HostileDocuments, Images)
 {
-    const Refused rows[] = {
-        {"60000 x 60000", claimingPng(60000, 60000), DocumentFailure::TooLarge},
-        {"a million wide", claimingPng(1'000'000, 1'000), DocumentFailure::TooLarge},
-        {"2 billion wide", claimingPng(0x7FFFFFFF, 1), DocumentFailure::Damaged},
-        {"more than can be decoded", claimingPng(7'000, 6'000), DocumentFailure::TooLarge},
-        {"no width", claimingPng(0, 10), DocumentFailure::Damaged},
-        {"no pixels", claimingPng(100, 100), DocumentFailure::Damaged},
-        {"a dot a metre", encoded(corners(100, 100, 1, 1), "png"), DocumentFailure::BadPage},
+    const Rejected rows[] = {
+        {"60000 x 60000", claimingPng(60000, 60000), DocumentErrorKind::TooLarge},
+        {"a million wide", claimingPng(1'000'000, 1'000), DocumentErrorKind::TooLarge},
+        {"2 billion wide", claimingPng(0x7FFFFFFF, 1), DocumentErrorKind::Damaged},
+        {"more than can be decoded", claimingPng(7'000, 6'000), DocumentErrorKind::TooLarge},
+        {"no width", claimingPng(0, 10), DocumentErrorKind::Damaged},
+        {"no pixels", claimingPng(100, 100), DocumentErrorKind::Damaged},
+        {"a dot a metre", encoded(corners(100, 100, 1, 1), "png"), DocumentErrorKind::BadPage},
         {"too many dots a metre", encoded(corners(100, 100, 2'000'000'000, 3780), "png"),
-         DocumentFailure::BadPage},
-        {"only a head", encoded(corners(10, 10), "jpeg").first(20), DocumentFailure::Damaged},
+         DocumentErrorKind::BadPage},
+        {"only a head", encoded(corners(10, 10), "jpeg").first(20), DocumentErrorKind::Damaged},
     };
-    for (const Refused &row : rows)
-        expectRefused(row);
+    for (const Rejected &row : rows)
+        expectError(row);
     EXPECT_LT(peakMemory(), 1024LL * 1024 * 1024);
 }
 
@@ -166,46 +166,46 @@ TEST(HostileDocuments, Svgs)
 {
     const QByteArray box = R"(width="40" height="40")";
     const QByteArray innerSvg = svg(box, R"(<image xlink:href="/etc/hostname" width="9" height="9"/>)");
-    const Refused rows[] = {
-        {"html", "<!DOCTYPE html><html><body/></html>", DocumentFailure::UnknownKind},
-        {"no XML", "<<<", DocumentFailure::UnknownKind},
-        {"two roots", svg(box) + svg(box).mid(svg(box).indexOf("<svg")), DocumentFailure::Damaged},
-        {"zero wide", svg(R"(width="0" height="40")"), DocumentFailure::BadPage},
-        {"less than nothing", svg(R"(width="-4" height="40")"), DocumentFailure::BadPage},
-        {"nothing drawn", svg("", ""), DocumentFailure::BadPage},
+    const Rejected rows[] = {
+        {"html", "<!DOCTYPE html><html><body/></html>", DocumentErrorKind::UnknownKind},
+        {"no XML", "<<<", DocumentErrorKind::UnknownKind},
+        {"two roots", svg(box) + svg(box).mid(svg(box).indexOf("<svg")), DocumentErrorKind::Damaged},
+        {"zero wide", svg(R"(width="0" height="40")"), DocumentErrorKind::BadPage},
+        {"less than nothing", svg(R"(width="-4" height="40")"), DocumentErrorKind::BadPage},
+        {"nothing drawn", svg("", ""), DocumentErrorKind::BadPage},
         {"a view box of nothing", svg(R"(width="40" height="40" viewBox="0 0 0 0")"),
-         DocumentFailure::BadPage},
-        {"ten metres", svg(R"(width="10000mm" height="40")"), DocumentFailure::BadPage},
-        {"enormous", svg(R"(width="1e30" height="1e30")"), DocumentFailure::BadPage},
-        {"infinite", svg(R"(width="1e999" height="1e999")"), DocumentFailure::BadPage},
-        {"enormous view box", svg(R"(viewBox="0 0 1e300 1e300")"), DocumentFailure::BadPage},
+         DocumentErrorKind::BadPage},
+        {"ten metres", svg(R"(width="10000mm" height="40")"), DocumentErrorKind::BadPage},
+        {"enormous", svg(R"(width="1e30" height="1e30")"), DocumentErrorKind::BadPage},
+        {"infinite", svg(R"(width="1e999" height="1e999")"), DocumentErrorKind::BadPage},
+        {"enormous view box", svg(R"(viewBox="0 0 1e300 1e300")"), DocumentErrorKind::BadPage},
         {"a file", svg(box, R"(<image xlink:href="/etc/hostname" width="9" height="9"/>)"),
-         DocumentFailure::NeedsOthers},
+         DocumentErrorKind::NeedsOthers},
         {"a file by URL", svg(box, R"(<image href="file:///dev/zero" width="9" height="9"/>)"),
-         DocumentFailure::NeedsOthers},
+         DocumentErrorKind::NeedsOthers},
         {"the network", svg(box, R"(<image href="http://localhost/x.png" width="9" height="9"/>)"),
-         DocumentFailure::NeedsOthers},
-        {"another drawing", svg(box, R"(<use href="other.svg#a"/>)"), DocumentFailure::NeedsOthers},
+         DocumentErrorKind::NeedsOthers},
+        {"another drawing", svg(box, R"(<use href="other.svg#a"/>)"), DocumentErrorKind::NeedsOthers},
         {"a style sheet",
          "<?xml-stylesheet href=\"/etc/hostname\" type=\"text/css\"?>" +
              svg(box).mid(svg(box).indexOf("<svg")),
-         DocumentFailure::NeedsOthers},
+         DocumentErrorKind::NeedsOthers},
         {"a file in a picture",
          svg(box, "<image href=\"data:image/png;base64," + innerSvg.toBase64() + "\" width='9' height='9'/>"),
-         DocumentFailure::UnknownKind},
+         DocumentErrorKind::UnknownKind},
         {"an enormous picture",
          svg(box, "<image href=\"data:image/png;base64," + claimingPng(60000, 60000).toBase64() + "\"/>"),
-         DocumentFailure::TooLarge},
+         DocumentErrorKind::TooLarge},
         {"a file as entity",
          withDeclarations("<!ENTITY x SYSTEM \"file:///etc/hostname\">", svg(box, "<text>&x;</text>")),
-         DocumentFailure::NeedsOthers},
-        {"entities in entities", entityBomb(), DocumentFailure::Damaged},
+         DocumentErrorKind::NeedsOthers},
+        {"entities in entities", entityBomb(), DocumentErrorKind::Damaged},
         {"deep", svg(box, QByteArray("<g>").repeated(100'000) + QByteArray("</g>").repeated(100'000)),
-         DocumentFailure::TooLarge},
-        {"many", svg(box, QByteArray("<g/>").repeated(600'000)), DocumentFailure::TooLarge},
+         DocumentErrorKind::TooLarge},
+        {"many", svg(box, QByteArray("<g/>").repeated(600'000)), DocumentErrorKind::TooLarge},
     };
-    for (const Refused &row : rows)
-        expectRefused(row);
+    for (const Rejected &row : rows)
+        expectError(row);
 }
 
 TEST(HostileDocuments, SvgsThatAreDrawnInBoundedTime)
@@ -245,7 +245,8 @@ TEST(HostileDocuments, PipesFoldersAndDevices)
          {pipe, sandbox.path({}), QStringLiteral("/dev/zero"), QStringLiteral("/dev/tty")}) {
         const auto document = LabelDocument::open(QStringList{good, path});
         ASSERT_FALSE(document) << path.toStdString();
-        EXPECT_EQ(document.error().kind, DocumentFailure::NotAFile) << document.error().message.toStdString();
+        EXPECT_EQ(document.error().kind, DocumentErrorKind::NotAFile)
+            << document.error().message.toStdString();
         EXPECT_TRUE(document.error().message.contains(path));
     }
 }
@@ -276,7 +277,7 @@ TEST(HostileDocuments, TenThousandPagesOpenAtOnce)
     for (int time = 0; time < 2; ++time) {
         const auto problem = document.value()->checkForPrinting();
         ASSERT_TRUE(problem);
-        EXPECT_EQ(problem->kind, DocumentFailure::BadPage);
+        EXPECT_EQ(problem->kind, DocumentErrorKind::BadPage);
         EXPECT_TRUE(problem->message.contains(QStringLiteral("page 9001 ")))
             << problem->message.toStdString();
     }
@@ -308,7 +309,7 @@ TEST(HostileDocuments, AFileThatShrinksOrChangesIsNotPrinted)
         EXPECT_TRUE(document.value()->pageSize(1'950).isValid());
         const auto problem = document.value()->checkForPrinting();
         ASSERT_TRUE(problem);
-        EXPECT_EQ(problem->kind, DocumentFailure::Changed);
+        EXPECT_EQ(problem->kind, DocumentErrorKind::Changed);
         EXPECT_TRUE(problem->message.contains(path));
     }
 }

@@ -9,7 +9,7 @@
 
 #include <sys/stat.h>
 
-using host::DocumentFailure;
+using host::DocumentErrorKind;
 using host::LabelDocument;
 using host::LabelRenderer;
 using host::MeasureBlank;
@@ -21,7 +21,7 @@ constexpr double mm = host::pointsPerMillimetre;
 struct BadDocument {
     const char *name;
     QByteArray content;
-    DocumentFailure kind;
+    DocumentErrorKind kind;
 };
 
 std::unique_ptr<LabelDocument> openPages(const Sandbox &sandbox, const std::vector<SamplePage> &pages)
@@ -53,13 +53,13 @@ TEST(LabelDocument, RefusesWithTheReason)
                                   ") /U (" + QByteArray(32, 'u') +
                                   ") >> /ID [(0123456789abcdef) (0123456789abcdef)]";
     const BadDocument rows[] = {
-        {"empty", "", DocumentFailure::Empty},
-        {"text", "Dear printer, please print.", DocumentFailure::UnknownKind},
-        {"only the head", "%PDF-1.4\n", DocumentFailure::Damaged},
-        {"no pages", handWrittenPdf({}), DocumentFailure::Empty},
-        {"encrypted", handWrittenPdf({"[0 0 100 100]"}, encryption), DocumentFailure::Encrypted},
-        {"a sliver", handWrittenPdf({"[0 0 100 100]", "[0 0 100 0.5]"}), DocumentFailure::BadPage},
-        {"ten metres", handWrittenPdf({"[0 0 100 28346]"}), DocumentFailure::BadPage},
+        {"empty", "", DocumentErrorKind::Empty},
+        {"text", "Dear printer, please print.", DocumentErrorKind::UnknownKind},
+        {"only the head", "%PDF-1.4\n", DocumentErrorKind::Damaged},
+        {"no pages", handWrittenPdf({}), DocumentErrorKind::Empty},
+        {"encrypted", handWrittenPdf({"[0 0 100 100]"}, encryption), DocumentErrorKind::Encrypted},
+        {"a sliver", handWrittenPdf({"[0 0 100 100]", "[0 0 100 0.5]"}), DocumentErrorKind::BadPage},
+        {"ten metres", handWrittenPdf({"[0 0 100 28346]"}), DocumentErrorKind::BadPage},
     };
     const Sandbox sandbox;
     for (const BadDocument &row : rows) {
@@ -79,15 +79,15 @@ TEST(LabelDocument, RefusesWhatIsNoReadableFile)
     const Sandbox sandbox;
     const auto missing = LabelDocument::open(sandbox.path(QStringLiteral("absent.pdf")));
     ASSERT_FALSE(missing);
-    EXPECT_EQ(missing.error().kind, DocumentFailure::Missing);
+    EXPECT_EQ(missing.error().kind, DocumentErrorKind::Missing);
     const auto folder = LabelDocument::open(sandbox.path(QStringLiteral(".")));
     ASSERT_FALSE(folder);
-    EXPECT_EQ(folder.error().kind, DocumentFailure::NotAFile);
+    EXPECT_EQ(folder.error().kind, DocumentErrorKind::NotAFile);
     const QString pipe = sandbox.path(QStringLiteral("pipe"));
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
     const auto fromPipe = LabelDocument::open(pipe);
     ASSERT_FALSE(fromPipe);
-    EXPECT_EQ(fromPipe.error().kind, DocumentFailure::NotAFile);
+    EXPECT_EQ(fromPipe.error().kind, DocumentErrorKind::NotAFile);
 }
 
 TEST(LabelDocument, NamesThePageThatIsWrong)

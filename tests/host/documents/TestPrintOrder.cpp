@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 using host::Collate;
-using host::PageRangeFailure;
+using host::PageRangeErrorKind;
 
 TEST(PageRanges, NamePagesOnceAndInOrder)
 {
@@ -34,13 +34,13 @@ TEST(PageRanges, NamePagesOnceAndInOrder)
 
 TEST(PageRanges, RefuseWithAReason)
 {
-    const std::pair<const char *, PageRangeFailure> rows[] = {
-        {"0", PageRangeFailure::OutOfDocument},     {"6", PageRangeFailure::OutOfDocument},
-        {"4-6", PageRangeFailure::OutOfDocument},   {"6-", PageRangeFailure::OutOfDocument},
-        {"3-2", PageRangeFailure::NotUnderstood},   {"one", PageRangeFailure::NotUnderstood},
-        {"1,,2", PageRangeFailure::NotUnderstood},  {"-3", PageRangeFailure::NotUnderstood},
-        {"1-2-3", PageRangeFailure::NotUnderstood}, {"99999999999", PageRangeFailure::NotUnderstood},
-        {",", PageRangeFailure::NotUnderstood},
+    const std::pair<const char *, PageRangeErrorKind> rows[] = {
+        {"0", PageRangeErrorKind::OutOfDocument},     {"6", PageRangeErrorKind::OutOfDocument},
+        {"4-6", PageRangeErrorKind::OutOfDocument},   {"6-", PageRangeErrorKind::OutOfDocument},
+        {"3-2", PageRangeErrorKind::NotUnderstood},   {"one", PageRangeErrorKind::NotUnderstood},
+        {"1,,2", PageRangeErrorKind::NotUnderstood},  {"-3", PageRangeErrorKind::NotUnderstood},
+        {"1-2-3", PageRangeErrorKind::NotUnderstood}, {"99999999999", PageRangeErrorKind::NotUnderstood},
+        {",", PageRangeErrorKind::NotUnderstood},
     };
     for (const auto &[text, kind] : rows) {
         const auto pages = host::parsePageRanges(QLatin1String(text), {5});
@@ -83,10 +83,9 @@ TEST(PrintOrder, GoesSetBySetOrLabelByLabel)
     EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
     EXPECT_TRUE(host::printOrder({}, 3, Collate::Yes).empty());
     using host::PageOrder;
-    EXPECT_EQ(host::printOrder({{0, 2}, {3, 4}}, 2, Collate::Yes, PageOrder::LastFirst),
+    EXPECT_EQ(host::printOrder({{0, 2}, {3, 4}}, 2, Collate::Yes, PageOrder::Reverse),
               (std::vector<int>{2, 0, 2, 0, 4, 3, 4, 3}));
-    EXPECT_EQ(host::printOrder({{0, 2}}, 2, Collate::No, PageOrder::LastFirst),
-              (std::vector<int>{2, 2, 0, 0}));
+    EXPECT_EQ(host::printOrder({{0, 2}}, 2, Collate::No, PageOrder::Reverse), (std::vector<int>{2, 2, 0, 0}));
 }
 
 TEST(PageRanges, ApplyToEveryDocumentByItself)
@@ -109,7 +108,7 @@ TEST(PageRanges, ApplyToEveryDocumentByItself)
     for (const char *const text : {"6", "3-6", "0"}) {
         const auto pages = host::parsePageRanges(QLatin1String(text), counts);
         ASSERT_FALSE(pages) << text;
-        EXPECT_EQ(pages.error().kind, PageRangeFailure::OutOfDocument) << text;
+        EXPECT_EQ(pages.error().kind, PageRangeErrorKind::OutOfDocument) << text;
     }
 }
 

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-using host::BundleFailure;
+using host::BundleErrorKind;
 using host::PanelBundle;
 
 namespace {
@@ -36,7 +36,7 @@ QString bundleWithFiles(const Sandbox &sandbox, const char *name, const QStringL
 
 struct Refusal {
     const char *bundle;
-    BundleFailure kind;
+    BundleErrorKind kind;
     const char *reason;
 };
 
@@ -73,10 +73,10 @@ TEST(PanelBundle, AnotherMakersPanelAppliesTheUsersChoices)
 TEST(PanelBundle, RefusesOthersWithTheReason)
 {
     const Refusal rows[] = {
-        {"other_version", BundleFailure::WrongInterfaceVersion, "version 9"},
-        {"other_interface", BundleFailure::NotABundle, "no library of panels"},
-        {"refusing", BundleFailure::Unusable, "does not work on this system"},
-        {"needs_files", BundleFailure::ResourceMissing, "Resources/Layout.ui, Resources/Picture.png"},
+        {"other_version", BundleErrorKind::WrongInterfaceVersion, "version 9"},
+        {"other_interface", BundleErrorKind::NotABundle, "no library of panels"},
+        {"refusing", BundleErrorKind::Unusable, "does not work on this system"},
+        {"needs_files", BundleErrorKind::ResourceMissing, "Resources/Layout.ui, Resources/Picture.png"},
     };
     for (const Refusal &row : rows) {
         const auto bundle = PanelBundle::load(bundleFolder(row.bundle), {});
@@ -108,13 +108,13 @@ TEST(PanelBundle, RefusesFoldersWithoutALoadableLibrary)
     ASSERT_TRUE(QDir().mkpath(folder));
     const auto empty = PanelBundle::load(folder, {});
     ASSERT_FALSE(empty);
-    EXPECT_EQ(empty.error().kind, BundleFailure::NotABundle);
+    EXPECT_EQ(empty.error().kind, BundleErrorKind::NotABundle);
     EXPECT_TRUE(empty.error().message.contains(QStringLiteral("KVLXDZOptions.so")));
 
     sandbox.write(QStringLiteral("KVLXDZOptions.bundle/KVLXDZOptions.so"), "no library at all");
     const auto rubbish = PanelBundle::load(folder, {});
     ASSERT_FALSE(rubbish);
-    EXPECT_EQ(rubbish.error().kind, BundleFailure::NotABundle);
+    EXPECT_EQ(rubbish.error().kind, BundleErrorKind::NotABundle);
     EXPECT_TRUE(rubbish.error().message.contains(folder));
 }
 
@@ -127,12 +127,12 @@ TEST(PanelBundle, FindsTheFolderItselfOrTheOneThatHoldsIt)
 
     const auto missing = PanelBundle::find(sandbox.path(QStringLiteral("nowhere")));
     ASSERT_FALSE(missing);
-    EXPECT_EQ(missing.error().kind, BundleFailure::Missing);
+    EXPECT_EQ(missing.error().kind, BundleErrorKind::Missing);
     EXPECT_TRUE(missing.error().message.contains(QStringLiteral("nowhere")));
 
     const auto file = PanelBundle::find(sandbox.write(QStringLiteral("file"), "x"));
     ASSERT_FALSE(file);
-    EXPECT_EQ(file.error().kind, BundleFailure::NotABundle);
+    EXPECT_EQ(file.error().kind, BundleErrorKind::NotABundle);
 }
 
 TEST(PanelBundle, SaysWhereItLookedWhenNothingWasAskedFor)
@@ -140,6 +140,6 @@ TEST(PanelBundle, SaysWhereItLookedWhenNothingWasAskedFor)
     // The test programs have no bundle beside them.
     const auto found = PanelBundle::find(std::nullopt);
     ASSERT_FALSE(found);
-    EXPECT_EQ(found.error().kind, BundleFailure::Missing);
+    EXPECT_EQ(found.error().kind, BundleErrorKind::Missing);
     EXPECT_EQ(found.error().message.count(PanelBundle::folderName), 2) << found.error().message.toStdString();
 }

@@ -11,7 +11,7 @@
 #include <cups/file.h>
 #include <sys/stat.h>
 
-using host::PpdFailure;
+using host::PpdErrorKind;
 using host::PpdFile;
 
 namespace {
@@ -34,7 +34,7 @@ QByteArray cutAfter(const QByteArray &text)
 struct BadPpd {
     const char *name;
     QByteArray content;
-    PpdFailure kind;
+    PpdErrorKind kind;
     const char *reason;
 };
 
@@ -43,15 +43,16 @@ struct BadPpd {
 TEST(PpdFile, RefusesWithTheReasonAndTheLine)
 {
     const BadPpd rows[] = {
-        {"empty", "", PpdFailure::NotAPpd, "it is empty"},
-        {"picture", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\"", 17), PpdFailure::NotAPpd, "line 1: "},
-        {"text", "Dear printer,\nplease print.\n", PpdFailure::NotAPpd,
+        {"empty", "", PpdErrorKind::NotAPpd, "it is empty"},
+        {"picture", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\"", 17), PpdErrorKind::NotAPpd, "line 1: "},
+        {"text", "Dear printer,\nplease print.\n", PpdErrorKind::NotAPpd,
          "line 1: Missing asterisk in column 1"},
-        {"other statements", "*Recipe: \"tea\"\n", PpdFailure::NotAPpd,
+        {"other statements", "*Recipe: \"tea\"\n", PpdErrorKind::NotAPpd,
          "line 1: Missing PPD-Adobe-4.x header"},
-        {"a stray line", "*PPD-Adobe: \"4.3\"\n*NickName: \"x\"\nstray\n", PpdFailure::NotAPpd,
+        {"a stray line", "*PPD-Adobe: \"4.3\"\n*NickName: \"x\"\nstray\n", PpdErrorKind::NotAPpd,
          "line 3: Missing asterisk"},
-        {"cut in a value", cutAfter("*NickName: \"Kvel"), PpdFailure::Truncated, "in the middle of a value"},
+        {"cut in a value", cutAfter("*NickName: \"Kvel"), PpdErrorKind::Truncated,
+         "in the middle of a value"},
     };
     const Sandbox sandbox;
     for (const BadPpd &row : rows) {
@@ -91,23 +92,23 @@ TEST(PpdFile, RefusesWhatIsNoReadableFile)
     const Sandbox sandbox;
     const auto missing = PpdFile::open(sandbox.path(QStringLiteral("absent.ppd")));
     ASSERT_FALSE(missing);
-    EXPECT_EQ(missing.error().kind, PpdFailure::Missing);
+    EXPECT_EQ(missing.error().kind, PpdErrorKind::Missing);
 
     const auto folder = PpdFile::open(sandbox.path(QStringLiteral(".")));
     ASSERT_FALSE(folder);
-    EXPECT_EQ(folder.error().kind, PpdFailure::NotAFile);
+    EXPECT_EQ(folder.error().kind, PpdErrorKind::NotAFile);
 
     const QString pipe = sandbox.path(QStringLiteral("pipe"));
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
     const auto fromPipe = PpdFile::open(pipe);
     ASSERT_FALSE(fromPipe);
-    EXPECT_EQ(fromPipe.error().kind, PpdFailure::NotAFile);
+    EXPECT_EQ(fromPipe.error().kind, PpdErrorKind::NotAFile);
 
     // A path through a file, since the administrator may read whatever permissions say.
     sandbox.write(QStringLiteral("plain"), "x");
     const auto through = PpdFile::open(sandbox.path(QStringLiteral("plain/under.ppd")));
     ASSERT_FALSE(through);
-    EXPECT_EQ(through.error().kind, PpdFailure::Missing);
+    EXPECT_EQ(through.error().kind, PpdErrorKind::Missing);
 }
 
 TEST(PpdFile, RefusesHugeFilesPlainAndPacked)
@@ -117,7 +118,7 @@ TEST(PpdFile, RefusesHugeFilesPlainAndPacked)
     ASSERT_TRUE(plain.open(QIODevice::WriteOnly) && plain.resize(50 * 1024 * 1024));
     const auto fromPlain = PpdFile::open(plain.fileName());
     ASSERT_FALSE(fromPlain);
-    EXPECT_EQ(fromPlain.error().kind, PpdFailure::TooLarge);
+    EXPECT_EQ(fromPlain.error().kind, PpdErrorKind::TooLarge);
     EXPECT_TRUE(fromPlain.error().message.contains(QStringLiteral("larger than 16 MB")));
 
     const QString packed = sandbox.path(QStringLiteral("huge.ppd.gz"));
@@ -125,7 +126,7 @@ TEST(PpdFile, RefusesHugeFilesPlainAndPacked)
     EXPECT_LT(QFile(packed).size(), 100'000);
     const auto fromPacked = PpdFile::open(packed);
     ASSERT_FALSE(fromPacked);
-    EXPECT_EQ(fromPacked.error().kind, PpdFailure::TooLarge);
+    EXPECT_EQ(fromPacked.error().kind, PpdErrorKind::TooLarge);
 }
 
 TEST(PpdFile, OpensGzipAndNoticesWhenItsEndIsMissing)
@@ -141,7 +142,7 @@ TEST(PpdFile, OpensGzipAndNoticesWhenItsEndIsMissing)
     for (const qsizetype length : {whole.size() / 2, whole.size() - 8, whole.size() - 1}) {
         const auto cut = PpdFile::open(sandbox.write(QStringLiteral("cut.ppd.gz"), whole.left(length)));
         ASSERT_FALSE(cut) << length << " of " << whole.size();
-        EXPECT_EQ(cut.error().kind, PpdFailure::Truncated) << cut.error().message.toStdString();
+        EXPECT_EQ(cut.error().kind, PpdErrorKind::Truncated) << cut.error().message.toStdString();
     }
 }
 

@@ -8,7 +8,7 @@
 #include <functional>
 
 using host::PpdCounts;
-using host::PpdFailure;
+using host::PpdErrorKind;
 using host::PpdFile;
 
 namespace {
@@ -65,7 +65,7 @@ TEST(PpdLimits, RefusalsNameTheFileTheCountAndTheMaximum)
         const QString path = sandbox.write(QStringLiteral("many.ppd"), ppdWith(count, row.line));
         const auto ppd = PpdFile::open(path);
         ASSERT_FALSE(ppd);
-        EXPECT_EQ(ppd.error().kind, PpdFailure::TooLarge);
+        EXPECT_EQ(ppd.error().kind, PpdErrorKind::TooLarge);
         // The two options that every one of these PPDs begins with are counted too.
         const int all = QByteArray(row.keyword) == "*OpenUI" ? count + 2 : count;
         EXPECT_EQ(
@@ -87,7 +87,7 @@ TEST(PpdLimits, OfAllStatementsTogether)
                                        }));
     const auto ppd = PpdFile::open(path);
     ASSERT_FALSE(ppd);
-    EXPECT_EQ(ppd.error().kind, PpdFailure::TooLarge);
+    EXPECT_EQ(ppd.error().kind, PpdErrorKind::TooLarge);
     EXPECT_TRUE(
         ppd.error().message.endsWith(QStringLiteral("it has 150004 statements; the maximum is 150000")))
         << ppd.error().message.toStdString();

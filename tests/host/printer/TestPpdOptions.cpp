@@ -50,8 +50,8 @@ TEST_F(PpdOptionsTest, ReadsGroupsOptionsAndKinds)
     const auto darkness = options.option("Darkness");
     EXPECT_EQ(darkness->kind, PpdOptionKind::PickOne);
     EXPECT_EQ(darkness->choices.size(), 3U);
-    EXPECT_EQ(darkness->freeText, QStringLiteral("Own darkness"));
-    EXPECT_FALSE(options.option("Twins")->freeText);
+    EXPECT_EQ(darkness->customText, QStringLiteral("Own darkness"));
+    EXPECT_FALSE(options.option("Twins")->customText);
     EXPECT_FALSE(options.option("Nothing"));
 }
 
@@ -123,7 +123,7 @@ TEST_F(PpdOptionsTest, AnOptionOfTwoGroupsDoesNotKeepThePpdFromOpening)
 TEST_F(PpdOptionsTest, TranslatesFreeChoicesAndTheirParameters)
 {
     ppd.localize(QStringLiteral("de"));
-    EXPECT_EQ(PpdOptions(ppd).option("Darkness")->freeText, QStringLiteral("Eigener Wert"));
+    EXPECT_EQ(PpdOptions(ppd).option("Darkness")->customText, QStringLiteral("Eigener Wert"));
     EXPECT_EQ(PpdOptions(ppd).parameters("Darkness").front().text, QStringLiteral("Stärke (Prozent)"));
 }
 
@@ -138,7 +138,7 @@ TEST_F(PpdOptionsTest, WritesFreeTextsAsLibcupsReadsThem)
     for (const auto &[text, value] : rows) {
         auto parameters = PpdOptions(ppd).parameters("Stamp");
         parameters.front().characters = QString::fromUtf8(text);
-        EXPECT_EQ(host::freeChoiceValue(parameters), QByteArray(value));
+        EXPECT_EQ(host::customChoiceValue(parameters), QByteArray(value));
         ppd.mark(QStringLiteral("Stamp"), QStringLiteral("Off"));
         ppd.mark(QStringLiteral("Stamp"), QString::fromUtf8(value));
         EXPECT_EQ(PpdOptions(ppd).parameters("Stamp").front().characters, QString::fromUtf8(text));
@@ -155,7 +155,7 @@ TEST_F(PpdOptionsTest, WritesSeveralParametersAsLibcupsReadsThem)
     parameters[3].characters = QStringLiteral("a \"b\"");
     parameters[4].number = 0.1;
     parameters[5].number = 3;
-    const QByteArray value = host::freeChoiceValue(parameters);
+    const QByteArray value = host::customChoiceValue(parameters);
     EXPECT_EQ(value,
               QByteArray("{Left=12.35mm Gain=-0.125 Key=0123 Secret=\"a \\\"b\\\"\" Bend=0.1 Back=3}"));
     ppd.mark(QStringLiteral("Offset"), QString::fromUtf8(value));
@@ -164,7 +164,7 @@ TEST_F(PpdOptionsTest, WritesSeveralParametersAsLibcupsReadsThem)
         EXPECT_NEAR(read[i].number, parameters[i].number, 1e-4) << read[i].name.toStdString();
         EXPECT_EQ(read[i].characters, parameters[i].characters) << read[i].name.toStdString();
     }
-    EXPECT_EQ(host::freeChoiceValue(read), value);
+    EXPECT_EQ(host::customChoiceValue(read), value);
 }
 
 TEST_F(PpdOptionsTest, MarksExactlyTheListedOfSeveral)

@@ -10,18 +10,18 @@
 
 #include <algorithm>
 
-using host::ChoiceFailure;
+using host::ChoiceErrorKind;
 using host::JobChoice;
 using host::Origin;
 using host::PrinterSetup;
-using host::SetupWishes;
+using host::SetupRequest;
 using test_support::PpdBuilder;
 
 namespace {
 
 class PrinterSetupTest : public testing::Test {
 protected:
-    std::unique_ptr<PrinterSetup> make(const PpdBuilder &ppd, const SetupWishes &wishes = {},
+    std::unique_ptr<PrinterSetup> make(const PpdBuilder &ppd, const SetupRequest &requested = {},
                                        const host::Destination &destination = {}) const
     {
         const QString path = folder.filePath(QStringLiteral("printer.ppd"));
@@ -29,7 +29,7 @@ protected:
         auto opened = host::PpdFile::open(path);
         if (!opened)
             qFatal("%s", qPrintable(opened.error().message));
-        return std::make_unique<PrinterSetup>(destination, std::move(opened).value(), wishes, source);
+        return std::make_unique<PrinterSetup>(destination, std::move(opened).value(), requested, source);
     }
 
     static const JobChoice *find(const PrinterSetup &setup, const QByteArray &name)
@@ -56,7 +56,7 @@ protected:
         host::LabelDocument::open(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"));
 };
 
-JobChoice wish(const char *name, const char *value)
+JobChoice requestedChoice(const char *name, const char *value)
 {
     return {name, value, Origin::You};
 }
@@ -66,10 +66,11 @@ JobChoice wish(const char *name, const char *value)
 TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
 {
     const auto setup =
-        make(PpdBuilder().allOptions(), {{wish("KvMirror", "ON"), wish("KvCutLabel", "7")}, "36mm"});
+        make(PpdBuilder().allOptions(),
+             {{requestedChoice("KvMirror", "ON"), requestedChoice("KvCutLabel", "7")}, "36mm"});
     ASSERT_TRUE(setup->panel());
     EXPECT_EQ(setup->claimedKeywords().size(), 9);
-    EXPECT_TRUE(setup->refusals().empty());
+    EXPECT_TRUE(setup->choiceErrors().empty());
     EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("ON"));
     EXPECT_EQ(marked(*setup, "PageSize"), QStringLiteral("36mm"));
     EXPECT_EQ(setup->paper()->name, QByteArray("36mm"));
@@ -82,16 +83,17 @@ TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
 
 TEST_F(PrinterSetupTest, WhatThePrinterLacksIsRefusedByName)
 {
-    const auto setup =
-        make(PpdBuilder().options({"KvMirror", "KvHalfCut"}),
-             {{wish("KvMirror", "SIDEWAYS"), wish("NoSuch", "ON"), wish("KvHalfCut", "ON")}, "A4"});
-    ASSERT_EQ(setup->refusals().size(), 3U);
-    EXPECT_EQ(setup->refusals()[0].kind, ChoiceFailure::UnknownChoice);
-    EXPECT_TRUE(setup->refusals()[0].message.contains(QStringLiteral("\"SIDEWAYS\"")));
-    EXPECT_EQ(setup->refusals()[1].kind, ChoiceFailure::UnknownOption);
-    EXPECT_TRUE(setup->refusals()[1].message.contains(QStringLiteral("\"NoSuch\"")));
-    EXPECT_EQ(setup->refusals()[2].kind, ChoiceFailure::UnknownPaper);
-    EXPECT_TRUE(setup->refusals()[2].message.contains(QStringLiteral("\"A4\"")));
+    const auto setup = make(PpdBuilder().options({"KvMirror", "KvHalfCut"}),
+                            {{requestedChoice("KvMirror", "SIDEWAYS"), requestedChoice("NoSuch", "ON"),
+                              requestedChoice("KvHalfCut", "ON")},
+                             "A4"});
+    ASSERT_EQ(setup->choiceErrors().size(), 3U);
+    EXPECT_EQ(setup->choiceErrors()[0].kind, ChoiceErrorKind::UnknownChoice);
+    EXPECT_TRUE(setup->choiceErrors()[0].message.contains(QStringLiteral("\"SIDEWAYS\"")));
+    EXPECT_EQ(setup->choiceErrors()[1].kind, ChoiceErrorKind::UnknownOption);
+    EXPECT_TRUE(setup->choiceErrors()[1].message.contains(QStringLiteral("\"NoSuch\"")));
+    EXPECT_EQ(setup->choiceErrors()[2].kind, ChoiceErrorKind::UnknownPaper);
+    EXPECT_TRUE(setup->choiceErrors()[2].message.contains(QStringLiteral("\"A4\"")));
     EXPECT_EQ(setup->paper()->name, QByteArray("24mm"));
     EXPECT_EQ(marked(*setup, "KvHalfCut"), QStringLiteral("ON"));
     EXPECT_FALSE(find(*setup, "NoSuch"));
@@ -99,10 +101,10 @@ TEST_F(PrinterSetupTest, WhatThePrinterLacksIsRefusedByName)
 
 TEST_F(PrinterSetupTest, ForcedWishesAreKeptAsTheyAre)
 {
-    SetupWishes wishes{{wish("NoSuch", "ON")}, "A4"};
-    wishes.force = true;
-    const auto setup = make(PpdBuilder().options({"KvMirror"}), wishes);
-    EXPECT_EQ(setup->refusals().size(), 2U);
+    SetupRequest requested{{requestedChoice("NoSuch", "ON")}, "A4"};
+    requested.force = true;
+    const auto setup = make(PpdBuilder().options({"KvMirror"}), requested);
+    EXPECT_EQ(setup->choiceErrors().size(), 2U);
     ASSERT_TRUE(find(*setup, "NoSuch"));
     ASSERT_TRUE(find(*setup, "PageSize"));
     EXPECT_EQ(find(*setup, "PageSize")->value, QByteArray("A4"));
@@ -125,8 +127,8 @@ TEST_F(PrinterSetupTest, AClickOnThePanelIsRecordedAsThePanels)
 
 TEST_F(PrinterSetupTest, ThePanelsRulesHoldForWishesToo)
 {
-    const auto setup =
-        make(PpdBuilder().allOptions(), {{wish("KvSpecialTape", "ON"), wish("KvHalfCut", "ON")}});
+    const auto setup = make(PpdBuilder().allOptions(),
+                            {{requestedChoice("KvSpecialTape", "ON"), requestedChoice("KvHalfCut", "ON")}});
     const host::Ticket ticket = ticketOf(*setup);
     EXPECT_FALSE(ticket.panel.error);
     const auto option = [&](const char *name) {
@@ -201,12 +203,12 @@ TEST_F(PrinterSetupTest, ADefaultPaperOfTheUsersThatThePrinterLacksIsRefused)
     destination.queueOptions = {{"media", "36mm"}};
     destination.userOptions = {{"PageSize", "Bogus"}};
     struct Row {
-        SetupWishes wishes;
+        SetupRequest requested;
         QStringList refused;
         const char *sent;
         Origin origin;
     };
-    SetupWishes forced;
+    SetupRequest forced;
     forced.force = true;
     const QString bogus = QStringLiteral("\"Bogus\", which is your default (lpoptions)");
     const Row rows[] = {
@@ -216,12 +218,12 @@ TEST_F(PrinterSetupTest, ADefaultPaperOfTheUsersThatThePrinterLacksIsRefused)
         {forced, {bogus}, "Bogus", Origin::UserDefault},
     };
     for (const Row &row : rows) {
-        const auto setup = make(PpdBuilder().options({"KvMirror"}), row.wishes, destination);
-        ASSERT_EQ(setup->refusals().size(), static_cast<std::size_t>(row.refused.size())) << row.sent;
+        const auto setup = make(PpdBuilder().options({"KvMirror"}), row.requested, destination);
+        ASSERT_EQ(setup->choiceErrors().size(), static_cast<std::size_t>(row.refused.size())) << row.sent;
         for (const QString &words : row.refused) {
-            EXPECT_EQ(setup->refusals()[0].kind, ChoiceFailure::UnknownPaper);
-            EXPECT_TRUE(setup->refusals()[0].message.contains(words))
-                << setup->refusals()[0].message.toStdString();
+            EXPECT_EQ(setup->choiceErrors()[0].kind, ChoiceErrorKind::UnknownPaper);
+            EXPECT_TRUE(setup->choiceErrors()[0].message.contains(words))
+                << setup->choiceErrors()[0].message.toStdString();
         }
         const host::JobTicket job = ticketOf(*setup).job;
         const auto paper = std::ranges::find(job.options, QByteArray("PageSize"), &host::JobOption::name);
@@ -245,10 +247,11 @@ TEST_F(PrinterSetupTest, WithoutAPpdEverythingIsPassedOn)
 {
     host::Destination destination;
     destination.queue = QStringLiteral("plain");
-    const PrinterSetup setup(destination, std::nullopt, {{wish("Anything", "Goes")}, "A4"}, source);
+    const PrinterSetup setup(destination, std::nullopt, {{requestedChoice("Anything", "Goes")}, "A4"},
+                             source);
     EXPECT_FALSE(setup.hasPpd());
     EXPECT_FALSE(setup.panel());
-    EXPECT_FALSE(setup.panelProblem());
+    EXPECT_FALSE(setup.panelError());
     EXPECT_FALSE(setup.paper());
     EXPECT_TRUE(ticketOf(setup).conflicts.empty());
     ASSERT_EQ(setup.choices().size(), 2U);
@@ -260,7 +263,7 @@ TEST_F(PrinterSetupTest, APrinterWithoutCutOptionsHasNoPanelAndNoProblem)
 {
     const auto setup = make(PpdBuilder().option("Other"));
     EXPECT_FALSE(setup->panel());
-    EXPECT_FALSE(setup->panelProblem());
+    EXPECT_FALSE(setup->panelError());
     EXPECT_EQ(setup->panelSettings(), host::PanelSettings());
 }
 
@@ -271,8 +274,8 @@ TEST_F(PrinterSetupTest, ABundleThatIsNotThereIsAProblemToTell)
     auto ppd = host::PpdFile::open(path);
     ASSERT_TRUE(ppd);
     const PrinterSetup setup({}, std::move(ppd).value(), {}, {QStringLiteral("/nowhere"), {}});
-    ASSERT_TRUE(setup.panelProblem());
-    EXPECT_EQ(setup.panelProblem()->kind, host::PanelFailure::NoPanel);
-    EXPECT_TRUE(setup.panelProblem()->message.contains(QStringLiteral("/nowhere")));
+    ASSERT_TRUE(setup.panelError());
+    EXPECT_EQ(setup.panelError()->kind, host::PanelErrorKind::NoPanel);
+    EXPECT_TRUE(setup.panelError()->message.contains(QStringLiteral("/nowhere")));
     EXPECT_FALSE(setup.panel());
 }

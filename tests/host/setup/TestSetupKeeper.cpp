@@ -13,7 +13,7 @@
 
 #include <algorithm>
 
-using host::PpdKnowledge;
+using host::PpdState;
 using host::QueueSession;
 using host::SetupKeeper;
 using test_support::PpdBuilder;
@@ -38,30 +38,29 @@ protected:
         cupsd->addRawQueue(QStringLiteral("plain"));
     }
 
-    void open(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
+    void open(const std::optional<QString> &wanted, const host::SetupRequest &requested = {})
     {
         keeper.reset();
         session.reset();
         test_support::awaitBackgroundThreads();
         session = std::make_unique<QueueSession>(server, wanted);
-        keeper = std::make_unique<SetupKeeper>(*session, source, wishes);
+        keeper = std::make_unique<SetupKeeper>(*session, source, requested);
         failures.clear();
         QObject::connect(session.get(), &QueueSession::failed, keeper.get(),
                          [this](const host::CupsError &error) { failures.append(error.message); });
     }
 
     /// Opens the destination and waits until the server has reported everything.
-    void openAndSettle(const std::optional<QString> &wanted, const host::SetupWishes &wishes = {})
+    void openAndSettle(const std::optional<QString> &wanted, const host::SetupRequest &requested = {})
     {
-        open(wanted, wishes);
+        open(wanted, requested);
         session->start(host::Discovery::No);
         EXPECT_TRUE(waitUntil([this] { return session->isSettled() && knows(); }));
     }
 
     bool knows() const
     {
-        return session->ppdKnowledge() == PpdKnowledge::Current ||
-               session->ppdKnowledge() == PpdKnowledge::Absent;
+        return session->ppdState() == PpdState::Current || session->ppdState() == PpdState::Absent;
     }
 
     QByteArray chosen(const char *name) const
@@ -105,10 +104,10 @@ TEST_F(SetupKeeperTest, TheSecondTimeItIsThereBeforeAnybodyIsAsked)
     open(QStringLiteral("tape"));
     ASSERT_TRUE(keeper->setup());
     EXPECT_TRUE(keeper->setup()->panel());
-    EXPECT_EQ(session->ppdKnowledge(), PpdKnowledge::Cached);
+    EXPECT_EQ(session->ppdState(), PpdState::Cached);
     const host::PrinterSetup *const before = keeper->setup();
     session->start(host::Discovery::No);
-    ASSERT_TRUE(waitUntil([this] { return session->ppdKnowledge() == PpdKnowledge::Current; }));
+    ASSERT_TRUE(waitUntil([this] { return session->ppdState() == PpdState::Current; }));
     // Nothing is new, so nothing on the screen jumps.
     EXPECT_EQ(keeper->setup(), before);
 }
@@ -138,7 +137,7 @@ TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
     EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
     EXPECT_EQ(keeper->setup()->paper()->name, QByteArray("36mm"));
     EXPECT_EQ(chosen("KvCutMark"), QByteArray("(none)"));
-    const std::vector<host::ChoiceError> &lost = keeper->setup()->refusals();
+    const std::vector<host::ChoiceError> &lost = keeper->setup()->choiceErrors();
     ASSERT_EQ(lost.size(), 1U);
     EXPECT_TRUE(lost.front().message.contains(QStringLiteral("KvCutMark")))
         << lost.front().message.toStdString();
@@ -149,21 +148,21 @@ TEST_F(SetupKeeperTest, AnotherPpdKeepsWhatWasSetAndTellsWhatIsLost)
     session->start(host::Discovery::No);
     ASSERT_TRUE(waitUntil([&] { return ended > endedBefore && keeper->setup() && knows(); }));
     EXPECT_EQ(chosen("KvCutMark"), QByteArray("ON"));
-    EXPECT_TRUE(keeper->setup()->refusals().empty());
+    EXPECT_TRUE(keeper->setup()->choiceErrors().empty());
 }
 
 TEST_F(SetupKeeperTest, ARefusedWishIsNotForgottenWhenThePpdComesAgain)
 {
-    host::SetupWishes wishes{{{"KvCutMark", "ON"}, {"KvMirror", "ON"}}, "36mm-wide"};
+    host::SetupRequest requested{{{"KvCutMark", "ON"}, {"KvMirror", "ON"}}, "36mm-wide"};
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvMirror"}).ppd());
-    openAndSettle(QStringLiteral("tape"), wishes);
-    ASSERT_EQ(keeper->setup()->refusals().size(), 2U);
+    openAndSettle(QStringLiteral("tape"), requested);
+    ASSERT_EQ(keeper->setup()->choiceErrors().size(), 2U);
     cupsd->addQueue(QStringLiteral("tape"), PpdBuilder().options({"KvMirror", "KvHalfCut"}).ppd());
     int ended = 0;
     QObject::connect(keeper.get(), &SetupKeeper::setupAboutToEnd, [&] { ++ended; });
     session->start(host::Discovery::No);
     ASSERT_TRUE(waitUntil([&] { return ended > 0 && keeper->setup(); }));
-    EXPECT_EQ(keeper->setup()->refusals().size(), 2U);
+    EXPECT_EQ(keeper->setup()->choiceErrors().size(), 2U);
     EXPECT_EQ(chosen("KvMirror"), QByteArray("ON"));
 }
 

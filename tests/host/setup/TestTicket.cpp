@@ -28,17 +28,18 @@ using Choices = std::map<QByteArray, QByteArray>;
 
 class TicketTest : public testing::Test {
 protected:
-    std::unique_ptr<PrinterSetup> open(const QString &path, const host::SetupWishes &wishes = {}) const
+    std::unique_ptr<PrinterSetup> open(const QString &path, const host::SetupRequest &requested = {}) const
     {
         auto ppd = host::PpdFile::open(path);
         if (!ppd)
             qFatal("%s", qPrintable(ppd.error().message));
-        return std::make_unique<PrinterSetup>(host::Destination(), std::move(ppd).value(), wishes,
+        return std::make_unique<PrinterSetup>(host::Destination(), std::move(ppd).value(), requested,
                                               host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}});
     }
-    std::unique_ptr<PrinterSetup> sample(const char *name, const host::SetupWishes &wishes = {}) const
+    std::unique_ptr<PrinterSetup> sample(const char *name, const host::SetupRequest &requested = {}) const
     {
-        return open(QStringLiteral(KV_SOURCE_DIR "/resources/ppd/%1.ppd").arg(QLatin1String(name)), wishes);
+        return open(QStringLiteral(KV_SOURCE_DIR "/resources/ppd/%1.ppd").arg(QLatin1String(name)),
+                    requested);
     }
     std::unique_ptr<PrinterSetup> make(const PpdBuilder &ppd) const
     {
@@ -109,7 +110,7 @@ protected:
     QTemporaryDir folder;
     const host::Result<std::unique_ptr<host::LabelDocument>, host::DocumentError> document =
         host::LabelDocument::open(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"));
-    host::JobDraft draft{{}, QStringLiteral("title"), {{0, 1, 2}, 2, host::Collate::Yes}};
+    host::JobRequest draft{{}, QStringLiteral("title"), {{0, 1, 2}, 2, host::Collate::Yes}};
 };
 
 } // namespace

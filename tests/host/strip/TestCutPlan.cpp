@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <host/strip/CutPlan.h>
-#include <host/strip/CutPlanWords.h>
+#include <host/strip/CutPlanText.h>
 #include <tests/samples/SamplePpd.h>
 
 #include <QJsonArray>
@@ -201,7 +201,7 @@ TEST(CutPlan, OfNothingIsEmpty)
     EXPECT_TRUE(plan.labels().empty());
     EXPECT_TRUE(plan.pieces().empty());
     EXPECT_FALSE(plan.isEndHeld());
-    EXPECT_EQ(host::cutPlanSentences(plan), QStringList{QStringLiteral("Nothing is printed.")});
+    EXPECT_EQ(host::cutPlanDescription(plan), QStringList{QStringLiteral("Nothing is printed.")});
 }
 
 TEST(CutPlan, CountsTapeWithoutAMarginThatThePrinterDoesNotTell)
@@ -239,16 +239,16 @@ TEST(CutPlan, SaysInWordsWhatHappens)
     };
     for (const Row &row : rows) {
         const QStringList said =
-            host::cutPlanSentences(CutPlan::make(row.settings, pagesInTurn(4), extents, 2.0));
+            host::cutPlanDescription(CutPlan::make(row.settings, pagesInTurn(4), extents, 2.0));
         EXPECT_EQ(said.contains(QLatin1String(row.sentence)), row.said)
             << row.sentence << " in: " << said.join(u' ').toStdString();
     }
     const CutPlan plan =
         CutPlan::make({.automaticCut = true, .labelsPerCut = 2}, pagesInTurn(4), extents, 2.0);
     EXPECT_EQ(host::cutPlanFigures(plan), QStringLiteral("Labels: 4 \u00b7 Pieces: 2 \u00b7 Tape: 214.8 mm"));
-    EXPECT_EQ(host::lengthInWords(60.0), QStringLiteral("60 mm"));
-    EXPECT_EQ(host::lengthInWords(59.96), QStringLiteral("60 mm"));
-    EXPECT_EQ(host::lengthInWords(0.25), QStringLiteral("0.3 mm"));
+    EXPECT_EQ(host::lengthText(60.0), QStringLiteral("60 mm"));
+    EXPECT_EQ(host::lengthText(59.96), QStringLiteral("60 mm"));
+    EXPECT_EQ(host::lengthText(0.25), QStringLiteral("0.3 mm"));
 }
 
 TEST(CutPlan, TellsProgramsTheSame)
@@ -277,7 +277,7 @@ TEST(CutPlan, SaysNothingAboutTheCutsOfAPrinterThatDoesNotDescribeThem)
     const CutPlan plan = CutPlan::make({.areKnown = false}, order, extents, std::nullopt);
     EXPECT_EQ(cutPlanFigures(plan), QStringLiteral("Labels: 2 \u00b7 Tape: 120 mm"));
     EXPECT_EQ(
-        cutPlanSentences(plan),
+        cutPlanDescription(plan),
         QStringList{QStringLiteral("The printer's description does not say whether it cuts the labels.")});
 }
 

@@ -21,7 +21,7 @@
 
 using host::Collate;
 using host::LabelDocument;
-using host::OutputFailure;
+using host::OutputErrorKind;
 using host::VirtualPrinter;
 
 namespace {
@@ -200,12 +200,12 @@ TEST_F(VirtualPrinterTest, SaysWhenItCannotWrite)
     const QString file = sandbox.write(QStringLiteral("file"), "x");
     const auto onFile = print(plan(), file);
     ASSERT_FALSE(onFile);
-    EXPECT_EQ(onFile.error().kind, OutputFailure::NoFolder);
+    EXPECT_EQ(onFile.error().kind, OutputErrorKind::NoFolder);
     EXPECT_TRUE(onFile.error().message.contains(file)) << onFile.error().message.toStdString();
 
     const auto under = print(plan(), file + QStringLiteral("/under"));
     ASSERT_FALSE(under);
-    EXPECT_EQ(under.error().kind, OutputFailure::NoFolder);
+    EXPECT_EQ(under.error().kind, OutputErrorKind::NoFolder);
     EXPECT_EQ(read(QStringLiteral("file")), "x");
 }
 
@@ -215,7 +215,7 @@ TEST_F(VirtualPrinterTest, LeavesNothingWhenOneFileCannotBePlaced)
     ASSERT_TRUE(QDir().mkpath(folder + QStringLiteral("/job.json")));
     const auto printed = print(plan(), folder, picture());
     ASSERT_FALSE(printed);
-    EXPECT_EQ(printed.error().kind, OutputFailure::NotWritten);
+    EXPECT_EQ(printed.error().kind, OutputErrorKind::NotWritten);
     EXPECT_TRUE(printed.error().message.contains(QStringLiteral("job.json")))
         << printed.error().message.toStdString();
     EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -243,7 +243,7 @@ TEST_F(VirtualPrinterTest, FollowsNoLinks)
     ASSERT_TRUE(QFile::link(victim, folder + QStringLiteral("/job.json")));
     const auto printed = print(plan(), folder);
     ASSERT_FALSE(printed);
-    EXPECT_EQ(printed.error().kind, OutputFailure::NotWritten);
+    EXPECT_EQ(printed.error().kind, OutputErrorKind::NotWritten);
     EXPECT_TRUE(printed.error().message.contains(QStringLiteral("job.json\": it is a symbolic link")))
         << printed.error().message.toStdString();
     EXPECT_EQ(read(QStringLiteral("victim")), "x");
@@ -310,9 +310,9 @@ TEST(OutputFiles, TakeBackNothingThatTheyHaveNotMade)
 
 TEST(VirtualPrinter, EveryJobGetsAFolderOfItsOwn)
 {
-    const QString first = VirtualPrinter::freshFolder();
+    const QString first = VirtualPrinter::unusedFolder();
     ASSERT_TRUE(QDir().mkpath(first));
-    const QString second = VirtualPrinter::freshFolder();
+    const QString second = VirtualPrinter::unusedFolder();
     EXPECT_NE(first, second);
     EXPECT_FALSE(QFileInfo::exists(second));
 }

@@ -79,7 +79,7 @@ protected:
         return file.errorString();
     }
     /// Writing is refused with the words, and what is there stays.
-    void expectRefused(const QString &path, const char *words) const
+    void expectError(const QString &path, const char *words) const
     {
         const struct stat before = statusOf(path);
         const QStringList entriesBefore = entries();
@@ -191,7 +191,7 @@ TEST_P(OutputFileTest, TakesATimeOfModification)
     OutputFile file(path("new"));
     ASSERT_TRUE(file.write([](QIODevice *device) { return device->write(newContent) > 0; }));
     ASSERT_TRUE(file.commit(modified));
-    EXPECT_TRUE(file.hasPlacedFile());
+    EXPECT_TRUE(file.hasCreatedFile());
     EXPECT_EQ(statusOf(path("new")).st_mtim.tv_sec, modified.toSecsSinceEpoch());
 }
 
@@ -199,7 +199,7 @@ TEST_P(OutputFileTest, ADeviceIsWrittenToAndStays)
 {
     const FullDevice full(path("full"));
     const QString device = full.path();
-    expectRefused(device, strerror(ENOSPC));
+    expectError(device, strerror(ENOSPC));
     EXPECT_EQ(write(device, QByteArray()), QString()) << "nothing fits even into a full device";
     EXPECT_TRUE(S_ISCHR(statusOf(device).st_mode));
 }
@@ -211,7 +211,7 @@ TEST_P(OutputFileTest, ALinkToADeviceIsWrittenThroughAndStays)
     const FullDevice full(path("full"));
     const QString device = full.path();
     const QString link = makeLink("link", device);
-    expectRefused(link, strerror(ENOSPC));
+    expectError(link, strerror(ENOSPC));
     EXPECT_EQ(write(link, QByteArray()), QString());
     EXPECT_TRUE(S_ISLNK(statusOf(link).st_mode));
     EXPECT_TRUE(S_ISCHR(statusOf(device).st_mode));
@@ -220,12 +220,12 @@ TEST_P(OutputFileTest, ALinkToADeviceIsWrittenThroughAndStays)
 TEST_P(OutputFileTest, AFifoIsWrittenToAndStays)
 {
     makeFifo(path("fifo"));
-    expectRefused(path("fifo"), "no program reads from it");
+    expectError(path("fifo"), "no program reads from it");
     const FifoReader reader(path("fifo"));
     OutputFile file(path("fifo"));
     ASSERT_TRUE(file.write([](QIODevice *device) { return device->write(newContent) > 0; }));
     ASSERT_TRUE(file.commit()) << file.errorString().toStdString();
-    EXPECT_FALSE(file.hasPlacedFile());
+    EXPECT_FALSE(file.hasCreatedFile());
     EXPECT_EQ(reader.read(), newContent);
     EXPECT_TRUE(S_ISFIFO(statusOf(path("fifo")).st_mode));
 }
@@ -267,7 +267,7 @@ TEST_P(OutputFileTest, LinksAreRefusedWhateverTheyLeadTo)
     const QString targets[] = {makeFile("file"), path("nothing"), path("fifo"), folder->path()};
     for (const QString &target : targets) {
         const QString link = makeLink("link", target);
-        expectRefused(link, "it is a symbolic link");
+        expectError(link, "it is a symbolic link");
         ASSERT_TRUE(QFile::remove(link));
     }
     EXPECT_EQ(contentOf(path("file")), oldContent);
@@ -285,8 +285,8 @@ TEST_P(OutputFileTest, FoldersAboveMayBeLinks)
 TEST_P(OutputFileTest, FoldersSocketsAndBlockDevicesAreRefused)
 {
     ASSERT_TRUE(QDir().mkdir(path("folder")));
-    expectRefused(path("folder"), "it is a folder");
-    expectRefused(path("folder/"), "it is a folder");
+    expectError(path("folder"), "it is a folder");
+    expectError(path("folder/"), "it is a folder");
 
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
@@ -296,10 +296,10 @@ TEST_P(OutputFileTest, FoldersSocketsAndBlockDevicesAreRefused)
     const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
     ::close(socket);
-    expectRefused(path("socket"), "it is a socket");
+    expectError(path("socket"), "it is a socket");
 
     if (::mknod(QFile::encodeName(path("block")).constData(), S_IFBLK | 0600, makedev(7, 250)) == 0)
-        expectRefused(path("block"), "it is a block device");
+        expectError(path("block"), "it is a block device");
 }
 
 TEST_P(OutputFileTest, WhatComesMeanwhileIsNotReplaced)
@@ -330,17 +330,17 @@ TEST_P(OutputFileTest, AFileThatMayNotBeWrittenToIsNotReplaced)
         EXPECT_EQ(contentOf(target), newContent);
         return;
     }
-    expectRefused(target, strerror(EACCES));
+    expectError(target, strerror(EACCES));
     EXPECT_EQ(contentOf(target), oldContent);
 }
 
 TEST_P(OutputFileTest, NamesThatNameNoFileAreRefused)
 {
-    expectRefused(QString(), strerror(ENOENT));
-    expectRefused(path("no/such/folder"), strerror(ENOENT));
-    expectRefused(path("no/"), strerror(ENOENT));
+    expectError(QString(), strerror(ENOENT));
+    expectError(path("no/such/folder"), strerror(ENOENT));
+    expectError(path("no/"), strerror(ENOENT));
     const QString cut = path("cut");
-    expectRefused(cut + QChar(QChar::Null) + QStringLiteral(".png"), strerror(EINVAL));
+    expectError(cut + QChar(QChar::Null) + QStringLiteral(".png"), strerror(EINVAL));
     EXPECT_EQ(entries(), QStringList());
 }
 
@@ -348,16 +348,16 @@ TEST_P(OutputFileTest, FoldersAreMadeForThisUserOnly)
 {
     for (const mode_t mask : {0000U, 0022U, 0777U}) {
         const UmaskScope scope(mask);
-        const auto problem = platform::makePrivateFolders(path("a/b/../c/"));
+        const auto problem = platform::createPrivateFolders(path("a/b/../c/"));
         EXPECT_FALSE(problem) << problem->toStdString();
         for (const char *const made : {"a", "a/b", "a/c"})
             EXPECT_EQ(permissionsOf(path(made)), 0700U) << made << mask;
         QDir(path("a")).removeRecursively();
     }
     ASSERT_EQ(::chmod(QFile::encodeName(folder->path()).constData(), 0755), 0);
-    EXPECT_FALSE(platform::makePrivateFolders(path("a")));
+    EXPECT_FALSE(platform::createPrivateFolders(path("a")));
     EXPECT_EQ(permissionsOf(folder->path()), 0755U) << "a folder that is there stays as it is";
     makeFile("file");
-    EXPECT_EQ(platform::makePrivateFolders(path("file")), QLatin1String(strerror(ENOTDIR)));
-    EXPECT_EQ(platform::makePrivateFolders(path("file/below")), QLatin1String(strerror(ENOTDIR)));
+    EXPECT_EQ(platform::createPrivateFolders(path("file")), QLatin1String(strerror(ENOTDIR)));
+    EXPECT_EQ(platform::createPrivateFolders(path("file/below")), QLatin1String(strerror(ENOTDIR)));
 }

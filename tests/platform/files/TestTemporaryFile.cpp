@@ -30,7 +30,7 @@ protected:
         return QDir(folder.path())
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
     }
-    void removeLeftOvers() const { TemporaryFile::removeLeftOvers(folder.path()); }
+    void removeLeftovers() const { TemporaryFile::removeLeftovers(folder.path()); }
     /// Makes a file that all users can read and write.
     static void makeForAll(const QString &name)
     {
@@ -109,7 +109,7 @@ TEST_F(TemporaryFileTest, KeepsItsContentUnderItsFinalName)
         ASSERT_TRUE(file.moveTo(target));
         EXPECT_EQ(entries(), QStringList{QStringLiteral("final")});
     }
-    removeLeftOvers();
+    removeLeftovers();
     QFile moved(target);
     ASSERT_TRUE(moved.open(QIODevice::ReadOnly));
     EXPECT_EQ(moved.readAll(), "content");
@@ -120,14 +120,14 @@ TEST_F(TemporaryFileTest, LeftOversGoWhenTheirProgramHasEnded)
     Writer running(folder.path());
     Writer killed(folder.path());
     EXPECT_EQ(entries().size(), 2);
-    removeLeftOvers();
+    removeLeftovers();
     EXPECT_EQ(entries().size(), 2) << "both programs still run";
     killed.kill();
     EXPECT_EQ(entries().size(), 2);
-    removeLeftOvers();
+    removeLeftovers();
     EXPECT_EQ(entries().size(), 1);
     running.kill();
-    removeLeftOvers();
+    removeLeftovers();
     EXPECT_EQ(entries(), QStringList());
 }
 
@@ -145,7 +145,7 @@ TEST_F(TemporaryFileTest, FilesOfOtherNamesAndOtherThingsStay)
     ASSERT_TRUE(QFile::link(path(QStringLiteral("labels.tmp")),
                             path(QStringLiteral(".kvprint-cccccccccccccccc.tmp"))));
     const QStringList before = entries();
-    removeLeftOvers();
+    removeLeftovers();
     EXPECT_EQ(entries(), before);
 }
 
@@ -160,7 +160,7 @@ TEST_F(TemporaryFileTest, FilesOfOtherUsersStay)
     const uid_t other = isRoot ? OrdinaryUser::number : 0;
     const int result = ::chown(QFile::encodeName(given).constData(), other, ::getegid());
     ASSERT_EQ(result, isRoot ? 0 : -1) << "only root can make files of other users";
-    removeLeftOvers();
+    removeLeftovers();
     EXPECT_EQ(entries(), isRoot ? QStringList{QFileInfo(given).fileName()} : QStringList())
         << "the user's own are gone, and no other";
     if (!isRoot)
@@ -168,7 +168,7 @@ TEST_F(TemporaryFileTest, FilesOfOtherUsersStay)
 
     makeForAll(own);
     const OrdinaryUser user;
-    removeLeftOvers();
+    removeLeftovers();
     EXPECT_EQ(entries(), QStringList{QFileInfo(own).fileName()}) << "the user's own is gone, and no other";
 }
 
@@ -183,7 +183,7 @@ TEST_F(TemporaryFileTest, FilesInAFolderThatTheUserCannotWriteStay)
     for (const mode_t mode : {0555U, 0777U}) {
         ASSERT_EQ(::chmod(name.constData(), mode), 0);
         const OrdinaryUser user;
-        removeLeftOvers();
+        removeLeftovers();
         EXPECT_EQ(entries().isEmpty(), mode == 0777U);
     }
 }
@@ -193,7 +193,7 @@ TEST_F(TemporaryFileTest, AreSafeFromOtherProgramsThatCleanUpMeanwhile)
     std::atomic<bool> isDone = false;
     std::thread cleaner([&] {
         while (!isDone)
-            removeLeftOvers();
+            removeLeftovers();
     });
     constexpr int count = 300;
     for (int number = 0; number < count; ++number) {

@@ -27,7 +27,7 @@ protected:
 
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
     /// Writing the picture there fails with the message, and the existing file stays.
-    void expectRefused(const char *op, const QString &target, const char *words)
+    void expectError(const char *op, const QString &target, const char *words)
     {
         const struct stat before = statusOf(target);
         const QString error = errorOf(m_driver.handle({{"op", op}, {"path", target}}));
@@ -59,9 +59,9 @@ TEST_F(PanelDriverFiles, NothingButAFileIsReplacedByAPicture)
     ASSERT_TRUE(QFile::link(m_ppd, path("link")));
     const qint64 size = QFileInfo(m_ppd).size();
     for (const char *const op : operations) {
-        expectRefused(op, path("fifo"), "no program reads from it");
-        expectRefused(op, path("folder"), "it is a folder");
-        expectRefused(op, path("link"), "it is a symbolic link");
+        expectError(op, path("fifo"), "no program reads from it");
+        expectError(op, path("folder"), "it is a folder");
+        expectError(op, path("link"), "it is a symbolic link");
     }
     EXPECT_EQ(QFileInfo(m_ppd).size(), size);
 }
@@ -70,7 +70,7 @@ TEST_F(PanelDriverFiles, APictureDoesNotReplaceADevice)
 {
     const FullDevice device(path("full"));
     for (const char *const op : operations)
-        expectRefused(op, device.path(), strerror(ENOSPC));
+        expectError(op, device.path(), strerror(ENOSPC));
 }
 
 TEST_F(PanelDriverFiles, APathIsNotCutShort)

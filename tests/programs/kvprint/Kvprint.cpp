@@ -99,12 +99,12 @@ std::vector<Outcome> Kvprint::runAll(const std::vector<QStringList> &lists) cons
     return outcomes;
 }
 
-std::vector<ToldChange> toldChanges(const QByteArray &error)
+std::vector<ReportedChange> toldChanges(const QByteArray &error)
 {
     static const QRegularExpression line(
         QStringLiteral("^kvprint: \"(.+)\" cannot be \"(.*)\" with this paper .* printed as \"(.*)\"\\.$"),
         QRegularExpression::MultilineOption);
-    std::vector<ToldChange> changes;
+    std::vector<ReportedChange> changes;
     for (auto matches = line.globalMatch(QString::fromUtf8(error)); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
         changes.push_back(

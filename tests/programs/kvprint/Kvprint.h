@@ -40,9 +40,9 @@ public:
 };
 
 /// A choice that the program reports to print differently than requested: name, requested, printed.
-struct ToldChange {
+struct ReportedChange {
     QByteArray name;
     QByteArray wanted;
     QByteArray printed;
 };
-std::vector<ToldChange> toldChanges(const QByteArray &error);
+std::vector<ReportedChange> toldChanges(const QByteArray &error);

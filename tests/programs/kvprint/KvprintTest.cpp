@@ -81,8 +81,8 @@ RecordedDocument KvprintTest::printed(const QStringList &words)
     return recorded(before + 1).value(outcome.jobId());
 }
 
-void KvprintTest::expectRefusal(const QStringList &words, const QStringList &messageParts,
-                                const QByteArray &input)
+void KvprintTest::expectError(const QStringList &words, const QStringList &messageParts,
+                              const QByteArray &input)
 {
     SCOPED_TRACE(qPrintable(words.join(u' ')));
     // Only which jobs there are: earlier ones may just be coming to their end.

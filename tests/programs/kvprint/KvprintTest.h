@@ -34,8 +34,7 @@ protected:
     test_support::RecordedDocument printed(const QStringList &words);
     /// Runs the program, which must end with status 1, print the texts on standard error and nothing on
     /// standard output, and leave nothing of the document on the server.
-    void expectRefusal(const QStringList &words, const QStringList &messageParts,
-                       const QByteArray &input = {});
+    void expectError(const QStringList &words, const QStringList &messageParts, const QByteArray &input = {});
 
     /// The documents of jobs by their numbers, as soon as there are so many.
     QMap<int, test_support::RecordedDocument> recorded(std::size_t count) const;

@@ -5,11 +5,11 @@
 
 #include <gtest/gtest.h>
 
-using programs::CommandLine;
-using programs::Task;
-using programs::UsageProblem;
 using host::Collate;
 using host::Orientation;
+using programs::CommandLine;
+using programs::Task;
+using programs::UsageErrorKind;
 
 namespace {
 
@@ -144,7 +144,7 @@ TEST(CommandLine, OptionsThatMeanALetterAreTakenForIt)
     EXPECT_EQ(read("-o job-hold-until=no-hold").settings.hold, QStringLiteral("no-hold"));
     EXPECT_EQ(read("-o job-name=Jars").title, QStringLiteral("Jars"));
     EXPECT_EQ(read("-o page-set=even").settings.pageSet, host::PageSet::Even);
-    EXPECT_EQ(read("-o outputorder=reverse").settings.order, host::PageOrder::LastFirst);
+    EXPECT_EQ(read("-o outputorder=reverse").settings.order, host::PageOrder::Reverse);
     // Highest priority, unless a later option sets the priority.
     EXPECT_EQ(read("-q 50 -H immediate").settings.priority, 100);
     EXPECT_EQ(read("-H immediate -q 50").settings.priority, 50);
@@ -250,7 +250,7 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
     for (const auto &[line, named] : rows) {
         const auto command = parse(line);
         ASSERT_FALSE(command) << line;
-        EXPECT_EQ(command.error().kind, UsageProblem::Wrong) << line;
+        EXPECT_EQ(command.error().kind, UsageErrorKind::Wrong) << line;
         for (const char *const part : named)
             EXPECT_TRUE(command.error().message.contains(QLatin1String(part)))
                 << line << ": " << command.error().message.toStdString();
@@ -261,7 +261,7 @@ TEST(CommandLine, ATerminalIsNoDocument)
 {
     const auto hint = checkInput(read("-d tape"), true);
     ASSERT_FALSE(hint);
-    EXPECT_EQ(hint.error().kind, UsageProblem::Wrong);
+    EXPECT_EQ(hint.error().kind, UsageErrorKind::Wrong);
     EXPECT_TRUE(hint.error().message.contains(QStringLiteral("\"-\""))) << qPrintable(hint.error().message);
     EXPECT_FALSE(checkInput(read("--dry-run"), true));
     EXPECT_TRUE(checkInput(read("-d tape"), false));
@@ -273,7 +273,7 @@ TEST(CommandLine, HelpNamesEveryOptionAndExitStatus)
 {
     const auto help = parse("-d tape --help --colour");
     ASSERT_FALSE(help);
-    EXPECT_EQ(help.error().kind, UsageProblem::HelpWanted);
+    EXPECT_EQ(help.error().kind, UsageErrorKind::HelpRequested);
     const QString text = help.error().message;
     for (const programs::CommandOption &option : programs::commandOptions())
         EXPECT_TRUE(text.contains(u' ' + option.spelling())) << qPrintable(option.spelling());
@@ -281,5 +281,5 @@ TEST(CommandLine, HelpNamesEveryOptionAndExitStatus)
         EXPECT_TRUE(text.contains(QLatin1String(status))) << status;
     for (const QString &line : text.split(u'\n'))
         EXPECT_LE(line.size(), 80) << qPrintable(line);
-    EXPECT_EQ(parse("--version").error().kind, UsageProblem::VersionWanted);
+    EXPECT_EQ(parse("--version").error().kind, UsageErrorKind::VersionRequested);
 }

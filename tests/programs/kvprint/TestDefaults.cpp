@@ -50,15 +50,15 @@ TEST_F(KvprintDefaults, AreShownAsTheyArePrinted)
     const Outcome outcome =
         kvprint.run({QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape, samplePdf()});
     ASSERT_EQ(outcome.status, 0) << outcome;
-    const test_support::RecordedDocument byDefault = recorded(1)[outcome.jobId()];
-    EXPECT_EQ(byDefault.copies, "3");
-    EXPECT_EQ(byDefault.option("page-ranges"), "2-3");
-    EXPECT_EQ(byDefault.option("outputorder"), "reverse");
+    const test_support::RecordedDocument defaultValue = recorded(1)[outcome.jobId()];
+    EXPECT_EQ(defaultValue.copies, "3");
+    EXPECT_EQ(defaultValue.option("page-ranges"), "2-3");
+    EXPECT_EQ(defaultValue.option("outputorder"), "reverse");
 
-    const QStringList wishes{QStringLiteral("-n"), QStringLiteral("1"),
-                             QStringLiteral("-P"), QStringLiteral("4,1-2"),
-                             QStringLiteral("-o"), QStringLiteral("outputorder=normal")};
-    told = summary(wishes);
+    const QStringList requested{QStringLiteral("-n"), QStringLiteral("1"),
+                                QStringLiteral("-P"), QStringLiteral("4,1-2"),
+                                QStringLiteral("-o"), QStringLiteral("outputorder=normal")};
+    told = summary(requested);
     EXPECT_EQ(told[QStringLiteral("Copies")], QStringLiteral("1"));
     EXPECT_EQ(told[QStringLiteral("Labels")], QStringLiteral("3"));
     EXPECT_FALSE(told.contains(QStringLiteral("Order")));
@@ -66,7 +66,7 @@ TEST_F(KvprintDefaults, AreShownAsTheyArePrinted)
 
 TEST_F(KvprintDefaults, MoreLabelsThanAnybodyPrintsAreRefused)
 {
-    expectRefusal({QStringLiteral("-d"), tape, QStringLiteral("-n"), QStringLiteral("9999"), samplePdf(),
-                   samplePdf(), samplePdf()},
-                  {QStringLiteral("at most 100000")});
+    expectError({QStringLiteral("-d"), tape, QStringLiteral("-n"), QStringLiteral("9999"), samplePdf(),
+                 samplePdf(), samplePdf()},
+                {QStringLiteral("at most 100000")});
 }

@@ -62,8 +62,8 @@ TEST_F(KvprintDestinations, HaveAPaperOfTheirOwn)
     writeLpOptions("Dest tape PageSize=24x60mm\n");
     EXPECT_EQ(printed(words).option("PageSize"), "24x60mm");
     writeLpOptions("Dest tape PageSize=Bogus\n");
-    expectRefusal(words + QStringList{picture()},
-                  {QStringLiteral("Bogus"), QStringLiteral("no paper"), QStringLiteral("lpoptions")});
+    expectError(words + QStringList{picture()},
+                {QStringLiteral("Bogus"), QStringLiteral("no paper"), QStringLiteral("lpoptions")});
     EXPECT_EQ(
         printed(words + QStringList{QStringLiteral("--paper"), QStringLiteral("24x60mm")}).option("PageSize"),
         "24x60mm");
@@ -130,7 +130,7 @@ TEST_F(KvprintDestinations, MayBeClassesAndQueuesWithoutAPpd)
 TEST_F(KvprintDestinations, WithoutADefaultNothingIsPrintedAnywhere)
 {
     // lp would not choose either.
-    expectRefusal({picture()}, {QStringLiteral("default")});
+    expectError({picture()}, {QStringLiteral("default")});
 }
 
 TEST_F(KvprintDestinations, AreListedWithAllTheirKeys)

@@ -24,9 +24,9 @@ protected:
     KvprintErrors() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
 
     /// On the queue, with a picture after the arguments.
-    void expectRefusalOnTape(const QStringList &words, const QStringList &messageParts)
+    void expectErrorOnTape(const QStringList &words, const QStringList &messageParts)
     {
-        expectRefusal(QStringList{QStringLiteral("-d"), tape} + words + QStringList{picture()}, messageParts);
+        expectError(QStringList{QStringLiteral("-d"), tape} + words + QStringList{picture()}, messageParts);
     }
 };
 
@@ -51,7 +51,7 @@ TEST_F(KvprintErrors, NameWhatThePrinterDoesNotHave)
         {"media=A4", {word("A4"), word("no paper")}},
     };
     for (const auto &row : rows)
-        expectRefusalOnTape({QStringLiteral("-o"), word(row.option)}, row.messageParts);
+        expectErrorOnTape({QStringLiteral("-o"), word(row.option)}, row.messageParts);
     const RecordedDocument job =
         printed({QStringLiteral("--force"), QStringLiteral("-d"), tape, QStringLiteral("-o"),
                  QStringLiteral("Colour=Red PrintDensity=Black")});
@@ -64,7 +64,7 @@ TEST_F(KvprintErrors, NameBothSidesOfAConflict)
     cupsd.addQueue(QStringLiteral("roll"), samplePpd(QStringLiteral("kvelland-dz500")));
     const QStringList words{QStringLiteral("-d"), QStringLiteral("roll"), QStringLiteral("-o"),
                             QStringLiteral("MediaType=Film PrintPriority=Speed")};
-    expectRefusal(words + QStringList{picture()}, {word("Film"), word("Speed"), word("This would help")});
+    expectError(words + QStringList{picture()}, {word("Film"), word("Speed"), word("This would help")});
     const RecordedDocument job = printed(words + QStringList{QStringLiteral("--force")});
     EXPECT_EQ(job.option("MediaType"), "Film");
     EXPECT_EQ(job.option("PrintPriority"), "Speed");
@@ -145,13 +145,13 @@ TEST_F(KvprintErrors, NameDocumentsThatCannotBePrinted)
     };
     for (const auto &row : rows) {
         // A good one before it must not be printed either.
-        expectRefusal({QStringLiteral("-d"), tape, picture(), row.document}, {row.messagePart});
+        expectError({QStringLiteral("-d"), tape, picture(), row.document}, {row.messagePart});
     }
-    expectRefusal({QStringLiteral("-d"), tape, QStringLiteral("-")}, {QStringLiteral("standard input")});
-    expectRefusal({QStringLiteral("-d"), tape, QStringLiteral("-")}, {QStringLiteral("standard input")},
-                  "nothing good");
+    expectError({QStringLiteral("-d"), tape, QStringLiteral("-")}, {QStringLiteral("standard input")});
+    expectError({QStringLiteral("-d"), tape, QStringLiteral("-")}, {QStringLiteral("standard input")},
+                "nothing good");
     for (const char *pages : {"2", "5-", "1,3"})
-        expectRefusalOnTape({QStringLiteral("-P"), word(pages)}, {QStringLiteral("page")});
+        expectErrorOnTape({QStringLiteral("-P"), word(pages)}, {QStringLiteral("page")});
 }
 
 TEST_F(KvprintErrors, DoNotHoldWhatReadersPassOver)
@@ -174,12 +174,12 @@ TEST_F(KvprintErrors, DoNotHoldWhatReadersPassOver)
 
 TEST_F(KvprintErrors, NameQueuesThatCannotBePrintedOn)
 {
-    expectRefusal({QStringLiteral("-d"), QStringLiteral("nowhere"), picture()},
-                  {QStringLiteral("\"nowhere\"")});
+    expectError({QStringLiteral("-d"), QStringLiteral("nowhere"), picture()},
+                {QStringLiteral("\"nowhere\"")});
     cupsd.reject(tape, QStringLiteral("Blade is being changed"));
-    expectRefusalOnTape({}, {tape});
+    expectErrorOnTape({}, {tape});
     cupsd.removeQueue(tape);
-    expectRefusalOnTape({}, {QStringLiteral("\"tape\"")});
+    expectErrorOnTape({}, {QStringLiteral("\"tape\"")});
 }
 
 TEST_F(KvprintErrors, LookAtThePpdThatTheServerHasNow)
@@ -188,9 +188,8 @@ TEST_F(KvprintErrors, LookAtThePpdThatTheServerHasNow)
                   .option("KvCutMark"),
               "ON");
     cupsd.addQueue(tape, PpdBuilder().options({"KvMirror"}).paper("other", 100, 200).ppd());
-    expectRefusalOnTape({QStringLiteral("-o"), QStringLiteral("KvCutMark=ON")},
-                        {QStringLiteral("KvCutMark")});
-    expectRefusalOnTape({QStringLiteral("--paper"), QStringLiteral("12x50mm")}, {QStringLiteral("12x50mm")});
+    expectErrorOnTape({QStringLiteral("-o"), QStringLiteral("KvCutMark=ON")}, {QStringLiteral("KvCutMark")});
+    expectErrorOnTape({QStringLiteral("--paper"), QStringLiteral("12x50mm")}, {QStringLiteral("12x50mm")});
     EXPECT_EQ(printed({QStringLiteral("-d"), tape, QStringLiteral("--paper"), QStringLiteral("other")})
                   .option("PageSize"),
               "other");
@@ -236,7 +235,7 @@ TEST_F(KvprintErrors, NameWhatAPpdHasTooManyOf)
                name + " B: \"\"\n*CloseUI: *" + name + '\n';
     }
     const QString path = file(QStringLiteral("large.ppd"), ppd);
-    expectRefusal(
+    expectError(
         {QStringLiteral("--ppd"), path, picture()},
         {path, QStringLiteral("it has %1 \"*OpenUI\" statements; the maximum is 5000").arg(own + more)});
 }

@@ -46,10 +46,10 @@ std::vector<Option> optionsOf(const QString &ppd)
 
 using Wishes = std::vector<std::pair<QByteArray, QByteArray>>;
 
-QStringList wordsFor(const Wishes &wishes)
+QStringList wordsFor(const Wishes &requested)
 {
     QStringList words;
-    for (const auto &[name, choice] : wishes)
+    for (const auto &[name, choice] : requested)
         words += {QStringLiteral("-o"), QString::fromUtf8(name + '=' + choice)};
     return words;
 }
@@ -70,10 +70,10 @@ protected:
     std::vector<Outcome> check(const std::vector<Wishes> &all)
     {
         std::vector<QStringList> lists;
-        for (const Wishes &wishes : all)
+        for (const Wishes &requested : all)
             lists.push_back(
                 QStringList{QStringLiteral("--no-dialog"), QStringLiteral("-d"), QStringLiteral("tape")} +
-                wordsFor(wishes) + QStringList{picture()});
+                wordsFor(requested) + QStringList{picture()});
         const std::vector<Outcome> outcomes = kvprint.runAll(lists);
         std::vector<Outcome> refused;
         for (const Outcome &outcome : outcomes) {
@@ -91,7 +91,7 @@ protected:
 
     void checkJob(Wishes expected, const Outcome &outcome, const RecordedDocument &job) const
     {
-        for (const ToldChange &change : toldChanges(outcome.error)) {
+        for (const ReportedChange &change : toldChanges(outcome.error)) {
             EXPECT_TRUE(isPanels(change.name)) << outcome;
             const auto found = std::ranges::find(expected, std::pair(change.name, change.wanted));
             ASSERT_NE(found, expected.end()) << outcome;
@@ -137,13 +137,13 @@ TEST_P(KvprintOptions, EveryCountArrivesTogetherWithOtherChoices)
     std::vector<Wishes> all;
     // Automatic cut is what the counts are about.
     for (qsizetype i = 0; i < cuts->choices.size(); ++i) {
-        Wishes wishes{{cuts->name, cuts->choices[i]}};
+        Wishes requested{{cuts->name, cuts->choices[i]}};
         for (const Option &option : options) {
             const bool excludesAnother = option.name == "MediaType";
             if (!isPanels(option.name) && !excludesAnother)
-                wishes.emplace_back(option.name, option.choices[i % option.choices.size()]);
+                requested.emplace_back(option.name, option.choices[i % option.choices.size()]);
         }
-        all.push_back(wishes);
+        all.push_back(requested);
     }
     const std::vector<Outcome> refused = check(all);
     for (const Outcome &outcome : refused)
@@ -161,12 +161,12 @@ TEST_P(KvprintOptions, RandomCombinationsArriveAsTold)
     };
     std::vector<Wishes> all;
     for (int i = 0; i < 40; ++i) {
-        Wishes wishes;
+        Wishes requested;
         for (const Option &option : options) {
             if (below(10) < (isPanels(option.name) ? 6 : 2))
-                wishes.emplace_back(option.name, option.choices[below(option.choices.size())]);
+                requested.emplace_back(option.name, option.choices[below(option.choices.size())]);
         }
-        all.push_back(wishes);
+        all.push_back(requested);
     }
     // Every error is a conflict and is reported as one.
     for (const Outcome &outcome : check(all)) {
@@ -218,7 +218,7 @@ TEST_F(KvprintTest, ThePanelsRulesHoldForTheCommandLine)
             EXPECT_EQ(job.option(name), choice) << name << ": " << job.optionText.toStdString();
         }
         QStringList told;
-        for (const ToldChange &change : toldChanges(outcome.error))
+        for (const ReportedChange &change : toldChanges(outcome.error))
             told.append(QString::fromUtf8(change.name));
         EXPECT_EQ(told, row.told) << outcome;
     }

@@ -135,9 +135,9 @@ TEST_F(KvprintPapers, OfFreeSizeArriveAsTheyWereNamed)
     for (const char *wrong : {"Custom.1000x70mm", "Custom.24x1mm", "Custom.24", "Custom.x", "24X60MM",
                               "Custom.24x60furlong", "Custom.24x60mmJUNK", "Custom.24x60mmx3"}) {
         for (const QStringList &way : waysToName(wrong))
-            expectRefusal(QStringList{QStringLiteral("-d"), QStringLiteral("tape")} + way +
-                              QStringList{picture()},
-                          {QString::fromLatin1(wrong), QStringLiteral("no paper")});
+            expectError(QStringList{QStringLiteral("-d"), QStringLiteral("tape")} + way +
+                            QStringList{picture()},
+                        {QString::fromLatin1(wrong), QStringLiteral("no paper")});
     }
 }
 
@@ -157,8 +157,8 @@ TEST_F(KvprintPapers, OfUnusableSizeAreRefusedAndTheOthersArePrintedOn)
         cupsd.addQueue(queue,
                        QByteArray(plain).replace(bad, QByteArray("*PaperDimension Bad: \"") + size + '"'));
         for (const QStringList &way : waysToName("Bad"))
-            expectRefusal(QStringList{QStringLiteral("-d"), queue} + way + QStringList{picture()},
-                          {QStringLiteral("\"Bad\""), QString::fromUtf8(told), QStringLiteral("100 m")});
+            expectError(QStringList{QStringLiteral("-d"), queue} + way + QStringList{picture()},
+                        {QStringLiteral("\"Bad\""), QString::fromUtf8(told), QStringLiteral("100 m")});
         const RecordedDocument job =
             printed({QStringLiteral("-d"), queue, QStringLiteral("--paper"), QStringLiteral("W24H60")});
         EXPECT_EQ(job.option("PageSize"), "W24H60");
@@ -183,8 +183,8 @@ TEST_F(KvprintPapers, OfUnusableSizeAreNotPrintedOnByDefault)
         none += isOther ? each.left(each.indexOf(':')) + ": \"0 0\"\n" : each + '\n';
     }
     cupsd.addQueue(QStringLiteral("nothing"), none);
-    expectRefusal({QStringLiteral("-d"), QStringLiteral("nothing"), picture()},
-                  {QStringLiteral("\"Bad\""), QStringLiteral("0 × 0"), QStringLiteral("100 m")});
+    expectError({QStringLiteral("-d"), QStringLiteral("nothing"), picture()},
+                {QStringLiteral("\"Bad\""), QStringLiteral("0 × 0"), QStringLiteral("100 m")});
 }
 
 TEST_F(KvprintPapers, EverySampleArrives)
@@ -204,9 +204,9 @@ TEST_F(KvprintPapers, EverySampleArrives)
 TEST_F(KvprintPapers, OfAnotherPrinterAreRefused)
 {
     addSampleQueue(QStringLiteral("tape"), QStringLiteral("kvelland-lx900"));
-    expectRefusal({QStringLiteral("-d"), QStringLiteral("tape"), QStringLiteral("--paper"),
-                   QStringLiteral("DC29x90"), picture()},
-                  {QStringLiteral("DC29x90"), QStringLiteral("no paper")});
+    expectError({QStringLiteral("-d"), QStringLiteral("tape"), QStringLiteral("--paper"),
+                 QStringLiteral("DC29x90"), picture()},
+                {QStringLiteral("DC29x90"), QStringLiteral("no paper")});
     const RecordedDocument job =
         printed({QStringLiteral("-d"), QStringLiteral("tape"), QStringLiteral("--force"),
                  QStringLiteral("--paper"), QStringLiteral("DC29x90")});

@@ -100,8 +100,8 @@ TEST_F(KvprintPasswords, AreNotWaitedForWithoutATerminal)
 {
     const QStringList server{QStringLiteral("-h"), locked.address(), QStringLiteral("-U"),
                              QStringLiteral("anna")};
-    expectRefusal(server + QStringList{QStringLiteral("-d"), QStringLiteral("tape"), picture()},
-                  {QStringLiteral("wants a password"), QStringLiteral("anna")});
+    expectError(server + QStringList{QStringLiteral("-d"), QStringLiteral("tape"), picture()},
+                {QStringLiteral("wants a password"), QStringLiteral("anna")});
     const Outcome list = kvprint.run(server + QStringList{QStringLiteral("--list")});
     EXPECT_EQ(list.status, 1);
     EXPECT_TRUE(list.error.contains("wants a password")) << list;
@@ -134,6 +134,6 @@ TEST_F(KvprintPasswords, MayBeWantedForPrintingOnly)
                     "<Limit All>\nOrder deny,allow\nAllow all\n</Limit>\n</Policy>\n");
     cupsd.addQueue(QStringLiteral("locked"), samplePpd(QStringLiteral("kvelland-lx900")),
                    {QStringLiteral("-o"), QStringLiteral("printer-op-policy=locked")});
-    expectRefusal({QStringLiteral("-d"), QStringLiteral("locked"), picture()},
-                  {QStringLiteral("wants a password")});
+    expectError({QStringLiteral("-d"), QStringLiteral("locked"), picture()},
+                {QStringLiteral("wants a password")});
 }

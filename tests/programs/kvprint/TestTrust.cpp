@@ -192,7 +192,7 @@ TEST_F(KvprintTrust, AnExpiredCertificateMayBeTrustedIfTheSettingsAllowIt)
 TEST_F(KvprintTrust, EncryptionThatIsRequiredIsUsedOrNothingIsSent)
 {
     cupsd.removeCertificate();
-    const FaultyServer refusing(cupsd.port(), {.refusesEncryption = true});
+    const FaultyServer refusing(cupsd.port(), {.rejectsEncryption = true});
     const FaultyServer breaking(cupsd.port(), {});
     for (const FaultyServer *const without : {&refusing, &breaking}) {
         const QString address = without->address();
@@ -218,7 +218,7 @@ TEST_F(KvprintTrust, APasswordThatOthersCanReadIsNotSentUnasked)
     EXPECT_EQ(terminal.end(), 1) << terminal.shown().toStdString();
     EXPECT_FALSE(terminal.shown().contains("Password for")) << terminal.shown().toStdString();
     EXPECT_EQ(locked.passwordCount(), 0);
-    EXPECT_GT(locked.refusedCount(), 0);
+    EXPECT_GT(locked.rejectedCount(), 0);
 }
 
 TEST_F(KvprintTrust, APasswordThatOthersCanReadIsSentWhenTheUserAgrees)

@@ -26,13 +26,13 @@ void drawReduced(QPainter &painter, QPoint where, const QImage &twice, QSize siz
     painter.drawImage(where, twice.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
-Problems drawRow(QPainter &painter, const PictureSpec &spec, Theme theme)
+Errors drawRow(QPainter &painter, const PictureSpec &spec, Theme theme)
 {
-    const std::variant<QImage, Problems> single = rendered(spec, theme, 1);
-    const std::variant<QImage, Problems> twice = rendered(spec, theme, 2);
+    const std::variant<QImage, Errors> single = rendered(spec, theme, 1);
+    const std::variant<QImage, Errors> twice = rendered(spec, theme, 2);
     for (const auto *image : {&single, &twice}) {
-        if (const Problems *problems = std::get_if<Problems>(image))
-            return *problems;
+        if (const Errors *errors = std::get_if<Errors>(image))
+            return *errors;
     }
     const QImage &dense = std::get<QImage>(twice);
     painter.fillRect(QRect(QPoint(0, 0), rowSize), windowColour(theme));
@@ -47,22 +47,22 @@ Problems drawRow(QPainter &painter, const PictureSpec &spec, Theme theme)
 
 } // namespace
 
-std::variant<QImage, Problems> contactSheet()
+std::variant<QImage, Errors> contactSheet()
 {
     const std::vector<PictureSpec> &all = allPictures();
     QImage sheet(2 * rowSize.width(), rowSize.height() * static_cast<int>(all.size()),
                  QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&sheet);
-    Problems problems;
+    Errors errors;
     for (const PictureSpec &spec : all) {
-        problems += drawRow(painter, spec, Theme::Light);
+        errors += drawRow(painter, spec, Theme::Light);
         painter.translate(rowSize.width(), 0);
-        problems += drawRow(painter, spec, Theme::Dark);
+        errors += drawRow(painter, spec, Theme::Dark);
         painter.translate(-rowSize.width(), rowSize.height());
     }
     painter.end();
-    if (!problems.isEmpty())
-        return problems;
+    if (!errors.isEmpty())
+        return errors;
     return sheet;
 }
 

@@ -9,6 +9,6 @@ namespace pictures {
 /// colours of the light and of the dark theme, the picture at one and at two pixels per point, in the size of
 /// the pop-up list of the panel and in the size of the closed pop-up button. Returns the errors if a picture
 /// cannot be rendered.
-std::variant<QImage, Problems> contactSheet();
+std::variant<QImage, Errors> contactSheet();
 
 } // namespace pictures

@@ -15,7 +15,7 @@ void Drawing::add(const QString &part, Numbers numbers)
 {
     QFile file(QStringLiteral(":/pictures/parts/%1.svg").arg(part));
     if (!file.open(QIODevice::ReadOnly)) {
-        m_problems.append(QStringLiteral("There is no part \"%1\".").arg(part));
+        m_errors.append(QStringLiteral("There is no part \"%1\".").arg(part));
         return;
     }
     m_content += filledIn(part, QString::fromUtf8(file.readAll()), numbers);
@@ -35,7 +35,7 @@ QString Drawing::filledIn(const QString &part, QString text, Numbers numbers)
     const QRegularExpressionMatch left = placeholder.match(text);
     if (!left.hasMatch())
         return text;
-    m_problems.append(
+    m_errors.append(
         QStringLiteral("The part \"%1\" asks for \"%2\", which is not given.").arg(part, left.captured(1)));
     return {};
 }

@@ -28,21 +28,21 @@ public:
     explicit Drawing(Theme theme);
 
     /// Adds the part with these numbers. A part that does not exist, or that has a placeholder without a
-    /// value, is skipped and reported by problems().
+    /// value, is skipped and reported by errors().
     void add(const QString &part, Numbers numbers);
 
     /// Returns the picture as an SVG document.
     QString svg() const;
 
     /// The errors so far, one sentence each that names the part; empty without errors.
-    const QStringList &problems() const { return m_problems; }
+    const QStringList &errors() const { return m_errors; }
 
 private:
     QString filledIn(const QString &part, QString text, Numbers numbers);
 
     Theme m_theme;
     QString m_content;
-    QStringList m_problems;
+    QStringList m_errors;
 };
 
 } // namespace pictures

@@ -9,7 +9,7 @@ namespace pictures {
 
 namespace {
 
-constexpr int smallestFiles = 9;
+constexpr int maxCompressionLevel = 9;
 
 void append(png_structp png, png_bytep data, std::size_t size)
 {
@@ -28,7 +28,7 @@ bool write(png_structp png, png_infop info, const QImage &image)
     png_set_IHDR(png, info, static_cast<png_uint_32>(image.width()), static_cast<png_uint_32>(image.height()),
                  8, PNG_COLOR_TYPE_RGBA, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_BASE, PNG_FILTER_TYPE_BASE);
     png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
-    png_set_compression_level(png, smallestFiles);
+    png_set_compression_level(png, maxCompressionLevel);
     png_write_info(png, info);
     for (int row = 0; row < image.height(); ++row)
         png_write_row(png, image.constScanLine(row));

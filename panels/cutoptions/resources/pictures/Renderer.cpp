@@ -25,41 +25,41 @@ constexpr Variant variants[] = {
     {"-dark@2x", Theme::Dark, 2},
 };
 
-Problems prefixed(const PictureSpec &spec, Problems problems)
+Errors prefixed(const PictureSpec &spec, Errors errors)
 {
-    for (QString &problem : problems)
-        problem.prepend(spec.name + QStringLiteral(": "));
-    return problems;
+    for (QString &error : errors)
+        error.prepend(spec.name + QStringLiteral(": "));
+    return errors;
 }
 
-Problems cannotWrite(const QSaveFile &file)
+Errors cannotWrite(const QSaveFile &file)
 {
     return {QStringLiteral("%1 cannot be written: %2").arg(file.fileName(), file.errorString())};
 }
 
-Problems writeBytes(const QByteArray &bytes, const QString &path)
+Errors writeBytes(const QByteArray &bytes, const QString &path)
 {
     QSaveFile file(path);
     const bool written =
         file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    return written ? Problems() : cannotWrite(file);
+    return written ? Errors() : cannotWrite(file);
 }
 
 } // namespace
 
-std::variant<QString, Problems> composedSvg(const PictureSpec &spec, Theme theme)
+std::variant<QString, Errors> composedSvg(const PictureSpec &spec, Theme theme)
 {
     const Drawing drawing = compose(spec, theme);
-    if (!drawing.problems().isEmpty())
-        return prefixed(spec, drawing.problems());
+    if (!drawing.errors().isEmpty())
+        return prefixed(spec, drawing.errors());
     return drawing.svg();
 }
 
-std::variant<QImage, Problems> rendered(const PictureSpec &spec, Theme theme, int pixelsPerPoint)
+std::variant<QImage, Errors> rendered(const PictureSpec &spec, Theme theme, int pixelsPerPoint)
 {
-    std::variant<QString, Problems> svg = composedSvg(spec, theme);
-    if (Problems *problems = std::get_if<Problems>(&svg))
-        return std::move(*problems);
+    std::variant<QString, Errors> svg = composedSvg(spec, theme);
+    if (Errors *errors = std::get_if<Errors>(&svg))
+        return std::move(*errors);
     QSvgRenderer renderer(std::get<QString>(svg).toUtf8());
     if (!renderer.isValid())
         return prefixed(spec, {QStringLiteral("The composed parts are not valid SVG.")});
@@ -71,40 +71,40 @@ std::variant<QImage, Problems> rendered(const PictureSpec &spec, Theme theme, in
     return image;
 }
 
-Problems writeVariants(const PictureSpec &spec, const QString &folder)
+Errors writeVariants(const PictureSpec &spec, const QString &folder)
 {
-    Problems problems;
+    Errors errors;
     for (const Variant &variant : variants) {
-        std::variant<QImage, Problems> image = rendered(spec, variant.theme, variant.pixelsPerPoint);
-        if (const Problems *failed = std::get_if<Problems>(&image)) {
-            problems += *failed;
+        std::variant<QImage, Errors> image = rendered(spec, variant.theme, variant.pixelsPerPoint);
+        if (const Errors *failed = std::get_if<Errors>(&image)) {
+            errors += *failed;
             continue;
         }
         const QString file = spec.name + QLatin1String(variant.suffix) + QStringLiteral(".png");
-        problems += writePng(std::get<QImage>(image), folder + u'/' + file);
+        errors += writePng(std::get<QImage>(image), folder + u'/' + file);
     }
-    return problems;
+    return errors;
 }
 
-Problems writeSvgs(const PictureSpec &spec, const QString &folder)
+Errors writeSvgs(const PictureSpec &spec, const QString &folder)
 {
-    Problems problems;
+    Errors errors;
     for (const Variant &variant : variants) {
         if (variant.pixelsPerPoint != 1)
             continue;
-        const std::variant<QString, Problems> svg = composedSvg(spec, variant.theme);
-        if (const Problems *failed = std::get_if<Problems>(&svg)) {
-            problems += *failed;
+        const std::variant<QString, Errors> svg = composedSvg(spec, variant.theme);
+        if (const Errors *failed = std::get_if<Errors>(&svg)) {
+            errors += *failed;
             continue;
         }
-        problems +=
+        errors +=
             writeBytes(std::get<QString>(svg).toUtf8(),
                        folder + u'/' + spec.name + QLatin1String(variant.suffix) + QStringLiteral(".svg"));
     }
-    return problems;
+    return errors;
 }
 
-Problems writePng(const QImage &image, const QString &path)
+Errors writePng(const QImage &image, const QString &path)
 {
     const QByteArray png = encodedPng(image);
     if (png.isEmpty())

@@ -11,25 +11,25 @@
 
 namespace {
 
-using pictures::Problems;
+using pictures::Errors;
 
-using Writer = Problems (*)(const pictures::PictureSpec &, const QString &);
+using Writer = Errors (*)(const pictures::PictureSpec &, const QString &);
 
-Problems writeEach(Writer write, const QString &folder)
+Errors writeEach(Writer write, const QString &folder)
 {
     if (!QDir().mkpath(folder))
         return {QStringLiteral("The folder %1 cannot be made.").arg(folder)};
-    Problems problems;
+    Errors errors;
     for (const pictures::PictureSpec &spec : pictures::allPictures())
-        problems += write(spec, folder);
-    return problems;
+        errors += write(spec, folder);
+    return errors;
 }
 
-Problems writeContactSheet(const QString &path)
+Errors writeContactSheet(const QString &path)
 {
-    const std::variant<QImage, Problems> sheet = pictures::contactSheet();
-    if (const Problems *problems = std::get_if<Problems>(&sheet))
-        return *problems;
+    const std::variant<QImage, Errors> sheet = pictures::contactSheet();
+    if (const Errors *errors = std::get_if<Errors>(&sheet))
+        return *errors;
     return pictures::writePng(std::get<QImage>(sheet), path);
 }
 
@@ -55,17 +55,17 @@ int main(int argc, char **argv)
     parser.addOptions({output, sources, sheet});
     parser.process(application);
 
-    Problems problems;
+    Errors errors;
     if (parser.isSet(output))
-        problems += writeEach(pictures::writeVariants, parser.value(output));
+        errors += writeEach(pictures::writeVariants, parser.value(output));
     if (parser.isSet(sources))
-        problems += writeEach(pictures::writeSvgs, parser.value(sources));
+        errors += writeEach(pictures::writeSvgs, parser.value(sources));
     if (parser.isSet(sheet))
-        problems += writeContactSheet(parser.value(sheet));
+        errors += writeContactSheet(parser.value(sheet));
     if (!parser.isSet(output) && !parser.isSet(sources) && !parser.isSet(sheet))
-        problems.append(QStringLiteral("Nothing to do: give --output, --svg or --contact-sheet."));
-    problems.removeDuplicates();
-    for (const QString &problem : problems)
-        std::fprintf(stderr, "kv_picturegen: %s\n", qPrintable(problem));
-    return problems.isEmpty() ? 0 : 1;
+        errors.append(QStringLiteral("Nothing to do: give --output, --svg or --contact-sheet."));
+    errors.removeDuplicates();
+    for (const QString &error : errors)
+        std::fprintf(stderr, "kv_picturegen: %s\n", qPrintable(error));
+    return errors.isEmpty() ? 0 : 1;
 }

@@ -11,7 +11,7 @@ using test_support::PpdBuilder;
 
 TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
 {
-    using host::ChoiceFailure;
+    using host::ChoiceErrorKind;
     const Sandbox sandbox;
     const PpdFile ppd =
         openPpd(sandbox, PpdBuilder()
@@ -23,22 +23,22 @@ TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
     struct Row {
         const char *name;
         const char *value;
-        std::optional<ChoiceFailure> kind;
+        std::optional<ChoiceErrorKind> kind;
     };
     const Row rows[] = {
         {"KvHalfCut", "ON", {}},
-        {"KvHalfCut", "on", ChoiceFailure::UnknownChoice},
-        {"KvHalfCut", "Custom.3", ChoiceFailure::UnknownChoice},
-        {"kvhalfcut", "ON", ChoiceFailure::UnknownOption},
-        {"KvMirror", "ON", ChoiceFailure::UnknownOption},
+        {"KvHalfCut", "on", ChoiceErrorKind::UnknownChoice},
+        {"KvHalfCut", "Custom.3", ChoiceErrorKind::UnknownChoice},
+        {"kvhalfcut", "ON", ChoiceErrorKind::UnknownOption},
+        {"KvMirror", "ON", ChoiceErrorKind::UnknownOption},
         {"Many", "A,B", {}},
         {"Many", "", {}},
-        {"Many", "A,C", ChoiceFailure::UnknownChoice},
+        {"Many", "A,C", ChoiceErrorKind::UnknownChoice},
         {"PageSize", "small", {}},
-        {"PageSize", "Small", ChoiceFailure::UnknownPaper},
-        {"PageSize", "A4", ChoiceFailure::UnknownPaper},
-        {"PageSize", "Custom.30x40mm", ChoiceFailure::UnknownPaper},
-        {"PageSize", "unusable", ChoiceFailure::UnusablePaper},
+        {"PageSize", "Small", ChoiceErrorKind::UnknownPaper},
+        {"PageSize", "A4", ChoiceErrorKind::UnknownPaper},
+        {"PageSize", "Custom.30x40mm", ChoiceErrorKind::UnknownPaper},
+        {"PageSize", "unusable", ChoiceErrorKind::UnusablePaper},
         {"job-hold-until", "night", {}},
         {"media", "anything", {}},
     };
@@ -48,7 +48,7 @@ TEST(ChoiceCheck, NamesWhatThePrinterDoesNotHave)
             << row.name << "=" << row.value;
         if (!checked) {
             EXPECT_TRUE(checked.error().message.contains(
-                QLatin1String(row.kind == ChoiceFailure::UnknownOption ? row.name : row.value)));
+                QLatin1String(row.kind == ChoiceErrorKind::UnknownOption ? row.name : row.value)));
         }
     }
 }

@@ -7,7 +7,7 @@
 #include <host/cups/jobs/JobChange.h>
 #include <host/cups/jobs/JobStatus.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::JobChange;
 using host::JobState;
 using test_support::holdPeriodHoursAway;
@@ -156,7 +156,7 @@ TEST_F(JobChangeTest, SaysWhichJobAndWhyNot)
 {
     const auto unknown = change({.jobId = 4711, .settings = {.priority = 1}});
     ASSERT_FALSE(unknown);
-    EXPECT_EQ(unknown.error().kind, CupsFailure::NotFound);
+    EXPECT_EQ(unknown.error().kind, CupsErrorKind::NotFound);
     EXPECT_TRUE(unknown.error().message.contains(QStringLiteral("4711")))
         << qPrintable(unknown.error().message);
 
@@ -166,7 +166,7 @@ TEST_F(JobChangeTest, SaysWhichJobAndWhyNot)
     EXPECT_TRUE(waitUntil([&] { return state(*outcome.jobId) == JobState::Completed; }));
     const auto over = change({.jobId = *outcome.jobId, .settings = {.priority = 1}});
     ASSERT_FALSE(over);
-    EXPECT_EQ(over.error().kind, CupsFailure::Refused);
+    EXPECT_EQ(over.error().kind, CupsErrorKind::Rejected);
     EXPECT_TRUE(over.error().message.contains(QString::number(*outcome.jobId)))
         << qPrintable(over.error().message);
 }
@@ -177,5 +177,5 @@ TEST_F(JobChangeTest, NothingToChangeAsksNoServer)
     EXPECT_TRUE(change({.jobId = 1}));
     const auto changed = change({.jobId = 1, .settings = {.copies = 2}});
     ASSERT_FALSE(changed);
-    EXPECT_EQ(changed.error().kind, CupsFailure::Unreachable);
+    EXPECT_EQ(changed.error().kind, CupsErrorKind::Unreachable);
 }

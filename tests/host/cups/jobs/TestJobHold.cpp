@@ -11,7 +11,7 @@
 
 #include <cups/ipp.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::JobState;
 using host::JobSubmission;
 
@@ -94,8 +94,8 @@ TEST_F(JobHoldTest, AJobThatIsNotReleasedIsCanceled)
     const test_support::FaultProxy breaking(cupsd.port(), test_support::cutRequests(IPP_OP_RELEASE_JOB));
     const Outcome outcome = print(ticketOfTwo(), serverAt(breaking.address()));
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << qPrintable(outcome.error->message);
-    EXPECT_EQ(status(1).state, JobState::Cancelled);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable) << qPrintable(outcome.error->message);
+    EXPECT_EQ(status(1).state, JobState::Canceled);
     expectNothingWaits();
 }
 

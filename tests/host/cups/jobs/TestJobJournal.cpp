@@ -14,7 +14,7 @@
 
 #include <cups/ipp.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::JobJournal;
 using host::JobState;
 using host::JobSubmission;
@@ -140,7 +140,7 @@ TEST_F(JobJournalTest, AJobThatIsLeftIsCanceledOnRequest)
     const auto outcome = settle(record, LeftJobAction::Cancel);
     ASSERT_TRUE(outcome) << qPrintable(outcome.error().message);
     EXPECT_TRUE(outcome.value().contains(QStringLiteral("is canceled"))) << qPrintable(outcome.value());
-    EXPECT_EQ(state(1), JobState::Cancelled);
+    EXPECT_EQ(state(1), JobState::Canceled);
     EXPECT_EQ(files(), QStringList());
     expectNothingWaits();
 }
@@ -172,7 +172,7 @@ TEST_F(JobJournalTest, AJobStaysRememberedWhenItsServerCannotBeAsked)
     cupsd.kill();
     const auto outcome = settle(record, LeftJobAction::Cancel);
     ASSERT_FALSE(outcome);
-    EXPECT_EQ(outcome.error().kind, CupsFailure::Unreachable);
+    EXPECT_EQ(outcome.error().kind, CupsErrorKind::Unreachable);
     EXPECT_EQ(files().size(), 1);
 }
 

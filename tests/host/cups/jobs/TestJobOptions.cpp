@@ -174,8 +174,8 @@ TEST(JobOptions, SettingsGetTheNamesAndValuesOfLp)
         {{.pageRanges = QStringLiteral("  ")}, {}},
         {{.pageSet = host::PageSet::Odd}, list({"page-set=odd you*"})},
         {{.pageSet = host::PageSet::Even}, list({"page-set=even you*"})},
-        {{.order = host::PageOrder::LastFirst}, list({"outputorder=reverse you*"})},
-        {{.order = host::PageOrder::FirstFirst}, list({"outputorder=normal you*"})},
+        {{.order = host::PageOrder::Reverse}, list({"outputorder=reverse you*"})},
+        {{.order = host::PageOrder::Normal}, list({"outputorder=normal you*"})},
         {{.orientation = Orientation::Landscape}, list({"orientation-requested=4 you*"})},
         {{.priority = 99}, list({"job-priority=99 you*"})},
         {{.priority = 50}, {}},
@@ -287,7 +287,7 @@ TEST(LpCommand, TellsWhatLpTakesFromLpoptionsByItself)
     ticket.destination.userOptions = {{"raw", "true"}, {"media", "A4"}, {"KvMirror", "ON"}};
     const host::LpCommand command = lpCommand({}, ticket);
     EXPECT_EQ(command.differences, list({"raw", "media"}));
-    EXPECT_TRUE(command.differencesInWords().endsWith(QStringLiteral("raw, media")));
+    EXPECT_TRUE(command.differencesText().endsWith(QStringLiteral("raw, media")));
     ticket.options = {{"media", "A4", Origin::UserDefault, true}};
     EXPECT_EQ(lpCommand({}, ticket).differences, list({"raw"}));
 }

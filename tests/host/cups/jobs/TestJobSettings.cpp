@@ -7,7 +7,7 @@ using host::Collate;
 using host::Destination;
 using host::JobSettings;
 using host::PageOrder;
-using host::PageRangeFailure;
+using host::PageRangeErrorKind;
 using host::PageSet;
 
 TEST(JobSettings, TheUsersDefaultsStandOverTheQueues)
@@ -34,8 +34,8 @@ TEST(JobSettings, TheUsersDefaultsStandOverTheQueues)
         {{}, {{"page-ranges", "2-3"}}, {.pageRanges = QStringLiteral("2-3")}},
         {{}, {{"page-set", "odd"}}, {.pageSet = PageSet::Odd}},
         {{{"page-set", "odd"}}, {{"page-set", "all"}}, {.pageSet = PageSet::All}},
-        {{{"outputorder", "reverse"}}, {}, {.order = PageOrder::LastFirst}},
-        {{{"outputorder", "reverse"}}, {{"outputorder", "normal"}}, {.order = PageOrder::FirstFirst}},
+        {{{"outputorder", "reverse"}}, {}, {.order = PageOrder::Reverse}},
+        {{{"outputorder", "reverse"}}, {{"outputorder", "normal"}}, {.order = PageOrder::Normal}},
         // Not about pages.
         {{{"job-priority", "50"}, {"KvMirror", "ON"}}, {{"orientation-requested", "4"}}, {}},
     };
@@ -53,14 +53,14 @@ TEST(JobSettings, WishesStandOverDefaults)
                                .collate = Collate::Yes,
                                .pageRanges = QStringLiteral("2"),
                                .pageSet = PageSet::Odd,
-                               .order = PageOrder::LastFirst};
+                               .order = PageOrder::Reverse};
     EXPECT_EQ(withDefaults({}, defaults), defaults);
-    const JobSettings wishes{.copies = 1,
-                             .collate = Collate::No,
-                             .pageRanges = QString(),
-                             .pageSet = PageSet::All,
-                             .order = PageOrder::FirstFirst};
-    EXPECT_EQ(withDefaults(wishes, defaults), wishes);
+    const JobSettings requested{.copies = 1,
+                                .collate = Collate::No,
+                                .pageRanges = QString(),
+                                .pageSet = PageSet::All,
+                                .order = PageOrder::Normal};
+    EXPECT_EQ(withDefaults(requested, defaults), requested);
 }
 
 TEST(JobSettings, ChooseThePagesThatComeOut)
@@ -70,7 +70,7 @@ TEST(JobSettings, ChooseThePagesThatComeOut)
     EXPECT_EQ(none.value().pages, (std::vector<int>{0, 1, 2, 3, 4}));
     EXPECT_EQ(none.value().copies, 1);
     EXPECT_EQ(none.value().collate, Collate::No);
-    EXPECT_EQ(none.value().order, PageOrder::FirstFirst);
+    EXPECT_EQ(none.value().order, PageOrder::Normal);
 
     // Of every document by itself.
     const auto odd = host::choosePages({.copies = 2, .pageSet = PageSet::Odd}, {}, {2, 3});
@@ -80,30 +80,31 @@ TEST(JobSettings, ChooseThePagesThatComeOut)
         host::choosePages({.pageRanges = QStringLiteral("2-"), .pageSet = PageSet::Even}, {}, {2, 3});
     EXPECT_EQ(even.value().pages, (std::vector<int>{1, 3}));
     EXPECT_EQ(host::choosePages({.copies = 0}, {}, {1}).value().copies, 1);
-    EXPECT_EQ(host::choosePages({.copies = 100'000}, {}, {1}).value().copies, host::mostCopies);
+    EXPECT_EQ(host::choosePages({.copies = 100'000}, {}, {1}).value().copies, host::maxCopies);
 }
 
 TEST(JobSettings, RefuseMoreLabelsThanAnybodyPrints)
 {
-    EXPECT_TRUE(host::choosePages({.copies = 10}, {}, {host::mostLabels / 10}));
-    const auto tooMany = host::choosePages({.copies = 11}, {}, {host::mostLabels / 10});
+    EXPECT_TRUE(host::choosePages({.copies = 10}, {}, {host::maxLabels / 10}));
+    const auto tooMany = host::choosePages({.copies = 11}, {}, {host::maxLabels / 10});
     ASSERT_FALSE(tooMany);
-    EXPECT_EQ(tooMany.error().kind, PageRangeFailure::TooMany);
+    EXPECT_EQ(tooMany.error().kind, PageRangeErrorKind::TooMany);
 }
 
 TEST(JobSettings, PagesThatThereAreNotAreAnErrorWhenSomebodyWishesForThem)
 {
-    const auto pages = [](const char *wished, const char *byDefault, host::PageSet set = PageSet::All) {
-        JobSettings wishes{.pageSet = set};
-        if (wished)
-            wishes.pageRanges = QLatin1String(wished);
-        return host::choosePages(wishes, {.pageRanges = QLatin1String(byDefault)}, {6});
+    const auto pages = [](const char *requestedName, const char *defaultValue,
+                          host::PageSet set = PageSet::All) {
+        JobSettings requested{.pageSet = set};
+        if (requestedName)
+            requested.pageRanges = QLatin1String(requestedName);
+        return host::choosePages(requested, {.pageRanges = QLatin1String(defaultValue)}, {6});
     };
     EXPECT_EQ(pages(nullptr, "2-10").value().pages, (std::vector<int>{1, 2, 3, 4, 5}));
     EXPECT_EQ(pages(nullptr, "5-2147483647").value().pages, (std::vector<int>{4, 5}));
     EXPECT_EQ(pages(nullptr, "8,6").value().pages, std::vector<int>{5});
-    EXPECT_EQ(pages("2-10", "1").error().kind, PageRangeFailure::OutOfDocument);
+    EXPECT_EQ(pages("2-10", "1").error().kind, PageRangeErrorKind::OutOfDocument);
     // A job without pages is an error.
-    EXPECT_EQ(pages(nullptr, "8-").error().kind, PageRangeFailure::NoPage);
-    EXPECT_EQ(pages("1", "1", PageSet::Even).error().kind, PageRangeFailure::NoPage);
+    EXPECT_EQ(pages(nullptr, "8-").error().kind, PageRangeErrorKind::NoPage);
+    EXPECT_EQ(pages("1", "1", PageSet::Even).error().kind, PageRangeErrorKind::NoPage);
 }

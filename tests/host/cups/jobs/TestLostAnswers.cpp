@@ -9,7 +9,7 @@
 
 #include <cups/ipp.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::JobState;
 using host::JobSubmission;
 using host::JobTicket;
@@ -46,7 +46,7 @@ protected:
     void expectUnknown(const Outcome &outcome, const QString &words) const
     {
         ASSERT_TRUE(outcome.error);
-        EXPECT_EQ(outcome.error->kind, CupsFailure::OutcomeUnknown);
+        EXPECT_EQ(outcome.error->kind, CupsErrorKind::OutcomeUnknown);
         EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("broke"))) << told(outcome);
         EXPECT_TRUE(outcome.error->message.contains(words.arg(address))) << told(outcome);
     }
@@ -70,11 +70,11 @@ TEST_F(LostAnswersTest, AJobThatWasMadeUnheardIsFoundAndCanceled)
     for (const ProxyFault &fault : {lostAnswer(IPP_OP_CREATE_JOB), cutAnswer(IPP_OP_CREATE_JOB)}) {
         const Outcome outcome = printOver(fault, ticket());
         ASSERT_TRUE(outcome.error);
-        EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << told(outcome);
+        EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable) << told(outcome);
     }
     EXPECT_EQ(state(1), JobState::Waiting);
-    EXPECT_EQ(state(2), JobState::Cancelled);
-    EXPECT_EQ(state(3), JobState::Cancelled);
+    EXPECT_EQ(state(2), JobState::Canceled);
+    EXPECT_EQ(state(3), JobState::Canceled);
 }
 
 TEST_F(LostAnswersTest, AJobThatMayHaveBeenMadeIsToldWhenNobodyCanBeAsked)
@@ -88,7 +88,7 @@ TEST_F(LostAnswersTest, ARequestThatDidNotArriveLeavesNothingToTell)
 {
     const Outcome outcome = printOver(cutRequests(IPP_OP_CREATE_JOB), ticket());
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << told(outcome);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable) << told(outcome);
     EXPECT_FALSE(outcome.error->message.contains(QStringLiteral("left"))) << told(outcome);
     expectNothingWaits();
 }
@@ -123,8 +123,8 @@ TEST_F(LostAnswersTest, AJobThatWaitsForItsReleaseIsToldAsHeld)
     // Between the documents, the job is canceled; it is left when the link is down.
     const Outcome between = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT), ticketOfTwo());
     ASSERT_TRUE(between.error);
-    EXPECT_EQ(between.error->kind, CupsFailure::Unreachable) << told(between);
-    EXPECT_EQ(state(1), JobState::Cancelled);
+    EXPECT_EQ(between.error->kind, CupsErrorKind::Unreachable) << told(between);
+    EXPECT_EQ(state(1), JobState::Canceled);
     const Outcome left = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT, OtherConnections::Close), ticketOfTwo());
     expectUnknown(left, QStringLiteral("Job tape-2 could not be canceled; it is held on the print server "
                                        "\"%1\" and is not printed unless it is released"));
@@ -149,6 +149,6 @@ TEST_F(LostAnswersTest, AJobThatAnotherProgramHasCanceledIsReportedAsCanceled)
     cupsd.run(QStringLiteral("cancel"), {QStringLiteral("tape-1")});
     slow.release();
     ASSERT_TRUE(waitUntil([&] { return outcome.error.has_value(); }));
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Refused);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Rejected);
     EXPECT_TRUE(told(outcome).find("Job tape-1: Canceled.") != std::string::npos) << told(outcome);
 }

@@ -8,7 +8,7 @@
 
 #include <QProcess>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::JobState;
 using host::JobStatus;
 using host::JobTicket;
@@ -167,7 +167,7 @@ TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
         host::BackgroundTask task;
         auto connection = host::CupsConnection::open(server, task);
         const auto job = queryJob(connection.value(), QStringLiteral("tape"), *outcome.jobId);
-        return !job && job.error().kind == CupsFailure::NotFound;
+        return !job && job.error().kind == CupsErrorKind::NotFound;
     }));
     const Followed job(server, *outcome.jobId);
     EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
@@ -189,7 +189,7 @@ TEST_F(PrintingTest, AJobThatIsTakenBackIsCancelledWhateverTheServerKeeps)
         EXPECT_TRUE(waitUntil([&] { return job.last.jobId != 0; }));
         job.monitor.cancelJob();
         EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
-        EXPECT_EQ(job.last.state, JobState::Cancelled);
+        EXPECT_EQ(job.last.state, JobState::Canceled);
         EXPECT_EQ(job.last.sentences(), QStringList{QStringLiteral("Canceled.")});
         EXPECT_EQ(job.problems, QStringList());
     }

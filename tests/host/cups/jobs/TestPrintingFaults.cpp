@@ -9,7 +9,7 @@
 #include <cups/ipp.h>
 #include <sys/stat.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::CupsServer;
 using host::JobSubmission;
 using host::JobTicket;
@@ -59,12 +59,12 @@ TEST_F(PrintingFaultsTest, DocumentsThatCannotBeReadLeaveNoJob)
         job.documents.push_back({path});
         const Outcome outcome = print(job);
         ASSERT_TRUE(outcome.error);
-        EXPECT_EQ(outcome.error->kind, CupsFailure::BadDocument);
+        EXPECT_EQ(outcome.error->kind, CupsErrorKind::BadDocument);
         EXPECT_TRUE(outcome.error->message.contains(path)) << qPrintable(outcome.error->message);
     }
     JobTicket none = ticket();
     none.documents.clear();
-    EXPECT_EQ(print(none).error->kind, CupsFailure::BadDocument);
+    EXPECT_EQ(print(none).error->kind, CupsErrorKind::BadDocument);
     expectNothingWaits();
 }
 
@@ -76,7 +76,7 @@ TEST_F(PrintingFaultsTest, AFileThatIsAnotherThanWasShownIsNotPrinted)
     document(QStringLiteral("labels.txt"), "something else\n");
     const Outcome outcome = print(job);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::BadDocument);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::BadDocument);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("has changed since it was opened")))
         << qPrintable(outcome.error->message);
     expectNothingWaits();
@@ -98,7 +98,7 @@ TEST_F(PrintingFaultsTest, AFileThatChangesWhileItIsSentIsTakenBack)
     stalling.release();
     EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
     ASSERT_TRUE(sending.error);
-    EXPECT_EQ(sending.error->kind, CupsFailure::BadDocument) << qPrintable(sending.error->message);
+    EXPECT_EQ(sending.error->kind, CupsErrorKind::BadDocument) << qPrintable(sending.error->message);
     EXPECT_TRUE(sending.error->message.contains(QStringLiteral("changed while it was read")))
         << qPrintable(sending.error->message);
     expectNothingWaits();
@@ -109,7 +109,7 @@ TEST_F(PrintingFaultsTest, TheServersRefusalIsToldInItsWords)
     cupsd.reject(QStringLiteral("tape"), QStringLiteral("closed"));
     Outcome outcome = print(ticket());
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Refused);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Rejected);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("not accepting jobs")))
         << qPrintable(outcome.error->message);
 
@@ -117,7 +117,7 @@ TEST_F(PrintingFaultsTest, TheServersRefusalIsToldInItsWords)
     cupsd.removeQueue(QStringLiteral("tape"));
     outcome = print(job);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::NotFound);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::NotFound);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("does not exist")))
         << qPrintable(outcome.error->message);
 }
@@ -125,10 +125,10 @@ TEST_F(PrintingFaultsTest, TheServersRefusalIsToldInItsWords)
 TEST_F(PrintingFaultsTest, AServerThatIsAbsentOrSilentIsGivenUp)
 {
     const FaultyServer silent(0, {.silent = true});
-    EXPECT_EQ(print(ticket(), silentServerAt(silent.address())).error->kind, CupsFailure::Silent);
+    EXPECT_EQ(print(ticket(), silentServerAt(silent.address())).error->kind, CupsErrorKind::Silent);
     const JobTicket job = ticket();
     cupsd.kill();
-    EXPECT_EQ(print(job).error->kind, CupsFailure::Unreachable);
+    EXPECT_EQ(print(job).error->kind, CupsErrorKind::Unreachable);
     cupsd.restart();
     const Outcome again = print(job);
     ASSERT_TRUE(again.jobId);
@@ -161,7 +161,7 @@ TEST_F(PrintingFaultsTest, AnswersThatComeInPiecesAreWholeAnswers)
     const FaultyServer headersOnly(cupsd.port(), {.holdsContent = true});
     const Outcome none = print(ticket(), silentServerAt(headersOnly.address()));
     ASSERT_TRUE(none.error);
-    EXPECT_EQ(none.error->kind, CupsFailure::Silent) << qPrintable(none.error->message);
+    EXPECT_EQ(none.error->kind, CupsErrorKind::Silent) << qPrintable(none.error->message);
 }
 
 TEST_F(PrintingFaultsTest, ASlowLinkIsWaitedForAsLongAsItTakesSomething)
@@ -178,7 +178,7 @@ TEST_F(PrintingFaultsTest, ASlowLinkIsWaitedForAsLongAsItTakesSomething)
         // A server that reads data within this time is not silent.
         clock.advance(link.timeout / 4);
         taken += 100'000;
-        EXPECT_TRUE(waitUntil([&] { return sending.isOver() || slow.takenBytes() > taken; }));
+        EXPECT_TRUE(waitUntil([&] { return sending.isOver() || slow.readBytes() > taken; }));
         EXPECT_TRUE(clock.waitForLooks([&] { return sending.isOver(); }));
     }
     ASSERT_TRUE(sending.jobId) << qPrintable(sending.error->message);
@@ -197,7 +197,7 @@ TEST_F(PrintingFaultsTest, ALinkThatTakesNothingMoreIsFoundSilent)
         EXPECT_TRUE(clock.waitForLooks([&] { return sending.isOver(); }));
     }
     ASSERT_TRUE(sending.error);
-    EXPECT_EQ(sending.error->kind, CupsFailure::Silent) << qPrintable(sending.error->message);
+    EXPECT_EQ(sending.error->kind, CupsErrorKind::Silent) << qPrintable(sending.error->message);
     EXPECT_EQ(cupsd.run(QStringLiteral("lpstat"), {QStringLiteral("-o")}), "");
 }
 
@@ -247,7 +247,7 @@ TEST_F(PrintingFaultsTest, AJobThatTheServerHasIsPrintedOnceThoughTheServerDies)
     EXPECT_TRUE(waitUntil([&] { return last.jobId != 0; }));
     cupsd.kill();
     EXPECT_TRUE(waitUntil([&] { return error.has_value(); }));
-    EXPECT_EQ(error->kind, CupsFailure::Unreachable);
+    EXPECT_EQ(error->kind, CupsErrorKind::Unreachable);
     cupsd.restart();
     cupsd.resume(QStringLiteral("tape"));
     EXPECT_TRUE(waitUntil([&] { return last.isOver(); }));
@@ -263,7 +263,7 @@ TEST_F(PrintingFaultsTest, CancellingTakesTheJobBack)
     sending.submission.cancel();
     EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
     ASSERT_TRUE(sending.error);
-    EXPECT_EQ(sending.error->kind, CupsFailure::Cancelled) << qPrintable(sending.error->message);
+    EXPECT_EQ(sending.error->kind, CupsErrorKind::Canceled) << qPrintable(sending.error->message);
     EXPECT_FALSE(sending.submission.isBusy());
     expectNothingWaits();
 }

@@ -8,7 +8,7 @@
 
 #include <cups/ipp.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using test_support::Direction;
 using test_support::FaultProxy;
 using test_support::lostAnswer;
@@ -66,7 +66,7 @@ TEST_F(QueueWithoutHoldTest, AJobMayHaveBeenPrintedWhenTheServerCannotBeAsked)
 {
     const Outcome outcome = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT, OtherConnections::Close), ticket());
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::OutcomeUnknown) << message(outcome);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::OutcomeUnknown) << message(outcome);
     const int job = cupsd.waitForDocuments(1).back().job;
     EXPECT_TRUE(outcome.error->message.contains(
         QStringLiteral("Job tape-%1 on the print server \"%2\" may have been printed").arg(job).arg(address)))
@@ -84,6 +84,6 @@ TEST_F(QueueWithoutHoldTest, AJobThatLacksADocumentIsCanceled)
 {
     const Outcome outcome = printOver(lostAnswer(IPP_OP_SEND_DOCUMENT), ticketOfTwo());
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << message(outcome);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable) << message(outcome);
     expectNothingWaits();
 }

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::CupsServer;
 using host::Destination;
 using host::DestinationList;
@@ -206,10 +206,10 @@ TEST_F(DestinationListTest, AServerThatIsNotThereOrSilentIsToldInWords)
     const test_support::ReservedPort refusing;
     const FaultyServer silent(0, {.silent = true});
 
-    const std::tuple<CupsServer, CupsFailure, const char *> rows[] = {
-        {serverAt(refusing.address()), CupsFailure::Unreachable, "Cannot connect to the print server"},
-        {silentServerAt(silent.address()), CupsFailure::Silent, "does not answer"},
-        {serverAt(QStringLiteral("/nonexistent/cups.sock")), CupsFailure::Unreachable,
+    const std::tuple<CupsServer, CupsErrorKind, const char *> rows[] = {
+        {serverAt(refusing.address()), CupsErrorKind::Unreachable, "Cannot connect to the print server"},
+        {silentServerAt(silent.address()), CupsErrorKind::Silent, "does not answer"},
+        {serverAt(QStringLiteral("/nonexistent/cups.sock")), CupsErrorKind::Unreachable,
          "/nonexistent/cups.sock"},
     };
     for (const auto &[other, kind, words] : rows) {
@@ -317,7 +317,7 @@ TEST_F(DestinationListTest, TheConnectionIsEncryptedWhenAskedFor)
     CupsServer silentServer = silentServerAt(silent.address());
     silentServer.encryption = host::Encryption::Required;
     DestinationList other(silentServer);
-    EXPECT_EQ(refresh(other).error->kind, CupsFailure::Silent);
+    EXPECT_EQ(refresh(other).error->kind, CupsErrorKind::Silent);
 }
 
 TEST_F(DestinationListTest, ARefusedPasswordIsAnError)
@@ -325,12 +325,12 @@ TEST_F(DestinationListTest, ARefusedPasswordIsAnError)
     const FaultyServer guarded(cupsd->port(), {.credentials = "anna:secret"});
     server.address = guarded.address();
     for (const bool asks : {true, false}) {
-        server.askPassword = asks ? host::PasswordHandler([](const auto &request) { request.refuse(); })
+        server.askPassword = asks ? host::PasswordHandler([](const auto &request) { request.reject(); })
                                   : host::PasswordHandler();
         DestinationList list(server);
         const Outcome outcome = refresh(list);
         ASSERT_TRUE(outcome.error);
-        EXPECT_EQ(outcome.error->kind, CupsFailure::NotAuthorized) << qPrintable(outcome.error->message);
+        EXPECT_EQ(outcome.error->kind, CupsErrorKind::NotAuthorized) << qPrintable(outcome.error->message);
     }
 }
 
@@ -354,5 +354,5 @@ TEST_F(DestinationListTest, TheChosenQueueIsWatched)
     EXPECT_FALSE(error);
     cupsd->removeQueue(QStringLiteral("watched"));
     EXPECT_TRUE(waitUntil([&] { return error.has_value(); }));
-    EXPECT_EQ(error->kind, CupsFailure::NotFound) << qPrintable(error->message);
+    EXPECT_EQ(error->kind, CupsErrorKind::NotFound) << qPrintable(error->message);
 }

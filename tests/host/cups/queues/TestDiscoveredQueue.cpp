@@ -20,7 +20,7 @@
 #include <gtest/gtest.h>
 
 using host::CupsError;
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::Destination;
 using host::Result;
 using test_support::PpdBuilder;
@@ -178,7 +178,7 @@ TEST_F(DiscoveredQueueTest, APrinterThatIsGoneIsTold)
         found.deviceUri = QLatin1String(row.address);
         const host::Result<void, CupsError> made = ensure(std::chrono::milliseconds(700));
         ASSERT_FALSE(made);
-        EXPECT_EQ(made.error().kind, CupsFailure::NotFound);
+        EXPECT_EQ(made.error().kind, CupsErrorKind::NotFound);
         EXPECT_TRUE(made.error().message.contains(QLatin1String(row.words)))
             << qPrintable(made.error().message);
         if (serverHas(found.queue))
@@ -195,8 +195,7 @@ TEST_F(DiscoveredQueueTest, AQueueThatTheServerDropsIsNotMissed)
     QObject::connect(&session, &host::QueueSession::failed,
                      [&](const CupsError &error) { failures.append(error.message); });
     session.start(host::Discovery::No);
-    ASSERT_TRUE(
-        waitUntil([&] { return session.chosen() && session.ppdKnowledge() == host::PpdKnowledge::Current; }));
+    ASSERT_TRUE(waitUntil([&] { return session.chosen() && session.ppdState() == host::PpdState::Current; }));
     cupsd->removeQueue(found.queue);
     // The first question from now on may have been answered before; when the third one comes, what the
     // second one found has been delivered.

@@ -15,7 +15,7 @@
 
 #include <gtest/gtest.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::CupsServer;
 using host::Destination;
 using host::PpdFile;
@@ -125,7 +125,7 @@ TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
     cupsd->kill();
     const Outcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable) << qPrintable(outcome.error->message);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable) << qPrintable(outcome.error->message);
     EXPECT_TRUE(PpdLoader(server).cached(tape));
     cupsd->restart();
 }
@@ -140,7 +140,7 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
     cache.storePpd(tape, PpdBuilder().allOptions().ppd(), 1);
     const Outcome outcome = load(tape, through);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Unreachable);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable);
     EXPECT_EQ(outcome.error->message,
               QStringLiteral("The connection to the print server \"%1\" broke.").arg(breaking.address()));
     EXPECT_TRUE(PpdLoader(through).cached(tape));

@@ -7,7 +7,7 @@
 
 #include <cups/ipp.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::CupsServer;
 using host::JobSubmission;
 using host::JobTicket;
@@ -42,7 +42,7 @@ TEST_F(EarlyAnswersTest, HalfADocumentIsNotPrintedThoughTheServerIsContentWithIt
                                              content});
     const Outcome outcome = print(largeTicket(), at(hasty));
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Refused);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Rejected);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("did not take all of")))
         << qPrintable(outcome.error->message);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("large.txt")))
@@ -58,7 +58,7 @@ TEST_F(EarlyAnswersTest, ARefusalInTheMiddleOfADocumentIsTold)
                        .earlyAnswer = "HTTP/1.1 413 Request Entity Too Large\r\nContent-Length: 0\r\n\r\n"});
     const Outcome outcome = print(largeTicket(), at(full));
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Refused) << qPrintable(outcome.error->message);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Rejected) << qPrintable(outcome.error->message);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("the disk is full")))
         << qPrintable(outcome.error->message);
     expectNothingWaits();
@@ -76,7 +76,7 @@ TEST_F(EarlyAnswersTest, APasswordThatWasGivenIsNotBlamedForABrokenConnection)
     };
     const Outcome outcome = print(ticket(), guarded);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::OutcomeUnknown) << qPrintable(outcome.error->message);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::OutcomeUnknown) << qPrintable(outcome.error->message);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("broke")))
         << qPrintable(outcome.error->message);
 }
@@ -91,6 +91,6 @@ TEST_F(EarlyAnswersTest, GivingUpAtTheQuestionForAPasswordIsNoRefusal)
     current = &submission;
     const Outcome outcome = wait(submission, ticket());
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->kind, CupsFailure::Cancelled) << qPrintable(outcome.error->message);
+    EXPECT_EQ(outcome.error->kind, CupsErrorKind::Canceled) << qPrintable(outcome.error->message);
     expectNothingWaits();
 }

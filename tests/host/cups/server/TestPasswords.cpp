@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::CupsServer;
 
 namespace {
@@ -27,7 +27,7 @@ protected:
         CupsServer guarded = serverAt(faulty.address());
         guarded.askPassword = [this, passwords](const host::PasswordRequest &request) {
             const QString password = passwords.value(asked++);
-            password.isNull() ? request.refuse() : request.answer(QStringLiteral("anna"), password);
+            password.isNull() ? request.reject() : request.answer(QStringLiteral("anna"), password);
         };
         return guarded;
     }
@@ -53,7 +53,7 @@ TEST_F(PasswordsTest, OneForDocumentsIsAskedForBeforeTheDocumentIsSent)
     const Outcome outcome = print(largeTicket(), at(guarded, {QStringLiteral("secret")}));
     expectPrintedOnce(outcome);
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(guarded.refusedCount(), 1);
+    EXPECT_EQ(guarded.rejectedCount(), 1);
     EXPECT_EQ(guarded.requestCount(IPP_OP_CREATE_JOB), 1);
     // It was not begun before.
     EXPECT_TRUE(std::ranges::is_sorted(outcome.progress, {}, &host::UploadProgress::sent));
@@ -63,10 +63,10 @@ TEST_F(PasswordsTest, ADocumentIsSentAgainWithTheOneThatIsWantedAtItsEnd)
 {
     const FaultyServer guarded(
         cupsd.port(),
-        {.credentials = "anna:secret", .lockedOperation = IPP_OP_SEND_DOCUMENT, .refusesLate = true});
+        {.credentials = "anna:secret", .lockedOperation = IPP_OP_SEND_DOCUMENT, .rejectsLate = true});
     expectPrintedOnce(print(largeTicket(), at(guarded, {QStringLiteral("wrong"), QStringLiteral("secret")})));
     EXPECT_EQ(asked, 2);
-    EXPECT_EQ(guarded.refusedCount(), 2);
+    EXPECT_EQ(guarded.rejectedCount(), 2);
     EXPECT_EQ(guarded.passwordCount(), 2);
     EXPECT_EQ(guarded.requestCount(IPP_OP_CREATE_JOB), 1);
 }
@@ -76,14 +76,15 @@ TEST_F(PasswordsTest, WithoutTheOneForDocumentsTheJobIsCanceled)
     for (const bool isLate : {false, true}) {
         const FaultyServer guarded(
             cupsd.port(),
-            {.credentials = "anna:secret", .lockedOperation = IPP_OP_SEND_DOCUMENT, .refusesLate = isLate});
+            {.credentials = "anna:secret", .lockedOperation = IPP_OP_SEND_DOCUMENT, .rejectsLate = isLate});
         const QStringList none;
         const QStringList wrong{QStringLiteral("wrong"), QStringLiteral("wrong"), QStringLiteral("wrong")};
         for (const QStringList &passwords : {none, wrong}) {
             asked = 0;
             const Outcome outcome = print(ticket(), at(guarded, passwords));
             ASSERT_TRUE(outcome.error);
-            EXPECT_EQ(outcome.error->kind, CupsFailure::NotAuthorized) << qPrintable(outcome.error->message);
+            EXPECT_EQ(outcome.error->kind, CupsErrorKind::NotAuthorized)
+                << qPrintable(outcome.error->message);
             EXPECT_TRUE(outcome.error->message.contains(
                 passwords.isEmpty() ? QStringLiteral("none was given") : QStringLiteral("does not accept")))
                 << qPrintable(outcome.error->message);
@@ -100,7 +101,7 @@ TEST_F(PasswordsTest, OneForCreatingAJobIsAskedForOnce)
                                {.credentials = "anna:secret", .lockedOperation = IPP_OP_CREATE_JOB});
     expectPrintedOnce(print(largeTicket(), at(guarded, {QStringLiteral("secret")})));
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(guarded.refusedCount(), 1);
+    EXPECT_EQ(guarded.rejectedCount(), 1);
 }
 
 TEST_F(PasswordsTest, AServerThatIsRestartedWhileOneIsTypedPrintsOnce)

@@ -16,7 +16,7 @@
 
 #include <gtest/gtest.h>
 
-using host::CupsFailure;
+using host::CupsErrorKind;
 using host::CupsServer;
 using host::DestinationList;
 using test_support::PrivateCupsd;
@@ -94,7 +94,7 @@ protected:
     {
         server.askTrust = [this, granted](const host::TrustRequest &request) {
             requests.push_back(request);
-            granted ? request.grant() : request.refuse();
+            granted ? request.grant() : request.reject();
         };
     }
     void answerPasswords(const QStringList &answers)
@@ -149,10 +149,10 @@ TEST_F(TrustTest, ARefusedCertificateIsAskedForAgainByTheUsersNextAction)
     Questions questions(server, 2);
     questions.ask();
     ASSERT_EQ(questions.errors.size(), 2U);
-    EXPECT_EQ(questions.errors[0].kind, CupsFailure::Untrusted);
+    EXPECT_EQ(questions.errors[0].kind, CupsErrorKind::Untrusted);
     EXPECT_TRUE(questions.errors[0].message.contains(requests.at(0).fingerprint()));
     EXPECT_EQ(requests.size(), 1U);
-    server.forgetRefusals();
+    server.resetRefusals();
     questions.ask();
     EXPECT_EQ(requests.size(), 2U);
     EXPECT_EQ(keptFiles(), QStringList());
@@ -165,7 +165,7 @@ TEST_F(TrustTest, ACertificateThatTheSystemVerifiesIsNotAskedFor)
     questions.ask();
     EXPECT_EQ(requests.size(), 1U);
     const SystemCertificate trusted(cupsd->certificatePath());
-    server.forgetRefusals();
+    server.resetRefusals();
     questions.ask();
     EXPECT_EQ(questions.refreshed, 1);
     EXPECT_EQ(requests.size(), 1U);
@@ -179,7 +179,7 @@ TEST_F(TrustTest, AVerifiedCertificateOfAnotherHostIsAskedFor)
     Questions questions(server, 1);
     questions.ask();
     const SystemCertificate trusted(cupsd->path(QStringLiteral("etc/ssl/elsewhere.example.crt")));
-    server.forgetRefusals();
+    server.resetRefusals();
     questions.ask();
     cupsd->configureForNetwork(host);
     ASSERT_EQ(requests.size(), 2U);
@@ -216,7 +216,7 @@ TEST_F(TrustTest, ACertificateThatChangesWhileThePasswordIsAskedForIsSentNone)
     cupsd->configureForNetwork(host);
     ASSERT_EQ(questions.errors.size(), 1U);
     EXPECT_EQ(passwordPrompts.size(), 1);
-    EXPECT_EQ(questions.errors[0].kind, CupsFailure::Untrusted) << qPrintable(questions.errors[0].message);
+    EXPECT_EQ(questions.errors[0].kind, CupsErrorKind::Untrusted) << qPrintable(questions.errors[0].message);
     EXPECT_FALSE(cupsd->log().contains("as anna using")) << cupsd->log().toStdString();
 }
 
@@ -267,7 +267,7 @@ TEST_F(TrustTest, APasswordForThePrinterIsSentEncrypted)
     EXPECT_TRUE(ask(false));
     const auto answer = ask(true);
     ASSERT_FALSE(answer);
-    EXPECT_EQ(answer.error().kind, CupsFailure::Untrusted) << qPrintable(answer.error().message);
+    EXPECT_EQ(answer.error().kind, CupsErrorKind::Untrusted) << qPrintable(answer.error().message);
 }
 
 TEST_F(TrustTest, ThisMachineNeedsNoCertificate)
@@ -294,7 +294,7 @@ TEST_F(TrustTest, AKnownPasswordIsNotSentWhereOthersCanReadItEither)
     Questions there(server, 2);
     there.ask();
     ASSERT_EQ(there.errors.size(), 2U);
-    EXPECT_EQ(there.errors[0].kind, CupsFailure::NotAuthorized);
+    EXPECT_EQ(there.errors[0].kind, CupsErrorKind::NotAuthorized);
     EXPECT_EQ(far.passwordCount(), 0);
     ASSERT_EQ(requests.size(), 1U);
     EXPECT_EQ(requests[0].subject(), host::TrustRequest::Subject::ReadablePassword);
@@ -336,7 +336,7 @@ TEST_F(TrustTest, AWrongPasswordIsAskedForThreeTimesAndThenNoMore)
     questions.ask();
     EXPECT_EQ(passwordPrompts.size(), 3);
     EXPECT_EQ(guarded.passwordCount(), 3);
-    server.forgetRefusals();
+    server.resetRefusals();
     answerPasswords({{}, {}, {}, QStringLiteral("secret")});
     Questions later(server, 1);
     later.ask();

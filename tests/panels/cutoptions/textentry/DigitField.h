@@ -47,18 +47,18 @@ protected:
 
     /// Makes an edit that must be refused, and checks that it has left no trace.
     template<typename Edit>
-    void expectRefused(Edit edit)
+    void expectError(Edit edit)
     {
         const FieldState before = in.state();
         const bool undoBefore = in.field.isUndoAvailable();
         QSignalSpy changed(&in.field, &QLineEdit::textChanged);
         QSignalSpy edited(&in.field, &QLineEdit::textEdited);
-        Refusals refusals;
+        Refusals choiceErrors;
         edit();
         EXPECT_TRUE(before == in.state()) << describe(before) << " became " << describe(in.state());
         EXPECT_EQ(in.field.isUndoAvailable(), undoBefore);
-        EXPECT_EQ(refusals.beeps(), 1u);
-        EXPECT_EQ(refusals.notifications.size(), 1u);
+        EXPECT_EQ(choiceErrors.beeps(), 1u);
+        EXPECT_EQ(choiceErrors.notifications.size(), 1u);
         EXPECT_EQ(changed.count(), 0);
         EXPECT_EQ(edited.count(), 0);
     }

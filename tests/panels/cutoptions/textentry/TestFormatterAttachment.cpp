@@ -6,7 +6,7 @@
 
 TEST_F(DigitField, KeepsWhatTheFormatterTakes)
 {
-    Refusals refusals;
+    Refusals choiceErrors;
     in.type(QStringLiteral("12"));
     in.paste(QStringLiteral("34"));
     in.commit(QStringLiteral("5"));
@@ -14,14 +14,14 @@ TEST_F(DigitField, KeepsWhatTheFormatterTakes)
     in.press(Qt::Key_Backspace);
     EXPECT_EQ(in.drop(QStringLiteral("0"), 0), Qt::MoveAction);
     EXPECT_EQ(in.field.text(), QStringLiteral("01234"));
-    EXPECT_EQ(refusals.beeps(), 0u);
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
 }
 
 TEST_F(DigitField, RefusesTypingAtEveryCursorAndSelection)
 {
     for (const Selection &selection : allSelections()) {
         begin(selection.start, selection.length);
-        expectRefused([&] { in.type(QStringLiteral("x")); });
+        expectError([&] { in.type(QStringLiteral("x")); });
     }
 }
 
@@ -29,9 +29,9 @@ TEST_F(DigitField, RefusesPastingAtEveryCursorAndSelection)
 {
     for (const Selection &selection : allSelections()) {
         begin(selection.start, selection.length);
-        expectRefused([&] { in.paste(QStringLiteral("5x")); });
-        expectRefused([&] { in.field.paste(); });
-        expectRefused([&] { in.field.insert(QStringLiteral("日")); });
+        expectError([&] { in.paste(QStringLiteral("5x")); });
+        expectError([&] { in.field.paste(); });
+        expectError([&] { in.field.insert(QStringLiteral("日")); });
     }
 }
 
@@ -40,7 +40,7 @@ TEST_F(DigitField, RefusesDropsAtEveryPlaceOverEverySelection)
     for (const Selection &selection : allSelections()) {
         for (int place = 0; place <= 4; ++place) {
             begin(selection.start, selection.length);
-            expectRefused([&] { EXPECT_EQ(in.drop(QStringLiteral("x"), place), Qt::IgnoreAction); });
+            expectError([&] { EXPECT_EQ(in.drop(QStringLiteral("x"), place), Qt::IgnoreAction); });
         }
     }
 }
@@ -50,9 +50,9 @@ TEST_F(DigitField, ChecksADropWhereItFallsNotWhereTheCursorWas)
     formatter->setTextStyle(0);
     formatter->addInvalidCharacter(QStringLiteral("ab"));
     begin(4, 0);
-    expectRefused([&] { in.drop(QStringLiteral("ab"), 0); });
+    expectError([&] { in.drop(QStringLiteral("ab"), 0); });
     begin(0, 0);
-    expectRefused([&] { in.drop(QStringLiteral("ab"), 4); });
+    expectError([&] { in.drop(QStringLiteral("ab"), 4); });
 }
 
 TEST_F(DigitField, DragThatLeavesAgainIsForgotten)
@@ -65,18 +65,18 @@ TEST_F(DigitField, DragThatLeavesAgainIsForgotten)
     QDragLeaveEvent leave;
     QApplication::sendEvent(&in.field, &leave);
     begin(0, 1);
-    expectRefused([&] { in.drop(QStringLiteral("x"), 3); });
+    expectError([&] { in.drop(QStringLiteral("x"), 3); });
 }
 
 TEST_F(DigitField, ReturnAndLeavingAreNotEdits)
 {
     begin(0, 0, QStringLiteral("set by the program"));
-    Refusals refusals;
+    Refusals choiceErrors;
     QSignalSpy finished(&in.field, &QLineEdit::editingFinished);
     in.press(Qt::Key_Return);
     in.press(Qt::Key_Tab);
     EXPECT_GE(finished.count(), 1);
-    EXPECT_EQ(refusals.beeps(), 0u);
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
     EXPECT_EQ(in.field.text(), QStringLiteral("set by the program"));
 }
 
@@ -85,11 +85,11 @@ TEST_F(DigitField, ReadOnlyFieldStaysSilent)
     begin(2, 1);
     in.field.setReadOnly(true);
     const FieldState before = in.state();
-    Refusals refusals;
+    Refusals choiceErrors;
     in.type(QStringLiteral("x"));
     in.press(QKeySequence::Undo);
     EXPECT_TRUE(before == in.state());
-    EXPECT_EQ(refusals.beeps(), 0u);
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
 }
 
 TEST_F(DigitField, LengthCountsBytes)
@@ -97,7 +97,7 @@ TEST_F(DigitField, LengthCountsBytes)
     formatter->setTextStyle(0);
     in.commit(QStringLiteral("é日"));
     EXPECT_EQ(in.field.text(), QStringLiteral("é日"));
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    expectError([&] { in.type(QStringLiteral("x")); });
 }
 
 TEST(FormatterAttachment, ReplacesAnEarlierOneAndEndsWithTheField)
@@ -201,11 +201,11 @@ static void editAtRandom(quint32 seed)
     for (int round = 0; round < 2000; ++round) {
         const QString text = texts[random.bounded(texts.size())];
         const FieldState before = in.state();
-        Refusals refusals;
+        Refusals choiceErrors;
         const int kind = editOnce(in, random, text);
-        ASSERT_LE(refusals.beeps(), 1u);
-        ASSERT_EQ(refusals.beeps(), refusals.notifications.size());
-        if (refusals.beeps() == 1) {
+        ASSERT_LE(choiceErrors.beeps(), 1u);
+        ASSERT_EQ(choiceErrors.beeps(), choiceErrors.notifications.size());
+        if (choiceErrors.beeps() == 1) {
             ASSERT_TRUE(before == in.state())
                 << "round " << round << ", edit " << kind << ", " << text.toStdString() << ": "
                 << describe(before) << " became " << describe(in.state());

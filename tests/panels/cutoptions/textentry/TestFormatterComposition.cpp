@@ -6,7 +6,7 @@ TEST_F(DigitField, RefusesCompositionsAtEveryCursorAndSelection)
 {
     for (const Selection &selection : allSelections()) {
         begin(selection.start, selection.length);
-        expectRefused([&] { in.commit(QStringLiteral("日本語")); });
+        expectError([&] { in.commit(QStringLiteral("日本語")); });
     }
 }
 
@@ -15,13 +15,13 @@ TEST_F(DigitField, RefusedCompositionBringsTheSelectionBackThatItReplaced)
     for (const Selection &selection : allSelections()) {
         begin(selection.start, selection.length);
         const FieldState before = in.state();
-        Refusals refusals;
+        Refusals choiceErrors;
         in.compose(QStringLiteral("に"));
         in.compose(QStringLiteral("にほん"));
-        EXPECT_EQ(refusals.beeps(), 0u) << "what is unfinished is not checked";
+        EXPECT_EQ(choiceErrors.beeps(), 0u) << "what is unfinished is not checked";
         in.commit(QStringLiteral("日本"));
         EXPECT_TRUE(before == in.state()) << describe(before) << " became " << describe(in.state());
-        EXPECT_EQ(refusals.beeps(), 1u);
+        EXPECT_EQ(choiceErrors.beeps(), 1u);
         in.commit(QStringLiteral("日本"));
         EXPECT_TRUE(before == in.state()) << describe(before) << " became " << describe(in.state());
     }
@@ -76,24 +76,24 @@ TEST_F(DigitField, AcceptedCompositionIsHeldAgainstWhatItReplaced)
     in.commit(QStringLiteral("日"), QStringLiteral("ほん"));
     in.commit(QStringLiteral("本"));
     EXPECT_EQ(in.field.text(), QStringLiteral("1日本語日本4")) << "committed in two parts, checked in two";
-    expectRefused([&] { in.commit(QStringLiteral("日本")); });
+    expectError([&] { in.commit(QStringLiteral("日本")); });
 }
 
 TEST_F(DigitField, CancelledCompositionIsADeletion)
 {
     begin(1, 2);
-    Refusals refusals;
+    Refusals choiceErrors;
     in.compose(QStringLiteral("に"));
     in.compose(QString());
     EXPECT_EQ(in.field.text(), QStringLiteral("14"));
-    EXPECT_EQ(refusals.beeps(), 0u);
-    expectRefused([&] { in.commit(QStringLiteral("日")); });
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
+    expectError([&] { in.commit(QStringLiteral("日")); });
 }
 
 TEST_F(DigitField, ReplacementByAnInputMethodIsChecked)
 {
     begin(4, 0);
-    expectRefused([&] { in.commit(QStringLiteral("日"), QString(), -2, 2); });
+    expectError([&] { in.commit(QStringLiteral("日"), QString(), -2, 2); });
     in.commit(QStringLiteral("9"), QString(), -2, 2);
     EXPECT_EQ(in.field.text(), QStringLiteral("129"));
 }

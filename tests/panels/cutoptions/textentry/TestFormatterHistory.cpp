@@ -7,9 +7,9 @@
 TEST_F(DigitField, RefusalLeavesTheUndoHistoryAlone)
 {
     in.type(QStringLiteral("12"));
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    expectError([&] { in.type(QStringLiteral("x")); });
     in.press(Qt::Key_Backspace);
-    expectRefused([&] { in.paste(QStringLiteral("x")); });
+    expectError([&] { in.paste(QStringLiteral("x")); });
     in.press(QKeySequence::Undo);
     EXPECT_EQ(in.field.text(), QStringLiteral("12"));
     in.press(QKeySequence::Undo);
@@ -25,8 +25,8 @@ TEST_F(DigitField, UndoThatBringsBackARefusedTextIsRefused)
     in.press(Qt::Key_Delete);
     ASSERT_EQ(in.field.text(), QStringLiteral("12"));
     in.field.setSelection(2, -1);
-    expectRefused([&] { in.press(QKeySequence::Undo); });
-    expectRefused([&] { in.press(QKeySequence::Undo); });
+    expectError([&] { in.press(QKeySequence::Undo); });
+    expectError([&] { in.press(QKeySequence::Undo); });
     formatter->setTextStyle(0);
     in.press(QKeySequence::Undo);
     EXPECT_EQ(in.field.text(), QStringLiteral("ab12"));
@@ -39,7 +39,7 @@ TEST_F(DigitField, RedoThatBringsBackARefusedTextIsRefused)
     in.press(QKeySequence::Undo);
     ASSERT_EQ(in.field.text(), QString());
     formatter->setTextStyle(2);
-    expectRefused([&] { in.press(QKeySequence::Redo); });
+    expectError([&] { in.press(QKeySequence::Redo); });
     EXPECT_TRUE(in.field.isRedoAvailable());
     formatter->setTextStyle(0);
     in.press(QKeySequence::Redo);
@@ -82,7 +82,7 @@ TEST_F(DigitField, UndoFromTheContextMenuIsChecked)
         menu->close();
         EXPECT_EQ(found, 1);
     };
-    expectRefused([&] { choose(QStringLiteral("&Undo")); });
+    expectError([&] { choose(QStringLiteral("&Undo")); });
     formatter->setTextStyle(0);
     choose(QStringLiteral("&Undo"));
     EXPECT_EQ(in.field.text(), QStringLiteral("ab12"));
@@ -90,7 +90,7 @@ TEST_F(DigitField, UndoFromTheContextMenuIsChecked)
     EXPECT_EQ(in.field.text(), QStringLiteral("12"));
     formatter->setTextStyle(2);
     QApplication::clipboard()->setText(QStringLiteral("x"));
-    expectRefused([&] { choose(QStringLiteral("&Paste")); });
+    expectError([&] { choose(QStringLiteral("&Paste")); });
 }
 
 TEST_F(DigitField, OwnContextMenuOfTheFieldIsLeftToItsOwner)
@@ -105,17 +105,17 @@ TEST_F(DigitField, OwnContextMenuOfTheFieldIsLeftToItsOwner)
 
 TEST_F(DigitField, ProgramMaySetAnything)
 {
-    Refusals refusals;
+    Refusals choiceErrors;
     in.field.setText(QStringLiteral("日本語 is too long"));
     EXPECT_EQ(in.field.text(), QStringLiteral("日本語 is too long"));
     in.type(QStringLiteral("1"));
-    EXPECT_EQ(refusals.beeps(), 1u);
+    EXPECT_EQ(choiceErrors.beeps(), 1u);
     in.press(Qt::Key_Backspace);
     EXPECT_EQ(in.field.text(), QStringLiteral("日本語 is too lon"));
     in.field.clear();
     in.type(QStringLiteral("1"));
     EXPECT_EQ(in.field.text(), QStringLiteral("1"));
-    EXPECT_EQ(refusals.beeps(), 1u);
+    EXPECT_EQ(choiceErrors.beeps(), 1u);
 }
 
 TEST_F(DigitField, ChangesWithSignalsBlockedAreNotMissed)
@@ -126,7 +126,7 @@ TEST_F(DigitField, ChangesWithSignalsBlockedAreNotMissed)
         in.field.setText(QStringLiteral("98"));
         in.field.setCursorPosition(1);
     }
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    expectError([&] { in.type(QStringLiteral("x")); });
     in.type(QStringLiteral("5"));
     EXPECT_EQ(in.field.text(), QStringLiteral("958"));
 }
@@ -137,11 +137,11 @@ TEST_F(DigitField, RedoByTheProgramIsNotChecked)
     in.type(QStringLiteral("ab"));
     in.field.undo();
     formatter->setTextStyle(2);
-    Refusals refusals;
+    Refusals choiceErrors;
     in.field.redo();
     EXPECT_EQ(in.field.text(), QStringLiteral("ab"));
-    EXPECT_EQ(refusals.beeps(), 0u);
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
+    expectError([&] { in.type(QStringLiteral("x")); });
 }
 
 TEST_F(DigitField, RedoBehindTheFormattersBackCannotSwitchTheCheckOff)
@@ -156,18 +156,18 @@ TEST_F(DigitField, RedoBehindTheFormattersBackCannotSwitchTheCheckOff)
     }
     in.type(QStringLiteral("x"));
     EXPECT_FALSE(in.field.text().contains(u'x'));
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    expectError([&] { in.type(QStringLiteral("x")); });
 }
 
 TEST_F(DigitField, UndoByTheProgramIsNotChecked)
 {
     begin(0, 0, QStringLiteral("ab12"));
     in.press(Qt::Key_Delete);
-    Refusals refusals;
+    Refusals choiceErrors;
     in.field.undo();
     EXPECT_EQ(in.field.text(), QStringLiteral("ab12"));
-    EXPECT_EQ(refusals.beeps(), 0u);
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
+    expectError([&] { in.type(QStringLiteral("x")); });
 }
 
 TEST_F(DigitField, ListenerFindsTheFieldAtRestAndMayChangeIt)
@@ -197,5 +197,5 @@ TEST_F(DigitField, ListenerMayChangeTheFieldDuringAPasteByTheProgram)
     in.field.insert(QStringLiteral("x"));
     center.removeObserver(this);
     EXPECT_EQ(in.field.text(), QStringLiteral("1"));
-    expectRefused([&] { in.type(QStringLiteral("x")); });
+    expectError([&] { in.type(QStringLiteral("x")); });
 }

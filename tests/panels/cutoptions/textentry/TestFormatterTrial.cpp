@@ -29,7 +29,7 @@ std::string reply(const char *request)
 
 TEST(FormatterTrial, TriesEditsInOrder)
 {
-    Refusals refusals;
+    Refusals choiceErrors;
     EXPECT_EQ(
         reply(R"({"op":"formatter","style":2,"maxLength":3,"minValue":1,"maxValue":255,"edits":[
         {"partial":"2","proposed":[1,0],"original":"","originalSelection":[0,0]},
@@ -47,8 +47,8 @@ TEST(FormatterTrial, TriesEditsInOrder)
         R"({"accepted":false,"beeps":1,"notification":"InvalidCharacterNotification","object":"日"},)"
         R"({"accepted":true,"beeps":0,"notification":null,"object":null},)"
         R"({"accepted":true,"beeps":0,"notification":null,"object":null}]})");
-    EXPECT_EQ(refusals.beeps(), 4u);
-    EXPECT_EQ(refusals.notifications.size(), 4u);
+    EXPECT_EQ(choiceErrors.beeps(), 4u);
+    EXPECT_EQ(choiceErrors.notifications.size(), 4u);
 }
 
 TEST(FormatterTrial, NotificationObjectAndListOfRefusedTexts)
@@ -152,12 +152,12 @@ TEST(FormatterTrial, IllTypedMembersAreNamedAndNothingIsTried)
             if (!request.contains("style"))
                 request.insert("style", 2);
         }
-        Refusals refusals;
+        Refusals choiceErrors;
         const QJsonObject reply = textentry::tryFormatter(request);
         EXPECT_EQ(reply.keys(), QStringList{"error"}) << row.request;
         EXPECT_TRUE(reply.value("error").toString().contains(QStringLiteral("\"%1\"").arg(row.named)))
             << row.request << ": " << qPrintable(reply.value("error").toString());
-        EXPECT_EQ(refusals.beeps(), 0u) << row.request;
+        EXPECT_EQ(choiceErrors.beeps(), 0u) << row.request;
     }
 }
 

@@ -123,10 +123,10 @@ TEST(KeystrokeStyles, RefusalIsOneBeepAndOneNotificationWhateverIsPasted)
     const auto formatter = PDEFormatter::initWithStyle(2);
     for (const QString &paste :
          {QStringLiteral("x"), QStringLiteral("xyz"), QStringLiteral("日本語"), QString(1000, u'x')}) {
-        Refusals refusals;
+        Refusals choiceErrors;
         EXPECT_FALSE(typed(*formatter, "1", paste));
-        EXPECT_EQ(refusals.beeps(), 1u);
-        EXPECT_EQ(refusals.notifications.size(), 1u);
+        EXPECT_EQ(choiceErrors.beeps(), 1u);
+        EXPECT_EQ(choiceErrors.notifications.size(), 1u);
     }
     Refusals none;
     EXPECT_TRUE(typed(*formatter, "1", "234"));

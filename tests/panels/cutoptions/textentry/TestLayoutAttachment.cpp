@@ -89,10 +89,10 @@ TEST(LayoutAttachment, PropertiesMakeAFormatter)
     EXPECT_TRUE(formatter.isInvalidCharacter(QStringLiteral("00")));
     EXPECT_EQ(formatter.formatString(), QStringLiteral("%d mm"));
 
-    Refusals refusals;
+    Refusals choiceErrors;
     QTest::keyClicks(field, QStringLiteral("2x756"));
     EXPECT_EQ(field->text(), QStringLiteral("25"));
-    EXPECT_EQ(refusals.beeps(), 3u);
+    EXPECT_EQ(choiceErrors.beeps(), 3u);
 }
 
 TEST(LayoutAttachment, OnePropertyIsEnoughAndOthersStayAtRest)

@@ -21,11 +21,11 @@ std::unique_ptr<PDEFormatter> numberField(std::int32_t maxLength, std::int32_t m
 platform::Notification refusalOfTyping(const PDEFormatter &formatter, const QString &original,
                                        const QString &text)
 {
-    Refusals refusals;
+    Refusals choiceErrors;
     EXPECT_FALSE(typed(formatter, original, text)) << qPrintable(original + text);
-    EXPECT_EQ(refusals.beeps(), 1u);
-    EXPECT_EQ(refusals.notifications.size(), 1u);
-    return refusals.notifications.empty() ? platform::Notification{} : refusals.notifications.front();
+    EXPECT_EQ(choiceErrors.beeps(), 1u);
+    EXPECT_EQ(choiceErrors.notifications.size(), 1u);
+    return choiceErrors.notifications.empty() ? platform::Notification{} : choiceErrors.notifications.front();
 }
 
 } // namespace
@@ -143,7 +143,7 @@ TEST(PDEFormatter, BoundsBeyondTheEndsOf32BitsClamp)
 TEST(PDEFormatter, EditsThatDoNotMoveForwardAreNeverChecked)
 {
     const auto formatter = numberField(2, 50, 60);
-    Refusals refusals;
+    Refusals choiceErrors;
     const auto edit = [&](const std::optional<QString> &partial, const std::optional<PDETextRange> &proposed,
                           PDETextRange original) {
         return formatter->isPartialStringValid(partial, proposed, QStringLiteral("1234"), original, nullptr);
@@ -155,8 +155,8 @@ TEST(PDEFormatter, EditsThatDoNotMoveForwardAreNeverChecked)
     EXPECT_TRUE(edit(QString(), PDETextRange{9, 0}, {0, 0}));
     EXPECT_TRUE(edit(QStringLiteral("xyz"), std::nullopt, {0, 0}));
     EXPECT_TRUE(edit(QStringLiteral("xyz"), PDETextRange{9, 0}, {5, 0})) << "nothing was inserted there";
-    EXPECT_EQ(refusals.beeps(), 0u);
-    EXPECT_TRUE(refusals.notifications.empty());
+    EXPECT_EQ(choiceErrors.beeps(), 0u);
+    EXPECT_TRUE(choiceErrors.notifications.empty());
     EXPECT_FALSE(edit(QStringLiteral("xyz"), PDETextRange{1, 0}, {0, 4}));
 }
 

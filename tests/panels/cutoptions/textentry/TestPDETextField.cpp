@@ -150,10 +150,10 @@ TEST_F(ReportingField, FlagTellsFocusActivityWhichIsSilent)
 TEST_F(ReportingField, RefusedEditsAreNoEdits)
 {
     textentry::FormatterAttachment::attach(&in.field, PDEFormatter::initWithStyle(2));
-    Refusals refusals;
+    Refusals choiceErrors;
     in.type(QStringLiteral("1x2"));
     in.paste(QStringLiteral("y"));
     EXPECT_EQ(in.field.text(), QStringLiteral("12"));
-    EXPECT_EQ(refusals.beeps(), 2u);
+    EXPECT_EQ(choiceErrors.beeps(), 2u);
     EXPECT_EQ(posted.size(), 2u);
 }

@@ -30,14 +30,14 @@ TEST(Drawing, isAnEmptySvgAtFirst)
 {
     const Drawing drawing(Theme::Light);
     EXPECT_EQ(elements(drawing.svg()), QStringList{QStringLiteral("svg")});
-    EXPECT_TRUE(drawing.problems().isEmpty());
+    EXPECT_TRUE(drawing.errors().isEmpty());
 }
 
 TEST(Drawing, fillsInNumbersAndColours)
 {
     Drawing drawing(Theme::Dark);
     drawing.add(QStringLiteral("layer"), {{"x", 2.5}, {"y", 24.5}, {"width", 39}, {"height", 29}});
-    EXPECT_TRUE(drawing.problems().isEmpty());
+    EXPECT_TRUE(drawing.errors().isEmpty());
     EXPECT_TRUE(drawing.svg().contains(QStringLiteral("x=\"2.5\" y=\"24.5\" width=\"39\" height=\"29\"")));
     EXPECT_TRUE(drawing.svg().contains(colours(Theme::Dark).value(QStringLiteral("tape"))));
     EXPECT_FALSE(drawing.svg().contains(u'@'));
@@ -47,8 +47,8 @@ TEST(Drawing, reportsAPartThatDoesNotExist)
 {
     Drawing drawing(Theme::Light);
     drawing.add(QStringLiteral("hammer"), {});
-    ASSERT_EQ(drawing.problems().size(), 1);
-    EXPECT_TRUE(drawing.problems().first().contains(QStringLiteral("hammer")));
+    ASSERT_EQ(drawing.errors().size(), 1);
+    EXPECT_TRUE(drawing.errors().first().contains(QStringLiteral("hammer")));
 }
 
 TEST(Drawing, reportsEveryPartThatLacksANumberAndLeavesItOut)
@@ -56,11 +56,9 @@ TEST(Drawing, reportsEveryPartThatLacksANumberAndLeavesItOut)
     Drawing drawing(Theme::Light);
     drawing.add(QStringLiteral("chain"), {{"x", 1}});
     drawing.add(QStringLiteral("mirror"), {{"y", 1}});
-    ASSERT_EQ(drawing.problems().size(), 2);
-    EXPECT_EQ(drawing.problems()[0],
-              QStringLiteral("The part \"chain\" asks for \"y\", which is not given."));
-    EXPECT_EQ(drawing.problems()[1],
-              QStringLiteral("The part \"mirror\" asks for \"x\", which is not given."));
+    ASSERT_EQ(drawing.errors().size(), 2);
+    EXPECT_EQ(drawing.errors()[0], QStringLiteral("The part \"chain\" asks for \"y\", which is not given."));
+    EXPECT_EQ(drawing.errors()[1], QStringLiteral("The part \"mirror\" asks for \"x\", which is not given."));
     EXPECT_EQ(elements(drawing.svg()), QStringList{QStringLiteral("svg")});
 }
 
@@ -75,7 +73,7 @@ TEST(Composer, composesWellFormedSvgWithoutProblems)
     for (const PictureSpec &spec : allPictures()) {
         for (const Theme theme : {Theme::Light, Theme::Dark}) {
             const Drawing drawing = compose(spec, theme);
-            EXPECT_EQ(drawing.problems(), QStringList()) << qPrintable(spec.name);
+            EXPECT_EQ(drawing.errors(), QStringList()) << qPrintable(spec.name);
             EXPECT_GT(elements(drawing.svg()).size(), 10) << qPrintable(spec.name);
         }
     }

@@ -27,13 +27,13 @@ TEST(MiddleClick, PastesWhatIsTakenAndLeavesNoTraceOfWhatIsRefused)
     // Selecting has put "23" into the clipboard that a middle click pastes from.
     QApplication::clipboard()->setText(QStringLiteral("x"), QClipboard::Selection);
     const auto before = textentry::FieldState::of(field);
-    Refusals refusals;
+    Refusals choiceErrors;
     QTest::mouseClick(&field, Qt::MiddleButton, Qt::NoModifier, behindTheText);
-    EXPECT_EQ(refusals.beeps(), 1u);
+    EXPECT_EQ(choiceErrors.beeps(), 1u);
     EXPECT_TRUE(before == textentry::FieldState::of(field)) << qPrintable(field.text());
 
     QApplication::clipboard()->setText(QStringLiteral("56"), QClipboard::Selection);
     QTest::mouseClick(&field, Qt::MiddleButton, Qt::NoModifier, behindTheText);
     EXPECT_EQ(field.text(), QStringLiteral("123456"));
-    EXPECT_EQ(refusals.beeps(), 1u);
+    EXPECT_EQ(choiceErrors.beeps(), 1u);
 }

@@ -8,15 +8,15 @@ inline namespace files {
 
 /// Prevents SIGPIPE in the calling thread while the object exists. A write to a pipe without a reader still
 /// fails with EPIPE.
-class BrokenPipeSilence {
+class BrokenPipeBlocker {
 public:
     /// Blocks SIGPIPE in the calling thread.
-    BrokenPipeSilence();
+    BrokenPipeBlocker();
     /// Removes the signal that raised() reports, and restores the signal mask. Must run in the thread of the
     /// constructor.
-    ~BrokenPipeSilence();
-    BrokenPipeSilence(const BrokenPipeSilence &) = delete;
-    BrokenPipeSilence &operator=(const BrokenPipeSilence &) = delete;
+    ~BrokenPipeBlocker();
+    BrokenPipeBlocker(const BrokenPipeBlocker &) = delete;
+    BrokenPipeBlocker &operator=(const BrokenPipeBlocker &) = delete;
 
     /// Must be called after a write that failed with EPIPE.
     void raised() { m_raised = true; }

@@ -9,7 +9,7 @@ namespace programs {
 inline namespace kvprint {
 
 /// Nothing when a value was good, otherwise what is wrong with it.
-using Complaint = std::optional<QString>;
+using ErrorMessage = std::optional<QString>;
 
 } // namespace kvprint
 } // namespace programs

@@ -14,7 +14,7 @@ inline namespace kvprint {
 /// The print server to talk to, without a way to ask for passwords.
 host::CupsServer cupsServer(const CommandLine &command);
 /// What is wanted of the printer, a mail when the job is over included; PPD texts in the user's language.
-host::SetupWishes setupWishes(const CommandLine &command);
+host::SetupRequest setupRequest(const CommandLine &command);
 /// Where the panel is looked for.
 host::PanelSource panelSource(const CommandLine &command);
 

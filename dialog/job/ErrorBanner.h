@@ -18,12 +18,12 @@ inline namespace job {
 
 /// Shows all errors that prevent printing, or printing as requested. No error hides another: the message that
 /// a job may have been printed after all must stay when the server cannot be reached any more.
-class ProblemBanner : public Banner {
+class ErrorBanner : public Banner {
     Q_OBJECT
 
 public:
     /// Creates a hidden banner.
-    explicit ProblemBanner(QWidget *parent)
+    explicit ErrorBanner(QWidget *parent)
         : Banner(parent)
     {
     }
@@ -33,20 +33,20 @@ public:
     /// outlive the banner.
     void follow(host::QueueSession &session);
     /// The message about a job that was not sent; empty if there is no such error.
-    void setSendingProblem(const QString &problem);
-    const QString &sendingProblem() const { return m_sending; }
+    void setSendError(const QString &problem);
+    const QString &sendError() const { return m_sending; }
     /// Shows the errors about requested choices that the printer does not have, and the sentences about what
     /// its panel does instead.
-    void setRefusals(const std::vector<host::ChoiceError> &refusals, const QStringList &replaced);
+    void setChoiceErrors(const std::vector<host::ChoiceError> &choiceErrors, const QStringList &replaced);
 
 private:
-    void setServerProblem(const std::optional<host::CupsError> &problem);
+    void setServerError(const std::optional<host::CupsError> &problem);
     void refresh();
 
     QString m_sending;
     /// The last error of the session; absent if there is none.
     std::optional<host::CupsError> m_server;
-    QString m_refusals;
+    QString m_choiceErrors;
 };
 
 } // namespace job

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "WaitingWords.h"
+#include "WaitingText.h"
 
 #include <host/cups/queues/QueueSession.h>
 
@@ -16,7 +16,7 @@ struct WaitingText {
 
 } // namespace
 
-QString waitingWords(const host::QueueSession *session)
+QString waitingText(const host::QueueSession *session)
 {
     if (session && session->ppdError())
         return WaitingText::tr("The printer's description is not known.");

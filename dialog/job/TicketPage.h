@@ -15,12 +15,12 @@ inline namespace job {
 
 /// Shows the ticket that will be sent: every option of the job with its origin, and the lp command that
 /// prints the same job.
-class SentPage : public QWidget {
+class TicketPage : public QWidget {
     Q_OBJECT
 
 public:
     /// Creates an empty page.
-    explicit SentPage(QWidget *parent);
+    explicit TicketPage(QWidget *parent);
 
     /// Replaces the contents with this ticket, as it is sent to the server.
     void setTicket(const host::CupsServer &server, const host::JobTicket &ticket);

@@ -9,7 +9,7 @@ inline namespace jobs {
 
 /// Returns whether the choice consists of free values for an option that accepts them, "Custom.12" or
 /// "{Left=12mm Words=on}", each within the limits of the PPD. Not for papers.
-bool isFreeChoice(const PpdFile &ppd, const NamedValue &choice);
+bool isCustomChoice(const PpdFile &ppd, const NamedValue &choice);
 
 } // namespace jobs
 } // namespace cups

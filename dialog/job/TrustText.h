@@ -7,8 +7,8 @@ namespace dialog {
 inline namespace job {
 
 /// The translated texts of a question about the security of a connection, for windows and terminals.
-struct TrustWords {
-    explicit TrustWords(const host::TrustRequest &request);
+struct TrustText {
+    explicit TrustText(const host::TrustRequest &request);
 
     /// The title of a window.
     QString title;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "TrustWords.h"
+#include "TrustText.h"
 
 #include <QCoreApplication>
 
@@ -9,12 +9,12 @@ inline namespace job {
 namespace {
 
 struct TrustWordsText {
-    Q_DECLARE_TR_FUNCTIONS(dialog::job::TrustWords)
+    Q_DECLARE_TR_FUNCTIONS(dialog::job::TrustText)
 };
 
 } // namespace
 
-TrustWords::TrustWords(const host::TrustRequest &request)
+TrustText::TrustText(const host::TrustRequest &request)
 {
     if (request.subject() == host::TrustRequest::Subject::ReadablePassword) {
         title = TrustWordsText::tr("Connection without encryption");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <host/cups/jobs/JobStatus.h>
-#include <host/cups/queues/QueueWords.h>
+#include <host/cups/queues/QueueText.h>
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ using host::JobStatus;
 using host::QueueState;
 using host::StateSeverity;
 
-TEST(QueueWords, TellTheStateTheReasonsAndTheServersWords)
+TEST(QueueText, TellTheStateTheReasonsAndTheServersWords)
 {
     struct Row {
         QueueState state;
@@ -62,7 +62,7 @@ TEST(QueueWords, TellTheStateTheReasonsAndTheServersWords)
     }
 }
 
-TEST(QueueWords, TellWhatBecomesOfAJob)
+TEST(QueueText, TellWhatBecomesOfAJob)
 {
     const std::tuple<JobState, const char *, const char *, const char *, const char *> rows[] = {
         {JobState::Waiting, "", "", "", "Waiting for its turn."},
@@ -72,7 +72,7 @@ TEST(QueueWords, TellWhatBecomesOfAJob)
          "Printing. Labels or tape are jammed. The server says: feeding"},
         {JobState::Aborted, "", "media-jam-error", "Filter failed",
          "Aborted by the print server. The server says: Filter failed"},
-        {JobState::Cancelled, "", "", "old", "Canceled."},
+        {JobState::Canceled, "", "", "old", "Canceled."},
         {JobState::Completed, "", "media-low", "old", "Printed."},
     };
     for (const auto &[state, until, reason, message, expected] : rows) {
@@ -83,11 +83,11 @@ TEST(QueueWords, TellWhatBecomesOfAJob)
             job.printerReasons = QStringList{QString::fromLatin1(reason)};
         job.message = QString::fromLatin1(message);
         EXPECT_EQ(job.sentences().join(u' '), QString::fromLatin1(expected));
-        EXPECT_EQ(job.isOver(), state >= JobState::Cancelled);
+        EXPECT_EQ(job.isOver(), state >= JobState::Canceled);
     }
 }
 
-TEST(QueueWords, DestinationsSurviveTheCache)
+TEST(QueueText, DestinationsSurviveTheCache)
 {
     Destination destination;
     destination.queue = QStringLiteral("größe");

@@ -13,12 +13,12 @@ inline namespace options {
 
 /// A field for each parameter of a custom value. Numbers outside their limits cannot be entered. While a text
 /// is shorter than its minimum, a message reports it and edited() is not emitted.
-class FreeChoiceFields : public QWidget {
+class CustomValueFields : public QWidget {
     Q_OBJECT
 
 public:
     /// Creates the fields and shows the current values of the parameters.
-    FreeChoiceFields(std::vector<host::PpdParameter> parameters, QWidget *parent);
+    CustomValueFields(std::vector<host::PpdParameter> parameters, QWidget *parent);
 
     /// Shows the values of the same parameters as in the constructor, without emitting a signal. Does nothing
     /// while the user edits an incomplete value.

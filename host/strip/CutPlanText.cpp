@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CutPlanWords.h"
+#include "CutPlanText.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -65,7 +65,7 @@ QJsonObject labelJson(const PlannedLabel &label)
 
 } // namespace
 
-QString lengthInWords(double millimetres)
+QString lengthText(double millimetres)
 {
     const QLocale locale;
     QString number = locale.toString(millimetres, 'f', 1);
@@ -75,9 +75,9 @@ QString lengthInWords(double millimetres)
     return CutPlanWordsText::tr("%1 mm", "a length").arg(number);
 }
 
-QString tapeInWords(const CutPlan &plan)
+QString tapeText(const CutPlan &plan)
 {
-    return plan.isMeasured() ? lengthInWords(plan.tapeUsed())
+    return plan.isMeasured() ? lengthText(plan.tapeUsed())
                              : CutPlanWordsText::tr("measuring\u2026", "a length");
 }
 
@@ -86,14 +86,13 @@ QString cutPlanFigures(const CutPlan &plan)
     const QLocale locale;
     if (!plan.settings().areKnown)
         return CutPlanWordsText::tr("Labels: %1 \u00b7 Tape: %2")
-            .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
-                 lengthInWords(plan.tapeUsed()));
+            .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())), lengthText(plan.tapeUsed()));
     return CutPlanWordsText::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
         .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())),
-             locale.toString(static_cast<qulonglong>(plan.pieces().size())), tapeInWords(plan));
+             locale.toString(static_cast<qulonglong>(plan.pieces().size())), tapeText(plan));
 }
 
-QStringList cutPlanSentences(const CutPlan &plan)
+QStringList cutPlanDescription(const CutPlan &plan)
 {
     if (plan.labels().empty())
         return {CutPlanWordsText::tr("Nothing is printed.")};

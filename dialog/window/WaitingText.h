@@ -16,7 +16,7 @@ inline namespace window {
 
 /// Describes in a translated sentence what the dialog is waiting for, or what is missing, while no printer is
 /// ready. The session is null for a dialog without a print server.
-QString waitingWords(const host::QueueSession *session);
+QString waitingText(const host::QueueSession *session);
 
 } // namespace window
 } // namespace dialog

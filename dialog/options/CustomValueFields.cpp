@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "FreeChoiceFields.h"
+#include "CustomValueFields.h"
 
 #include <dialog/widgets/LengthField.h>
 
@@ -26,7 +26,7 @@ QRegularExpression characters(host::PpdParameterKind kind)
 
 } // namespace
 
-FreeChoiceFields::FreeChoiceFields(std::vector<host::PpdParameter> parameters, QWidget *parent)
+CustomValueFields::CustomValueFields(std::vector<host::PpdParameter> parameters, QWidget *parent)
     : QWidget(parent)
     , m_parameters(std::move(parameters))
     , m_missing(new QLabel(this))
@@ -45,7 +45,7 @@ FreeChoiceFields::FreeChoiceFields(std::vector<host::PpdParameter> parameters, Q
     showValues(m_parameters);
 }
 
-void FreeChoiceFields::addField(QFormLayout *form, std::size_t index)
+void CustomValueFields::addField(QFormLayout *form, std::size_t index)
 {
     const host::PpdParameter &parameter = m_parameters[index];
     QWidget *const field = parameter.isNumber() ? makeNumber(index) : makeText(index);
@@ -55,7 +55,7 @@ void FreeChoiceFields::addField(QFormLayout *form, std::size_t index)
     m_fields.push_back(field);
 }
 
-QWidget *FreeChoiceFields::makeNumber(std::size_t index)
+QWidget *CustomValueFields::makeNumber(std::size_t index)
 {
     const host::PpdParameter &parameter = m_parameters[index];
     if (parameter.kind == host::PpdParameterKind::Points) {
@@ -75,7 +75,7 @@ QWidget *FreeChoiceFields::makeNumber(std::size_t index)
     return field;
 }
 
-QWidget *FreeChoiceFields::makeText(std::size_t index)
+QWidget *CustomValueFields::makeText(std::size_t index)
 {
     const host::PpdParameter &parameter = m_parameters[index];
     auto *const field = new QLineEdit(this);
@@ -90,7 +90,7 @@ QWidget *FreeChoiceFields::makeText(std::size_t index)
     return field;
 }
 
-void FreeChoiceFields::changed()
+void CustomValueFields::changed()
 {
     const auto missing =
         std::ranges::find_if(m_parameters, [](const host::PpdParameter &each) { return !each.isComplete(); });
@@ -109,7 +109,7 @@ void FreeChoiceFields::changed()
         m_missing->text());
 }
 
-void FreeChoiceFields::showValues(const std::vector<host::PpdParameter> &parameters)
+void CustomValueFields::showValues(const std::vector<host::PpdParameter> &parameters)
 {
     // A text that is still too short is not marked; keep it, so that the user can complete it.
     if (!isComplete() && std::ranges::any_of(m_fields, [](QWidget *field) { return field->hasFocus(); }))
@@ -133,14 +133,14 @@ void FreeChoiceFields::showValues(const std::vector<host::PpdParameter> &paramet
     changed();
 }
 
-bool FreeChoiceFields::isComplete() const
+bool CustomValueFields::isComplete() const
 {
     return std::ranges::all_of(m_parameters, &host::PpdParameter::isComplete);
 }
 
-QByteArray FreeChoiceFields::value() const
+QByteArray CustomValueFields::value() const
 {
-    return host::freeChoiceValue(m_parameters);
+    return host::customChoiceValue(m_parameters);
 }
 
 } // namespace options

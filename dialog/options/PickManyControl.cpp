@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ManyControl.h"
+#include "PickManyControl.h"
 
 #include <dialog/widgets/PlainToolTip.h>
 
@@ -22,7 +22,7 @@ bool meansNone(const QByteArray &choice)
 
 } // namespace
 
-ManyControl::ManyControl(const host::PpdOption &option, QWidget *parent)
+PickManyControl::PickManyControl(const host::PpdOption &option, QWidget *parent)
     : OptionControl(option, parent)
     , m_frame(new QGroupBox(QString(option.text).replace(u'&', QStringLiteral("&&")), this))
 {
@@ -43,7 +43,7 @@ ManyControl::ManyControl(const host::PpdOption &option, QWidget *parent)
         setFocusProxy(m_boxes.front().second);
 }
 
-QByteArray ManyControl::value() const
+QByteArray PickManyControl::value() const
 {
     QByteArrayList names;
     for (const auto &[name, box] : m_boxes) {
@@ -53,14 +53,14 @@ QByteArray ManyControl::value() const
     return names.isEmpty() ? m_none : names.join(',');
 }
 
-void ManyControl::showMarked(const host::PpdOptions &options)
+void PickManyControl::showMarked(const host::PpdOptions &options)
 {
     const std::vector<QByteArray> marked = options.markedChoices(keyword());
     for (const auto &[name, box] : m_boxes)
         box->setChecked(std::ranges::find(marked, name) != marked.end());
 }
 
-QList<QWidget *> ManyControl::spoken() const
+QList<QWidget *> PickManyControl::spoken() const
 {
     QList<QWidget *> widgets{m_frame};
     for (const auto &[name, box] : m_boxes)

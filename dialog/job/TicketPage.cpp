@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SentPage.h"
+#include "TicketPage.h"
 
 #include <dialog/widgets/PlainToolTip.h>
 #include <host/cups/jobs/LpCommand.h>
@@ -17,7 +17,7 @@
 namespace dialog {
 inline namespace job {
 
-SentPage::SentPage(QWidget *parent)
+TicketPage::TicketPage(QWidget *parent)
     : QWidget(parent)
     , m_options(new QTreeWidget(this))
     , m_line(new QLineEdit(this))
@@ -51,7 +51,7 @@ SentPage::SentPage(QWidget *parent)
             [this] { QGuiApplication::clipboard()->setText(m_line->text()); });
 }
 
-void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &ticket)
+void TicketPage::setTicket(const host::CupsServer &server, const host::JobTicket &ticket)
 {
     m_options->clear();
     QList<QTreeWidgetItem *> items;
@@ -72,7 +72,7 @@ void SentPage::setTicket(const host::CupsServer &server, const host::JobTicket &
     m_line->setText(command.line);
     m_line->setCursorPosition(0);
     m_differences->setVisible(!command.differences.isEmpty());
-    m_differences->setText(command.differencesInWords());
+    m_differences->setText(command.differencesText());
 }
 
 } // namespace job

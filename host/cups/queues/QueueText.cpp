@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "QueueWords.h"
+#include "QueueText.h"
 
 #include <QCoreApplication>
 
@@ -12,7 +12,7 @@ inline namespace queues {
 namespace {
 
 struct QueueWordsText {
-    Q_DECLARE_TR_FUNCTIONS(host::cups::queues::QueueWords)
+    Q_DECLARE_TR_FUNCTIONS(host::cups::queues::QueueText)
 };
 
 struct Reason {
@@ -23,55 +23,55 @@ struct Reason {
 // The keywords of RFC 8011, section 5.4.12, and those that CUPS adds.
 constexpr Reason reasons[] = {
     {"media-needed",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer waits for labels or tape.")},
-    {"media-jam", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "Labels or tape are jammed.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer waits for labels or tape.")},
+    {"media-jam", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Labels or tape are jammed.")},
     {"media-low",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The label roll or tape is nearly empty.")},
-    {"media-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The label roll or tape is empty.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The label roll or tape is nearly empty.")},
+    {"media-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The label roll or tape is empty.")},
     {"moving-to-paused",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer is about to pause.")},
-    {"paused", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The queue is paused; jobs wait.")},
-    {"shutdown", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer is switched off.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is about to pause.")},
+    {"paused", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The queue is paused; jobs wait.")},
+    {"shutdown", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is switched off.")},
     {"connecting-to-device",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "Connecting to the printer.")},
-    {"timed-out", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer does not respond.")},
-    {"stopping", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer is stopping.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Connecting to the printer.")},
+    {"timed-out", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer does not respond.")},
+    {"stopping", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is stopping.")},
     {"stopped-partly",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "Some printers of the class are stopped.")},
-    {"toner-low", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The toner is nearly used up.")},
-    {"toner-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The toner is used up.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Some printers of the class are stopped.")},
+    {"toner-low", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The toner is nearly used up.")},
+    {"toner-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The toner is used up.")},
     {"spool-area-full",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The print server has no space left.")},
-    {"cover-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer's cover is open.")},
-    {"interlock-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "A lock of the printer is open.")},
-    {"door-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer's door is open.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The print server has no space left.")},
+    {"cover-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer's cover is open.")},
+    {"interlock-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "A lock of the printer is open.")},
+    {"door-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer's door is open.")},
     {"input-tray-missing",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The cassette or roll holder is missing.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The cassette or roll holder is missing.")},
     {"output-tray-missing",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The output tray is missing.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The output tray is missing.")},
     {"output-area-almost-full",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The output tray is nearly full.")},
-    {"output-area-full", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The output tray is full.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The output tray is nearly full.")},
+    {"output-area-full", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The output tray is full.")},
     {"marker-supply-low",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "Ink or ribbon is nearly used up.")},
-    {"marker-supply-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "Ink or ribbon is used up.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Ink or ribbon is nearly used up.")},
+    {"marker-supply-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Ink or ribbon is used up.")},
     {"marker-waste-almost-full",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The waste box is nearly full.")},
-    {"marker-waste-full", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The waste box is full.")},
-    {"fuser-over-temp", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer is too hot.")},
-    {"fuser-under-temp", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer is warming up.")},
-    {"offline", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer is offline.")},
-    {"hold-new-jobs", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "New jobs are held.")},
-    {"deactivated", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords",
-                                      "The printer is switched off by its administrator.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The waste box is nearly full.")},
+    {"marker-waste-full", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The waste box is full.")},
+    {"fuser-over-temp", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is too hot.")},
+    {"fuser-under-temp", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is warming up.")},
+    {"offline", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is offline.")},
+    {"hold-new-jobs", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "New jobs are held.")},
+    {"deactivated",
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is switched off by its administrator.")},
     {"cups-missing-filter",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "A part of the printer's driver is missing.")},
-    {"cups-insecure-filter", QT_TRANSLATE_NOOP("host::cups::queues::QueueWords",
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "A part of the printer's driver is missing.")},
+    {"cups-insecure-filter", QT_TRANSLATE_NOOP("host::cups::queues::QueueText",
                                                "A part of the printer's driver is not installed safely.")},
     {"cups-waiting-for-job-completed",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "Waiting for the printer to finish the job.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Waiting for the printer to finish the job.")},
     {"cups-ipp-conformance-failure",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueWords", "The printer does not follow its protocol.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer does not follow its protocol.")},
 };
 
 constexpr std::pair<const char *, StateSeverity> severities[] = {
@@ -113,7 +113,7 @@ QString stateReasonSentence(const QString &reason)
     const QString keyword = plainKeyword(reason);
     for (const Reason &known : reasons) {
         if (keyword == QLatin1String(known.keyword))
-            return QCoreApplication::translate("host::cups::queues::QueueWords", known.sentence);
+            return QCoreApplication::translate("host::cups::queues::QueueText", known.sentence);
     }
     return QString(keyword).replace(u'-', u' ') + u'.';
 }
@@ -147,9 +147,9 @@ QStringList queueSentences(const Destination &destination)
         sentences.append(QueueWordsText::tr("The queue accepts no jobs."));
     const QString message = destination.stateMessage.trimmed();
     // "Paused" repeats "The queue is paused", and "Idle" adds nothing.
-    const bool tellsMore = !message.isEmpty() && !(stopped && message == QStringLiteral("Paused")) &&
-                           message != QStringLiteral("Idle");
-    if (tellsMore)
+    const bool addsInformation = !message.isEmpty() && !(stopped && message == QStringLiteral("Paused")) &&
+                                 message != QStringLiteral("Idle");
+    if (addsInformation)
         sentences.append(QueueWordsText::tr("The server says: %1").arg(message));
     return sentences;
 }

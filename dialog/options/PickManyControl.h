@@ -11,12 +11,12 @@ inline namespace options {
 
 /// A check box for each choice of a PickMany option. The choice that means "none" has no check box: it is
 /// chosen when no box is checked.
-class ManyControl : public OptionControl {
+class PickManyControl : public OptionControl {
     Q_OBJECT
 
 public:
     /// Creates the check boxes, all unchecked; showMarked() checks them.
-    ManyControl(const host::PpdOption &option, QWidget *parent);
+    PickManyControl(const host::PpdOption &option, QWidget *parent);
 
     void showMarked(const host::PpdOptions &options) override;
 

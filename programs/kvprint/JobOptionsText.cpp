@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "JobWords.h"
+#include "JobOptionsText.h"
 
 #include "CommandLine.h"
 
@@ -29,7 +29,7 @@ struct HoldWord {
 };
 
 // lp's own words and those of RFC 8011, section 5.2.2.
-constexpr HoldWord holdWords[] = {
+constexpr HoldWord holdTexts[] = {
     {"hold", HoldWord::LetterOnly},      {"immediate", HoldWord::LetterOnly},
     {"indefinite", HoldWord::Anywhere},  {"no-hold", HoldWord::OptionOnly},
     {"day-time", HoldWord::Anywhere},    {"evening", HoldWord::Anywhere},
@@ -46,10 +46,10 @@ bool isTime(const QString &value)
 }
 
 /// When to print, from -H or, with fewer words of its own, from the option.
-Complaint readHold(CommandLine &command, const QString &value, bool isLetter)
+ErrorMessage readHold(CommandLine &command, const QString &value, bool isLetter)
 {
     QStringList accepted;
-    for (const HoldWord &each : holdWords) {
+    for (const HoldWord &each : holdTexts) {
         if (isLetter ? each.place != HoldWord::OptionOnly
                      : each.place == HoldWord::Anywhere || each.place == HoldWord::OptionOnly)
             accepted.append(QString::fromLatin1(each.word));
@@ -64,12 +64,12 @@ Complaint readHold(CommandLine &command, const QString &value, bool isLetter)
     return std::nullopt;
 }
 
-Complaint takeHoldOption(CommandLine &command, const QString &value)
+ErrorMessage parseHoldOption(CommandLine &command, const QString &value)
 {
     return readHold(command, value, false);
 }
 
-Complaint notOneOf(const QString &value, const QString &accepted)
+ErrorMessage notOneOf(const QString &value, const QString &accepted)
 {
     return JobWordsText::tr("\"%1\" is not possible; it must be one of: %2").arg(value, accepted);
 }
@@ -80,7 +80,7 @@ using Words = std::initializer_list<std::pair<const char *, Meaning>>;
 
 /// Takes up what the word stands for.
 template<typename Meaning>
-Complaint takeWord(const QString &value, Words<Meaning> words, std::optional<Meaning> &place)
+ErrorMessage parseWord(const QString &value, Words<Meaning> words, std::optional<Meaning> &place)
 {
     QStringList accepted;
     for (const auto &[word, meaning] : words) {
@@ -93,59 +93,59 @@ Complaint takeWord(const QString &value, Words<Meaning> words, std::optional<Mea
     return notOneOf(value, accepted.join(QStringLiteral(", ")));
 }
 
-Complaint takeCollate(CommandLine &command, const QString &value)
+ErrorMessage parseCollate(CommandLine &command, const QString &value)
 {
     using host::Collate;
-    return takeWord<Collate>(value, {{"true", Collate::Yes}, {"false", Collate::No}},
-                             command.settings.collate);
+    return parseWord<Collate>(value, {{"true", Collate::Yes}, {"false", Collate::No}},
+                              command.settings.collate);
 }
 
-Complaint takeHandling(CommandLine &command, const QString &value)
+ErrorMessage parseHandling(CommandLine &command, const QString &value)
 {
     using host::Collate;
-    return takeWord<Collate>(value,
-                             {{"separate-documents-collated-copies", Collate::Yes},
-                              {"separate-documents-uncollated-copies", Collate::No}},
-                             command.settings.collate);
+    return parseWord<Collate>(value,
+                              {{"separate-documents-collated-copies", Collate::Yes},
+                               {"separate-documents-uncollated-copies", Collate::No}},
+                              command.settings.collate);
 }
 
-Complaint takePageSet(CommandLine &command, const QString &value)
+ErrorMessage parsePageSet(CommandLine &command, const QString &value)
 {
     using host::PageSet;
-    return takeWord<PageSet>(value, {{"all", PageSet::All}, {"odd", PageSet::Odd}, {"even", PageSet::Even}},
-                             command.settings.pageSet);
+    return parseWord<PageSet>(value, {{"all", PageSet::All}, {"odd", PageSet::Odd}, {"even", PageSet::Even}},
+                              command.settings.pageSet);
 }
 
-Complaint takeOrder(CommandLine &command, const QString &value)
+ErrorMessage parseOrder(CommandLine &command, const QString &value)
 {
     using host::PageOrder;
-    return takeWord<PageOrder>(value, {{"normal", PageOrder::FirstFirst}, {"reverse", PageOrder::LastFirst}},
-                               command.settings.order);
+    return parseWord<PageOrder>(value, {{"normal", PageOrder::Normal}, {"reverse", PageOrder::Reverse}},
+                                command.settings.order);
 }
 
-Complaint takeOrientation(CommandLine &command, const QString &value)
+ErrorMessage parseOrientation(CommandLine &command, const QString &value)
 {
     using host::Orientation;
-    return takeWord<Orientation>(value,
-                                 {{"3", Orientation::Portrait},
-                                  {"4", Orientation::Landscape},
-                                  {"5", Orientation::ReverseLandscape},
-                                  {"6", Orientation::ReversePortrait},
-                                  {"portrait", Orientation::Portrait},
-                                  {"landscape", Orientation::Landscape},
-                                  {"reverse-landscape", Orientation::ReverseLandscape},
-                                  {"reverse-portrait", Orientation::ReversePortrait}},
-                                 command.settings.orientation);
+    return parseWord<Orientation>(value,
+                                  {{"3", Orientation::Portrait},
+                                   {"4", Orientation::Landscape},
+                                   {"5", Orientation::ReverseLandscape},
+                                   {"6", Orientation::ReversePortrait},
+                                   {"portrait", Orientation::Portrait},
+                                   {"landscape", Orientation::Landscape},
+                                   {"reverse-landscape", Orientation::ReverseLandscape},
+                                   {"reverse-portrait", Orientation::ReversePortrait}},
+                                  command.settings.orientation);
 }
 
-Complaint takeLandscape(CommandLine &command, const QString &value)
+ErrorMessage parseLandscape(CommandLine &command, const QString &value)
 {
     using host::Orientation;
-    return takeWord<Orientation>(value, {{"true", Orientation::Landscape}, {"false", Orientation::Portrait}},
-                                 command.settings.orientation);
+    return parseWord<Orientation>(value, {{"true", Orientation::Landscape}, {"false", Orientation::Portrait}},
+                                  command.settings.orientation);
 }
 
-Complaint takeMedia(CommandLine &command, const QString &value)
+ErrorMessage parseMedia(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return JobWordsText::tr("it names no paper");
@@ -153,7 +153,7 @@ Complaint takeMedia(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-Complaint takeJobName(CommandLine &command, const QString &value)
+ErrorMessage parseJobName(CommandLine &command, const QString &value)
 {
     if (!value.isEmpty())
         command.title = value;
@@ -161,7 +161,7 @@ Complaint takeJobName(CommandLine &command, const QString &value)
 }
 
 /// What lp says of a file's content. Labels are shown and sent as PDF, and told to the server as that.
-Complaint refuseFormat(CommandLine &, const QString &value)
+ErrorMessage refuseFormat(CommandLine &, const QString &value)
 {
     if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
         return std::nullopt;
@@ -169,24 +169,24 @@ Complaint refuseFormat(CommandLine &, const QString &value)
 }
 
 /// Options that mean the same as a letter or a name of the command line.
-constexpr std::pair<const char *, Complaint (*)(CommandLine &, const QString &)> settingOptions[] = {
-    {"copies", takeCopies},
-    {"page-ranges", takePages},
-    {"page-set", takePageSet},
-    {"outputorder", takeOrder},
-    {"job-priority", takePriority},
-    {"job-hold-until", takeHoldOption},
-    {"job-name", takeJobName},
-    {"collate", takeCollate},
-    {"multiple-document-handling", takeHandling},
-    {"orientation-requested", takeOrientation},
-    {"orientation", takeOrientation},
-    {"landscape", takeLandscape},
+constexpr std::pair<const char *, ErrorMessage (*)(CommandLine &, const QString &)> settingOptions[] = {
+    {"copies", parseCopies},
+    {"page-ranges", parsePages},
+    {"page-set", parsePageSet},
+    {"outputorder", parseOrder},
+    {"job-priority", parsePriority},
+    {"job-hold-until", parseHoldOption},
+    {"job-name", parseJobName},
+    {"collate", parseCollate},
+    {"multiple-document-handling", parseHandling},
+    {"orientation-requested", parseOrientation},
+    {"orientation", parseOrientation},
+    {"landscape", parseLandscape},
     {"raw", refuseFormat},
     {"document-format", refuseFormat},
-    {"PageSize", takeMedia},
-    {"PageRegion", takeMedia},
-    {"media", takeMedia},
+    {"PageSize", parseMedia},
+    {"PageRegion", parseMedia},
+    {"media", parseMedia},
 };
 
 /// Where a later option takes the place of an earlier one.
@@ -200,7 +200,7 @@ void setOption(std::vector<host::JobChoice> &options, const QByteArray &name, co
         options.push_back({name, value, host::Origin::You});
 }
 
-Complaint takeOption(CommandLine &command, const QByteArray &name, const QByteArray &value)
+ErrorMessage parseOption(CommandLine &command, const QByteArray &name, const QByteArray &value)
 {
     const auto *const setting = std::find_if(std::begin(settingOptions), std::end(settingOptions),
                                              [&](const auto &row) { return name == row.first; });
@@ -208,27 +208,27 @@ Complaint takeOption(CommandLine &command, const QByteArray &name, const QByteAr
         setOption(command.options, name, value);
         return std::nullopt;
     }
-    Complaint complaint = setting->second(command, QString::fromUtf8(value));
-    if (complaint)
-        complaint = QString::fromUtf8(name) + QStringLiteral(": ") + *complaint;
-    return complaint;
+    ErrorMessage errorMessage = setting->second(command, QString::fromUtf8(value));
+    if (errorMessage)
+        errorMessage = QString::fromUtf8(name) + QStringLiteral(": ") + *errorMessage;
+    return errorMessage;
 }
 
 } // namespace
 
-Complaint takeCopies(CommandLine &command, const QString &value)
+ErrorMessage parseCopies(CommandLine &command, const QString &value)
 {
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
-    if (!isNumber || copies < 1 || copies > host::mostCopies)
+    if (!isNumber || copies < 1 || copies > host::maxCopies)
         return JobWordsText::tr("\"%1\" is no number of copies; it must be from 1 to %2")
             .arg(value)
-            .arg(host::mostCopies);
+            .arg(host::maxCopies);
     command.settings.copies = copies;
     return std::nullopt;
 }
 
-Complaint takePriority(CommandLine &command, const QString &value)
+ErrorMessage parsePriority(CommandLine &command, const QString &value)
 {
     bool isNumber = false;
     const int priority = value.toInt(&isNumber);
@@ -238,12 +238,12 @@ Complaint takePriority(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-Complaint takeHold(CommandLine &command, const QString &value)
+ErrorMessage parseHold(CommandLine &command, const QString &value)
 {
     return readHold(command, value, true);
 }
 
-Complaint takePages(CommandLine &command, const QString &value)
+ErrorMessage parsePages(CommandLine &command, const QString &value)
 {
     if (const std::optional<host::PageRangeError> error = host::checkPageRanges(value))
         return error->message;
@@ -251,7 +251,7 @@ Complaint takePages(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-Complaint takeDestination(CommandLine &command, const QString &value)
+ErrorMessage parseDestination(CommandLine &command, const QString &value)
 {
     const auto [queue, instance] = host::splitDestinationName(value);
     if (queue.isEmpty() || (instance && instance->isEmpty()))
@@ -260,7 +260,7 @@ Complaint takeDestination(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-Complaint takeJob(CommandLine &command, const QString &value)
+ErrorMessage parseJob(CommandLine &command, const QString &value)
 {
     static const QRegularExpression form(QStringLiteral("^(?:(.+)-)?([0-9]{1,9})$"));
     const QRegularExpressionMatch match = form.match(value);
@@ -276,22 +276,22 @@ Complaint takeJob(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-Complaint takeOptions(CommandLine &command, const QString &value)
+ErrorMessage parseOptions(CommandLine &command, const QString &value)
 {
     cups_option_t *parsed = nullptr;
     const int count = cupsParseOptions(value.toUtf8().constData(), 0, &parsed);
-    Complaint complaint;
-    for (int i = 0; i < count && !complaint; ++i)
-        complaint = takeOption(command, parsed[i].name, parsed[i].value);
+    ErrorMessage errorMessage;
+    for (int i = 0; i < count && !errorMessage; ++i)
+        errorMessage = parseOption(command, parsed[i].name, parsed[i].value);
     cupsFreeOptions(count, parsed);
     if (count == 0)
         return JobWordsText::tr("\"%1\" names no option; write NAME=VALUE").arg(value);
-    return complaint;
+    return errorMessage;
 }
 
 bool holdNeedsJob(const QString &hold)
 {
-    return std::any_of(std::begin(holdWords), std::end(holdWords), [&](const HoldWord &each) {
+    return std::any_of(std::begin(holdTexts), std::end(holdTexts), [&](const HoldWord &each) {
         return each.place == HoldWord::WithJobOnly && hold == QLatin1String(each.word);
     });
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "FreeChoiceCheck.h"
+#include "CustomChoiceCheck.h"
 
 #include <host/printer/PpdNumber.h>
 #include <host/printer/PpdOptions.h>
@@ -59,7 +59,7 @@ std::vector<NamedValue> namedValues(const QByteArray &collection)
 
 } // namespace
 
-bool isFreeChoice(const PpdFile &ppd, const NamedValue &choice)
+bool isCustomChoice(const PpdFile &ppd, const NamedValue &choice)
 {
     const std::vector<PpdParameter> parameters = PpdOptions(ppd).parameters(choice.name);
     constexpr QByteArrayView prefix("Custom.");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CommandWishes.h"
+#include "CommandRequest.h"
 
 #include <host/cups/jobs/MailRecipient.h>
 
@@ -20,15 +20,15 @@ host::CupsServer cupsServer(const CommandLine &command)
     return server;
 }
 
-host::SetupWishes setupWishes(const CommandLine &command)
+host::SetupRequest setupRequest(const CommandLine &command)
 {
-    host::SetupWishes wishes{command.options, command.paper, QLocale().name(), command.force};
+    host::SetupRequest requested{command.options, command.paper, QLocale().name(), command.force};
     constexpr const char *recipient = "notify-recipient-uri";
-    const bool isNamed = std::ranges::find(wishes.choices, QByteArray(recipient), &host::JobChoice::name) !=
-                         wishes.choices.end();
+    const bool isNamed = std::ranges::find(requested.choices, QByteArray(recipient),
+                                           &host::JobChoice::name) != requested.choices.end();
     if (command.mail && !isNamed)
-        wishes.choices.push_back({recipient, host::mailRecipient(command.user)});
-    return wishes;
+        requested.choices.push_back({recipient, host::mailRecipient(command.user)});
+    return requested;
 }
 
 host::PanelSource panelSource(const CommandLine &command)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "BrokenPipeSilence.h"
+#include "BrokenPipeBlocker.h"
 
 #include <ctime>
 
 namespace platform {
 inline namespace files {
 
-BrokenPipeSilence::BrokenPipeSilence()
+BrokenPipeBlocker::BrokenPipeBlocker()
 {
     sigemptyset(&m_signal);
     sigaddset(&m_signal, SIGPIPE);
@@ -16,7 +16,7 @@ BrokenPipeSilence::BrokenPipeSilence()
     pthread_sigmask(SIG_BLOCK, &m_signal, &m_previousMask);
 }
 
-BrokenPipeSilence::~BrokenPipeSilence()
+BrokenPipeBlocker::~BrokenPipeBlocker()
 {
     // A signal that was already pending belongs to other code and stays pending.
     constexpr timespec atOnce{0, 0};
