@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LabelDocument.h"
 
-#include "PdfObjects.h"
+#include "PdfFile.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -78,7 +78,7 @@ QByteArray LabelDocument::pdf() const
         painter.restore();
     }
     painter.end();
-    // Qt rounds a page to whole points, and a label is then no more as long as its paper.
+    // Qt rounds pages to whole points, so that a label would differ in length from its paper.
     return withPageSizes(bytes, sizes);
 }
 

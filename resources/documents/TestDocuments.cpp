@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TestDocuments.h"
 
-#include "Encryption.h"
 #include "LabelDocument.h"
-#include "PdfObjects.h"
+#include "PdfFile.h"
 
 #include <QPainter>
 
@@ -42,11 +41,6 @@ QByteArray mixedLengths()
     return document.pdf();
 }
 
-QByteArray withoutPages()
-{
-    return pdfFile({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [] /Count 0 >>"});
-}
-
 } // namespace
 
 std::vector<TestDocument> testDocuments()
@@ -57,7 +51,7 @@ std::vector<TestDocument> testDocuments()
         {QStringLiteral("truncated.pdf"), whole.left(whole.size() / 2)},
         {QStringLiteral("empty.pdf"), {}},
         {QStringLiteral("notpdf.pdf"), "Dear printer,\n\nthis is a letter and not a document of labels.\n"},
-        {QStringLiteral("zero-pages.pdf"), withoutPages()},
+        {QStringLiteral("zero-pages.pdf"), pdfWithoutPages()},
         {QStringLiteral("blank-page.pdf"), blankInTheMiddle()},
         {QStringLiteral("mixed-lengths.pdf"), whole},
     };

@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
+#include <QHashSeed>
 #include <QSaveFile>
 
 #include <cstdio>
@@ -26,6 +27,8 @@ bool write(const QString &folder, const QString &name, const QByteArray &bytes)
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Qt writes the fonts of a PDF in the order of a hash table.
+    QHashSeed::setDeterministicGlobalSeed();
     const QGuiApplication application(argc, argv);
     const QCommandLineOption samples(QStringLiteral("samples"),
                                      QStringLiteral("Write the sample documents there."),

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <resources/documents/TestDocuments.h>
 #include <tests/support/PpdBuilder.h>
 
 #include <QFile>
@@ -128,9 +129,19 @@ TEST(SampleLabels, CarryTheirFonts)
     QFile file(samplePath);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
-    EXPECT_GT(bytes.count("/FontDescriptor "), 0);
-    EXPECT_EQ(bytes.count("/FontDescriptor "), bytes.count("/FontFile2 "));
+    EXPECT_GT(bytes.count("/Type /FontDescriptor"), 0);
+    EXPECT_EQ(bytes.count("/Type /FontDescriptor"), bytes.count("/FontFile2 "));
     EXPECT_LT(bytes.size(), 100 * 1024) << "whole fonts instead of their used parts";
+}
+
+TEST(TestDocuments, AreGeneratedAlikeEveryTime)
+{
+    for (const documents::TestDocument &document : documents::testDocuments()) {
+        QFile file(testDocument(qPrintable(document.name)));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(document.name);
+        EXPECT_TRUE(file.readAll() == document.bytes)
+            << qPrintable(document.name) << " differs from what kv_documentgen writes";
+    }
 }
 
 TEST(TestDocuments, AreRefusedForTheReasonInTheirNames)
