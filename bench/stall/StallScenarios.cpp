@@ -272,7 +272,7 @@ StallScenarios::Duration StallScenarios::closedWhileSending()
 StallScenarios::Duration StallScenarios::thousandsOfPages()
 {
     const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
-    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+    documentPath = sandbox.write(QStringLiteral("long.pdf"), pdfWithPageBoxes(pages));
     return sendTo(serverAt(cupsd->address()));
 }
 

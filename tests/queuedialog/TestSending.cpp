@@ -38,7 +38,7 @@ protected:
         // With a cached printer, Print can be pressed immediately.
         fillCache(QStringLiteral("tape"));
         const std::vector<QByteArray> pages(10'000, "[0 0 170 68]");
-        documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+        documentPath = sandbox.write(QStringLiteral("long.pdf"), pdfWithPageBoxes(pages));
         open(QStringLiteral("tape"));
         ASSERT_TRUE(waitUntil([this] { return button(QStringLiteral("Print"))->isEnabled(); }));
     }

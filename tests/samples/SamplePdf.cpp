@@ -4,6 +4,11 @@
 #include <QPageSize>
 #include <QPdfWriter>
 
+#include <qpdf/Buffer.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+#include <qpdf/QPDFWriter.hh>
+
 QString writePdf(const Sandbox &sandbox, const QString &name, const std::vector<SamplePage> &pages)
 {
     QPdfWriter writer(sandbox.path(name));
@@ -27,25 +32,28 @@ QString writePdf(const Sandbox &sandbox, const QString &name, const std::vector<
     return sandbox.path(name);
 }
 
-QByteArray handWrittenPdf(const std::vector<QByteArray> &mediaBoxes, const QByteArray &extra)
+QByteArray pdfWithPageBoxes(const std::vector<QByteArray> &boxes, const QByteArray &password)
 {
-    std::vector<QByteArray> objects;
-    QByteArray kids;
-    for (std::size_t i = 0; i < mediaBoxes.size(); ++i)
-        kids += QByteArray::number(static_cast<qulonglong>(i) + 3) + " 0 R ";
-    objects.push_back("<< /Type /Catalog /Pages 2 0 R >>");
-    objects.push_back("<< /Type /Pages /Kids [" + kids + "] /Count " +
-                      QByteArray::number(static_cast<qulonglong>(mediaBoxes.size())) + " >>");
-    for (const QByteArray &box : mediaBoxes)
-        objects.push_back("<< /Type /Page /Parent 2 0 R /MediaBox " + box + " >>");
-    QByteArray pdf = "%PDF-1.4\n";
-    QByteArray table;
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        table += QByteArray::number(pdf.size()).rightJustified(10, '0') + " 00000 n \n";
-        pdf += QByteArray::number(static_cast<qulonglong>(i) + 1) + " 0 obj\n" + objects[i] + "\nendobj\n";
+    QPDF pdf;
+    pdf.emptyPDF();
+    std::vector<QPDFObjectHandle> pages;
+    QPDFObjectHandle tree = pdf.getRoot().getKey("/Pages");
+    for (const QByteArray &box : boxes) {
+        QPDFObjectHandle page =
+            QPDFObjectHandle::parse("<< /Type /Page /MediaBox " + box.toStdString() + " >>");
+        page.replaceKey("/Parent", tree);
+        pages.push_back(pdf.makeIndirectObject(page));
     }
-    const QByteArray count = QByteArray::number(static_cast<qulonglong>(objects.size()) + 1);
-    const QByteArray start = QByteArray::number(pdf.size());
-    return pdf + "xref\n0 " + count + "\n0000000000 65535 f \n" + table + "trailer\n<< /Size " + count +
-           " /Root 1 0 R " + extra + " >>\nstartxref\n" + start + "\n%%EOF\n";
+    tree.replaceKey("/Kids", QPDFObjectHandle::newArray(pages));
+    tree.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(pages.size())));
+    QPDFWriter writer(pdf);
+    if (!password.isEmpty())
+        writer.setR6EncryptionParameters(password.constData(), password.constData(), true, true, true, true,
+                                         true, true, qpdf_r3p_full, true);
+    else
+        writer.setDeterministicID(true);
+    writer.setOutputMemory();
+    writer.write();
+    const auto buffer = writer.getBufferSharedPointer();
+    return {reinterpret_cast<const char *>(buffer->getBuffer()), static_cast<qsizetype>(buffer->getSize())};
 }

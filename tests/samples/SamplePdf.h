@@ -19,6 +19,5 @@ struct SamplePage {
 /// Writes a PDF with the pages and returns its path.
 QString writePdf(const Sandbox &sandbox, const QString &name, const std::vector<SamplePage> &pages);
 
-/// A minimal PDF with these page boxes ("[0 0 10 10]"), assembled as text, so that it can contain what PDF
-/// writers do not produce; extra is inserted into the trailer.
-QByteArray handWrittenPdf(const std::vector<QByteArray> &mediaBoxes, const QByteArray &extra = {});
+/// A PDF of blank pages with these page boxes ("[0 0 10 10]"). It is encrypted if a password is given.
+QByteArray pdfWithPageBoxes(const std::vector<QByteArray> &boxes, const QByteArray &password = {});

@@ -47,7 +47,8 @@ TEST_F(PrintDialogTest, AClickOnThePanelIsSeenOnTheStripAtOnce)
 TEST_F(PrintDialogTest, ThePagesOfALongDocumentAreCheckedBeforeAnybodyWaitsForIt)
 {
     const std::vector<QByteArray> pages(5'000, "[0 0 170 68]");
-    auto opened = host::LabelDocument::open(sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages)));
+    auto opened =
+        host::LabelDocument::open(sandbox.write(QStringLiteral("long.pdf"), pdfWithPageBoxes(pages)));
     ASSERT_TRUE(opened) << opened.error().message.toStdString();
     const std::shared_ptr<const host::LabelDocument> document = std::move(opened).value();
     host::SetupKeeper printer(makeSetup({}));

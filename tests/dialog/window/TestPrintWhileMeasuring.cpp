@@ -82,7 +82,7 @@ TEST_F(PrintWhileMeasuringTest, TheVirtualPrinterGetsTheJobThatIsShownWithAllFig
 TEST_F(PrintWhileMeasuringTest, AQueueGetsTheJobThatIsShownAndWaitsForNoFigures)
 {
     const std::vector<QByteArray> pages(5'000, "[0 0 170 68]");
-    documentPath = sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(pages));
+    documentPath = sandbox.write(QStringLiteral("long.pdf"), pdfWithPageBoxes(pages));
     openWith(sender);
     printAndGoOnWorking();
     ASSERT_TRUE(waitUntil([this] { return !window->isVisible(); }));

@@ -296,7 +296,8 @@ TEST_F(StripPreviewTest, APageOfUnknownSizeIsSaidToShrinkWhenItIsDrawn)
     // The sizes of pages far behind are not read when the document is opened.
     std::vector<QByteArray> boxes(600, "[0 0 170 68]");
     std::fill(boxes.begin() + 500, boxes.end(), "[0 0 700 700]");
-    auto opened = host::LabelDocument::open(sandbox.write(QStringLiteral("long.pdf"), handWrittenPdf(boxes)));
+    auto opened =
+        host::LabelDocument::open(sandbox.write(QStringLiteral("long.pdf"), pdfWithPageBoxes(boxes)));
     ASSERT_TRUE(opened);
     const auto longDocument = std::move(opened).value();
     host::PageThread longThread(*longDocument);

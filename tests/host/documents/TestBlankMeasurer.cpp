@@ -262,7 +262,7 @@ TEST_F(BlankMeasurerTest, APageThatCannotBeDrawnIsBlankAndKeepsItsLength)
 {
     std::vector<QByteArray> boxes(600, "[0 0 170 68]");
     boxes[550] = "[0 0 0 0.001]";
-    const auto hostile = open({sandbox.write(QStringLiteral("hostile.pdf"), handWrittenPdf(boxes))});
+    const auto hostile = open({sandbox.write(QStringLiteral("hostile.pdf"), pdfWithPageBoxes(boxes))});
     PageThread hostileThread(*hostile);
     const LabelRenderer labels(*hostile, paper, hostileThread);
     measure(labels, 540, 560);

@@ -10,6 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <qpdf/Buffer.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+
 using host::DocumentErrorKind;
 using host::LabelDocument;
 
@@ -53,6 +58,30 @@ QColor colorAt(const LabelDocument &document, double x, double y, int page = 0)
     return image.pixelColor(static_cast<int>(x * 400), static_cast<int>(y * 400));
 }
 
+/// The only image of a PDF, and its page.
+struct EmbeddedImage {
+    explicit EmbeddedImage(const QString &path)
+    {
+        pdf.processFile(QFile::encodeName(path).constData());
+        const std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(pdf).getAllPages();
+        EXPECT_EQ(pages.size(), 1U);
+        page = pages.front().getObjectHandle();
+        image = QPDFPageObjectHelper(page).getImages().begin()->second;
+    }
+
+    qint64 number(const char *key) { return image.getDict().getKey(key).getIntValue(); }
+    std::string name(const char *key) { return image.getDict().getKey(key).getName(); }
+
+    QPDF pdf;
+    QPDFObjectHandle page;
+    QPDFObjectHandle image;
+};
+
+QByteArray bytesOf(const std::shared_ptr<Buffer> &buffer)
+{
+    return {reinterpret_cast<const char *>(buffer->getBuffer()), static_cast<qsizetype>(buffer->getSize())};
+}
+
 void expectColor(const QColor &color, const QColor &expected, const char *what)
 {
     EXPECT_NEAR(color.red(), expected.red(), 6) << what;
@@ -65,9 +94,9 @@ void expectColor(const QColor &color, const QColor &expected, const char *what)
 TEST_F(DocumentKinds, AreToldByContentNotByName)
 {
     const auto document = open(
-        {write("a.png", handWrittenPdf({"[0 0 72 36]"})), write("b.pdf", encoded(corners(40, 20), "png")),
+        {write("a.png", pdfWithPageBoxes({"[0 0 72 36]"})), write("b.pdf", encoded(corners(40, 20), "png")),
          write("c.svg", encoded(corners(40, 20), "jpeg")), write("d.jpeg", svg(R"(width="40" height="20")")),
-         write("e", "some line before it\n" + handWrittenPdf({"[0 0 72 36]"}))});
+         write("e", "some line before it\n" + pdfWithPageBoxes({"[0 0 72 36]"}))});
     ASSERT_EQ(document->pageCount(), 5);
     for (int page = 0; page < 5; ++page)
         EXPECT_NEAR(document->pageSize(page).width() / document->pageSize(page).height(), 2.0, 1e-3) << page;
@@ -75,7 +104,7 @@ TEST_F(DocumentKinds, AreToldByContentNotByName)
 
 TEST_F(DocumentKinds, FormOneSequenceOfPages)
 {
-    const QString pdf = write("two.pdf", handWrittenPdf({"[0 0 100 50]", "[0 0 60 50]"}));
+    const QString pdf = write("two.pdf", pdfWithPageBoxes({"[0 0 100 50]", "[0 0 60 50]"}));
     const QString png = write("one.png", encoded(corners(96, 96), "png"));
     const auto document = open({pdf, png, pdf});
     EXPECT_EQ(document->pageCounts(), (std::vector<int>{2, 1, 2}));
@@ -172,6 +201,38 @@ TEST_F(DocumentKinds, ImagesComeOutAsTheyAre)
         expectColor(colorAt(*document, 0.25, 0.75), Qt::white, row.name);
         expectColor(colorAt(*document, 0.75, 0.75), Qt::blue, row.name);
     }
+}
+
+TEST_F(DocumentKinds, JpegsAreEmbeddedUnchanged)
+{
+    for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_Grayscale8}) {
+        const QByteArray jpeg = encoded(corners(30, 20, 11811, 11811).convertToFormat(format), "jpeg");
+        const auto document = open({write("image", jpeg)});
+        EmbeddedImage embedded(document->files()[0].pathToSend);
+        EXPECT_EQ(embedded.name("/Filter"), "/DCTDecode");
+        EXPECT_EQ(embedded.name("/ColorSpace"),
+                  format == QImage::Format_RGB32 ? "/DeviceRGB" : "/DeviceGray");
+        EXPECT_EQ(bytesOf(embedded.image.getRawStreamData()), jpeg);
+    }
+}
+
+TEST_F(DocumentKinds, PngsLoseNoPixel)
+{
+    QImage image(31, 17, QImage::Format_RGB888);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixelColor(x, y, QColor(x * 8, y * 15, (x * y) % 256));
+    }
+    QByteArray rows;
+    for (int y = 0; y < image.height(); ++y)
+        rows.append(reinterpret_cast<const char *>(image.constScanLine(y)), image.width() * 3);
+    const auto document = open({write("image", withoutResolution(encoded(image, "png")))});
+    EmbeddedImage embedded(document->files()[0].pathToSend);
+    EXPECT_EQ(embedded.number("/Width"), image.width());
+    EXPECT_EQ(embedded.number("/Height"), image.height());
+    EXPECT_EQ(bytesOf(embedded.image.getStreamData()), rows);
+    // At 96 dpi, 31 x 17 pixels are 23.25 x 12.75 points.
+    EXPECT_EQ(embedded.page.getKey("/MediaBox").unparse(), "[ 0 0 23.2500 12.7500 ]");
 }
 
 TEST_F(DocumentKinds, WhatIsTransparentIsWhite)
@@ -276,12 +337,12 @@ TEST_F(DocumentKinds, SvgsKeepTheirShape)
 
 TEST_F(DocumentKinds, StandardInputIsAnyOfThem)
 {
-    const QByteArray contents[] = {handWrittenPdf({"[0 0 72 36]"}), encoded(corners(96, 48), "png"),
+    const QByteArray contents[] = {pdfWithPageBoxes({"[0 0 72 36]"}), encoded(corners(96, 48), "png"),
                                    encoded(corners(96, 48), "jpeg"), svg(R"(width="96" height="48")")};
     for (const QByteArray &content : contents) {
         const InputFrom input(content);
         const auto document =
-            open({write("first.pdf", handWrittenPdf({"[0 0 50 50]"})), QStringLiteral("-")});
+            open({write("first.pdf", pdfWithPageBoxes({"[0 0 50 50]"})), QStringLiteral("-")});
         ASSERT_EQ(document->pageCount(), 2);
         EXPECT_EQ(document->files()[1].name, QStringLiteral("-"));
         EXPECT_TRUE(QFile::exists(document->files()[1].pathToSend));
@@ -303,7 +364,7 @@ TEST_F(DocumentKinds, StandardInputIsCalledByItsName)
         {{input}, "", DocumentErrorKind::Empty},
         {{input}, "Dear printer", DocumentErrorKind::UnknownKind},
         {{input}, "%PDF-1.4\n", DocumentErrorKind::Damaged},
-        {{input, input}, handWrittenPdf({"[0 0 72 36]"}), DocumentErrorKind::InputTaken},
+        {{input, input}, pdfWithPageBoxes({"[0 0 72 36]"}), DocumentErrorKind::InputTaken},
     };
     for (const Row &row : rows) {
         const InputFrom from(row.content);

@@ -85,7 +85,7 @@ QByteArray entityBomb()
 TEST(HostileDocuments, CutShortAnywhere)
 {
     const std::pair<const char *, QByteArray> rows[] = {
-        {"pdf", handWrittenPdf({"[0 0 100 100]"})},
+        {"pdf", pdfWithPageBoxes({"[0 0 100 100]"})},
         {"png", encoded(corners(20, 10), "png")},
         {"jpeg", encoded(corners(200, 100), "jpeg")},
         {"svg", svg(R"(width="40" height="40")")},
@@ -107,7 +107,7 @@ TEST(HostileDocuments, CutShortAnywhere)
 
 TEST(HostileDocuments, BytesTurnedAround)
 {
-    const QByteArray samples[] = {handWrittenPdf({"[0 0 100 100]"}), encoded(corners(60, 40), "png"),
+    const QByteArray samples[] = {pdfWithPageBoxes({"[0 0 100 100]"}), encoded(corners(60, 40), "png"),
                                   encoded(corners(60, 40), "jpeg"),
                                   svg(R"(width="40" height="40" viewBox="0 0 4 4")", nestedUses())};
     const Sandbox sandbox;
@@ -240,7 +240,7 @@ TEST(HostileDocuments, PipesFoldersAndDevices)
     const Sandbox sandbox;
     const QString pipe = sandbox.path(QStringLiteral("pipe"));
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-    const QString good = sandbox.write(QStringLiteral("good.pdf"), handWrittenPdf({"[0 0 10 10]"}));
+    const QString good = sandbox.write(QStringLiteral("good.pdf"), pdfWithPageBoxes({"[0 0 10 10]"}));
     for (const QString &path :
          {pipe, sandbox.path({}), QStringLiteral("/dev/zero"), QStringLiteral("/dev/tty")}) {
         const auto document = LabelDocument::open(QStringList{good, path});
@@ -257,7 +257,7 @@ TEST(HostileDocuments, TenThousandPagesOpenAtOnce)
     std::vector<QByteArray> boxes(10'000, "[0 0 100 100]");
     boxes[9'000] = "[0 0 100 28346]";
     boxes[9'001] = "[0 0 0 0.001]";
-    const QString path = sandbox.write(QStringLiteral("many.pdf"), handWrittenPdf(boxes));
+    const QString path = sandbox.write(QStringLiteral("many.pdf"), pdfWithPageBoxes(boxes));
     const auto document = LabelDocument::open(path);
     ASSERT_TRUE(document) << document.error().message.toStdString();
     EXPECT_EQ(document.value()->pageCount(), 10'000);
@@ -286,8 +286,8 @@ TEST(HostileDocuments, TenThousandPagesOpenAtOnce)
 TEST(HostileDocuments, AFileThatShrinksOrChangesIsNotPrinted)
 {
     const Sandbox sandbox;
-    const QByteArray content = handWrittenPdf(std::vector<QByteArray>(2'000, "[0 0 100 100]"));
-    const QString other = sandbox.write(QStringLiteral("other.pdf"), handWrittenPdf({"[0 0 10 10]"}));
+    const QByteArray content = pdfWithPageBoxes(std::vector<QByteArray>(2'000, "[0 0 100 100]"));
+    const QString other = sandbox.write(QStringLiteral("other.pdf"), pdfWithPageBoxes({"[0 0 10 10]"}));
     const std::function<void(const QString &)> changes[] = {
         [](const QString &path) { EXPECT_EQ(truncate(path.toLocal8Bit().constData(), 100), 0); },
         [](const QString &path) { EXPECT_EQ(truncate(path.toLocal8Bit().constData(), 0), 0); },

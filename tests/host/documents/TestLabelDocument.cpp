@@ -49,17 +49,14 @@ bool isBlack(const QImage &image, double x, double y)
 
 TEST(LabelDocument, RefusesWithTheReason)
 {
-    const QByteArray encryption = "/Encrypt << /Filter /Standard /V 1 /R 2 /P -4 /O (" + QByteArray(32, 'o') +
-                                  ") /U (" + QByteArray(32, 'u') +
-                                  ") >> /ID [(0123456789abcdef) (0123456789abcdef)]";
     const BadDocument rows[] = {
         {"empty", "", DocumentErrorKind::Empty},
         {"text", "Dear printer, please print.", DocumentErrorKind::UnknownKind},
         {"only the head", "%PDF-1.4\n", DocumentErrorKind::Damaged},
-        {"no pages", handWrittenPdf({}), DocumentErrorKind::Empty},
-        {"encrypted", handWrittenPdf({"[0 0 100 100]"}, encryption), DocumentErrorKind::Encrypted},
-        {"a sliver", handWrittenPdf({"[0 0 100 100]", "[0 0 100 0.5]"}), DocumentErrorKind::BadPage},
-        {"ten metres", handWrittenPdf({"[0 0 100 28346]"}), DocumentErrorKind::BadPage},
+        {"no pages", pdfWithPageBoxes({}), DocumentErrorKind::Empty},
+        {"encrypted", pdfWithPageBoxes({"[0 0 100 100]"}, "secret"), DocumentErrorKind::Encrypted},
+        {"a sliver", pdfWithPageBoxes({"[0 0 100 100]", "[0 0 100 0.5]"}), DocumentErrorKind::BadPage},
+        {"ten metres", pdfWithPageBoxes({"[0 0 100 28346]"}), DocumentErrorKind::BadPage},
     };
     const Sandbox sandbox;
     for (const BadDocument &row : rows) {
@@ -71,7 +68,7 @@ TEST(LabelDocument, RefusesWithTheReason)
         EXPECT_TRUE(document.error().message.contains(path)) << document.error().message.toStdString();
     }
     EXPECT_TRUE(
-        LabelDocument::open(sandbox.write(QStringLiteral("good"), handWrittenPdf({"[0 0 100 100]"}))));
+        LabelDocument::open(sandbox.write(QStringLiteral("good"), pdfWithPageBoxes({"[0 0 100 100]"}))));
 }
 
 TEST(LabelDocument, RefusesWhatIsNoReadableFile)
@@ -93,7 +90,7 @@ TEST(LabelDocument, RefusesWhatIsNoReadableFile)
 TEST(LabelDocument, NamesThePageThatIsWrong)
 {
     const Sandbox sandbox;
-    const QByteArray pdf = handWrittenPdf({"[0 0 100 100]", "[0 0 100 20000]", "[0 0 50 50]"});
+    const QByteArray pdf = pdfWithPageBoxes({"[0 0 100 100]", "[0 0 100 20000]", "[0 0 50 50]"});
     const auto document = LabelDocument::open(sandbox.write(QStringLiteral("second.pdf"), pdf));
     ASSERT_FALSE(document);
     EXPECT_TRUE(document.error().message.contains(QStringLiteral("page 2 ")))

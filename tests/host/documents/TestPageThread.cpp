@@ -21,7 +21,7 @@ namespace {
 
 std::unique_ptr<LabelDocument> openBoxes(const Sandbox &sandbox, const std::vector<QByteArray> &boxes)
 {
-    auto document = LabelDocument::open(sandbox.write(QStringLiteral("boxes.pdf"), handWrittenPdf(boxes)));
+    auto document = LabelDocument::open(sandbox.write(QStringLiteral("boxes.pdf"), pdfWithPageBoxes(boxes)));
     if (!document)
         qFatal("%s", qPrintable(document.error().message));
     return std::move(document).value();
@@ -175,7 +175,7 @@ TEST_F(PageThreadTest, AFileThatIsReplacedWhileItIsOpenIsReadAsItWas)
     PageThread thread(*document);
     const QString path = document->path();
     ASSERT_TRUE(QFile::remove(path));
-    sandbox.write(QStringLiteral("boxes.pdf"), handWrittenPdf({"[0 0 10 10]"}));
+    sandbox.write(QStringLiteral("boxes.pdf"), pdfWithPageBoxes({"[0 0 10 10]"}));
     QSizeF drawn;
     thread.run(Urgency::Shown, &receiver, [&](const LabelDocument &pages, const PageThread::ShouldPause &) {
         return [&, size = pages.renderTransparent(1, {30, 40}).size()] { drawn = size; };
