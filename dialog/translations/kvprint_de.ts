@@ -1201,6 +1201,10 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>das Programm „%1“, das es umwandelt, lässt sich nicht starten</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

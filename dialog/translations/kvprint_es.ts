@@ -1201,6 +1201,10 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>no se puede iniciar el programa «%1», que lo convierte</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

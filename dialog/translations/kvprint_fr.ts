@@ -1201,6 +1201,10 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>le programme « %1 », qui le convertit, ne peut pas être lancé</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

@@ -1201,6 +1201,10 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>impossibile avviare il programma «%1», che lo converte</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

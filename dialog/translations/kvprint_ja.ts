@@ -1199,6 +1199,10 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>変換するプログラム「%1」を起動できません</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

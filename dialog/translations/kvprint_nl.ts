@@ -1201,6 +1201,10 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>het bevat afbeeldingen met meer pixels dan kunnen worden afgedrukt</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>het programma “%1”, dat het omzet, kan niet worden gestart</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

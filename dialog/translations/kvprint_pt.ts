@@ -1201,6 +1201,10 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>contém imagens com mais píxeis do que se pode imprimir</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>não é possível iniciar o programa “%1”, que o converte</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

@@ -1199,6 +1199,10 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <source>it has pictures of more pixels in it than can be printed</source>
         <translation>其中的图片像素过多，无法打印</translation>
     </message>
+    <message>
+        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <translation>无法启动转换它的程序“%1”</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>

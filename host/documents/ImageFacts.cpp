@@ -10,7 +10,7 @@ namespace {
 
 constexpr double inchesPerMetre = 1.0 / 0.0254;
 
-/// Reads big-endian numbers; beyond the end, everything is 0.
+/// Reads big-endian numbers; bytes beyond the end read as 0.
 class Bytes {
 public:
     explicit Bytes(const QByteArray &bytes)
@@ -36,7 +36,7 @@ private:
     const QByteArray &m_bytes;
 };
 
-/// The segments of a JPEG, from marker to marker.
+/// Reads the segments of a JPEG, from marker to marker.
 class JpegSegments {
 public:
     explicit JpegSegments(const QByteArray &jpeg)
@@ -67,7 +67,7 @@ public:
     }
 
 private:
-    /// To the next 0xFF that is not followed by another one, which may fill the space between segments.
+    /// Skips the bytes 0xFF that may fill the space before a marker. Returns false if no marker follows.
     bool goToMarker()
     {
         while (m_bytes.byte(m_at) == 0xFF && m_bytes.byte(m_at + 1) == 0xFF)
@@ -75,7 +75,7 @@ private:
         return m_bytes.byte(m_at) == 0xFF && m_at + 1 < m_bytes.size();
     }
 
-    /// Scans hold 0xFF only before 0, and before marks to restart decoding at.
+    /// Skips the data of a scan. In it, 0xFF is followed by 0 or by the number of a restart marker.
     void skipScan()
     {
         for (; m_at < m_bytes.size(); ++m_at) {
@@ -88,7 +88,7 @@ private:
     void readSegment(int marker, qsizetype content)
     {
         constexpr int jfifHead = 0xE0;
-        // Baseline, extended and progressive with Huffman codes, as PDF readers can draw.
+        // Baseline, extended and progressive frames with Huffman codes: all that the DCTDecode filter reads.
         constexpr int firstFrame = 0xC0;
         constexpr int lastFrame = 0xC2;
         if (marker == jfifHead && m_bytes.isAt(content, QByteArray("JFIF\0", 5)))

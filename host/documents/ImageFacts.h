@@ -9,17 +9,20 @@
 namespace host {
 inline namespace documents {
 
-/// What a PNG or JPEG says beside its pixels, which image readers keep to themselves.
+/// Properties of a PNG or JPEG that Qt's image readers do not report.
 struct ImageFacts {
-    /// The file goes on to its own end mark. Readers fill what is missing of a JPEG with grey.
+    /// The file contains its end marker. Image readers fill the missing part of a truncated JPEG with gray.
     bool complete = false;
-    /// Dots per metre across and down; nothing when the file does not tell.
+    /// Dots per metre, horizontally and vertically; absent if the file states no resolution.
     std::optional<QSizeF> resolution;
-    /// Of a JPEG whose data can stand in a PDF as they are: 1 for grey, 3 for colour. Otherwise 0.
+    /// The number of colours of a JPEG that a PDF can contain unchanged: 1 for gray, 3 for colour. 0 for all
+    /// other images.
     int pdfColors = 0;
 };
 
+/// Reads the properties of a PNG. Damaged data yields the defaults for what cannot be read.
 ImageFacts pngFacts(const QByteArray &png);
+/// Reads the properties of a JPEG. Damaged data yields the defaults for what cannot be read.
 ImageFacts jpegFacts(const QByteArray &jpeg);
 
 } // namespace documents

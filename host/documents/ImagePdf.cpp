@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ImagePdf.h"
 
+#include "ConverterProgram.h"
 #include "ImageFacts.h"
 #include "PdfPages.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
-
-#include <vector>
 
 namespace host {
 inline namespace documents {
@@ -20,15 +19,16 @@ struct ImagePdfText {
 };
 
 constexpr double pointsPerMetre = 72.0 / 0.0254;
-/// What image readers allot to one image: 32 million pixels of four bytes.
+/// The memory that Qt's readers allocate at most for one image: 32 million pixels of four bytes.
 constexpr qint64 maxDecodedBytes = 128LL * 1024 * 1024;
 
-/// An image in one of the forms that a PDF can hold.
+/// An image in a form that a PDF can contain.
 struct PdfImage {
     QSize pixels;
-    /// 1 for grey, 3 for red, green and blue.
+    /// 1 for gray, 3 for red, green and blue.
     int colors = 3;
-    QByteArray filter;
+    /// How the data is compressed, by the name that PDF has for it.
+    QString filter;
     QByteArray data;
 };
 
@@ -44,13 +44,14 @@ DocumentErrorReason tooManyPixels(QSize size)
                                              .arg(size.height())};
 }
 
-/// The image's rows without gaps, on white; one byte a pixel when nothing is coloured.
+/// Composes the image on white and compresses its rows, without padding: one byte for each pixel if all
+/// pixels are gray, otherwise three.
 PdfImage compressed(QImage image)
 {
     const bool transparent = image.hasAlphaChannel();
     image.convertTo(transparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     const bool grey = image.allGray();
-    PdfImage result{image.size(), grey ? 1 : 3, "/FlateDecode", {}};
+    PdfImage result{image.size(), grey ? 1 : 3, QStringLiteral("/FlateDecode"), {}};
     QByteArray rows(static_cast<qsizetype>(image.width()) * image.height() * result.colors,
                     Qt::Uninitialized);
     char *to = rows.data();
@@ -69,80 +70,31 @@ PdfImage compressed(QImage image)
         }
     }
     image = QImage();
-    // In front of the compressed data stands their length, which is not part of them.
-    // Quickly rather than well: somebody waits for the page to be shown.
+    // qCompress() puts the length before the data. Level 1 is fast: the user waits for the page.
     result.data = qCompress(rows, 1).mid(4);
     return result;
 }
 
-/// Writes a PDF's objects and keeps where they begin.
-class PdfObjects {
-public:
-    explicit PdfObjects(QIODevice *device)
-        : m_device(device)
-    {
-        write("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n");
-    }
-
-    void add(const QByteArray &dictionary, const QByteArray &stream = {})
-    {
-        m_offsets.push_back(m_written);
-        write(QByteArray::number(static_cast<qlonglong>(m_offsets.size())) + " 0 obj\n<< " + dictionary);
-        if (stream.isEmpty()) {
-            write(" >>\nendobj\n");
-            return;
-        }
-        write(" /Length " + QByteArray::number(stream.size()) + " >>\nstream\n");
-        write(stream);
-        write("\nendstream\nendobj\n");
-    }
-
-    /// False when the device did not take everything.
-    bool finish()
-    {
-        const qint64 tableStart = m_written;
-        const QByteArray count = QByteArray::number(static_cast<qlonglong>(m_offsets.size()) + 1);
-        write("xref\n0 " + count + "\n0000000000 65535 f \n");
-        for (const qint64 offset : m_offsets)
-            write(QByteArray::number(offset).rightJustified(10, '0') + " 00000 n \n");
-        write("trailer\n<< /Size " + count + " /Root 1 0 R >>\nstartxref\n" + QByteArray::number(tableStart) +
-              "\n%%EOF\n");
-        return m_good;
-    }
-
-private:
-    void write(const QByteArray &bytes)
-    {
-        m_good = m_good && m_device->write(bytes) == bytes.size();
-        m_written += bytes.size();
-    }
-
-    QIODevice *m_device;
-    std::vector<qint64> m_offsets;
-    qint64 m_written = 0;
-    bool m_good = true;
-};
-
-bool writePage(const PdfImage &image, QSizeF points, QIODevice *pdf)
+/// Writes the page to the device. The size is in points.
+std::optional<DocumentErrorReason> writePage(const PdfImage &image, QSizeF size, QIODevice *pdf)
 {
-    const QByteArray width = QByteArray::number(points.width(), 'f', 4);
-    const QByteArray height = QByteArray::number(points.height(), 'f', 4);
-    const QByteArray drawing = "q " + width + " 0 0 " + height + " 0 0 cm /Image Do Q";
-    PdfObjects objects(pdf);
-    objects.add("/Type /Catalog /Pages 2 0 R");
-    objects.add("/Type /Pages /Kids [3 0 R] /Count 1");
-    objects.add("/Type /Page /Parent 2 0 R /MediaBox [0 0 " + width + ' ' + height +
-                "] /Resources << /XObject << /Image 5 0 R >> >> /Contents 4 0 R");
-    objects.add({}, drawing);
-    objects.add("/Type /XObject /Subtype /Image /Width " + QByteArray::number(image.pixels.width()) +
-                    " /Height " + QByteArray::number(image.pixels.height()) + " /BitsPerComponent 8" +
-                    " /ColorSpace " + (image.colors == 1 ? "/DeviceGray" : "/DeviceRGB") + " /Filter " +
-                    image.filter,
-                image.data);
-    return objects.finish();
+    ConverterProgram converter(QStringLiteral("imagepdf"));
+    const auto end =
+        converter.run({QString::number(image.pixels.width()), QString::number(image.pixels.height()),
+                       QString::number(image.colors), image.filter, QString::number(size.width(), 'f', 4),
+                       QString::number(size.height(), 'f', 4)},
+                      image.data);
+    switch (end) {
+    case ConverterProgram::End::Converted:
+        return storePdf(converter.output(), pdf);
+    case ConverterProgram::End::Missing:
+        return converter.missing();
+    default:
+        return damaged();
+    }
 }
 
-/// Reads one image in the form in which its page will hold it.
+/// Reads an image and converts it to the form in which its page contains it.
 class ImageSource {
 public:
     ImageSource(const QByteArray &content, DocumentKind kind)
@@ -170,7 +122,7 @@ public:
         return PdfPages::checkSize(pageSize(), 0);
     }
 
-    /// In points, as one looks at it.
+    /// The size of the page in points, after the rotation that the image's metadata requests.
     QSizeF pageSize() const
     {
         const double usual = defaultImageResolution / 0.0254;
@@ -201,14 +153,14 @@ private:
         return m_reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     }
 
-    /// A JPEG's own data. Whether they can be decoded is tried in an eighth of the size, which is quick.
+    /// The JPEG's data, unchanged. Decoding at an eighth of the size is fast and shows whether it is damaged.
     std::optional<PdfImage> asItIs()
     {
         constexpr int part = 8;
         m_reader.setScaledSize((m_size / part).expandedTo({1, 1}));
         if (m_reader.read().isNull())
             return std::nullopt;
-        return PdfImage{m_size, m_facts.pdfColors, "/DCTDecode", m_content};
+        return PdfImage{m_size, m_facts.pdfColors, QStringLiteral("/DCTDecode"), m_content};
     }
 
     const QByteArray &m_content;
@@ -228,9 +180,7 @@ std::optional<DocumentErrorReason> writeImagePdf(const QByteArray &image, Docume
     const std::optional<PdfImage> page = source.read();
     if (!page)
         return damaged();
-    if (!writePage(*page, source.pageSize(), pdf))
-        return DocumentErrorReason{DocumentErrorKind::NotStored, pdf->errorString()};
-    return std::nullopt;
+    return writePage(*page, source.pageSize(), pdf);
 }
 
 } // namespace documents

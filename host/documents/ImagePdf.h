@@ -13,15 +13,17 @@ class QIODevice;
 namespace host {
 inline namespace documents {
 
-/// The most pixels an image may have, 64 million, and half as many where they have to be decoded first, as
-/// those of a PNG have: several times what a label printer puts on a metre of tape. More would take a
-/// gigabyte while it is turned into a page.
+/// The max number of pixels of an image: several times what a label printer prints on a metre of tape. The
+/// pixels of a PNG, and of a JPEG that cannot be embedded unchanged, are decoded first; for these, the max is
+/// half as many. More pixels would need a gigabyte of memory.
 inline constexpr qint64 maxImagePixels = 64LL * 1024 * 1024;
-/// The resolution of images that tell none, in dots an inch.
+/// The resolution of images that state none, in dots per inch.
 inline constexpr double defaultImageResolution = 96.0;
 
-/// Writes a PDF whose one page is the PNG or JPEG in its natural size, pixels by the file's own resolution,
-/// without losing a pixel; what is transparent becomes white.
+/// Writes a PDF to the device whose only page is the image, a PNG or JPEG, in its natural size: the size that
+/// follows from the resolution that the image states. No pixel is lost; transparent pixels become white.
+/// Returns an error if the image is damaged or too large, or if the device cannot hold the PDF. The device is
+/// not owned; what it contains after an error is undefined.
 std::optional<DocumentErrorReason> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf);
 
 } // namespace documents

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "DocumentError.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <optional>
+
+class QIODevice;
+
+namespace host {
+inline namespace documents {
+
+/// Runs the programs that convert documents to PDF.
+///
+/// A converter is a process of its own, so that the libraries for PDF and SVG are loaded only in runs that
+/// open such a document.
+class ConverterProgram {
+public:
+    /// How a conversion ended.
+    enum class End {
+        Converted,
+        Rejected, ///< the program cannot convert the document
+        Killed,   ///< the program exceeded its limits, or crashed
+        Missing,  ///< the program is not there or cannot be started
+    };
+
+    /// The converter "imagepdf" is the program kvprint-imagepdf in the folder of the private libraries.
+    explicit ConverterProgram(const QString &converter);
+
+    /// Runs the program, passes it the content on standard input, and waits until it ends.
+    End run(const QStringList &arguments, const QByteArray &content);
+    /// What the program wrote to standard output.
+    const QByteArray &output() const { return m_output; }
+    /// The error of a program that is missing, with its path.
+    DocumentErrorReason missing() const;
+
+private:
+    QString m_path;
+    QByteArray m_output;
+};
+
+/// Writes the PDF to the device. Returns an error if the device cannot hold all of it.
+std::optional<DocumentErrorReason> storePdf(QByteArrayView bytes, QIODevice *pdf);
+
+} // namespace documents
+} // namespace host
