@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// An SVG from a user's folder or a page of the web: what is passed to the drawing code is well-formed, has no
+// An SVG from a user's folder or a page of the web: what is passed to the converter is well-formed, has no
 // document type, and passes the same check again.
-#include <host/documents/SvgLengths.h>
 #include <host/documents/SvgSource.h>
 
 #include <cstdint>
@@ -9,8 +8,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray svg(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    host::lengthsInPixels(QString::fromUtf8(svg));
-    host::parseViewBox(QString::fromUtf8(svg));
     const auto source = host::SvgSource::read(svg);
     if (!source) {
         if (source.error().reason.isEmpty())

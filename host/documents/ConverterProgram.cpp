@@ -46,8 +46,8 @@ ConverterProgram::End ConverterProgram::run(const QStringList &arguments, const 
     process.closeWriteChannel();
     process.waitForFinished(-1);
     m_output = process.readAllStandardOutput();
-    if (process.exitStatus() != QProcess::NormalExit)
-        return End::Killed;
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() == 2)
+        return End::TooLarge;
     return process.exitCode() == 0 ? End::Converted : End::Rejected;
 }
 

@@ -22,8 +22,8 @@ public:
     /// How a conversion ended.
     enum class End {
         Converted,
-        Rejected, ///< the program cannot convert the document
-        Killed,   ///< the program exceeded its limits, or crashed
+        Rejected, ///< the document is damaged (exit status 1)
+        TooLarge, ///< the document exceeds the limits of the program (exit status 2, or a signal)
         Missing,  ///< the program is not there or cannot be started
     };
 

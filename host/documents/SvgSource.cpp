@@ -2,7 +2,7 @@
 #include "SvgSource.h"
 
 #include "DocumentKind.h"
-#include "SvgLengths.h"
+#include "SvgSize.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -21,7 +21,8 @@ struct SvgSourceText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-/// What may be loaded or drawn in place of the element.
+/// Whether the element is drawn with what its reference (href) points to. The references of other elements,
+/// such as links, are not needed to draw the SVG.
 bool drawsItsReference(QStringView element)
 {
     constexpr QStringView names[] = {u"image",          u"feImage",      u"use",    u"linearGradient",
@@ -29,6 +30,18 @@ bool drawsItsReference(QStringView element)
                                      u"filter",         u"mask",         u"marker", u"video",
                                      u"animation",      u"foreignObject"};
     return std::ranges::find(names, element) != std::end(names);
+}
+
+/// Whether the attribute means anything in an SVG: attributes with prefixes belong to drawing programs.
+bool isPassed(const QXmlStreamAttribute &attribute)
+{
+    return attribute.prefix().isEmpty() ? attribute.name() != u"xmlns" : attribute.prefix() == u"xml";
+}
+
+/// The converter draws the root in the size that it is called with.
+bool isSideOfPage(QStringView attribute)
+{
+    return attribute == u"width" || attribute == u"height";
 }
 
 DocumentErrorReason needsOther(QString other)
@@ -47,7 +60,7 @@ public:
         : m_reader(svg)
         , m_writer(&m_source.content)
     {
-        // Prefixes without a declaration are common in SVGs that have been cut out of others.
+        // Otherwise, a prefix without a declaration is an error.
         m_reader.setNamespaceProcessing(false);
     }
 
@@ -78,14 +91,11 @@ private:
             break;
         case QXmlStreamReader::EndElement:
             --m_level;
-            m_inStyle = false;
             m_writer.writeEndElement();
             break;
         case QXmlStreamReader::Characters:
-            // A style sheet is text too, and its lengths are lengths.
             if (m_level > 0)
-                m_writer.writeCharacters(m_inStyle ? lengthsInPixels(m_reader.text().toString())
-                                                   : m_reader.text().toString());
+                m_writer.writeCharacters(m_reader.text().toString());
             break;
         case QXmlStreamReader::DTD:
             checkDeclarations();
@@ -102,7 +112,7 @@ private:
         }
     }
 
-    /// What stands in another file would be missing without a word.
+    /// Reports entities that are defined in other files: the SVG would be printed without them.
     void checkDeclarations()
     {
         for (const QXmlStreamEntityDeclaration &entity : m_reader.entityDeclarations()) {
@@ -120,35 +130,32 @@ private:
             return;
         }
         if (++m_level > SvgSource::maxLevels || ++m_elements > SvgSource::maxElements) {
-            m_problem =
-                DocumentErrorReason{DocumentErrorKind::TooLarge,
-                                    SvgSourceText::tr("it is an SVG of more parts than can be drawn")};
+            m_problem = SvgSource::tooManyParts();
             return;
         }
-        m_inStyle = name == u"style";
-        m_writer.writeStartElement(m_reader.qualifiedName().toString());
-        if (!m_rootSeen)
+        m_writer.writeStartElement(name.toString());
+        const bool isRoot = !m_rootSeen;
+        if (isRoot)
             readRoot();
         m_rootSeen = true;
-        passAttributes(name);
+        passAttributes(name, isRoot);
     }
 
-    void passAttributes(QStringView element)
+    void passAttributes(QStringView element, bool isRoot)
     {
         const QXmlStreamAttributes attributes = m_reader.attributes();
-        bool hasReference = false;
-        // The newer spelling comes before the older one where an element has both.
+        // SVG 2: "href" has precedence over the older "xlink:href".
         const bool hasNewSpelling = attributes.hasAttribute(QStringLiteral("href"));
+        bool hasReference = false;
         for (const QXmlStreamAttribute &attribute : attributes) {
-            const bool isReference = attribute.name() == u"href";
-            if (!isReference) {
-                const QString value = attribute.value().toString();
-                m_writer.writeAttribute(attribute.qualifiedName().toString(),
-                                        holdsLengths(attribute.name()) ? lengthsInPixels(value) : value);
-            } else if (drawsItsReference(element) && !hasReference &&
-                       (!hasNewSpelling || attribute.qualifiedName() == u"href")) {
-                hasReference = true;
-                passReference(element, attribute.value().trimmed().toString());
+            const QStringView prefix = attribute.prefix();
+            if (attribute.name() == u"href") {
+                if (drawsItsReference(element) && !hasReference && prefix.isEmpty() == hasNewSpelling) {
+                    hasReference = true;
+                    passReference(element, attribute.value().trimmed().toString());
+                }
+            } else if (isPassed(attribute) && !(isRoot && isSideOfPage(attribute.name()))) {
+                m_writer.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
             }
         }
     }
@@ -162,10 +169,11 @@ private:
         else if (picture)
             checkPicture(reference);
         if (!m_problem)
-            m_writer.writeAttribute(QStringLiteral("xlink:href"), reference);
+            m_writer.writeAttribute(QStringLiteral("href"), reference);
     }
 
-    /// Pictures are taken by their content: one that is an SVG could refer to files in turn.
+    /// Detects the type of a picture from its content. An embedded SVG is rejected: its references are not
+    /// checked.
     void checkPicture(const QString &reference)
     {
         const QString mark = QStringLiteral("base64,");
@@ -197,28 +205,13 @@ private:
     void readRoot()
     {
         const QXmlStreamAttributes attributes = m_reader.attributes();
-        const auto value = [&](const char *name) {
-            return attributes.value(QLatin1String(name)).trimmed().toString();
-        };
-        m_source.viewBox = parseViewBox(value("viewBox"));
-        const std::optional<QSizeF> box =
-            m_source.viewBox ? std::optional(m_source.viewBox->size()) : std::nullopt;
+        const std::optional<QSizeF> box = SvgSize::viewBox(attributes);
         if (box && !(box->width() > 0.0 && box->height() > 0.0)) {
             m_problem = DocumentErrorReason{DocumentErrorKind::BadPage,
                                             SvgSourceText::tr("page %1 has no area").arg(1)};
             return;
         }
-        const std::optional<double> width = lengthInPixels(value("width"));
-        const std::optional<double> height = lengthInPixels(value("height"));
-        m_source.keepsShape = !value("preserveAspectRatio").startsWith(QLatin1String("none"));
-        if (width && height)
-            m_source.size = QSizeF(*width, *height);
-        else if (width && box)
-            m_source.size = QSizeF(*width, *width * box->height() / box->width());
-        else if (height && box)
-            m_source.size = QSizeF(*height * box->width() / box->height(), *height);
-        else if (box)
-            m_source.size = box;
+        m_source.size = SvgSize::natural(attributes);
     }
 
     SvgSource m_source;
@@ -226,13 +219,17 @@ private:
     QXmlStreamWriter m_writer;
     std::optional<DocumentErrorReason> m_problem;
     bool m_rootSeen = false;
-    bool m_inStyle = false;
     int m_level = 0;
     int m_elements = 0;
     qint64 m_picturePixels = 0;
 };
 
 } // namespace
+
+DocumentErrorReason SvgSource::tooManyParts()
+{
+    return {DocumentErrorKind::TooLarge, SvgSourceText::tr("it is an SVG of more parts than can be drawn")};
+}
 
 Result<SvgSource, DocumentErrorReason> SvgSource::read(const QByteArray &svg)
 {

@@ -4,34 +4,33 @@
 #include "DocumentError.h"
 
 #include <QByteArray>
-#include <QRectF>
+#include <QSizeF>
 
 #include <optional>
 
 namespace host {
 inline namespace documents {
 
-/// An SVG after it has been looked through, written anew so that it can be drawn without reading anything
-/// else and in its right size: without a document type, with lengths in px at 96 an inch (the drawing code
-/// takes a millimetre for a ninetieth of an inch's) and with references in their older spelling.
+/// An SVG that has been checked and rewritten for the converter: without a document type, with entities
+/// expanded, and with names without prefixes, because SVGs that are copied out of other documents lack the
+/// declarations of their prefixes.
 struct SvgSource {
-    /// Elements inside each other, and elements at all, that are taken: far more than drawing programs
-    /// write, and few enough to be drawn.
+    /// The max number of nested elements, and of all elements: far more than drawing programs write,
+    /// and few enough for the memory of the converter.
     static constexpr int maxLevels = 256;
-    static constexpr int maxElements = 500'000;
-    /// Pixels of the pictures that stand inside the SVG, all together; a larger one would be left out
-    /// without a word when it is drawn.
+    static constexpr int maxElements = 200'000;
+    /// The max number of pixels of all pictures that are embedded in the SVG.
     static constexpr qint64 maxPicturePixels = 16LL * 1024 * 1024;
 
     QByteArray content;
-    /// In px: what width and height say, completed from the view box; nothing when neither tells.
+    /// The natural size in px, at 96 px per inch; absent if the SVG states none. Not checked.
     std::optional<QSizeF> size;
-    std::optional<QRectF> viewBox;
-    /// Drawn larger or smaller, the drawing keeps its shape.
-    bool keepsShape = true;
 
-    /// Fails for what is no SVG, not well-formed or too large, and for an SVG that refers to other files.
+    /// Checks and rewrites an SVG. Returns an error if it is not an SVG, not well-formed or too large, and if
+    /// it refers to other files, which are never loaded: it would be printed incompletely.
     static Result<SvgSource, DocumentErrorReason> read(const QByteArray &svg);
+    /// The error for an SVG with more parts than can be drawn.
+    static DocumentErrorReason tooManyParts();
 };
 
 } // namespace documents

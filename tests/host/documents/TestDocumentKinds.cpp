@@ -311,6 +311,12 @@ TEST_F(DocumentKinds, SvgsAreDrawnInTheirPlace)
         {"picture", svg(R"(width="100" height="100")",
                         R"(<image x="50" y="50" width="50" height="50" href="data:image/png;base64,)" +
                             encoded(filled(Qt::red), "png").toBase64() + R"("/>)")},
+        {"prefixes without declarations",
+         R"(<svg width="100" height="100" a:b="c"><svg:g a:label="d">)"
+         R"(<svg:rect x="50" y="50" width="50" height="50" fill="red"/></svg:g></svg>)"},
+        {"mask", svg(R"(width="100" height="100")",
+                     R"(<mask id="m"><rect x="50" y="50" width="50" height="50" fill="white"/></mask>)"
+                     R"svg(<rect width="100" height="100" fill="red" mask="url(#m)"/>)svg")},
         {"two bytes a character", inUtf16(svg(R"(width="100" height="100")",
                                               R"(<rect x="50" y="50" width="50" height="50" fill="red"/>)"))},
     };

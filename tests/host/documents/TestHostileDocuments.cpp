@@ -58,15 +58,22 @@ bool isWhite(const QImage &image)
     return image == white;
 }
 
-/// Elements that use each other, twice each, so that the last one stands for a million times the first.
-QByteArray nestedUses()
+/// Elements that use each other, twice each, so that the last one contains the first 2^levels times.
+QByteArray nestedUses(int levels)
 {
     QByteArray content = R"(<g id="u0"><rect width="1" height="1"/></g>)";
-    for (int i = 1; i <= 20; ++i) {
+    for (int i = 1; i <= levels; ++i) {
         const QByteArray use = "<use xlink:href=\"#u" + QByteArray::number(i - 1) + "\"/>";
         content += "<g id=\"u" + QByteArray::number(i) + "\">" + use + use + "</g>";
     }
     return content;
+}
+
+/// Areas that are filled with a pattern that is slow to compute.
+QByteArray noise(int areas)
+{
+    return R"(<filter id="f"><feTurbulence baseFrequency="0.5" numOctaves="9"/></filter>)" +
+           QByteArray(R"svg(<rect width="40" height="40" filter="url(#f)"/>)svg").repeated(areas);
 }
 
 QByteArray entityBomb()
@@ -109,7 +116,7 @@ TEST(HostileDocuments, BytesTurnedAround)
 {
     const QByteArray samples[] = {pdfWithPageBoxes({"[0 0 100 100]"}), encoded(corners(60, 40), "png"),
                                   encoded(corners(60, 40), "jpeg"),
-                                  svg(R"(width="40" height="40" viewBox="0 0 4 4")", nestedUses())};
+                                  svg(R"(width="40" height="40" viewBox="0 0 4 4")", nestedUses(8))};
     const Sandbox sandbox;
     unsigned seed = 1;
     for (const QByteArray &sample : samples) {
@@ -202,7 +209,9 @@ TEST(HostileDocuments, Svgs)
         {"entities in entities", entityBomb(), DocumentErrorKind::Damaged},
         {"deep", svg(box, QByteArray("<g>").repeated(100'000) + QByteArray("</g>").repeated(100'000)),
          DocumentErrorKind::TooLarge},
-        {"many", svg(box, QByteArray("<g/>").repeated(600'000)), DocumentErrorKind::TooLarge},
+        {"many", svg(box, QByteArray("<g/>").repeated(300'000)), DocumentErrorKind::TooLarge},
+        {"a million uses", svg(box, nestedUses(20)), DocumentErrorKind::TooLarge},
+        {"minutes of filters", svg(box, noise(2'000)), DocumentErrorKind::TooLarge},
     };
     for (const Rejected &row : rows)
         expectError(row);
@@ -212,7 +221,7 @@ TEST(HostileDocuments, SvgsThatAreDrawnInBoundedTime)
 {
     const QByteArray box = R"(width="40" height="40")";
     const std::pair<const char *, QByteArray> rows[] = {
-        {"uses of uses", svg(box, nestedUses())},
+        {"uses of uses", svg(box, nestedUses(8))},
         {"uses itself",
          svg(box, R"(<g id="a"><use xlink:href="#b"/></g><g id="b"><use xlink:href="#a"/></g>)")},
         {"gradients in a ring",

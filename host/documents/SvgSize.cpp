@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SvgSize.h"
+
+#include <QStringList>
+#include <QXmlStreamAttributes>
+
+#include <cmath>
+
+namespace host {
+inline namespace documents {
+
+namespace {
+
+struct Unit {
+    QStringView name;
+    double pixels;
+};
+
+/// A number without a unit is in px.
+constexpr Unit units[] = {
+    {u"px", 1.0},         {u"mm", 96.0 / 25.4}, {u"cm", 96.0 / 2.54}, {u"in", 96.0},
+    {u"pt", 96.0 / 72.0}, {u"pc", 16.0},        {u"Q", 96.0 / 101.6},
+};
+
+/// Returns the number; infinity if it is too large for one.
+std::optional<double> number(QStringView text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    // "inf" and "nan" are numbers for Qt, but not in an SVG.
+    const bool isWord = !text.isEmpty() && text.back().isLetter();
+    return !isWord && (isNumber || std::isinf(value)) ? std::optional(value) : std::nullopt;
+}
+
+/// Returns the length in px; absent for a length that depends on something else, such as a percentage.
+std::optional<double> length(QStringView text)
+{
+    for (const Unit &unit : units) {
+        if (text.endsWith(unit.name)) {
+            const std::optional<double> value = number(text.chopped(unit.name.size()));
+            return value ? std::optional(*value * unit.pixels) : std::nullopt;
+        }
+    }
+    return number(text);
+}
+
+} // namespace
+
+std::optional<QSizeF> SvgSize::natural(const QXmlStreamAttributes &root)
+{
+    const std::optional<double> width = length(root.value(QLatin1String("width")).trimmed());
+    const std::optional<double> height = length(root.value(QLatin1String("height")).trimmed());
+    const std::optional<QSizeF> box = viewBox(root);
+    if (width && height)
+        return QSizeF(*width, *height);
+    if (width && box)
+        return QSizeF(*width, *width * box->height() / box->width());
+    if (height && box)
+        return QSizeF(*height * box->width() / box->height(), *height);
+    return box;
+}
+
+std::optional<QSizeF> SvgSize::viewBox(const QXmlStreamAttributes &root)
+{
+    QString text = root.value(QLatin1String("viewBox")).toString();
+    const QStringList numbers = text.replace(u',', u' ').simplified().split(u' ');
+    if (numbers.size() != 4 || !number(numbers[0]) || !number(numbers[1]))
+        return std::nullopt;
+    const std::optional<double> width = number(numbers[2]);
+    const std::optional<double> height = number(numbers[3]);
+    return width && height ? std::optional(QSizeF(*width, *height)) : std::nullopt;
+}
+
+} // namespace documents
+} // namespace host

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: Apache-2.0
+// Draws an SVG on the only page of a PDF:
+//
+//     kvprint-svgpdf [WIDTH HEIGHT] <drawing.svg >page.pdf
+//
+// WIDTH and HEIGHT are in px of 1/96 inch; without them, the page is as large as what the SVG draws. The
+// first line of the output is the size of the page in points. The PDF follows unless a side of the page is
+// shorter than 1 point or longer than a PDF page can be. The exit status is 1 if the SVG is
+// damaged, and 2 if it is too large or too complex to be drawn; the reason is written to standard error.
+//
+// kvprint runs this program when it opens an SVG. References to files and to the network are not loaded: the
+// library resolves them against the location of the SVG, and it is given none. The system limits time and
+// memory, because an SVG of a few lines can need any amount of both.
+#include <librsvg/rsvg.h>
+
+#include <cairo-pdf.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr double pointsPerPixel = 72.0 / 96.0;
+constexpr double pointsPerInch = 72.0;
+constexpr double maxPageSide = 14400.0;
+/// Masks and filters are drawn as pixels, in dots per inch: twice what label printers print.
+constexpr double rasterResolution = 600.0;
+/// The max size of such a picture, in pixels and in pixels of one side.
+constexpr double maxRasterPixels = 16.0 * 1024 * 1024;
+constexpr double maxRasterSide = 32000.0;
+
+template<auto function>
+struct Releaser {
+    template<typename T>
+    void operator()(T *object) const
+    {
+        function(object);
+    }
+};
+using Handle = std::unique_ptr<RsvgHandle, Releaser<g_object_unref>>;
+using Stream = std::unique_ptr<GInputStream, Releaser<g_object_unref>>;
+using Surface = std::unique_ptr<cairo_surface_t, Releaser<cairo_surface_destroy>>;
+using Context = std::unique_ptr<cairo_t, Releaser<cairo_destroy>>;
+
+/// The size of a drawing in px, and whether it is what the SVG draws instead of what it states.
+struct DrawingSize {
+    double width = 0.0;
+    double height = 0.0;
+    bool isWhatIsDrawn = false;
+};
+
+/// The limits of the process. The system ends it when it exceeds one of them.
+void setLimits()
+{
+    constexpr rlim_t seconds = 10;
+    constexpr rlimit time = {seconds, seconds};
+    constexpr rlimit noCore = {0, 0};
+    setrlimit(RLIMIT_CPU, &time);
+    setrlimit(RLIMIT_CORE, &noCore);
+#ifndef KV_SANITIZED
+    // AddressSanitizer reserves terabytes of addresses.
+    constexpr rlim_t bytes = rlim_t{1} << 30U;
+    constexpr rlimit memory = {bytes, bytes};
+    setrlimit(RLIMIT_AS, &memory);
+#endif
+}
+
+/// The exit status of a failure, and its reason.
+struct Failure {
+    enum Status { Damaged = 1, TooLarge = 2 };
+    Status status;
+    std::string reason;
+};
+
+Failure failure(Failure::Status status, const GError *error)
+{
+    return {status, error ? error->message : "unknown error"};
+}
+
+void check(cairo_status_t status)
+{
+    if (status != CAIRO_STATUS_SUCCESS)
+        throw Failure{Failure::TooLarge, cairo_status_to_string(status)};
+}
+
+std::vector<unsigned char> readStandardInput()
+{
+    constexpr std::size_t blockSize = std::size_t{1} << 16U;
+    std::vector<unsigned char> data;
+    std::size_t size = 0;
+    do {
+        data.resize(size + blockSize);
+        size += std::fread(data.data() + size, 1, blockSize, stdin);
+    } while (size == data.size());
+    data.resize(size);
+    return data;
+}
+
+Handle load(const std::vector<unsigned char> &svg)
+{
+    const Stream stream(
+        g_memory_input_stream_new_from_data(svg.data(), static_cast<gssize>(svg.size()), nullptr));
+    GError *error = nullptr;
+    // "Unlimited" allows the long attributes that pictures need. JPEGs are embedded as they are.
+    const auto flags =
+        static_cast<RsvgHandleFlags>(RSVG_HANDLE_FLAG_UNLIMITED | RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA);
+    Handle handle(rsvg_handle_new_from_stream_sync(stream.get(), nullptr, flags, nullptr, &error));
+    if (!handle)
+        throw failure(Failure::Damaged, error);
+    rsvg_handle_set_dpi(handle.get(), 96.0);
+    return handle;
+}
+
+DrawingSize sizeOfWhatIsDrawn(RsvgHandle *handle)
+{
+    RsvgRectangle ink = {};
+    GError *error = nullptr;
+    if (!rsvg_handle_get_geometry_for_element(handle, nullptr, &ink, nullptr, &error))
+        throw failure(Failure::TooLarge, error);
+    return {ink.width, ink.height, true};
+}
+
+void draw(RsvgHandle *handle, const DrawingSize &size, cairo_t *context)
+{
+    const RsvgRectangle viewport = {0.0, 0.0, size.width, size.height};
+    GError *error = nullptr;
+    const gboolean isDrawn = size.isWhatIsDrawn
+                                 ? rsvg_handle_render_element(handle, context, nullptr, &viewport, &error)
+                                 : rsvg_handle_render_document(handle, context, &viewport, &error);
+    if (!isDrawn)
+        throw failure(Failure::TooLarge, error);
+    check(cairo_status(context));
+}
+
+/// How many pixels there are to a point where something is drawn as pixels.
+double rasterScale(double width, double height)
+{
+    return std::min({rasterResolution / pointsPerInch, std::sqrt(maxRasterPixels / (width * height)),
+                     maxRasterSide / std::max(width, height)});
+}
+
+cairo_status_t writeOutput(void *, const unsigned char *data, unsigned int length)
+{
+    return std::fwrite(data, 1, length, stdout) == length ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
+}
+
+void writePdf(RsvgHandle *handle, const DrawingSize &size)
+{
+    const double width = size.width * pointsPerPixel;
+    const double height = size.height * pointsPerPixel;
+    std::printf("%.17g %.17g\n", width, height);
+    // Written so that a size that is not a number is no page either.
+    if (!(width >= 1.0 && height >= 1.0 && width <= maxPageSide && height <= maxPageSide))
+        return;
+    // The library draws masks and filters with one pixel to a unit of the surface. On a PDF, a unit is a
+    // point: the drawing is recorded at a larger scale, and put on the page at its size.
+    const double scale = rasterScale(width, height);
+    const cairo_rectangle_t extents = {0.0, 0.0, width * scale, height * scale};
+    const Surface recording(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
+    const Context recorder(cairo_create(recording.get()));
+    cairo_scale(recorder.get(), scale * pointsPerPixel, scale * pointsPerPixel);
+    draw(handle, size, recorder.get());
+
+    const Surface page(cairo_pdf_surface_create_for_stream(writeOutput, nullptr, width, height));
+    cairo_surface_set_fallback_resolution(page.get(), rasterResolution, rasterResolution);
+    const Context painter(cairo_create(page.get()));
+    cairo_scale(painter.get(), 1.0 / scale, 1.0 / scale);
+    cairo_set_source_surface(painter.get(), recording.get(), 0.0, 0.0);
+    cairo_paint(painter.get());
+    check(cairo_status(painter.get()));
+    cairo_surface_finish(page.get());
+    check(cairo_surface_status(page.get()));
+}
+
+/// Returns the exit status. A function of its own because GCC does not protect the stack of functions that do
+/// not return.
+[[gnu::noinline]] int convert(int argc, char **argv)
+{
+    try {
+        setLimits();
+        const std::vector<unsigned char> svg = readStandardInput();
+        const Handle handle = load(svg);
+        const DrawingSize size =
+            argc == 3 ? DrawingSize{std::strtod(argv[1], nullptr), std::strtod(argv[2], nullptr)}
+                      : sizeOfWhatIsDrawn(handle.get());
+        writePdf(handle.get(), size);
+        if (std::fflush(stdout) != 0)
+            throw Failure{Failure::TooLarge, "cannot write the PDF"};
+    } catch (const Failure &error) {
+        std::fprintf(stderr, "kvprint-svgpdf: %s\n", error.reason.c_str());
+        return error.status;
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const int status = convert(argc, argv);
+    // The process ends: what the libraries keep need not be released.
+    std::fflush(nullptr);
+    _exit(status);
+}
