@@ -16,6 +16,7 @@
 #include <cairo-pdf.h>
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -109,10 +110,9 @@ Handle load(const std::vector<unsigned char> &svg)
     const Stream stream(
         g_memory_input_stream_new_from_data(svg.data(), static_cast<gssize>(svg.size()), nullptr));
     GError *error = nullptr;
-    // "Unlimited" allows the long attributes that pictures need. JPEGs are embedded as they are.
-    const auto flags =
-        static_cast<RsvgHandleFlags>(RSVG_HANDLE_FLAG_UNLIMITED | RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA);
-    Handle handle(rsvg_handle_new_from_stream_sync(stream.get(), nullptr, flags, nullptr, &error));
+    // "Unlimited" allows the long attributes that pictures need.
+    Handle handle(
+        rsvg_handle_new_from_stream_sync(stream.get(), nullptr, RSVG_HANDLE_FLAG_UNLIMITED, nullptr, &error));
     if (!handle)
         throw failure(Failure::Damaged, error);
     rsvg_handle_set_dpi(handle.get(), 96.0);
@@ -186,6 +186,8 @@ void writePdf(RsvgHandle *handle, const DrawingSize &size)
 {
     try {
         setLimits();
+        // Which variants Chinese, Japanese and Korean glyphs have depends on the user's language.
+        std::setlocale(LC_CTYPE, "");
         const std::vector<unsigned char> svg = readStandardInput();
         const Handle handle = load(svg);
         const DrawingSize size =

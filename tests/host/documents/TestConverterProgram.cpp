@@ -92,6 +92,24 @@ TEST(ConverterProgram, LoadsNothingFromOutsideAnSvg)
     EXPECT_TRUE(watch.hasSeenOpening());
 }
 
+TEST(ConverterProgram, DrawsNoPixelsWhereShapesAreEnough)
+{
+    const QByteArray rows[] = {
+        "<text y='20'>Label</text>",
+        "<linearGradient id='g'><stop stop-color='red'/><stop offset='1' "
+        "stop-opacity='0.5'/></linearGradient>"
+        "<rect width='40' height='40' fill='url(#g)'/>",
+        "<g opacity='0.5'><circle r='20'/></g>",
+        "<clipPath id='c'><circle r='20'/></clipPath><rect width='40' height='40' clip-path='url(#c)'/>",
+    };
+    for (const QByteArray &row : rows) {
+        ConverterProgram converter(QStringLiteral("svgpdf"));
+        EXPECT_EQ(converter.run({"40", "40"}, svg({}, row)), ConverterProgram::End::Converted);
+        EXPECT_TRUE(converter.output().contains("%PDF")) << row.toStdString();
+        EXPECT_FALSE(converter.output().contains("/Subtype /Image")) << row.toStdString();
+    }
+}
+
 TEST(ConverterProgram, PdfsThatDoNotFitAreReported)
 {
     QBuffer closed;
