@@ -20,7 +20,7 @@ struct ConverterProgramText {
 QString privateFile(const QString &name)
 {
     const QDir programs(QCoreApplication::applicationDirPath());
-    const QString built = QDir::cleanPath(programs.filePath(QStringLiteral("../lib/") + name));
+    QString built = QDir::cleanPath(programs.filePath(QStringLiteral("../lib/") + name));
     if (QFileInfo::exists(built))
         return built;
     return QDir::cleanPath(programs.filePath(QStringLiteral(KV_PRIVATE_LIBRARIES))) + u'/' + name;
