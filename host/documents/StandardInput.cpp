@@ -19,7 +19,7 @@ struct StandardInputText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-/// Like read(), but waits for input that whoever started the program has set not to be waited for.
+/// Like read(), but waits for input even if the descriptor that the program inherited does not block.
 ssize_t readPiece(char *buffer, std::size_t size)
 {
     for (;;) {

@@ -19,8 +19,8 @@ Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> makeTempor
 /// Why the temporary file could not be written.
 DocumentErrorReason notStored(const platform::TemporaryFile &file);
 
-/// Reads standard input to its end, waiting for whoever writes it, into a temporary file. The limit is in
-/// bytes; nothing is kept when there is more.
+/// Reads standard input to its end into a temporary file, and waits while the other program writes. The limit
+/// is in bytes; longer input is an error and leaves no file.
 Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason>
 readStandardInput(qint64 limit = maxInput);
 

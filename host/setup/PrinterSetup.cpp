@@ -32,7 +32,7 @@ PrinterSetup::PrinterSetup(Destination destination, std::optional<PpdFile> ppd, 
     : m_destination(std::move(destination))
 {
     if (!ppd) {
-        // Nobody knows what such a queue can do, so everything is passed on.
+        // The capabilities of such a queue are not known, so everything is passed on.
         m_choices = requested.choices;
         if (requested.paper)
             record(paperKeyword, *requested.paper, Origin::You);

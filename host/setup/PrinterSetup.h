@@ -81,8 +81,8 @@ public:
 
     /// All that was chosen, each option once, in the order of the first choosing.
     const std::vector<JobChoice> &choices() const { return m_choices; }
-    /// Wishes that the printer cannot fulfil, one sentence each; the paper of the user's lpoptions among
-    /// them, where no other is requestedName for.
+    /// The requested choices that the printer does not have, with one sentence each. They include the paper
+    /// of the user's lpoptions unless another one is requested.
     const std::vector<ChoiceError> &choiceErrors() const { return m_choiceErrors; }
     /// What was chosen, with what the panel's controls have and nothing has saved yet.
     std::vector<JobChoice> choicesNow() const;

@@ -30,13 +30,12 @@ public:
     /// The setup of the chosen printer; null while its PPD is not known.
     PrinterSetup *setup() const { return m_setup.get(); }
 
-    /// From now on the setup stays, while somebody is asked about it; what changes meanwhile waits for
-    /// release().
+    /// Keeps the setup while the user answers a question about it; changes wait for release().
     void hold() { m_isHeld = true; }
     void release();
 
 Q_SIGNALS:
-    /// The setup is about to end, and with it its panels; whoever shows them takes them off now.
+    /// The setup and its panels are about to be destroyed; a window that shows them must remove them now.
     void setupAboutToEnd();
     /// setup() is another, or null now.
     void setupChanged();

@@ -6,8 +6,7 @@
 #include <QString>
 
 /// Collects what happens outside the panel while a request runs: changes handed to the dialog, alerts,
-/// beeps, notifications. An alert is answered by its first button at once, since nobody sits before the
-/// screen.
+/// beeps, notifications. An alert is answered by its first button at once, since no user sees it.
 class EventLog : public QObject {
     Q_OBJECT
 

@@ -17,8 +17,8 @@ struct Console {
 
     /// Writes the message as a line of the program's.
     void printError(const QString &message) const;
-    /// Writes the line by which scripts know a job that was sent; among the messages where it cannot be
-    /// written, lest somebody print once more.
+    /// Writes the line that identifies a sent job to scripts. If standard output cannot be written, writes it
+    /// to standard error, so that the user does not print again.
     void tellRequestId(const QString &queue, int jobId, qsizetype documents) const;
 };
 

@@ -91,7 +91,7 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
             host::CupsError{host::CupsErrorKind::NotFound,
                             HeadlessRunText::tr("The print server \"%1\" has no destination to print on")
                                 .arg(m_server.displayName())};
-    // The dialog shows any other queue then; without it, nobody would see where the labels go.
+    // The dialog would show which other queue it chooses; without it, the user would not see where labels go.
     const bool isAnyQueue = !m_command.destination && !host::LpOptions::read().defaultName() &&
                             !session.destinations().defaultDestination();
     if (!failure && isAnyQueue)
@@ -208,7 +208,7 @@ ExitStatus HeadlessRun::send(const host::Ticket &ticket)
     sender.send({ticket, *m_document, {}});
     loop.exec();
     const std::optional<int> signal = m_signals.signal();
-    // Nothing is said of what was given up on request, by the signal.
+    // A job that the signal canceled is not reported as an error.
     if (problem && signal && problem->isEmpty())
         return endedBy(*signal);
     if (problem) {

@@ -159,7 +159,7 @@ ExitStatus PrintRun::runOnQueue()
         return HeadlessRun(m_command, m_console, server, std::move(document)).run();
     }
 
-    // The dialog is closed as by hand, so that a job on its way is taken back.
+    // Closes the dialog as the user would, which cancels a job that is being sent.
     SignalWatch watch;
     QObject::connect(&watch, &SignalWatch::caught, qApp, &QApplication::closeAllWindows);
     const auto canceled = [&] {

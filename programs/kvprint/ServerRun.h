@@ -22,8 +22,8 @@ public:
 private:
     ExitStatus printDestinations();
     ExitStatus changeJob();
-    /// Whether the job's printer has all that is to be changed, or nobody can tell because it has no PPD;
-    /// tells what it does not have.
+    /// Returns whether the job's printer has all options and choices of the change, or has no PPD and cannot
+    /// be checked. Reports those that it does not have.
     bool printerHas(const host::JobChange &change);
     /// Of the queue that the job is in; null when that has none.
     host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ppdOfJob(int jobId);

@@ -12,7 +12,7 @@ inline namespace kvprint {
 
 namespace {
 
-/// Handlers can reach nothing else; -1 while nobody watches.
+/// The only state that the handlers may use; -1 while there is no SignalWatch.
 volatile std::sig_atomic_t writeEnd = -1;
 volatile std::sig_atomic_t isCaught = 0;
 

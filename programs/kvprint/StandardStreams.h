@@ -10,8 +10,8 @@ inline namespace kvprint {
 /// standard error, once.
 class StandardStreams {
 public:
-    /// Takes the places of streams that whoever started the program has closed, so that no file that is
-    /// opened later is read or written in their stead. To be made before anything is opened.
+    /// Opens standard streams that were closed when the program started, so that no file that is opened later
+    /// is read or written in their place. Must be created before any file is opened.
     StandardStreams();
 
     /// Writes at once; false when it cannot be written.

@@ -87,7 +87,7 @@ void TerminalPassword::say(const QByteArray &text) const
 std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt, Typing shown) const
 {
     const UnseenTyping typing(m_terminal);
-    // Not before: somebody quick would see the first letters, and they would be lost.
+    // Not earlier: letters typed before the echo is off would be visible, and would be lost.
     say(prompt);
     QByteArray line;
     // Rewritten from the start of its row after each key.

@@ -34,8 +34,8 @@ bool asksForDialog(const QStringList &arguments)
     return command && command.value().task == programs::Task::Print && !command.value().noDialog;
 }
 
-/// Whether somebody sees the windows. Decided before there is an application, which could not start
-/// without a display.
+/// Returns whether the user can see windows. Decided before there is an application object, which could not
+/// be created without a display.
 bool chooseScreen(const QStringList &arguments)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && (!asksForDialog(arguments) || !hasDisplay()))
@@ -63,7 +63,7 @@ void silenceReaders()
     QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.svg*=false\nqt.pdf*=false"));
 }
 
-/// Nobody may take a part of the output for all of it.
+/// Returns the exit status: an error if standard output could not be written completely.
 int status(programs::ExitStatus status, const programs::StandardStreams &streams)
 {
     const bool seemsGood =

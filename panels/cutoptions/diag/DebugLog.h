@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <span>
 
-/// Messages for whoever is diagnosing the plug-in. Nothing in the plug-in calls them; the bundle exports
+/// Messages for diagnosing the plug-in. Nothing in the plug-in calls them; the bundle exports
 /// them so that a call put in for an afternoon, or a debugger, finds them.
 ///
 /// Each function comes twice: once exported under its plain name, with the arguments as a list of

@@ -13,7 +13,7 @@ using platform::NotificationCenter;
 
 namespace {
 
-/// Posted by whoever shows a panel's view, when the view has been laid out anew.
+/// Posted by the dialog that shows a panel's view after it has laid out the view again.
 const QString viewDidUpdate = QStringLiteral("NSViewDidUpdateTrackingAreasNotification");
 
 /// What the dialog's title, tabs and buttons take of its window's height, in points.

@@ -58,7 +58,7 @@ private:
         /// What the edit is held against, where that is not what is known.
         std::optional<FieldState> original;
         std::optional<PDEFormatter::Refusal> refusal;
-        /// The refused text, until the field is known to have taken it back.
+        /// The refused text, until the field is known to have restored the text before it.
         std::optional<QString> refusedText;
         bool unchecked = false;
     };

@@ -84,8 +84,8 @@ bool FormatterAttachment::handleEdit(QEvent *event)
     }
 }
 
-/// Has the field handle the event; when it made an edit that was refused, puts the field back to what it
-/// was before and only then tells of the refusal, so that whoever hears of it finds the field at rest.
+/// Lets the field handle the event. If it made an edit that was refused, restores the field and then reports
+/// the refusal, so that observers find the field unchanged.
 void FormatterAttachment::deliver(QEvent *event, const FieldState &before)
 {
     const QPointer<FormatterAttachment> alive(this);
@@ -100,7 +100,7 @@ void FormatterAttachment::deliver(QEvent *event, const FieldState &before)
     if (!refusal)
         return;
     if (event->type() == QEvent::Drop) {
-        // Nobody took what was dropped, so its source must not remove it.
+        // The text was not dropped here, so its source must not remove it.
         static_cast<QDropEvent *>(event)->setDropAction(Qt::IgnoreAction);
         event->ignore();
     }
@@ -187,7 +187,7 @@ void FormatterAttachment::takeBackComposition(const QInputMethodEvent &event, co
         announceHistoryStep(removed, before);
 }
 
-/// Tries one step of the undo history and takes it back when the formatter refuses what it brings.
+/// Performs one step of the undo history and reverts it if the formatter refuses the resulting text.
 void FormatterAttachment::stepHistory(Slot step, Slot back)
 {
     const FieldState before = FieldState::of(*m_field);

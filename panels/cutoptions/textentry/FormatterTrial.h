@@ -24,7 +24,8 @@ namespace textentry {
 ///
 /// Answers {"results": [...]}: of an edit {"accepted", "notification", "object", "beeps"}, where "object"
 /// is the text that the notification carried, or "formatter"; of the others {"text"}. Beeps and
-/// notifications really happen, for whoever listens. A member that is missing or of a wrong type answers
+/// notifications really happen, and observers receive them. A member that is missing or of a wrong type
+/// answers
 /// {"error": ...} that names it, and then nothing has been tried.
 QJsonObject tryFormatter(const QJsonObject &request);
 

@@ -20,8 +20,8 @@ struct PDETextRange {
 /// Holds what is typed into a text field to a style of characters, a length in bytes, a list of refused
 /// texts and a range of values, and turns values into display texts through a format string.
 ///
-/// Whoever owns a field asks isPartialStringValid() about each edit before it is kept; attached to a
-/// QLineEdit, textentry::FormatterAttachment does. A refused edit beeps once and posts one notification,
+/// The owner of a field calls isPartialStringValid() for each edit before it is kept; for a QLineEdit,
+/// textentry::FormatterAttachment does. A refused edit beeps once and posts one notification,
 /// "InvalidCharacterNotification" or "FormatErrorNotification", on the default notification centre.
 class PDEFormatter {
 public:

@@ -32,7 +32,7 @@ public:
 
     /// The user has changed the text.
     void textDidChange();
-    /// The user has finished with the text: the field gives up the focus.
+    /// The user has finished editing: the field loses the focus.
     void textDidEndEditing();
 
 protected:
