@@ -2,8 +2,8 @@
 // What grows with the options and the constraints of a PPD, up to the maximum of each: opening it, which is
 // libcups's part, the options of a job, the conflicts and their sentences.
 
-#include <host/printer/Constraints.h>
 #include <host/cups/jobs/JobOptions.h>
+#include <host/printer/Constraints.h>
 #include <host/printer/PpdCounts.h>
 #include <tests/samples/OptionsPpd.h>
 
