@@ -10,7 +10,7 @@
 namespace host {
 inline namespace setup {
 
-/// A job that is not sent: what the server would be given. For a terminal.
+/// Returns what the server would receive for the job, as text for a terminal.
 QString ticketInPlainText(const CupsServer &server, const Ticket &ticket);
 
 /// The same for programs: "server", "destination", "title", "documents" of "file" and "type", "options" of
@@ -18,9 +18,9 @@ QString ticketInPlainText(const CupsServer &server, const Ticket &ticket);
 /// same. Origins are "ppd", "queue", "user-default", "preset", "panel" and "you" in every language.
 QJsonObject ticketJson(const CupsServer &server, const Ticket &ticket);
 
-/// A job that the virtual printer prints, for programs: "printer", "ppd", "documents", "paper", "pages" from
-/// 1, "copies", "collate", "options" with the paper first, and "plan", the plan of cuts. The ticket has a
-/// paper.
+/// Returns a job of the virtual printer for programs: "printer", "ppd", "documents", "paper", "pages" from
+/// 1, "copies", "collate", "options" with the paper first, and "plan", the plan of cuts. The ticket must
+/// have a paper.
 QJsonObject printedJobJson(const Ticket &ticket, const LabelDocument &document, const QString &ppdPath,
                            const CutPlan &plan);
 

@@ -13,20 +13,21 @@
 namespace host {
 inline namespace setup {
 
-/// Lines of a summary under one title.
+/// Lines of a summary under one title: name and value.
 struct SummarySection {
     QString title;
     std::vector<std::pair<QString, QString>> lines;
 };
 
-/// All settings of the job, to be read before printing: the dialog's own, the panel's in the panel's order,
-/// and what becomes of the strip. The setup's panel is asked for its lines about the ticket's choices; there
-/// may be none. The plan is null without a paper, when nothing is known of the strip.
+/// Returns all settings of the job for reading before printing: those of the dialog, those of the panel in
+/// the panel's order, and the description of the strip. Queries the panel for its lines about the ticket's
+/// choices. The plan is null without a paper; then the strip is not described.
 std::vector<SummarySection> summarize(const Ticket &ticket, const PrinterSetup &setup, const CutPlan *plan);
 
-/// For a terminal.
+/// Returns the summary as text for a terminal.
 QString summaryInPlainText(const std::vector<SummarySection> &sections);
-/// For programs: a list of sections, each with "title" and "lines" of "title" and "value".
+/// Returns the summary for programs: a list of sections, each with "title" and "lines" of "title" and
+/// "value".
 QJsonArray summaryJson(const std::vector<SummarySection> &sections);
 
 } // namespace setup

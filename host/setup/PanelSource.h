@@ -12,22 +12,22 @@ enum class PanelErrorKind {
 };
 using PanelError = Failure<PanelErrorKind>;
 
-/// A bundle's panels at work for one printer, and the PPD keywords that they take care of.
+/// The panels of a bundle for one printer, and the PPD keywords that they handle.
 struct ClaimedPanels {
-    /// Null when the panels have nothing to offer for this printer.
+    /// Null if the panels handle no option of this printer.
     std::unique_ptr<PanelSession> session;
     QStringList keywords;
 };
 
-/// Where the panels of the dialog come from: the bundle in a folder, or the installed one, with its texts in
-/// the first of the user's languages that it has.
+/// Where panels are loaded from: a bundle in a folder, or the installed one, with its texts in the first of
+/// the user's languages that the bundle has.
 struct PanelSource {
-    /// As PanelBundle::find() takes it.
+    /// The folder for PanelBundle::find(); absent for the installed bundle.
     std::optional<QString> folder = {};
     QStringList languages = {};
 
-    /// Loads the bundle and has it make its panels for the printer. The first panel's view is loaded and
-    /// shows what the PPD has marked.
+    /// Loads the bundle and creates its panels for the printer. The view of the first panel is loaded and
+    /// shows the marked choices of the PPD.
     Result<ClaimedPanels, PanelError> panelsFor(const std::shared_ptr<DialogState> &state) const;
 };
 

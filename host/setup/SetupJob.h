@@ -7,14 +7,15 @@
 namespace host {
 inline namespace setup {
 
-/// The job as it would be sent to the printer now. The panel is asked what it would save; nothing changes.
+/// Returns the job as it would be sent to the printer now. Queries the panel for what it would save; nothing
+/// changes.
 Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &draft);
 
-/// The name that lp gives a job: that of its first document.
+/// Returns the title that lp gives a job: the name of its first document.
 QString defaultTitle(const LabelDocument &document);
 
-/// The paper on which the labels are shown, in points: the printer's, or without one (or with null, while the
-/// printer is not known) one on which the first page stands as it is read.
+/// Returns the paper on which labels are shown, in points: that of the setup; without a paper or with a null
+/// setup, one of the size of the first page.
 QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document);
 
 } // namespace setup

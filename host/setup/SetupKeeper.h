@@ -10,22 +10,23 @@
 namespace host {
 inline namespace setup {
 
-/// Keeps the setup of the printer that is chosen now. As a server's answers come in, or the user chooses
-/// another queue, one setup takes the place of another, and what was chosen moves along as far as the new PPD
-/// has it; what it lacks is told by the setup's choiceErrors(), and comes back with a PPD that has it. Each
-/// queue's choices are kept while the program runs, so that going back to it finds them.
+/// Owns the setup of the chosen printer. When the server responds or the user chooses another queue, it
+/// replaces the setup and carries the choices over, as far as the new PPD has them. The others are reported
+/// by the new setup's choiceErrors() and are applied again with a PPD that has them. The choices of each
+/// queue are kept while the program runs, and are restored when the user returns to the queue.
 class SetupKeeper : public QObject {
     Q_OBJECT
 
 public:
-    /// For one printer that stays, without a print server.
+    /// Creates the keeper of one printer that does not change, without a print server.
     explicit SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent = nullptr);
-    /// For the queues of a server. The session is borrowed; the requested are those for any queue.
+    /// Creates the keeper for the queues of a server. The session is borrowed; the request applies to every
+    /// queue.
     SetupKeeper(QueueSession &session, PanelSource panelSource, SetupRequest requested,
                 QObject *parent = nullptr);
     ~SetupKeeper() override;
 
-    /// Null without a server.
+    /// The session of the server; null without a server.
     QueueSession *session() const { return m_session; }
     /// The setup of the chosen printer; null while its PPD is not known.
     PrinterSetup *setup() const { return m_setup.get(); }
@@ -37,7 +38,7 @@ public:
 Q_SIGNALS:
     /// The setup and its panels are about to be destroyed; a window that shows them must remove them now.
     void setupAboutToEnd();
-    /// setup() is another, or null now.
+    /// Emitted after setup() has changed; it may be null.
     void setupChanged();
 
 private:
@@ -55,7 +56,7 @@ private:
     std::map<QString, std::vector<JobChoice>> m_choicesOfQueues;
     /// As they were when the setup was new.
     std::vector<JobChoice> m_firstChoices;
-    /// The setup before was not as it had been when it was new.
+    /// Whether the user had changed the previous setup.
     bool m_hadUsersChoices = false;
     bool m_isHeld = false;
     bool m_queueIsLate = false;

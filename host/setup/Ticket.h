@@ -11,68 +11,69 @@
 namespace host {
 inline namespace setup {
 
-/// What is set for the job beside the printer's own options.
+/// The settings of a job other than the options of the printer.
 struct JobRequest {
-    /// Nothing in it stands for the queue's own setting.
+    /// Absent values stand for the queue's defaults.
     JobSettings settings;
     /// The job's name in the queue.
     QString title;
-    /// Which pages come out and how often, as settings say it.
+    /// The pages in print order with their copies, as determined by the settings.
     PageChoices pages;
 };
 
-/// What a ticket is made of. Everything is borrowed.
+/// The input of makeTicket(). Everything is borrowed.
 struct TicketSource {
     const Destination &destination;
-    /// For people: the printer's name.
+    /// The printer's name for users.
     QString printer;
-    /// With what is marked; null for a queue without a PPD.
+    /// The PPD with its marked choices; null for a queue without a PPD.
     const PpdFile *ppd;
-    /// Of the PPD; null without one.
+    /// The constraints of the PPD; null without a PPD.
     const Constraints *constraints;
-    /// What was chosen and by whom.
+    /// All choices with their origins.
     const std::vector<JobChoice> &choices;
-    /// Options that a remedy leaves as they are if it can: the one that was chosen last, and those whose
-    /// choice the panel replaces.
+    /// Options that a remedy keeps if possible: the one that was chosen last, and those whose choice the
+    /// panel replaces.
     std::set<QString> kept;
     /// What the panel would save now.
     const PanelSettings &panel;
-    /// Absent without a PPD, or when the PPD names no paper.
+    /// Absent without a PPD, or if the PPD has no usable paper.
     const std::optional<PpdPaper> &paper;
     const LabelDocument &document;
     const JobRequest &draft;
 };
 
-/// What would be sent if Print were pressed now: the one value from which everything is made that shows the
-/// job or sends it. The strip, its figures and sentences, the summary, "What will be sent", conflicts,
-/// --dry-run,
-/// --summary, the virtual printer's files and the job itself read nothing else.
+/// Everything that is sent if the user presses Print now. All that shows or sends the job is made from this
+/// value alone: the strip, its figures and sentences, the summary, "What will be sent", conflicts,
+/// --dry-run, --summary, the files of the virtual printer, and the job.
 struct Ticket {
     /// What the print server receives.
     JobTicket job;
-    /// For people: the document's and the printer's name.
+    /// The names of the document and of the printer for users.
     QString document;
     QString printer;
-    /// Absent without a PPD, or when the PPD names no paper: there is no strip then.
+    /// Absent without a PPD, or if the PPD has no usable paper; then there is no strip.
     std::optional<PpdPaper> paper;
     PageChoices pages;
     /// The settings of the job, the destination's defaults included.
     JobSettings settings;
     /// How the labels are cut; areKnown is false without a PPD.
     CutSettings cuts;
-    /// What was chosen and by whom, the panel's settings included.
+    /// All choices with their origins, including the settings of the panel.
     std::vector<JobChoice> choices;
     /// What the panel would save now, and whether it lets the job be printed.
     PanelSettings panel;
     std::vector<Conflict> conflicts;
-    /// Ends all conflicts without touching the paper; absent when there is none or no way.
+    /// Resolves all conflicts without changing the paper; absent without conflicts, or if there is no such
+    /// resolution.
     std::optional<Remedy> remedy;
 };
 
-/// Makes the ticket. A pure function: the same source gives the same ticket, and nothing changes.
+/// Returns the ticket. A pure function: the same source gives the same ticket, and nothing changes.
 Ticket makeTicket(const TicketSource &source);
 
-/// The plan of cuts of a ticket that has a paper, for the pages as the renderer lays them on that paper.
+/// Returns the plan of cuts of a ticket that has a paper, for the pages as the renderer lays them out on
+/// that paper.
 CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const LabelRenderer &renderer);
 
 } // namespace setup
