@@ -15,22 +15,23 @@ class QueueSender;
 namespace programs {
 inline namespace kvprint {
 
-/// What may keep a run of the command line from printing, and what it reports on the console: the same for
-/// queues and for PPD files, with and without a window.
+/// The checks that a run of the command line makes before it prints, and their messages on the console: the
+/// same for queues and for PPD files, with and without a window.
 class CommandChecks {
 public:
     /// Both are borrowed.
     CommandChecks(const CommandLine &command, const Console &console);
 
-    /// Whether the printer can do what is requested, or is to do it by force. Reports what it cannot do, and
-    /// a panel that cannot be shown.
+    /// Returns whether the printer has all requested choices, or --force is given. Reports the choices that
+    /// it does not have, and a panel that cannot be shown.
     bool accepts(const host::PrinterSetup &setup) const;
-    /// Whether the job, made for that printer, may be sent without asking. Reports a panel that refuses,
-    /// requested choices that the panel's rules have replaced, and conflicts with their remedy.
+    /// Returns whether the job for that printer may be sent without a question. Reports a panel that does
+    /// not allow printing, requested choices that the panel's rules have replaced, and conflicts with their
+    /// remedy.
     bool accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const;
-    /// Prints the line by which scripts know the job that was sent, unless the run is quiet.
+    /// Prints the line that identifies the sent job to scripts, unless the run is quiet.
     void printRequestId(const dialog::QueueSender &sender) const;
-    /// The status of a run that ended like this: a job that was printed without its panel has its own.
+    /// Returns the exit status of a run: a job that was printed without its panel has a status of its own.
     static ExitStatus statusOf(ExitStatus status, const host::PrinterSetup &setup);
 
 private:

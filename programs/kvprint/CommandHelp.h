@@ -6,7 +6,8 @@
 namespace programs {
 inline namespace kvprint {
 
-/// The help text in the user's language: usage, all options, exit statuses. Lines of up to 80 columns.
+/// Returns the help text in the user's language: usage, all options, exit statuses, in lines of up to 80
+/// columns.
 QString commandHelp();
 
 } // namespace kvprint

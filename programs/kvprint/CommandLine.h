@@ -11,14 +11,14 @@
 namespace programs {
 inline namespace kvprint {
 
-/// The statuses with which kvprint ends.
+/// The exit statuses of kvprint.
 enum class ExitStatus {
     Printed = 0,
     Failed = 1,
     WrongUsage = 2,
     PrintedWithoutPanel = 3,
     Canceled = 4,
-    /// Ended by a signal: 128 and its number, as shells say it.
+    /// Ended by a signal: 128 and its number, as in shells.
     HungUp = 129,
     Interrupted = 130,
     Terminated = 143,
@@ -29,59 +29,59 @@ inline ExitStatus statusOfSignal(int signal)
     return static_cast<ExitStatus>(128 + signal);
 }
 
-/// What a run of the program is for.
+/// The task of a run.
 enum class Task {
     Print,
-    List,        ///< tells the destinations
-    Summary,     ///< tells what the dialog's summary shows
-    DryRun,      ///< does everything but sending
-    ChangeJob,   ///< changes a job that waits
+    List,        ///< prints the destinations
+    Summary,     ///< prints the summary of the dialog
+    DryRun,      ///< prints what would be sent
+    ChangeJob,   ///< changes a waiting job
     CancelLeft,  ///< cancels a job that a killed program has left on a print server
-    ReleaseLeft, ///< prints what a server has of such a job
+    ReleaseLeft, ///< releases such a job, which prints the documents that the server has
 };
 
-/// What kvprint was asked to do.
+/// The parsed command line.
 struct CommandLine {
     Task task = Task::Print;
-    /// In the order in which they are printed; "-" is standard input. Empty stands for standard input too, as
-    /// with lp, where the task is about documents at all.
+    /// The documents in the order in which they are printed; "-" is standard input. For tasks with
+    /// documents, an empty list stands for standard input, as with lp.
     QStringList documents;
 
-    /// A PPD file without a queue: prints on the virtual printer. Never together with a destination or a
+    /// A PPD file without a queue: prints on the virtual printer. Not together with a destination or a
     /// server.
     std::optional<QString> ppd;
-    /// "queue" or "queue/instance"; nothing for the default one.
+    /// "queue" or "queue/instance"; absent for the default destination.
     std::optional<QString> destination;
-    /// "host", "host:port" or the path of a local socket; nothing for libcups's own choice.
+    /// "host", "host:port" or the path of a local socket; absent for the default of libcups.
     std::optional<QString> server;
-    /// For whom is printed; nothing for libcups's own choice.
+    /// The user for whom is printed; absent for the default of libcups.
     std::optional<QString> user;
     /// Whether the connection must be encrypted.
     bool encrypt = false;
 
-    /// The options of -o, each name once, without those that settings, paper and title take up.
+    /// The options of -o, each name once, without those that are stored in settings, paper and title.
     std::vector<host::JobChoice> options;
-    /// What -n, -P, -H and -q say, and the options of the same meaning.
+    /// The values of -n, -P, -H, -q, and of the options with the same meaning.
     host::JobSettings settings;
     /// The paper's name in the PPD, byte for byte.
     std::optional<QByteArray> paper;
-    /// The job's name.
+    /// The title of the job.
     std::optional<QString> title;
-    /// The number of the job that ChangeJob is about; its queue is the destination, if one was named.
+    /// The number of the job for ChangeJob; its queue is the destination, if one is named.
     std::optional<int> jobToChange;
-    /// The name or the identifier of the job that CancelLeft and ReleaseLeft are about.
+    /// The name or the identifier of the job for CancelLeft and ReleaseLeft.
     QString leftJob;
-    /// Without the message that a job was sent.
+    /// Suppresses the message that a job was sent.
     bool quiet = false;
-    /// The user wants to be told by mail when the job is over; quiet then, as lp is.
+    /// The server sends the user a mail when the job is completed; then the run is also quiet, as with lp.
     bool mail = false;
 
     std::optional<QString> bundle;
     std::optional<QString> output;
     std::optional<QString> screenshot;
-    /// Print at once, as a person would who opens the dialog and presses Print.
+    /// Prints immediately, with the settings that the dialog would open with.
     bool noDialog = false;
-    /// Send in spite of choices that the PPD does not have, and of conflicts.
+    /// Sends the job despite conflicts and choices that the PPD does not have.
     bool force = false;
     bool json = false;
 };

@@ -9,39 +9,39 @@
 namespace programs {
 inline namespace kvprint {
 
-/// One option of the command line: a row of the table that parser and help are made from.
+/// An option of the command line: a row of the table for the parser and the help text.
 struct CommandOption {
-    /// What an option is about, beside its task.
+    /// The kind of printer to which an option applies.
     enum class Printer {
         Any,
         Queue,   ///< print servers: not together with a PPD file
         Virtual, ///< the virtual printer: only with a PPD file
     };
 
-    /// lp's; 0 when there is none. Either a letter or a name is there.
+    /// The letter, as for lp; 0 if the option has only a name.
     char letter;
-    /// Without the dashes; null when there is none.
+    /// The name without dashes; null if the option has only a letter.
     const char *name;
-    /// A name for the value in help and messages; null when the option takes none.
+    /// The name of the value in help and messages; null if the option has no value.
     const char *value;
-    /// To be translated in the context dialog::CommandLine.
+    /// The help text, untranslated; its context is programs::kvprint::CommandLine.
     const char *help;
-    /// The tasks that it goes together with, a bit for each.
+    /// The tasks that allow the option, one bit each.
     unsigned tasks;
     Printer printer;
-    /// Puts the option and its value where it belongs; null for those that end the reading at once.
+    /// Stores the option and its value in the command; null for options that end the parsing.
     ErrorMessage (*take)(CommandLine &command, const QString &value);
 
-    /// "-d" or "--ppd".
+    /// Returns the option as it is written: "-d" or "--ppd".
     QString spelling() const;
     bool goesWith(Task task) const;
-    /// Whether it is the one that asks for the task.
+    /// Returns whether the option selects the task.
     bool asksFor(Task task) const;
 };
 
-/// All options, in the order of the help text.
+/// Returns all options in the order of the help text.
 std::span<const CommandOption> commandOptions();
-/// Null when there is none.
+/// Returns the option with the letter or the name; null if there is none.
 const CommandOption *findOption(QChar letter);
 const CommandOption *findOption(QStringView name);
 

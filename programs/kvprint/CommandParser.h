@@ -15,7 +15,7 @@ enum class UsageErrorKind {
 };
 using UsageError = host::Failure<UsageErrorKind>;
 
-/// Reads the arguments, the program's name first. Needs no application object.
+/// Parses the arguments, of which the first is the program's name. Needs no application object.
 host::Result<CommandLine, UsageError> parseCommandLine(const QStringList &arguments);
 
 /// Checks whether standard input can be printed if the command names no document: if it is a terminal, the

@@ -9,13 +9,14 @@
 namespace programs {
 inline namespace kvprint {
 
-// What the command line asks for, as the parts of a run take it.
+// The requests of the command line in the types of the rooms that carry them out.
 
-/// The print server to talk to, without a way to ask for passwords.
+/// Returns the requested print server, without handlers for passwords and certificates.
 host::CupsServer cupsServer(const CommandLine &command);
-/// What is wanted of the printer, a mail when the job is over included; PPD texts in the user's language.
+/// Returns what is requested of the printer, including the mail after the job; PPD texts are in the user's
+/// language.
 host::SetupRequest setupRequest(const CommandLine &command);
-/// Where the panel is looked for.
+/// Returns where the panel is loaded from.
 host::PanelSource panelSource(const CommandLine &command);
 
 } // namespace kvprint

@@ -8,14 +8,14 @@
 namespace programs {
 inline namespace kvprint {
 
-/// Where a run of the program writes what it has to say.
+/// The output of a run.
 struct Console {
-    /// Data and results. False when they cannot be written; that has been told then.
+    /// Writes data and results. Returns false if they cannot be written; the error has been reported then.
     std::function<bool(const QString &)> out;
-    /// Messages for people.
+    /// Writes messages for users.
     std::function<void(const QString &)> error;
 
-    /// Writes the message as a line of the program's.
+    /// Writes the message as a line that begins with the program's name.
     void printError(const QString &message) const;
     /// Writes the line that identifies a sent job to scripts. If standard output cannot be written, writes it
     /// to standard error, so that the user does not print again.

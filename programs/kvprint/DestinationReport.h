@@ -6,8 +6,8 @@
 namespace programs {
 inline namespace kvprint {
 
-/// The destinations for people: each one's name at the beginning of a line, with what is known of it on
-/// indented lines below, so that the names alone can be taken out. Empty for none.
+/// Returns the destinations for users: each name at the beginning of a line and its properties on indented
+/// lines below, so that scripts can extract the names. Empty without destinations.
 QString destinationsInPlainText(const std::vector<host::Destination> &destinations);
 
 /// The destinations for programs, a JSON array (UTF-8, with a line end) of one object each:

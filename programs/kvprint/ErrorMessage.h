@@ -8,7 +8,7 @@
 namespace programs {
 inline namespace kvprint {
 
-/// Nothing when a value was good, otherwise what is wrong with it.
+/// The reason why a value is not valid; absent if it is.
 using ErrorMessage = std::optional<QString>;
 
 } // namespace kvprint

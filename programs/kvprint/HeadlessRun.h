@@ -12,8 +12,8 @@
 namespace programs {
 inline namespace kvprint {
 
-/// Printing on a queue without a dialog, or telling what would be printed. The panel works all the same,
-/// without being seen, so that its rules hold for what the command line asks for.
+/// Prints on a queue without a dialog, or reports what would be printed. The panel is loaded without being
+/// shown, so that its rules apply to the options of the command line.
 class HeadlessRun {
 public:
     HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
@@ -22,14 +22,14 @@ public:
     ExitStatus run();
 
 private:
-    /// Waits for the server; null, with the reason told, when there is nothing to print on.
+    /// Waits for the server. Returns null and reports the reason if there is no printer to print on.
     host::PrinterSetup *waitForSetup(host::QueueSession &session, host::SetupKeeper &keeper);
     bool canPrintDocument() const;
     std::optional<host::JobRequest> makeJobRequest(const host::PrinterSetup &setup) const;
-    /// The picture of the dialog that would have been shown, when one is wanted; false when it cannot be
-    /// saved.
+    /// Saves the picture of the dialog, if one is requested. Returns false and reports the error if it
+    /// cannot be saved.
     bool takeScreenshot(host::SetupKeeper &keeper) const;
-    /// What the signal makes of the run; tells it.
+    /// Reports that the signal ended the run, and returns its status.
     ExitStatus endedBy(int signal) const;
     ExitStatus finish(const host::PrinterSetup &setup, const host::Ticket &ticket);
     ExitStatus send(const host::Ticket &ticket);
@@ -38,7 +38,7 @@ private:
     const Console &m_console;
     host::CupsServer m_server;
     std::shared_ptr<const host::LabelDocument> m_document;
-    /// Half a job must not be left on the server, nor files among the system's temporary ones.
+    /// A signal must leave neither an incomplete job on the server nor temporary files.
     SignalWatch m_signals;
 };
 

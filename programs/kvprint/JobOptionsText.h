@@ -8,8 +8,8 @@ inline namespace kvprint {
 
 struct CommandLine;
 
-// What lp's letters say of a job, with lp's meaning. Each function puts the value where it belongs in the
-// command, or answers what is wrong with it and leaves the command as it was.
+// The options of lp for a job, with the same meaning. Each function stores the value in the command, or
+// returns the reason why the value is not valid and leaves the command unchanged.
 
 /// -n: 1 to host::maxCopies.
 ErrorMessage parseCopies(CommandLine &command, const QString &value);
@@ -23,11 +23,11 @@ ErrorMessage parsePages(CommandLine &command, const QString &value);
 ErrorMessage parseDestination(CommandLine &command, const QString &value);
 /// -i: "12" or "queue-12".
 ErrorMessage parseJob(CommandLine &command, const QString &value);
-/// -o: "NAME=VALUE NAME NoNAME", quoted as libcups reads it. Options that mean the same as a letter go where
-/// the letter goes.
+/// -o: "NAME=VALUE NAME NoNAME", quoted as in libcups. Options with the meaning of a letter are stored like
+/// the letter.
 ErrorMessage parseOptions(CommandLine &command, const QString &value);
 
-/// Whether the value of -H is about a job that was sent before: "resume" and "restart".
+/// Returns whether the value of -H requires a job that was sent before: "resume" and "restart".
 bool holdNeedsJob(const QString &hold);
 
 } // namespace kvprint

@@ -9,20 +9,22 @@
 namespace programs {
 inline namespace kvprint {
 
-/// What kvprint without a window does about jobs that killed programs have left on print servers.
+/// Reports, cancels and releases jobs that killed programs have left on print servers, without a window.
 class LeftJobsRun {
 public:
     /// Both are borrowed.
     LeftJobsRun(const CommandLine &command, const Console &console);
 
-    /// Prints every job that is left, and by which options it is canceled or released. Asks no server.
+    /// Prints each job that is left, with the options that cancel or release it. Does not connect to a
+    /// server.
     void tell() const;
-    /// Cancels or releases the job that the command line names; the server asks for passwords.
+    /// Cancels or releases the job that the command line names. The server has the handler for passwords.
     ExitStatus settle(const host::CupsServer &server) const;
 
 private:
     host::JobJournal::Left parseLeft() const;
-    /// The job that is meant; nothing, with the reason printed, when there is none or more than one.
+    /// Returns the job that the command line names; absent, with the reason printed, if there is none or
+    /// more than one.
     std::optional<host::JobRecord> meant() const;
 
     const CommandLine &m_command;

@@ -16,24 +16,25 @@ class VirtualSender;
 namespace programs {
 inline namespace kvprint {
 
-/// One run of kvprint: opens what was asked for, shows the dialog or does without, and prints.
+/// A run of kvprint: opens the documents and the printer, shows the dialog unless it is not requested, and
+/// prints.
 class PrintRun {
 public:
     PrintRun(CommandLine command, Console console);
 
-    /// Everything from the files to the last message. Without a dialog it does not wait for anybody but the
-    /// print server.
+    /// Runs until the last message. Without a dialog, it waits only for the print server.
     ExitStatus run();
 
 private:
     std::unique_ptr<host::LabelDocument> openDocument();
     ExitStatus runVirtual();
     ExitStatus runOnQueue();
-    /// The printer of a PPD file; null, with the reason told, when it cannot be used as asked.
+    /// Returns the printer of a PPD file. Returns null and reports the reason if it cannot be used as
+    /// requested.
     std::unique_ptr<host::PrinterSetup> openPrinter();
     ExitStatus showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSender &sender,
                            const host::PrinterSetup &setup);
-    /// Whether what would be printed without a dialog may be; tells what is wrong with it.
+    /// Returns whether the job may be printed without a dialog. Reports the reason otherwise.
     bool canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const;
     ExitStatus follow(dialog::PrintDialog &dialog, const dialog::QueueSender &sender,
                       const host::CupsServer &server);

@@ -12,7 +12,7 @@
 namespace programs {
 inline namespace kvprint {
 
-/// What kvprint does with a print server alone: telling its destinations, and changing a job that waits.
+/// The tasks that need only a print server: lists its destinations, and changes a waiting job.
 class ServerRun {
 public:
     ServerRun(const CommandLine &command, const Console &console, host::CupsServer server);
@@ -25,7 +25,7 @@ private:
     /// Returns whether the job's printer has all options and choices of the change, or has no PPD and cannot
     /// be checked. Reports those that it does not have.
     bool printerHas(const host::JobChange &change);
-    /// Of the queue that the job is in; null when that has none.
+    /// Returns the PPD of the job's queue; null if the queue has none.
     host::Result<std::shared_ptr<host::PpdFile>, host::CupsError> ppdOfJob(int jobId);
 
     const CommandLine &m_command;

@@ -12,9 +12,10 @@ class QSocketNotifier;
 namespace programs {
 inline namespace kvprint {
 
-/// While it lives, the signals by which people and systems end programs (SIGINT, SIGTERM, SIGHUP) end nothing
-/// but are told, so that the program can leave things in order. The second one of a kind ends the program at
-/// once. A signal that was ignored before stays so, as "nohup" wants it. Not more than one at a time.
+/// During its lifetime, SIGINT, SIGTERM and SIGHUP do not end the program but are reported, so that the
+/// program can cancel its job and remove its files. The second signal of a kind ends the program
+/// immediately. A signal that was ignored before remains ignored, as "nohup" requires. At most one object
+/// may exist at a time.
 class SignalWatch : public QObject {
     Q_OBJECT
 
@@ -22,15 +23,15 @@ public:
     SignalWatch();
     ~SignalWatch() override;
 
-    /// The first signal that came; nothing before. Needs no event loop.
+    /// Returns the first signal that was received; absent before. Needs no event loop.
     std::optional<int> signal();
 
-    /// Whether the watch of this program, if there is one, has caught a signal. For who waits for something
-    /// else on the main thread; takes nothing away from signal().
+    /// Returns whether the program's SignalWatch, if there is one, has received a signal. For code that
+    /// waits on the main thread; does not change signal().
     static bool hasCaught();
 
 Q_SIGNALS:
-    /// The first signal has come.
+    /// Emitted when the first signal is received.
     void caught();
 
 private:
@@ -40,7 +41,7 @@ private:
     };
 
     std::array<Watched, 3> m_watched{{{SIGINT, {}}, {SIGTERM, {}}, {SIGHUP, {}}}};
-    /// What the handlers write; -1 when the system has no pipe to give.
+    /// The end of the pipe to which the handlers write; -1 if the system cannot create a pipe.
     int m_readEnd = -1;
     QSocketNotifier *m_notifier = nullptr;
     std::optional<int> m_signal;

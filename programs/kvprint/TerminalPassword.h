@@ -6,11 +6,11 @@
 namespace programs {
 inline namespace kvprint {
 
-/// Asks for a password, or something else, on the terminal that the program was started from, as lp does;
-/// standard input and output may be something else, for they carry documents and results.
+/// Reads a password or another answer from the controlling terminal, as lp does: standard input and output
+/// may be redirected to documents and results.
 class TerminalPassword {
 public:
-    /// Opens the terminal. There may be none; see isThere().
+    /// Opens the terminal. isThere() returns false if there is none.
     TerminalPassword();
     ~TerminalPassword();
     TerminalPassword(const TerminalPassword &) = delete;
@@ -21,20 +21,19 @@ public:
         Unseen, ///< nothing of what is typed is shown
         Shown,
     };
-    /// Shows the prompt and waits for a line. Nothing when it was ended by Ctrl-C or Ctrl-D instead, or when
-    /// there is no terminal.
+    /// Shows the prompt and waits for a line. Absent if Ctrl-C or Ctrl-D is pressed, or without a terminal.
     std::optional<QString> ask(const QString &prompt, Typing typing = Typing::Unseen) const;
 
 private:
     void say(const QByteArray &text) const;
-    /// The bytes typed behind the prompt until the end of the line.
+    /// Returns the bytes that are typed after the prompt until the end of the line.
     std::optional<QByteArray> readLine(const QByteArray &prompt, Typing shown) const;
 
     int m_terminal = -1;
 };
 
-/// Asks on the terminal for every request, and refuses it where there is none. It waits for the answer and
-/// lets no other events come in meanwhile: for runs without windows.
+/// Returns a handler that asks on the terminal for each request, and rejects it without a terminal. It
+/// processes no events while it waits: for runs without windows.
 host::PasswordHandler askOnTerminal();
 
 } // namespace kvprint

@@ -6,8 +6,8 @@
 namespace programs {
 inline namespace kvprint {
 
-/// Asks on the terminal about the safety of a connection, for every request, and refuses it where there is no
-/// terminal. It waits for the answer and lets no other events come in meanwhile: for runs without windows.
+/// Returns a handler that asks on the terminal for each request whether to trust a connection, and rejects
+/// it without a terminal. It processes no events while it waits: for runs without windows.
 host::TrustHandler askTrustOnTerminal();
 
 } // namespace kvprint
