@@ -16,7 +16,7 @@ namespace {
 
 /// How often results are delivered. Each time, everything that shows lengths is laid out again.
 constexpr std::chrono::milliseconds interval{100};
-/// Pages that one task is given; more than it measures in the interval.
+/// The pages of one task; more than it measures in the interval.
 constexpr std::size_t maxPagesPerTask = 2000;
 
 } // namespace
@@ -36,7 +36,7 @@ std::optional<LabelExtent> BlankMeasurer::extent(int page)
         return m_extents[index];
     m_isRequested[index] = true;
     m_requested.push_back(page);
-    // Mostly many pages are asked for one after the other.
+    // Usually many pages are requested in succession.
     if (!std::exchange(m_isStarted, true))
         QMetaObject::invokeMethod(this, &BlankMeasurer::start, Qt::QueuedConnection);
     return std::nullopt;
@@ -61,7 +61,7 @@ void BlankMeasurer::finish()
         if (isIdle())
             loop.quit();
     });
-    // An event may end the measurer, with the paper for which it measures.
+    // An event may destroy the measurer, together with the paper for which it measures.
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
@@ -100,7 +100,7 @@ void BlankMeasurer::store(const Measured &results)
     for (const auto &[page, extent] : results) {
         const auto index = static_cast<std::size_t>(page);
         m_extents[index] = extent;
-        // Not so for a page that was canceled meanwhile.
+        // Except for a page that was canceled.
         if (m_next < m_requested.size() && m_requested[m_next] == page)
             ++m_next;
     }

@@ -56,7 +56,7 @@ std::optional<InkSpan> inkedColumns(const QImage &image, const QRect &area)
     const QRect inside = area & pixels.rect();
     int first = inside.right() + 1;
     int last = inside.left() - 1;
-    // Row by row, as the image lies in memory; each row only as far as it can widen the span.
+    // Row by row, in the order in memory; each row only as far as it can widen the span.
     for (int row = inside.top(); row <= inside.bottom(); ++row) {
         const QRgb *const line = rowOf(pixels, row);
         first = static_cast<int>(std::find_if(line + inside.left(), line + first, isInk) - line);

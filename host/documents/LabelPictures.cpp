@@ -13,7 +13,7 @@ inline namespace documents {
 
 namespace {
 
-/// Pictures come to the window after that time, and not all at the end.
+/// The interval at which pictures are delivered to the window.
 constexpr std::chrono::milliseconds drawingSlice{30};
 constexpr qint64 maxBytes = 128LL * 1024 * 1024;
 
@@ -44,11 +44,11 @@ void LabelPictures::show(std::vector<int> pages, double pixelsPerMillimetre)
     m_resolution = pixelsPerMillimetre;
     m_missing.clear();
     for (const int page : m_shown) {
-        // Copies of a page lie side by side.
+        // Copies of a page are adjacent.
         if (!isDrawn(page) && std::ranges::find(m_missing, page) == m_missing.end())
             m_missing.push_back(page);
     }
-    // Pages are mostly wanted in the middle of a painting, which another thread would make slower.
+    // Pages are usually requested during painting, which another thread would slow down.
     if (!m_missing.empty())
         QMetaObject::invokeMethod(this, &LabelPictures::start, Qt::QueuedConnection);
 }

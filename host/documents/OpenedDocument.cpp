@@ -24,7 +24,7 @@ Result<QByteArray, DocumentErrorReason> readWhole(QFile &file, qint64 most)
         return DocumentErrorReason{
             DocumentErrorKind::TooLarge,
             OpenedDocumentText::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
-    // No more than there is: reading makes room for all that is asked for.
+    // Limited to the size of the file: reading allocates as much memory as is requested.
     QByteArray content = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
         return DocumentErrorReason{DocumentErrorKind::Unreadable, file.errorString()};

@@ -18,8 +18,8 @@ inline namespace documents {
 
 namespace {
 
-/// Threads that still draw their last page. The program's end waits for them: pdfium must not be taken down
-/// under their feet.
+/// Threads that still draw their last page. The program waits for them before it ends: pdfium must not be
+/// destroyed while it draws.
 class EndingThreads {
 public:
     static EndingThreads &instance()
@@ -58,10 +58,10 @@ private:
 
 } // namespace
 
-/// What both threads see: the tasks that wait, and where deliveries go.
+/// The state that both threads share: the waiting tasks, and the receiver of deliveries.
 class PageThread::Queue {
 public:
-    /// Looked into by the main thread only.
+    /// Accessed by the main thread only.
     using Receiver = std::shared_ptr<const QPointer<QObject>>;
 
     struct Entry {
@@ -84,7 +84,7 @@ public:
         m_changed.notify_one();
     }
 
-    /// The next task; absent when the thread is to end.
+    /// Returns the next task; absent if the thread must end.
     std::optional<Entry> next()
     {
         std::unique_lock lock(m_mutex);
@@ -139,7 +139,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::array<std::deque<Entry>, 4> m_entries;
-    /// Null when the thread is to end.
+    /// Null when the thread must end.
     QObject *m_mailbox;
 };
 
@@ -147,7 +147,7 @@ PageThread::PageThread(const LabelDocument &document)
     : m_source(document.source())
     , m_queue(std::make_shared<Queue>(&m_mailbox))
 {
-    // Made now, it ends before what the document has brought pdfium to make.
+    // Created here, so that it is destroyed before the objects that pdfium creates for the document.
     EndingThreads::instance();
 }
 

@@ -103,7 +103,7 @@ QImage PdfPages::renderTransparent(int page, QSize size) const
 
 std::optional<DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)
 {
-    // Written so that a size that is no number fails too.
+    // Written so that NaN is rejected.
     if (!(size.width() >= 1.0 && size.height() >= 1.0))
         return DocumentErrorReason{DocumentErrorKind::BadPage,
                                    PdfPagesText::tr("page %1 has no area").arg(page + 1)};

@@ -27,7 +27,7 @@ std::optional<Range> parseRange(const QString &text, int pageCount)
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
-    // IPP's way of saying "to the last page", and as good as any larger number.
+    // IPP's number for "to the last page"; larger numbers have the same meaning.
     constexpr qint64 end = std::numeric_limits<int>::max();
     const auto number = [&](int group) {
         return static_cast<int>(qMin(match.captured(group).toLongLong(), end));
@@ -51,7 +51,7 @@ QStringList rangeTexts(const QString &text)
     return text.trimmed().isEmpty() ? QStringList() : text.split(u',');
 }
 
-/// Which pages of a document of so many pages are named.
+/// Returns which pages of a document with this number of pages are selected.
 Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int pageCount, PagesBeyond beyond)
 {
     std::vector<bool> chosen(static_cast<std::size_t>(pageCount), text.trimmed().isEmpty());

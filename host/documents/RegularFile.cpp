@@ -46,7 +46,7 @@ Result<RegularFile, DocumentErrorReason> openRegularFile(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
-    // Asked before opening, since opening alone makes some devices do something.
+    // Checked before opening, since opening some devices has an effect.
     if (const auto problem = checkStatus(::stat(name.constData(), &status), status))
         return *problem;
     // A pipe may have taken the file's place meanwhile; without O_NONBLOCK, opening it would wait.

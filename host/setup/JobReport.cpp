@@ -65,7 +65,7 @@ double hundredths(double points)
     return std::round(points * millimetresPerPoint * 100.0) / 100.0;
 }
 
-/// The documents' paths; standard input has none and stays "-".
+/// Returns the paths of the documents; "-" for standard input.
 QJsonArray documentPaths(const LabelDocument &document)
 {
     QJsonArray documents;
@@ -83,7 +83,7 @@ QJsonObject paperJson(const PpdPaper &paper)
             {"length", hundredths(paper.size.height())}};
 }
 
-/// A list, not an object: it keeps the order in which the choices were made, behind the paper.
+/// A list, not an object: the paper first, then the choices in the order in which they were made.
 QJsonArray choicesJson(const Ticket &ticket)
 {
     QJsonArray choices;

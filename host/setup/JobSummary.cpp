@@ -46,7 +46,7 @@ SummarySection panelSection(const QString &title, const QVariantMap &info)
 {
     SummarySection section{title, {}};
     for (const QString &line : info.value(PDESummaryDisplayOrderKey).toStringList()) {
-        // A line that the PPD gives no name would have no meaning.
+        // A line without a name in the PPD would have no meaning.
         if (!line.isEmpty())
             section.lines.emplace_back(line, info.value(line).toString());
     }

@@ -31,7 +31,7 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
 
     ClaimedPanels panels;
     auto host = std::make_shared<PanelHost>(state);
-    // A panel takes the size it needs while its view is loaded, if the dialog listens.
+    // A panel sets the size of its view while the view is loaded, if the dialog handles the notification.
     host->setPanelViewDidResizeHook([] {});
     panels.session = std::make_unique<PanelSession>(std::move(bundle).value(), std::move(host));
     panels.keywords = panels.session->handledKeywords();

@@ -88,7 +88,7 @@ std::vector<JobChoice> PrinterSetup::choicesNow() const
 std::vector<JobChoice> PrinterSetup::choicesAndRejected() const
 {
     std::vector<JobChoice> all = choicesNow();
-    // Another setup, on another paper or with another description, may be able to do them.
+    // Another setup, with another paper or PPD, may have them.
     for (const ReplacedChoice &each : m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>())
         setJobChoice(all, {each.keyword.toUtf8(), each.choice.toUtf8(), Origin::Panel});
     for (const JobChoice &requestedChoice : m_rejectedChoices) {
@@ -114,7 +114,7 @@ std::optional<QByteArray> PrinterSetup::missingUserPaper() const
 
 std::optional<PpdPaper> PrinterSetup::defaultPaper() const
 {
-    // A free size is marked as such, without its measures, so the options are asked first.
+    // The mark of a custom size does not contain its width and length, so the options are read first.
     const QByteArray *const users = findValue(m_destination.userOptions, paperKeyword);
     if (std::optional<PpdPaper> paper = users ? m_state->ppd().paper(*users) : std::nullopt)
         return paper;
@@ -155,7 +155,7 @@ void PrinterSetup::applyPaper(const SetupRequest &requested)
         rejectUnusableDefault();
         return;
     }
-    // Marked and recorded before there is a panel, since a panel looks at the paper from the beginning.
+    // Marked and recorded before the panels are loaded, since a panel reads the paper when it is created.
     m_state->setPaper(panelPaper(*m_paper));
     m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(m_paper->name), nullptr);
 }
@@ -183,7 +183,7 @@ void PrinterSetup::keepRejected(const SetupRequest &requested)
 void PrinterSetup::loadPanels(const PanelSource &source)
 {
     m_panels.emplace(m_state);
-    // Whether a bundle is there and whole does not matter for printers that cannot cut.
+    // For printers without cut options, a missing or broken bundle is not an error.
     if (!CutSettings::areDefinedBy(ppd()))
         return;
     PDEChoices requested;
@@ -196,7 +196,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
     panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
         m_panels->clearReplaced(keyword, choice);
         m_reported.insert(keyword);
-        // A panel that saves what is marked anyway has not chosen anything.
+        // Saving a choice that is already marked is not a choice of the user.
         if (!choice || ppd().markedChoice(keyword) == choice)
             return;
         m_lastChosen = keyword;
@@ -228,7 +228,7 @@ std::vector<ReplacedChoice> PrinterSetup::replaced() const
 {
     std::vector<ReplacedChoice> replaced = m_panels ? m_panels->replaced() : std::vector<ReplacedChoice>();
     const PanelSettings now = replaced.empty() ? PanelSettings() : panelSettings();
-    // The user may have got it on the panel since.
+    // The user may have set it on the panel since.
     std::erase_if(replaced,
                   [&](const ReplacedChoice &each) { return now.choice(each.keyword) != each.saved; });
     return replaced;
@@ -253,7 +253,7 @@ QString PrinterSetup::replacedSentence(const QString &option, const QString &cho
 void PrinterSetup::announcePanel()
 {
     notePanelInput();
-    // Saving the panel is not choosing.
+    // Saving the panel does not count as a choice of the user.
     const QScopedValueRollback keep(m_lastChosen);
     if (!panel())
         return;
@@ -284,8 +284,8 @@ void PrinterSetup::startNoting()
 
 void PrinterSetup::noteCombination()
 {
-    // The user has chosen what the paper's rules had made of these options: the choice moves along to another
-    // setup, although it is what is marked anyway.
+    // The user has chosen what the rules of the paper had set. It counts as the user's choice and is carried
+    // over to other setups, although it was already marked.
     const PanelSettings now = m_panels->settings();
     for (const ReplacedChoice &each : m_panels->replaced()) {
         if (const std::optional<QString> choice = now.choice(each.keyword))
@@ -308,7 +308,7 @@ void PrinterSetup::notePanelInput()
         changed = keyword;
     }
     if (changed) {
-        // A control that is operated next may read its neighbour's mark again, so the marks follow the
+        // A control that is operated next may read the marks of other options, so the marks must follow the
         // controls.
         m_panels->markSettings();
         m_lastChosen = *changed;

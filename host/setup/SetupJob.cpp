@@ -15,14 +15,14 @@ Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const
 
 QString defaultTitle(const LabelDocument &document)
 {
-    // As lp calls what it reads from standard input.
+    // The title that lp gives standard input.
     return document.path() == QStringLiteral("-") ? QStringLiteral("(stdin)")
                                                   : QFileInfo(document.path()).fileName();
 }
 
 QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document)
 {
-    // Labels are drawn as they lie on the tape, their length from left to right.
+    // Labels are drawn as on the tape, with their length from left to right.
     return setup && setup->paper() ? setup->paper()->size : document.pageSize(0).transposed();
 }
 

@@ -41,7 +41,7 @@ bool SetupKeeper::userHasSet() const
     const auto isSame = [](const JobChoice &one, const JobChoice &other) {
         return one.name == other.name && one.value == other.value;
     };
-    // A replaced PPD may bring them in another order.
+    // A new PPD may have them in another order.
     return m_setup && !std::ranges::is_permutation(m_setup->choicesNow(), m_firstChoices, isSame);
 }
 
@@ -77,7 +77,7 @@ void SetupKeeper::changePpd()
         return;
     }
     std::optional<PpdFile> ppd = m_session->takePpd();
-    // "The same as before" brings no PPD, and a failure leaves the one that is there.
+    // A response "not modified" contains no PPD, and after an error the previous PPD remains.
     const bool lostIts = m_session->ppdState() == PpdState::Absent && m_setup && m_setup->hasPpd();
     if (!ppd && !lostIts && (m_setup || !isUsableWithoutPpd()))
         return;
@@ -115,7 +115,7 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
     const bool isAnother = before == m_choicesOfQueues.end();
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), requested, m_panelSource);
     Q_EMIT setupChanged();
-    // Compared with later choices when the panels have been shown: they record what they find.
+    // Saved after the panels are shown, because panels record the choices that they find.
     if (isAnother || !m_hadUsersChoices)
         m_firstChoices = m_setup->choicesNow();
 }

@@ -28,8 +28,8 @@ void SetupPanels::load(const PanelSource &source, const PDEChoices &requested)
     const PDEChoices marked = markedChoices();
     restore();
     panel()->willShow();
-    // A panel that is shown for the first time begins with the PPD's own defaults and marks them. What the
-    // queue, the user and the command line asked for instead is a change made elsewhere.
+    // A panel that is shown for the first time marks the PPD's defaults. Other choices of the queue, the user
+    // and the command line are changes that were made elsewhere.
     bool isChanged = false;
     for (const auto &[keyword, choice] : marked) {
         if (ppd().markedChoice(keyword) == choice)
@@ -92,12 +92,12 @@ void SetupPanels::choose(const QString &keyword, const QString &choice)
     }
     apply({{keyword, choice}});
     if (isSame(keyword, settings().choice(keyword), choice)) {
-        // Nothing was refreshed: the other controls have what the user gave them, whatever is saved of it
-        // now.
+        // Nothing was refreshed: the other controls still have the user's choices, whatever is saved for
+        // them.
         noteReplaced({{keyword, choice}});
         return;
     }
-    // The panel has no control for it: it reads the choice from the PPD.
+    // The panel has no control for the option and reads the choice from the PPD.
     PDEChoices kept = choicesToKeep();
     setChoice(kept, keyword, choice);
     save();
@@ -154,7 +154,7 @@ PDEChoices SetupPanels::requestedChoices(Retry retry)
 {
     PDEChoices wanted = settings().choices;
     for (const ReplacedChoice &each : m_replaced) {
-        // Unless the user has chosen otherwise since.
+        // Unless the user has made another choice since.
         if (retry == Retry::Yes && findChoice(wanted, each.keyword) == each.saved)
             setChoice(wanted, each.keyword, each.choice);
     }
@@ -164,15 +164,15 @@ PDEChoices SetupPanels::requestedChoices(Retry retry)
 void SetupPanels::noteReplaced(const PDEChoices &wanted)
 {
     const PanelSettings now = settings();
-    // What was replaced before stays known while the panel saves the same for it.
+    // A replaced choice remains recorded while the panel saves the same choice for its option.
     std::erase_if(m_replaced,
                   [&](const ReplacedChoice &each) { return now.choice(each.keyword) != each.saved; });
     for (const auto &[keyword, choice] : wanted) {
         const std::optional<QString> saved = now.choice(keyword);
-        // A choice that the PPD does not list was not replaced by a rule: the panel spells it so.
+        // A choice that the PPD does not have was not replaced by a rule; the panel writes it in its own way.
         if (!saved || isSame(keyword, saved, choice) || !ppd().choiceIndex(keyword, *saved))
             continue;
-        // Named anew: a lambda of C++20 may capture it, but clang 14 rejects that of a structured binding.
+        // A copy: clang 14 does not allow lambdas to capture a structured binding.
         const QString &ofKeyword = keyword;
         std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == ofKeyword; });
         m_replaced.push_back({keyword, choice, *saved});
@@ -192,14 +192,14 @@ PDEChoices SetupPanels::markedChoices() const
 bool SetupPanels::isSame(const QString &keyword, const std::optional<QString> &saved,
                          const QString &choice) const
 {
-    // libcups reads choices in any case of letters.
+    // libcups compares choices case-insensitively.
     const std::optional<int> index = saved ? ppd().choiceIndex(keyword, *saved) : std::nullopt;
     return saved == choice || (index && index == ppd().choiceIndex(keyword, choice));
 }
 
 void SetupPanels::save()
 {
-    // A panel that cannot save says so in its settings too, and is asked for those before anything is sent.
+    // An error of saving is also part of settings(), which is checked before the job is sent.
     panel()->saveValuesAndReturnError(nullptr);
 }
 

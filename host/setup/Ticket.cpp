@@ -10,7 +10,7 @@ inline namespace setup {
 
 namespace {
 
-/// The user's default paper, where the printer does not have it.
+/// Returns the user's default paper if the printer does not have it.
 bool isUserPaperMissing(const TicketSource &source)
 {
     const QByteArray *const users = findValue(source.destination.userOptions, paperKeyword);
@@ -25,8 +25,8 @@ std::vector<JobChoice> choicesWithPanel(const TicketSource &source)
     return choices;
 }
 
-/// What is shown is what is sent: a paper that the user's lpoptions name in another way ("media"), or the one
-/// that stands in for a default that the PPD does not have.
+/// The paper that is shown is sent: also one that the user's lpoptions name differently ("media"), and one
+/// that replaces a default that the PPD does not have.
 void sendShownPaper(const Ticket &ticket, std::vector<JobOption> &options)
 {
     const auto paper = std::ranges::find(options, QByteArray(paperKeyword), &JobOption::name);
@@ -43,7 +43,7 @@ JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
     job.destination = source.destination;
     job.title = sendableTitle(source.draft.title);
     Destination known = source.destination;
-    // Another paper stands in for the one that the printer does not have, and is not the user's default.
+    // The paper that replaces the missing one is not the user's default.
     if (isUserPaperMissing(source))
         std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == paperKeyword; });
     job.options = makeJobOptions(known, source.ppd, ticket.choices, source.draft.settings);
@@ -53,7 +53,7 @@ JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
     return job;
 }
 
-/// What the job carries for options of the PPD. The server applies the others to it, as they are marked.
+/// Returns the PPD options that the job contains. The server applies the marked defaults of the others.
 RecordedChoices sentChoices(const JobTicket &job, const PpdFile &ppd)
 {
     RecordedChoices sent;
@@ -95,7 +95,7 @@ CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const Labe
     std::vector<LabelExtent> extents(static_cast<std::size_t>(document.pageCount()));
     for (const int page : ticket.pages.pages)
         extents[static_cast<std::size_t>(page)] = renderer.extent(page, blank);
-    // The label's top leaves the printer first.
+    // The top of the label leaves the printer first.
     std::optional<double> leadingMargin;
     if (ticket.paper && ticket.paper->margins)
         leadingMargin = ticket.paper->margins->top() * millimetresPerPoint;

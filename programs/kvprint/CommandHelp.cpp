@@ -15,10 +15,10 @@ struct CommandHelpText {
 };
 
 constexpr qsizetype lineWidth = 79;
-/// Where the texts beside the options begin.
+/// The column at which the texts of the options begin.
 constexpr qsizetype textColumn = 26;
 
-/// The text in lines, each but the first indented.
+/// Returns the text in lines; all but the first are indented.
 QString wrapped(const QString &text, qsizetype width, qsizetype indent)
 {
     QStringList lines;

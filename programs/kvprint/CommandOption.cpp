@@ -54,12 +54,12 @@ ErrorMessage parseTask(CommandLine &command, const QString &)
 
 ErrorMessage parseTitle(CommandLine &command, const QString &value)
 {
-    // An empty one leaves the name to the document, as without the option.
+    // An empty title stands for the name of the document, as without the option.
     command.title = value.isEmpty() ? std::nullopt : std::optional(value);
     return std::nullopt;
 }
 
-/// The mail tells the job's number; lp is silent then, and so are we.
+/// The mail contains the job's number; the run is quiet then, as with lp.
 ErrorMessage parseMail(CommandLine &command, const QString &)
 {
     command.mail = true;

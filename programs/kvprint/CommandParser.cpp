@@ -28,8 +28,8 @@ bool takesDocuments(Task task)
     return task == Task::Print || task == Task::Summary || task == Task::DryRun;
 }
 
-/// Reads the words one after the other, as lp does: letters may stand together ("-sd tape"), and a value is
-/// the rest of its word or the next word, whatever that looks like.
+/// Parses the arguments in their order, as lp does: letters can be combined ("-sd tape"), and a value is the
+/// rest of its argument or the next argument, even if that begins with a dash.
 class Reader {
 public:
     explicit Reader(QStringList words)
@@ -90,7 +90,7 @@ private:
         }
     }
 
-    /// With the value that came in the same word, if any.
+    /// Applies the option with the value from the same argument, if there is one.
     void use(const CommandOption &option, std::optional<QString> value)
     {
         if (!option.take) {
@@ -147,7 +147,7 @@ private:
         return std::nullopt;
     }
 
-    /// Of the option that asks for the task; empty for printing.
+    /// The spelling of the option that selects the task; empty for printing.
     QString taskSpelling() const
     {
         for (const CommandOption &each : commandOptions()) {

@@ -21,7 +21,7 @@ void Console::printError(const QString &message) const
 
 void Console::tellRequestId(const QString &queue, int jobId, qsizetype documents) const
 {
-    // lp's line, for programs that start lp look for it; not translated.
+    // The line of lp, untranslated: programs that start lp parse it.
     const QString line =
         QStringLiteral("request id is %1-%2 (%3 file(s))\n").arg(queue).arg(jobId).arg(documents);
     if (!out(line))

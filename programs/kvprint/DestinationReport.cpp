@@ -32,7 +32,8 @@ QString stateKeyword(host::QueueState state)
     return QStringLiteral("unknown");
 }
 
-/// One line: a server's texts may hold line ends, and a line of its own would pass for a name.
+/// Returns the text in one line: texts of a server may contain line ends, and each further line would look
+/// like a name.
 QString line(const QString &text)
 {
     return QStringLiteral("    ") + text.simplified() + u'\n';

@@ -25,7 +25,7 @@ struct HeadlessRunText {
     Q_DECLARE_TR_FUNCTIONS(programs::kvprint::HeadlessRun)
 };
 
-/// A printer on the network that has no queue yet announces itself within this time.
+/// The time within which printers on the network that have no queue yet announce themselves.
 constexpr std::chrono::milliseconds discoveryTimeout{1500};
 
 bool isPpdKnown(const host::QueueSession &session)
@@ -33,8 +33,8 @@ bool isPpdKnown(const host::QueueSession &session)
     return session.ppdState() != host::PpdState::Asked && session.ppdState() != host::PpdState::Cached;
 }
 
-/// Runs the event loop until the condition holds or a signal comes, or until the timeout; answers
-/// whether it holds.
+/// Runs the event loop until the condition is true, a signal is received, or the timeout expires. Returns
+/// whether the condition is true.
 bool waitUntil(host::QueueSession &session, SignalWatch &watch, const std::function<bool()> &holds,
                std::optional<std::chrono::milliseconds> timeout = std::nullopt)
 {
@@ -80,7 +80,7 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
         const auto isThere = [&] { return session.chosen().has_value(); };
         if (waitUntil(session, m_signals, isThere, discoveryTimeout)) {
             failure.reset();
-            // The server asks the printer what it can do before there is a PPD.
+            // The server queries the printer's capabilities before it creates the PPD.
             waitUntil(session, m_signals, [&] { return isPpdKnown(session); });
         }
     }
@@ -102,7 +102,7 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
                 .arg(m_server.displayName())};
     if (failure)
         m_console.printError(failure->message);
-    // A PPD that cannot be used says nothing of what would come out.
+    // Without a usable PPD, what would be printed is not known.
     const bool mayGoOn = !failure || (m_command.force && failure->kind == host::CupsErrorKind::Rejected);
     return mayGoOn ? keeper.setup() : nullptr;
 }
@@ -146,13 +146,13 @@ bool HeadlessRun::takeScreenshot(host::SetupKeeper &keeper) const
 
 ExitStatus HeadlessRun::run()
 {
-    // What cannot be printed anywhere needs no server to say so.
+    // A document that cannot be printed is reported without waiting for a server.
     if (!canPrintDocument())
         return ExitStatus::Failed;
     host::QueueSession session(m_server, m_command.destination);
     host::SetupKeeper keeper(session, panelSource(m_command), setupRequest(m_command));
     host::PrinterSetup *const setup = waitForSetup(session, keeper);
-    // From here on the printer stays as it was found, whatever the server tells meanwhile.
+    // From here on the setup stays the same, whatever the server reports.
     QObject::disconnect(&session, nullptr, &keeper, nullptr);
     if (const std::optional<int> signal = m_signals.signal())
         return endedBy(*signal);

@@ -21,14 +21,14 @@ struct JobWordsText {
     Q_DECLARE_TR_FUNCTIONS(programs::kvprint::CommandLine)
 };
 
-/// A word for when a job is printed, and where it may stand.
+/// A keyword for the time at which a job is printed, and the options that allow it.
 struct HoldWord {
     enum Place { Anywhere, LetterOnly, OptionOnly, WithJobOnly };
     const char *word;
     Place place;
 };
 
-// lp's own words and those of RFC 8011, section 5.2.2.
+// The keywords of lp and of RFC 8011, section 5.2.2.
 constexpr HoldWord holdTexts[] = {
     {"hold", HoldWord::LetterOnly},      {"immediate", HoldWord::LetterOnly},
     {"indefinite", HoldWord::Anywhere},  {"no-hold", HoldWord::OptionOnly},
@@ -45,7 +45,7 @@ bool isTime(const QString &value)
            QTime::fromString(value, QStringLiteral("H:mm:ss")).isValid();
 }
 
-/// When to print, from -H or, with fewer words of its own, from the option.
+/// Parses the time from -H, or from the option, which allows fewer keywords.
 ErrorMessage readHold(CommandLine &command, const QString &value, bool isLetter)
 {
     QStringList accepted;
@@ -58,7 +58,7 @@ ErrorMessage readHold(CommandLine &command, const QString &value, bool isLetter)
         return JobWordsText::tr("\"%1\" is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2")
             .arg(value, accepted.join(QStringLiteral(", ")));
     command.settings.hold = value;
-    // Before all others; a priority that is named later counts.
+    // Before all other jobs; a later priority takes precedence.
     if (value == QStringLiteral("immediate"))
         command.settings.priority = 100;
     return std::nullopt;
@@ -74,11 +74,11 @@ ErrorMessage notOneOf(const QString &value, const QString &accepted)
     return JobWordsText::tr("\"%1\" is not possible; it must be one of: %2").arg(value, accepted);
 }
 
-/// A row of words and what they stand for.
+/// The keywords of an option and their values.
 template<typename Meaning>
 using Words = std::initializer_list<std::pair<const char *, Meaning>>;
 
-/// Takes up what the word stands for.
+/// Stores the value of the keyword.
 template<typename Meaning>
 ErrorMessage parseWord(const QString &value, Words<Meaning> words, std::optional<Meaning> &place)
 {
@@ -160,7 +160,7 @@ ErrorMessage parseJobName(CommandLine &command, const QString &value)
     return std::nullopt;
 }
 
-/// What lp says of a file's content. Labels are shown and sent as PDF, and told to the server as that.
+/// The content type of a file for lp. Labels are shown and sent as PDF, and declared to the server as PDF.
 ErrorMessage refuseFormat(CommandLine &, const QString &value)
 {
     if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
@@ -168,7 +168,7 @@ ErrorMessage refuseFormat(CommandLine &, const QString &value)
     return JobWordsText::tr("\"%1\" is not possible; documents are sent as PDF").arg(value);
 }
 
-/// Options that mean the same as a letter or a name of the command line.
+/// Options with the same meaning as a letter or a name of the command line.
 constexpr std::pair<const char *, ErrorMessage (*)(CommandLine &, const QString &)> settingOptions[] = {
     {"copies", parseCopies},
     {"page-ranges", parsePages},
@@ -189,7 +189,7 @@ constexpr std::pair<const char *, ErrorMessage (*)(CommandLine &, const QString 
     {"media", parseMedia},
 };
 
-/// Where a later option takes the place of an earlier one.
+/// Stores the choice; a later option replaces an earlier one.
 void setOption(std::vector<host::JobChoice> &options, const QByteArray &name, const QByteArray &value)
 {
     const auto same = std::find_if(options.begin(), options.end(),

@@ -38,10 +38,10 @@ void askOnTerminalFor(host::CupsServer &server)
     server.askTrust = askTrustOnTerminal();
 }
 
-/// Lets the window appear before anything else is begun, which would take processors and memory from it.
+/// Waits until the window is painted before other work starts that would slow it down.
 void waitForPainting(const QWidget &window)
 {
-    // Some desktops show no window before it is wanted, on another workspace for instance.
+    // Some desktops delay the painting of a window, for instance on another workspace.
     constexpr std::chrono::milliseconds longest{200};
     bool isLate = false;
     QTimer timer;
@@ -119,7 +119,7 @@ ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSen
                                  const host::PrinterSetup &setup)
 {
     dialog.show();
-    // Layout and first painting happen here, so that the picture shows what a person would see.
+    // Layout and first painting happen here, so that the picture is complete.
     QApplication::processEvents();
     if (!takeScreenshot(dialog))
         return ExitStatus::Failed;
@@ -200,7 +200,7 @@ ExitStatus PrintRun::follow(dialog::PrintDialog &dialog, const dialog::QueueSend
             m_console.printError(status->sentences().join(u' '));
             return ExitStatus::Failed;
         }
-        // The window has closed too soon to be read, as after any job that was printed.
+        // The window has closed before the message could be read, as after each printed job.
         if (status->isPurged && status->state == host::JobState::Completed)
             m_console.printError(status->sentences().join(u' '));
         if (status->state == host::JobState::Canceled)

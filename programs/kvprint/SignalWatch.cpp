@@ -43,7 +43,7 @@ SignalWatch::SignalWatch()
     });
     struct sigaction action = {};
     action.sa_handler = passOn;
-    // Who waits for nothing any more can insist.
+    // A second signal ends the program immediately.
     action.sa_flags = static_cast<int>(SA_RESETHAND) | SA_RESTART;
     for (Watched &each : m_watched) {
         sigaction(each.signal, nullptr, &each.before);

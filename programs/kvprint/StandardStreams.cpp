@@ -28,8 +28,8 @@ bool write(std::FILE *stream, const QString &text)
 
 StandardStreams::StandardStreams()
 {
-    // Opened the wrong way round: using a stream that is closed still fails. The lowest number that is free
-    // is taken, hence in this order.
+    // Opened with the opposite access, so that using a closed stream still fails. open() returns the lowest
+    // free number, which determines the order.
     constexpr struct {
         int descriptor;
         int mode;

@@ -14,8 +14,8 @@ inline namespace kvprint {
 
 namespace {
 
-/// While it lives, the terminal shows nothing of what is typed and hands over each key at once; also those
-/// that would end the program and leave the terminal like that.
+/// During its lifetime, the terminal shows no typed characters and delivers each key immediately, including
+/// those that would end the program and leave the terminal in this state.
 class UnseenTyping {
 public:
     explicit UnseenTyping(int terminal)
@@ -36,7 +36,7 @@ public:
     UnseenTyping(const UnseenTyping &) = delete;
     UnseenTyping &operator=(const UnseenTyping &) = delete;
 
-    /// A password is never typed where it can be read.
+    /// A password is not read if the echo cannot be turned off.
     bool works() const { return m_works; }
     bool isKey(char typed, int key) const { return static_cast<cc_t>(typed) == m_usual.c_cc[key]; }
 
@@ -79,7 +79,7 @@ std::optional<QString> TerminalPassword::ask(const QString &prompt, Typing typin
 
 void TerminalPassword::say(const QByteArray &text) const
 {
-    // Who does not see the prompt can answer all the same.
+    // A prompt that cannot be written does not prevent an answer.
     [[maybe_unused]] const ssize_t written =
         ::write(m_terminal, text.constData(), static_cast<std::size_t>(text.size()));
 }
@@ -93,7 +93,7 @@ std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt, T
     // Rewritten from the start of its row after each key.
     const QByteArray row = prompt.mid(prompt.lastIndexOf('\n') + 1);
     while (typing.works()) {
-        // The program's end is asked for by signals too, which may come at any moment.
+        // Signals that end the program may be received at any time.
         constexpr int lookInterval = 100; // milliseconds
         pollfd keys{.fd = m_terminal, .events = POLLIN, .revents = 0};
         const int ready = ::poll(&keys, 1, lookInterval);

@@ -16,7 +16,7 @@ struct TerminalTrustText {
     Q_DECLARE_TR_FUNCTIONS(programs::kvprint::TerminalTrust)
 };
 
-/// Typed in full, so that a wrong key grants nothing; the same in every language.
+/// Must be typed in full, so that a wrong key grants nothing; the same in every language.
 constexpr QLatin1String consent("yes");
 
 QString promptFor(const dialog::TrustText &words)

@@ -27,7 +27,7 @@ bool hasDisplay()
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-/// Whether the arguments ask for the dialog; not when they only make the program tell something.
+/// Returns whether the arguments request the dialog rather than a report.
 bool asksForDialog(const QStringList &arguments)
 {
     const auto command = programs::parseCommandLine(arguments);
@@ -46,8 +46,7 @@ bool chooseScreen(const QStringList &arguments)
 
 QtMessageHandler usualHandler = nullptr;
 
-/// Without a screen Qt tells at every start what its screenless platform lacks, which is no news to
-/// anybody who reads the program's messages.
+/// Suppresses the messages of Qt about features that its offscreen platform does not have.
 void passOnMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const bool knownLack = message.startsWith(QStringLiteral("This plugin does not support ")) ||
@@ -56,8 +55,8 @@ void passOnMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         usualHandler(type, context, message);
 }
 
-/// The readers of Qt report what they pass over in a document, "libpng warning: ...". The program names what
-/// it cannot print in words of its own. QT_LOGGING_RULES still turns the reports on.
+/// Suppresses the warnings of Qt's image readers, "libpng warning: ...". The program reports what it cannot
+/// print itself. QT_LOGGING_RULES can enable the warnings.
 void silenceReaders()
 {
     QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.svg*=false\nqt.pdf*=false"));
@@ -101,10 +100,11 @@ int main(int argc, char **argv)
     silenceReaders();
     // One heap for all threads: they allocate little, and each would keep a heap of its own.
     mallopt(M_ARENA_MAX, 1);
-    // Reading the fonts' configuration takes a tenth of the time until the dialog is there. Qt finds it
-    // done, having been busy with the display meanwhile.
+    // Reading the font configuration takes a tenth of the time until the dialog is shown. It runs beside Qt's
+    // connection to the display.
     const std::jthread fonts = attended ? std::jthread(FcInit) : std::jthread();
-    // Qt would take options of its own out of what are lp's words: "-title" says "-t itle".
+    // Qt would remove its own options from the arguments, which have another meaning for lp: "-title" is
+    // "-t itle".
     argc = 1;
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kvprint"));
