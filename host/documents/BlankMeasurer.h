@@ -15,28 +15,29 @@
 namespace host {
 inline namespace documents {
 
-/// Measures the blank at the ends of labels of one paper, in the background and in the order in which it is
-/// asked for, and keeps what it has measured.
+/// Measures the blank at the ends of labels on one paper, in the background and in the order of the
+/// requests, and caches the results.
 class BlankMeasurer : public QObject {
     Q_OBJECT
 
 public:
-    /// The paper's width and length in points. The thread is borrowed, and is the document's with that many
+    /// The paper's width and length are in points. The thread is borrowed; its document has this number of
     /// pages.
     BlankMeasurer(PageThread &thread, QSizeF paper, int pageCount);
 
-    /// What is measured; a page that is not is measured from the next event on, and measured() follows.
+    /// Returns the extent of the page; absent if it is not measured yet. Then the page is measured after the
+    /// next event, and measured() is emitted.
     std::optional<LabelExtent> extent(int page);
-    /// Measures nothing more of what has been asked for until now.
+    /// Cancels all requests.
     void cancel();
-    /// Whether nothing is left of what has been asked for.
+    /// Returns whether all requested pages are measured.
     bool isIdle() const { return m_requested.empty(); }
-    /// Returns when nothing is left, and runs an event loop without the user's input meanwhile. For runs
-    /// without a window.
+    /// Waits until all requested pages are measured, in an event loop without user input. For runs without a
+    /// window.
     void finish();
 
 Q_SIGNALS:
-    /// Pages have been measured. Some 10 times a second at most, and always at the end.
+    /// Emitted when pages have been measured, at most about 10 times a second, and at the end.
     void measured();
 
 private:
@@ -48,14 +49,14 @@ private:
     PageThread &m_thread;
     QSizeF m_paper;
     std::vector<std::optional<LabelExtent>> m_extents;
-    /// The pages asked for; those before m_next are measured.
+    /// The requested pages; those before m_next are measured.
     std::vector<int> m_requested;
     std::size_t m_next = 0;
-    /// By page, whether it has been asked for and not canceled.
+    /// By page, whether it is requested and not canceled.
     std::vector<bool> m_isRequested;
-    /// A task runs, or is about to.
+    /// Whether a task is running or scheduled.
     bool m_isStarted = false;
-    /// Set for the task that runs when its pages are canceled.
+    /// Tells the running task that its pages are canceled.
     std::shared_ptr<std::atomic<bool>> m_isCanceled = std::make_shared<std::atomic<bool>>(false);
     QElapsedTimer m_sinceSignal;
 };

@@ -25,7 +25,7 @@ enum class DocumentErrorKind {
 };
 using DocumentError = Failure<DocumentErrorKind>;
 
-/// What is wrong with a document, before its name is put to it.
+/// The reason why a document cannot be printed, without the document's name.
 struct DocumentErrorReason {
     DocumentErrorKind kind;
     /// The end of a sentence, without a full stop: "it is empty".
@@ -35,7 +35,8 @@ struct DocumentErrorReason {
 /// The name that stands for standard input.
 inline constexpr QStringView standardInputName = u"-";
 
-/// The error for the user: names the document, a path or "-" for standard input, and the reason.
+/// Returns the error for the user: names the document, by its path or as standard input for "-", and the
+/// reason.
 DocumentError documentError(const DocumentErrorReason &problem, const QString &name);
 
 } // namespace documents

@@ -11,11 +11,11 @@ inline namespace documents {
 /// The kinds of documents that can be printed.
 enum class DocumentKind { Pdf, Png, Jpeg, Svg };
 
-/// How many of a document's first bytes tell its kind. A PDF may begin as late as this.
+/// The number of first bytes that determine the kind of a document. A PDF may begin this late.
 inline constexpr qsizetype documentHeadSize = 1024;
 
-/// The kind, judged by the document's first bytes, since names lie and standard input has none. Svg means
-/// no more than that it looks like XML.
+/// Returns the kind by the document's first bytes; names can be wrong, and standard input has none. Svg
+/// means only that the document looks like XML. Absent for unknown kinds.
 std::optional<DocumentKind> documentKind(const QByteArray &head);
 
 } // namespace documents

@@ -7,13 +7,13 @@
 namespace host {
 inline namespace documents {
 
-/// Lays the document's pages on labels of one paper and draws them as they lie on the tape: the edge that
-/// leaves the printer first on the left, the length of the label from left to right. It keeps nothing, so
-/// each thread has its own, of its own document.
+/// Places the pages of a document on labels of one paper and draws them as on the tape: the edge that leaves
+/// the printer first is on the left, the length of the label runs from left to right. Caches nothing; each
+/// thread has an instance for its own document.
 ///
-/// A page that stands upright while the label lies (or the other way round) is turned, so that its left
-/// edge comes first; otherwise its top does. A page larger than the label is shrunk to it, a smaller one
-/// stays as large as it is; both are centred.
+/// A portrait page on a landscape label, or the reverse, is rotated, so that its left edge leaves the
+/// printer first; otherwise its top edge does. A page larger than the label is reduced to fit, a smaller one
+/// keeps its size; both are centered.
 class LabelDrawing {
 public:
     /// The paper's width and length in points. The document is borrowed.
@@ -23,22 +23,23 @@ public:
     /// Length along the tape and width across it, in millimetres.
     QSizeF labelSize() const { return m_label; }
     bool isTurned(int page) const;
-    /// How large the page is on the label: 1, or less when it is shrunk.
+    /// Returns the scale of the page on the label: 1, or less if it is reduced.
     double scale(int page) const;
 
-    /// The whole label, white where the page has nothing. Fewer pixels than asked for when the image would
-    /// be too large to hold.
+    /// Returns the whole label on a white background. The resolution is lower than requested if the image
+    /// would be too large.
     QImage draw(int page, double pixelsPerMillimetre) const;
-    /// The label's length and the blank at its ends, as fine as the usual label printer's dots.
+    /// Returns the label's length and the blank at its ends, measured at the resolution of common label
+    /// printers.
     LabelExtent measure(int page) const;
 
 private:
-    /// The page's size on the strip in millimetres, before shrinking: length and width.
+    /// Returns the length and width of the page on the strip in millimetres, before reduction.
     QSizeF pageOnStrip(int page) const;
-    /// Pixels a millimetre for an image that is not too large.
+    /// Returns the pixels per millimetre for an image that is not too large.
     double possibleResolution(double pixelsPerMillimetre) const;
     QSize labelPixels(double pixelsPerMillimetre) const;
-    /// The page's size in pixels, as one reads it.
+    /// Returns the page's size in pixels, in reading orientation.
     QSize pagePixels(int page, double pixelsPerMillimetre) const;
 
     const LabelDocument &m_document;

@@ -4,13 +4,13 @@
 namespace host {
 inline namespace documents {
 
-/// A page of the document as it lies on the tape; lengths along the tape in millimetres.
+/// A page on the tape; lengths along the tape in millimetres.
 struct LabelExtent {
     double length = 0.0;
     /// Blank before the first and after the last mark on the label.
     double leadingBlank = 0.0;
     double trailingBlank = 0.0;
-    /// The label has no mark.
+    /// Whether nothing is printed on the label.
     bool whollyBlank = false;
     /// Whether the blank is known. Until then it counts as 0.
     bool isMeasured = true;

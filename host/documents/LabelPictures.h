@@ -13,8 +13,8 @@
 namespace host {
 inline namespace documents {
 
-/// The pictures of the labels that one widget shows, drawn in the background. It keeps pictures that are out
-/// of sight, too, as long as they need little memory.
+/// The pictures of the labels that a widget shows, drawn in the background. Also caches pictures that are no
+/// longer visible, within a limit of memory.
 class LabelPictures : public QObject {
     Q_OBJECT
 
@@ -24,17 +24,17 @@ public:
 
     QSizeF paper() const { return m_paper; }
 
-    /// Sets the pages in sight and the pixels a millimetre. What was waiting and is out of sight is not drawn
-    /// any more, apart from the few pages that the thread has in work.
+    /// Sets the visible pages and the pixels per millimetre. Waiting pages that are no longer visible are
+    /// not drawn, except for the few that the thread is drawing.
     void show(std::vector<int> pages, double pixelsPerMillimetre);
-    /// The whole label, white where the page has nothing; null while it is not drawn. While it is drawn with
-    /// other pixels, the picture is the one with the old ones.
+    /// Returns the whole label on a white background; null until it is drawn. While it is drawn at another
+    /// resolution, returns the previous picture.
     const QImage *picture(int page) const;
-    /// Whether all pages in sight are drawn.
+    /// Returns whether all visible pages are drawn.
     bool isComplete() const { return m_missing.empty(); }
 
 Q_SIGNALS:
-    /// Pages in sight have been drawn.
+    /// Emitted when visible pages have been drawn.
     void drawn();
 
 private:

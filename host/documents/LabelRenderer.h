@@ -16,40 +16,41 @@ class BlankMeasurer;
 class LabelPictures;
 class PageThread;
 
-/// Whether only a label's length is asked for, or also the blank at its ends, which takes a drawing.
+/// Whether only the length of a label is requested, or also the blank at its ends, which requires drawing
+/// it.
 enum class MeasureBlank { No, Yes };
 
-/// The labels of a document on one paper: their lengths and pictures. With a page thread, as windows have it,
-/// blank is measured and pictures for the screen are drawn in the background; without one, at once.
+/// The labels of a document on one paper: their lengths and pictures. With a page thread, as in windows,
+/// blank is measured and pictures for the screen are drawn in the background; without one, immediately.
 class LabelRenderer {
 public:
     /// The paper's width and length in points. The document is borrowed.
     LabelRenderer(const LabelDocument &document, QSizeF paper);
-    /// The thread is borrowed and is the document's.
+    /// The thread is borrowed and belongs to the document.
     LabelRenderer(const LabelDocument &document, QSizeF paper, PageThread &thread);
     ~LabelRenderer();
 
     QSizeF paper() const { return m_drawing.paper(); }
     /// Length along the tape and width across it, in millimetres.
     QSizeF labelSize() const { return m_drawing.labelSize(); }
-    /// Whether the page is too large for the label. With a page thread, false for a page whose size is not
-    /// read yet; it is when its picture is there.
+    /// Returns whether the page is larger than the label. With a page thread, false for a page whose size is
+    /// not read yet; the size is known once its picture is drawn.
     bool shrinks(int page) const;
     /// The direction on the strip in which the page's lines of text run, for mirroring.
     Qt::Orientation readingDirection(int page) const
     {
         return m_drawing.isTurned(page) ? Qt::Horizontal : Qt::Vertical;
     }
-    /// With a page thread, a page whose blank is asked for and not known is not measured yet in the answer;
-    /// it is measured in the background, and measurer() reports it.
+    /// Returns the extent of the page. With a page thread, a blank that is not known yet is 0 (isMeasured is
+    /// false) and is measured in the background; measurer() reports it.
     LabelExtent extent(int page, MeasureBlank blank) const;
-    /// Null without a page thread.
+    /// The background measurer; null without a page thread.
     BlankMeasurer *measurer() const { return m_measurer.get(); }
 
-    /// The whole label, white where the page has nothing, drawn at once. Fewer pixels than asked for when the
-    /// image would be too large to hold. The images drawn last are kept.
+    /// Draws the whole label on a white background immediately. The resolution is lower than requested if
+    /// the image would be too large. Caches the last images.
     QImage render(int page, double pixelsPerMillimetre) const;
-    /// Pictures for a widget, drawn in the background; null without a page thread.
+    /// Returns pictures for a widget, drawn in the background; null without a page thread.
     std::unique_ptr<LabelPictures> makePictures() const;
 
 private:

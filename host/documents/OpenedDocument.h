@@ -11,29 +11,29 @@
 namespace host {
 inline namespace documents {
 
-/// One of the documents that were named: its pages, and the PDF that is sent. A PDF by name is sent as it
-/// is; everything else becomes a temporary PDF that is gone with the object, so that what is shown is what is
-/// printed, whatever the print server makes of images.
+/// An open document: its pages, and the PDF that is sent. A PDF file is sent unchanged; everything else is
+/// converted to a temporary PDF, which is removed with the object, so that the printed page is the one that
+/// is shown, whatever filters for images the print server has.
 class OpenedDocument {
 public:
-    /// The most bytes of an image or SVG that are read: more than the largest image has that is printed.
+    /// The max numbers of bytes of an image and an SVG: more than the largest image that can be printed.
     static constexpr qint64 maxImageBytes = 256LL * 1024 * 1024;
     static constexpr qint64 maxSvgBytes = 64LL * 1024 * 1024;
 
-    /// Opens a file, or standard input by its name "-", which is read to its end.
+    /// Opens a file, or for "-" standard input, which is read to its end.
     static Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> open(const QString &name);
-    /// The pages of another instance, for another thread. Has no path, so it is not for printing.
+    /// Returns the pages of another instance for another thread. Has no path, so it cannot be printed.
     static std::unique_ptr<OpenedDocument> openAgain(PdfSource source);
-    /// The source for openAgain(), without a file when the file at the path is another one now.
+    /// Returns the source for openAgain(), without a file if the file at the path has been replaced.
     PdfSource source() const;
 
     const PdfPages &pages() const { return *m_pages; }
     /// The path of the PDF to send.
     const QString &path() const { return m_path; }
-    /// In which state it was read.
+    /// The state of the file when it was read.
     const FileStamp &stamp() const { return m_stamp; }
-    /// Checks what opening leaves out: the pages beyond the first hundreds, and whether the file at the path
-    /// is still the one that was opened.
+    /// Checks what open() skips: the pages after the first hundreds, and whether the file at the path has
+    /// changed. Absent if the document can be printed.
     std::optional<DocumentErrorReason> checkForPrinting() const;
 
 private:

@@ -9,8 +9,8 @@
 namespace host {
 inline namespace documents {
 
-/// Reads the sizes of a document's pages in the background, so that LabelDocument::checkForPrinting() has
-/// nothing left to read. It reads when nothing else is to be drawn or measured, until a job waits for it.
+/// Reads the sizes of a document's pages in the background, so that LabelDocument::checkForPrinting() does
+/// not need to. Reads while nothing else must be drawn or measured, until a job waits for it.
 class PageCheck : public QObject {
     Q_OBJECT
 
@@ -18,9 +18,9 @@ public:
     /// Document and thread are borrowed and belong together.
     PageCheck(const LabelDocument &document, PageThread &thread);
 
-    /// Begins, once.
+    /// Starts reading. Further calls do nothing.
     void start();
-    /// Reads before anything is measured from now on: a job waits for the sizes and for nothing else.
+    /// Gives reading precedence over measuring: a job waits for the sizes.
     void hurry();
     bool isDone() const { return m_next == m_document.pageCount(); }
 

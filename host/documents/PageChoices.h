@@ -8,9 +8,9 @@
 namespace host {
 inline namespace documents {
 
-/// Which pages come out, how often and in which order.
+/// The pages to print, their copies and their order.
 struct PageChoices {
-    /// The pages to print, counted from 0 through all documents, in order.
+    /// The pages, numbered from 0 through all documents, in ascending order.
     std::vector<int> pages;
     int copies = 1;
     Collate collate = Collate::Yes;

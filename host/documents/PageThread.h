@@ -13,30 +13,31 @@
 namespace host {
 inline namespace documents {
 
-/// A thread that draws and measures a document's pages with an instance of the document of its own, so that
-/// no event of a window waits for pdfium. Belongs to the main thread. The thread starts with its first task.
+/// A thread that draws and measures the pages of a document with its own instance of the document, so that
+/// windows do not wait for pdfium. Belongs to the main thread. The thread starts with its first task.
 ///
-/// Destroying it interrupts the task at its next page and drops what is not delivered yet, but does not wait:
-/// a page may take long. Tasks therefore hold values only.
+/// The destructor interrupts the task at its next page and discards results that are not delivered yet. It
+/// does not wait, since drawing a page may take long; tasks must therefore hold values only.
 class PageThread {
 public:
-    /// What the main thread runs with a task's results.
+    /// The function that delivers a task's results on the main thread.
     using Delivery = std::function<void()>;
-    /// Whether the task should return what it has: something more urgent waits, or the thread ends. To be
-    /// asked after each page.
+    /// Returns whether the task should return its results so far, because a more urgent task waits or the
+    /// thread ends. Tasks call it after each page.
     using ShouldPause = std::function<bool()>;
     using Task = std::function<Delivery(const LabelDocument &document, const ShouldPause &shouldPause)>;
-    /// Tasks run by urgency, and in order. A job that is to be printed waits for what is Awaited.
+    /// Tasks run by urgency, and within it in order. A job that is about to be printed waits for Awaited
+    /// tasks.
     enum class Urgency { Shown, Awaited, Measured, Checked };
 
-    /// Opens the document's files once more.
+    /// Opens the document's files again.
     explicit PageThread(const LabelDocument &document);
     ~PageThread();
     PageThread(const PageThread &) = delete;
     PageThread &operator=(const PageThread &) = delete;
 
-    /// Runs the task on the thread, and afterwards its delivery on the main thread, unless the receiver has
-    /// ended by then.
+    /// Runs the task on the thread, and then its delivery on the main thread, unless the receiver is
+    /// destroyed before.
     void run(Urgency urgency, QObject *receiver, Task task);
 
 private:

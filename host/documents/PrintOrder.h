@@ -19,50 +19,49 @@ enum class PageRangeErrorKind {
 };
 using PageRangeError = Failure<PageRangeErrorKind>;
 
-/// Whether copies come out label by label (1 1 2 2) or set by set (1 2 1 2).
+/// Whether copies are printed label by label (1 1 2 2) or set by set (1 2 1 2).
 enum class Collate { No, Yes };
 
-/// Which of the chosen pages are printed, by their numbers.
+/// Which of the selected pages are printed, by their numbers.
 enum class PageSet { All, Odd, Even };
 
-/// What becomes of named pages that no document has. People are told of them; what a queue or lpoptions name
-/// for all documents is left out, as print servers do it.
+/// How pages beyond the end of all documents are handled. They are an error if the user names them, and are
+/// skipped if they come from defaults of a queue or of lpoptions, as print servers do.
 enum class PagesBeyond { Reject, Skip };
 
-/// Which page comes out first. People whose tape is wound up want the last one.
+/// The output order (IPP "outputorder"). Reverse suits tape that is wound up as it is printed.
 enum class PageOrder { Normal, Reverse };
 
-/// The largest number of copies of one job.
+/// The max number of copies of a job.
 inline constexpr int maxCopies = 9999;
-/// The largest number of labels of one job: some kilometres of tape.
+/// The max number of labels of a job: some kilometres of tape.
 inline constexpr int maxLabels = 100'000;
 
-/// The pages that a text such as "1-3, 5, 8-" names, of documents with so many pages each, which are printed
-/// one after the other. The text applies to every document by itself, as lp's -P does: "1" is the first page
-/// of each. Pages in the text count from 1 and "8-" goes on to the last, as does "8-2147483647". A blank text
-/// names all pages. A page that no document has is an error, unless such pages are to be left out; so is a
-/// text that leaves no page. The answer counts from 0 through all documents, each page once and in order, and
-/// of the pages only those of the set.
+/// Returns the pages that a text such as "1-3, 5, 8-" selects from documents with these page counts, which
+/// are printed one after the other. The text applies to each document separately, as lp's -P: "1" is the
+/// first page of each. Pages in the text are numbered from 1; "8-" and "8-2147483647" extend to the last
+/// page. A blank text selects all pages. A page that no document has is an error, unless such pages are
+/// skipped; so is a text that selects no page. The result numbers pages from 0 through all documents, each
+/// page once and in ascending order, and contains only pages of the set.
 Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
                                                          const std::vector<int> &pageCounts,
                                                          PageSet set = PageSet::All,
                                                          PagesBeyond beyond = PagesBeyond::Reject);
 
-/// The same pages as IPP wants them (RFC 8011, 5.2.7): in ascending order, no page twice. "5,1-3,2" is
-/// "1-3,5". Empty for all pages; a text that checkPageRanges() rejects is given back as it is, without
-/// blanks.
+/// Returns the same pages as IPP requires (RFC 8011, 5.2.7): in ascending order, each page once. "5,1-3,2"
+/// becomes "1-3,5". Empty for all pages. A text that checkPageRanges() rejects is returned without blanks
+/// and otherwise unchanged.
 QString canonicalPageRanges(const QString &text);
 
-/// What is wrong with such a text whatever the document; nothing when some document has the pages.
+/// Returns the error of a text that is invalid for every document; absent if a document can have the pages.
 std::optional<PageRangeError> checkPageRanges(const QString &text);
 
-/// The pages, counted through documents of so many pages each and in order, as one list for each document.
+/// Returns the pages, numbered through documents with these page counts, as one list for each document.
 std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
                                               const std::vector<int> &pageCounts);
 
-/// The pages in the order in which they are printed. Copies are made of each document by itself, as a print
-/// server makes them: all copies of the first document come before the second, whatever the order of the
-/// pages.
+/// Returns the pages in the order in which they are printed. Each document is copied separately, as by a
+/// print server: all copies of the first document precede the second, whatever the order of the pages.
 std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
                             PageOrder pageOrder = PageOrder::Normal);
 

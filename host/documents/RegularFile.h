@@ -11,8 +11,8 @@
 namespace host {
 inline namespace documents {
 
-/// Which file lies at a path, and in which state: another one put in its place, or other content, makes a
-/// different stamp.
+/// Identifies the file at a path and its state: a replaced file, or different content, has a different
+/// stamp.
 struct FileStamp {
     quint64 device = 0;
     quint64 number = 0;
@@ -29,12 +29,12 @@ struct RegularFile {
     FileStamp stamp;
 };
 
-/// Opens a file. Folders, pipes and devices are rejected, and never waited on.
+/// Opens a file. Folders, pipes and devices are rejected without waiting.
 Result<RegularFile, DocumentErrorReason> openRegularFile(const QString &path);
 
-/// What lies at the path now; nothing when there is nothing.
+/// Returns the stamp of the file at the path; absent if there is none.
 std::optional<FileStamp> fileStamp(const QString &path);
-/// The state of a file that is open.
+/// Returns the stamp of an open file.
 std::optional<FileStamp> fileStamp(int descriptor);
 
 } // namespace documents

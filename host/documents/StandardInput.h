@@ -10,13 +10,14 @@
 namespace host {
 inline namespace documents {
 
-/// The most bytes taken from standard input: 1 GiB, far more than any document of labels has, and a bound
-/// for what a program that never stops writing can fill.
+/// The max number of bytes that are read from standard input: 1 GiB, far more than a document of labels has.
+/// Limits the disk space that a program that writes endlessly can fill.
 inline constexpr qint64 maxInput = 1024LL * 1024 * 1024;
 
-/// An empty file among the system's temporary ones that only this user can read, gone with the object.
+/// Creates an empty file in the system's folder for temporary files, which only this user can read and which
+/// is removed with the object.
 Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> makeTemporaryFile();
-/// Why the temporary file could not be written.
+/// Returns why the temporary file could not be written.
 DocumentErrorReason notStored(const platform::TemporaryFile &file);
 
 /// Reads standard input to its end into a temporary file, and waits while the other program writes. The limit
