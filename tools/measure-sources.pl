@@ -1,11 +1,14 @@
 #!/usr/bin/perl
 # SPDX-License-Identifier: Apache-2.0
-# tools/measure-sources.pl [ROOT]: prints the figures by which the sources are kept in order: files per folder, lines,
+# tools/measure-sources.pl [--undocumented] [ROOT]: prints the figures by which the sources are kept in order: files per folder, lines,
 # medians of headers and sources, lines of functions, and the share of public declarations that are documented.
-# A declaration is documented by a "///" comment above it or above its group, or by "///<" behind it.
+# A declaration is documented by a "///" comment above it or above its group, or by "///<" behind it. Destructors,
+# operators, overrides, and constructors that have only a parent need no comment. With --undocumented, also prints
+# each declaration that has none.
 use strict;
 use warnings;
 
+my $lists_undocumented = @ARGV && $ARGV[0] eq '--undocumented' && shift;
 chdir(shift // '.') or die "cannot open the folder: $!\n";
 my @files = grep { m{^(platform|protocol|panels|host|dialog|programs)/.*\.(h|cpp)$} } split /\n/, `git ls-files`;
 @files or die "there are no sources here\n";
@@ -33,7 +36,7 @@ for my $path (@files) {
     if ($path =~ /\.cpp$/) {
         measure_functions($path, @lines);
     } else {
-        measure_declarations($building, @lines);
+        measure_declarations($building, $path, @lines);
     }
 }
 
@@ -52,9 +55,12 @@ sub measure_functions {
 }
 
 sub measure_declarations {
-    my ($building, @lines) = @_;
+    my ($building, $path, @lines) = @_;
     my ($public, $is_documented, $inside) = (1, 0, 0);
-    for (@lines) {
+    for my $i (0 .. $#lines) {
+        local $_ = $lines[$i];
+        # The body of an inline function.
+        next if (/^\{/ .. /^\}/);
         if (/^\s*(public|protected|private|Q_SIGNALS)\b.*:$/) {
             $public = $1 eq 'public' || $1 eq 'Q_SIGNALS';
             $is_documented = 0;
@@ -64,11 +70,17 @@ sub measure_declarations {
             $is_documented = 0 unless $inside;
         } elsif (/^\};?/) {
             $public = 1;
-        } elsif (/^\s*(#|\/\/|namespace|using|friend|Q_OBJECT|class [\w:]+;|struct [\w:]+;|enum class [\w:]+;|\})/) {
+        } elsif (/^\s*(#|\/\/|(inline )?namespace|using|extern "C" \{|friend|Q_OBJECT|class [\w:]+;|struct [\w:]+;|enum class [\w:]+;|\})/) {
             next;
         } elsif ($public && !$inside && /^\s*[\w~\[]/) {
+            next if /^\s*(virtual )?~|\boperator[ =]|\boverride\b|= (delete|default);|^\s*explicit \w+\(Q(Widget|Object) \*/;
+            next if !/[;{]$/ && ($lines[$i + 1] // '') =~ /\boverride;/;
             $declared{$building}++;
-            $documented{$building}++ if $is_documented || m{///<} || /\boverride\b|= (delete|default);/;
+            if ($is_documented || m{///<}) {
+                $documented{$building}++;
+            } elsif ($lists_undocumented) {
+                print "$path:@{[$i + 1]}: $_";
+            }
         }
         # The rest of a declaration of several lines.
         $inside = !/^\s*(\/\/|#)/ && /[,(]$/ ? 1 : 0;

@@ -74,6 +74,7 @@ private:
     std::optional<Error> m_error;
 };
 
+/// Defined here because it needs the specialization for void.
 template<typename Value, typename Error>
 Result<void, Error> Result<Value, Error>::withoutValue() const
 {

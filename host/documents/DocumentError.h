@@ -8,6 +8,7 @@
 namespace host {
 inline namespace documents {
 
+/// Why a document cannot be printed.
 enum class DocumentErrorKind {
     Missing,     ///< there is no such file, or no document was named
     NotAFile,    ///< a folder, a pipe or a device

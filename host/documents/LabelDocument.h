@@ -51,6 +51,7 @@ public:
     /// and the number of the others.
     QString title() const;
 
+    /// The number of pages of all documents.
     int pageCount() const;
     /// Returns the page counts of the documents, in order.
     std::vector<int> pageCounts() const;
@@ -66,6 +67,7 @@ public:
         ~Source();
         Source(Source &&) noexcept;
 
+        /// The documents, and the source of each one's PDF.
         std::vector<DocumentFile> files;
         std::vector<PdfSource> pdfs;
     };

@@ -19,6 +19,7 @@ public:
     /// The paper's width and length in points. The document is borrowed.
     LabelDrawing(const LabelDocument &document, QSizeF paper);
 
+    /// The paper's width and length in points.
     QSizeF paper() const { return m_paper; }
     /// Length along the tape and width across it, in millimetres.
     QSizeF labelSize() const { return m_label; }

@@ -22,6 +22,7 @@ public:
     /// The paper's width and length in points. Document and thread are borrowed and belong together.
     LabelPictures(const LabelDocument &document, PageThread &thread, QSizeF paper);
 
+    /// The paper's width and length in points.
     QSizeF paper() const { return m_paper; }
 
     /// Sets the visible pages and the pixels per millimetre. Waiting pages that are no longer visible are

@@ -30,6 +30,7 @@ public:
     LabelRenderer(const LabelDocument &document, QSizeF paper, PageThread &thread);
     ~LabelRenderer();
 
+    /// The paper's width and length in points.
     QSizeF paper() const { return m_drawing.paper(); }
     /// Length along the tape and width across it, in millimetres.
     QSizeF labelSize() const { return m_drawing.labelSize(); }

@@ -27,6 +27,7 @@ public:
     /// Returns the source for openAgain(), without a file if the file at the path has been replaced.
     PdfSource source() const;
 
+    /// The pages of the PDF.
     const PdfPages &pages() const { return *m_pages; }
     /// The path of the PDF to send.
     const QString &path() const { return m_path; }

@@ -25,6 +25,7 @@ public:
     bool isDone() const { return m_next == m_document.pageCount(); }
 
 Q_SIGNALS:
+    /// Emitted when all sizes are read.
     void done();
 
 private:

@@ -41,6 +41,7 @@ public:
     /// white.
     static std::unique_ptr<PdfPages> openAgain(PdfSource source);
 
+    /// The number of pages; at least 1.
     int pageCount() const { return m_pdf.pageCount(); }
     /// Returns width and height in points. For a page that cannot be printed, returns a valid size.
     QSizeF pageSize(int page) const;

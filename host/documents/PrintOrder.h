@@ -11,6 +11,7 @@
 namespace host {
 inline namespace documents {
 
+/// Why a text does not select pages.
 enum class PageRangeErrorKind {
     NotUnderstood, ///< something else than numbers and ranges
     OutOfDocument, ///< a page that no document has

@@ -22,6 +22,7 @@ struct SvgSource {
     /// The max number of pixels of all pictures that are embedded in the SVG.
     static constexpr qint64 maxPicturePixels = 16LL * 1024 * 1024;
 
+    /// The SVG as the converter reads it, in UTF-8.
     QByteArray content;
     /// The natural size in px, at 96 px per inch; absent if the SVG states none. Not checked.
     std::optional<QSizeF> size;

@@ -77,6 +77,8 @@ public:
     const RecordedChoices &recorded() const { return m_recorded; }
 
     // The handles that panels receive. They are owned by this object and valid as long as it exists.
+    /// The session, settings and page format of the printing services, as panels read them; settings() is
+    /// null if there are none. Owned by this object.
     PMPrintSession session() { return &m_session; }
     PMPrintSettings settings() { return m_hasSettings ? &m_settings : nullptr; }
     PMPageFormat pageFormat() { return &m_pageFormat; }

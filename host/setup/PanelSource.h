@@ -6,6 +6,7 @@
 namespace host {
 inline namespace setup {
 
+/// Why the panels of a bundle cannot be used.
 enum class PanelErrorKind {
     NoPanel,      ///< no bundle, or one that is of no use here: the dialog goes on without it
     BrokenBundle, ///< the bundle lacks files of its own: printing on would mislead

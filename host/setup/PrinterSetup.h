@@ -36,6 +36,7 @@ public:
     PrinterSetup(const PrinterSetup &) = delete;
     PrinterSetup &operator=(const PrinterSetup &) = delete;
 
+    /// The queue; without a queue, a destination without a name.
     const Destination &destination() const { return m_destination; }
     /// Updates the state of the same queue.
     void setDestination(const Destination &destination) { m_destination = destination; }
@@ -43,6 +44,7 @@ public:
     /// PPD.
     QString printerText() const;
 
+    /// Returns whether the printer has a PPD.
     bool hasPpd() const { return m_state != nullptr; }
     /// Must be called only with a PPD.
     DialogState &state() const { return *m_state; }

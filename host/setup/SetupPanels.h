@@ -27,6 +27,7 @@ struct ReplacedChoice {
 /// in keepChoices().
 class SetupPanels {
 public:
+    /// Creates the object without panels; load() loads them. The state has the PPD.
     explicit SetupPanels(std::shared_ptr<DialogState> state);
     ~SetupPanels();
     SetupPanels(const SetupPanels &) = delete;

@@ -13,6 +13,7 @@ enum class ControlTextColor { Enabled, Disabled };
 class TextColoring {
 public:
     virtual ~TextColoring() = default;
+    /// Sets the color of the text.
     virtual void setTextColor(ControlTextColor color) = 0;
 };
 
@@ -24,6 +25,7 @@ class StaticText : public QLabel, public TextColoring {
 public:
     explicit StaticText(QWidget *parent = nullptr);
 
+    /// The color of the text.
     ControlTextColor textColor() const { return m_color; }
     void setTextColor(ControlTextColor color) override;
 

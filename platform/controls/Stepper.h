@@ -24,6 +24,7 @@ class Stepper : public QWidget {
 public:
     explicit Stepper(QWidget *parent = nullptr);
 
+    /// The value.
     std::int32_t value() const { return m_value; }
 
     /// Sets the value, limited to minimum and maximum. Emits no signal, because the program and not the user

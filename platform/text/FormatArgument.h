@@ -112,12 +112,14 @@ public:
     {
     }
 
+    /// The object of a smart pointer, as above.
     template<typename Type>
     FormatArgument(const std::shared_ptr<Type> &object)
         : FormatArgument(static_cast<const Type *>(object.get()))
     {
     }
 
+    /// The object of a smart pointer, as above.
     template<typename Type>
     FormatArgument(const std::unique_ptr<Type> &object)
         : FormatArgument(static_cast<const Type *>(object.get()))

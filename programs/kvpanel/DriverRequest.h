@@ -13,10 +13,12 @@
 /// A request that cannot be carried out, with the sentence that says why.
 class RequestError : public std::runtime_error {
 public:
+    /// Creates an error with one sentence for the user.
     explicit RequestError(const QString &reason)
         : std::runtime_error(reason.toStdString())
     {
     }
+    /// The sentence.
     QString reason() const { return QString::fromUtf8(what()); }
 };
 
@@ -24,10 +26,13 @@ public:
 /// RequestError that names the member.
 class DriverRequest {
 public:
+    /// Creates a request from its members. The context precedes the names of members in error messages.
     explicit DriverRequest(QJsonObject members, QString context = QString());
 
+    /// Returns whether the request has the member.
     bool has(const char *name) const;
 
+    /// Returns a text; the second function returns the default if the member is missing.
     QString text(const char *name) const;
     QString text(const char *name, const QString &whenMissing) const;
     /// A text that the system takes for a path as a whole, without U+0000.
@@ -44,6 +49,7 @@ public:
     /// The object member's own members, or nothing for null.
     std::optional<DriverRequest> objectOrNull(const char *name) const;
 
+    /// All members.
     const QJsonObject &members() const { return m_members; }
 
     /// The value as a whole number of 32 bits; nothing when it is anything else.

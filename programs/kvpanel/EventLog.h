@@ -11,9 +11,11 @@ class EventLog : public QObject {
     Q_OBJECT
 
 public:
+    /// Starts to observe alerts, beeps and notifications.
     EventLog();
     ~EventLog() override;
 
+    /// Appends an event.
     void add(const QJsonArray &event) { m_events.append(event); }
     /// Everything since the last call, in order.
     QJsonArray take();

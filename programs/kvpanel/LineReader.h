@@ -11,10 +11,10 @@ public:
     /// The longest line that is handed over, in bytes without the line end.
     static constexpr qsizetype maxLineLength = qsizetype(16) << 20;
 
+    /// What was read.
     enum class Result {
         Line,
-        /// The line was longer than maxLineLength; it is passed over as a whole.
-        TooLong,
+        TooLong, ///< the line was longer than maxLineLength and is skipped
         End,
     };
 

@@ -20,6 +20,7 @@ std::optional<platform::Paper> paperMember(const DriverRequest &request);
 struct OpenRequest {
     explicit OpenRequest(const DriverRequest &request);
 
+    /// The members of the request, named as in the protocol.
     QString ppd;
     bool markDefaults = true;
     std::vector<std::pair<QString, QString>> marks;

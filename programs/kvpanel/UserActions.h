@@ -13,6 +13,7 @@ class QWidget;
 /// action is forced: its signal is then sent as if the event had come through.
 namespace user_actions {
 
+/// Whether controls that a user cannot reach are operated, too.
 enum class Force : bool { No, Yes };
 
 /// Clicks the check box of that name.

@@ -24,6 +24,7 @@ enum class ExitStatus {
     Terminated = 143,
 };
 
+/// Returns the exit status of a run that was ended by the signal.
 inline ExitStatus statusOfSignal(int signal)
 {
     return static_cast<ExitStatus>(128 + signal);
@@ -76,6 +77,7 @@ struct CommandLine {
     /// The server sends the user a mail when the job is completed; then the run is also quiet, as with lp.
     bool mail = false;
 
+    /// The paths of --bundle, --output and --screenshot.
     std::optional<QString> bundle;
     std::optional<QString> output;
     std::optional<QString> screenshot;

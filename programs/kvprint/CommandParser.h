@@ -8,6 +8,7 @@
 namespace programs {
 inline namespace kvprint {
 
+/// Why the program does not run: the arguments are wrong, or request only a message.
 enum class UsageErrorKind {
     HelpRequested,    ///< the message is the help text
     VersionRequested, ///< the message is the version

@@ -16,9 +16,11 @@ inline namespace kvprint {
 /// shown, so that its rules apply to the options of the command line.
 class HeadlessRun {
 public:
+    /// Command and console are borrowed.
     HeadlessRun(const CommandLine &command, const Console &console, host::CupsServer server,
                 std::shared_ptr<const host::LabelDocument> document);
 
+    /// Runs the task and returns the exit status. Errors have been reported.
     ExitStatus run();
 
 private:

@@ -20,6 +20,7 @@ inline namespace kvprint {
 /// prints.
 class PrintRun {
 public:
+    /// Creates a run of the command with its output.
     PrintRun(CommandLine command, Console console);
 
     /// Runs until the last message. Without a dialog, it waits only for the print server.

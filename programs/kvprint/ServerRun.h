@@ -15,8 +15,10 @@ inline namespace kvprint {
 /// The tasks that need only a print server: lists its destinations, and changes a waiting job.
 class ServerRun {
 public:
+    /// Command and console are borrowed.
     ServerRun(const CommandLine &command, const Console &console, host::CupsServer server);
 
+    /// Runs the task and returns the exit status. Errors have been reported.
     ExitStatus run();
 
 private:

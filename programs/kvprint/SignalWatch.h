@@ -20,6 +20,7 @@ class SignalWatch : public QObject {
     Q_OBJECT
 
 public:
+    /// Installs the handlers; the destructor restores the previous ones.
     SignalWatch();
     ~SignalWatch() override;
 

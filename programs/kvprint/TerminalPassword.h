@@ -16,7 +16,9 @@ public:
     TerminalPassword(const TerminalPassword &) = delete;
     TerminalPassword &operator=(const TerminalPassword &) = delete;
 
+    /// Returns whether the program has a terminal.
     bool isThere() const { return m_terminal >= 0; }
+    /// Whether typed characters are shown.
     enum class Typing {
         Unseen, ///< nothing of what is typed is shown
         Shown,

@@ -54,6 +54,7 @@ struct Destination {
     /// if the server does not report it.
     qint64 configured = 0;
 
+    /// The state of the queue; Unknown until the server has reported it.
     QueueState state = QueueState::Unknown;
     /// IPP keywords such as "media-empty-error"; never "none".
     QStringList stateReasons;

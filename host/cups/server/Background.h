@@ -59,6 +59,7 @@ private:
 /// own.
 class Background {
 public:
+    /// Starts no task.
     Background();
     ~Background();
     Background(const Background &) = delete;

@@ -29,6 +29,7 @@ public:
     /// Asks whether to send a password over a connection that is not encrypted.
     static TrustRequest readablePassword(const QString &server);
 
+    /// What the user is asked about.
     Subject subject() const { return m_subject; }
     /// The server's name, as CupsServer::displayName() returns it.
     const QString &server() const { return m_server; }

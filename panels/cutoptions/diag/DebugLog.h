@@ -30,13 +30,14 @@ extern "C" KV_EXPORT void debugLogFd(std::int32_t level, int descriptor, const Q
 
 namespace diag {
 
-// The two writes of debugLog(). The prefix goes out before anything of the message is made, its arguments'
-// descriptions included, so that a crash in one of them leaves a trace.
+/// The two writes of debugLog(). The prefix is written before the message and the descriptions of its
+/// arguments are made, so that a crash in one of them leaves a trace.
 void writeDebugPrefix();
 void writeDebugMessage(const QString &format, std::span<const platform::FormatArgument> arguments);
 
 } // namespace diag
 
+/// Converts the arguments and writes the message, as debugLog() above.
 template<std::convertible_to<platform::FormatArgument>... Arguments>
 void debugLog(std::int32_t level, const QString &format, const Arguments &...arguments)
 {
@@ -47,6 +48,7 @@ void debugLog(std::int32_t level, const QString &format, const Arguments &...arg
         format, std::span<const platform::FormatArgument>(platform::formatArguments(arguments...)));
 }
 
+/// Converts the arguments and writes the message, as debugLogFd() above.
 template<std::convertible_to<platform::FormatArgument>... Arguments>
 void debugLogFd(std::int32_t level, int descriptor, const QString &format, const Arguments &...arguments)
 {

@@ -29,6 +29,7 @@ extern "C" KV_EXPORT void _PDEEpilog(const platform::FormatArgument &object, con
 extern "C" KV_EXPORT void _PDELog(const platform::FormatArgument &object, const QString &format,
                                   std::span<const platform::FormatArgument> arguments);
 
+/// Converts the arguments and writes the message, as _PDEProlog() above.
 template<std::convertible_to<platform::FormatArgument>... Arguments>
 void _PDEProlog(const platform::FormatArgument &object, const QString &format, const Arguments &...arguments)
 {
@@ -36,6 +37,7 @@ void _PDEProlog(const platform::FormatArgument &object, const QString &format, c
                std::span<const platform::FormatArgument>(platform::formatArguments(arguments...)));
 }
 
+/// Converts the arguments and writes the message, as _PDEEpilog() above.
 template<std::convertible_to<platform::FormatArgument>... Arguments>
 void _PDEEpilog(const platform::FormatArgument &object, const QString &format, const Arguments &...arguments)
 {
@@ -43,6 +45,7 @@ void _PDEEpilog(const platform::FormatArgument &object, const QString &format, c
                std::span<const platform::FormatArgument>(platform::formatArguments(arguments...)));
 }
 
+/// Converts the arguments and writes the message, as _PDELog() above.
 template<std::convertible_to<platform::FormatArgument>... Arguments>
 void _PDELog(const platform::FormatArgument &object, const QString &format, const Arguments &...arguments)
 {

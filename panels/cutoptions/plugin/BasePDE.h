@@ -105,6 +105,7 @@ public:
     std::unique_ptr<PDEChoiceList> setDefaultChoices(const ppd_option_t *option, const PDEChoiceList *choices,
                                                      const char *cStrKey, const QString &nStrKey);
 
+    /// The PPD keywords that the panel handles; absent until the panel has determined them.
     void setSupportedOptions(std::optional<QStringList> options) { mSupportedOptions = std::move(options); }
     const std::optional<QStringList> &supportedOptions() const { return mSupportedOptions; }
 

@@ -13,6 +13,7 @@ public:
     using PanelMaker = std::function<std::shared_ptr<PDEPanel>(std::shared_ptr<PDEPluginCallback13_v400_>,
                                                                std::shared_ptr<const platform::Bundle>)>;
 
+    /// Creates the principal object with the function that makes its panels.
     explicit KVLXDZOptions17_2PlugIn13_v400_(PanelMaker makePanel);
 
     /// Whether the system's version is 10.5 or later. Asked of the system once per process.

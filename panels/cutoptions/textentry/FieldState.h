@@ -22,10 +22,10 @@ struct FieldState {
 
     bool operator==(const FieldState &) const = default;
 
+    /// The text, the position of the cursor, and the start and length of the selection, in UTF-16 units.
     QString text;
     int cursor = 0;
-    /// -1 when nothing is selected.
-    int selectionStart = -1;
+    int selectionStart = -1; ///< -1 if nothing is selected
     int selectionLength = 0;
 };
 

@@ -34,6 +34,7 @@ struct FormatterRequest {
     /// be.
     static std::variant<FormatterRequest, QString> read(const QJsonObject &request);
 
+    /// The formatter of the request, and what is tried with it, in order.
     std::unique_ptr<PDEFormatter> formatter;
     std::vector<Trial> trials;
 };

@@ -38,6 +38,7 @@ public:
         std::optional<QString> invalidText;
     };
 
+    /// The names of the notifications about refused edits.
     static inline const QString invalidCharacterNotification = QStringLiteral("InvalidCharacterNotification");
     static inline const QString formatErrorNotification = QStringLiteral("FormatErrorNotification");
 
@@ -62,6 +63,8 @@ public:
     /// Nothing stands for "%@".
     void setFormatString(const std::optional<QString> &format);
 
+    /// The date, the locale of its format, and the object of the notifications. Date and locale can be
+    /// absent.
     std::optional<QDateTime> calendarDate() const { return mDate; }
     void setCalendarDate(const std::optional<QDateTime> &date) { mDate = date; }
     std::optional<QVariantMap> calendarLocale() const { return mLocale; }
@@ -69,6 +72,7 @@ public:
     const NotificationObject &notificationObject() const { return mObject; }
     void setNotificationObject(NotificationObject object) { mObject = std::move(object); }
 
+    /// The characters that are allowed; see textentry::TextStyle.
     std::int32_t textStyle() const { return mTextStyle; }
     void setTextStyle(std::int32_t style) { mTextStyle = style; }
     /// The longest text in bytes of the system encoding; 0 for no limit, and below 0 nothing is short enough.

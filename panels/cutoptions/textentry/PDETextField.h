@@ -13,6 +13,7 @@ class PDETextField13_v400_ : public QLineEdit {
     Q_OBJECT
 
 public:
+    /// The name of the notification that is posted when the field loses the focus.
     static inline const QString resignFirstResponderNotification =
         QStringLiteral("TextFieldResignFirstResponderNotification");
 
