@@ -11,7 +11,7 @@ inline namespace options {
 namespace {
 
 /// More than a user reads; laying out the text of thousands of conflicts would block the dialog.
-constexpr std::size_t maxSentences = 100;
+constexpr std::size_t maxConflicts = 100;
 
 } // namespace
 
@@ -30,9 +30,9 @@ void ConflictBanner::setConflicts(const std::vector<host::Conflict> &conflicts,
                                   const std::optional<host::Remedy> &remedy)
 {
     QStringList sentences;
-    for (std::size_t i = 0; i < std::min(conflicts.size(), maxSentences); ++i)
+    for (std::size_t i = 0; i < std::min(conflicts.size(), maxConflicts); ++i)
         sentences.append(conflicts[i].sentence());
-    if (conflicts.size() > maxSentences)
+    if (conflicts.size() > maxConflicts)
         sentences.append(QStringLiteral("\u2026"));
     m_shownRemedy = remedy;
     setMessage(sentences.join(u'\n'), remedy ? remedy->sentence() : QString());
