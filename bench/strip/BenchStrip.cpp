@@ -19,8 +19,6 @@ namespace {
 using bench::TimedApplication;
 using Duration = TimedApplication::Duration;
 
-constexpr double mm = host::pointsPerMillimetre;
-
 /// Prints nothing.
 class NoSender : public dialog::JobSender {
 public:

@@ -4,6 +4,9 @@
 #include <QByteArray>
 #include <QImage>
 
+/// One pixel of an image without a resolution, in points.
+inline constexpr double pixel = 72.0 / 96.0;
+
 /// An image with four quarters: red, black, white and blue. The resolution is in dots per metre.
 QImage corners(int width, int height, int dotsAcross = 3780, int dotsDown = 3780);
 /// A small image of one colour.

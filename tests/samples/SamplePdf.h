@@ -3,11 +3,16 @@
 
 #include "Sandbox.h"
 
+#include <host/base/Units.h>
+
 #include <QPainter>
 #include <QSizeF>
 
 #include <functional>
 #include <vector>
+
+/// One millimetre in points.
+inline constexpr double mm = host::pointsPerMillimetre;
 
 /// A page of a PDF for a test: its size in points, and a function that draws on it in points from the top
 /// left.

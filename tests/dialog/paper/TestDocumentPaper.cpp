@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // Which paper is for a document's pages.
 #include <dialog/paper/DocumentPaper.h>
-#include <host/base/Units.h>
+#include <tests/samples/SamplePdf.h>
 
 #include <gtest/gtest.h>
 
 TEST(DocumentPaper, OfNearTwinsIsTheExactOne)
 {
-    constexpr double mm = host::pointsPerMillimetre;
     const std::vector<host::PpdPaper> papers = {
         {"Near", QStringLiteral("52 x 75"), QSizeF(52, 75) * mm, std::nullopt},
         {"Exact", QStringLiteral("52.15 x 75"), QSizeF(52.15, 75) * mm, std::nullopt},

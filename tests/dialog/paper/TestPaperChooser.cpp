@@ -6,6 +6,7 @@
 #include <dialog/widgets/LinkButton.h>
 #include <host/base/Units.h>
 #include <tests/samples/OptionsPpd.h>
+#include <tests/samples/SamplePdf.h>
 #include <tests/samples/SamplePpd.h>
 
 #include <QApplication>
@@ -20,8 +21,6 @@ using dialog::LengthField;
 using dialog::PaperChooser;
 
 namespace {
-
-constexpr double mm = host::pointsPerMillimetre;
 
 class PaperChooserTest : public testing::Test {
 protected:

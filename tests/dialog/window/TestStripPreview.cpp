@@ -21,7 +21,6 @@
 
 namespace {
 
-constexpr double mm = host::pointsPerMillimetre;
 constexpr int pageCount = 40;
 
 /// Counts the paintings of a widget.

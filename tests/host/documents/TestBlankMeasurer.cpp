@@ -27,7 +27,6 @@ using host::PageThread;
 
 namespace {
 
-constexpr double mm = host::pointsPerMillimetre;
 constexpr double resolution = 8.0;
 
 /// Pages of many sizes, upright and lying, each with a few boxes of black or grey, or with none.

@@ -20,9 +20,6 @@ using host::LabelDocument;
 
 namespace {
 
-constexpr double pixel = 72.0 / 96.0;
-constexpr double millimetre = 72.0 / 25.4;
-
 /// Points the temporary files of the code under test to a folder of their own.
 class DocumentKinds : public testing::Test {
 protected:
@@ -173,7 +170,7 @@ TEST_F(DocumentKinds, ImagesAreAsLargeAsTheirResolutionSays)
         {"png, 300 dpi",
          encoded(corners(300, 600, 11811, 11811), "png"),
          {72.0 * 300 / 11811 / 0.0254, 144.0 * 300 / 11811 / 0.0254}},
-        {"png, unequal", encoded(corners(200, 200, 4000, 8000), "png"), QSizeF(50, 25) * millimetre},
+        {"png, unequal", encoded(corners(200, 200, 4000, 8000), "png"), QSizeF(50, 25) * mm},
         {"jpeg, 203 dpi", encoded(corners(203, 406, 7992, 7992), "jpeg"), {72, 144}},
     };
     for (const Row &row : rows)
@@ -262,15 +259,15 @@ TEST_F(DocumentKinds, SvgsAreAsLargeAsTheySay)
     const Row rows[] = {
         {R"(width="400" height="200")", QSizeF(400, 200) * pixel},
         {R"(width="400px" height="200px" viewBox="0 0 4 2")", QSizeF(400, 200) * pixel},
-        {R"(width="60mm" height="24mm")", QSizeF(60, 24) * millimetre},
-        {R"(width="6cm" height="2.4cm" viewBox="0 0 600 240")", QSizeF(60, 24) * millimetre},
+        {R"(width="60mm" height="24mm")", QSizeF(60, 24) * mm},
+        {R"(width="6cm" height="2.4cm" viewBox="0 0 600 240")", QSizeF(60, 24) * mm},
         {R"(width="2in" height="72pt")", {144, 72}},
-        {R"(width="12pc" height="80Q")", {144, 20 * millimetre}},
+        {R"(width="12pc" height="80Q")", {144, 20 * mm}},
         {R"(width="1e2" height=" 2e2 ")", QSizeF(100, 200) * pixel},
         {R"(viewBox="10,20 , 300 150")", QSizeF(300, 150) * pixel},
         {R"(width="100%" height="100%" viewBox="0 0 300 150")", QSizeF(300, 150) * pixel},
-        {R"(width="60mm" viewBox="0 0 300 150")", QSizeF(60, 30) * millimetre},
-        {R"(height="60mm" viewBox="0 0 300 150")", QSizeF(120, 60) * millimetre},
+        {R"(width="60mm" viewBox="0 0 300 150")", QSizeF(60, 30) * mm},
+        {R"(height="60mm" viewBox="0 0 300 150")", QSizeF(120, 60) * mm},
         // What it draws: a square of 80.
         {"", QSizeF(80, 80) * pixel},
     };

@@ -21,8 +21,6 @@ using host::LabelDocument;
 
 namespace {
 
-constexpr double pixel = 72.0 / 96.0;
-
 struct Rejected {
     const char *name;
     QByteArray content;

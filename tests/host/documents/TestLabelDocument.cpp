@@ -16,8 +16,6 @@ using host::MeasureBlank;
 
 namespace {
 
-constexpr double mm = host::pointsPerMillimetre;
-
 struct BadDocument {
     const char *name;
     QByteArray content;

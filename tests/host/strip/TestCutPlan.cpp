@@ -74,14 +74,14 @@ std::string describe(const CutSettings &settings, int count)
 }
 
 /// Pages of different lengths, one of them wholly blank.
-const std::vector<LabelExtent> extents = {
+const std::vector<LabelExtent> pageExtents = {
     {60.0, 5.0, 10.0, false}, {42.5, 0.0, 0.0, false}, {30.0, 15.0, 15.0, true}, {80.25, 12.5, 0.25, false}};
 
 std::vector<int> pagesInTurn(int count)
 {
     std::vector<int> pages(static_cast<std::size_t>(count));
     for (std::size_t i = 0; i < pages.size(); ++i)
-        pages[i] = static_cast<int>(i % extents.size());
+        pages[i] = static_cast<int>(i % pageExtents.size());
     return pages;
 }
 
@@ -115,7 +115,7 @@ void checkInvariants(const CutPlan &plan, double margin)
     for (const host::PlannedLabel &label : plan.labels()) {
         EXPECT_GT(label.length, 0.0);
         EXPECT_FALSE(label.end.fullCut && (label.end.halfCut || label.end.cutMark || label.end.held));
-        const LabelExtent &extent = extents[static_cast<std::size_t>(label.page)];
+        const LabelExtent &extent = pageExtents[static_cast<std::size_t>(label.page)];
         const bool trimmed = plan.settings().removeBlank && !extent.whollyBlank;
         const double taken = trimmed ? extent.leadingBlank + extent.trailingBlank : 0.0;
         EXPECT_NEAR(label.length, extent.length - taken, 1e-9);
@@ -146,7 +146,7 @@ TEST(CutPlan, FollowsTheRulesForEverySettingAndCount)
             for (const int count : {1, labelsPerCut, labelsPerCut + 1, 2 * labelsPerCut}) {
                 const CutSettings settings = settingsFromBits(bits, labelsPerCut);
                 SCOPED_TRACE(describe(settings, count));
-                const CutPlan plan = CutPlan::make(settings, pagesInTurn(count), extents, 2.0);
+                const CutPlan plan = CutPlan::make(settings, pagesInTurn(count), pageExtents, 2.0);
                 checkAgainstRules(plan, {settings, count});
                 checkInvariants(plan, 2.0);
                 if (testing::Test::HasFailure())
@@ -190,14 +190,14 @@ TEST(CutPlan, KnownStrips)
         {"more labels a cut than labels", {.automaticCut = true, .labelsPerCut = 9}, 2, ",F"},
     };
     for (const Row &row : rows) {
-        const CutPlan plan = CutPlan::make(row.settings, pagesInTurn(row.count), extents, std::nullopt);
+        const CutPlan plan = CutPlan::make(row.settings, pagesInTurn(row.count), pageExtents, std::nullopt);
         EXPECT_EQ(labelEnds(plan).join(u','), QLatin1String(row.ends)) << row.name;
     }
 }
 
 TEST(CutPlan, OfNothingIsEmpty)
 {
-    const CutPlan plan = CutPlan::make({.automaticCut = true, .chainPrint = true}, {}, extents, 2.0);
+    const CutPlan plan = CutPlan::make({.automaticCut = true, .chainPrint = true}, {}, pageExtents, 2.0);
     EXPECT_TRUE(plan.labels().empty());
     EXPECT_TRUE(plan.pieces().empty());
     EXPECT_FALSE(plan.isEndHeld());
@@ -206,7 +206,7 @@ TEST(CutPlan, OfNothingIsEmpty)
 
 TEST(CutPlan, CountsTapeWithoutAMarginThatThePrinterDoesNotTell)
 {
-    const CutPlan plan = CutPlan::make({}, pagesInTurn(2), extents, std::nullopt);
+    const CutPlan plan = CutPlan::make({}, pagesInTurn(2), pageExtents, std::nullopt);
     EXPECT_DOUBLE_EQ(plan.tapeUsed(), 102.5);
     EXPECT_TRUE(host::cutPlanJson(plan).value(QStringLiteral("leadingMargin")).isNull());
 }
@@ -239,12 +239,12 @@ TEST(CutPlan, SaysInWordsWhatHappens)
     };
     for (const Row &row : rows) {
         const QStringList said =
-            host::cutPlanDescription(CutPlan::make(row.settings, pagesInTurn(4), extents, 2.0));
+            host::cutPlanDescription(CutPlan::make(row.settings, pagesInTurn(4), pageExtents, 2.0));
         EXPECT_EQ(said.contains(QLatin1String(row.sentence)), row.said)
             << row.sentence << " in: " << said.join(u' ').toStdString();
     }
     const CutPlan plan =
-        CutPlan::make({.automaticCut = true, .labelsPerCut = 2}, pagesInTurn(4), extents, 2.0);
+        CutPlan::make({.automaticCut = true, .labelsPerCut = 2}, pagesInTurn(4), pageExtents, 2.0);
     EXPECT_EQ(host::cutPlanFigures(plan), QStringLiteral("Labels: 4 \u00b7 Pieces: 2 \u00b7 Tape: 214.8 mm"));
     EXPECT_EQ(host::lengthText(60.0), QStringLiteral("60 mm"));
     EXPECT_EQ(host::lengthText(59.96), QStringLiteral("60 mm"));
@@ -254,7 +254,7 @@ TEST(CutPlan, SaysInWordsWhatHappens)
 TEST(CutPlan, TellsProgramsTheSame)
 {
     const CutSettings settings{.automaticCut = true, .labelsPerCut = 2, .halfCut = true, .chainPrint = true};
-    const QJsonObject json = host::cutPlanJson(CutPlan::make(settings, pagesInTurn(3), extents, 2.0));
+    const QJsonObject json = host::cutPlanJson(CutPlan::make(settings, pagesInTurn(3), pageExtents, 2.0));
     const QJsonArray labels = json.value(QStringLiteral("labels")).toArray();
     ASSERT_EQ(labels.size(), 3);
     EXPECT_EQ(labels[0].toObject(),

@@ -11,7 +11,6 @@ using host::CutSettings;
 
 namespace {
 
-constexpr double mm = host::pointsPerMillimetre;
 constexpr double pixelsPerMillimetre = 10.0;
 
 /// A strip of labels 60 mm by 24 mm, each with a black box from 10 mm to 20 mm along the tape and from 2 mm

@@ -26,8 +26,6 @@ using host::VirtualPrinter;
 
 namespace {
 
-constexpr double mm = host::pointsPerMillimetre;
-
 class VirtualPrinterTest : public testing::Test {
 protected:
     void SetUp() override

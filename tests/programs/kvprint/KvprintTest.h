@@ -11,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+/// The queue that most tests of the program print to.
+inline const QString tape = QStringLiteral("tape");
+
 /// A real server, the program, and documents to print.
 class KvprintTest : public testing::Test {
 protected:

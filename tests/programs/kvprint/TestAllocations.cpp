@@ -14,7 +14,6 @@ using test_support::RecordedDocument;
 
 namespace {
 
-const QString tape = QStringLiteral("tape");
 constexpr int printedWithoutPanel = 3;
 const char *const sentAllTheSame = "The job was sent all the same";
 

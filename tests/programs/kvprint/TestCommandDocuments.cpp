@@ -22,13 +22,13 @@ QString content(const char *path)
     return QString::fromUtf8(file.readAll());
 }
 
-struct Outcome {
+struct BashOutcome {
     int status;
     QStringList lines;
     QByteArray error;
 };
 
-Outcome bash(const QStringList &arguments, const QString &path = {})
+BashOutcome bash(const QStringList &arguments, const QString &path = {})
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -49,7 +49,7 @@ QStringList offered(const QStringList &words, const QString &path = {})
                        "_kvprint \"$1\" \"${COMP_WORDS[COMP_CWORD]}\" \"${COMP_WORDS[COMP_CWORD-1]}\"; "
                        "printf '%s\\n' \"${COMPREPLY[@]}\"")
             .arg(completion);
-    const Outcome outcome =
+    const BashOutcome outcome =
         bash(QStringList{QStringLiteral("-c"), script, QStringLiteral("bash")} + words, path);
     EXPECT_EQ(outcome.error, QByteArray());
     return outcome.lines;
@@ -115,7 +115,7 @@ TEST(CommandDocuments, ZshCompletesEveryOptionAndNoOther)
 
 TEST(CommandDocuments, BashAcceptsItsCompletion)
 {
-    const Outcome outcome = bash({QStringLiteral("-n"), completion});
+    const BashOutcome outcome = bash({QStringLiteral("-n"), completion});
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
 }
 

@@ -8,8 +8,6 @@
 
 namespace {
 
-const QString tape = QStringLiteral("tape");
-
 class KvprintDefaults : public KvprintTest {
 protected:
     KvprintDefaults() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }

@@ -14,17 +14,17 @@ namespace {
 
 std::vector<Destination> everyKind()
 {
-    Destination tape;
-    tape.queue = QStringLiteral("tape");
-    tape.description = QStringLiteral("Tape printer");
-    tape.location = QStringLiteral("Desk\nby the window");
-    tape.makeAndModel = QStringLiteral("Kvelland LX-900");
-    tape.deviceUri = QStringLiteral("usb://tape");
-    tape.isDefault = true;
-    tape.state = QueueState::Paused;
-    tape.stateReasons = {QStringLiteral("media-empty-error")};
-    tape.stateMessage = QStringLiteral("Lunch");
-    tape.acceptsJobs = false;
+    Destination tapeQueue;
+    tapeQueue.queue = QStringLiteral("tape");
+    tapeQueue.description = QStringLiteral("Tape printer");
+    tapeQueue.location = QStringLiteral("Desk\nby the window");
+    tapeQueue.makeAndModel = QStringLiteral("Kvelland LX-900");
+    tapeQueue.deviceUri = QStringLiteral("usb://tape");
+    tapeQueue.isDefault = true;
+    tapeQueue.state = QueueState::Paused;
+    tapeQueue.stateReasons = {QStringLiteral("media-empty-error")};
+    tapeQueue.stateMessage = QStringLiteral("Lunch");
+    tapeQueue.acceptsJobs = false;
     Destination fine;
     fine.queue = QStringLiteral("tape");
     fine.instance = QStringLiteral("fine");
@@ -37,7 +37,7 @@ std::vector<Destination> everyKind()
     all.state = QueueState::Printing;
     Destination far;
     far.queue = QStringLiteral("far");
-    return {tape, fine, all, far};
+    return {tapeQueue, fine, all, far};
 }
 
 } // namespace

@@ -10,8 +10,6 @@ using test_support::RecordedDocument;
 
 namespace {
 
-const QString tape = QStringLiteral("tape");
-
 QString word(const char *text)
 {
     return QString::fromUtf8(text);

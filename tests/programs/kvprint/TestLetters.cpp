@@ -10,8 +10,6 @@ using test_support::RecordedDocument;
 
 namespace {
 
-const QString tape = QStringLiteral("tape");
-
 QByteArray content(const QString &path)
 {
     QFile file(path);

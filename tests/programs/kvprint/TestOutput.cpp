@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "KvprintTest.h"
 
-namespace {
-
-const QString tape = QStringLiteral("tape");
-
-} // namespace
-
 class KvprintOutput : public KvprintTest {
 protected:
     KvprintOutput() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }

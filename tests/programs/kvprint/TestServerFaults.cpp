@@ -13,8 +13,6 @@ using test_support::FaultProxy;
 
 namespace {
 
-const QString tape = QStringLiteral("tape");
-
 bool isOver(int state)
 {
     return state >= 7;

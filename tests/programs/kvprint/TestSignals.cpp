@@ -12,12 +12,6 @@
 
 using test_support::failureMilliseconds;
 
-namespace {
-
-const QString tape = QStringLiteral("tape");
-
-} // namespace
-
 class KvprintSignals : public KvprintTest {
 protected:
     KvprintSignals()

@@ -14,7 +14,7 @@
 
 namespace {
 
-struct Outcome {
+struct FilesOutcome {
     int status;
     QString out;
     QString error;
@@ -30,7 +30,7 @@ protected:
         output = sandbox.path(QStringLiteral("out"));
     }
 
-    Outcome run(const QStringList &arguments) const
+    FilesOutcome run(const QStringList &arguments) const
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -46,7 +46,7 @@ protected:
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
-    Outcome print(const QStringList &more = {}) const
+    FilesOutcome print(const QStringList &more = {}) const
     {
         return run(QStringList{QStringLiteral("--ppd"), ppd, QStringLiteral("--output"), output, document} +
                    more);
@@ -67,7 +67,7 @@ const QStringList allFiles{QStringLiteral("dialog.png"), QStringLiteral("job.jso
 
 TEST_F(KvprintVirtualPrinter, PrintsAtOnceWithoutADisplay)
 {
-    const Outcome outcome = print();
+    const FilesOutcome outcome = print();
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
     EXPECT_EQ(outcome.error, QString());
     EXPECT_EQ(written(), allFiles);
@@ -87,7 +87,7 @@ TEST_F(KvprintVirtualPrinter, TakesThePaperByItsExactName)
 
 TEST_F(KvprintVirtualPrinter, OnlyTellsWhatWouldBePrinted)
 {
-    const Outcome outcome =
+    const FilesOutcome outcome =
         run({QStringLiteral("--dry-run"), QStringLiteral("--json"), QStringLiteral("--ppd"), ppd, document});
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
     EXPECT_TRUE(QJsonDocument::fromJson(outcome.out.toUtf8()).isArray()) << outcome.out.toStdString();
@@ -99,7 +99,7 @@ TEST_F(KvprintVirtualPrinter, AConflictIsAnErrorUnlessForced)
 {
     ppd = QStringLiteral(KV_SOURCE_DIR "/resources/ppd/kvelland-dz500.ppd");
     const QStringList conflict{QStringLiteral("-o"), QStringLiteral("MediaType=Film PrintPriority=Speed")};
-    const Outcome outcome = print(conflict);
+    const FilesOutcome outcome = print(conflict);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.out, QString());
     for (const char *part : {"Film", "Speed", "exclude each other", "This would help"})
@@ -152,7 +152,7 @@ TEST_F(KvprintVirtualPrinter, BadInputIsNamedAndNothingIsWritten)
         QStringList arguments = row.arguments;
         if (!arguments.contains(outputOption))
             arguments += {outputOption, output};
-        const Outcome outcome = run(arguments);
+        const FilesOutcome outcome = run(arguments);
         const std::string shown = arguments.join(u' ').toStdString() + ": " + outcome.error.toStdString();
         EXPECT_EQ(outcome.status, row.status) << shown;
         EXPECT_TRUE(outcome.error.startsWith(QStringLiteral("kvprint: "))) << shown;
@@ -172,7 +172,7 @@ TEST_F(KvprintVirtualPrinter, GoesOnWithoutAPanelButSaysSo)
         {KV_BINARY_DIR "/tests/bundles/refusing", "does not work on this system"},
     };
     for (const auto &[bundle, reason] : rows) {
-        const Outcome outcome = print({QStringLiteral("--bundle"), QLatin1String(bundle)});
+        const FilesOutcome outcome = print({QStringLiteral("--bundle"), QLatin1String(bundle)});
         EXPECT_EQ(outcome.status, 3) << bundle << ": " << outcome.error.toStdString();
         EXPECT_TRUE(outcome.error.contains(QLatin1String(reason))) << outcome.error.toStdString();
         EXPECT_EQ(written(), allFiles);
@@ -185,7 +185,7 @@ TEST_F(KvprintVirtualPrinter, APrinterWithoutCutOptionsNeedsNoPanel)
     QByteArray text = tapePpd();
     text.truncate(text.indexOf("*OpenUI *KvCutLabel"));
     ppd = sandbox.write(QStringLiteral("plain.ppd"), text);
-    const Outcome outcome = print();
+    const FilesOutcome outcome = print();
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
     EXPECT_FALSE(outcome.out.contains(QStringLiteral("Cut Options"))) << outcome.out.toStdString();
     // Whether and where it cuts is not known, so no figure is given for it.
@@ -195,7 +195,7 @@ TEST_F(KvprintVirtualPrinter, APrinterWithoutCutOptionsNeedsNoPanel)
 
 TEST_F(KvprintVirtualPrinter, WritesAmongTheUsersDataWhenNoFolderIsNamed)
 {
-    const Outcome outcome = run({QStringLiteral("--ppd"), ppd, document});
+    const FilesOutcome outcome = run({QStringLiteral("--ppd"), ppd, document});
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
     const QString folder = outcome.out.trimmed().section(u'\n', -1);
     EXPECT_TRUE(folder.startsWith(qEnvironmentVariable("XDG_DATA_HOME"))) << folder.toStdString();
@@ -212,7 +212,7 @@ TEST_F(KvprintVirtualPrinter, SavesAPictureOfTheDialogWhenAsked)
 TEST_F(KvprintVirtualPrinter, HelpAndVersionNeedNoPrinter)
 {
     EXPECT_EQ(run({QStringLiteral("--help")}).status, 0);
-    const Outcome version = run({QStringLiteral("--version")});
+    const FilesOutcome version = run({QStringLiteral("--version")});
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.out.startsWith(QStringLiteral("kvprint ")));
 }

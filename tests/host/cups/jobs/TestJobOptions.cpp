@@ -29,7 +29,7 @@ PpdFile openPpd(PpdBuilder builder)
     return std::move(ppd).value();
 }
 
-PpdFile tape()
+PpdFile tapePrinter()
 {
     return openPpd(PpdBuilder().options({"KvHalfCut", "KvMirror"}).defaultChoice("KvHalfCut", "ON"));
 }
@@ -58,7 +58,7 @@ QStringList list(std::initializer_list<const char *> texts)
 
 TEST(JobOptions, WithoutAnyChoiceOnlyThePaperIsSent)
 {
-    const PpdFile ppd = tape();
+    const PpdFile ppd = tapePrinter();
     EXPECT_EQ(described(makeJobOptions({}, &ppd, {}, {})),
               list({"KvHalfCut=ON ppd", "KvMirror=OFF ppd", "PageSize=24mm ppd*"}));
 }
@@ -90,7 +90,7 @@ TEST(JobOptions, EveryLayerStandsOverTheOneBelow)
         // Changed and changed back.
         {{}, {}, {{"KvMirror", "ON", Origin::Preset}, {"KvMirror", "OFF", Origin::You}}, "KvMirror=OFF you*"},
     };
-    const PpdFile ppd = tape();
+    const PpdFile ppd = tapePrinter();
     for (const Row &row : rows) {
         Destination destination;
         destination.queueOptions = row.queue;
@@ -104,7 +104,7 @@ TEST(JobOptions, EveryLayerStandsOverTheOneBelow)
 
 TEST(JobOptions, NothingNamesAnotherPaperBesideTheExactOne)
 {
-    const PpdFile ppd = tape();
+    const PpdFile ppd = tapePrinter();
     Destination destination;
     destination.queueOptions = {{"media", "om_24mm_24x60mm"}};
     destination.userOptions = {{"media", "A4"}, {"PageRegion", "36mm"}};
@@ -141,7 +141,7 @@ TEST(JobOptions, TheQueuesOwnPaperStandsOverThePpds)
         {{{"media", "36mm"}}, {{"PageSize", "24mm"}}, "PageSize=24mm user*", "24mm"},
     };
     for (const Row &row : rows) {
-        PpdFile ppd = tape();
+        PpdFile ppd = tapePrinter();
         Destination destination;
         destination.queueOptions = row.queue;
         destination.userOptions = row.user;

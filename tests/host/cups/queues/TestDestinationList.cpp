@@ -35,14 +35,14 @@ QStringList names(const DestinationList &list)
 }
 
 /// The outcome of one request.
-struct Outcome {
+struct RefreshOutcome {
     bool refreshed = false;
     std::optional<host::CupsError> error;
 };
 
-Outcome refresh(DestinationList &list, host::Discovery discovery = host::Discovery::No)
+RefreshOutcome refresh(DestinationList &list, host::Discovery discovery = host::Discovery::No)
 {
-    Outcome outcome;
+    RefreshOutcome outcome;
     QObject context;
     QObject::connect(&list, &DestinationList::refreshed, &context, [&] { outcome.refreshed = true; });
     QObject::connect(&list, &DestinationList::failed, &context,
@@ -215,7 +215,7 @@ TEST_F(DestinationListTest, AServerThatIsNotThereOrSilentIsToldInWords)
     for (const auto &[other, kind, words] : rows) {
         const QString address = *other.address;
         DestinationList list(other);
-        const Outcome outcome = refresh(list);
+        const RefreshOutcome outcome = refresh(list);
         ASSERT_TRUE(outcome.error) << qPrintable(address);
         EXPECT_EQ(outcome.error->kind, kind) << qPrintable(outcome.error->message);
         EXPECT_TRUE(outcome.error->message.contains(QLatin1String(words)))
@@ -258,7 +258,7 @@ TEST_F(DestinationListTest, AnAnswerMayComeInPieces)
     const FaultyServer halting(cupsd->port(), {.gap = 300});
     server.address = halting.address();
     DestinationList list(server);
-    const Outcome outcome = refresh(list);
+    const RefreshOutcome outcome = refresh(list);
     EXPECT_TRUE(outcome.refreshed) << qPrintable(outcome.error->message);
     EXPECT_EQ(list.destinations().size(), 4U);
     EXPECT_EQ(halting.requestCount(), 1);
@@ -308,7 +308,7 @@ TEST_F(DestinationListTest, TheConnectionIsEncryptedWhenAskedFor)
 {
     server.encryption = host::Encryption::Required;
     DestinationList list(server);
-    const Outcome outcome = refresh(list);
+    const RefreshOutcome outcome = refresh(list);
     EXPECT_TRUE(outcome.refreshed) << qPrintable(outcome.error->message);
     EXPECT_TRUE(cupsd->log().contains("Connection now encrypted")) << cupsd->log().toStdString();
 
@@ -328,7 +328,7 @@ TEST_F(DestinationListTest, ARefusedPasswordIsAnError)
         server.askPassword = asks ? host::PasswordHandler([](const auto &request) { request.reject(); })
                                   : host::PasswordHandler();
         DestinationList list(server);
-        const Outcome outcome = refresh(list);
+        const RefreshOutcome outcome = refresh(list);
         ASSERT_TRUE(outcome.error);
         EXPECT_EQ(outcome.error->kind, CupsErrorKind::NotAuthorized) << qPrintable(outcome.error->message);
     }

@@ -29,7 +29,7 @@ namespace {
 const QString tape = QStringLiteral("tape");
 
 /// What a loader reported for one request.
-struct Outcome {
+struct LoadOutcome {
     std::shared_ptr<PpdFile> ppd;
     bool unchanged = false;
     bool absent = false;
@@ -50,12 +50,12 @@ protected:
         cupsd->addQueue(tape, PpdBuilder().allOptions().ppd());
     }
 
-    Outcome load(const QString &queue) const { return load(queue, server); }
-    static Outcome load(const QString &queue, const CupsServer &from)
+    LoadOutcome load(const QString &queue) const { return load(queue, server); }
+    static LoadOutcome load(const QString &queue, const CupsServer &from)
     {
         PpdLoader loader(from);
         loader.cached(queue);
-        Outcome outcome;
+        LoadOutcome outcome;
         QObject::connect(&loader, &PpdLoader::loaded, [&](const QString &name, const auto &ppd) {
             EXPECT_EQ(name, queue);
             outcome.ppd = ppd;
@@ -80,7 +80,7 @@ protected:
 TEST_F(PpdLoaderTest, BringsThePpdOnceAndThenKnowsIt)
 {
     EXPECT_FALSE(PpdLoader(server).cached(tape));
-    const Outcome first = load(tape);
+    const LoadOutcome first = load(tape);
     ASSERT_TRUE(first.ppd);
     EXPECT_TRUE(first.ppd->hasOption(QStringLiteral("KvHalfCut")));
     const std::optional<PpdFile> cached = PpdLoader(server).cached(tape);
@@ -93,7 +93,7 @@ TEST_F(PpdLoaderTest, APpdThatWasReplacedBetweenTwoOpeningsIsSeenEvenWithinTheSa
 {
     ASSERT_TRUE(load(tape).ppd);
     cupsd->addQueue(tape, PpdBuilder().option("KvMirror").ppd());
-    const Outcome second = load(tape);
+    const LoadOutcome second = load(tape);
     ASSERT_TRUE(second.ppd);
     EXPECT_TRUE(second.ppd->hasOption(QStringLiteral("KvMirror")));
     EXPECT_FALSE(second.ppd->hasOption(QStringLiteral("KvHalfCut")));
@@ -102,7 +102,7 @@ TEST_F(PpdLoaderTest, APpdThatWasReplacedBetweenTwoOpeningsIsSeenEvenWithinTheSa
 TEST_F(PpdLoaderTest, AClassHasThePpdOfItsFirstQueue)
 {
     cupsd->addClass(QStringLiteral("all"), {tape});
-    const Outcome outcome = load(QStringLiteral("all"));
+    const LoadOutcome outcome = load(QStringLiteral("all"));
     ASSERT_TRUE(outcome.ppd);
     EXPECT_TRUE(outcome.ppd->hasOption(QStringLiteral("KvHalfCut")));
 }
@@ -123,7 +123,7 @@ TEST_F(PpdLoaderTest, WithoutAServerTheCachedPpdStays)
     ASSERT_TRUE(load(tape).ppd);
     // The cache is stored under the server's name, even after the server has ended.
     cupsd->kill();
-    const Outcome outcome = load(tape);
+    const LoadOutcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable) << qPrintable(outcome.error->message);
     EXPECT_TRUE(PpdLoader(server).cached(tape));
@@ -138,7 +138,7 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
     const CupsServer through = serverAt(breaking.address());
     const host::QueueCache cache(through);
     cache.storePpd(tape, PpdBuilder().allOptions().ppd(), 1);
-    const Outcome outcome = load(tape, through);
+    const LoadOutcome outcome = load(tape, through);
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable);
     EXPECT_EQ(outcome.error->message,
@@ -149,7 +149,7 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
 TEST_F(PpdLoaderTest, APpdMayComeInPieces)
 {
     const FaultyServer halting(cupsd->port(), {.gap = 300});
-    const Outcome outcome = load(tape, serverAt(halting.address()));
+    const LoadOutcome outcome = load(tape, serverAt(halting.address()));
     EXPECT_TRUE(outcome.ppd) << qPrintable(outcome.error->message);
 }
 
@@ -161,7 +161,7 @@ TEST_F(PpdLoaderTest, ADamagedPpdIsToldAndNotKept)
     ASSERT_TRUE(ppd.open(QIODevice::ReadWrite));
     const QByteArray whole = ppd.readAll();
     ASSERT_TRUE(ppd.resize(whole.indexOf("*NickName: \"") + 14));
-    const Outcome outcome = load(tape);
+    const LoadOutcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("incomplete")))
         << qPrintable(outcome.error->message);
@@ -174,7 +174,7 @@ TEST_F(PpdLoaderTest, APpdLargerThanAnyPrintersIsRefusedWithoutFillingTheDisk)
     QFile ppd(file);
     ASSERT_TRUE(ppd.open(QIODevice::Append));
     ASSERT_TRUE(ppd.resize(50 * 1024 * 1024));
-    const Outcome outcome = load(tape);
+    const LoadOutcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("larger than 16 MB")))
         << qPrintable(outcome.error->message);

@@ -16,7 +16,7 @@ using test_support::PpdBuilder;
 
 namespace {
 
-constexpr const char *keyword = "KvAutoCutObjHidden";
+constexpr const char *hidingKeyword = "KvAutoCutObjHidden";
 
 } // namespace
 
@@ -51,8 +51,8 @@ TEST(PDEUtilsMethod13, AnItemIsSupportedWhenItsHiddenSwitchSaysFalse)
             Utils::isSupportedItem(PpdBuilder().attribute("KvSwitch", row.value).open().get(), "KvSwitch"),
             row.supported)
             << row.value;
-    EXPECT_FALSE(Utils::isSupportedItem(PpdBuilder().open().get(), keyword));
-    EXPECT_FALSE(Utils::isSupportedItem(nullptr, keyword));
+    EXPECT_FALSE(Utils::isSupportedItem(PpdBuilder().open().get(), hidingKeyword));
+    EXPECT_FALSE(Utils::isSupportedItem(nullptr, hidingKeyword));
 }
 
 TEST(PDEUtilsMethod13, OptionTextsAndPoints)

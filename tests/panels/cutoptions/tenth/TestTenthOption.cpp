@@ -89,7 +89,6 @@ public:
                     QStringLiteral("-DCMAKE_BUILD_TYPE=Debug"), QStringLiteral("-DCMAKE_CXX_FLAGS_DEBUG=-O0"),
                     QStringLiteral("-DCMAKE_CXX_COMPILER=" KV_COMPILER),
                     QStringLiteral("-DCMAKE_CXX_FLAGS=" KV_COMPILER_FLAGS),
-                    QStringLiteral("-DKV_SANITIZE=" KV_SANITIZE),
                     QStringLiteral("-DKV_EXISTING_BUILD=" KV_BINARY_DIR)}) &&
                run({QStringLiteral("--build"), path(QStringLiteral("build")), QStringLiteral("--target"),
                     QStringLiteral("KVLXDZOptions")});
