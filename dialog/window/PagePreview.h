@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/documents/LabelPictures.h>
-#include <host/documents/LabelRenderer.h>
+#include <host/labels/LabelPictures.h>
+#include <host/labels/LabelRenderer.h>
 
 #include <QWidget>
 

@@ -14,7 +14,7 @@
 #include <dialog/options/ConflictBanner.h>
 #include <dialog/options/ConflictQuestion.h>
 #include <dialog/widgets/FittedLabel.h>
-#include <host/documents/BlankMeasurer.h>
+#include <host/labels/BlankMeasurer.h>
 #include <host/strip/CutPlanText.h>
 
 #include <QDialogButtonBox>

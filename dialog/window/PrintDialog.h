@@ -3,8 +3,8 @@
 
 #include <dialog/job/JobSender.h>
 #include <dialog/job/SummaryPage.h>
-#include <host/documents/PageCheck.h>
-#include <host/documents/PageThread.h>
+#include <host/labels/PageCheck.h>
+#include <host/labels/PageThread.h>
 #include <host/setup/SetupKeeper.h>
 
 #include <QDialog>

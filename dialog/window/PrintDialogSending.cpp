@@ -8,7 +8,7 @@
 #include <dialog/job/SendBar.h>
 #include <dialog/options/ConflictBanner.h>
 #include <dialog/options/ConflictQuestion.h>
-#include <host/documents/BlankMeasurer.h>
+#include <host/labels/BlankMeasurer.h>
 
 #include <QDialogButtonBox>
 #include <QPushButton>

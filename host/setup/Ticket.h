@@ -2,8 +2,8 @@
 #pragma once
 
 #include <host/cups/jobs/JobTicket.h>
-#include <host/documents/LabelRenderer.h>
 #include <host/documents/PageChoices.h>
+#include <host/labels/LabelRenderer.h>
 #include <host/panels/PanelSettings.h>
 #include <host/printer/Constraints.h>
 #include <host/strip/CutPlan.h>

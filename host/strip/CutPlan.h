@@ -3,7 +3,7 @@
 
 #include "CutSettings.h"
 
-#include <host/documents/LabelExtent.h>
+#include <host/labels/LabelExtent.h>
 
 #include <optional>
 #include <span>

@@ -3,8 +3,8 @@
 
 #include "StripLayout.h"
 
-#include <host/documents/LabelPictures.h>
-#include <host/documents/LabelRenderer.h>
+#include <host/labels/LabelPictures.h>
+#include <host/labels/LabelRenderer.h>
 
 #include <QColor>
 

@@ -3,7 +3,7 @@
 
 #include "CutPlan.h"
 
-#include <host/documents/LabelRenderer.h>
+#include <host/labels/LabelRenderer.h>
 
 class QIODevice;
 

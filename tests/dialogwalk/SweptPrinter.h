@@ -4,7 +4,7 @@
 #include "PanelBoxes.h"
 #include "SampleLabels.h"
 
-#include <host/documents/LabelRenderer.h>
+#include <host/labels/LabelRenderer.h>
 #include <host/setup/SetupJob.h>
 
 #include <map>

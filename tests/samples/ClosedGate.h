@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/documents/PageThread.h>
+#include <host/labels/PageThread.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -4,7 +4,7 @@
 #include <dialog/window/Screenshot.h>
 #include <dialog/window/StripPreview.h>
 #include <host/base/Units.h>
-#include <host/documents/BlankMeasurer.h>
+#include <host/labels/BlankMeasurer.h>
 #include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
 #include <tests/samples/SamplePdf.h>

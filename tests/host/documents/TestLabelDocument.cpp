@@ -2,7 +2,7 @@
 
 #include <host/base/Units.h>
 #include <host/documents/LabelDocument.h>
-#include <host/documents/LabelRenderer.h>
+#include <host/labels/LabelRenderer.h>
 #include <tests/samples/SamplePdf.h>
 
 #include <gtest/gtest.h>

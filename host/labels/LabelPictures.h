@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "LabelDocument.h"
 #include "PageThread.h"
+#include <host/documents/LabelDocument.h>
 
 #include <QHash>
 #include <QImage>
@@ -11,7 +11,7 @@
 #include <vector>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// The pictures of the labels that a widget shows, drawn in the background. Also caches pictures that are no
 /// longer visible, within a limit of memory.
@@ -65,5 +65,5 @@ private:
     bool m_isDrawing = false;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include <host/documents/BlankMeasurer.h>
-#include <host/documents/LabelRenderer.h>
-#include <host/documents/PageCheck.h>
-#include <host/documents/PageThread.h>
 #include <host/documents/PdfPages.h>
+#include <host/labels/BlankMeasurer.h>
+#include <host/labels/LabelRenderer.h>
+#include <host/labels/PageCheck.h>
+#include <host/labels/PageThread.h>
 #include <tests/samples/ClosedGate.h>
 #include <tests/samples/SamplePdf.h>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "LabelDocument.h"
 #include "LabelExtent.h"
+#include <host/documents/LabelDocument.h>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// Places the pages of a document on labels of one paper and draws them as on the tape: the edge that leaves
 /// the printer first is on the left, the length of the label runs from left to right. Caches nothing; each
@@ -48,5 +48,5 @@ private:
     QSizeF m_label;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

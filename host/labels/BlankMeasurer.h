@@ -13,7 +13,7 @@
 #include <vector>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// Measures the blank at the ends of labels on one paper, in the background and in the order of the
 /// requests, and caches the results.
@@ -61,5 +61,5 @@ private:
     QElapsedTimer m_sinceSignal;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

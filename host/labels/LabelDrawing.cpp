@@ -11,7 +11,7 @@
 #include <cmath>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 namespace {
 
@@ -114,5 +114,5 @@ LabelExtent LabelDrawing::measure(int page) const
     return {m_label.width(), before * millimetres, after * millimetres, false};
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host

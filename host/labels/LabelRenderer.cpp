@@ -7,7 +7,7 @@
 #include <cmath>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 namespace {
 
@@ -63,5 +63,5 @@ std::unique_ptr<LabelPictures> LabelRenderer::makePictures() const
     return m_thread ? std::make_unique<LabelPictures>(m_document, *m_thread, paper()) : nullptr;
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host

@@ -7,7 +7,7 @@
 #include <optional>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// A range of rows or columns of an image: the first one, and the one after the last.
 struct InkSpan {
@@ -23,5 +23,5 @@ std::optional<InkSpan> inkedRows(const QImage &image, const QRect &area);
 /// Returns the same for columns.
 std::optional<InkSpan> inkedColumns(const QImage &image, const QRect &area);
 
-} // namespace documents
+} // namespace labels
 } // namespace host

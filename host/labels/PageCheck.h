@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "LabelDocument.h"
 #include "PageThread.h"
+#include <host/documents/LabelDocument.h>
 
 #include <vector>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// Reads the sizes of a document's pages in the background, so that LabelDocument::checkForPrinting() does
 /// not need to. Reads while nothing else must be drawn or measured, until a job waits for it.
@@ -41,5 +41,5 @@ private:
     PageThread::Urgency m_urgency = PageThread::Urgency::Checked;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

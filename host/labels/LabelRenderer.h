@@ -10,7 +10,7 @@
 #include <memory>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 class BlankMeasurer;
 class LabelPictures;
@@ -63,5 +63,5 @@ private:
     mutable QCache<QPair<int, int>, QImage> m_images;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

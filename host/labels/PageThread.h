@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "LabelDocument.h"
+#include <host/documents/LabelDocument.h>
 
 #include <QObject>
 
@@ -11,7 +11,7 @@
 #include <thread>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// A thread that draws and measures the pages of a document with its own instance of the document, so that
 /// windows do not wait for pdfium. Belongs to the main thread. The thread starts with its first task.
@@ -51,5 +51,5 @@ private:
     std::thread m_thread;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

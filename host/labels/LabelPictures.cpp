@@ -9,7 +9,7 @@
 #include <chrono>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 namespace {
 
@@ -103,5 +103,5 @@ void LabelPictures::dropUnseen()
     m_pictures = std::move(seen);
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host

@@ -2,7 +2,7 @@
 #include "PageCheck.h"
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 PageCheck::PageCheck(const LabelDocument &document, PageThread &thread)
     : m_document(document)
@@ -60,5 +60,5 @@ void PageCheck::store(int first, const std::vector<QSizeF> &sizes)
         m_document.setStatedPageSize(page++, size);
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host

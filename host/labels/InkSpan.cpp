@@ -4,7 +4,7 @@
 #include <algorithm>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 namespace {
 
@@ -70,5 +70,5 @@ std::optional<InkSpan> inkedColumns(const QImage &image, const QRect &area)
     return InkSpan{first, last + 1};
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host

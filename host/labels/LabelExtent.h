@@ -2,7 +2,7 @@
 #pragma once
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 /// A page on the tape; lengths along the tape in millimetres.
 struct LabelExtent {
@@ -18,5 +18,5 @@ struct LabelExtent {
     bool operator==(const LabelExtent &) const = default;
 };
 
-} // namespace documents
+} // namespace labels
 } // namespace host

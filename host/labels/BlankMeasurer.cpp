@@ -10,7 +10,7 @@
 #include <chrono>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 namespace {
 
@@ -117,5 +117,5 @@ void BlankMeasurer::store(const Measured &results)
     }
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host

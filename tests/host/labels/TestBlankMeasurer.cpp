@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <host/base/Units.h>
-#include <host/documents/BlankMeasurer.h>
-#include <host/documents/InkSpan.h>
-#include <host/documents/LabelRenderer.h>
+#include <host/labels/BlankMeasurer.h>
+#include <host/labels/InkSpan.h>
+#include <host/labels/LabelRenderer.h>
 #include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
 #include <tests/samples/SamplePdf.h>

@@ -14,7 +14,7 @@
 #include <pthread.h>
 
 namespace host {
-inline namespace documents {
+inline namespace labels {
 
 namespace {
 
@@ -180,5 +180,5 @@ void PageThread::work(Queue &queue, LabelDocument::Source source)
     }
 }
 
-} // namespace documents
+} // namespace labels
 } // namespace host
