@@ -5,8 +5,11 @@
 //
 // COLORS is 1 for gray and 3 for RGB, of 8 bits each. FILTER names how the data is compressed, as PDF does:
 // "/DCTDecode" for a JPEG, "/FlateDecode" for rows of pixels. The data is embedded unchanged. kvprint runs
-// this program when it opens an image, so that the library for PDFs costs it no time at any other start. On
-// failure, the exit status is 1 and the reason is written to standard error.
+// this program when it opens an image, so that the library for PDFs costs it no time at any other start. The
+// exit status is 1 if an argument is invalid, and 2 if there is too little memory; the reason is written to
+// standard error.
+#include <programs/conversion/Conversion.h>
+
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -14,10 +17,7 @@
 #include <qpdf/QPDFWriter.hh>
 
 #include <cstdio>
-#include <exception>
-#include <iterator>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -31,21 +31,6 @@ struct Request {
     std::string pointsAcross;
     std::string pointsDown;
 };
-
-std::vector<unsigned char> readStandardInput()
-{
-    constexpr std::size_t blockSize = std::size_t{1} << 20U;
-    std::vector<unsigned char> data;
-    std::size_t size = 0;
-    do {
-        data.resize(size + blockSize);
-        size += std::fread(data.data() + size, 1, blockSize, stdin);
-    } while (size == data.size());
-    if (std::ferror(stdin) != 0)
-        throw std::runtime_error("cannot read the image");
-    data.resize(size);
-    return data;
-}
 
 void writePage(const Request &request, std::vector<unsigned char> &data)
 {
@@ -73,23 +58,18 @@ void writePage(const Request &request, std::vector<unsigned char> &data)
     writer.setDeterministicID(true);
     writer.setOutputFile("standard output", stdout, false);
     writer.write();
-    if (std::fflush(stdout) != 0)
-        throw std::runtime_error("cannot write the PDF");
+    programs::flushStandardOutput();
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    constexpr int argumentCount = 7;
-    try {
+    return programs::runConversion("kvprint-imagepdf", [argc, argv] {
+        constexpr int argumentCount = 7;
         if (argc != argumentCount)
-            throw std::runtime_error("six arguments are needed");
-        std::vector<unsigned char> data = readStandardInput();
+            throw programs::ConversionError(programs::ConversionError::Damaged, "six arguments are needed");
+        std::vector<unsigned char> data = programs::readStandardInput();
         writePage({argv[1], argv[2], argv[3], argv[4], argv[5], argv[6]}, data);
-    } catch (const std::exception &error) {
-        std::fprintf(stderr, "kvprint-imagepdf: %s\n", error.what());
-        return 1;
-    }
-    return 0;
+    });
 }

@@ -11,6 +11,8 @@
 // kvprint runs this program when it opens an SVG. References to files and to the network are not loaded: the
 // library resolves them against the location of the SVG, and it is given none. The system limits time and
 // memory, because an SVG of a few lines can need any amount of both.
+#include <programs/conversion/Conversion.h>
+
 #include <librsvg/rsvg.h>
 
 #include <cairo-pdf.h>
@@ -21,13 +23,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include <sys/resource.h>
-#include <unistd.h>
 
 namespace {
+
+using programs::ConversionError;
 
 constexpr double pointsPerPixel = 72.0 / 96.0;
 constexpr double pointsPerInch = 72.0;
@@ -74,14 +76,7 @@ void setLimits()
 #endif
 }
 
-/// The exit status of a failure, and its reason.
-struct Failure {
-    enum Status { Damaged = 1, TooLarge = 2 };
-    Status status;
-    std::string reason;
-};
-
-Failure failure(Failure::Status status, const GError *error)
+ConversionError conversionError(ConversionError::Status status, const GError *error)
 {
     return {status, error ? error->message : "unknown error"};
 }
@@ -89,20 +84,7 @@ Failure failure(Failure::Status status, const GError *error)
 void check(cairo_status_t status)
 {
     if (status != CAIRO_STATUS_SUCCESS)
-        throw Failure{Failure::TooLarge, cairo_status_to_string(status)};
-}
-
-std::vector<unsigned char> readStandardInput()
-{
-    constexpr std::size_t blockSize = std::size_t{1} << 16U;
-    std::vector<unsigned char> data;
-    std::size_t size = 0;
-    do {
-        data.resize(size + blockSize);
-        size += std::fread(data.data() + size, 1, blockSize, stdin);
-    } while (size == data.size());
-    data.resize(size);
-    return data;
+        throw ConversionError(ConversionError::TooLarge, cairo_status_to_string(status));
 }
 
 Handle load(const std::vector<unsigned char> &svg)
@@ -114,7 +96,7 @@ Handle load(const std::vector<unsigned char> &svg)
     Handle handle(
         rsvg_handle_new_from_stream_sync(stream.get(), nullptr, RSVG_HANDLE_FLAG_UNLIMITED, nullptr, &error));
     if (!handle)
-        throw failure(Failure::Damaged, error);
+        throw conversionError(ConversionError::Damaged, error);
     rsvg_handle_set_dpi(handle.get(), 96.0);
     return handle;
 }
@@ -124,7 +106,7 @@ DrawingSize sizeOfWhatIsDrawn(RsvgHandle *handle)
     RsvgRectangle ink = {};
     GError *error = nullptr;
     if (!rsvg_handle_get_geometry_for_element(handle, nullptr, &ink, nullptr, &error))
-        throw failure(Failure::TooLarge, error);
+        throw conversionError(ConversionError::TooLarge, error);
     return {ink.width, ink.height, true};
 }
 
@@ -136,7 +118,7 @@ void draw(RsvgHandle *handle, const DrawingSize &size, cairo_t *context)
                                  ? rsvg_handle_render_element(handle, context, nullptr, &viewport, &error)
                                  : rsvg_handle_render_document(handle, context, &viewport, &error);
     if (!isDrawn)
-        throw failure(Failure::TooLarge, error);
+        throw conversionError(ConversionError::TooLarge, error);
     check(cairo_status(context));
 }
 
@@ -180,35 +162,23 @@ void writePdf(RsvgHandle *handle, const DrawingSize &size)
     check(cairo_surface_status(page.get()));
 }
 
-/// Returns the exit status. A function of its own because GCC does not protect the stack of functions that do
-/// not return.
-[[gnu::noinline]] int convert(int argc, char **argv)
+void convert(int argc, char **argv)
 {
-    try {
-        setLimits();
-        // Which variants Chinese, Japanese and Korean glyphs have depends on the user's language.
-        std::setlocale(LC_CTYPE, "");
-        const std::vector<unsigned char> svg = readStandardInput();
-        const Handle handle = load(svg);
-        const DrawingSize size =
-            argc == 3 ? DrawingSize{std::strtod(argv[1], nullptr), std::strtod(argv[2], nullptr)}
-                      : sizeOfWhatIsDrawn(handle.get());
-        writePdf(handle.get(), size);
-        if (std::fflush(stdout) != 0)
-            throw Failure{Failure::TooLarge, "cannot write the PDF"};
-    } catch (const Failure &error) {
-        std::fprintf(stderr, "kvprint-svgpdf: %s\n", error.reason.c_str());
-        return error.status;
-    }
-    return 0;
+    setLimits();
+    // Which variants Chinese, Japanese and Korean glyphs have depends on the user's language.
+    std::setlocale(LC_CTYPE, "");
+    const std::vector<unsigned char> svg = programs::readStandardInput();
+    const Handle handle = load(svg);
+    const DrawingSize size = argc == 3
+                                 ? DrawingSize{std::strtod(argv[1], nullptr), std::strtod(argv[2], nullptr)}
+                                 : sizeOfWhatIsDrawn(handle.get());
+    writePdf(handle.get(), size);
+    programs::flushStandardOutput();
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const int status = convert(argc, argv);
-    // The process ends: what the libraries keep need not be released.
-    std::fflush(nullptr);
-    _exit(status);
+    return programs::runConversion("kvprint-svgpdf", [argc, argv] { convert(argc, argv); });
 }
