@@ -32,8 +32,8 @@ std::optional<QString> PrintDialog::prepare()
 {
     if (!m_keeper.setup())
         return waitingText(m_keeper.session());
-    if (const std::optional<host::DocumentError> error = m_document->checkForPrinting())
-        return error->message;
+    if (const auto checked = m_document->checkForPrinting(); !checked)
+        return checked.error().message;
     refresh();
     if (m_sender.needsStrip())
         finishMeasuring();

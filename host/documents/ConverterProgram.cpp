@@ -57,11 +57,11 @@ DocumentErrorReason ConverterProgram::missing() const
             ConverterProgramText::tr("the program \"%1\", which converts it, cannot be started").arg(m_path)};
 }
 
-std::optional<DocumentErrorReason> storePdf(QByteArrayView bytes, QIODevice *pdf)
+Result<void, DocumentErrorReason> storePdf(QByteArrayView bytes, QIODevice *pdf)
 {
     if (pdf->write(bytes.data(), bytes.size()) != bytes.size())
         return DocumentErrorReason{DocumentErrorKind::NotStored, pdf->errorString()};
-    return std::nullopt;
+    return {};
 }
 
 } // namespace documents

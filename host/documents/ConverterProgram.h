@@ -6,8 +6,6 @@
 #include <QByteArray>
 #include <QStringList>
 
-#include <optional>
-
 class QIODevice;
 
 namespace host {
@@ -43,7 +41,7 @@ private:
 };
 
 /// Writes the PDF to the device. Returns an error if the device cannot hold all of it.
-std::optional<DocumentErrorReason> storePdf(QByteArrayView bytes, QIODevice *pdf);
+Result<void, DocumentErrorReason> storePdf(QByteArrayView bytes, QIODevice *pdf);
 
 } // namespace documents
 } // namespace host

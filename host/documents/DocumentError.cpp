@@ -14,13 +14,13 @@ struct DocumentErrorText {
 
 } // namespace
 
-DocumentError documentError(const DocumentErrorReason &problem, const QString &name)
+DocumentError documentError(const DocumentErrorReason &reason, const QString &name)
 {
     if (name == standardInputName)
-        return {problem.kind,
-                DocumentErrorText::tr("Cannot open the document on standard input: %1").arg(problem.reason)};
-    return {problem.kind,
-            DocumentErrorText::tr("Cannot open the document \"%1\": %2").arg(name, problem.reason)};
+        return {reason.kind,
+                DocumentErrorText::tr("Cannot open the document on standard input: %1").arg(reason.reason)};
+    return {reason.kind,
+            DocumentErrorText::tr("Cannot open the document \"%1\": %2").arg(name, reason.reason)};
 }
 
 } // namespace documents

@@ -38,7 +38,7 @@ inline constexpr QStringView standardInputName = u"-";
 
 /// Returns the error for the user: names the document, by its path or as standard input for "-", and the
 /// reason.
-DocumentError documentError(const DocumentErrorReason &problem, const QString &name);
+DocumentError documentError(const DocumentErrorReason &reason, const QString &name);
 
 } // namespace documents
 } // namespace host

@@ -50,8 +50,8 @@ PdfImage compressed(QImage image)
 {
     const bool transparent = image.hasAlphaChannel();
     image.convertTo(transparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-    const bool grey = image.allGray();
-    PdfImage result{image.size(), grey ? 1 : 3, QStringLiteral("/FlateDecode"), {}};
+    const bool gray = image.allGray();
+    PdfImage result{image.size(), gray ? 1 : 3, QStringLiteral("/FlateDecode"), {}};
     QByteArray rows(static_cast<qsizetype>(image.width()) * image.height() * result.colors,
                     Qt::Uninitialized);
     char *to = rows.data();
@@ -63,7 +63,7 @@ PdfImage compressed(QImage image)
                 return static_cast<char>((color * alpha + 127) / 255 + 255 - alpha);
             };
             *to++ = onWhite(qRed(line[x]));
-            if (!grey) {
+            if (!gray) {
                 *to++ = onWhite(qGreen(line[x]));
                 *to++ = onWhite(qBlue(line[x]));
             }
@@ -76,7 +76,7 @@ PdfImage compressed(QImage image)
 }
 
 /// Writes the page to the device. The size is in points.
-std::optional<DocumentErrorReason> writePage(const PdfImage &image, QSizeF size, QIODevice *pdf)
+Result<void, DocumentErrorReason> writePage(const PdfImage &image, QSizeF size, QIODevice *pdf)
 {
     ConverterProgram converter(QStringLiteral("imagepdf"));
     const auto end =
@@ -89,9 +89,12 @@ std::optional<DocumentErrorReason> writePage(const PdfImage &image, QSizeF size,
         return storePdf(converter.output(), pdf);
     case ConverterProgram::End::Missing:
         return converter.missing();
-    default:
-        return damaged();
+    case ConverterProgram::End::TooLarge:
+        return tooManyPixels(image.pixels);
+    case ConverterProgram::End::Rejected:
+        break;
     }
+    return damaged();
 }
 
 /// Reads an image and converts it to the form in which its page contains it.
@@ -107,7 +110,7 @@ public:
         m_reader.setAutoTransform(true);
     }
 
-    std::optional<DocumentErrorReason> check()
+    Result<void, DocumentErrorReason> check()
     {
         if (!m_facts.complete)
             return DocumentErrorReason{DocumentErrorKind::Damaged,
@@ -172,11 +175,11 @@ private:
 
 } // namespace
 
-std::optional<DocumentErrorReason> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf)
+Result<void, DocumentErrorReason> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf)
 {
     ImageSource source(image, kind);
-    if (auto problem = source.check())
-        return problem;
+    if (auto checked = source.check(); !checked)
+        return checked;
     const std::optional<PdfImage> page = source.read();
     if (!page)
         return damaged();

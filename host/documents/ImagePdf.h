@@ -6,8 +6,6 @@
 
 #include <QByteArray>
 
-#include <optional>
-
 class QIODevice;
 
 namespace host {
@@ -24,7 +22,7 @@ inline constexpr double defaultImageResolution = 96.0;
 /// follows from the resolution that the image states. No pixel is lost; transparent pixels become white.
 /// Returns an error if the image is damaged or too large, or if the device cannot hold the PDF. The device is
 /// not owned; what it contains after an error is undefined.
-std::optional<DocumentErrorReason> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf);
+Result<void, DocumentErrorReason> writeImagePdf(const QByteArray &image, DocumentKind kind, QIODevice *pdf);
 
 } // namespace documents
 } // namespace host

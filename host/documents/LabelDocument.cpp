@@ -151,13 +151,13 @@ int LabelDocument::drawingCount() const
     });
 }
 
-std::optional<DocumentError> LabelDocument::checkForPrinting() const
+Result<void, DocumentError> LabelDocument::checkForPrinting() const
 {
     for (std::size_t i = 0; i < m_documents.size(); ++i) {
-        if (const auto problem = m_documents[i]->checkForPrinting())
-            return documentError(*problem, m_files[i].name);
+        if (const auto checked = m_documents[i]->checkForPrinting(); !checked)
+            return documentError(checked.error(), m_files[i].name);
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace documents

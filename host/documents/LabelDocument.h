@@ -90,9 +90,8 @@ public:
 
     /// Checks what open() skips to be fast: the last pages of long documents, and whether the files have
     /// changed. Must be called before a job is sent. Needs seconds for tens of thousands of pages, and no
-    /// time for pages whose sizes PageCheck has read in the background. Absent if the documents can be
-    /// printed.
-    std::optional<DocumentError> checkForPrinting() const;
+    /// time for pages whose sizes PageCheck has read in the background.
+    Result<void, DocumentError> checkForPrinting() const;
 
 private:
     LabelDocument();

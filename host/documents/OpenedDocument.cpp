@@ -32,16 +32,16 @@ Result<QByteArray, DocumentErrorReason> readWhole(QFile &file, qint64 most)
 }
 
 /// Turns an image or an SVG into a PDF.
-std::optional<DocumentErrorReason> convert(QFile &file, DocumentKind kind, platform::TemporaryFile &pdf)
+Result<void, DocumentErrorReason> convert(QFile &file, DocumentKind kind, platform::TemporaryFile &pdf)
 {
     const bool isSvg = kind == DocumentKind::Svg;
     const auto content = readWhole(file, isSvg ? OpenedDocument::maxSvgBytes : OpenedDocument::maxImageBytes);
     if (!content)
         return content.error();
-    auto problem = isSvg ? writeSvgPdf(content.value(), &pdf) : writeImagePdf(content.value(), kind, &pdf);
-    if ((problem && problem->kind == DocumentErrorKind::NotStored) || (!problem && !pdf.flush()))
+    auto converted = isSvg ? writeSvgPdf(content.value(), &pdf) : writeImagePdf(content.value(), kind, &pdf);
+    if (converted ? !pdf.flush() : converted.error().kind == DocumentErrorKind::NotStored)
         return notStored(pdf);
-    return problem;
+    return converted;
 }
 
 } // namespace
@@ -68,8 +68,8 @@ Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> OpenedDocument::ope
         auto pdf = makeTemporaryFile();
         if (!pdf)
             return pdf.error();
-        if (const auto problem = convert(*file.value().file, *kind, *pdf.value()))
-            return *problem;
+        if (const auto converted = convert(*file.value().file, *kind, *pdf.value()); !converted)
+            return converted.error();
         document->m_temporary = std::move(pdf).value();
         document->m_path = document->m_temporary->fileName();
         file = openRegularFile(document->m_path);
@@ -98,7 +98,7 @@ PdfSource OpenedDocument::source() const
     return {isSame ? std::move(file.value().file) : nullptr, m_pages->knownSizes()};
 }
 
-std::optional<DocumentErrorReason> OpenedDocument::checkForPrinting() const
+Result<void, DocumentErrorReason> OpenedDocument::checkForPrinting() const
 {
     if (fileStamp(m_path) != m_stamp)
         return DocumentErrorReason{

@@ -34,8 +34,8 @@ public:
     /// The state of the file when it was read.
     const FileStamp &stamp() const { return m_stamp; }
     /// Checks what open() skips: the pages after the first hundreds, and whether the file at the path has
-    /// changed. Absent if the document can be printed.
-    std::optional<DocumentErrorReason> checkForPrinting() const;
+    /// changed.
+    Result<void, DocumentErrorReason> checkForPrinting() const;
 
 private:
     OpenedDocument() = default;

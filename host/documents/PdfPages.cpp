@@ -15,11 +15,11 @@ struct PdfPagesText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-std::optional<DocumentErrorReason> loadError(QPdfDocument::Error error)
+Result<void, DocumentErrorReason> checkLoaded(QPdfDocument::Error error)
 {
     switch (error) {
     case QPdfDocument::Error::None:
-        return std::nullopt;
+        return {};
     case QPdfDocument::Error::IncorrectPassword:
         return DocumentErrorReason{DocumentErrorKind::Encrypted,
                                    PdfPagesText::tr("it is encrypted; remove its password first")};
@@ -48,13 +48,13 @@ Result<std::unique_ptr<PdfPages>, DocumentErrorReason> PdfPages::open(std::uniqu
 {
     std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file), {}));
     pages->load();
-    if (auto problem = loadError(pages->m_pdf.error()))
-        return *problem;
+    if (const auto loaded = checkLoaded(pages->m_pdf.error()); !loaded)
+        return loaded.error();
     if (pages->pageCount() < 1)
         return DocumentErrorReason{DocumentErrorKind::Empty, PdfPagesText::tr("it has no pages")};
     pages->m_sizes.resize(static_cast<std::size_t>(pages->pageCount()));
-    if (auto problem = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())))
-        return *problem;
+    if (const auto checked = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())); !checked)
+        return checked.error();
     return pages;
 }
 
@@ -101,7 +101,7 @@ QImage PdfPages::renderTransparent(int page, QSize size) const
     return m_pdf.render(page, size);
 }
 
-std::optional<DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)
+Result<void, DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)
 {
     // Written so that NaN is rejected.
     if (!(size.width() >= 1.0 && size.height() >= 1.0))
@@ -111,16 +111,16 @@ std::optional<DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)
         return DocumentErrorReason{DocumentErrorKind::BadPage, PdfPagesText::tr("page %1 is longer than %2 m")
                                                                    .arg(page + 1)
                                                                    .arg(maxSide / 72.0 * 0.0254, 0, 'f', 2)};
-    return std::nullopt;
+    return {};
 }
 
-std::optional<DocumentErrorReason> PdfPages::checkPagesUpTo(int end) const
+Result<void, DocumentErrorReason> PdfPages::checkPagesUpTo(int end) const
 {
     for (; m_checked < end; ++m_checked) {
-        if (auto problem = checkSize(statedSize(m_checked), m_checked))
-            return problem;
+        if (auto checked = checkSize(statedSize(m_checked), m_checked); !checked)
+            return checked;
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace documents

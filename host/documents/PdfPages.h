@@ -57,17 +57,17 @@ public:
     QImage renderTransparent(int page, QSize size) const;
     /// The number of pages that this instance has drawn.
     int drawingCount() const { return m_drawingCount; }
-    /// Checks the pages that are not checked yet. Absent if all pages can be printed.
-    std::optional<DocumentErrorReason> checkPages() const { return checkPagesUpTo(pageCount()); }
+    /// Checks the pages that are not checked yet. The error names the first one that cannot be printed.
+    Result<void, DocumentErrorReason> checkPages() const { return checkPagesUpTo(pageCount()); }
 
-    /// Returns why a page of this size, in points, cannot be printed; absent if it can.
-    static std::optional<DocumentErrorReason> checkSize(QSizeF size, int page);
+    /// Returns an error if a page of this size, in points, cannot be printed.
+    static Result<void, DocumentErrorReason> checkSize(QSizeF size, int page);
 
 private:
     PdfPages(std::unique_ptr<QFile> file, PageSizes sizes);
 
     void load();
-    std::optional<DocumentErrorReason> checkPagesUpTo(int end) const;
+    Result<void, DocumentErrorReason> checkPagesUpTo(int end) const;
 
     std::unique_ptr<QFile> m_file;
     /// Mutable because drawing a page has no visible effect on the object.

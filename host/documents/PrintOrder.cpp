@@ -75,14 +75,14 @@ Result<std::vector<bool>, PageRangeError> parseChosen(const QString &text, int p
 
 } // namespace
 
-std::optional<PageRangeError> checkPageRanges(const QString &text)
+Result<void, PageRangeError> checkPageRanges(const QString &text)
 {
     for (const QString &part : rangeTexts(text)) {
         const std::optional<Range> range = parseRange(part, std::numeric_limits<int>::max());
         if (!range || range->first > range->last || range->first < 1)
             return notUnderstood(text);
     }
-    return std::nullopt;
+    return {};
 }
 
 QString canonicalPageRanges(const QString &text)

@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <optional>
 #include <vector>
 
 namespace host {
@@ -54,8 +53,8 @@ Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
 /// and otherwise unchanged.
 QString canonicalPageRanges(const QString &text);
 
-/// Returns the error of a text that is invalid for every document; absent if a document can have the pages.
-std::optional<PageRangeError> checkPageRanges(const QString &text);
+/// Returns an error if no document can have the pages.
+Result<void, PageRangeError> checkPageRanges(const QString &text);
 
 /// Returns the pages, numbered through documents with these page counts, as one list for each document.
 std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,

@@ -29,7 +29,7 @@ DocumentErrorReason systemError(int error)
     return {DocumentErrorKind::Unreadable, qt_error_string(error)};
 }
 
-std::optional<DocumentErrorReason> checkStatus(int result, const struct stat &status)
+Result<void, DocumentErrorReason> checkStatus(int result, const struct stat &status)
 {
     if (result != 0)
         return systemError(errno);
@@ -37,7 +37,7 @@ std::optional<DocumentErrorReason> checkStatus(int result, const struct stat &st
         return DocumentErrorReason{DocumentErrorKind::NotAFile, RegularFileText::tr("it is not a file")};
     if (status.st_size == 0)
         return DocumentErrorReason{DocumentErrorKind::Empty, RegularFileText::tr("it is empty")};
-    return std::nullopt;
+    return {};
 }
 
 } // namespace
@@ -47,8 +47,8 @@ Result<RegularFile, DocumentErrorReason> openRegularFile(const QString &path)
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
     // Checked before opening, since opening some devices has an effect.
-    if (const auto problem = checkStatus(::stat(name.constData(), &status), status))
-        return *problem;
+    if (const auto checked = checkStatus(::stat(name.constData(), &status), status); !checked)
+        return checked.error();
     // A pipe may have taken the file's place meanwhile; without O_NONBLOCK, opening it would wait.
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
     if (descriptor < 0)
@@ -58,8 +58,8 @@ Result<RegularFile, DocumentErrorReason> openRegularFile(const QString &path)
         ::close(descriptor);
         return DocumentErrorReason{DocumentErrorKind::Unreadable, file->errorString()};
     }
-    if (const auto problem = checkStatus(::fstat(descriptor, &status), status))
-        return *problem;
+    if (const auto checked = checkStatus(::fstat(descriptor, &status), status); !checked)
+        return checked.error();
     return RegularFile{std::move(file), stampOf(status)};
 }
 

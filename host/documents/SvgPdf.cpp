@@ -24,28 +24,28 @@ DocumentErrorReason damagedSvg()
 }
 
 /// Writes what the converter has written: a line with the size of the page, in points, and the PDF.
-std::optional<DocumentErrorReason> storeOutput(const QByteArray &output, QIODevice *pdf)
+Result<void, DocumentErrorReason> storeOutput(const QByteArray &output, QIODevice *pdf)
 {
     const qsizetype lineEnd = output.indexOf('\n');
     const QByteArrayList size = output.first(qMax(qsizetype(0), lineEnd)).split(' ');
     if (size.size() != 2)
         return damagedSvg();
-    if (auto problem = PdfPages::checkSize({size[0].toDouble(), size[1].toDouble()}, 0))
-        return problem;
+    if (auto checked = PdfPages::checkSize({size[0].toDouble(), size[1].toDouble()}, 0); !checked)
+        return checked;
     return storePdf(QByteArrayView(output).sliced(lineEnd + 1), pdf);
 }
 
 } // namespace
 
-std::optional<DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *pdf)
+Result<void, DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *pdf)
 {
     const auto source = SvgSource::read(svg);
     if (!source)
         return source.error();
     QStringList arguments;
     if (const auto &size = source.value().size) {
-        if (auto problem = PdfPages::checkSize(*size * pointsPerPixel, 0))
-            return problem;
+        if (auto checked = PdfPages::checkSize(*size * pointsPerPixel, 0); !checked)
+            return checked;
         arguments = {QString::number(size->width(), 'g', 17), QString::number(size->height(), 'g', 17)};
     }
     ConverterProgram converter(QStringLiteral("svgpdf"));

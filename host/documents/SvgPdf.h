@@ -5,8 +5,6 @@
 
 #include <QByteArray>
 
-#include <optional>
-
 class QIODevice;
 
 namespace host {
@@ -17,7 +15,7 @@ inline namespace documents {
 /// Returns an error if the SVG is damaged, refers to other files, or needs more time or memory than the
 /// converter has, or if the device cannot hold the PDF. The device is not owned; what it contains after an
 /// error is undefined.
-std::optional<DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *pdf);
+Result<void, DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *pdf);
 
 } // namespace documents
 } // namespace host

@@ -66,10 +66,10 @@ public:
 
     std::optional<DocumentErrorReason> read()
     {
-        while (!m_reader.atEnd() && !m_problem)
+        while (!m_reader.atEnd() && !m_error)
             pass(m_reader.readNext());
-        if (m_problem)
-            return m_problem;
+        if (m_error)
+            return m_error;
         if (!m_rootSeen)
             return DocumentErrorReason{DocumentErrorKind::UnknownKind,
                                        SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
@@ -101,11 +101,11 @@ private:
             checkDeclarations();
             break;
         case QXmlStreamReader::EntityReference:
-            m_problem = needsOther(u'&' + m_reader.name().toString() + u';');
+            m_error = needsOther(u'&' + m_reader.name().toString() + u';');
             break;
         case QXmlStreamReader::ProcessingInstruction:
             if (m_reader.processingInstructionTarget() == u"xml-stylesheet")
-                m_problem = needsOther(m_reader.processingInstructionData().toString());
+                m_error = needsOther(m_reader.processingInstructionData().toString());
             break;
         default:
             break;
@@ -117,7 +117,7 @@ private:
     {
         for (const QXmlStreamEntityDeclaration &entity : m_reader.entityDeclarations()) {
             if (!entity.systemId().isEmpty())
-                m_problem = needsOther(entity.systemId().toString());
+                m_error = needsOther(entity.systemId().toString());
         }
     }
 
@@ -125,12 +125,12 @@ private:
     {
         const QStringView name = m_reader.name();
         if (!m_rootSeen && name != u"svg") {
-            m_problem = DocumentErrorReason{DocumentErrorKind::UnknownKind,
-                                            SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
+            m_error = DocumentErrorReason{DocumentErrorKind::UnknownKind,
+                                          SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
             return;
         }
         if (++m_level > SvgSource::maxLevels || ++m_elements > SvgSource::maxElements) {
-            m_problem = SvgSource::tooManyParts();
+            m_error = SvgSource::tooManyParts();
             return;
         }
         m_writer.writeStartElement(name.toString());
@@ -165,10 +165,10 @@ private:
         const bool inside = reference.isEmpty() || reference.startsWith(u'#');
         const bool picture = element == u"image" && reference.startsWith(u"data:", Qt::CaseInsensitive);
         if (!inside && !picture)
-            m_problem = needsOther(reference);
+            m_error = needsOther(reference);
         else if (picture)
             checkPicture(reference);
-        if (!m_problem)
+        if (!m_error)
             m_writer.writeAttribute(QStringLiteral("href"), reference);
     }
 
@@ -183,7 +183,7 @@ private:
                       : QByteArray::fromBase64(QStringView(reference).mid(begin + mark.size()).toLatin1());
         const std::optional<DocumentKind> kind = documentKind(data.left(documentHeadSize));
         if (kind != DocumentKind::Png && kind != DocumentKind::Jpeg) {
-            m_problem =
+            m_error =
                 DocumentErrorReason{DocumentErrorKind::UnknownKind,
                                     SvgSourceText::tr("it has a picture in it that is neither PNG nor JPEG")};
             return;
@@ -194,10 +194,10 @@ private:
         const QSize size = QImageReader(&buffer, kind == DocumentKind::Png ? "png" : "jpeg").size();
         m_picturePixels += static_cast<qint64>(size.width()) * size.height();
         if (!size.isValid())
-            m_problem = DocumentErrorReason{DocumentErrorKind::Damaged,
-                                            SvgSourceText::tr("it has a damaged picture in it")};
+            m_error = DocumentErrorReason{DocumentErrorKind::Damaged,
+                                          SvgSourceText::tr("it has a damaged picture in it")};
         else if (m_picturePixels > SvgSource::maxPicturePixels)
-            m_problem = DocumentErrorReason{
+            m_error = DocumentErrorReason{
                 DocumentErrorKind::TooLarge,
                 SvgSourceText::tr("it has pictures of more pixels in it than can be printed")};
     }
@@ -207,8 +207,8 @@ private:
         const QXmlStreamAttributes attributes = m_reader.attributes();
         const std::optional<QSizeF> box = SvgSize::viewBox(attributes);
         if (box && !(box->width() > 0.0 && box->height() > 0.0)) {
-            m_problem = DocumentErrorReason{DocumentErrorKind::BadPage,
-                                            SvgSourceText::tr("page %1 has no area").arg(1)};
+            m_error = DocumentErrorReason{DocumentErrorKind::BadPage,
+                                          SvgSourceText::tr("page %1 has no area").arg(1)};
             return;
         }
         m_source.size = SvgSize::natural(attributes);
@@ -217,7 +217,7 @@ private:
     SvgSource m_source;
     QXmlStreamReader m_reader;
     QXmlStreamWriter m_writer;
-    std::optional<DocumentErrorReason> m_problem;
+    std::optional<DocumentErrorReason> m_error;
     bool m_rootSeen = false;
     int m_level = 0;
     int m_elements = 0;
@@ -234,8 +234,8 @@ DocumentErrorReason SvgSource::tooManyParts()
 Result<SvgSource, DocumentErrorReason> SvgSource::read(const QByteArray &svg)
 {
     SvgReader reader(svg);
-    if (const auto problem = reader.read())
-        return *problem;
+    if (const auto error = reader.read())
+        return *error;
     return reader.takeSource();
 }
 

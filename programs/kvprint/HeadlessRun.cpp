@@ -110,12 +110,14 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
 bool HeadlessRun::canPrintDocument() const
 {
     const auto pages = host::choosePages(m_command.settings, {}, m_document->pageCounts());
-    if (!pages)
+    if (!pages) {
         m_console.printError(pages.error().message);
-    const auto error = pages ? m_document->checkForPrinting() : std::nullopt;
-    if (error)
-        m_console.printError(error->message);
-    return pages && !error;
+        return false;
+    }
+    const auto checked = m_document->checkForPrinting();
+    if (!checked)
+        m_console.printError(checked.error().message);
+    return static_cast<bool>(checked);
 }
 
 std::optional<host::JobRequest> HeadlessRun::makeJobRequest(const host::PrinterSetup &setup) const
@@ -159,10 +161,10 @@ ExitStatus HeadlessRun::run()
     const CommandChecks checks(m_command, m_console);
     if (!setup || !checks.accepts(*setup) || !takeScreenshot(keeper))
         return ExitStatus::Failed;
-    const std::optional<host::JobRequest> draft = makeJobRequest(*setup);
-    if (!draft)
+    const std::optional<host::JobRequest> request = makeJobRequest(*setup);
+    if (!request)
         return ExitStatus::Failed;
-    const host::Ticket ticket = host::ticketFor(*setup, *m_document, *draft);
+    const host::Ticket ticket = host::ticketFor(*setup, *m_document, *request);
     return checks.accepts(ticket, *setup) ? CommandChecks::statusOf(finish(*setup, ticket), *setup)
                                           : ExitStatus::Failed;
 }
@@ -196,10 +198,10 @@ ExitStatus HeadlessRun::send(const host::Ticket &ticket)
 {
     dialog::QueueSender sender(m_server);
     QEventLoop loop;
-    std::optional<QString> problem;
+    std::optional<QString> error;
     QObject::connect(&sender, &dialog::JobSender::sent, &loop, &QEventLoop::quit);
     QObject::connect(&sender, &dialog::JobSender::failed, &loop, [&](const QString &text) {
-        problem = text;
+        error = text;
         loop.quit();
     });
     QObject::connect(&m_signals, &SignalWatch::caught, &sender, &dialog::JobSender::cancel);
@@ -209,10 +211,10 @@ ExitStatus HeadlessRun::send(const host::Ticket &ticket)
     loop.exec();
     const std::optional<int> signal = m_signals.signal();
     // A job that the signal canceled is not reported as an error.
-    if (problem && signal && problem->isEmpty())
+    if (error && signal && error->isEmpty())
         return endedBy(*signal);
-    if (problem) {
-        m_console.printError(*problem);
+    if (error) {
+        m_console.printError(*error);
         return signal ? statusOfSignal(*signal) : ExitStatus::Failed;
     }
     CommandChecks(m_command, m_console).printRequestId(sender);

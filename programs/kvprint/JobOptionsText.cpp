@@ -161,7 +161,7 @@ ErrorMessage parseJobName(CommandLine &command, const QString &value)
 }
 
 /// The content type of a file for lp. Labels are shown and sent as PDF, and declared to the server as PDF.
-ErrorMessage refuseFormat(CommandLine &, const QString &value)
+ErrorMessage rejectFormat(CommandLine &, const QString &value)
 {
     if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
         return std::nullopt;
@@ -182,8 +182,8 @@ constexpr std::pair<const char *, ErrorMessage (*)(CommandLine &, const QString 
     {"orientation-requested", parseOrientation},
     {"orientation", parseOrientation},
     {"landscape", parseLandscape},
-    {"raw", refuseFormat},
-    {"document-format", refuseFormat},
+    {"raw", rejectFormat},
+    {"document-format", rejectFormat},
     {"PageSize", parseMedia},
     {"PageRegion", parseMedia},
     {"media", parseMedia},
@@ -245,8 +245,8 @@ ErrorMessage parseHold(CommandLine &command, const QString &value)
 
 ErrorMessage parsePages(CommandLine &command, const QString &value)
 {
-    if (const std::optional<host::PageRangeError> error = host::checkPageRanges(value))
-        return error->message;
+    if (const auto checked = host::checkPageRanges(value); !checked)
+        return checked.error().message;
     command.settings.pageRanges = value;
     return std::nullopt;
 }

@@ -113,7 +113,7 @@ TEST(ConverterProgram, DrawsNoPixelsWhereShapesAreEnough)
 TEST(ConverterProgram, PdfsThatDoNotFitAreReported)
 {
     QBuffer closed;
-    const auto problem = host::storePdf("%PDF", &closed);
-    ASSERT_TRUE(problem);
-    EXPECT_EQ(problem->kind, host::DocumentErrorKind::NotStored);
+    const auto stored = host::storePdf("%PDF", &closed);
+    ASSERT_FALSE(stored);
+    EXPECT_EQ(stored.error().kind, host::DocumentErrorKind::NotStored);
 }

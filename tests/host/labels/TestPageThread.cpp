@@ -223,9 +223,10 @@ TEST_F(PageThreadTest, PageCheckReadsEverySizeThatPrintingAsksFor)
     EXPECT_EQ(done.count(), 1);
     for (int page = 0; page < 2'000; ++page)
         EXPECT_TRUE(pages->isPageSizeKnown(page)) << page;
-    const auto problem = pages->checkForPrinting();
-    ASSERT_TRUE(problem);
-    EXPECT_TRUE(problem->message.contains(QStringLiteral("page 1201 "))) << problem->message.toStdString();
+    const auto checked = pages->checkForPrinting();
+    ASSERT_FALSE(checked);
+    EXPECT_TRUE(checked.error().message.contains(QStringLiteral("page 1201 ")))
+        << checked.error().message.toStdString();
 }
 
 TEST_F(PageThreadTest, PageCheckWithAJobWaitingComesBeforeAllMeasuring)
