@@ -22,15 +22,15 @@ void ErrorBanner::follow(host::QueueSession &session)
     });
 }
 
-void ErrorBanner::setSendError(const QString &problem)
+void ErrorBanner::setSendError(const QString &error)
 {
-    m_sending = problem;
+    m_sending = error;
     refresh();
 }
 
-void ErrorBanner::setServerError(const std::optional<host::CupsError> &problem)
+void ErrorBanner::setServerError(const std::optional<host::CupsError> &error)
 {
-    m_server = problem;
+    m_server = error;
     refresh();
 }
 
@@ -49,14 +49,14 @@ void ErrorBanner::setChoiceErrors(const std::vector<host::ChoiceError> &choiceEr
 
 void ErrorBanner::refresh()
 {
-    QStringList problems{m_sending, m_server ? m_server->message : QString(), m_choiceErrors};
-    problems.removeAll(QString());
-    problems.removeDuplicates();
+    QStringList errors{m_sending, m_server ? m_server->message : QString(), m_choiceErrors};
+    errors.removeAll(QString());
+    errors.removeDuplicates();
     // The session keeps querying a server that it cannot reach, but only the user can supply a password or
     // trust.
     const bool needsUser = m_server && (m_server->kind == host::CupsErrorKind::NotAuthorized ||
                                         m_server->kind == host::CupsErrorKind::Untrusted);
-    setMessage(problems.join(u'\n'), needsUser ? tr("Try again") : QString());
+    setMessage(errors.join(u'\n'), needsUser ? tr("Try again") : QString());
 }
 
 } // namespace job

@@ -33,14 +33,14 @@ public:
     /// outlive the banner.
     void follow(host::QueueSession &session);
     /// The message about a job that was not sent; empty if there is no such error.
-    void setSendError(const QString &problem);
+    void setSendError(const QString &error);
     const QString &sendError() const { return m_sending; }
     /// Shows the errors about requested choices that the printer does not have, and the sentences about what
     /// its panel does instead.
     void setChoiceErrors(const std::vector<host::ChoiceError> &choiceErrors, const QStringList &replaced);
 
 private:
-    void setServerError(const std::optional<host::CupsError> &problem);
+    void setServerError(const std::optional<host::CupsError> &error);
     void refresh();
 
     QString m_sending;

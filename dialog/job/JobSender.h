@@ -43,7 +43,7 @@ Q_SIGNALS:
     void sent();
     /// Emitted when the job was not sent. Nothing is printed unless the text states otherwise. The text is
     /// empty if the user canceled the job.
-    void failed(const QString &problem);
+    void failed(const QString &error);
 };
 
 } // namespace job

@@ -152,10 +152,10 @@ QWidget *DialogPages::makeOptionsPage(QWidget *parent)
     return m_optionsPage;
 }
 
-void DialogPages::writeJobTo(host::JobRequest &draft) const
+void DialogPages::writeJobTo(host::JobRequest &request) const
 {
-    draft.settings = m_jobPage ? m_jobPage->settings() : m_job.settings;
-    draft.title = m_jobPage ? m_jobPage->title() : m_job.title;
+    request.settings = m_jobPage ? m_jobPage->settings() : m_job.settings;
+    request.title = m_jobPage ? m_jobPage->title() : m_job.title;
 }
 
 void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)

@@ -53,9 +53,9 @@ public:
     /// Shows labels that this renderer draws. It is not owned and must exist until the next call.
     void setRenderer(const host::LabelRenderer &renderer);
     /// Sets the job's name, orientation, hold and priority that the "Job" page shows when it is created.
-    void showJob(const host::JobRequest &draft) { m_job = draft; }
-    /// Writes these values, with the user's changes, to the draft. Without a server they are unchanged.
-    void writeJobTo(host::JobRequest &draft) const;
+    void showJob(const host::JobRequest &request) { m_job = request; }
+    /// Writes these values, with the user's changes, to the request. Without a server they are unchanged.
+    void writeJobTo(host::JobRequest &request) const;
     /// Shows the conflicts below the options that they involve, and those of the panel's options above the
     /// panel.
     void setConflicts(const std::vector<host::Conflict> &conflicts);

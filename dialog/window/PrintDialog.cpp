@@ -41,7 +41,7 @@ PrintDialog::PrintDialog(std::shared_ptr<const host::LabelDocument> document, ho
     m_pages->showJob(m_jobRequest);
     connectAll();
     attachSetup();
-    m_errorBanner->setSendError(requested.problem);
+    m_errorBanner->setSendError(requested.error);
 }
 
 PrintDialog::~PrintDialog()
@@ -123,11 +123,11 @@ void PrintDialog::connectAll()
         m_isSending = false;
         QDialog::accept();
     });
-    connect(&m_sender, &JobSender::failed, this, [this](const QString &problem) {
+    connect(&m_sender, &JobSender::failed, this, [this](const QString &error) {
         // An error keeps the window open, for example if the job could not be canceled.
-        const bool closes = std::exchange(m_closesAfterSending, false) && problem.isEmpty();
+        const bool closes = std::exchange(m_closesAfterSending, false) && error.isEmpty();
         stayOpen();
-        m_errorBanner->setSendError(problem);
+        m_errorBanner->setSendError(error);
         if (closes)
             QDialog::reject();
     });
@@ -302,7 +302,7 @@ void PrintDialog::done(int result)
     QDialog::done(result);
 }
 
-const QString &PrintDialog::problem() const
+const QString &PrintDialog::error() const
 {
     return m_errorBanner->sendError();
 }

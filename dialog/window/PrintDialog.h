@@ -47,7 +47,7 @@ struct RequestedSettings {
     /// The name of the job; absent for that of the document.
     std::optional<QString> title = {};
     /// An error that a banner shows when the dialog opens; empty if there is none.
-    QString problem = {};
+    QString error = {};
 };
 
 /// The print dialog: printer, paper and pages, the printer's own panel, a preview of the strip, and a
@@ -62,7 +62,7 @@ public:
     ~PrintDialog() override;
 
     /// Prints like the "Print" button, but does not ask about conflicts: passes the ticket to the sender.
-    /// When the sender has sent it, the dialog is accepted. Otherwise problem() describes the error, and all
+    /// When the sender has sent it, the dialog is accepted. Otherwise error() describes the error, and all
     /// settings are kept.
     void print();
     /// Prepares the job for sending without sending it. Returns the message of the error that prevents it;
@@ -71,7 +71,7 @@ public:
     /// Waits until the lengths of all labels have been measured, for output that depends on them.
     void finishMeasuring();
     /// Returns the message of the error of the last print(); empty if there is none.
-    const QString &problem() const;
+    const QString &error() const;
     /// Returns whether a job is being sent, or will be sent as soon as its document is checked.
     bool isSending() const { return m_isSending || m_printsWhenReady; }
     /// Returns the ticket that would be sent now; absent while no printer is known.

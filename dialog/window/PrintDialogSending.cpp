@@ -53,9 +53,9 @@ void PrintDialog::finishMeasuring()
 bool PrintDialog::isPrepared()
 {
     m_errorBanner->setSendError(prepare().value_or(QString()));
-    if (!problem().isEmpty())
+    if (!error().isEmpty())
         stayOpen();
-    return problem().isEmpty();
+    return error().isEmpty();
 }
 
 void PrintDialog::print()

@@ -12,7 +12,7 @@ bool isInk(QRgb pixel)
 {
     constexpr int white = 250;
     const int alpha = qAlpha(pixel);
-    // Most of a label is transparent, and the grey below costs more.
+    // Most of a label is transparent, and the gray below costs more.
     return alpha != 0 && (qGray(pixel) * alpha + 255 * (255 - alpha)) / 255 < white;
 }
 

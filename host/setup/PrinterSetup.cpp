@@ -206,7 +206,7 @@ void PrinterSetup::loadPanels(const PanelSource &source)
 
 std::optional<PanelError> PrinterSetup::panelError() const
 {
-    return m_panels ? m_panels->problem() : std::nullopt;
+    return m_panels ? m_panels->error() : std::nullopt;
 }
 
 QStringList PrinterSetup::claimedKeywords() const

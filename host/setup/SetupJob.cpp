@@ -6,11 +6,11 @@
 namespace host {
 inline namespace setup {
 
-Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &draft)
+Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &request)
 {
     return makeTicket({setup.destination(), setup.printerText(), setup.ppdOrNull(), setup.constraints(),
                        setup.choices(), setup.keptByRemedies(), setup.panelSettings(), setup.paper(),
-                       document, draft});
+                       document, request});
 }
 
 QString defaultTitle(const LabelDocument &document)

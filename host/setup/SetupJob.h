@@ -9,7 +9,7 @@ inline namespace setup {
 
 /// Returns the job as it would be sent to the printer now. Queries the panel for what it would save; nothing
 /// changes.
-Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &draft);
+Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const JobRequest &request);
 
 /// Returns the title that lp gives a job: the name of its first document.
 QString defaultTitle(const LabelDocument &document);

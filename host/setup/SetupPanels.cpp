@@ -19,7 +19,7 @@ void SetupPanels::load(const PanelSource &source, const PDEChoices &requested)
 {
     Result<ClaimedPanels, PanelError> panels = source.panelsFor(m_state);
     if (!panels) {
-        m_problem = panels.error();
+        m_error = panels.error();
         return;
     }
     m_panels = std::move(panels).value();
@@ -207,7 +207,7 @@ void SetupPanels::restore()
 {
     QString error;
     if (!panel()->restoreValuesAndReturnError(&error))
-        m_problem = PanelError{PanelErrorKind::NoPanel, error};
+        m_error = PanelError{PanelErrorKind::NoPanel, error};
 }
 
 void SetupPanels::apply(const PDEChoices &choices)

@@ -42,7 +42,7 @@ public:
     /// The callback object of the panel; null without a panel.
     PanelHost *panelHost() const { return m_panels.session ? &m_panels.session->host() : nullptr; }
     /// The error if the printer has options for a panel but the panel cannot be shown; absent otherwise.
-    const std::optional<PanelError> &problem() const { return m_problem; }
+    const std::optional<PanelError> &error() const { return m_error; }
     /// The PPD keywords that the panels handle.
     const QStringList &keywords() const { return m_panels.keywords; }
 
@@ -91,7 +91,7 @@ private:
 
     std::shared_ptr<DialogState> m_state;
     ClaimedPanels m_panels;
-    std::optional<PanelError> m_problem;
+    std::optional<PanelError> m_error;
     std::vector<ReplacedChoice> m_replaced;
     bool m_isOperating = false;
     mutable bool m_isAsking = false;

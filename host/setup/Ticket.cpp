@@ -41,12 +41,12 @@ JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
 {
     JobTicket job;
     job.destination = source.destination;
-    job.title = sendableTitle(source.draft.title);
+    job.title = sendableTitle(source.request.title);
     Destination known = source.destination;
     // The paper that replaces the missing one is not the user's default.
     if (isUserPaperMissing(source))
         std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == paperKeyword; });
-    job.options = makeJobOptions(known, source.ppd, ticket.choices, source.draft.settings);
+    job.options = makeJobOptions(known, source.ppd, ticket.choices, source.request.settings);
     sendShownPaper(ticket, job.options);
     for (const DocumentFile &file : source.document.files())
         job.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp});
@@ -73,8 +73,8 @@ Ticket makeTicket(const TicketSource &source)
     ticket.document = source.document.title();
     ticket.printer = source.printer;
     ticket.paper = source.paper;
-    ticket.pages = source.draft.pages;
-    ticket.settings = withDefaults(source.draft.settings, defaultPageSettings(source.destination));
+    ticket.pages = source.request.pages;
+    ticket.settings = withDefaults(source.request.settings, defaultPageSettings(source.destination));
     ticket.choices = choicesWithPanel(source);
     ticket.panel = source.panel;
     ticket.job = makeJob(source, ticket);

@@ -40,7 +40,7 @@ struct TicketSource {
     /// Absent without a PPD, or if the PPD has no usable paper.
     const std::optional<PpdPaper> &paper;
     const LabelDocument &document;
-    const JobRequest &draft;
+    const JobRequest &request;
 };
 
 /// Everything that is sent if the user presses Print now. All that shows or sends the job is made from this

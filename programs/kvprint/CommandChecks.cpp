@@ -51,10 +51,10 @@ bool CommandChecks::accepts(const host::PrinterSetup &setup) const
         m_console.printError(errorText(error, setup));
     if (!setup.choiceErrors().empty() && !m_command.force)
         return false;
-    const auto problem = setup.panelError();
-    if (problem)
-        m_console.printError(problem->message);
-    return !problem || problem->kind != host::PanelErrorKind::BrokenBundle;
+    const auto error = setup.panelError();
+    if (error)
+        m_console.printError(error->message);
+    return !error || error->kind != host::PanelErrorKind::BrokenBundle;
 }
 
 void CommandChecks::reportReplaced(const host::PrinterSetup &setup) const
@@ -82,8 +82,8 @@ bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup
 void CommandChecks::printRequestId(const dialog::QueueSender &sender) const
 {
     if (!m_command.quiet)
-        m_console.tellRequestId(sender.queue(), sender.jobId(),
-                                qMax(qsizetype(1), m_command.documents.size()));
+        m_console.printRequestId(sender.queue(), sender.jobId(),
+                                 qMax(qsizetype(1), m_command.documents.size()));
 }
 
 ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &setup)

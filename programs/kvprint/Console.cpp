@@ -19,7 +19,7 @@ void Console::printError(const QString &message) const
     error(QCoreApplication::applicationName() + QStringLiteral(": ") + message + u'\n');
 }
 
-void Console::tellRequestId(const QString &queue, int jobId, qsizetype documents) const
+void Console::printRequestId(const QString &queue, int jobId, qsizetype documents) const
 {
     // The line of lp, untranslated: programs that start lp parse it.
     const QString line =

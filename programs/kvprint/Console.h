@@ -19,7 +19,7 @@ struct Console {
     void printError(const QString &message) const;
     /// Writes the line that identifies a sent job to scripts. If standard output cannot be written, writes it
     /// to standard error, so that the user does not print again.
-    void tellRequestId(const QString &queue, int jobId, qsizetype documents) const;
+    void printRequestId(const QString &queue, int jobId, qsizetype documents) const;
 };
 
 } // namespace kvprint

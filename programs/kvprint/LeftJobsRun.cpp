@@ -22,7 +22,7 @@ LeftJobsRun::LeftJobsRun(const CommandLine &command, const Console &console)
 {
 }
 
-host::JobJournal::Left LeftJobsRun::parseLeft() const
+host::JobJournal::Left LeftJobsRun::readLeft() const
 {
     host::JobJournal::Left left = host::JobJournal().left();
     for (const QString &damage : left.damages)
@@ -30,9 +30,9 @@ host::JobJournal::Left LeftJobsRun::parseLeft() const
     return left;
 }
 
-void LeftJobsRun::tell() const
+void LeftJobsRun::report() const
 {
-    for (const host::JobRecord &job : parseLeft().jobs) {
+    for (const host::JobRecord &job : readLeft().jobs) {
         m_console.printError(host::leftJobSentence(job));
         m_console.printError(LeftJobsRunText::tr("\"kvprint --cancel-left %1\" cancels it, \"kvprint "
                                                  "--release-left %1\" prints what the server has of it.")
@@ -45,7 +45,7 @@ std::optional<host::JobRecord> LeftJobsRun::meant() const
     QStringList all;
     QStringList several;
     std::optional<host::JobRecord> found;
-    for (const host::JobRecord &job : parseLeft().jobs) {
+    for (const host::JobRecord &job : readLeft().jobs) {
         all.append(job.name());
         if (m_command.leftJob != job.name() && m_command.leftJob != job.identifier())
             continue;

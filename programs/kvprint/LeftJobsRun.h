@@ -17,12 +17,13 @@ public:
 
     /// Prints each job that is left, with the options that cancel or release it. Does not connect to a
     /// server.
-    void tell() const;
+    void report() const;
     /// Cancels or releases the job that the command line names. The server has the handler for passwords.
     ExitStatus settle(const host::CupsServer &server) const;
 
 private:
-    host::JobJournal::Left parseLeft() const;
+    /// Reads the journals of the jobs and prints the errors of damaged ones.
+    host::JobJournal::Left readLeft() const;
     /// Returns the job that the command line names; absent, with the reason printed, if there is none or
     /// more than one.
     std::optional<host::JobRecord> meant() const;

@@ -108,8 +108,8 @@ ExitStatus PrintRun::runVirtual()
 
 bool PrintRun::canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const
 {
-    if (const std::optional<QString> problem = dialog.prepare()) {
-        m_console.printError(*problem);
+    if (const std::optional<QString> error = dialog.prepare()) {
+        m_console.printError(*error);
         return false;
     }
     return CommandChecks(m_command, m_console).accepts(*dialog.ticket(), setup);
@@ -133,8 +133,8 @@ ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSen
     if (printsAtOnce) {
         sender.setScreenshotFunction([&] { return dialog::completePicture(dialog); });
         dialog.print();
-        if (!dialog.problem().isEmpty()) {
-            m_console.printError(dialog.problem());
+        if (!dialog.error().isEmpty()) {
+            m_console.printError(dialog.error());
             dialog.done(QDialog::Rejected);
             return ExitStatus::Failed;
         }
@@ -155,7 +155,7 @@ ExitStatus PrintRun::runOnQueue()
     host::CupsServer server = cupsServer(m_command);
     if (m_command.noDialog || m_command.task != Task::Print) {
         askOnTerminalFor(server);
-        LeftJobsRun(m_command, m_console).tell();
+        LeftJobsRun(m_command, m_console).report();
         return HeadlessRun(m_command, m_console, server, std::move(document)).run();
     }
 

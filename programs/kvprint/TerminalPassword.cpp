@@ -73,11 +73,11 @@ std::optional<QString> TerminalPassword::ask(const QString &prompt, Typing typin
     if (!isThere())
         return std::nullopt;
     const std::optional<QByteArray> line = readLine(prompt.toLocal8Bit() + ' ', typing);
-    say("\n");
+    write("\n");
     return line ? std::optional(QString::fromLocal8Bit(*line)) : std::nullopt;
 }
 
-void TerminalPassword::say(const QByteArray &text) const
+void TerminalPassword::write(const QByteArray &text) const
 {
     // A prompt that cannot be written does not prevent an answer.
     [[maybe_unused]] const ssize_t written =
@@ -88,7 +88,7 @@ std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt, T
 {
     const UnseenTyping typing(m_terminal);
     // Not earlier: letters typed before the echo is off would be visible, and would be lost.
-    say(prompt);
+    write(prompt);
     QByteArray line;
     // Rewritten from the start of its row after each key.
     const QByteArray row = prompt.mid(prompt.lastIndexOf('\n') + 1);
@@ -114,7 +114,7 @@ std::optional<QByteArray> TerminalPassword::readLine(const QByteArray &prompt, T
         else
             line += typed;
         if (shown == Typing::Shown)
-            say("\r\x1b[K" + row + line);
+            write("\r\x1b[K" + row + line);
     }
     return std::nullopt;
 }

@@ -27,7 +27,7 @@ public:
     std::optional<QString> ask(const QString &prompt, Typing typing = Typing::Unseen) const;
 
 private:
-    void say(const QByteArray &text) const;
+    void write(const QByteArray &text) const;
     /// Returns the bytes that are typed after the prompt until the end of the line.
     std::optional<QByteArray> readLine(const QByteArray &prompt, Typing shown) const;
 

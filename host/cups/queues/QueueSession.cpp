@@ -56,7 +56,7 @@ QueueSession::QueueSession(CupsServer server, const std::optional<QString> &want
     });
     connect(&m_loader, &PpdLoader::failed, this, [this](const QString &, const CupsError &error) {
         setPpdState(PpdState::Failed, error);
-        tell(error);
+        report(error);
     });
     chooseRequested();
 }
@@ -116,7 +116,7 @@ bool QueueSession::isPpdUnreachable() const
     return m_ppdError && isOutOfReach(*m_ppdError);
 }
 
-void QueueSession::tell(const CupsError &error)
+void QueueSession::report(const CupsError &error)
 {
     m_isOutOfReach = m_isOutOfReach || isOutOfReach(error);
     Q_EMIT failed(error);
@@ -126,7 +126,7 @@ void QueueSession::listFailed(const CupsError &error)
 {
     m_isSettled = true;
     m_listError = error;
-    tell(error);
+    report(error);
     Q_EMIT settled();
     // The state of a chosen queue is queried continuously, which reports when the server responds again.
     if (!m_chosen && isOutOfReach(error))
@@ -227,7 +227,7 @@ void QueueSession::setChosen(const Destination &destination)
             // A discovered printer has no queue while it is not used.
             const bool isMissing = error.kind == CupsErrorKind::NotFound;
             if (!isMissing || !m_chosen->isDiscovered)
-                tell(isMissing ? noSuchDestination() : error);
+                report(isMissing ? noSuchDestination() : error);
         });
     }
     if (isAnother)

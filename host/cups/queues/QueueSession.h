@@ -87,7 +87,7 @@ Q_SIGNALS:
 private:
     void listReceived();
     void listFailed(const CupsError &error);
-    void tell(const CupsError &error);
+    void report(const CupsError &error);
     void chooseRequested();
     void setChosen(const Destination &destination);
     void updateState(const Destination &destination);

@@ -95,12 +95,12 @@ TEST_F(PanelWatchTest, APanelThatRefusesTheJobIsToldAndAskedAgainByTheNextPrint)
         EXPECT_TRUE(window->isVisible());
         EXPECT_FALSE(window->isSending());
         EXPECT_TRUE(button("Print")->isEnabled());
-        EXPECT_EQ(window->problem(), message);
+        EXPECT_EQ(window->error(), message);
         EXPECT_TRUE(isTold(message));
     }
     panelView()->setProperty("refusesJobs", false);
     click(button("Print"));
     EXPECT_EQ(sender.jobs.size(), 1U);
-    EXPECT_EQ(window->problem(), QString());
+    EXPECT_EQ(window->error(), QString());
     EXPECT_EQ(window->result(), QDialog::Accepted);
 }

@@ -123,8 +123,7 @@ TEST_F(PrintDialogTest, CopiesAndPagesCountAndAreChecked)
     QApplication::processEvents();
     EXPECT_FALSE(button("Print")->isEnabled());
     window->print();
-    EXPECT_TRUE(window->problem().contains(QStringLiteral("last page is 3")))
-        << window->problem().toStdString();
+    EXPECT_TRUE(window->error().contains(QStringLiteral("last page is 3"))) << window->error().toStdString();
     EXPECT_TRUE(sender.jobs.empty());
 }
 
@@ -179,7 +178,7 @@ TEST_F(PrintDialogTest, AFailureLeavesTheDialogOpenAsSet)
     sender.problem.reset();
     click(button("Print"));
     EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(window->problem(), QString());
+    EXPECT_EQ(window->error(), QString());
 }
 
 TEST_F(PrintDialogTest, TheSummaryHasThePanelsLinesInTheirOrderBesideTheDialogsOwn)
@@ -277,7 +276,7 @@ TEST_F(PrintDialogTest, APrintingThatFailedLeavesTheStripAsItWas)
     click(box("mSpecialTapeChkBx"));
     sender.problem = QStringLiteral("The printer is on fire.");
     window->print();
-    EXPECT_EQ(window->problem(), *sender.problem);
+    EXPECT_EQ(window->error(), *sender.problem);
     click(box("mSpecialTapeChkBx"));
     EXPECT_EQ(stripInWords(), before);
     sender.problem.reset();
