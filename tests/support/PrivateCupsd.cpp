@@ -3,7 +3,6 @@
 
 #include "Waiting.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -17,6 +16,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <ctime>
 #include <grp.h>
 #include <pwd.h>
 #include <sys/prctl.h>
@@ -261,12 +261,13 @@ void PrivateCupsd::addQueue(const QString &name, const QByteArray &ppd, const QS
                     QStringLiteral("file:///dev/null"), QStringLiteral("-P"), file} +
             arguments);
     QFile::remove(file);
-    m_configured[name] = QDateTime::currentSecsSinceEpoch();
+    m_configured[name] = std::time(nullptr);
 }
 
 void PrivateCupsd::replacePpd(const QString &name, const QByteArray &ppd)
 {
-    EXPECT_TRUE(poll([&] { return QDateTime::currentSecsSinceEpoch() > m_configured.value(name); }));
+    // The clock that cupsd and file dates use: it lags behind that of QDateTime by up to a tick.
+    EXPECT_TRUE(poll([&] { return std::time(nullptr) > m_configured.value(name); }));
     addQueue(name, ppd);
 }
 

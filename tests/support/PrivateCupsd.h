@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include <chrono>
+#include <ctime>
 #include <vector>
 
 namespace test_support {
@@ -116,7 +117,7 @@ private:
     ReservedPort m_port;
     QString m_networkName;
     /// When addQueue() finished for each queue, in seconds since 1970.
-    QHash<QString, qint64> m_configured;
+    QHash<QString, std::time_t> m_configured;
 };
 
 } // namespace test_support
