@@ -3,7 +3,6 @@
 
 #include <dialog/window/PrintDialog.h>
 #include <dialog/window/StripPreview.h>
-#include <host/base/Units.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/samples/SamplePpd.h>
 #include <tests/support/TestHome.h>

@@ -59,9 +59,10 @@ QWidget *CustomValueFields::makeNumber(std::size_t index)
 {
     const host::PpdParameter &parameter = m_parameters[index];
     if (parameter.kind == host::PpdParameterKind::Points) {
-        auto *const field = new LengthField(parameter.minimum, parameter.maximum, this);
+        auto *const field =
+            new LengthField(host::Points(parameter.minimum), host::Points(parameter.maximum), this);
         connect(field, &LengthField::valueChanged, this, [this, field, index] {
-            m_parameters[index].number = field->points();
+            m_parameters[index].number = field->length().number();
             changed();
         });
         return field;
@@ -119,8 +120,8 @@ void CustomValueFields::showValues(const std::vector<host::PpdParameter> &parame
         host::PpdParameter &parameter = m_parameters[i];
         // Send the value that is shown, which is limited to the rounded limits of its field.
         if (auto *const length = qobject_cast<LengthField *>(m_fields[i])) {
-            length->showPoints(parameter.number);
-            parameter.number = length->points();
+            length->showLength(host::Points(parameter.number));
+            parameter.number = length->length().number();
         } else if (auto *const number = qobject_cast<NumberField *>(m_fields[i])) {
             number->showNumber(parameter.number);
             parameter.number = number->value();

@@ -10,7 +10,7 @@ inline namespace paper {
 
 namespace {
 
-QString limitsText(double minimum, double maximum)
+QString limitsText(host::Points minimum, host::Points maximum)
 {
     return CustomPaperFields::tr("%1 to %2", "the smallest and the largest length")
         .arg(exactLength(minimum), exactLength(maximum));
@@ -20,11 +20,15 @@ QString limitsText(double minimum, double maximum)
 
 CustomPaperFields::CustomPaperFields(const host::PpdCustomLimits &limits, QWidget *parent)
     : QWidget(parent)
-    , m_width(new LengthField(limits.smallest.width(), limits.largest.width(), this))
-    , m_length(new LengthField(limits.smallest.height(), limits.largest.height(), this))
+    , m_width(
+          new LengthField(host::Points(limits.smallest.width()), host::Points(limits.largest.width()), this))
+    , m_length(new LengthField(host::Points(limits.smallest.height()), host::Points(limits.largest.height()),
+                               this))
 {
-    m_width->setToolTip(limitsText(limits.smallest.width(), limits.largest.width()));
-    m_length->setToolTip(limitsText(limits.smallest.height(), limits.largest.height()));
+    m_width->setToolTip(
+        limitsText(host::Points(limits.smallest.width()), host::Points(limits.largest.width())));
+    m_length->setToolTip(
+        limitsText(host::Points(limits.smallest.height()), host::Points(limits.largest.height())));
     m_width->setAccessibleName(tr("Paper width"));
     m_length->setAccessibleName(tr("Paper length"));
     auto *const form = new QFormLayout(this);
@@ -39,13 +43,13 @@ CustomPaperFields::CustomPaperFields(const host::PpdCustomLimits &limits, QWidge
 
 QSizeF CustomPaperFields::size() const
 {
-    return {m_width->points(), m_length->points()};
+    return {m_width->length().number(), m_length->length().number()};
 }
 
 void CustomPaperFields::showSize(const QSizeF &points)
 {
-    m_width->showPoints(points.width());
-    m_length->showPoints(points.height());
+    m_width->showLength(host::Points(points.width()));
+    m_length->showLength(host::Points(points.height()));
 }
 
 QWidget *CustomPaperFields::lastField() const

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DocumentPaper.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <cmath>
 
@@ -11,18 +11,19 @@ inline namespace paper {
 namespace {
 
 /// In points. Lengths are precise to 0.01 mm.
-constexpr double exact = 0.01 * host::pointsPerMillimetre;
-/// In points. Documents round their page sizes to whole points or to 0.1 mm.
-constexpr double rounded = 0.5;
+constexpr host::Points exact(host::Millimetres(0.01));
+/// Documents round their page sizes to whole points or to 0.1 mm.
+constexpr host::Points rounded(0.5);
 
-/// Returns the difference of the widths or of the lengths in points, whichever is larger.
-double difference(const QSizeF &one, const QSizeF &other)
+/// Returns the difference of the widths or of the lengths, whichever is larger.
+host::Points difference(const QSizeF &one, const QSizeF &other)
 {
-    return std::max(std::abs(one.width() - other.width()), std::abs(one.height() - other.height()));
+    return host::Points(
+        std::max(std::abs(one.width() - other.width()), std::abs(one.height() - other.height())));
 }
 
 /// Returns the smaller of the differences with the first size upright and rotated.
-double differenceTurned(const QSizeF &one, const QSizeF &other)
+host::Points differenceTurned(const QSizeF &one, const QSizeF &other)
 {
     return std::min(difference(one, other), difference(one.transposed(), other));
 }
@@ -39,10 +40,10 @@ bool isWhole(double points)
 const host::PpdPaper *nearestPaper(const std::vector<host::PpdPaper> &papers, const QSizeF &page)
 {
     const host::PpdPaper *nearest = nullptr;
-    double least = rounded;
+    host::Points least = rounded;
     for (const QSizeF &size : {page, page.transposed()}) {
         for (const host::PpdPaper &paper : papers) {
-            const double each = difference(paper.size, size);
+            const host::Points each = difference(paper.size, size);
             if (each < least || (!nearest && each <= least)) {
                 nearest = &paper;
                 least = each;

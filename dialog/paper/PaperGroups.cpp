@@ -2,7 +2,7 @@
 #include "PaperGroups.h"
 
 #include <dialog/widgets/LengthUnit.h>
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <QCoreApplication>
 
@@ -19,7 +19,7 @@ struct PaperGroupsText {
 };
 
 /// In points. PPDs round widths in different ways.
-constexpr double sameWidth = 0.3 * host::pointsPerMillimetre;
+constexpr host::Millimetres sameWidth(0.3);
 
 } // namespace
 
@@ -27,13 +27,13 @@ std::vector<PaperGroup> groupPapers(const std::vector<host::PpdPaper> &papers)
 {
     std::vector<std::size_t> byWidth(papers.size());
     std::iota(byWidth.begin(), byWidth.end(), std::size_t{0});
-    const auto width = [&](std::size_t index) { return papers[index].size.width(); };
+    const auto width = [&](std::size_t index) { return host::Points(papers[index].size.width()); };
     std::ranges::stable_sort(byWidth, {}, width);
 
     std::vector<PaperGroup> groups;
-    double narrowest = 0;
+    host::Points narrowest;
     for (const std::size_t index : byWidth) {
-        if (groups.empty() || width(index) - narrowest > sameWidth) {
+        if (groups.empty() || width(index) - narrowest > host::Points(sameWidth)) {
             narrowest = width(index);
             groups.emplace_back();
         }

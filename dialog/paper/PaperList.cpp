@@ -37,10 +37,10 @@ bool matches(const QListWidgetItem &item, const QStringList &words)
 
 QString toolTipText(const host::PpdPaper &paper)
 {
-    return QStringLiteral("%1\n%2").arg(
-        QString::fromUtf8(paper.name),
-        PaperList::tr("%1 wide, %2 long")
-            .arg(exactLength(paper.size.width()), exactLength(paper.size.height())));
+    return QStringLiteral("%1\n%2").arg(QString::fromUtf8(paper.name),
+                                        PaperList::tr("%1 wide, %2 long")
+                                            .arg(exactLength(host::Points(paper.size.width())),
+                                                 exactLength(host::Points(paper.size.height()))));
 }
 
 /// Returns the texts of the papers, followed by the name if several papers have the same text.

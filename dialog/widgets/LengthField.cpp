@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LengthField.h"
 
+#include <algorithm>
+
 namespace dialog {
 inline namespace widgets {
 
-LengthField::LengthField(double minimum, double maximum, QWidget *parent)
-    : NumberField(minimum / pointsPer(userLengthUnit()), maximum / pointsPer(userLengthUnit()),
+LengthField::LengthField(host::Points minimum, host::Points maximum, QWidget *parent)
+    : NumberField(minimum / lengthOf(userLengthUnit()), maximum / lengthOf(userLengthUnit()),
                   exactDecimals(userLengthUnit()), parent)
     , m_unit(userLengthUnit())
     , m_minimum(minimum)
@@ -18,17 +20,17 @@ LengthField::LengthField(double minimum, double maximum, QWidget *parent)
     setReadOnly(isFixed);
     setButtonSymbols(isFixed ? NoButtons : UpDownArrows);
     if (isFixed)
-        setRange(minimum / pointsPer(m_unit), minimum / pointsPer(m_unit));
+        setRange(minimum / lengthOf(m_unit), minimum / lengthOf(m_unit));
 }
 
-double LengthField::points() const
+host::Points LengthField::length() const
 {
-    return isReadOnly() ? m_minimum : qBound(m_minimum, value() * pointsPer(m_unit), m_maximum);
+    return isReadOnly() ? m_minimum : std::clamp(value() * lengthOf(m_unit), m_minimum, m_maximum);
 }
 
-void LengthField::showPoints(double points)
+void LengthField::showLength(host::Points length)
 {
-    showNumber(qBound(minimum(), points / pointsPer(m_unit), maximum()));
+    showNumber(qBound(minimum(), length / lengthOf(m_unit), maximum()));
 }
 
 } // namespace widgets

@@ -13,18 +13,17 @@ class LengthField : public NumberField {
     Q_OBJECT
 
 public:
-    /// Both limits are in points.
-    LengthField(double minimum, double maximum, QWidget *parent);
+    LengthField(host::Points minimum, host::Points maximum, QWidget *parent);
 
-    /// Returns the length in points, always within the limits; exactly the minimum if the field is read-only.
-    double points() const;
-    /// Shows the length, given in points and limited to the range, without emitting a signal.
-    void showPoints(double points);
+    /// Returns the length, always within the limits; exactly the minimum if the field is read-only.
+    host::Points length() const;
+    /// Shows the length, limited to the range, without emitting a signal.
+    void showLength(host::Points length);
 
 private:
     LengthUnit m_unit;
-    double m_minimum;
-    double m_maximum;
+    host::Points m_minimum;
+    host::Points m_maximum;
 };
 
 } // namespace widgets

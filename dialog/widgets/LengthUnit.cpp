@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LengthUnit.h"
 
-#include <host/base/Units.h>
-
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -15,10 +13,10 @@ struct LengthUnitText {
     Q_DECLARE_TR_FUNCTIONS(dialog::widgets::LengthUnit)
 };
 
-QString numberText(double points, LengthUnit unit, int decimals)
+QString numberText(host::Points length, LengthUnit unit, int decimals)
 {
     const QLocale locale;
-    QString number = locale.toString(points / pointsPer(unit), 'f', decimals);
+    QString number = locale.toString(length / lengthOf(unit), 'f', decimals);
     while (number.endsWith(locale.zeroDigit()))
         number.chop(1);
     if (number.endsWith(locale.decimalPoint()))
@@ -26,9 +24,9 @@ QString numberText(double points, LengthUnit unit, int decimals)
     return number;
 }
 
-QString exactNumber(double points, LengthUnit unit)
+QString exactNumber(host::Points length, LengthUnit unit)
 {
-    return numberText(points, unit, exactDecimals(unit));
+    return numberText(length, unit, exactDecimals(unit));
 }
 
 QString withUnit(const QString &number, LengthUnit unit)
@@ -45,9 +43,10 @@ LengthUnit userLengthUnit()
                                                                       : LengthUnit::Millimetre;
 }
 
-double pointsPer(LengthUnit unit)
+host::Points lengthOf(LengthUnit unit)
 {
-    return unit == LengthUnit::Inch ? 72.0 : host::pointsPerMillimetre;
+    return unit == LengthUnit::Inch ? host::Points(host::pointsPerInch)
+                                    : host::Points(host::Millimetres(1.0));
 }
 
 QString unitText(LengthUnit unit)
@@ -61,23 +60,24 @@ int exactDecimals(LengthUnit unit)
     return unit == LengthUnit::Inch ? 4 : 2;
 }
 
-QString exactLength(double points)
+QString exactLength(host::Points length)
 {
     const LengthUnit unit = userLengthUnit();
-    return withUnit(exactNumber(points, unit), unit);
+    return withUnit(exactNumber(length, unit), unit);
 }
 
-QString roundLength(double points)
+QString roundLength(host::Points length)
 {
     const LengthUnit unit = userLengthUnit();
-    return withUnit(numberText(points, unit, unit == LengthUnit::Inch ? 2 : 1), unit);
+    return withUnit(numberText(length, unit, unit == LengthUnit::Inch ? 2 : 1), unit);
 }
 
 QString exactSize(const QSizeF &points)
 {
     const LengthUnit unit = userLengthUnit();
     return LengthUnitText::tr("%1 \u00d7 %2 %3", "width, length and their unit")
-        .arg(exactNumber(points.width(), unit), exactNumber(points.height(), unit), unitText(unit));
+        .arg(exactNumber(host::Points(points.width()), unit),
+             exactNumber(host::Points(points.height()), unit), unitText(unit));
 }
 
 } // namespace widgets

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StripPreview.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 #include <host/strip/CutPlanText.h>
 
 #include <QEvent>
@@ -86,13 +86,13 @@ void StripPreview::layOut()
         horizontalScrollBar()->setRange(0, 0);
         return;
     }
-    const double tapeWidth = m_paper.width() * host::millimetresPerPoint;
+    const host::Millimetres tapeWidth(host::Points(m_paper.width()));
     // The layout needs 18 units above and below the tape, and some spacing. The room of the scroll bar is
     // always reserved: a strip that used it while the bar is hidden would need the bar again.
     const int height = maximumViewportSize().height() - horizontalScrollBar()->sizeHint().height();
     const double room = height - 19.0 * unitPixels();
-    m_pixelsPerMillimetre = qBound(minScale, room / tapeWidth, maxScale);
-    m_layout.emplace(*m_plan, tapeWidth, unitPixels() / m_pixelsPerMillimetre);
+    m_pixelsPerMillimetre = qBound(minScale, room / tapeWidth.number(), maxScale);
+    m_layout.emplace(*m_plan, tapeWidth, host::Millimetres(unitPixels() / m_pixelsPerMillimetre));
     const int length = qRound(m_layout->bounds().width() * m_pixelsPerMillimetre);
     horizontalScrollBar()->setRange(0, qMax(0, length - viewport()->width()));
     horizontalScrollBar()->setPageStep(viewport()->width());

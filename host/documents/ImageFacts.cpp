@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ImageFacts.h"
 
+#include <host/base/Length.h>
+
 #include <QtEndian>
 
 namespace host {
@@ -8,7 +10,7 @@ inline namespace documents {
 
 namespace {
 
-constexpr double inchesPerMetre = 1.0 / 0.0254;
+constexpr double inchesPerMetre = 1.0 / metresPerInch;
 
 /// Reads big-endian numbers; bytes beyond the end read as 0.
 class Bytes {

@@ -5,6 +5,8 @@
 #include "ImageFacts.h"
 #include "PdfPages.h"
 
+#include <host/base/Length.h>
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
@@ -18,7 +20,6 @@ struct ImagePdfText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-constexpr double pointsPerMetre = 72.0 / 0.0254;
 /// The memory that Qt's readers allocate at most for one image: 32 million pixels of four bytes.
 constexpr qint64 maxDecodedBytes = 128LL * 1024 * 1024;
 
@@ -128,10 +129,10 @@ public:
     /// The size of the page in points, after the rotation that the image's metadata requests.
     QSizeF pageSize() const
     {
-        const double usual = defaultImageResolution / 0.0254;
+        const double usual = defaultImageResolution / metresPerInch;
         const QSizeF resolution = m_facts.resolution.value_or(QSizeF(usual, usual));
-        const QSizeF size(m_size.width() / resolution.width() * pointsPerMetre,
-                          m_size.height() / resolution.height() * pointsPerMetre);
+        const QSizeF size(Points(Metres(m_size.width() / resolution.width())).number(),
+                          Points(Metres(m_size.height() / resolution.height())).number());
         return isTurned() ? size.transposed() : size;
     }
 

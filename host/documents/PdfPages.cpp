@@ -33,7 +33,7 @@ Result<void, DocumentErrorReason> checkLoaded(QPdfDocument::Error error)
 
 double withinLimits(double side)
 {
-    return std::isnan(side) ? 1.0 : qBound(1.0, side, PdfPages::maxSide);
+    return std::isnan(side) ? 1.0 : qBound(1.0, side, PdfPages::maxSide.number());
 }
 
 } // namespace
@@ -107,10 +107,10 @@ Result<void, DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)
     if (!(size.width() >= 1.0 && size.height() >= 1.0))
         return DocumentErrorReason{DocumentErrorKind::BadPage,
                                    PdfPagesText::tr("page %1 has no area").arg(page + 1)};
-    if (!(size.width() <= maxSide && size.height() <= maxSide))
+    if (!(size.width() <= maxSide.number() && size.height() <= maxSide.number()))
         return DocumentErrorReason{DocumentErrorKind::BadPage, PdfPagesText::tr("page %1 is longer than %2 m")
                                                                    .arg(page + 1)
-                                                                   .arg(maxSide / 72.0 * 0.0254, 0, 'f', 2)};
+                                                                   .arg(Metres(maxSide).number(), 0, 'f', 2)};
     return {};
 }
 

@@ -3,6 +3,8 @@
 
 #include "DocumentError.h"
 
+#include <host/base/Length.h>
+
 #include <QFile>
 #include <QImage>
 #include <QPdfDocument>
@@ -29,8 +31,8 @@ struct PdfSource {
 /// time, so each call waits while another thread draws a page.
 class PdfPages {
 public:
-    /// The max side of a page, in points: the usual limit of PDF readers.
-    static constexpr double maxSide = 14400.0;
+    /// The max side of a page: the usual limit of PDF readers.
+    static constexpr Points maxSide{14400.0};
     /// The number of pages that open() checks. Reading the sizes of thousands of pages takes seconds; the
     /// other pages are checked before they are printed.
     static constexpr int checkedAtOnce = 500;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SvgSize.h"
 
+#include <host/base/Length.h>
+
 #include <QStringList>
 #include <QXmlStreamAttributes>
 
@@ -16,10 +18,19 @@ struct Unit {
     double pixels;
 };
 
-/// A number without a unit is in px.
+constexpr double pixelsPerInch = 96.0;
+constexpr double pixelsPerMillimetre = pixelsPerInch / millimetresPerInch;
+constexpr double pixelsPerPoint = pixelsPerInch / pointsPerInch;
+
+/// A number without a unit is in px. A pica (pc) is 12 points, a Q is a quarter of a millimetre.
 constexpr Unit units[] = {
-    {u"px", 1.0},         {u"mm", 96.0 / 25.4}, {u"cm", 96.0 / 2.54}, {u"in", 96.0},
-    {u"pt", 96.0 / 72.0}, {u"pc", 16.0},        {u"Q", 96.0 / 101.6},
+    {u"px", 1.0},
+    {u"mm", pixelsPerMillimetre},
+    {u"cm", 10.0 * pixelsPerMillimetre},
+    {u"in", pixelsPerInch},
+    {u"pt", pixelsPerPoint},
+    {u"pc", 12.0 * pixelsPerPoint},
+    {u"Q", pixelsPerMillimetre / 4.0},
 };
 
 /// Returns the number; infinity if it is too large for one.

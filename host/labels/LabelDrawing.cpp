@@ -3,7 +3,7 @@
 
 #include "InkSpan.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <QPainter>
 
@@ -33,7 +33,7 @@ bool isLying(QSizeF size)
 LabelDrawing::LabelDrawing(const LabelDocument &document, QSizeF paper)
     : m_document(document)
     , m_paper(paper)
-    , m_label(paper.transposed() * millimetresPerPoint)
+    , m_label(inMillimetres(paper.transposed()))
 {
 }
 
@@ -47,7 +47,7 @@ bool LabelDrawing::isTurned(int page) const
 
 QSizeF LabelDrawing::pageOnStrip(int page) const
 {
-    const QSizeF size = m_document.pageSize(page) * millimetresPerPoint;
+    const QSizeF size = inMillimetres(m_document.pageSize(page));
     return isTurned(page) ? size : size.transposed();
 }
 
@@ -107,11 +107,11 @@ LabelExtent LabelDrawing::measure(int page) const
     const QImage image = m_document.renderTransparent(page, drawn);
     const std::optional<InkSpan> ink = turned ? inkedColumns(image, area) : inkedRows(image, area);
     if (!ink)
-        return {.length = m_label.width(), .whollyBlank = true};
+        return {.length = Millimetres(m_label.width()), .whollyBlank = true};
     const int before = ink->first - (turned ? area.left() : area.top());
     const int after = label.width() - before - (ink->end - ink->first);
-    const double millimetres = m_label.width() / label.width();
-    return {m_label.width(), before * millimetres, after * millimetres, false};
+    const Millimetres pixel(m_label.width() / label.width());
+    return {Millimetres(m_label.width()), before * pixel, after * pixel, false};
 }
 
 } // namespace labels

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <host/base/Length.h>
+
 namespace host {
 inline namespace labels {
 
-/// A page on the tape; lengths along the tape in millimetres.
+/// A page on the tape; lengths along the tape.
 struct LabelExtent {
-    double length = 0.0;
+    Millimetres length = {};
     /// Blank before the first and after the last mark on the label.
-    double leadingBlank = 0.0;
-    double trailingBlank = 0.0;
+    Millimetres leadingBlank = {};
+    Millimetres trailingBlank = {};
     /// Whether nothing is printed on the label.
     bool whollyBlank = false;
     /// Whether the blank is known. Until then it counts as 0.

@@ -3,7 +3,7 @@
 
 #include "PpdNumber.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <QSet>
 
@@ -99,7 +99,7 @@ std::optional<PpdCustomLimits> PpdFile::customLimits() const
         return std::nullopt;
     // Many PPDs allow sizes from 0; a paper smaller than 1 point is not usable.
     constexpr double min = 1.0;
-    constexpr double max = PpdPaperSizes::maxLongSide * 1000.0 * pointsPerMillimetre;
+    constexpr double max = Points(PpdPaperSizes::maxLongSide).number();
     const PpdCustomLimits limits{
         {qMax(min, double{m_ppd->custom_min[0]}), qMax(min, double{m_ppd->custom_min[1]})},
         {qMin(max, double{m_ppd->custom_max[0]}), qMin(max, double{m_ppd->custom_max[1]})}};

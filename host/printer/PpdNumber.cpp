@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdNumber.h"
 
-#include <host/base/Units.h>
-
 #include <algorithm>
 #include <charconv>
 #include <string_view>
@@ -13,9 +11,14 @@ inline namespace printer {
 namespace {
 
 /// The units that the filters of the server know, and their lengths in points.
-constexpr std::pair<const char *, double> units[] = {
-    {"", 1.0},           {"pt", 1.0},         {"in", 72.0},         {"ft", 864.0},
-    {"cm", 72.0 / 2.54}, {"mm", 72.0 / 25.4}, {"m", 72.0 / 0.0254},
+constexpr std::pair<const char *, Points> units[] = {
+    {"", Points(1.0)},
+    {"pt", Points(1.0)},
+    {"in", Points(pointsPerInch)},
+    {"ft", Points(12.0 * pointsPerInch)},
+    {"cm", Points(Millimetres(10.0))},
+    {"mm", Points(Millimetres(1.0))},
+    {"m", Points(Metres(1.0))},
 };
 
 /// Parses digits with an optional sign and decimal point; absent for everything else, including blanks,
@@ -42,7 +45,7 @@ qsizetype unitStart(const QByteArray &length)
 
 } // namespace
 
-std::optional<double> lengthInPoints(const QByteArray &length)
+std::optional<Points> parseLength(const QByteArray &length)
 {
     const qsizetype start = unitStart(length);
     const QByteArray unit = length.mid(start);
@@ -62,11 +65,11 @@ std::optional<QSizeF> customPaperSize(const QByteArray &name)
         return std::nullopt;
     const QByteArray number = name.mid(prefix.size(), cross - prefix.size());
     const QByteArray unit = name.mid(unitStart(name));
-    const std::optional<double> width = decimalNumber(number) ? lengthInPoints(number + unit) : std::nullopt;
-    const std::optional<double> length = lengthInPoints(name.mid(cross + 1));
+    const std::optional<Points> width = decimalNumber(number) ? parseLength(number + unit) : std::nullopt;
+    const std::optional<Points> length = parseLength(name.mid(cross + 1));
     if (!width || !length)
         return std::nullopt;
-    return QSizeF(*width, *length);
+    return QSizeF(width->number(), length->number());
 }
 
 QByteArray ppdNumber(double number)
@@ -79,10 +82,15 @@ QByteArray ppdNumber(double number)
     return text == "-0" ? QByteArray("0") : text;
 }
 
+QByteArray ppdLength(Points length)
+{
+    return ppdNumber(Millimetres(length).number()) + "mm";
+}
+
 QByteArray customPaperName(const QSizeF &points)
 {
-    return "Custom." + ppdNumber(points.width() * millimetresPerPoint) + 'x' +
-           ppdNumber(points.height() * millimetresPerPoint) + "mm";
+    return "Custom." + ppdNumber(Millimetres(Points(points.width())).number()) + 'x' +
+           ppdLength(Points(points.height()));
 }
 
 } // namespace printer

@@ -3,7 +3,7 @@
 
 #include "PpdNumber.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <QCoreApplication>
 
@@ -120,7 +120,7 @@ bool readValue(PpdParameter &parameter, const ppd_cparam_t &source)
 QByteArray plainValue(const PpdParameter &parameter)
 {
     if (parameter.kind == PpdParameterKind::Points)
-        return ppdNumber(parameter.number * millimetresPerPoint) + "mm";
+        return ppdLength(Points(parameter.number));
     return parameter.isNumber() ? ppdNumber(parameter.number) : parameter.characters.toUtf8();
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PpdPaperSizes.h"
 
-#include <host/base/Units.h>
-
 #include <QList>
 #include <QtNumeric>
 
@@ -49,12 +47,11 @@ void PpdPaperSizes::addStatement(std::string_view statement, std::string_view va
 
 bool PpdPaperSizes::isUsable(const QSizeF &size)
 {
-    constexpr double pointsPerMetre = 1000.0 * pointsPerMillimetre;
-    const double shortSide = qMin(size.width(), size.height());
-    const double longSide = qMax(size.width(), size.height());
+    const Points shortSide(qMin(size.width(), size.height()));
+    const Points longSide(qMax(size.width(), size.height()));
     // Every comparison with NaN is false, so NaN is not usable.
-    return size.width() > 0.0 && size.height() > 0.0 && shortSide <= maxShortSide * pointsPerMetre &&
-           longSide <= maxLongSide * pointsPerMetre;
+    return size.width() > 0.0 && size.height() > 0.0 && shortSide <= Points(maxShortSide) &&
+           longSide <= Points(maxLongSide);
 }
 
 std::optional<QSizeF> PpdPaperSizes::size(const QByteArray &paper) const

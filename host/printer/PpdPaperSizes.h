@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <host/base/Length.h>
+
 #include <QByteArray>
 #include <QHash>
 #include <QMarginsF>
@@ -21,11 +23,11 @@ public:
     /// quotes. Ignores statements of other kinds.
     void addStatement(std::string_view statement, std::string_view value);
 
-    /// The maximum size of a paper, in metres: longer than any roll of labels or of continuous paper, and as
+    /// The maximum size of a paper: longer than any roll of labels or of continuous paper, and as
     /// wide as the widest printers. Drawing such a paper takes a moment; a paper of a million kilometres
     /// would use up all memory.
-    static constexpr double maxLongSide = 100.0;
-    static constexpr double maxShortSide = 5.0;
+    static constexpr Metres maxLongSide{100.0};
+    static constexpr Metres maxShortSide{5.0};
     /// Returns whether width and length, in points, are numbers greater than 0 and within the maximum size in
     /// either orientation.
     static bool isUsable(const QSizeF &size);

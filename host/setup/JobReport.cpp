@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobReport.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 #include <host/cups/jobs/LpCommand.h>
 #include <host/documents/StandardInput.h>
 #include <host/strip/CutPlanText.h>
@@ -60,9 +60,10 @@ QJsonArray optionsJson(const JobTicket &ticket)
     return list;
 }
 
-double hundredths(double points)
+/// Returns the length in millimetres, rounded to hundredths.
+double hundredths(Points length)
 {
-    return std::round(points * millimetresPerPoint * 100.0) / 100.0;
+    return std::round(Millimetres(length).number() * 100.0) / 100.0;
 }
 
 /// Returns the paths of the documents; "-" for standard input.
@@ -79,8 +80,8 @@ QJsonObject paperJson(const PpdPaper &paper)
 {
     return {{"name", QString::fromUtf8(paper.name)},
             {"text", paper.text},
-            {"width", hundredths(paper.size.width())},
-            {"length", hundredths(paper.size.height())}};
+            {"width", hundredths(Points(paper.size.width()))},
+            {"length", hundredths(Points(paper.size.height()))}};
 }
 
 /// A list, not an object: the paper first, then the choices in the order in which they were made.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Ticket.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <algorithm>
 
@@ -96,9 +96,9 @@ CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const Labe
     for (const int page : ticket.pages.pages)
         extents[static_cast<std::size_t>(page)] = renderer.extent(page, blank);
     // The top of the label leaves the printer first.
-    std::optional<double> leadingMargin;
+    std::optional<Millimetres> leadingMargin;
     if (ticket.paper && ticket.paper->margins)
-        leadingMargin = ticket.paper->margins->top() * millimetresPerPoint;
+        leadingMargin = Millimetres(Points(ticket.paper->margins->top()));
     const std::vector<int> order = printOrder(pagesByDocument(ticket.pages.pages, document.pageCounts()),
                                               ticket.pages.copies, ticket.pages.collate, ticket.pages.order);
     return CutPlan::make(ticket.cuts, order, extents, leadingMargin);

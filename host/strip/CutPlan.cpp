@@ -30,7 +30,7 @@ LabelEnd labelEnd(const CutSettings &settings, std::size_t position, std::size_t
 
 PlannedLabel plannedLabel(const CutSettings &settings, int page, const LabelExtent &extent)
 {
-    PlannedLabel label{page, extent.length, 0.0, {}, extent.isMeasured || !settings.removeBlank};
+    PlannedLabel label{page, extent.length, {}, {}, extent.isMeasured || !settings.removeBlank};
     if (settings.removeBlank && !extent.whollyBlank) {
         label.trimmedBefore = extent.leadingBlank;
         label.length -= extent.leadingBlank + extent.trailingBlank;
@@ -44,7 +44,7 @@ std::vector<Piece> piecesOf(const std::vector<PlannedLabel> &labels)
     bool begin = true;
     for (std::size_t i = 0; i < labels.size(); ++i) {
         if (begin)
-            pieces.push_back({i, 0, 0.0, false, true});
+            pieces.push_back({i, 0, {}, false, true});
         Piece &piece = pieces.back();
         ++piece.labelCount;
         piece.length += labels[i].length;
@@ -58,7 +58,7 @@ std::vector<Piece> piecesOf(const std::vector<PlannedLabel> &labels)
 } // namespace
 
 CutPlan CutPlan::make(const CutSettings &settings, std::span<const int> pagesInOrder,
-                      std::span<const LabelExtent> extents, std::optional<double> leadingMargin)
+                      std::span<const LabelExtent> extents, std::optional<Millimetres> leadingMargin)
 {
     CutPlan plan;
     plan.m_settings = settings;
@@ -75,10 +75,15 @@ CutPlan CutPlan::make(const CutSettings &settings, std::span<const int> pagesInO
     return plan;
 }
 
-double CutPlan::stripLength() const
+Millimetres CutPlan::stripLength() const
 {
-    return std::accumulate(m_labels.begin(), m_labels.end(), 0.0,
-                           [](double sum, const PlannedLabel &label) { return sum + label.length; });
+    return std::accumulate(m_labels.begin(), m_labels.end(), Millimetres(),
+                           [](Millimetres sum, const PlannedLabel &label) { return sum + label.length; });
+}
+
+Millimetres CutPlan::tapeUsed() const
+{
+    return m_labels.empty() ? Millimetres() : stripLength() + m_leadingMargin.value_or(Millimetres());
 }
 
 } // namespace strip

@@ -30,10 +30,10 @@ struct LabelEnd {
 struct PlannedLabel {
     /// The document's page, counted from 0.
     int page = 0;
-    /// The length along the tape, in millimetres, after blank tape has been removed.
-    double length = 0.0;
-    /// The length of the blank tape that was removed before the first mark of the label, in millimetres.
-    double trimmedBefore = 0.0;
+    /// The length along the tape after blank tape has been removed.
+    Millimetres length = {};
+    /// The length of the blank tape that was removed before the first mark of the label.
+    Millimetres trimmedBefore = {};
     /// What follows the label.
     LabelEnd end;
     /// Whether the length is final: either no blank tape is removed, or it has been measured.
@@ -49,8 +49,8 @@ struct Piece {
     std::size_t firstLabel = 0;
     /// The number of labels in the piece, at least 1.
     std::size_t labelCount = 0;
-    /// The length along the tape, in millimetres.
-    double length = 0.0;
+    /// The length along the tape.
+    Millimetres length = {};
     /// Whether the end of the piece stays in the printer.
     bool held = false;
     /// Whether the lengths of all its labels are final.
@@ -64,24 +64,25 @@ struct Piece {
 class CutPlan {
 public:
     /// Makes the plan for the pages in print order. The extents are those of the document's pages; every page
-    /// in print order is an index into them. The leading margin, in millimetres, is the tape that the printer
+    /// in print order is an index into them. The leading margin is the tape that the printer
     /// feeds before the first label; it is absent if the printer does not report it.
     static CutPlan make(const CutSettings &settings, std::span<const int> pagesInOrder,
-                        std::span<const LabelExtent> extents, std::optional<double> leadingMargin);
+                        std::span<const LabelExtent> extents, std::optional<Millimetres> leadingMargin);
 
     /// The settings from which the plan was made.
     const CutSettings &settings() const { return m_settings; }
     /// The labels in print order, and the pieces in the order in which they leave the printer.
     const std::vector<PlannedLabel> &labels() const { return m_labels; }
     const std::vector<Piece> &pieces() const { return m_pieces; }
-    /// The tape that is fed before the first label, in millimetres; absent if the printer does not report it.
-    const std::optional<double> &leadingMargin() const { return m_leadingMargin; }
+    /// The tape that is fed before the first label; absent if the printer does not report it.
+    const std::optional<Millimetres> &leadingMargin() const { return m_leadingMargin; }
     /// Whether all lengths are final. Until then they are suitable for drawing, but not for figures.
     bool isMeasured() const { return m_isMeasured; }
-    /// The sum of the lengths of all labels, in millimetres.
-    double stripLength() const;
-    /// The tape that the job uses: strip and leading margin, in millimetres.
-    double tapeUsed() const { return stripLength() + m_leadingMargin.value_or(0.0); }
+    /// The sum of the lengths of all labels.
+    Millimetres stripLength() const;
+    /// The tape that the job uses: strip and leading margin; 0 without labels, which the printer does not
+    /// feed tape for.
+    Millimetres tapeUsed() const;
     /// Whether the end of the strip stays in the printer; false without labels.
     bool isEndHeld() const { return !m_labels.empty() && m_labels.back().end.held; }
 
@@ -89,7 +90,7 @@ public:
 
 private:
     CutSettings m_settings;
-    std::optional<double> m_leadingMargin;
+    std::optional<Millimetres> m_leadingMargin;
     std::vector<PlannedLabel> m_labels;
     std::vector<Piece> m_pieces;
     bool m_isMeasured = true;

@@ -38,14 +38,14 @@ QString fullCutSentence(const CutPlan &plan)
 }
 
 /// Rounds to a hundredth of a millimetre: further digits only result from the conversion from points.
-double rounded(double millimetres)
+double rounded(Millimetres length)
 {
-    return std::round(millimetres * 100.0) / 100.0;
+    return std::round(length.number() * 100.0) / 100.0;
 }
 
-QJsonValue lengthJson(double millimetres, bool isMeasured)
+QJsonValue lengthJson(Millimetres length, bool isMeasured)
 {
-    return isMeasured ? QJsonValue(rounded(millimetres)) : QJsonValue();
+    return isMeasured ? QJsonValue(rounded(length)) : QJsonValue();
 }
 
 QJsonObject labelJson(const PlannedLabel &label)
@@ -65,10 +65,10 @@ QJsonObject labelJson(const PlannedLabel &label)
 
 } // namespace
 
-QString lengthText(double millimetres)
+QString lengthText(Millimetres length)
 {
     const QLocale locale;
-    QString number = locale.toString(millimetres, 'f', 1);
+    QString number = locale.toString(length.number(), 'f', 1);
     const QString wholeTail = locale.decimalPoint() + locale.zeroDigit();
     if (number.endsWith(wholeTail))
         number.chop(wholeTail.size());
@@ -127,7 +127,7 @@ QJsonObject cutPlanJson(const CutPlan &plan)
                                   {"length", lengthJson(piece.length, piece.isMeasured)},
                                   {"held", piece.held}});
     }
-    const std::optional<double> &margin = plan.leadingMargin();
+    const std::optional<Millimetres> &margin = plan.leadingMargin();
     return {{"labels", labels},
             {"pieces", pieces},
             {"leadingMargin", margin ? QJsonValue(rounded(*margin)) : QJsonValue()},

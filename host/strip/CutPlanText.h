@@ -11,7 +11,7 @@ namespace host {
 inline namespace strip {
 
 /// Returns a length such as "36.5 mm" in the number format of the user's locale, with at most one decimal.
-QString lengthText(double millimetres);
+QString lengthText(Millimetres length);
 
 /// Returns the length of the tape that the plan uses or, until it is final, a text that it is being measured.
 QString tapeText(const CutPlan &plan);

@@ -18,16 +18,16 @@ constexpr double afterEnd = 26.0;
 
 } // namespace
 
-StripLayout::StripLayout(const CutPlan &plan, double tapeWidth, double unit)
+StripLayout::StripLayout(const CutPlan &plan, Millimetres tapeWidth, Millimetres unit)
     : m_plan(plan)
-    , m_tapeWidth(tapeWidth)
-    , m_unit(unit)
+    , m_tapeWidth(tapeWidth.number())
+    , m_unit(unit.number())
 {
-    double x = plan.labels().empty() ? 0.0 : plan.leadingMargin().value_or(0.0);
+    double x = plan.labels().empty() ? 0.0 : plan.leadingMargin().value_or(Millimetres()).number();
     m_labelStarts.reserve(plan.labels().size());
     for (const PlannedLabel &planned : plan.labels()) {
         m_labelStarts.push_back(x);
-        x += planned.length + (planned.end.fullCut ? gapAfterCut * unit : 0.0);
+        x += planned.length.number() + (planned.end.fullCut ? gapAfterCut * m_unit : 0.0);
     }
 }
 
@@ -45,7 +45,7 @@ QRectF StripLayout::leadingMargin() const
 
 QRectF StripLayout::label(std::size_t index) const
 {
-    return {m_labelStarts[index], 0.0, m_plan.labels()[index].length, m_tapeWidth};
+    return {m_labelStarts[index], 0.0, m_plan.labels()[index].length.number(), m_tapeWidth};
 }
 
 QRectF StripLayout::piece(std::size_t index) const

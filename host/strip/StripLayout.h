@@ -18,11 +18,10 @@ inline namespace strip {
 /// the tape is drawn small: one unit is about a third of the height of a line of text.
 class StripLayout {
 public:
-    /// The plan is not owned and must outlive the layout. The width across the tape and the unit are in
-    /// millimetres.
-    StripLayout(const CutPlan &plan, double tapeWidth, double unit);
+    /// The plan is not owned and must outlive the layout. The width is that across the tape.
+    StripLayout(const CutPlan &plan, Millimetres tapeWidth, Millimetres unit);
 
-    /// What the layout was made of; lengths in millimetres.
+    /// What the layout was made of; lengths as differences of coordinates.
     const CutPlan &plan() const { return m_plan; }
     double tapeWidth() const { return m_tapeWidth; }
     double unit() const { return m_unit; }

@@ -157,7 +157,7 @@ void StripPainter::paintPicture(QPainter &painter, std::size_t index, const QIma
         painter.translate(-label.center());
     }
     // Draws the whole image clipped, so that a PDF contains it only once, however often the label is printed.
-    const QRectF whole(QPointF(label.left() - planned.trimmedBefore, 0.0), m_renderer.labelSize());
+    const QRectF whole(QPointF(label.left() - planned.trimmedBefore.number(), 0.0), m_renderer.labelSize());
     painter.drawImage(whole, picture);
     painter.restore();
 }
@@ -273,7 +273,7 @@ void StripPainter::paintPieceLength(QPainter &painter, std::size_t index) const
     painter.drawLine(QPointF(piece.left(), y), QPointF(piece.right(), y));
     for (const double x : {piece.left(), piece.right()})
         painter.drawLine(QPointF(x, y - units(1.0)), QPointF(x, y + units(1.0)));
-    const double margin = index == 0 ? m_layout.leadingMargin().width() : 0.0;
+    const Millimetres margin(index == 0 ? m_layout.leadingMargin().width() : 0.0);
     const QRectF area(piece.left() - units(10.0), y + units(1.2), piece.width() + units(20.0), units(4.4));
     const QString length =
         planned.isMeasured ? lengthText(planned.length + margin) : QStringLiteral("\u2026");

@@ -22,7 +22,7 @@ constexpr double maxPageLength = 5000.0;
 constexpr double minPageLength = 150.0;
 constexpr double margin = 8.0;
 constexpr double lineHeight = 5.0;
-constexpr double unit = 1.0;
+constexpr Millimetres unit(1.0);
 /// The resolution of coordinates in dots per inch, and that of labels in pixels per millimetre (300 dpi).
 constexpr int coordinateResolution = 1200;
 constexpr double labelResolution = 11.8;
@@ -60,7 +60,7 @@ class PdfStrip {
 public:
     PdfStrip(const PrintedStrip &strip, QIODevice *device)
         : m_strip(strip)
-        , m_layout(strip.plan, strip.renderer.labelSize().height(), unit)
+        , m_layout(strip.plan, Millimetres(strip.renderer.labelSize().height()), unit)
         , m_writer(device)
         , m_lines(headingLines(strip))
         , m_segments(segmentsOf(m_layout))
@@ -102,7 +102,7 @@ private:
     void paintPage(QPainter &painter, const Segment &segment) const
     {
         painter.save();
-        const double dotsPerMillimetre = coordinateResolution / 25.4;
+        const double dotsPerMillimetre = coordinateResolution / millimetresPerInch;
         painter.scale(dotsPerMillimetre, dotsPerMillimetre);
         painter.translate(margin, margin);
         paintHeading(painter);

@@ -3,6 +3,8 @@
 
 #include "PdfFile.h"
 
+#include <host/base/Length.h>
+
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
@@ -12,23 +14,16 @@ namespace documents {
 namespace {
 
 constexpr int dotsPerInch = 1440;
-constexpr double millimetresPerInch = 25.4;
-constexpr double pointsPerInch = 72.0;
-
-QSizeF pointSize(QSizeF millimetres)
-{
-    return millimetres * (pointsPerInch / millimetresPerInch);
-}
 
 QPageSize pageSize(QSizeF millimetres)
 {
-    return QPageSize(pointSize(millimetres), QPageSize::Point, QStringLiteral("Label"),
+    return QPageSize(host::inPoints(millimetres), QPageSize::Point, QStringLiteral("Label"),
                      QPageSize::ExactMatch);
 }
 
 void turnAlongTheTape(QPainter &painter, QSizeF millimetres)
 {
-    const double dotsPerMillimetre = dotsPerInch / millimetresPerInch;
+    const double dotsPerMillimetre = dotsPerInch / host::millimetresPerInch;
     painter.resetTransform();
     painter.translate(millimetres.width() * dotsPerMillimetre, 0.0);
     painter.rotate(90.0);
@@ -71,7 +66,7 @@ QByteArray LabelDocument::pdf() const
             painter.begin(&writer);
         else
             writer.newPage();
-        sizes.append(pointSize(label.millimetres));
+        sizes.append(host::inPoints(label.millimetres));
         painter.save();
         turnAlongTheTape(painter, label.millimetres);
         label.draw(painter);

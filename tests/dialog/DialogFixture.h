@@ -3,7 +3,6 @@
 
 #include <dialog/window/PrintDialog.h>
 #include <dialog/window/StripPreview.h>
-#include <host/base/Units.h>
 #include <host/strip/CutPlanText.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/samples/SamplePpd.h>
@@ -63,11 +62,8 @@ protected:
     {
         std::vector<SamplePage> pages;
         for (int page = 0; page < 3; ++page)
-            pages.push_back({QSizeF(60, 24) * host::pointsPerMillimetre, [](QPainter &painter) {
-                                 painter.fillRect(
-                                     QRectF(10 * host::pointsPerMillimetre, 8 * host::pointsPerMillimetre,
-                                            20 * host::pointsPerMillimetre, 8 * host::pointsPerMillimetre),
-                                     Qt::black);
+            pages.push_back({QSizeF(60, 24) * mm, [](QPainter &painter) {
+                                 painter.fillRect(QRectF(10 * mm, 8 * mm, 20 * mm, 8 * mm), Qt::black);
                              }});
         documentPath = writePdf(sandbox, QStringLiteral("labels.pdf"), pages);
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SampleLabels.h"
 
-#include <host/base/Units.h>
 #include <tests/samples/SamplePdf.h>
 
 namespace dialogwalk {
@@ -16,11 +15,11 @@ SampleLabels::SampleLabels()
     std::vector<SamplePage> pages;
     for (const PageFacts &facts : m_pages) {
         const auto draw = [ink = facts.ink](QPainter &painter) {
-            const double unit = host::pointsPerMillimetre;
+            const double unit = mm;
             if (ink)
                 painter.fillRect(QRectF(ink->topLeft() * unit, ink->size() * unit), Qt::black);
         };
-        pages.push_back({facts.size * host::pointsPerMillimetre, draw});
+        pages.push_back({facts.size * mm, draw});
     }
     m_path = writePdf(m_sandbox, QStringLiteral("labels.pdf"), pages);
 }

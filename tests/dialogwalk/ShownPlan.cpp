@@ -13,9 +13,9 @@ ExpectedStrip stripOf(const host::CutPlan &plan, const QString &words)
 {
     ExpectedStrip strip;
     strip.areCutsKnown = plan.settings().areKnown;
-    strip.tape = plan.tapeUsed();
+    strip.tape = plan.tapeUsed().number();
     for (const host::PlannedLabel &label : plan.labels())
-        strip.labels.push_back({label.page, label.length, label.end.fullCut, label.end.halfCut,
+        strip.labels.push_back({label.page, label.length.number(), label.end.fullCut, label.end.halfCut,
                                 label.end.cutMark, label.end.held});
     static const QRegularExpression sentence(QStringLiteral("[A-Z][^.]*\\.(?= |$)"));
     static const QRegularExpression figures(QStringLiteral("^Labels: .*? m{1,2} (?=[A-Z])"));

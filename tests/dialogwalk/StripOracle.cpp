@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StripOracle.h"
 
+#include <tests/samples/SamplePdf.h>
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -10,7 +12,7 @@ namespace dialogwalk {
 
 namespace {
 
-constexpr double millimetresPerPoint = 25.4 / 72.0;
+constexpr double millimetresPerPoint = 1.0 / mm;
 /// Blank is measured on a drawing of 8 pixels a millimetre with soft edges.
 constexpr double uncertainty = 0.4;
 

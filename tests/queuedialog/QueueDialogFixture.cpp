@@ -3,7 +3,6 @@
 
 #include <dialog/job/PasswordDialog.h>
 #include <dialog/widgets/Banner.h>
-#include <host/base/Units.h>
 #include <host/cups/queues/QueueCache.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/support/BackgroundThreads.h>
@@ -49,7 +48,7 @@ void QueueDialogTest::SetUp()
         .removeRecursively();
     std::vector<SamplePage> pages;
     for (int page = 0; page < 3; ++page)
-        pages.push_back({QSizeF(60, 24) * host::pointsPerMillimetre, [page](QPainter &painter) {
+        pages.push_back({QSizeF(60, 24) * mm, [page](QPainter &painter) {
                              QFont font;
                              font.setPixelSize(20);
                              painter.setFont(font);

@@ -4,7 +4,6 @@
 #include "QueueDialogFixture.h"
 
 #include <dialog/options/OptionControl.h>
-#include <host/base/Units.h>
 #include <tests/samples/SamplePdf.h>
 
 #include <QApplication>

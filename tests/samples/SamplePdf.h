@@ -3,7 +3,7 @@
 
 #include "Sandbox.h"
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <QPainter>
 #include <QSizeF>
@@ -12,7 +12,7 @@
 #include <vector>
 
 /// One millimetre in points.
-inline constexpr double mm = host::pointsPerMillimetre;
+inline constexpr double mm = host::Points(host::Millimetres(1.0)).number();
 
 /// A page of a PDF for a test: its size in points, and a function that draws on it in points from the top
 /// left.

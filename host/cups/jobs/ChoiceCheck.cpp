@@ -112,8 +112,8 @@ ChoiceError unusablePaper(const PpdFile &ppd, const QString &paper, const QSizeF
         "length must be above 0, one of them at most %5 m, the other at most %6 m.");
     return {ChoiceErrorKind::UnusablePaper,
             text.arg(ppd.printerName(), paper, QString::number(size.width()), QString::number(size.height()),
-                     QString::number(PpdPaperSizes::maxShortSide),
-                     QString::number(PpdPaperSizes::maxLongSide))};
+                     QString::number(PpdPaperSizes::maxShortSide.number()),
+                     QString::number(PpdPaperSizes::maxLongSide.number()))};
 }
 
 } // namespace

@@ -23,9 +23,9 @@ bool fitsNumber(const PpdParameter &parameter, const QByteArray &value)
     if (parameter.kind == PpdParameterKind::Integer) {
         number = value.toInt(&isNumber);
     } else if (parameter.kind == PpdParameterKind::Points) {
-        const std::optional<double> length = lengthInPoints(value);
+        const std::optional<Points> length = parseLength(value);
         isNumber = length.has_value();
-        number = length.value_or(0.0);
+        number = length.value_or(Points()).number();
         slack = 0.01;
     } else {
         number = value.toDouble(&isNumber);

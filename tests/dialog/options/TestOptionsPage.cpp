@@ -154,7 +154,7 @@ TEST_F(OptionsPageTest, SeveralParametersGoTogether)
     left->selectAll();
     QTest::keyClicks(left, QStringLiteral("1"));
     QTest::keyClick(left, Qt::Key_Tab);
-    EXPECT_GE(left->points(), 10);
+    EXPECT_GE(left->length().number(), 10);
     EXPECT_NEAR(left->minimum(), 3.53, 1e-9);
 }
 

@@ -4,7 +4,6 @@
 #include <dialog/paper/PaperChooser.h>
 #include <dialog/widgets/LengthField.h>
 #include <dialog/widgets/LinkButton.h>
-#include <host/base/Units.h>
 #include <tests/samples/OptionsPpd.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/samples/SamplePpd.h>
@@ -228,8 +227,8 @@ TEST_F(PaperChooserTest, EveryFreeSizeAtTheLimitsIsOneThatThePpdHas)
             for (const double value : {each->minimum(), each->maximum()}) {
                 each->setValue(value);
                 EXPECT_TRUE(ppd->paper(chooser->chosen().name)) << chooser->chosen().name.toStdString();
-                EXPECT_NEAR(chooser->chosen().size.width(), field("Paper width")->points(), 0.01);
-                EXPECT_NEAR(chooser->chosen().size.height(), field("Paper length")->points(), 0.01);
+                EXPECT_NEAR(chooser->chosen().size.width(), field("Paper width")->length().number(), 0.01);
+                EXPECT_NEAR(chooser->chosen().size.height(), field("Paper length")->length().number(), 0.01);
             }
         }
     }

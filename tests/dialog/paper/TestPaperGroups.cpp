@@ -2,7 +2,7 @@
 // How papers are sorted for display.
 #include <dialog/paper/PaperGroups.h>
 #include <dialog/paper/PaperList.h>
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 
 #include <gtest/gtest.h>
 
@@ -26,8 +26,7 @@ TEST(PaperGroups, AreWidthsAndOnlyWhereTheyHelp)
     for (const Row &row : rows) {
         std::vector<host::PpdPaper> papers;
         for (const double width : row.widths)
-            papers.push_back(
-                {"P", QStringLiteral("P"), QSizeF(width, 50) * host::pointsPerMillimetre, std::nullopt});
+            papers.push_back({"P", QStringLiteral("P"), host::inPoints(QSizeF(width, 50)), std::nullopt});
         QStringList groups;
         for (const dialog::PaperGroup &group : dialog::groupPapers(papers)) {
             QString text = group.title + u':';

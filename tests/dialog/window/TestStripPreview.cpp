@@ -3,7 +3,6 @@
 #include <dialog/window/PagePreview.h>
 #include <dialog/window/Screenshot.h>
 #include <dialog/window/StripPreview.h>
-#include <host/base/Units.h>
 #include <host/labels/BlankMeasurer.h>
 #include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
@@ -70,7 +69,8 @@ protected:
         std::vector<host::LabelExtent> extents;
         for (const int page : pages)
             extents.push_back(renderer.extent(page, blank));
-        return host::CutPlan::make({.automaticCut = true, .removeBlank = removeBlank}, pages, extents, 2.0);
+        return host::CutPlan::make({.automaticCut = true, .removeBlank = removeBlank}, pages, extents,
+                                   host::Millimetres(2.0));
     }
     host::CutPlan plan(bool removeBlank = false) const { return planWith(*renderer, removeBlank); }
 

@@ -167,9 +167,7 @@ TEST_F(DocumentKinds, ImagesAreAsLargeAsTheirResolutionSays)
     };
     const Row rows[] = {
         {"png that tells none", withoutResolution(encoded(corners(480, 240), "png")), {360, 180}},
-        {"png, 300 dpi",
-         encoded(corners(300, 600, 11811, 11811), "png"),
-         {72.0 * 300 / 11811 / 0.0254, 144.0 * 300 / 11811 / 0.0254}},
+        {"png, 300 dpi", encoded(corners(300, 600, 11811, 11811), "png"), QSizeF(300, 600) / 11.811 * mm},
         {"png, unequal", encoded(corners(200, 200, 4000, 8000), "png"), QSizeF(50, 25) * mm},
         {"jpeg, 203 dpi", encoded(corners(203, 406, 7992, 7992), "jpeg"), {72, 144}},
     };

@@ -163,7 +163,7 @@ TEST(HostileDocuments, ALargeImageIsPrinted)
     const Sandbox sandbox;
     const auto document = LabelDocument::open(sandbox.write(QStringLiteral("long"), encoded(image, "png")));
     ASSERT_TRUE(document) << document.error().message.toStdString();
-    EXPECT_NEAR(document.value()->pageSize(0).height(), 4.0 / 0.0254 * 72.0, 1.0);
+    EXPECT_NEAR(document.value()->pageSize(0).height(), 4000.0 * mm, 1.0);
     EXPECT_FALSE(isWhite(document.value()->render(0, {280, 4724})));
 }
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include <host/base/Units.h>
 #include <host/documents/LabelDocument.h>
 #include <host/labels/LabelRenderer.h>
 #include <tests/samples/SamplePdf.h>
@@ -160,14 +159,14 @@ TEST(LabelRenderer, MeasuresBlankAlongTheTape)
     const Row rows[] = {{10, 20, false}, {5, 15, false}, {0, 0, true}, {0, 0, false}};
     for (int page = 0; page < 4; ++page) {
         const host::LabelExtent extent = renderer.extent(page, MeasureBlank::Yes);
-        EXPECT_NEAR(extent.length, 60.0, 1e-6) << page;
+        EXPECT_NEAR(extent.length.number(), 60.0, 1e-6) << page;
         // A dot of the measuring resolution is an eighth of a millimetre.
-        EXPECT_NEAR(extent.leadingBlank, rows[page].leading, 0.25) << page;
-        EXPECT_NEAR(extent.trailingBlank, rows[page].trailing, 0.25) << page;
+        EXPECT_NEAR(extent.leadingBlank.number(), rows[page].leading, 0.25) << page;
+        EXPECT_NEAR(extent.trailingBlank.number(), rows[page].trailing, 0.25) << page;
         EXPECT_EQ(extent.whollyBlank, rows[page].blank) << page;
     }
     const host::LabelExtent unmeasured = renderer.extent(0, MeasureBlank::No);
-    EXPECT_EQ(unmeasured.leadingBlank, 0.0);
+    EXPECT_EQ(unmeasured.leadingBlank.number(), 0.0);
 }
 
 TEST(LabelRenderer, KeepsImagesOfHugeLabelsWithinBounds)

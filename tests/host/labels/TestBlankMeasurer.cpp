@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 #include <host/labels/BlankMeasurer.h>
 #include <host/labels/InkSpan.h>
 #include <host/labels/LabelRenderer.h>
@@ -21,6 +21,8 @@
 using host::InkSpan;
 using host::LabelDocument;
 using host::LabelExtent;
+using host::Millimetres;
+using host::operator""_mm;
 using host::LabelRenderer;
 using host::MeasureBlank;
 using host::PageThread;
@@ -69,19 +71,19 @@ bool hasInk(const QImage &label, int column)
     return false;
 }
 
-/// The blank before and after the ink of a label's picture, in millimetres.
-LabelExtent measurePicture(const QImage &label, double length)
+/// The blank before and after the ink of a label's picture.
+LabelExtent measurePicture(const QImage &label, Millimetres length)
 {
     int first = 0;
     while (first < label.width() && !hasInk(label, first))
         ++first;
     if (first == label.width())
-        return {length, 0.0, 0.0, true};
+        return {length, 0.0_mm, 0.0_mm, true};
     int last = label.width() - 1;
     while (!hasInk(label, last))
         --last;
-    const double millimetres = length / label.width();
-    return {length, first * millimetres, (label.width() - 1 - last) * millimetres, false};
+    const Millimetres dot = length / label.width();
+    return {length, first * dot, (label.width() - 1 - last) * dot, false};
 }
 
 /// Asks for the pages and waits for them.
@@ -123,7 +125,7 @@ host::CutPlan planOf(const LabelRenderer &renderer, int count, bool removeBlank)
     for (const int page : pages)
         extents.push_back(renderer.extent(page, removeBlank ? MeasureBlank::Yes : MeasureBlank::No));
     return host::CutPlan::make({.automaticCut = true, .labelsPerCut = 2, .removeBlank = removeBlank}, pages,
-                               extents, 2.0);
+                               extents, 2.0_mm);
 }
 
 } // namespace
@@ -142,12 +144,12 @@ TEST_F(BlankMeasurerTest, MeasuresWhatThePicturesOfTheLabelsShow)
             EXPECT_TRUE(found.isMeasured);
             EXPECT_EQ(found, atOnce.extent(page, MeasureBlank::Yes)) << "the same in both ways";
             const LabelExtent shown =
-                measurePicture(atOnce.render(page, resolution), atOnce.labelSize().width());
-            EXPECT_DOUBLE_EQ(found.length, shown.length);
+                measurePicture(atOnce.render(page, resolution), Millimetres(atOnce.labelSize().width()));
+            EXPECT_DOUBLE_EQ(found.length.number(), shown.length.number());
             EXPECT_EQ(found.whollyBlank, shown.whollyBlank);
             // Page and label share their centre, which may lie between two dots.
-            EXPECT_NEAR(found.leadingBlank, shown.leadingBlank, 1.01 / resolution);
-            EXPECT_NEAR(found.trailingBlank, shown.trailingBlank, 1.01 / resolution);
+            EXPECT_NEAR(found.leadingBlank.number(), shown.leadingBlank.number(), 1.01 / resolution);
+            EXPECT_NEAR(found.trailingBlank.number(), shown.trailingBlank.number(), 1.01 / resolution);
         }
     }
 }
@@ -166,7 +168,7 @@ TEST_F(BlankMeasurerTest, AnswersAtOnceAndReportsTheEnd)
 {
     ClosedGate gate(*thread);
     EXPECT_FALSE(isMeasured(3));
-    EXPECT_EQ(extent(3).length, renderer->labelSize().width());
+    EXPECT_EQ(extent(3).length.number(), renderer->labelSize().width());
     EXPECT_FALSE(renderer->measurer()->isIdle());
     QSignalSpy measured(renderer->measurer(), &host::BlankMeasurer::measured);
     gate.open();
@@ -268,7 +270,7 @@ TEST_F(BlankMeasurerTest, APageThatCannotBeDrawnIsBlankAndKeepsItsLength)
     for (int page = 540; page < 560; ++page) {
         const LabelExtent found = labels.extent(page, MeasureBlank::Yes);
         EXPECT_TRUE(found.isMeasured && found.whollyBlank) << page;
-        EXPECT_NEAR(found.length, 60.0, 1e-6) << page;
+        EXPECT_NEAR(found.length.number(), 60.0, 1e-6) << page;
     }
 }
 
@@ -303,7 +305,7 @@ TEST_F(BlankMeasurerTest, NoLengthIsStatedBeforeItIsMeasured)
 TEST_F(BlankMeasurerTest, APieceIsMeasuredWhenAllItsLabelsAre)
 {
     ClosedGate gate(*thread);
-    std::vector<LabelExtent> extents(4, {60.0, 5.0, 5.0, false});
+    std::vector<LabelExtent> extents(4, {60.0_mm, 5.0_mm, 5.0_mm, false});
     extents[2].isMeasured = false;
     const host::CutPlan plan =
         host::CutPlan::make({.automaticCut = true, .labelsPerCut = 2, .removeBlank = true},

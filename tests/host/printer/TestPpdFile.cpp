@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <host/base/Length.h>
 #include <host/printer/PpdOptions.h>
 #include <tests/samples/SamplePpd.h>
 
@@ -234,7 +235,7 @@ TEST(PpdFile, TakesFreeSizesWithinItsLimits)
     const auto fits = ppd.paper("Custom.24x100mm");
     ASSERT_TRUE(fits);
     EXPECT_EQ(fits->name, "Custom.24x100mm");
-    EXPECT_NEAR(fits->size.height(), 100.0 * 72.0 / 25.4, 0.01);
+    EXPECT_NEAR(fits->size.height(), host::Points(host::Millimetres(100.0)).number(), 0.01);
     EXPECT_FALSE(ppd.paper("Custom.24x1100mm"));
     EXPECT_FALSE(ppd.paper("Custom.30x100mm"));
     EXPECT_FALSE(ppd.paper("Custom.24x5mm"));

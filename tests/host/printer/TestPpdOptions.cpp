@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include <host/base/Units.h>
+#include <host/base/Length.h>
 #include <host/printer/PpdOptions.h>
 #include <tests/samples/OptionsPpd.h>
 
@@ -149,7 +149,7 @@ TEST_F(PpdOptionsTest, WritesFreeTextsAsLibcupsReadsThem)
 TEST_F(PpdOptionsTest, WritesSeveralParametersAsLibcupsReadsThem)
 {
     auto parameters = PpdOptions(ppd).parameters("Offset");
-    parameters[0].number = 12.35 * host::pointsPerMillimetre;
+    parameters[0].number = host::Points(host::Millimetres(12.35)).number();
     parameters[1].number = -0.125;
     parameters[2].characters = QStringLiteral("0123");
     parameters[3].characters = QStringLiteral("a \"b\"");

@@ -16,6 +16,8 @@ using host::CutPlan;
 using host::CutSettings;
 using host::LabelEnd;
 using host::LabelExtent;
+using host::Millimetres;
+using host::operator""_mm;
 
 namespace {
 
@@ -74,8 +76,10 @@ std::string describe(const CutSettings &settings, int count)
 }
 
 /// Pages of different lengths, one of them wholly blank.
-const std::vector<LabelExtent> pageExtents = {
-    {60.0, 5.0, 10.0, false}, {42.5, 0.0, 0.0, false}, {30.0, 15.0, 15.0, true}, {80.25, 12.5, 0.25, false}};
+const std::vector<LabelExtent> pageExtents = {{60.0_mm, 5.0_mm, 10.0_mm, false},
+                                              {42.5_mm, 0.0_mm, 0.0_mm, false},
+                                              {30.0_mm, 15.0_mm, 15.0_mm, true},
+                                              {80.25_mm, 12.5_mm, 0.25_mm, false}};
 
 std::vector<int> pagesInTurn(int count)
 {
@@ -98,9 +102,9 @@ void checkAgainstRules(const CutPlan &plan, const RuleModel &model)
     EXPECT_EQ(plan.pieces().size(), static_cast<std::size_t>(model.pieces()));
 }
 
-void checkInvariants(const CutPlan &plan, double margin)
+void checkInvariants(const CutPlan &plan, Millimetres margin)
 {
-    double pieceLengths = 0.0;
+    Millimetres pieceLengths;
     std::size_t next = 0;
     for (const host::Piece &piece : plan.pieces()) {
         EXPECT_EQ(piece.firstLabel, next) << "pieces follow each other without a gap";
@@ -110,16 +114,16 @@ void checkInvariants(const CutPlan &plan, double margin)
         EXPECT_EQ(piece.held, plan.labels()[next - 1].end.held);
     }
     EXPECT_EQ(next, plan.labels().size());
-    EXPECT_NEAR(pieceLengths, plan.stripLength(), 1e-9);
-    EXPECT_NEAR(plan.tapeUsed(), plan.stripLength() + margin, 1e-9);
+    EXPECT_NEAR(pieceLengths.number(), plan.stripLength().number(), 1e-9);
+    EXPECT_NEAR(plan.tapeUsed().number(), (plan.stripLength() + margin).number(), 1e-9);
     for (const host::PlannedLabel &label : plan.labels()) {
-        EXPECT_GT(label.length, 0.0);
+        EXPECT_GT(label.length, 0.0_mm);
         EXPECT_FALSE(label.end.fullCut && (label.end.halfCut || label.end.cutMark || label.end.held));
         const LabelExtent &extent = pageExtents[static_cast<std::size_t>(label.page)];
         const bool trimmed = plan.settings().removeBlank && !extent.whollyBlank;
-        const double taken = trimmed ? extent.leadingBlank + extent.trailingBlank : 0.0;
-        EXPECT_NEAR(label.length, extent.length - taken, 1e-9);
-        EXPECT_NEAR(label.trimmedBefore, trimmed ? extent.leadingBlank : 0.0, 1e-9);
+        const Millimetres removed = trimmed ? extent.leadingBlank + extent.trailingBlank : 0.0_mm;
+        EXPECT_NEAR(label.length.number(), (extent.length - removed).number(), 1e-9);
+        EXPECT_NEAR(label.trimmedBefore.number(), trimmed ? extent.leadingBlank.number() : 0.0, 1e-9);
     }
 }
 
@@ -146,9 +150,9 @@ TEST(CutPlan, FollowsTheRulesForEverySettingAndCount)
             for (const int count : {1, labelsPerCut, labelsPerCut + 1, 2 * labelsPerCut}) {
                 const CutSettings settings = settingsFromBits(bits, labelsPerCut);
                 SCOPED_TRACE(describe(settings, count));
-                const CutPlan plan = CutPlan::make(settings, pagesInTurn(count), pageExtents, 2.0);
+                const CutPlan plan = CutPlan::make(settings, pagesInTurn(count), pageExtents, 2.0_mm);
                 checkAgainstRules(plan, {settings, count});
-                checkInvariants(plan, 2.0);
+                checkInvariants(plan, 2.0_mm);
                 if (testing::Test::HasFailure())
                     return;
             }
@@ -197,17 +201,18 @@ TEST(CutPlan, KnownStrips)
 
 TEST(CutPlan, OfNothingIsEmpty)
 {
-    const CutPlan plan = CutPlan::make({.automaticCut = true, .chainPrint = true}, {}, pageExtents, 2.0);
+    const CutPlan plan = CutPlan::make({.automaticCut = true, .chainPrint = true}, {}, pageExtents, 2.0_mm);
     EXPECT_TRUE(plan.labels().empty());
     EXPECT_TRUE(plan.pieces().empty());
     EXPECT_FALSE(plan.isEndHeld());
+    EXPECT_EQ(plan.tapeUsed(), 0.0_mm) << "no margin is fed without a label";
     EXPECT_EQ(host::cutPlanDescription(plan), QStringList{QStringLiteral("Nothing is printed.")});
 }
 
 TEST(CutPlan, CountsTapeWithoutAMarginThatThePrinterDoesNotTell)
 {
     const CutPlan plan = CutPlan::make({}, pagesInTurn(2), pageExtents, std::nullopt);
-    EXPECT_DOUBLE_EQ(plan.tapeUsed(), 102.5);
+    EXPECT_DOUBLE_EQ(plan.tapeUsed().number(), 102.5);
     EXPECT_TRUE(host::cutPlanJson(plan).value(QStringLiteral("leadingMargin")).isNull());
 }
 
@@ -239,22 +244,22 @@ TEST(CutPlan, SaysInWordsWhatHappens)
     };
     for (const Row &row : rows) {
         const QStringList said =
-            host::cutPlanDescription(CutPlan::make(row.settings, pagesInTurn(4), pageExtents, 2.0));
+            host::cutPlanDescription(CutPlan::make(row.settings, pagesInTurn(4), pageExtents, 2.0_mm));
         EXPECT_EQ(said.contains(QLatin1String(row.sentence)), row.said)
             << row.sentence << " in: " << said.join(u' ').toStdString();
     }
     const CutPlan plan =
-        CutPlan::make({.automaticCut = true, .labelsPerCut = 2}, pagesInTurn(4), pageExtents, 2.0);
+        CutPlan::make({.automaticCut = true, .labelsPerCut = 2}, pagesInTurn(4), pageExtents, 2.0_mm);
     EXPECT_EQ(host::cutPlanFigures(plan), QStringLiteral("Labels: 4 \u00b7 Pieces: 2 \u00b7 Tape: 214.8 mm"));
-    EXPECT_EQ(host::lengthText(60.0), QStringLiteral("60 mm"));
-    EXPECT_EQ(host::lengthText(59.96), QStringLiteral("60 mm"));
-    EXPECT_EQ(host::lengthText(0.25), QStringLiteral("0.3 mm"));
+    EXPECT_EQ(host::lengthText(60.0_mm), QStringLiteral("60 mm"));
+    EXPECT_EQ(host::lengthText(59.96_mm), QStringLiteral("60 mm"));
+    EXPECT_EQ(host::lengthText(0.25_mm), QStringLiteral("0.3 mm"));
 }
 
 TEST(CutPlan, TellsProgramsTheSame)
 {
     const CutSettings settings{.automaticCut = true, .labelsPerCut = 2, .halfCut = true, .chainPrint = true};
-    const QJsonObject json = host::cutPlanJson(CutPlan::make(settings, pagesInTurn(3), pageExtents, 2.0));
+    const QJsonObject json = host::cutPlanJson(CutPlan::make(settings, pagesInTurn(3), pageExtents, 2.0_mm));
     const QJsonArray labels = json.value(QStringLiteral("labels")).toArray();
     ASSERT_EQ(labels.size(), 3);
     EXPECT_EQ(labels[0].toObject(),
@@ -273,7 +278,7 @@ TEST(CutPlan, TellsProgramsTheSame)
 TEST(CutPlan, SaysNothingAboutTheCutsOfAPrinterThatDoesNotDescribeThem)
 {
     const std::vector<int> order{0, 0};
-    const std::vector<LabelExtent> extents{{60.0, 0.0, 0.0, false}};
+    const std::vector<LabelExtent> extents{{60.0_mm, 0.0_mm, 0.0_mm, false}};
     const CutPlan plan = CutPlan::make({.areKnown = false}, order, extents, std::nullopt);
     EXPECT_EQ(cutPlanFigures(plan), QStringLiteral("Labels: 2 \u00b7 Tape: 120 mm"));
     EXPECT_EQ(

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include <host/base/Units.h>
 #include <host/strip/StripPainter.h>
 #include <tests/samples/SamplePdf.h>
 
@@ -8,6 +7,8 @@
 
 using host::CutPlan;
 using host::CutSettings;
+
+using host::operator""_mm;
 
 namespace {
 
@@ -28,12 +29,12 @@ protected:
         renderer.emplace(*document, QSizeF(24, 60) * mm);
     }
 
-    void draw(const CutSettings &settings, int labels, std::optional<double> margin = std::nullopt)
+    void draw(const CutSettings &settings, int labels, std::optional<host::Millimetres> margin = std::nullopt)
     {
         const std::vector<int> pages(static_cast<std::size_t>(labels), 0);
         const std::vector<host::LabelExtent> extents{renderer->extent(0, host::MeasureBlank::Yes)};
         plan = CutPlan::make(settings, pages, extents, margin);
-        layout.emplace(plan, 24.0, 1.0);
+        layout.emplace(plan, 24.0_mm, 1.0_mm);
         const QRectF bounds = layout->bounds();
         image = QImage((bounds.size() * pixelsPerMillimetre).toSize(), QImage::Format_RGB32);
         image.fill(Qt::white);
@@ -66,7 +67,7 @@ protected:
 
 TEST_F(StripPainterTest, LabelsLieWhereTheLayoutSays)
 {
-    draw({.automaticCut = true}, 2, 3.0);
+    draw({.automaticCut = true}, 2, 3.0_mm);
     for (std::size_t label = 0; label < 2; ++label) {
         const double left = layout->label(label).left();
         EXPECT_TRUE(isDark(left + 15.0, 5.0)) << label;
@@ -90,7 +91,7 @@ TEST_F(StripPainterTest, WithoutBlankTheLabelBeginsAndEndsWithItsPrint)
 {
     for (const bool mirror : {false, true}) {
         draw({.mirror = mirror, .removeBlank = true}, 1);
-        EXPECT_NEAR(plan.labels()[0].length, 10.0, 0.3);
+        EXPECT_NEAR(plan.labels()[0].length.number(), 10.0, 0.3);
         EXPECT_TRUE(isDark(0.8, 5.0)) << mirror;
         EXPECT_TRUE(isDark(9.2, 5.0)) << mirror;
     }
@@ -142,7 +143,7 @@ TEST_F(StripPainterTest, TheEndIsCutHeldOrTornAsThePlanSays)
 
 TEST_F(StripPainterTest, ALeadingMarginIsHatched)
 {
-    draw({}, 1, 4.0);
+    draw({}, 1, 4.0_mm);
     int dark = 0;
     for (double x = 0.5; x < 3.5; x += 0.1)
         dark += isWhite(x, 12.0) ? 0 : 1;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include <host/base/Units.h>
 #include <host/documents/PrintOrder.h>
 #include <host/panels/DialogState.h>
 #include <host/strip/OutputFiles.h>
@@ -23,6 +22,8 @@ using host::Collate;
 using host::LabelDocument;
 using host::OutputErrorKind;
 using host::VirtualPrinter;
+
+using host::operator""_mm;
 
 namespace {
 
@@ -52,7 +53,8 @@ protected:
         for (int page = 0; page < document->pageCount(); ++page)
             extents.push_back(renderer->extent(page, host::MeasureBlank::No));
         const std::vector<int> order = host::printOrder({{0, 1, 2}}, copies, Collate::Yes);
-        return host::CutPlan::make(host::CutSettings::fromJob(of.ppd(), of.recorded()), order, extents, 2.0);
+        return host::CutPlan::make(host::CutSettings::fromJob(of.ppd(), of.recorded()), order, extents,
+                                   2.0_mm);
     }
 
     host::Result<void, host::OutputError> print(const host::CutPlan &printed, const QString &folder,

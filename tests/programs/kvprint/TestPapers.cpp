@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "KvprintTest.h"
 
+#include <host/base/Length.h>
+
 #include <algorithm>
 
 using test_support::PpdBuilder;
@@ -8,8 +10,7 @@ using test_support::RecordedDocument;
 
 namespace {
 
-constexpr double pointsPerMm = 72.0 / 25.4;
-
+constexpr double pointsPerMm = host::Points(host::Millimetres(1.0)).number();
 /// "-o NAME=VALUE" reads quotes, blanks, commas and braces as syntax; a backslash keeps them.
 QString optionWord(const char *name, const QByteArray &value)
 {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <host/base/Length.h>
 #include <resources/documents/TestDocuments.h>
 #include <tests/support/PpdBuilder.h>
 
@@ -15,7 +16,7 @@ using test_support::PpdPointer;
 
 namespace {
 
-constexpr double pointsPerMillimetre = 72.0 / 25.4;
+constexpr double pointsPerMillimetre = host::Points(host::Millimetres(1.0)).number();
 
 const QString samplePath = QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf");
 

@@ -2,6 +2,7 @@
 // The sample printers are PPDs as a maker would ship them: whole, translated, and what they promise.
 #include "LocalizedPpd.h"
 
+#include <host/base/Length.h>
 #include <tests/support/PpdBuilder.h>
 #include <tests/support/Waiting.h>
 
@@ -199,7 +200,7 @@ TEST(SamplePrinters, PapersLieInsideTheirLimitsAndLeaveRoomToPrint)
         }
         const ppd_size_t *const custom = ppdPageSize(ppd.get(), "Custom.12x75mm");
         ASSERT_TRUE(custom) << printer.file;
-        EXPECT_NEAR(custom->length, 75.0 / 25.4 * 72.0, 0.01) << printer.file;
+        EXPECT_NEAR(custom->length, host::Points(host::Millimetres(75.0)).number(), 0.01) << printer.file;
     }
 }
 
