@@ -14,8 +14,8 @@ void examine(const host::ImageFacts &facts)
     if (facts.resolution && (!(facts.resolution->width() > 0) || !(facts.resolution->height() > 0) ||
                              !qIsFinite(facts.resolution->width()) || !qIsFinite(facts.resolution->height())))
         qFatal("a resolution of %g x %g", facts.resolution->width(), facts.resolution->height());
-    if (facts.pdfColors != 0 && facts.pdfColors != 1 && facts.pdfColors != 3)
-        qFatal("%d colours", facts.pdfColors);
+    if (facts.pdfColors && facts.pdfColors != 1 && facts.pdfColors != 3)
+        qFatal("%d colours", *facts.pdfColors);
 }
 
 } // namespace

@@ -281,7 +281,7 @@ StallScenarios::Duration StallScenarios::followedJob()
     cupsd->setMediaEmpty(true);
     openAndSettle(tape);
     print();
-    dialog::JobWindow job(sharedServer(), tape, sender->jobId(), QStringLiteral("labels.pdf"));
+    dialog::JobWindow job(sharedServer(), tape, sender->lastJob()->id, QStringLiteral("labels.pdf"));
     job.show();
     StallWatch watch;
     linger();

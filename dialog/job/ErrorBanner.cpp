@@ -13,7 +13,7 @@ void ErrorBanner::follow(host::QueueSession &session)
     connect(&session, &host::QueueSession::recovered, this, [this] { setServerError({}); });
     // The errors of another printer do not apply to this one.
     connect(&session, &host::QueueSession::chosenChanged, this, [this] {
-        m_sending.clear();
+        m_sending.reset();
         setServerError({});
     });
     connect(this, &Banner::remedyClicked, &session, [this, &session] {
@@ -22,7 +22,7 @@ void ErrorBanner::follow(host::QueueSession &session)
     });
 }
 
-void ErrorBanner::setSendError(const QString &error)
+void ErrorBanner::setSendError(const std::optional<QString> &error)
 {
     m_sending = error;
     refresh();
@@ -49,7 +49,8 @@ void ErrorBanner::setChoiceErrors(const std::vector<host::ChoiceError> &choiceEr
 
 void ErrorBanner::refresh()
 {
-    QStringList errors{m_sending, m_server ? m_server->message : QString(), m_choiceErrors};
+    QStringList errors{m_sending.value_or(QString()), m_server ? m_server->message : QString(),
+                       m_choiceErrors};
     errors.removeAll(QString());
     errors.removeDuplicates();
     // The session keeps querying a server that it cannot reach, but only the user can supply a password or

@@ -32,9 +32,9 @@ public:
     /// Offers to retry after those errors after which the session does not retry by itself. The session must
     /// outlive the banner.
     void follow(host::QueueSession &session);
-    /// The message about a job that was not sent; empty if there is no such error.
-    void setSendError(const QString &error);
-    const QString &sendError() const { return m_sending; }
+    /// The message about a job that was not sent; absent if there is no such error.
+    void setSendError(const std::optional<QString> &error);
+    const std::optional<QString> &sendError() const { return m_sending; }
     /// Shows the errors about requested choices that the printer does not have, and the sentences about what
     /// its panel does instead.
     void setChoiceErrors(const std::vector<host::ChoiceError> &choiceErrors, const QStringList &replaced);
@@ -43,7 +43,7 @@ private:
     void setServerError(const std::optional<host::CupsError> &error);
     void refresh();
 
-    QString m_sending;
+    std::optional<QString> m_sending;
     /// The last error of the session; absent if there is none.
     std::optional<host::CupsError> m_server;
     QString m_choiceErrors;

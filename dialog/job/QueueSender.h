@@ -8,6 +8,13 @@
 namespace dialog {
 inline namespace job {
 
+/// A job that a print server has.
+struct SentJob {
+    QString queue;
+    /// The "job-id" of the server.
+    int id = 0;
+};
+
 /// Sends to a queue of a print server, in the background.
 class QueueSender : public JobSender {
     Q_OBJECT
@@ -19,14 +26,14 @@ public:
     void send(const ReadyJob &job) override;
     void cancel() override { m_submission.cancel(); }
 
-    /// The queue and the number of the last job that was sent; empty and 0 before the first.
-    const QString &queue() const { return m_queue; }
-    int jobId() const { return m_jobId; }
+    /// The last job that was sent; absent before the first.
+    const std::optional<SentJob> &lastJob() const { return m_lastJob; }
 
 private:
     host::JobSubmission m_submission;
+    /// The queue of the job that is being sent.
     QString m_queue;
-    int m_jobId = 0;
+    std::optional<SentJob> m_lastJob;
 };
 
 } // namespace job

@@ -40,15 +40,15 @@ void SendBar::begin(const QString &title)
     m_title->setToolTip(plainToolTip(text));
     m_bar->setAccessibleName(text);
     m_cancel->setEnabled(true);
-    setProgress(-1);
+    setProgress(std::nullopt);
     show();
 }
 
-void SendBar::setProgress(int percent)
+void SendBar::setProgress(std::optional<int> percent)
 {
     // QProgressBar shows a busy indicator if its range is 0 to 0.
-    m_bar->setRange(0, percent < 0 ? 0 : 100);
-    m_bar->setValue(qMax(percent, 0));
+    m_bar->setRange(0, percent ? 100 : 0);
+    m_bar->setValue(percent.value_or(0));
 }
 
 void SendBar::showCanceling()

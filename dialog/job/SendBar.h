@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -20,8 +22,8 @@ public:
 
     /// Shows the bar for the job of this name, without known progress.
     void begin(const QString &title);
-    /// Shows the progress in percent; -1 if it is not known.
-    void setProgress(int percent);
+    /// Shows the progress in percent; absent if it is not known.
+    void setProgress(std::optional<int> percent);
     /// Disables the button while the job is being canceled, which takes a while on a slow connection.
     void showCanceling();
     /// Hides the bar.

@@ -71,8 +71,9 @@ void TicketPage::setTicket(const host::CupsServer &server, const host::JobTicket
     m_line->setFont(QFont(QStringLiteral("monospace")));
     m_line->setText(command.line);
     m_line->setCursorPosition(0);
-    m_differences->setVisible(!command.differences.isEmpty());
-    m_differences->setText(command.differencesText());
+    const std::optional<QString> differences = command.differencesText();
+    m_differences->setVisible(differences.has_value());
+    m_differences->setText(differences.value_or(QString()));
 }
 
 } // namespace job

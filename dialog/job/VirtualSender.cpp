@@ -25,7 +25,8 @@ void VirtualSender::send(const ReadyJob &job)
     const QImage picture = m_screenshot ? m_screenshot() : QImage();
     const host::PrintedStrip strip{*job.plan, *job.renderer, job.ticket.document, job.ticket.printer,
                                    job.ticket.paper->text};
-    const QJsonObject options = host::printedJobJson(job.ticket, job.document, job.ppdPath, *job.plan);
+    const QJsonObject options =
+        host::printedJobJson(job.ticket, job.document, job.ppdPath.value_or(QString()), *job.plan);
     const host::Result<void, host::OutputError> printed =
         host::VirtualPrinter::print(strip, options, picture, folder);
     if (!printed) {

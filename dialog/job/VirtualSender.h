@@ -26,12 +26,12 @@ public:
     /// Sets the function that returns the screenshot of the dialog, which is saved beside the strip. No
     /// screenshot is saved if the function is empty.
     void setScreenshotFunction(std::function<QImage()> taker) { m_screenshot = std::move(taker); }
-    /// The absolute path of the folder with the last job; empty before the first.
-    const QString &folder() const { return m_lastFolder; }
+    /// The absolute path of the folder with the last job; absent before the first.
+    const std::optional<QString> &folder() const { return m_lastFolder; }
 
 private:
     std::optional<QString> m_folder;
-    QString m_lastFolder;
+    std::optional<QString> m_lastFolder;
     std::function<QImage()> m_screenshot;
 };
 

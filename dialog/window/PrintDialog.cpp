@@ -101,7 +101,7 @@ void PrintDialog::connectAll()
     connect(m_pages, &QTabWidget::currentChanged, this, &PrintDialog::pageShown);
     connect(m_pages, &DialogPages::chosen, this, &PrintDialog::refreshLater);
     m_pages->setSummary([this] { return summary(); });
-    m_pages->setTicket([this] { return m_ticket && m_pagesError.isEmpty() ? &m_ticket->job : nullptr; });
+    m_pages->setTicket([this] { return m_ticket && !m_pagesError ? &m_ticket->job : nullptr; });
     connect(m_panelWatch, &PanelWatch::touched, this, &PrintDialog::checkPanel);
     connect(&m_pageCheck, &host::PageCheck::done, this, &PrintDialog::refreshLater);
     connect(m_conflictBanner, &ConflictBanner::remedyApplied, this, &PrintDialog::refresh);
@@ -125,10 +125,13 @@ void PrintDialog::connectAll()
     });
     connect(&m_sender, &JobSender::failed, this, [this](const QString &error) {
         // An error keeps the window open, for example if the job could not be canceled.
-        const bool closes = std::exchange(m_closesAfterSending, false) && error.isEmpty();
+        m_closesAfterSending = false;
         stayOpen();
         m_errorBanner->setSendError(error);
-        if (closes)
+    });
+    connect(&m_sender, &JobSender::canceled, this, [this] {
+        stayOpen();
+        if (std::exchange(m_closesAfterSending, false))
             QDialog::reject();
     });
 }
@@ -207,7 +210,7 @@ void PrintDialog::refresh()
         m_choices->pages().setDefaults(host::defaultPageSettings(setup->destination()));
     }
     const auto choices = m_choices->pages().choices();
-    m_pagesError = choices ? QString() : choices.error().message;
+    m_pagesError = choices ? std::nullopt : std::optional(choices.error().message);
     m_jobRequest.pages = choices ? choices.value() : host::PageChoices();
     m_pages->writeJobTo(m_jobRequest);
     m_choices->pages().writeTo(m_jobRequest.settings);
@@ -222,8 +225,8 @@ void PrintDialog::refresh()
 
 void PrintDialog::refreshStrip()
 {
-    if (!m_pagesError.isEmpty()) {
-        m_planText->setMessage(m_pagesError);
+    if (m_pagesError) {
+        m_planText->setMessage(*m_pagesError);
         return;
     }
     if (!m_ticket) {
@@ -302,7 +305,7 @@ void PrintDialog::done(int result)
     QDialog::done(result);
 }
 
-const QString &PrintDialog::error() const
+const std::optional<QString> &PrintDialog::error() const
 {
     return m_errorBanner->sendError();
 }

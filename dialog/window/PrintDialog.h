@@ -46,8 +46,8 @@ struct RequestedSettings {
     host::JobSettings settings = {};
     /// The name of the job; absent for that of the document.
     std::optional<QString> title = {};
-    /// An error that a banner shows when the dialog opens; empty if there is none.
-    QString error = {};
+    /// An error that a banner shows when the dialog opens; absent if there is none.
+    std::optional<QString> error = {};
 };
 
 /// The print dialog: printer, paper and pages, the printer's own panel, a preview of the strip, and a
@@ -65,13 +65,12 @@ public:
     /// When the sender has sent it, the dialog is accepted. Otherwise error() describes the error, and all
     /// settings are kept.
     void print();
-    /// Prepares the job for sending without sending it. Returns the message of the error that prevents it;
-    /// absent if the job can be sent.
-    std::optional<QString> prepare();
+    /// Prepares the job for sending without sending it. Returns the message of the error that prevents it.
+    host::Result<void, QString> prepare();
     /// Waits until the lengths of all labels have been measured, for output that depends on them.
     void finishMeasuring();
-    /// Returns the message of the error of the last print(); empty if there is none.
-    const QString &error() const;
+    /// Returns the message of the error of the last print(); absent if there is none.
+    const std::optional<QString> &error() const;
     /// Returns whether a job is being sent, or will be sent as soon as its document is checked.
     bool isSending() const { return m_isSending || m_printsWhenReady; }
     /// Returns the ticket that would be sent now; absent while no printer is known.
@@ -138,8 +137,8 @@ private:
     std::optional<host::Ticket> m_ticket;
     /// The cut plan of the ticket; absent if there is no paper, or while the chosen pages are not valid.
     std::optional<host::CutPlan> m_plan;
-    /// Why the chosen pages cannot be printed; empty if they can be.
-    QString m_pagesError;
+    /// Why the chosen pages cannot be printed; absent if they can be.
+    std::optional<QString> m_pagesError;
 
     QWidget *m_content = nullptr;
     Banner *m_panelBanner = nullptr;

@@ -28,7 +28,7 @@ void PrintDialog::printWhenReady()
         accept();
 }
 
-std::optional<QString> PrintDialog::prepare()
+host::Result<void, QString> PrintDialog::prepare()
 {
     if (!m_keeper.setup())
         return waitingText(m_keeper.session());
@@ -38,8 +38,10 @@ std::optional<QString> PrintDialog::prepare()
     if (m_sender.needsStrip())
         finishMeasuring();
     if (m_ticket && m_ticket->panel.error)
-        return m_ticket->panel.error;
-    return m_pagesError.isEmpty() ? std::nullopt : std::optional(m_pagesError);
+        return *m_ticket->panel.error;
+    if (m_pagesError)
+        return *m_pagesError;
+    return {};
 }
 
 void PrintDialog::finishMeasuring()
@@ -52,10 +54,11 @@ void PrintDialog::finishMeasuring()
 
 bool PrintDialog::isPrepared()
 {
-    m_errorBanner->setSendError(prepare().value_or(QString()));
-    if (!error().isEmpty())
+    const host::Result<void, QString> prepared = prepare();
+    m_errorBanner->setSendError(prepared ? std::nullopt : std::optional(prepared.error()));
+    if (!prepared)
         stayOpen();
-    return error().isEmpty();
+    return static_cast<bool>(prepared);
 }
 
 void PrintDialog::print()
@@ -71,8 +74,8 @@ void PrintDialog::send()
     m_printButton->setEnabled(false);
     m_sendBar->begin(m_jobRequest.title);
     const host::PpdFile *const ppd = m_keeper.setup()->ppdOrNull();
-    m_sender.send({*m_ticket, *m_document, ppd ? ppd->path() : QString(), m_plan ? &*m_plan : nullptr,
-                   m_renderer.get()});
+    m_sender.send({*m_ticket, *m_document, ppd ? std::optional(ppd->path()) : std::nullopt,
+                   m_plan ? &*m_plan : nullptr, m_renderer.get()});
 }
 
 void PrintDialog::stayOpen()

@@ -97,7 +97,7 @@ private:
             readResolution(content);
         if (marker >= firstFrame && marker <= lastFrame && m_bytes.byte(content) == 8) {
             const int colors = m_bytes.byte(content + 5);
-            m_facts.pdfColors = colors == 1 || colors == 3 ? colors : 0;
+            m_facts.pdfColors = colors == 1 || colors == 3 ? std::optional(colors) : std::nullopt;
         }
     }
 

@@ -15,9 +15,9 @@ struct ImageFacts {
     bool complete = false;
     /// Dots per metre, horizontally and vertically; absent if the file states no resolution.
     std::optional<QSizeF> resolution;
-    /// The number of colours of a JPEG that a PDF can contain unchanged: 1 for gray, 3 for colour. 0 for all
-    /// other images.
-    int pdfColors = 0;
+    /// The number of colours of a JPEG that a PDF can contain unchanged: 1 for gray, 3 for colour. Absent
+    /// for all other images.
+    std::optional<int> pdfColors;
 };
 
 /// Reads the properties of a PNG. Damaged data yields the defaults for what cannot be read.

@@ -149,7 +149,7 @@ public:
 private:
     bool fitsAsItIs() const
     {
-        return m_facts.pdfColors > 0 && m_reader.transformation() == QImageIOHandler::TransformationNone;
+        return m_facts.pdfColors && m_reader.transformation() == QImageIOHandler::TransformationNone;
     }
 
     bool isTurned() const
@@ -164,7 +164,7 @@ private:
         m_reader.setScaledSize((m_size / part).expandedTo({1, 1}));
         if (m_reader.read().isNull())
             return std::nullopt;
-        return PdfImage{m_size, m_facts.pdfColors, QStringLiteral("/DCTDecode"), m_content};
+        return PdfImage{m_size, *m_facts.pdfColors, QStringLiteral("/DCTDecode"), m_content};
     }
 
     const QByteArray &m_content;

@@ -117,7 +117,9 @@ QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
         text += conflict.sentence() + u'\n';
     const LpCommand lp = lpCommand(server, ticket);
     text += lp.line + u'\n';
-    return lp.differences.isEmpty() ? text : text + lp.differencesText() + u'\n';
+    if (const std::optional<QString> differences = lp.differencesText())
+        text += *differences + u'\n';
+    return text;
 }
 
 QJsonObject ticketJson(const CupsServer &server, const Ticket &whole)

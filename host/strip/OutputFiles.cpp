@@ -26,13 +26,13 @@ OutputFiles::OutputFiles(QString folder)
 
 OutputFiles::~OutputFiles()
 {
-    if (m_done || m_createdFolder.isEmpty())
+    if (m_done || !m_createdFolder)
         return;
     m_files.clear();
     // Removes the created folders from the innermost upwards. A folder that another program has put a file
     // into is not empty and stays.
     QString folder = QDir::cleanPath(QFileInfo(m_folder).absoluteFilePath());
-    while (QDir().rmdir(folder) && folder != m_createdFolder)
+    while (QDir().rmdir(folder) && folder != *m_createdFolder)
         folder = QFileInfo(folder).path();
 }
 

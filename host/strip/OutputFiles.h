@@ -35,8 +35,8 @@ private:
     void fail(OutputErrorKind kind, const QString &path, const QString &reason);
 
     QString m_folder;
-    /// The topmost folder that was created; empty if the folder existed.
-    QString m_createdFolder;
+    /// The topmost folder that was created; absent if the folder existed.
+    std::optional<QString> m_createdFolder;
     std::vector<std::unique_ptr<platform::OutputFile>> m_files;
     Result<void, OutputError> m_outcome;
     bool m_done = false;

@@ -82,7 +82,7 @@ bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup
 void CommandChecks::printRequestId(const dialog::QueueSender &sender) const
 {
     if (!m_command.quiet)
-        m_console.printRequestId(sender.queue(), sender.jobId(),
+        m_console.printRequestId(sender.lastJob()->queue, sender.lastJob()->id,
                                  qMax(qsizetype(1), m_command.documents.size()));
 }
 

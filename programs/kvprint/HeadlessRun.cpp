@@ -204,19 +204,20 @@ ExitStatus HeadlessRun::send(const host::Ticket &ticket)
         error = text;
         loop.quit();
     });
+    QObject::connect(&sender, &dialog::JobSender::canceled, &loop, &QEventLoop::quit);
     QObject::connect(&m_signals, &SignalWatch::caught, &sender, &dialog::JobSender::cancel);
     if (const std::optional<int> signal = m_signals.signal())
         return endedBy(*signal);
     sender.send({ticket, *m_document, {}});
     loop.exec();
     const std::optional<int> signal = m_signals.signal();
-    // A job that the signal canceled is not reported as an error.
-    if (error && signal && error->isEmpty())
-        return endedBy(*signal);
     if (error) {
         m_console.printError(*error);
         return signal ? statusOfSignal(*signal) : ExitStatus::Failed;
     }
+    // Only a signal cancels a job here.
+    if (!sender.lastJob())
+        return signal ? endedBy(*signal) : ExitStatus::Canceled;
     CommandChecks(m_command, m_console).printRequestId(sender);
     return ExitStatus::Printed;
 }

@@ -108,8 +108,8 @@ ExitStatus PrintRun::runVirtual()
 
 bool PrintRun::canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const
 {
-    if (const std::optional<QString> error = dialog.prepare()) {
-        m_console.printError(*error);
+    if (const auto prepared = dialog.prepare(); !prepared) {
+        m_console.printError(prepared.error());
         return false;
     }
     return CommandChecks(m_command, m_console).accepts(*dialog.ticket(), setup);
@@ -133,8 +133,8 @@ ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSen
     if (printsAtOnce) {
         sender.setScreenshotFunction([&] { return dialog::completePicture(dialog); });
         dialog.print();
-        if (!dialog.error().isEmpty()) {
-            m_console.printError(dialog.error());
+        if (const std::optional<QString> &error = dialog.error()) {
+            m_console.printError(*error);
             dialog.done(QDialog::Rejected);
             return ExitStatus::Failed;
         }
@@ -143,7 +143,7 @@ ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSen
     }
     printSummary(dialog.summary());
     m_console.out(PrintRunText::tr("The label strip is in:") + u'\n');
-    m_console.out(sender.folder() + u'\n');
+    m_console.out(*sender.folder() + u'\n');
     return ExitStatus::Printed;
 }
 
@@ -193,7 +193,7 @@ ExitStatus PrintRun::follow(dialog::PrintDialog &dialog, const dialog::QueueSend
                             const host::CupsServer &server)
 {
     CommandChecks(m_command, m_console).printRequestId(sender);
-    dialog::JobWindow window(server, sender.queue(), sender.jobId(), dialog.title());
+    dialog::JobWindow window(server, sender.lastJob()->queue, sender.lastJob()->id, dialog.title());
     window.exec();
     if (const auto &status = window.status()) {
         if (status->state == host::JobState::Aborted) {

@@ -34,7 +34,7 @@ public:
         else
             Q_EMIT sent();
     }
-    void cancel() override { Q_EMIT failed(QString()); }
+    void cancel() override { Q_EMIT canceled(); }
 
     /// The option's value in the last job; empty when the option is not sent.
     QByteArray sentOption(const char *name) const

@@ -218,7 +218,7 @@ bool Hand::print()
         ADD_FAILURE() << m_dialog.told().toStdString();
         return false;
     }
-    job.id = m_dialog.sender().jobId();
+    job.id = m_dialog.sender().lastJob()->id;
     m_sent.push_back(job);
     if (job.isRecorded())
         m_dialog.server().countRecorded();

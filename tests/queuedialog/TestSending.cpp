@@ -97,7 +97,7 @@ protected:
     {
         openAndSettle(QStringLiteral("tape"));
         print();
-        return sender->jobId();
+        return sender->lastJob()->id;
     }
 };
 

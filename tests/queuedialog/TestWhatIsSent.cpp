@@ -179,7 +179,7 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
     }
 
     print();
-    const int jobId = sender->jobId();
+    const int jobId = sender->lastJob()->id;
     EXPECT_EQ(priorityOf(jobId), 70);
     const std::size_t before = cupsd->documents().size();
     cupsd->run(QStringLiteral("lp"), {QStringLiteral("-i"), QStringLiteral("full-%1").arg(jobId),

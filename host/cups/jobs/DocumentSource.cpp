@@ -31,10 +31,9 @@ CupsError failureFor(const QString &path, const QString &reason)
 
 } // namespace
 
-DocumentSource::DocumentSource(QString path, int descriptor, qint64 size)
+DocumentSource::DocumentSource(QString path, int descriptor)
     : m_path(std::move(path))
     , m_descriptor(descriptor)
-    , m_size(size)
 {
 }
 
@@ -57,13 +56,13 @@ Result<DocumentSource, CupsError> DocumentSource::open(const QString &path,
                                                        const std::optional<FileStamp> &expected)
 {
     if (path == QStringLiteral("-"))
-        return DocumentSource(path, STDIN_FILENO, -1);
+        return DocumentSource(path, STDIN_FILENO);
     // Without O_NONBLOCK, opening a pipe would wait for a writer.
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT
     if (descriptor < 0)
         return failureFor(path, qt_error_string(errno));
-    DocumentSource source(path, descriptor, 0);
+    DocumentSource source(path, descriptor);
     struct stat status = {};
     if (fstat(descriptor, &status) != 0)
         return source.failure(qt_error_string(errno));
@@ -86,8 +85,8 @@ CupsError DocumentSource::failure(const QString &reason) const
 
 Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
 {
-    const bool isInput = m_size < 0;
-    const qint64 wanted = isInput ? pieceSize : qMin(pieceSize, m_size - m_taken);
+    const bool isInput = !m_size;
+    const qint64 wanted = isInput ? pieceSize : qMin(pieceSize, *m_size - m_taken);
     if (wanted == 0 && fileStamp(m_descriptor) != m_stamp)
         return failure(DocumentSourceText::tr("it has changed while it was read"));
     if (wanted == 0)
@@ -113,7 +112,7 @@ Result<QByteArray, CupsError> DocumentSource::read(const BackgroundTask &task)
 
 bool DocumentSource::rewind()
 {
-    if (m_size < 0 || ::lseek(m_descriptor, 0, SEEK_SET) != 0)
+    if (!m_size || ::lseek(m_descriptor, 0, SEEK_SET) != 0)
         return false;
     m_taken = 0;
     return true;

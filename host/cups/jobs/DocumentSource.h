@@ -20,8 +20,8 @@ public:
     DocumentSource(DocumentSource &&other) noexcept;
     DocumentSource &operator=(DocumentSource &&) = delete;
 
-    /// The size in bytes; -1 for standard input.
-    qint64 size() const { return m_size; }
+    /// The size in bytes; absent for standard input.
+    std::optional<qint64> size() const { return m_size; }
     /// Reads the next part; empty at the end. A file that changes while it is read is an error, which is
     /// returned at the end at the latest: the content that was read was never shown to the user. Returns an
     /// empty part if the task is canceled while waiting for standard input.
@@ -31,13 +31,13 @@ public:
     bool rewind();
 
 private:
-    DocumentSource(QString path, int descriptor, qint64 size);
+    DocumentSource(QString path, int descriptor);
 
     CupsError failure(const QString &reason) const;
 
     QString m_path;
     int m_descriptor;
-    qint64 m_size;
+    std::optional<qint64> m_size = {};
     qint64 m_taken = 0;
     std::optional<FileStamp> m_stamp;
 };

@@ -82,9 +82,9 @@ Result<void, CupsError> JobHold::end(CupsConnection &connection, const QString &
     return connection.exchangeUncancelable(std::move(request), "/jobs").withoutValue();
 }
 
-bool JobHold::isStillOn(const QString &heldUntil) const
+bool JobHold::isStillOn(const std::optional<QString> &heldUntil) const
 {
-    return m_isNeeded && m_requestedHold != endlessHold && heldUntil.toUtf8() == endlessHold;
+    return m_isNeeded && m_requestedHold != endlessHold && heldUntil == QLatin1String(endlessHold);
 }
 
 } // namespace jobs

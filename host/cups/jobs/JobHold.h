@@ -31,7 +31,7 @@ public:
     Result<void, CupsError> end(CupsConnection &connection, const QString &queue, int jobId) const;
     /// Returns whether a job with this "job-hold-until" has not been released yet. Always false if the user
     /// requests an indefinite hold, since such a job is not released.
-    bool isStillOn(const QString &heldUntil) const;
+    bool isStillOn(const std::optional<QString> &heldUntil) const;
 
 private:
     bool m_isNeeded = false;

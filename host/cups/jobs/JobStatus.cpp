@@ -33,11 +33,11 @@ QStringList texts(ipp_t *answer, const char *name)
     return list;
 }
 
-QString heldSentence(const QString &until)
+QString heldSentence(const std::optional<QString> &until)
 {
-    if (until.isEmpty() || until == QStringLiteral("no-hold") || until == QStringLiteral("indefinite"))
+    if (!until || until == QStringLiteral("no-hold") || until == QStringLiteral("indefinite"))
         return JobStatusText::tr("Held until it is released.");
-    return JobStatusText::tr("Held until %1.").arg(until);
+    return JobStatusText::tr("Held until %1.").arg(*until);
 }
 
 QString stateSentence(const JobStatus &job)
@@ -98,7 +98,9 @@ Result<JobStatus, CupsError> queryJob(CupsConnection &connection, const QString 
     job.reasons = texts(attributes, "job-state-reasons");
     job.printerReasons = texts(attributes, "job-printer-state-reasons");
     job.message = texts(attributes, "job-printer-state-message").value(0);
-    job.heldUntil = texts(attributes, "job-hold-until").value(0);
+    const QStringList hold = texts(attributes, "job-hold-until");
+    if (!hold.isEmpty())
+        job.heldUntil = hold.front();
     job.sheetsCompleted = number("job-media-sheets-completed", IPP_TAG_INTEGER);
     if (ippFindAttribute(attributes, "number-of-documents", IPP_TAG_INTEGER))
         job.documents = number("number-of-documents", IPP_TAG_INTEGER);

@@ -31,8 +31,8 @@ struct JobStatus {
     QStringList printerReasons = {};
     /// The server's message.
     QString message = {};
-    /// The value of "job-hold-until"; empty if the server does not report it.
-    QString heldUntil = {};
+    /// The value of "job-hold-until"; absent if the server does not report it.
+    std::optional<QString> heldUntil = {};
     /// The number of printed labels, as far as the printer reports it.
     int sheetsCompleted = 0;
     /// The number of documents that the server has; absent if the server does not report it.

@@ -71,7 +71,8 @@ public:
     {
         UploadProgress now;
         for (const DocumentSource &source : sources)
-            now.total = source.size() < 0 || now.total < 0 ? -1 : now.total + source.size();
+            now.total =
+                source.size() && now.total ? std::optional(*now.total + *source.size()) : std::nullopt;
         for (std::size_t i = 0; i < sources.size(); ++i) {
             now.document = static_cast<int>(i);
             progress(now);

@@ -13,10 +13,10 @@ inline namespace jobs {
 struct UploadProgress {
     /// The index of the current document, from 0.
     int document = 0;
-    /// The bytes sent and the total, of all documents; the total is -1 (unknown) if a document is read from
+    /// The bytes sent and the total, of all documents; the total is absent if a document is read from
     /// standard input.
     qint64 sent = 0;
-    qint64 total = 0;
+    std::optional<qint64> total = 0;
 };
 
 /// Sends a job with all its documents and returns its number. For background tasks.

@@ -85,11 +85,12 @@ QString shellWord(const QString &word)
     return u'\'' + QString(word).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
 }
 
-QString LpCommand::differencesText() const
+std::optional<QString> LpCommand::differencesText() const
 {
-    return differences.isEmpty() ? QString()
-                                 : LpCommandText::tr("lp cannot say these options as they are sent: %1")
-                                       .arg(differences.join(QStringLiteral(", ")));
+    if (differences.isEmpty())
+        return std::nullopt;
+    return LpCommandText::tr("lp cannot say these options as they are sent: %1")
+        .arg(differences.join(QStringLiteral(", ")));
 }
 
 LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)

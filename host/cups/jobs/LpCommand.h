@@ -17,8 +17,8 @@ struct LpCommand {
     /// empty. Contains "document-format" if a PDF is sent that was converted from the named document.
     QStringList differences;
 
-    /// Returns the differences as a sentence without a full stop; empty if there are none.
-    QString differencesText() const;
+    /// Returns the differences as a sentence without a full stop; absent if there are none.
+    std::optional<QString> differencesText() const;
 };
 
 /// Returns the command for the job on the server.

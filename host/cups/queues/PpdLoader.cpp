@@ -39,8 +39,8 @@ struct PpdLoader::Outcome {
     std::shared_ptr<PpdFile> ppd;
     std::optional<CupsError> error;
     bool isAbsent = false;
-    /// The stamp of the PPD.
-    QByteArray stamp = {};
+    /// The stamp of the PPD; absent without a PPD.
+    std::optional<QByteArray> stamp = {};
 };
 
 namespace {
@@ -77,10 +77,10 @@ std::optional<PpdFile> PpdLoader::cached(const QString &queue)
     if (!path || isLarge(*path))
         return std::nullopt;
     // Reads the stamp first: if the file is replaced in between, the server sends the new PPD again.
-    const QByteArray stamp = cache.ppdStamp(queue);
+    const std::optional<QByteArray> stamp = cache.ppdStamp(queue);
     std::optional<PpdFile> ppd = openIfUsable(*path);
-    if (ppd)
-        m_given[queue] = stamp;
+    if (ppd && stamp)
+        m_given[queue] = *stamp;
     return ppd;
 }
 
@@ -89,14 +89,14 @@ void PpdLoader::load(const Destination &destination, LargeCached largeCached)
     if (m_task)
         m_task->cancel();
     const auto known = m_given.find(destination.queue);
-    const QByteArray given = known == m_given.end() ? QByteArray() : known->second;
+    const auto given = known == m_given.end() ? std::nullopt : std::optional(known->second);
     const int turn = ++m_turn;
     m_task = m_background.start(
         [this, server = m_server, destination, given, turn, largeCached](BackgroundTask &task) {
             std::optional<QByteArray> remembered;
             if (largeCached == LargeCached::Wanted)
                 remembered = loadLargeCached(server, destination.queue, turn, task);
-            const Outcome outcome = ask(server, destination, remembered.value_or(given), task);
+            const Outcome outcome = ask(server, destination, remembered ? remembered : given, task);
             if (!task.isCanceled()) // "this" is only used on the main thread, while it exists
                 task.deliver([this, turn, queue = destination.queue, outcome] {
                     if (turn == m_turn)
@@ -112,12 +112,12 @@ std::optional<QByteArray> PpdLoader::loadLargeCached(const CupsServer &server, c
     const std::optional<QString> path = cache.ppdPath(queue);
     if (!path || !isLarge(*path))
         return std::nullopt;
-    const QByteArray stamp = cache.ppdStamp(queue);
+    const std::optional<QByteArray> stamp = cache.ppdStamp(queue);
     std::optional<PpdFile> ppd = openIfUsable(*path);
-    if (!ppd)
+    if (!ppd || !stamp)
         return std::nullopt;
     // "this" is only used on the main thread, while the object exists.
-    task.deliver([this, turn, queue, stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
+    task.deliver([this, turn, queue, stamp = *stamp, known = std::make_shared<PpdFile>(*std::move(ppd))] {
         if (turn != m_turn)
             return;
         m_given[queue] = stamp;
@@ -127,7 +127,7 @@ std::optional<QByteArray> PpdLoader::loadLargeCached(const CupsServer &server, c
 }
 
 PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &destination,
-                                  const QByteArray &given, BackgroundTask &task)
+                                  const std::optional<QByteArray> &given, BackgroundTask &task)
 {
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
@@ -147,7 +147,9 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
     if (!file.value())
         return {};
     const QByteArray &content = file.value()->content;
-    cache.storePpd(queue, content, file.value()->modified);
+    // A PPD without a date counts as older than any other, so that the server sends the next one.
+    const qint64 modified = file.value()->modified.value_or(0);
+    cache.storePpd(queue, content, modified);
     Result<PpdFile, PpdError> ppd = openContent(content, cache.ppdPath(queue));
     if (!ppd) {
         // Removes the PPD: the server may later have a better one with the same date.
@@ -155,13 +157,13 @@ PpdLoader::Outcome PpdLoader::ask(const CupsServer &server, const Destination &d
         return {nullptr, CupsError{CupsErrorKind::Rejected, ppd.error().message}, false};
     }
     return {std::make_shared<PpdFile>(std::move(ppd).value()), std::nullopt, false,
-            QueueCache::stamp(file.value()->modified, content.size())};
+            QueueCache::stamp(modified, content.size())};
 }
 
 void PpdLoader::report(const QString &queue, const Outcome &outcome)
 {
-    if (outcome.ppd)
-        m_given[queue] = outcome.stamp;
+    if (outcome.stamp)
+        m_given[queue] = *outcome.stamp;
     else if (outcome.isAbsent)
         m_given.erase(queue);
     if (outcome.ppd)

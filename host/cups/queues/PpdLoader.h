@@ -55,8 +55,8 @@ private:
     /// background.
     std::optional<QByteArray> loadLargeCached(const CupsServer &server, const QString &queue, int turn,
                                               BackgroundTask &task);
-    static Outcome ask(const CupsServer &server, const Destination &destination, const QByteArray &given,
-                       BackgroundTask &task);
+    static Outcome ask(const CupsServer &server, const Destination &destination,
+                       const std::optional<QByteArray> &given, BackgroundTask &task);
     void report(const QString &queue, const Outcome &outcome);
 
     CupsServer m_server;

@@ -121,11 +121,11 @@ std::optional<QString> QueueCache::ppdPath(const QString &queue) const
     return QFileInfo::exists(path) ? std::optional(path) : std::nullopt;
 }
 
-QByteArray QueueCache::ppdStamp(const QString &queue) const
+std::optional<QByteArray> QueueCache::ppdStamp(const QString &queue) const
 {
     const QFileInfo file(ppdFileName(queue));
     if (!file.exists())
-        return {};
+        return std::nullopt;
     return stamp(file.lastModified().toSecsSinceEpoch(), file.size());
 }
 

@@ -33,9 +33,9 @@ public:
     /// Returns the path of the queue's PPD; no value if there is none.
     std::optional<QString> ppdPath(const QString &queue) const;
     /// Returns the value of an "If-Modified-Since" field with which a server compares its PPD to the cached
-    /// one; empty if there is none. It includes the length, because a PPD may be replaced twice within a
+    /// one; absent if there is none. It includes the length, because a PPD may be replaced twice within a
     /// second.
-    QByteArray ppdStamp(const QString &queue) const;
+    std::optional<QByteArray> ppdStamp(const QString &queue) const;
     /// Returns the same for a fetched PPD: modified in seconds since 1970-01-01 UTC, length in bytes.
     static QByteArray stamp(qint64 modified, qint64 length);
     /// Stores the PPD; modified in seconds since 1970-01-01 UTC. Ignores errors.

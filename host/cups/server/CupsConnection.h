@@ -77,14 +77,14 @@ public:
     /// A file of the server.
     struct File {
         QByteArray content;
-        /// Seconds since 1970-01-01 UTC; 0 if the server does not report it.
-        qint64 modified = 0;
+        /// Seconds since 1970-01-01 UTC; absent if the server does not report it.
+        std::optional<qint64> modified = {};
     };
     /// Fetches a file of the server into memory. A file of more than maxBytes bytes is an error. Returns no
     /// value if the file has not changed since the date and length in unlessModifiedSince, the value of an
-    /// "If-Modified-Since" field; if that is empty, always fetches the file.
-    Result<std::optional<File>, CupsError> fetch(const QByteArray &resource,
-                                                 const QByteArray &unlessModifiedSince, qint64 maxBytes);
+    /// "If-Modified-Since" field; if that is absent, always fetches the file.
+    Result<std::optional<File>, CupsError>
+    fetch(const QByteArray &resource, const std::optional<QByteArray> &unlessModifiedSince, qint64 maxBytes);
 
     /// Returns why there is no response: canceled, timed out, connection broken, or not connected.
     CupsError noAnswer() const;
@@ -175,7 +175,7 @@ private:
     Result<IppPointer, CupsError> readAnswer(http_status_t status);
     Result<IppPointer, CupsError> readDocumentAnswer(http_status_t status);
     static ssize_t readPiece(void *connection, ipp_uchar_t *buffer, std::size_t length);
-    http_status_t get(const QByteArray &resource, const QByteArray &unlessModifiedSince);
+    http_status_t get(const QByteArray &resource, const std::optional<QByteArray> &unlessModifiedSince);
     static int mayWaitOn(http_t *http, void *state);
     static const char *password(const char *prompt, http_t *http, const char *method, const char *resource,
                                 void *state);

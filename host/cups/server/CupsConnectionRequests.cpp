@@ -298,19 +298,21 @@ Result<IppPointer, CupsError> CupsConnection::exchangeUncancelable(IppPointer re
     return answer;
 }
 
-http_status_t CupsConnection::get(const QByteArray &resource, const QByteArray &unlessModifiedSince)
+http_status_t CupsConnection::get(const QByteArray &resource,
+                                  const std::optional<QByteArray> &unlessModifiedSince)
 {
     return sendUntilAccepted("GET", resource, [&] {
         httpClearFields(m_http.get());
-        if (!unlessModifiedSince.isEmpty())
-            httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, unlessModifiedSince.constData());
+        if (unlessModifiedSince)
+            httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, unlessModifiedSince->constData());
         setAuthorization();
         return httpGet(m_http.get(), resource.constData()) == 0 ? awaitAnswer() : HTTP_STATUS_ERROR;
     });
 }
 
 Result<std::optional<CupsConnection::File>, CupsError>
-CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifiedSince, qint64 maxBytes)
+CupsConnection::fetch(const QByteArray &resource, const std::optional<QByteArray> &unlessModifiedSince,
+                      qint64 maxBytes)
 {
     const auto failure = [&](CupsErrorKind kind, const QString &reason) -> CupsError {
         return {kind, CupsConnectionRequestsText::tr("The print server \"%1\" does not give \"%2\": %3")
@@ -333,7 +335,8 @@ CupsConnection::fetch(const QByteArray &resource, const QByteArray &unlessModifi
     }
     File file;
     const char *const modified = httpGetField(m_http.get(), HTTP_FIELD_LAST_MODIFIED);
-    file.modified = *modified ? httpGetDateTime(modified) : 0;
+    if (*modified)
+        file.modified = httpGetDateTime(modified);
     const bool chunked = *httpGetField(m_http.get(), HTTP_FIELD_TRANSFER_ENCODING) != 0;
     const off_t announced = chunked ? 0 : httpGetLength2(m_http.get());
     std::array<char, 32768> piece = {};

@@ -101,6 +101,6 @@ TEST_F(PanelWatchTest, APanelThatRefusesTheJobIsToldAndAskedAgainByTheNextPrint)
     panelView()->setProperty("refusesJobs", false);
     click(button("Print"));
     EXPECT_EQ(sender.jobs.size(), 1U);
-    EXPECT_EQ(window->error(), QString());
+    EXPECT_FALSE(window->error());
     EXPECT_EQ(window->result(), QDialog::Accepted);
 }

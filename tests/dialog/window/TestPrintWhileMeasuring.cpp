@@ -67,7 +67,7 @@ TEST_F(PrintWhileMeasuringTest, TheVirtualPrinterGetsTheJobThatIsShownWithAllFig
     printAndGoOnWorking();
     EXPECT_FALSE(QFile::exists(folder));
     ASSERT_TRUE(waitUntil([this] { return !window->isVisible(); }));
-    EXPECT_EQ(window->result(), QDialog::Accepted) << window->error().toStdString();
+    EXPECT_EQ(window->result(), QDialog::Accepted) << window->error().value_or(QString()).toStdString();
     QFile file(folder + QStringLiteral("/job.json"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QJsonObject job = QJsonDocument::fromJson(file.readAll()).object();

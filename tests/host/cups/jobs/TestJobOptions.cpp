@@ -287,7 +287,7 @@ TEST(LpCommand, TellsWhatLpTakesFromLpoptionsByItself)
     ticket.destination.userOptions = {{"raw", "true"}, {"media", "A4"}, {"KvMirror", "ON"}};
     const host::LpCommand command = lpCommand({}, ticket);
     EXPECT_EQ(command.differences, list({"raw", "media"}));
-    EXPECT_TRUE(command.differencesText().endsWith(QStringLiteral("raw, media")));
+    EXPECT_TRUE(command.differencesText()->endsWith(QStringLiteral("raw, media")));
     ticket.options = {{"media", "A4", Origin::UserDefault, true}};
     EXPECT_EQ(lpCommand({}, ticket).differences, list({"raw"}));
 }
