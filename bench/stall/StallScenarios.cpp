@@ -256,7 +256,7 @@ StallScenarios::Duration StallScenarios::stoppedUpload()
     const FaultyServer stalling(cupsd->port(), {.stallAfter = 500'000});
     return sendTo(serverAt(stalling.address()), [&] {
         waitUntil([&] { return stalling.stalledCount() == 1; });
-        Hands::click(button(QStringLiteral("Stop sending")));
+        Hands::click(button(QStringLiteral("Cancel sending")));
     });
 }
 

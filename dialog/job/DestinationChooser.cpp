@@ -119,19 +119,20 @@ QString DestinationChooser::stateText() const
     const bool needsPassword = error && error->kind == host::CupsErrorKind::NotAuthorized;
     const bool isUntrusted = error && error->kind == host::CupsErrorKind::Untrusted;
     if (!m_session.chosen())
-        return !m_session.isSettled() ? tr("Waiting for the print server's answer…")
-               : needsPassword        ? tr("The print server wants a password.")
+        return !m_session.isSettled() ? tr("Waiting for the print server\u2026")
+               : needsPassword        ? tr("The print server requires a password.")
                : isUntrusted          ? tr("The print server is not trusted.")
-               : isCached             ? tr("The print server does not answer.")
+               : isCached             ? tr("The print server does not respond.")
                                       : tr("There is no such printer.");
     const QString sentences = host::queueSentences(*m_session.chosen()).join(u' ');
     if (isCached && !m_session.isSettled())
-        return tr("Last time: %1").arg(sentences);
+        return tr("Last known state: %1").arg(sentences);
     if (isCached && needsPassword)
-        return tr("The print server wants a password. Last time: %1").arg(sentences);
+        return tr("The print server requires a password. Last known state: %1").arg(sentences);
     if (isCached && isUntrusted)
-        return tr("The print server is not trusted. Last time: %1").arg(sentences);
-    return isCached ? tr("The print server does not answer. Last time: %1").arg(sentences) : sentences;
+        return tr("The print server is not trusted. Last known state: %1").arg(sentences);
+    return isCached ? tr("The print server does not respond. Last known state: %1").arg(sentences)
+                    : sentences;
 }
 
 void DestinationChooser::enterEvent(QEnterEvent *event)

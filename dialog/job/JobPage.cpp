@@ -69,7 +69,7 @@ void JobPage::build()
     m_title->setMaxLength(maxTitleLength);
     fillOrientations();
     fillHolds();
-    m_time->setAccessibleName(tr("Time to print at"));
+    m_time->setAccessibleName(tr("Print time"));
     // Qt reverses a time in a right-to-left window, but times are written from left to right there.
     m_time->setLayoutDirection(Qt::LeftToRight);
     m_time->setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
@@ -78,7 +78,7 @@ void JobPage::build()
     m_time->hide();
     // 0 stands for the queue's default.
     m_priority->setRange(0, maxPriority);
-    m_priority->setSpecialValueText(tr("As the queue is set"));
+    m_priority->setSpecialValueText(tr("Queue default"));
     m_priority->setToolTip(tr("From 1 to 100; jobs with a higher priority are printed before others"));
 
     auto *const when = new QHBoxLayout;
@@ -89,7 +89,7 @@ void JobPage::build()
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("Job &name"), m_title);
     form->addRow(tr("Orienta&tion"), m_orientation);
-    auto *const whenLabel = new QLabel(tr("Pr&int it"), this);
+    auto *const whenLabel = new QLabel(tr("When to pr&int"), this);
     whenLabel->setBuddy(m_hold);
     form->addRow(whenLabel, when);
     form->addRow(tr("Priorit&y"), m_priority);
@@ -97,7 +97,7 @@ void JobPage::build()
 
 void JobPage::fillOrientations()
 {
-    m_orientation->addItem(tr("As the printer is set"));
+    m_orientation->addItem(tr("Printer default"));
     const std::pair<host::Orientation, QString> entries[] = {
         {host::Orientation::Portrait, tr("Portrait")},
         {host::Orientation::Landscape, tr("Landscape")},
@@ -110,11 +110,11 @@ void JobPage::fillOrientations()
 
 void JobPage::fillHolds()
 {
-    m_hold->addItem(tr("As the queue is set"));
+    m_hold->addItem(tr("Queue default"));
     const std::pair<QString, QString> entries[] = {
         {QStringLiteral("resume"), tr("Now")},
-        {QStringLiteral("hold"), tr("When I release it")},
-        {atATime, tr("At a time")},
+        {QStringLiteral("hold"), tr("When it is released")},
+        {atATime, tr("At a specific time")},
         {QStringLiteral("day-time"), tr("During the day")},
         {QStringLiteral("evening"), tr("In the evening")},
         {QStringLiteral("night"), tr("At night")},

@@ -33,7 +33,7 @@ JobWindow::JobWindow(const host::CupsServer &server, const QString &queue, int j
     layout->addWidget(m_words);
     layout->addStretch(1);
     layout->addWidget(buttons);
-    showMessage(tr("The job is sent."));
+    showMessage(tr("The job was sent."));
     setMinimumWidth(40 * fontMetrics().averageCharWidth());
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

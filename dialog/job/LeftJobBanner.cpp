@@ -32,7 +32,7 @@ void LeftJobBanner::showNext()
         return;
     }
     const QStringList sentences = m_messages + QStringList{host::leftJobSentence(m_jobs.front())};
-    setMessage(sentences.join(u'\n'), tr("Cancel the job"), tr("Print what is there"));
+    setMessage(sentences.join(u'\n'), tr("Cancel the job"), tr("Release the job"));
 }
 
 void LeftJobBanner::settle(host::LeftJobAction action)

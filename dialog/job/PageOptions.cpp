@@ -21,7 +21,7 @@ PageOptions::PageOptions(std::vector<int> pageCounts, QWidget *parent)
     , m_copies(new QSpinBox(this))
     , m_collate(new QCheckBox(tr("Set &by set"), this))
     , m_pages(new QLineEdit(this))
-    , m_reverse(new QCheckBox(tr("Last page first"), this))
+    , m_reverse(new QCheckBox(tr("Reverse order"), this))
 {
     build();
     show();
@@ -34,7 +34,7 @@ void PageOptions::build()
     m_copies->setAccelerated(true);
     m_collate->setToolTip(
         tr("All pages once, then all pages again; otherwise all copies of a page together"));
-    m_pages->setPlaceholderText(tr("all, or for example 1-3, 5"));
+    m_pages->setPlaceholderText(tr("all, or ranges such as 1-3, 5"));
     addClearButton(m_pages);
     auto *const layout = new QFormLayout(this);
     layout->setContentsMargins({});

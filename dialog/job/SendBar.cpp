@@ -15,7 +15,7 @@ SendBar::SendBar(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLabel(this))
     , m_bar(new QProgressBar(this))
-    , m_cancel(new QPushButton(tr("Stop sending"), this))
+    , m_cancel(new QPushButton(tr("Cancel sending"), this))
 {
     m_title->setTextFormat(Qt::PlainText);
     auto *const layout = new QHBoxLayout(this);

@@ -23,7 +23,7 @@ TicketPage::TicketPage(QWidget *parent)
     , m_line(new QLineEdit(this))
     , m_differences(new QLabel(this))
 {
-    m_options->setHeaderLabels({tr("Option"), tr("Value"), tr("From"), tr("Sent")});
+    m_options->setHeaderLabels({tr("Option"), tr("Value"), tr("Origin"), tr("Sent")});
     m_options->setRootIsDecorated(false);
     m_options->setUniformRowHeights(true);
     m_options->setAccessibleName(tr("Options of the job"));

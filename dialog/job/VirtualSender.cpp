@@ -18,7 +18,7 @@ VirtualSender::VirtualSender(std::optional<QString> folder, QObject *parent)
 void VirtualSender::send(const ReadyJob &job)
 {
     if (!job.plan || !job.renderer) {
-        Q_EMIT failed(tr("The PPD file names no paper to print on"));
+        Q_EMIT failed(tr("The PPD file defines no paper"));
         return;
     }
     const QString folder = m_folder.value_or(host::VirtualPrinter::unusedFolder());

@@ -18,9 +18,10 @@ struct ConflictQuestionText {
 
 bool confirmConflicts(const QString &sentences, QWidget *parent)
 {
-    QMessageBox question(QMessageBox::Warning, parent->windowTitle(),
-                         ConflictQuestionText::tr("The printer cannot do all of these together."),
-                         QMessageBox::NoButton, parent);
+    QMessageBox question(
+        QMessageBox::Warning, parent->windowTitle(),
+        ConflictQuestionText::tr("The printer does not support this combination of settings."),
+        QMessageBox::NoButton, parent);
     question.setInformativeText(sentences);
     const QPushButton *const print =
         question.addButton(ConflictQuestionText::tr("Print anyway"), QMessageBox::AcceptRole);

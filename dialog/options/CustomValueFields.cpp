@@ -102,10 +102,9 @@ void CustomValueFields::changed()
         Q_EMIT edited();
         return;
     }
-    m_missing->setText(
-        tr("\"%1\" needs %n character(s) at least. Until then the setting is as it was before.", nullptr,
-           static_cast<int>(missing->minimum))
-            .arg(missing->text));
+    m_missing->setText(tr("\"%1\" needs at least %n character(s). Until then, the previous value is used.",
+                          nullptr, static_cast<int>(missing->minimum))
+                           .arg(missing->text));
     m_fields[static_cast<std::size_t>(missing - m_parameters.begin())]->setAccessibleDescription(
         m_missing->text());
 }

@@ -76,7 +76,7 @@ void OptionsPage::addGroup(const QString &text, const std::vector<QByteArray> &k
 
 void OptionsPage::layOut()
 {
-    m_groups->setAccessibleName(tr("Groups of options"));
+    m_groups->setAccessibleName(tr("Option groups"));
     const int sign = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     m_groups->setIconSize(QSize(sign, sign));
     m_groups->setTextElideMode(Qt::ElideRight);

@@ -20,27 +20,27 @@
         <translation>Diesen Drucker gibt es nicht.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Warten auf die Antwort des Druckservers…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>Zuletzt: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>Der Druckserver antwortet nicht. Zuletzt: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>Der Druckserver antwortet nicht.</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>Der Druckserver verlangt ein Kennwort.</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>Der Druckserver verlangt ein Kennwort. Zuletzt: %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>Dem Druckserver wird nicht vertraut.</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>Dem Druckserver wird nicht vertraut. Zuletzt: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>Uhrzeit für den Druck</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>Vorgabe der Warteschlange</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>Ausrich&amp;tung</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>&amp;Zeitpunkt</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>&amp;Priorität</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>Vorgabe des Druckers</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>Sofort</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>Nach Freigabe</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>Zu einer Uhrzeit</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>Der Auftrag ist gesendet.</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>Auftrag zurücknehmen</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>Drucken, was da ist</translation>
+        <source>Release the job</source>
+        <translation>Auftrag freigeben</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>Erst alle Seiten einmal, dann alle noch einmal; sonst alle Kopien einer Seite zusammen</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>alle, oder zum Beispiel 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>S&amp;eiten</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>Letzte Seite zuerst</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>Senden abbrechen</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>Herkunft</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>Verbindung ohne Verschlüsselung</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>Der Druckserver „%1“ verlangt ein Kennwort, und die Verbindung zu ihm ist nicht verschlüsselt.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>Sein SHA-256-Fingerabdruck lautet:
 %1
 
@@ -335,7 +335,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>Die PPD-Datei nennt kein Papier, auf das gedruckt werden kann</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>Der Drucker kann dies nicht alles zusammen.</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
             <numerusform>„%1“ braucht mindestens %n Zeichen. Bis dahin bleibt die Einstellung, wie sie war.</numerusform>
@@ -383,7 +383,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>Gruppen von Optionen</translation>
     </message>
     <message>
@@ -562,7 +562,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Schneideoptionen können nicht gezeigt werden. %1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>Der Drucker hat keine Beschreibung; seine Papiere und Schnitte sind hier deshalb nicht bekannt.</translation>
     </message>
     <message>
@@ -570,11 +570,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Warten auf die Beschreibung des Druckers…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>Es ist kein Drucker gewählt.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Warten auf die Antwort des Druckservers…</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Kein Arbeitsspeicher mehr; der Auftrag ist vielleicht unvollständig oder auf dem Druckserver zurückgeblieben.</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>Kein Arbeitsspeicher mehr. Der Auftrag wurde trotzdem gesendet.</translation>
     </message>
 </context>
@@ -619,7 +619,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Option „%1“ des Druckers „%2“ hat keine Auswahl „%3“; sie hat: %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>Der Drucker „%1“ kann nicht auf das Papier „%2“ drucken: Es ist %3 × %4 Punkt groß; Breite und Länge müssen größer als 0 sein, eine von beiden höchstens %5 m, die andere höchstens %6 m.</translation>
     </message>
 </context>
@@ -653,7 +653,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>Er soll neu gedruckt werden, wird aber zurückgehalten. %1</translation>
     </message>
     <message>
@@ -661,18 +661,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Auftrag %1 wurde nicht geändert. %2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 In der Warteschlange „%3“ des Druckservers „%4“ kann ein Auftrag „%2“ ohne Dokumente zurückgeblieben sein; davon wird nichts gedruckt.</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 Der Druckserver „%2“ hat alle Dokumente des Auftrags %3-%4 und hat nicht gemeldet, ob er ihn freigibt: Der Auftrag wird gedruckt, oder er wird zurückgehalten und nicht gedruckt. Sehen Sie in die Warteschlange, bevor Sie noch einmal drucken.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>Die Aufzeichnung „%1“ eines Auftrags, der gesendet wurde, ist beschädigt und wurde entfernt; sehen Sie in Ihren Warteschlangen nach, ob ein Auftrag zurückgeblieben ist.</translation>
     </message>
 </context>
@@ -729,7 +729,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>So viele Etiketten auf einmal gehen nicht: Ein Auftrag hat höchstens %1</translation>
     </message>
 </context>
@@ -744,7 +744,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Zurückgehalten bis %1.</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>Wartet, bis er an der Reihe ist.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Wird gedruckt.</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>Angehalten; es geht weiter, wenn der Drucker wieder bereit ist.</translation>
     </message>
     <message>
@@ -768,11 +768,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Gedruckt.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>Der Server meldet: %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>Der Auftrag ist zu Ende; der Druckserver behält nichts davon.</translation>
     </message>
 </context>
@@ -783,18 +783,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Es gibt kein Dokument zu drucken.</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Kein Druckserver kann die Auswahl „%1“ der Option „%2“ weitergeben.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>Der Druckserver „%1“ hat „%2“ nicht ganz angenommen.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>Der Druckserver „%1“ hat keinen Auftrag „%2“ in der Warteschlange „%3“ mehr, oder er ist beendet.</translation>
     </message>
     <message>
@@ -810,18 +810,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Auftrag %1-%2 auf dem Druckserver „%3“ ist zurückgenommen.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht Auftrag %1 („%2“) auf dem Druckserver „%3“ zurückgelassen, möglicherweise ohne alle Dokumente.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>Ein Programm, das beim Drucken beendet wurde, hat vielleicht einen Auftrag „%1“ ohne Dokumente in der Warteschlange „%2“ des Druckservers „%3“ zurückgelassen.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp kann diese Optionen nicht so angeben, wie sie gesendet werden: %1</translation>
     </message>
 </context>
@@ -832,7 +832,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Der Druckserver „%1“ kann den Drucker „%2“ nicht erreichen.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>Der Drucker „%1“ ist nicht mehr im Netz.</translation>
     </message>
 </context>
@@ -846,7 +846,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>Der Drucker wartet auf Etiketten oder Band.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Etikettenrolle oder das Band ist aufgebraucht.</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>Der Drucker wird gleich angehalten.</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Abdeckung des Druckers ist offen.</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>Eine Verriegelung des Druckers ist offen.</translation>
     </message>
     <message>
@@ -962,15 +962,15 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Neue Aufträge werden zurückgehalten.</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>Der Drucker ist vom Verwalter abgeschaltet.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>Ein Teil des Druckertreibers fehlt.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>Ein Teil des Druckertreibers ist nicht sicher installiert.</translation>
     </message>
     <message>
@@ -978,7 +978,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Warten, bis der Drucker den Auftrag beendet hat.</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>Der Drucker hält sich nicht an sein Protokoll.</translation>
     </message>
     <message>
@@ -1002,7 +1002,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Warteschlange nimmt keine Aufträge an.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>Der Server meldet: %1</translation>
     </message>
 </context>
@@ -1013,7 +1013,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Auf Wunsch abgebrochen.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>Der Druckserver „%1“ antwortet nicht.</translation>
     </message>
     <message>
@@ -1021,15 +1021,15 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Keine Verbindung zum Druckserver „%1“: %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>Die Verbindung zum Druckserver „%1“ ist abgebrochen.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>Der Druckserver „%1“ meldet: %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>Der Druckserver „%1“ liefert „%2“ nicht: %3</translation>
     </message>
     <message>
@@ -1037,11 +1037,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>die Datei ist größer als %1 MB</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>die Verbindung brach mittendrin ab</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“, und es wurde keines angegeben.</translation>
     </message>
     <message>
@@ -1053,11 +1053,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Das Zertifikat des Druckservers „%1“ ist nicht das, dem für diesen Rechner vertraut wird. Das vertraute hat den SHA-256-Fingerabdruck %2, das des Servers %3. Möglicherweise wurde das Zertifikat des Servers ersetzt, auf demselben Rechner läuft ein weiterer Druckserver, oder jemand fängt die Verbindung ab. Wenn der Verwalter des Servers den Fingerabdruck bestätigt, löschen Sie die Datei „%4“ und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>Dem Zertifikat des Druckservers „%1“ mit dem SHA-256-Fingerabdruck %2 darf nicht vertraut werden: %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>Dem Zertifikat des Druckservers „%1“ wird nicht vertraut: %2. Sein SHA-256-Fingerabdruck ist %3. Vergleichen Sie ihn mit dem, den der Verwalter des Servers nennt, und bestätigen Sie ihn, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
     </message>
     <message>
@@ -1065,7 +1065,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Der Benutzername oder das Kennwort ist falsch.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>Der Druckserver „%1“ verlangt ein Kennwort für den Benutzer „%2“. Es wurde keines gesendet, weil die Verbindung nicht verschlüsselt ist und andere es mitlesen könnten. Verschlüsseln Sie die Verbindung (-E), oder bestätigen Sie es, wenn Sie gefragt werden, im Fenster oder auf einem Terminal.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>es ist verschlüsselt; entfernen Sie zuerst das Kennwort</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>es ist auf unbekannte Weise verschlüsselt</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Das Dokument von der Standardeingabe lässt sich nicht öffnen: %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>es ist ein beschädigtes Bild</translation>
     </message>
     <message>
@@ -1131,11 +1131,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>es hat %1 × %2 Pixel, mehr als sich drucken lassen</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>es ist ein Bild, dessen Ende fehlt</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>Kein Dokument angegeben</translation>
     </message>
     <message>
@@ -1154,11 +1154,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>es ist größer als %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>es ist kein PDF, PNG, JPEG oder SVG</translation>
     </message>
     <message>
@@ -1166,19 +1166,19 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>die Datei wurde seit dem Öffnen verändert; öffnen Sie sie noch einmal</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>es ist ein beschädigtes PDF</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>es lässt sich nicht in „%1“ ablegen: %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>es ist ein beschädigtes SVG</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>es verweist auf „%1“, und gedruckt wird nur, was im SVG selbst steht</translation>
     </message>
     <message>
@@ -1186,30 +1186,30 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Zeile %1 des SVG: %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>es ist ein SVG aus mehr Teilen, als sich zeichnen lassen</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>es enthält ein Bild, das weder PNG noch JPEG ist</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>es enthält ein beschädigtes Bild</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>es enthält Bilder mit mehr Pixeln, als sich drucken lassen</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>das Programm „%1“, das es umwandelt, lässt sich nicht starten</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>Die Seiten „%1“ sind nicht verständlich: Schreiben Sie Zahlen und Bereiche wie 1-3, 5</translation>
     </message>
     <message>
@@ -1217,7 +1217,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Seiten „%1“ lassen sich nicht drucken: Die letzte Seite des Dokuments ist %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>Es würde nichts gedruckt: Keine Seite des Dokuments ist gewählt</translation>
     </message>
 </context>
@@ -1228,7 +1228,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Das Bundle „%1“ lässt sich nicht verwenden: %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>seine Bibliothek enthält keine Seiten für den Druckdialog</translation>
     </message>
     <message>
@@ -1248,7 +1248,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>den Ordner gibt es nicht</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>Das Bundle mit den Schneideoptionen wurde nicht gefunden; gesucht: %1</translation>
     </message>
     <message>
@@ -1267,7 +1267,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
     </message>
 </context>
@@ -1278,11 +1278,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>„%1: %2“</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>Dieser Drucker beherrscht %1 nicht.</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 und %2 schließen einander aus.</translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>sie ist größer als %1 MB, mehr als jede Druckerbeschreibung</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>sie ist beschädigt oder unvollständig: Sie lässt sich nicht bis zum Ende entpacken</translation>
     </message>
     <message>
@@ -1410,26 +1410,26 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Reihenfolge</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>letzte Seite zuerst</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>Davon</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>die ungeraden Seiten</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>die geraden Seiten</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>„%1“ kann mit diesem Papier und den anderen Schneideoptionen nicht „%2“ sein und wird als „%3“ gedruckt.</translation>
     </message>
     <message>
@@ -1501,15 +1501,15 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Halbschnitt zwischen den Etiketten eines Stücks.</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>Gedruckte Marken, wo nicht durchgeschnitten wird.</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>Das Ende bleibt im Drucker; der nächste Auftrag schließt ohne Rand an.</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>Leeres Band vor und nach jedem Etikett entfällt.</translation>
     </message>
     <message>
@@ -1538,7 +1538,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>es ist kein Ordner</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>der Ordner lässt sich nicht anlegen: %1</translation>
     </message>
     <message>
@@ -1586,7 +1586,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>Druckt Dokumente auf Etikettendruckern, mit einem Dialog für Papier, Seiten und Schnitte, der den Etikettenstreifen zeigt, wie er herauskommt. Ohne Bildschirm wird sofort gedruckt. PDF, PNG, JPEG und SVG; „-“ oder nichts ist die Standardeingabe.</translation>
     </message>
     <message>
@@ -1596,31 +1596,31 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>Beendet die Optionen: Was folgt, sind Dokumente.</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>Die Option „%1“ gibt es nicht</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>Die Option „%1“ nimmt keinen Wert</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>Die Option „%1“ braucht einen Wert: %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>Die Option „%1“ betrifft den virtuellen Drucker und braucht „--ppd“</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H: „%1“ betrifft einen früher gesendeten Auftrag und braucht „-i“</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>„%1“ nimmt keine Dokumente, angegeben ist „%2“</translation>
     </message>
     <message>
@@ -1628,15 +1628,15 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Standardeingabe („-“) lässt sich nur einmal drucken</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>Die Option „%1“ verträgt sich nicht mit „%2“</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>Die Option „%1“ geht nur zusammen mit einer von: %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>Kein Dokument angegeben; nennen Sie eine Datei oder „-“, um eines einzutippen</translation>
     </message>
     <message>
@@ -1644,11 +1644,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>der Wert ist leer</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>„%1“ ist kein Zeitpunkt zum Drucken; schreiben Sie HH:MM oder HH:MM:SS (UTC) oder eines von: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>„%1“ ist nicht möglich; es muss eines sein von: %2</translation>
     </message>
     <message>
@@ -1656,27 +1656,27 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>kein Papier angegeben</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>„%1“ ist keine Zahl von Kopien; sie muss von 1 bis %2 sein</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>„%1“ ist keine Priorität; sie muss von 1 (zuletzt) bis 100 (zuerst) sein</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>„%1“ nennt keine Warteschlange; schreiben Sie QUEUE oder QUEUE/INSTANCE</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>„%1“ ist kein Auftrag; schreiben Sie seine Nummer oder QUEUE-NUMBER, wie beim Senden gemeldet</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>„%1“ nennt keine Option; schreiben Sie NAME=VALUE</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>Die Warteschlange, auf der gedruckt wird, mit einem benannten Satz von Optionen. Ohne die Angabe die Standardwarteschlange.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Der Druckserver.</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>Der Benutzer, für den gedruckt wird.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Verschlüsselt die Verbindung zum Druckserver.</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>Der Name des Papiers in der PPD, oder Custom.BREITExLÄNGEmm, wo der Drucker freie Größen annimmt.</translation>
     </message>
     <message>
@@ -1704,7 +1704,7 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die zu druckenden Seiten, zum Beispiel 1-3,5,8-.</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>Eine Option der PPD oder des Druckservers; mehrere auf einmal, durch Leerzeichen getrennt, oder einzeln.</translation>
     </message>
     <message>
@@ -1716,63 +1716,63 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die Priorität des Auftrags, von 1 bis 100 (zuerst).</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>Wann gedruckt wird: hold, immediate, HH:MM (UTC), night, weekend und andere; bei einem früher gesendeten Auftrag auch resume und restart.</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>Sendet eine E-Mail, wenn der Auftrag beendet ist; schließt -s ein.</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>Meldet die Nummer des Auftrags nicht.</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>Für lp zugelassen: Dokumente werden immer kopiert.</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>Ändert einen früher gesendeten Auftrag.</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>Druckt sofort, mit den Einstellungen, mit denen der Dialog geöffnet würde.</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>Listet die Warteschlangen und ihren Zustand auf.</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>Zeigt die Einstellungen, mit denen der Dialog geöffnet würde, und druckt nichts.</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>Tut alles außer dem Senden und zeigt, was gesendet würde.</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>Gibt dies als JSON aus.</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>Sendet auch, was der Drucker nicht hat und was sich nicht miteinander verträgt.</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>Speichert ein Bild des Dialogs, wie er sich öffnet, in einer PNG-Datei.</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>Das Bundle mit den Schneideoptionen, oder der Ordner, in dem es liegt.</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Eine PPD-Datei, unkomprimiert oder gzip: druckt auf einem virtuellen Drucker statt auf einer Warteschlange.</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>Der Ordner für strip.pdf und job.json des virtuellen Druckers; er wird angelegt, wenn es ihn nicht gibt. Ohne die Angabe ein neuer Ordner bei den Daten des Benutzers.</translation>
     </message>
     <message>
@@ -1784,15 +1784,15 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Zeigt die Version.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>„%1“ ist nicht möglich; Dokumente werden als PDF gesendet</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1809,18 +1809,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>Nimmt einen Auftrag zurück, den ein beendetes Programm auf einem Druckserver zurückgelassen hat.</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>Druckt, was der Druckserver von einem solchen Auftrag hat, vielleicht nicht alle Dokumente.</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>Der Auftrag wurde trotzdem gesendet, als %1-%2.</translation>
     </message>
 </context>
@@ -1838,15 +1838,15 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>Der Druckserver „%1“ hat kein Ziel, auf dem gedruckt werden kann</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>Abhilfe: %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>Auf dem Druckserver „%1“ gibt es kein Standardziel; nennen Sie eines mit „-d“</translation>
     </message>
     <message>
@@ -1857,19 +1857,19 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>„kvprint --cancel-left %1“ nimmt ihn zurück, „kvprint --release-left %1“ druckt, was der Server davon hat.</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>Aufträge „%1“ sind auf mehreren Druckservern zurückgeblieben; nennen Sie einen von diesen: %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>Es gibt keinen Auftrag „%1“, den ein beendetes Programm zurückgelassen hat; es ist keiner zurückgeblieben</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>Es gibt keinen Auftrag „%1“, den ein beendetes Programm zurückgelassen hat; zurückgeblieben sind: %2</translation>
     </message>
 </context>
@@ -1880,11 +1880,11 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Die PPD-Datei „%1“ hat kein Papier „%2“; sie hat: %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>Die PPD-Datei „%1“ nennt kein Papier, auf das gedruckt werden kann</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>Der Etikettenstreifen liegt in:</translation>
     </message>
 </context>

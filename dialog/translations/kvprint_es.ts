@@ -20,27 +20,27 @@
         <translation>Esa impresora no existe.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Esperando la respuesta del servidor de impresión…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>La última vez: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>El servidor de impresión no responde. La última vez: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>El servidor de impresión no responde.</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>El servidor de impresión pide una contraseña.</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>El servidor de impresión pide una contraseña. La última vez: %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>No se confía en el servidor de impresión.</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>No se confía en el servidor de impresión. La última vez: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>Hora de impresión</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>Según la cola</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>Orien&amp;tación</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>C&amp;uándo imprimir</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>&amp;Prioridad</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>Según la impresora</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>Ahora</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>Cuando lo libere</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>A una hora determinada</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>El trabajo se ha enviado.</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>Retirar el trabajo</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>Imprimir lo que haya</translation>
+        <source>Release the job</source>
+        <translation>Liberar el trabajo</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>Todas las páginas una vez y luego otra; si no, todas las copias de una página juntas</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>todas o, por ejemplo, 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Pá&amp;ginas</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>Última página primero</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>Detener el envío</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Valor</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>Origen</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>Conexión sin cifrar</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>El servidor de impresión «%1» pide una contraseña y la conexión con él no está cifrada.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>Su huella SHA-256 es:
 %1
 
@@ -335,7 +335,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>El archivo PPD no indica ningún papel en el que imprimir</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>La impresora no puede hacer todo esto a la vez.</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>«%1» necesita al menos %n carácter. Hasta entonces, el ajuste queda como estaba.</numerusform>
             <numerusform>«%1» necesita al menos %n caracteres. Hasta entonces, el ajuste queda como estaba.</numerusform>
@@ -383,7 +383,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>Grupos de opciones</translation>
     </message>
     <message>
@@ -562,7 +562,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No se pueden mostrar las opciones de corte. %1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>La impresora no tiene descripción, por lo que aquí no se conocen sus papeles ni sus cortes.</translation>
     </message>
     <message>
@@ -570,11 +570,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Esperando la descripción de la impresora…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>No se ha elegido ninguna impresora.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Esperando la respuesta del servidor de impresión…</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Memoria agotada; es posible que el trabajo esté incompleto o haya quedado en el servidor de impresión.</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>Memoria agotada. El trabajo se envió de todos modos.</translation>
     </message>
 </context>
@@ -619,7 +619,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>La opción «%1» de la impresora «%2» no tiene el valor «%3»; tiene: %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>La impresora «%1» no puede imprimir en el papel «%2»: su tamaño es de %3 × %4 puntos; el ancho y el largo deben ser mayores que 0, uno de ellos de %5 m como máximo y el otro de %6 m como máximo.</translation>
     </message>
 </context>
@@ -653,7 +653,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>Se va a imprimir de nuevo, pero está retenido. %1</translation>
     </message>
     <message>
@@ -661,18 +661,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El trabajo %1 no se ha modificado. %2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 Es posible que en la cola «%3» del servidor de impresión «%4» haya quedado un trabajo «%2» sin documentos; no se imprime nada de él.</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 El servidor de impresión «%2» tiene todos los documentos del trabajo %3-%4 y no ha dicho si lo libera: el trabajo se imprime, o está retenido y no se imprime. Revise la cola antes de volver a imprimir.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>El registro «%1» de un trabajo que se estaba enviando está dañado y se ha eliminado; compruebe en sus colas si ha quedado algún trabajo.</translation>
     </message>
 </context>
@@ -729,7 +729,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>No se pueden imprimir tantas etiquetas a la vez: un trabajo tiene como máximo %1</translation>
     </message>
 </context>
@@ -744,7 +744,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Retenido hasta: %1.</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>Esperando su turno.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Imprimiendo.</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>Detenido; continúa cuando la impresora vuelva a estar lista.</translation>
     </message>
     <message>
@@ -768,11 +768,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Impreso.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>El servidor dice: %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>El trabajo ha terminado; el servidor de impresión no guarda registro de él.</translation>
     </message>
 </context>
@@ -783,18 +783,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No hay ningún documento que imprimir.</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Ningún servidor de impresión puede transmitir el valor «%1» de la opción «%2».</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>El servidor de impresión «%1» no ha aceptado todo «%2».</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>El servidor de impresión «%1» ya no tiene ningún trabajo «%2» en la cola «%3», o ha terminado.</translation>
     </message>
     <message>
@@ -810,18 +810,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El trabajo %1-%2 del servidor de impresión «%3» se ha retirado.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>Un programa que se detuvo mientras imprimía puede haber dejado el trabajo %1 («%2») en el servidor de impresión «%3», quizá sin todos sus documentos.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>Un programa que se detuvo mientras imprimía puede haber dejado un trabajo «%1» sin documentos en la cola «%2» del servidor de impresión «%3».</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp no puede expresar estas opciones tal como se envían: %1</translation>
     </message>
 </context>
@@ -832,7 +832,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El servidor de impresión «%1» no puede comunicarse con la impresora «%2».</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>La impresora «%1» ya no está en la red.</translation>
     </message>
 </context>
@@ -846,7 +846,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>La impresora espera etiquetas o cinta.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El rollo de etiquetas o la cinta se ha acabado.</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>La impresora está a punto de ponerse en pausa.</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>La cubierta de la impresora está abierta.</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>Un cierre de la impresora está abierto.</translation>
     </message>
     <message>
@@ -962,15 +962,15 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Los trabajos nuevos se retienen.</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>El administrador ha desactivado la impresora.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>Falta una parte del controlador de la impresora.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>Una parte del controlador de la impresora no está instalada de forma segura.</translation>
     </message>
     <message>
@@ -978,7 +978,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Esperando a que la impresora termine el trabajo.</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>La impresora no cumple su protocolo.</translation>
     </message>
     <message>
@@ -1002,7 +1002,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>La cola no acepta trabajos.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>El servidor dice: %1</translation>
     </message>
 </context>
@@ -1013,7 +1013,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Interrumpido a petición del usuario.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>El servidor de impresión «%1» no responde.</translation>
     </message>
     <message>
@@ -1021,15 +1021,15 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No se puede conectar con el servidor de impresión «%1»: %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>Se ha cortado la conexión con el servidor de impresión «%1».</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>El servidor de impresión «%1» dice: %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>El servidor de impresión «%1» no entrega «%2»: %3</translation>
     </message>
     <message>
@@ -1037,11 +1037,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>ocupa más de %1 MB</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>la conexión se cortó a la mitad</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2» y no se indicó ninguna.</translation>
     </message>
     <message>
@@ -1053,11 +1053,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El certificado del servidor de impresión «%1» no es el que está marcado como de confianza para este equipo. El de confianza tiene la huella SHA-256 %2; el del servidor, %3. Puede que se haya sustituido el certificado del servidor, que en el mismo equipo funcione otro servidor de impresión o que alguien esté interceptando la conexión. Si el administrador del servidor confirma la huella, elimine el archivo «%4» e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>No se permite confiar en el certificado del servidor de impresión «%1» con la huella SHA-256 %2: %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>No se confía en el certificado del servidor de impresión «%1»: %2. Su huella SHA-256 es %3. Compárela con la que indica el administrador del servidor y confírmela cuando se le pregunte, en la ventana o en un terminal.</translation>
     </message>
     <message>
@@ -1065,7 +1065,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El nombre de usuario o la contraseña son incorrectos.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>El servidor de impresión «%1» pide una contraseña para el usuario «%2». No se ha enviado ninguna porque la conexión no está cifrada y otros podrían leerla. Cifre la conexión (-E) o confírmelo cuando se le pregunte, en la ventana o en un terminal.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>está cifrado; quite antes la contraseña</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>está cifrado de un modo desconocido</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No se puede abrir el documento de la entrada estándar: %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>es una imagen dañada</translation>
     </message>
     <message>
@@ -1131,11 +1131,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>tiene %1 × %2 píxeles, más de los que se pueden imprimir</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>es una imagen a la que le falta el final</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>No se indica ningún documento</translation>
     </message>
     <message>
@@ -1154,11 +1154,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>supera %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>no es PDF, PNG, JPEG ni SVG</translation>
     </message>
     <message>
@@ -1166,19 +1166,19 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>el archivo ha cambiado desde que se abrió; ábralo de nuevo</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>es un PDF dañado</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>no se puede guardar en «%1»: %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>es un SVG dañado</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>hace referencia a «%1», y solo se imprime lo que está en el propio SVG</translation>
     </message>
     <message>
@@ -1186,30 +1186,30 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>línea %1 del SVG: %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>es un SVG con más partes de las que se pueden dibujar</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>contiene una imagen que no es ni PNG ni JPEG</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>contiene una imagen dañada</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>contiene imágenes con más píxeles de los que se pueden imprimir</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>no se puede iniciar el programa «%1», que lo convierte</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>No se entienden las páginas «%1»: escriba números e intervalos como 1-3, 5</translation>
     </message>
     <message>
@@ -1217,7 +1217,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No se pueden imprimir las páginas «%1»: la última página del documento es %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>No se imprimiría nada: no se ha elegido ninguna página del documento</translation>
     </message>
 </context>
@@ -1228,7 +1228,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No se puede usar el paquete «%1»: %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>su biblioteca no contiene paneles</translation>
     </message>
     <message>
@@ -1248,7 +1248,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>no existe esa carpeta</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>No se encuentra el paquete del panel; se buscó %1</translation>
     </message>
     <message>
@@ -1267,7 +1267,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>«%1» no puede guardar sus ajustes: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
     </message>
 </context>
@@ -1278,11 +1278,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>«%1: %2»</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>Esta impresora no admite %1.</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 y %2 se excluyen mutuamente.</translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>línea %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>ocupa más de %1 MB, más que cualquier descripción de impresora</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>está dañado o incompleto: no se puede descomprimir hasta el final</translation>
     </message>
     <message>
@@ -1410,26 +1410,26 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Orden</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>última página primero</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>De ellas</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>las páginas impares</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>las páginas pares</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>El paquete «%1» no pudo crear su panel</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>«%1» no puede ser «%2» con este papel y las demás opciones de corte, y se imprime como «%3».</translation>
     </message>
     <message>
@@ -1501,15 +1501,15 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Medio corte entre las etiquetas de una pieza.</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>Marcas impresas donde no se corta por completo.</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>El final queda en la impresora; el siguiente trabajo continúa desde ahí sin margen.</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>Se omite la cinta en blanco antes y después de cada etiqueta.</translation>
     </message>
     <message>
@@ -1538,7 +1538,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>no es una carpeta</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>no se puede crear la carpeta: %1</translation>
     </message>
     <message>
@@ -1586,7 +1586,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>Imprime documentos en impresoras de etiquetas, con un diálogo para papel, páginas y cortes que muestra la tira de etiquetas tal como saldrá. Sin pantalla imprime directamente. PDF, PNG, JPEG y SVG; «-» o nada es la entrada estándar.</translation>
     </message>
     <message>
@@ -1596,31 +1596,31 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>Termina las opciones: lo que sigue son documentos.</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>No existe la opción «%1»</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>La opción «%1» no admite ningún valor</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>La opción «%1» necesita un valor: %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>La opción «%1» es para la impresora virtual y necesita «--ppd»</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H: «%1» se refiere a un trabajo ya enviado y necesita «-i»</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>«%1» no admite documentos y se indicó «%2»</translation>
     </message>
     <message>
@@ -1628,15 +1628,15 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>La entrada estándar («-») solo se puede imprimir una vez</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>La opción «%1» no es compatible con «%2»</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>La opción «%1» solo se admite junto con una de estas: %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>No se indicó ningún documento; indique un archivo, o «-» para escribirlo</translation>
     </message>
     <message>
@@ -1644,11 +1644,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>el valor está vacío</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>«%1» no es una hora de impresión; escriba HH:MM o HH:MM:SS (UTC), o una de estas palabras: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>«%1» no es posible; tiene que ser uno de estos valores: %2</translation>
     </message>
     <message>
@@ -1656,27 +1656,27 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>no indica ningún papel</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>«%1» no es un número de copias; tiene que estar entre 1 y %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>«%1» no es una prioridad; tiene que estar entre 1 (último) y 100 (primero)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>«%1» no indica ninguna cola; escriba COLA o COLA/INSTANCIA</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>«%1» no es un trabajo; escriba su número, o COLA-NÚMERO tal como se mostró al enviarlo</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>«%1» no indica ninguna opción; escriba NOMBRE=VALOR</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>La cola en la que se imprime, con un conjunto de opciones con nombre. Sin esta opción, la cola predeterminada.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El servidor de impresión.</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>El usuario para el que se imprime.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Cifra la conexión con el servidor de impresión.</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>El nombre del papel en el PPD, o Custom.ANCHOxLARGOmm si la impresora admite tamaños personalizados.</translation>
     </message>
     <message>
@@ -1704,7 +1704,7 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Las páginas que imprimir, por ejemplo 1-3,5,8-.</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>Una opción del PPD o del servidor de impresión; varias a la vez, separadas por espacios, o una por una.</translation>
     </message>
     <message>
@@ -1716,63 +1716,63 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>La prioridad del trabajo, de 1 a 100 (primero).</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>Cuándo imprimir: hold, immediate, HH:MM (UTC), night, weekend y otros; para un trabajo ya enviado, también resume y restart.</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>Envía un correo cuando termina el trabajo; incluye -s.</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>No muestra el número del trabajo.</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>Se admite por compatibilidad con lp: los documentos siempre se copian.</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>Modifica un trabajo ya enviado.</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>Imprime directamente, con los ajustes con los que se abriría el diálogo.</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>Muestra las colas y su estado.</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>Muestra los ajustes con los que se abriría el diálogo y no imprime nada.</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>Hace todo menos enviar y muestra lo que se enviaría.</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>Lo muestra como JSON.</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>Envía incluso lo que la impresora no tiene y lo que es incompatible entre sí.</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>Guarda una imagen del diálogo, tal como se abre, en un archivo PNG.</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>El paquete con el panel de opciones de corte, o la carpeta en la que está.</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Un archivo PPD, sin comprimir o gzip: imprime en una impresora virtual en lugar de en una cola.</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>La carpeta para strip.pdf y job.json de la impresora virtual; se crea si no existe. Sin esta opción, una carpeta nueva entre los datos del usuario.</translation>
     </message>
     <message>
@@ -1784,15 +1784,15 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Muestra la versión.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>«%1» no es posible; los documentos se envían como PDF</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1808,18 +1808,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>Retira un trabajo que un programa dejó en un servidor de impresión al ser detenido.</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>Imprime lo que el servidor de impresión tiene de ese trabajo, quizá no todos los documentos.</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>El trabajo se ha enviado de todos modos, como %1-%2.</translation>
     </message>
 </context>
@@ -1837,15 +1837,15 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>El servidor de impresión «%1» no tiene ningún destino en el que imprimir</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>Solución posible: %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>El servidor de impresión «%1» no tiene ningún destino predeterminado; indique uno con «-d»</translation>
     </message>
     <message>
@@ -1856,19 +1856,19 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>«kvprint --cancel-left %1» lo retira, «kvprint --release-left %1» imprime lo que el servidor tiene de él.</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>Han quedado trabajos «%1» en varios servidores de impresión; nombre uno de estos: %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>No hay ningún trabajo «%1» dejado por un programa detenido; no ha quedado ninguno</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>No hay ningún trabajo «%1» dejado por un programa detenido; han quedado estos: %2</translation>
     </message>
 </context>
@@ -1879,11 +1879,11 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>El archivo PPD «%1» no tiene el papel «%2»; tiene: %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>El archivo PPD «%1» no indica ningún papel en el que imprimir</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>La tira de etiquetas está en:</translation>
     </message>
 </context>

@@ -20,27 +20,27 @@
         <translation>Cette imprimante n’existe pas.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Attente de la réponse du serveur d’impression…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>La dernière fois : %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>Le serveur d’impression ne répond pas. La dernière fois : %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>Le serveur d’impression ne répond pas.</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>Le serveur d’impression demande un mot de passe.</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>Le serveur d’impression demande un mot de passe. La dernière fois : %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>Le serveur d’impression n’est pas approuvé.</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>Le serveur d’impression n’est pas approuvé. La dernière fois : %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>Heure d’impression</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>Réglage de la file d’attente</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>Orie&amp;ntation</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>&amp;Quand imprimer</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>&amp;Priorité</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>Réglage de l’imprimante</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>Maintenant</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>Quand je libère la tâche</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>À une heure donnée</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>La tâche est envoyée.</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>Retirer la tâche</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>Imprimer ce qui est là</translation>
+        <source>Release the job</source>
+        <translation>Libérer la tâche</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>Toutes les pages une fois, puis à nouveau ; sinon toutes les copies d’une page ensemble</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>toutes, ou par exemple 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Pa&amp;ges</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>Dernière page en premier</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>Arrêter l’envoi</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Valeur</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>Origine</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>Connexion non chiffrée</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>Le serveur d’impression « %1 » demande un mot de passe et la connexion n’est pas chiffrée.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>Son empreinte SHA-256 est :
 %1
 
@@ -335,7 +335,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>Le fichier PPD n’indique aucun papier</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>L’imprimante ne peut pas faire tout cela à la fois.</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>« %1 » demande au moins %n caractère. D’ici là, le réglage reste tel qu’il était.</numerusform>
             <numerusform>« %1 » demande au moins %n caractères. D’ici là, le réglage reste tel qu’il était.</numerusform>
@@ -383,7 +383,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>Groupes d’options</translation>
     </message>
     <message>
@@ -562,7 +562,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Les options de coupe ne peuvent pas être affichées. %1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>L’imprimante n’a pas de description ; ses papiers et ses coupes ne sont donc pas connus ici.</translation>
     </message>
     <message>
@@ -570,11 +570,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Attente de la description de l’imprimante…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>Aucune imprimante n’est choisie.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Attente de la réponse du serveur d’impression…</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Mémoire épuisée ; la tâche est peut-être incomplète, ou restée sur le serveur d’impression.</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>Mémoire épuisée. La tâche a tout de même été envoyée.</translation>
     </message>
 </context>
@@ -619,7 +619,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>L’option « %1 » de l’imprimante « %2 » n’a pas de choix « %3 » ; elle a : %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>L’imprimante « %1 » ne peut pas imprimer sur le papier « %2 » : sa taille est de %3 × %4 points ; la largeur et la longueur doivent être supérieures à 0 ; l’une ne doit pas dépasser %5 m et l’autre %6 m.</translation>
     </message>
 </context>
@@ -653,7 +653,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>Elle doit être réimprimée, mais est retenue. %1</translation>
     </message>
     <message>
@@ -661,18 +661,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>La tâche %1 n’a pas été modifiée. %2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 Une tâche « %2 » sans documents est peut-être restée dans la file d’attente « %3 » du serveur d’impression « %4 » ; rien n’en est imprimé.</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 Le serveur d’impression « %2 » a tous les documents de la tâche %3-%4 et n’a pas indiqué s’il la libère : la tâche est imprimée, ou elle est retenue et n’est pas imprimée. Regardez la file d’attente avant d’imprimer à nouveau.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>L’enregistrement « %1 » d’une tâche en cours d’envoi est endommagé et a été supprimé ; vérifiez dans vos files d’attente si une tâche est restée.</translation>
     </message>
 </context>
@@ -729,7 +729,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>Impossible d’imprimer autant d’étiquettes à la fois : une tâche en a au plus %1</translation>
     </message>
 </context>
@@ -744,7 +744,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Retenue jusqu’à %1.</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>En attente de son tour.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Impression en cours.</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>Arrêtée ; elle reprend quand l’imprimante est de nouveau prête.</translation>
     </message>
     <message>
@@ -768,11 +768,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Imprimée.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>Le serveur indique : %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>La tâche est terminée ; le serveur d’impression n’en garde pas trace.</translation>
     </message>
 </context>
@@ -783,18 +783,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Il n’y a aucun document à imprimer.</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Aucun serveur d’impression ne peut transmettre le choix « %1 » de l’option « %2 ».</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>Le serveur d’impression « %1 » n’a pas accepté la totalité de « %2 ».</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>Le serveur d’impression « %1 » n’a plus de tâche « %2 » dans la file d’attente « %3 », ou elle est terminée.</translation>
     </message>
     <message>
@@ -810,18 +810,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>La tâche %1-%2 du serveur d’impression « %3 » est retirée.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>Un programme arrêté pendant l’impression a peut-être laissé la tâche %1 (« %2 ») sur le serveur d’impression « %3 », peut-être sans tous ses documents.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>Un programme arrêté pendant l’impression a peut-être laissé une tâche « %1 » sans documents dans la file d’attente « %2 » du serveur d’impression « %3 ».</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp ne peut pas exprimer ces options telles qu’elles sont envoyées : %1</translation>
     </message>
 </context>
@@ -832,7 +832,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le serveur d’impression « %1 » ne peut pas joindre l’imprimante « %2 ».</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>L’imprimante « %1 » n’est plus sur le réseau.</translation>
     </message>
 </context>
@@ -846,7 +846,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>L’imprimante attend des étiquettes ou du ruban.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le rouleau d’étiquettes ou le ruban est épuisé.</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>L’imprimante va être mise en pause.</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le capot de l’imprimante est ouvert.</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>Un verrou de l’imprimante est ouvert.</translation>
     </message>
     <message>
@@ -962,15 +962,15 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Les nouvelles tâches sont retenues.</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>L’imprimante est désactivée par son administrateur.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>Une partie du pilote de l’imprimante manque.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>Une partie du pilote de l’imprimante n’est pas installée de façon sûre.</translation>
     </message>
     <message>
@@ -978,7 +978,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Attente de la fin de la tâche par l’imprimante.</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>L’imprimante ne respecte pas son protocole.</translation>
     </message>
     <message>
@@ -1002,7 +1002,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>La file d’attente n’accepte pas de tâches.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>Le serveur indique : %1</translation>
     </message>
 </context>
@@ -1013,7 +1013,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Abandonné à votre demande.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>Le serveur d’impression « %1 » ne répond pas.</translation>
     </message>
     <message>
@@ -1021,15 +1021,15 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Impossible de se connecter au serveur d’impression « %1 » : %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>La connexion au serveur d’impression « %1 » a été interrompue.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>Le serveur d’impression « %1 » indique : %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>Le serveur d’impression « %1 » ne fournit pas « %2 » : %3</translation>
     </message>
     <message>
@@ -1037,11 +1037,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>le fichier dépasse %1 Mo</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>la connexion a été interrompue en cours de route</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 », et aucun n’a été donné.</translation>
     </message>
     <message>
@@ -1053,11 +1053,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le certificat du serveur d’impression « %1 » n’est pas celui qui est approuvé pour cet hôte. Celui qui est approuvé a l’empreinte SHA-256 %2, celui du serveur a %3. Le certificat du serveur a peut-être été remplacé, un autre serveur d’impression fonctionne peut-être sur le même hôte, ou quelqu’un intercepte peut-être la connexion. Si l’administrateur du serveur confirme l’empreinte, supprimez le fichier « %4 » et réessayez.</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>Le certificat du serveur d’impression « %1 » avec l’empreinte SHA-256 %2 ne doit pas être approuvé : %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>Le certificat du serveur d’impression « %1 » n’est pas approuvé : %2. Son empreinte SHA-256 est %3. Comparez-la avec celle qu’indique l’administrateur du serveur et confirmez-la lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
     </message>
     <message>
@@ -1065,7 +1065,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le nom d’utilisateur ou le mot de passe est incorrect.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>Le serveur d’impression « %1 » demande un mot de passe pour l’utilisateur « %2 ». Aucun n’a été envoyé, car la connexion n’est pas chiffrée et d’autres pourraient le lire. Chiffrez la connexion (-E) ou confirmez lorsque la question est posée, dans la fenêtre ou sur un terminal.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>il est chiffré ; retirez d’abord son mot de passe</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>il est chiffré d’une manière inconnue</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Impossible d’ouvrir le document de l’entrée standard : %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>c’est une image endommagée</translation>
     </message>
     <message>
@@ -1131,11 +1131,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>il a %1 × %2 pixels, plus qu’il n’est possible d’imprimer</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>c’est une image dont la fin manque</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>Aucun document n’est indiqué</translation>
     </message>
     <message>
@@ -1154,11 +1154,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>il dépasse %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>ce n’est ni un PDF, ni un PNG, ni un JPEG, ni un SVG</translation>
     </message>
     <message>
@@ -1166,19 +1166,19 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>le fichier a changé depuis son ouverture ; ouvrez-le à nouveau</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>c’est un PDF endommagé</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>il ne peut pas être conservé dans « %1 » : %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>c’est un SVG endommagé</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>il renvoie à « %1 », et seul le contenu du SVG même est imprimé</translation>
     </message>
     <message>
@@ -1186,30 +1186,30 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>ligne %1 du SVG : %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>c’est un SVG de plus d’éléments qu’il n’est possible d’en dessiner</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>il contient une image qui n’est ni PNG ni JPEG</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>il contient une image endommagée</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>il contient des images de plus de pixels qu’il n’est possible d’en imprimer</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>le programme « %1 », qui le convertit, ne peut pas être lancé</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>Pages « %1 » incompréhensibles : écrivez des nombres et des plages comme 1-3, 5</translation>
     </message>
     <message>
@@ -1217,7 +1217,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Impossible d’imprimer les pages « %1 » : la dernière page du document est %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>Rien ne serait imprimé : aucune page du document n’est choisie</translation>
     </message>
 </context>
@@ -1228,7 +1228,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Impossible d’utiliser le paquet « %1 » : %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>sa bibliothèque ne contient pas de panneaux</translation>
     </message>
     <message>
@@ -1248,7 +1248,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>ce dossier n’existe pas</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>Paquet du panneau introuvable ; cherché : %1</translation>
     </message>
     <message>
@@ -1267,7 +1267,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
     </message>
 </context>
@@ -1278,11 +1278,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>« %1 : %2 »</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>Cette imprimante ne permet pas %1.</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 et %2 s’excluent mutuellement.</translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>ligne %1 : %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>il dépasse %1 Mo, plus que toute description d’imprimante</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>il est endommagé ou incomplet : impossible de le décompresser jusqu’au bout</translation>
     </message>
     <message>
@@ -1410,26 +1410,26 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Ordre</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>dernière page en premier</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>Parmi celles-ci</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>les pages impaires</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>les pages paires</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>« %1 » ne peut pas être « %2 » avec ce papier et les autres options de coupe, et est imprimé comme « %3 ».</translation>
     </message>
     <message>
@@ -1501,15 +1501,15 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Demi-coupe entre les étiquettes d’un morceau.</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>Repères imprimés là où rien n’est coupé.</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>La fin reste dans l’imprimante ; la tâche suivante continue sans marge.</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>Le ruban vide avant et après chaque étiquette est supprimé.</translation>
     </message>
     <message>
@@ -1538,7 +1538,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>ce n’est pas un dossier</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>impossible de créer le dossier : %1</translation>
     </message>
     <message>
@@ -1586,7 +1586,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>Imprime des documents sur des imprimantes d’étiquettes, avec une boîte de dialogue pour le papier, les pages et les coupes qui montre la bande d’étiquettes telle qu’elle sortira. Sans écran, imprime aussitôt. PDF, PNG, JPEG et SVG&#xa0;; «&#xa0;-&#xa0;» ou rien désigne l’entrée standard.</translation>
     </message>
     <message>
@@ -1596,31 +1596,31 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>Termine les options&#xa0;: ce qui suit est un document.</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>L’option « %1 » n’existe pas</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>L’option « %1 » ne prend pas de valeur</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>L’option « %1 » demande une valeur : %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>L’option « %1 » concerne l’imprimante virtuelle et demande « --ppd »</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H : « %1 » concerne une tâche déjà envoyée et demande « -i »</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>« %1 » ne prend pas de document, et « %2 » est indiqué</translation>
     </message>
     <message>
@@ -1628,15 +1628,15 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>L’entrée standard (« - ») ne peut être imprimée qu’une fois</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>L’option « %1 » ne va pas avec « %2 »</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>L’option « %1 » ne va qu’avec l’une de : %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>Aucun document indiqué ; indiquez un fichier, ou « - » pour en saisir un</translation>
     </message>
     <message>
@@ -1644,11 +1644,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>la valeur est vide</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>« %1 » n’est pas un moment d’impression ; écrivez HH:MM ou HH:MM:SS (UTC), ou l’un de : %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>« %1 » n’est pas possible ; ce doit être l’un de : %2</translation>
     </message>
     <message>
@@ -1656,27 +1656,27 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>aucun papier n’est indiqué</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>« %1 » n’est pas un nombre de copies ; il doit aller de 1 à %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>« %1 » n’est pas une priorité ; elle doit aller de 1 (dernière) à 100 (première)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>« %1 » n’indique aucune file d’attente ; écrivez QUEUE ou QUEUE/INSTANCE</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>« %1 » n’est pas une tâche ; écrivez son numéro, ou QUEUE-NUMBER comme annoncé à l’envoi</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>« %1 » n’indique aucune option ; écrivez NAME=VALUE</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>La file d’attente où imprimer, avec un jeu d’options nommé. Sans cette option, la file d’attente par défaut.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le serveur d’impression.</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>L’utilisateur pour qui l’impression est faite.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Chiffre la connexion au serveur d’impression.</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>Le nom du papier dans le PPD, ou Custom.LARGEURxLONGUEURmm si l’imprimante accepte des tailles libres.</translation>
     </message>
     <message>
@@ -1704,7 +1704,7 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Les pages à imprimer, par exemple 1-3,5,8-.</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>Une option du PPD ou du serveur d’impression&#xa0;; plusieurs à la fois, séparées par des espaces, ou une par une.</translation>
     </message>
     <message>
@@ -1716,63 +1716,63 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>La priorité de la tâche, de 1 à 100 (première).</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>Quand imprimer&#xa0;: hold, immediate, HH:MM (UTC), night, weekend et d’autres&#xa0;; pour une tâche déjà envoyée, aussi resume et restart.</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>Envoie un courriel quand la tâche est terminée&#xa0;; inclut -s.</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>N’annonce pas le numéro de la tâche.</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>Acceptée par compatibilité avec lp&#xa0;: les documents sont toujours copiés.</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>Modifie une tâche déjà envoyée.</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>Imprime aussitôt, avec les réglages qu’aurait la boîte de dialogue à l’ouverture.</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>Liste les files d’attente et leur état.</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>Affiche les réglages qu’aurait la boîte de dialogue à l’ouverture, et n’imprime rien.</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>Fait tout sauf l’envoi, et affiche ce qui serait envoyé.</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>L’affiche en JSON.</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>Envoie même ce que l’imprimante n’a pas, et ce qui est incompatible.</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>Enregistre une image de la boîte de dialogue, telle qu’elle s’ouvre, dans un fichier PNG.</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>Le paquet du panneau des options de coupe, ou le dossier où il se trouve.</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Un fichier PPD, non compressé ou gzip&#xa0;: imprime sur une imprimante virtuelle au lieu d’une file d’attente.</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>Le dossier pour les fichiers strip.pdf et job.json de l’imprimante virtuelle, créé s’il n’existe pas. Sans cette option, un nouveau dossier parmi les données de l’utilisateur.</translation>
     </message>
     <message>
@@ -1784,15 +1784,15 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Affiche la version.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>« %1 » n’est pas possible ; les documents sont envoyés en PDF</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1809,18 +1809,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>Retire une tâche qu’un programme arrêté a laissée sur un serveur d’impression.</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>Imprime ce que le serveur d’impression a d’une telle tâche, peut-être pas tous les documents.</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>La tâche a tout de même été envoyée, sous le nom %1-%2.</translation>
     </message>
 </context>
@@ -1838,15 +1838,15 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>Le serveur d’impression « %1 » n’a aucune destination où imprimer</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>Solution possible : %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>Le serveur d’impression « %1 » n’a pas de destination par défaut ; indiquez-en une avec « -d »</translation>
     </message>
     <message>
@@ -1857,19 +1857,19 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>« kvprint --cancel-left %1 » la retire, « kvprint --release-left %1 » imprime ce que le serveur en a.</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>Des tâches « %1 » sont restées sur plusieurs serveurs d’impression ; nommez l’une de celles-ci : %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>Il n’y a pas de tâche « %1 » laissée par un programme arrêté ; aucune n’est restée</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>Il n’y a pas de tâche « %1 » laissée par un programme arrêté ; celles-ci sont restées : %2</translation>
     </message>
 </context>
@@ -1880,11 +1880,11 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Le fichier PPD « %1 » n’a pas de papier « %2 » ; il a : %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>Le fichier PPD « %1 » n’indique aucun papier</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>La bande d’étiquettes se trouve dans :</translation>
     </message>
 </context>

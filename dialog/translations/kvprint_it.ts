@@ -20,27 +20,27 @@
         <translation>La stampante non esiste.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>In attesa della risposta del server di stampa…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>L&apos;ultima volta: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>Il server di stampa non risponde. L&apos;ultima volta: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>Il server di stampa non risponde.</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>Il server di stampa richiede una password.</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>Il server di stampa richiede una password. L&apos;ultima volta: %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>Il server di stampa non è attendibile.</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>Il server di stampa non è attendibile. L&apos;ultima volta: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>Ora di stampa</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>Come impostato nella coda</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>Ori&amp;entamento</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>&amp;Quando stampare</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>Priori&amp;tà</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>Come impostato nella stampante</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>Adesso</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>Quando lo rilascio</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>A un&apos;ora precisa</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>Il lavoro è stato inviato.</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>Ritira il lavoro</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>Stampa ciò che c’è</translation>
+        <source>Release the job</source>
+        <translation>Rilascia il lavoro</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>Tutte le pagine una volta, poi di nuovo; altrimenti tutte le copie di una pagina insieme</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>tutte o, per esempio, 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Pa&amp;gine</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>Ultima pagina per prima</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>Interrompi l&apos;invio</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Valore</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>Origine</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>Connessione non cifrata</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>Il server di stampa &quot;%1&quot; richiede una password e la connessione non è cifrata.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>La sua impronta SHA-256 è:
 %1
 
@@ -335,7 +335,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>Il file PPD non indica alcuna carta</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>La stampante non può fare tutto questo insieme.</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>&quot;%1&quot; richiede almeno %n carattere. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
             <numerusform>&quot;%1&quot; richiede almeno %n caratteri. Fino ad allora l&apos;impostazione resta com&apos;era.</numerusform>
@@ -383,7 +383,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>Gruppi di opzioni</translation>
     </message>
     <message>
@@ -562,7 +562,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Le opzioni di taglio non possono essere mostrate. %1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>La stampante non ha una descrizione, quindi le sue carte e i suoi tagli non sono noti.</translation>
     </message>
     <message>
@@ -570,11 +570,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>In attesa della descrizione della stampante…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>Nessuna stampante scelta.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>In attesa della risposta del server di stampa…</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Memoria esaurita; il lavoro potrebbe essere incompleto o rimasto sul server di stampa.</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>Memoria esaurita. Il lavoro è stato comunque inviato.</translation>
     </message>
 </context>
@@ -619,7 +619,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>L&apos;opzione &quot;%1&quot; della stampante &quot;%2&quot; non ha la scelta &quot;%3&quot;; ha: %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>La stampante &quot;%1&quot; non può stampare sulla carta &quot;%2&quot;: le dimensioni sono %3 × %4 punti; larghezza e lunghezza devono essere maggiori di 0; una non deve superare %5 m e l&apos;altra %6 m.</translation>
     </message>
 </context>
@@ -653,7 +653,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>Verrà stampato di nuovo, ma è trattenuto. %1</translation>
     </message>
     <message>
@@ -661,18 +661,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il lavoro %1 non è stato modificato. %2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 Nella coda &quot;%3&quot; del server di stampa &quot;%4&quot; potrebbe essere rimasto un lavoro &quot;%2&quot; senza documenti; non ne viene stampato nulla.</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 Il server di stampa &quot;%2&quot; ha tutti i documenti del lavoro %3-%4 e non ha comunicato se lo rilascia: il lavoro viene stampato, oppure è trattenuto e non viene stampato. Controllare la coda prima di stampare di nuovo.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>La registrazione &quot;%1&quot; di un lavoro in corso di invio è danneggiata ed è stata rimossa; controllare nelle proprie code se è rimasto un lavoro.</translation>
     </message>
 </context>
@@ -729,7 +729,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>Impossibile stampare tante etichette insieme: un lavoro ne ha al massimo %1</translation>
     </message>
 </context>
@@ -744,7 +744,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Trattenuto fino a: %1.</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>In attesa del proprio turno.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Stampa in corso.</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>Fermo; riprende quando la stampante è di nuovo pronta.</translation>
     </message>
     <message>
@@ -768,11 +768,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Stampato.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>Il server comunica: %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>Il lavoro è terminato; il server di stampa non ne conserva traccia.</translation>
     </message>
 </context>
@@ -783,18 +783,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Non ci sono documenti da stampare.</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Nessun server di stampa può trasmettere la scelta &quot;%1&quot; dell&apos;opzione &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>Il server di stampa &quot;%1&quot; non ha accettato tutto &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>Il server di stampa &quot;%1&quot; non ha più alcun lavoro &quot;%2&quot; nella coda &quot;%3&quot;, oppure è terminato.</translation>
     </message>
     <message>
@@ -810,18 +810,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il lavoro %1-%2 sul server di stampa &quot;%3&quot; è stato ritirato.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>Un programma interrotto durante la stampa potrebbe aver lasciato il lavoro %1 (&quot;%2&quot;) sul server di stampa &quot;%3&quot;, forse senza tutti i documenti.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>Un programma interrotto durante la stampa potrebbe aver lasciato un lavoro &quot;%1&quot; senza documenti nella coda &quot;%2&quot; del server di stampa &quot;%3&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp non può esprimere queste opzioni così come vengono inviate: %1</translation>
     </message>
 </context>
@@ -832,7 +832,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il server di stampa &quot;%1&quot; non riesce a raggiungere la stampante &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>La stampante &quot;%1&quot; non è più in rete.</translation>
     </message>
 </context>
@@ -846,7 +846,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>La stampante attende etichette o nastro.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il rotolo di etichette o il nastro è esaurito.</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>La stampante sta per andare in pausa.</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il coperchio della stampante è aperto.</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>Un blocco della stampante è aperto.</translation>
     </message>
     <message>
@@ -962,15 +962,15 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>I nuovi lavori vengono trattenuti.</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>La stampante è stata disattivata dall&apos;amministratore.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>Manca una parte del driver della stampante.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>Una parte del driver della stampante non è installata in modo sicuro.</translation>
     </message>
     <message>
@@ -978,7 +978,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>In attesa che la stampante termini il lavoro.</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>La stampante non rispetta il suo protocollo.</translation>
     </message>
     <message>
@@ -1002,7 +1002,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>La coda non accetta lavori.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>Il server comunica: %1</translation>
     </message>
 </context>
@@ -1013,7 +1013,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Interrotto su richiesta.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>Il server di stampa &quot;%1&quot; non risponde.</translation>
     </message>
     <message>
@@ -1021,15 +1021,15 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Impossibile connettersi al server di stampa &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>La connessione al server di stampa &quot;%1&quot; si è interrotta.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>Il server di stampa &quot;%1&quot; comunica: %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>Il server di stampa &quot;%1&quot; non fornisce &quot;%2&quot;: %3</translation>
     </message>
     <message>
@@ -1037,11 +1037,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>supera %1 MB</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>la connessione si è interrotta a metà</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot; e non ne è stata indicata alcuna.</translation>
     </message>
     <message>
@@ -1053,11 +1053,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il certificato del server di stampa &quot;%1&quot; non è quello considerato attendibile per questo host. Quello attendibile ha l’impronta SHA-256 %2, quello del server %3. Il certificato del server potrebbe essere stato sostituito, sullo stesso host potrebbe essere in funzione un altro server di stampa oppure qualcuno potrebbe intercettare la connessione. Se l’amministratore del server conferma l’impronta, eliminare il file &quot;%4&quot; e riprovare.</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>Il certificato del server di stampa &quot;%1&quot; con l&apos;impronta SHA-256 %2 non può essere considerato attendibile: %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>Il certificato del server di stampa &quot;%1&quot; non è attendibile: %2. La sua impronta SHA-256 è %3. Confrontarla con quella indicata dall&apos;amministratore del server e confermarla quando viene chiesto, nella finestra o su un terminale.</translation>
     </message>
     <message>
@@ -1065,7 +1065,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il nome utente o la password non è corretto.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>Il server di stampa &quot;%1&quot; richiede una password per l&apos;utente &quot;%2&quot;. Non ne è stata inviata alcuna, perché la connessione non è cifrata e altri potrebbero leggerla. Cifrare la connessione (-E) o confermare quando viene chiesto, nella finestra o su un terminale.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>è cifrato; togliere prima la password</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>è cifrato in un modo sconosciuto</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Impossibile aprire il documento dallo standard input: %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>è un&apos;immagine danneggiata</translation>
     </message>
     <message>
@@ -1131,11 +1131,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>ha %1 × %2 pixel, più di quanti se ne possano stampare</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>è un&apos;immagine a cui manca la fine</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>Nessun documento indicato</translation>
     </message>
     <message>
@@ -1154,11 +1154,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>supera %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>non è un PDF, PNG, JPEG o SVG</translation>
     </message>
     <message>
@@ -1166,19 +1166,19 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>il file è cambiato da quando è stato aperto; aprirlo di nuovo</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>è un PDF danneggiato</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>non si può salvare in &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>è un SVG danneggiato</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>rimanda a &quot;%1&quot;, e si stampa solo ciò che è contenuto nell&apos;SVG stesso</translation>
     </message>
     <message>
@@ -1186,30 +1186,30 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>riga %1 dell&apos;SVG: %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>è un SVG con più parti di quante se ne possano disegnare</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>contiene un&apos;immagine che non è né PNG né JPEG</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>contiene un&apos;immagine danneggiata</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>contiene immagini con più pixel di quanti se ne possano stampare</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>impossibile avviare il programma «%1», che lo converte</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>Pagine &quot;%1&quot; non comprese: scrivere numeri e intervalli come 1-3, 5</translation>
     </message>
     <message>
@@ -1217,7 +1217,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Impossibile stampare le pagine &quot;%1&quot;: l&apos;ultima pagina del documento è %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>Non verrebbe stampato nulla: nessuna pagina del documento è scelta</translation>
     </message>
 </context>
@@ -1228,7 +1228,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Impossibile usare il bundle &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>la sua libreria non contiene pannelli</translation>
     </message>
     <message>
@@ -1248,7 +1248,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>la cartella non esiste</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>Bundle del pannello non trovato; cercato: %1</translation>
     </message>
     <message>
@@ -1267,7 +1267,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
     </message>
 </context>
@@ -1278,11 +1278,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>&quot;%1: %2&quot;</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>Questa stampante non consente %1.</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 e %2 si escludono a vicenda.</translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>riga %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>supera %1 MB, più di qualsiasi descrizione di stampante</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>è danneggiato o incompleto: non si può decomprimere fino alla fine</translation>
     </message>
     <message>
@@ -1410,26 +1410,26 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Ordine</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>ultima pagina per prima</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>Di queste</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>le pagine dispari</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>le pagine pari</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>«%1» non può essere «%2» con questa carta e le altre opzioni di taglio, e viene stampato come «%3».</translation>
     </message>
     <message>
@@ -1501,15 +1501,15 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Mezzo taglio tra le etichette di un pezzo.</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>Segni stampati dove non si taglia.</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>La fine resta nella stampante; il lavoro seguente continua da lì senza margine.</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>Il nastro vuoto prima e dopo ogni etichetta viene omesso.</translation>
     </message>
     <message>
@@ -1538,7 +1538,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>non è una cartella</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>impossibile creare la cartella: %1</translation>
     </message>
     <message>
@@ -1586,7 +1586,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>Stampa documenti su stampanti di etichette, con una finestra per carta, pagine e tagli che mostra la striscia di etichette come uscirà. Senza uno schermo stampa subito. PDF, PNG, JPEG e SVG; &quot;-&quot; o niente è lo standard input.</translation>
     </message>
     <message>
@@ -1596,31 +1596,31 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>Termina le opzioni: ciò che segue sono documenti.</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>L&apos;opzione &quot;%1&quot; non esiste</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>L&apos;opzione &quot;%1&quot; non accetta valori</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>L&apos;opzione &quot;%1&quot; richiede un valore: %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>L&apos;opzione &quot;%1&quot; riguarda la stampante virtuale e richiede &quot;--ppd&quot;</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H: &quot;%1&quot; riguarda un lavoro già inviato e richiede &quot;-i&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>&quot;%1&quot; non accetta documenti ed è stato indicato &quot;%2&quot;</translation>
     </message>
     <message>
@@ -1628,15 +1628,15 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Lo standard input (&quot;-&quot;) può essere stampato una volta sola</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>L&apos;opzione &quot;%1&quot; non è compatibile con &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>L&apos;opzione &quot;%1&quot; è ammessa solo insieme a una di queste: %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>Nessun documento indicato; indicare un file, o &quot;-&quot; per immetterlo da tastiera</translation>
     </message>
     <message>
@@ -1644,11 +1644,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>il valore è vuoto</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>&quot;%1&quot; non è un&apos;ora di stampa; scrivere HH:MM o HH:MM:SS (UTC), o una di queste parole: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>&quot;%1&quot; non è possibile; deve essere uno di questi valori: %2</translation>
     </message>
     <message>
@@ -1656,27 +1656,27 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>non indica alcuna carta</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>&quot;%1&quot; non è un numero di copie; deve essere da 1 a %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>&quot;%1&quot; non è una priorità; deve essere da 1 (ultimo) a 100 (primo)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>&quot;%1&quot; non indica alcuna coda; scrivere CODA o CODA/ISTANZA</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>&quot;%1&quot; non è un lavoro; scrivere il suo numero, o CODA-NUMERO come mostrato all&apos;invio</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>&quot;%1&quot; non indica alcuna opzione; scrivere NOME=VALORE</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>La coda su cui stampare, con un insieme di opzioni con nome. Senza questa opzione, la coda predefinita.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il server di stampa.</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>L&apos;utente per cui si stampa.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Cifra la connessione al server di stampa.</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>Il nome della carta nel PPD, o Custom.LARGHEZZAxLUNGHEZZAmm se la stampante accetta dimensioni libere.</translation>
     </message>
     <message>
@@ -1704,7 +1704,7 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Le pagine da stampare, per esempio 1-3,5,8-.</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>Un&apos;opzione del PPD o del server di stampa; più d&apos;una insieme, separate da spazi, o una alla volta.</translation>
     </message>
     <message>
@@ -1716,63 +1716,63 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>La priorità del lavoro, da 1 a 100 (primo).</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>Quando stampare: hold, immediate, HH:MM (UTC), night, weekend e altri; per un lavoro già inviato anche resume e restart.</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>Invia un messaggio di posta alla fine del lavoro; comprende -s.</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>Non mostra il numero del lavoro.</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>Ammessa per compatibilità con lp: i documenti vengono sempre copiati.</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>Modifica un lavoro già inviato.</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>Stampa subito, con le impostazioni con cui si aprirebbe la finestra.</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>Elenca le code e il loro stato.</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>Mostra le impostazioni con cui si aprirebbe la finestra e non stampa nulla.</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>Fa tutto tranne inviare e mostra ciò che verrebbe inviato.</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>Lo mostra come JSON.</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>Invia anche ciò che la stampante non ha e ciò che è incompatibile.</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>Salva un&apos;immagine della finestra, così come si apre, in un file PNG.</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>Il bundle con il pannello delle opzioni di taglio, o la cartella in cui si trova.</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Un file PPD, non compresso o gzip: stampa su una stampante virtuale invece che su una coda.</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>La cartella per strip.pdf e job.json della stampante virtuale, creata se non esiste. Senza questa opzione, una nuova cartella tra i dati dell&apos;utente.</translation>
     </message>
     <message>
@@ -1784,15 +1784,15 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Mostra la versione.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>&quot;%1&quot; non è possibile; i documenti vengono inviati come PDF</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1809,18 +1809,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>Ritira un lavoro che un programma interrotto ha lasciato su un server di stampa.</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>Stampa ciò che il server di stampa ha di tale lavoro, forse non tutti i documenti.</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>Il lavoro è stato inviato comunque, come %1-%2.</translation>
     </message>
 </context>
@@ -1838,15 +1838,15 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>Il server di stampa &quot;%1&quot; non ha alcuna destinazione su cui stampare</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>Soluzione possibile: %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>Il server di stampa &quot;%1&quot; non ha una destinazione predefinita; indicarne una con &quot;-d&quot;</translation>
     </message>
     <message>
@@ -1857,19 +1857,19 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>&quot;kvprint --cancel-left %1&quot; lo ritira, &quot;kvprint --release-left %1&quot; stampa ciò che il server ne ha.</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>Sono rimasti lavori &quot;%1&quot; su più server di stampa; indicare uno di questi: %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>Non c’è alcun lavoro &quot;%1&quot; lasciato da un programma interrotto; non ne è rimasto nessuno</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>Non c’è alcun lavoro &quot;%1&quot; lasciato da un programma interrotto; sono rimasti questi: %2</translation>
     </message>
 </context>
@@ -1880,11 +1880,11 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Il file PPD &quot;%1&quot; non ha la carta &quot;%2&quot;; ha: %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>Il file PPD &quot;%1&quot; non indica alcuna carta</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>La striscia di etichette è in:</translation>
     </message>
 </context>

@@ -20,27 +20,27 @@
         <translation>プリンターがありません。</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>プリントサーバーの応答を待っています…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>前回: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>プリントサーバーが応答しません。前回: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>プリントサーバーが応答しません。</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>プリントサーバーがパスワードを求めています。</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>プリントサーバーがパスワードを求めています。前回: %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>プリントサーバーは信頼されていません。</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>プリントサーバーは信頼されていません。前回: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>印刷する時刻</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>キューの設定に従う</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>印刷の向き(&amp;T)</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>印刷のタイミング(&amp;I)</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>優先度(&amp;Y)</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>プリンターの設定に従う</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>今すぐ</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>保留を解除したとき</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>時刻を指定</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>ジョブを送信しました。</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>ジョブを取り消す</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>届いた分を印刷</translation>
+        <source>Release the job</source>
+        <translation>ジョブの保留を解除</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>全ページを 1 部ずつ繰り返します。オフの場合は同じページの複製をまとめて印刷します</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>すべて、または例 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>ページ(&amp;G)</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>最後のページから</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>送信を中止</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>値</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>設定元</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>暗号化されていない接続</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>プリントサーバー「%1」はパスワードを求めていますが、接続が暗号化されていません。</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>SHA-256 フィンガープリント:
 %1
 
@@ -335,7 +335,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>PPD ファイルに用紙がありません</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>これらの設定をすべて同時に使うことはできません。</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>「%1」には %n 文字以上が必要です。それまでは元の設定のままです。</numerusform>
         </translation>
@@ -382,7 +382,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>オプションのグループ</translation>
     </message>
     <message>
@@ -561,7 +561,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>カットオプションを表示できません。%1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>プリンターの記述がないため、用紙とカットの情報がありません。</translation>
     </message>
     <message>
@@ -569,11 +569,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリンターの記述を待っています…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>プリンターが選択されていません。</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>プリントサーバーの応答を待っています…</translation>
     </message>
     <message>
@@ -599,7 +599,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>メモリーが足りません。ジョブは不完全か、プリントサーバーに残っている可能性があります。</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>メモリーが足りません。ジョブは送信されています。</translation>
     </message>
 </context>
@@ -618,7 +618,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリンター「%2」のオプション「%1」に選択肢「%3」はありません。使える選択肢: %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>プリンタ「%1」は用紙「%2」に印刷できません。サイズが %3 × %4 ポイントです。幅と長さは 0 より大きく、一方は %5 m 以下、もう一方は %6 m 以下でなければなりません。</translation>
     </message>
 </context>
@@ -652,7 +652,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>再印刷の対象ですが、保留されています。%1</translation>
     </message>
     <message>
@@ -660,18 +660,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>ジョブ %1 は変更されませんでした。%2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 プリントサーバー「%4」のキュー「%3」に、文書のないジョブ「%2」が残っている可能性があります。このジョブは印刷されません。</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 プリントサーバー「%2」はジョブ %3-%4 のすべての文書を受け取りましたが、保留を解除したかどうかを知らせていません。ジョブは印刷されるか、保留されたまま印刷されません。もう一度印刷する前にキューを確認してください。</translation>
     </message>
     <message>
@@ -694,7 +694,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>送信中だったジョブの記録「%1」は壊れていたため削除されました。使用するキューにジョブが残っていないか確認してください。</translation>
     </message>
 </context>
@@ -728,7 +728,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>一度に印刷できるラベルは %1 枚までです</translation>
     </message>
 </context>
@@ -743,7 +743,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>%1 まで保留中。</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>順番を待っています。</translation>
     </message>
     <message>
@@ -751,7 +751,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>印刷中。</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>停止中。プリンターの準備ができると再開します。</translation>
     </message>
     <message>
@@ -767,11 +767,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>印刷しました。</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>サーバーからのメッセージ: %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>ジョブは終了しました。プリントサーバーに記録は残っていません。</translation>
     </message>
 </context>
@@ -782,18 +782,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>印刷する文書がありません。</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>オプション「%2」の選択肢「%1」を伝えられるプリントサーバーはありません。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>プリントサーバー「%1」は「%2」のすべてを受け取りませんでした。</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>プリントサーバー「%1」のキュー「%3」にジョブ「%2」はもうないか、すでに終了しています。</translation>
     </message>
     <message>
@@ -809,18 +809,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリントサーバー「%3」のジョブ %1-%2 を取り消しました。</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」にジョブ %1（「%2」）を残した可能性があります。すべての文書が届いていないかもしれません。</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>印刷中に停止されたプログラムが、プリントサーバー「%3」のキュー「%2」に文書のないジョブ「%1」を残した可能性があります。</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp では次のオプションを送信内容のとおりに指定できません: %1</translation>
     </message>
 </context>
@@ -831,7 +831,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリントサーバー「%1」はプリンター「%2」に接続できません。</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>プリンター「%1」はネットワーク上に見つからなくなりました。</translation>
     </message>
 </context>
@@ -845,7 +845,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>ラベルまたはテープの補給を待っています。</translation>
     </message>
     <message>
@@ -861,7 +861,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>ラベルロールまたはテープがなくなりました。</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>プリンターは一時停止するところです。</translation>
     </message>
     <message>
@@ -905,7 +905,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリンターのカバーが開いています。</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>プリンターのロックが外れています。</translation>
     </message>
     <message>
@@ -961,15 +961,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>新しいジョブは保留されます。</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>プリンターは管理者によって無効にされています。</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>プリンタードライバーの一部がありません。</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>プリンタードライバーの一部が安全にインストールされていません。</translation>
     </message>
     <message>
@@ -977,7 +977,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリンターがジョブを終えるのを待っています。</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>プリンターがプロトコルに従っていません。</translation>
     </message>
     <message>
@@ -1001,7 +1001,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>キューはジョブを受け付けていません。</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>サーバーからのメッセージ: %1</translation>
     </message>
 </context>
@@ -1012,7 +1012,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>要求により中止しました。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>プリントサーバー「%1」が応答しません。</translation>
     </message>
     <message>
@@ -1020,15 +1020,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリントサーバー「%1」に接続できません: %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>プリントサーバー「%1」との接続が切れました。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>プリントサーバー「%1」からのメッセージ: %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>プリントサーバー「%1」から「%2」を取得できません: %3</translation>
     </message>
     <message>
@@ -1036,11 +1036,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>%1 MB を超えています</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>途中で接続が切れました</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めていますが、入力されていません。</translation>
     </message>
     <message>
@@ -1052,11 +1052,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリントサーバー「%1」の証明書は、このホストに対して信頼されている証明書ではありません。信頼されている証明書の SHA-256 フィンガープリントは %2、サーバーのものは %3 です。サーバーの証明書が置き換えられたか、同じホストで別のプリントサーバーが動作しているか、または何者かが接続を傍受している可能性があります。サーバーの管理者がフィンガープリントを確認した場合は、ファイル「%4」を削除してもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>プリントサーバー「%1」の証明書 (SHA-256 フィンガープリント %2) は信頼できません: %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>プリントサーバー「%1」の証明書は信頼されていません: %2。SHA-256 フィンガープリントは %3 です。サーバーの管理者が示すものと比べ、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
     </message>
     <message>
@@ -1064,7 +1064,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>ユーザー名またはパスワードが正しくありません。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>プリントサーバー「%1」はユーザー「%2」のパスワードを求めています。接続が暗号化されておらず、他の人に読み取られるおそれがあるため、送信していません。接続を暗号化する (-E) か、ウィンドウまたは端末で確認を求められたときに承認してください。</translation>
     </message>
     <message>
@@ -1102,7 +1102,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>暗号化されています。先にパスワードを解除してください</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>未知の方式で暗号化されています</translation>
     </message>
     <message>
@@ -1122,7 +1122,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>標準入力の文書を開けません: %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>画像が壊れています</translation>
     </message>
     <message>
@@ -1130,11 +1130,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>%1 × %2 ピクセルあり、印刷できる大きさを超えています</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>画像の終わりが欠けています</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>文書が指定されていません</translation>
     </message>
     <message>
@@ -1152,11 +1152,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>%1 を超えています</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>PDF、PNG、JPEG、SVG のいずれでもありません</translation>
     </message>
     <message>
@@ -1164,19 +1164,19 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>開いた後にファイルが変更されました。もう一度開いてください</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>PDF が壊れています</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>「%1」に保存できません: %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>SVG が壊れています</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>「%1」を参照していますが、印刷されるのは SVG 自体の内容だけです</translation>
     </message>
     <message>
@@ -1184,30 +1184,30 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>SVG の %1 行目: %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>SVG の要素が多すぎて描画できません</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>PNG でも JPEG でもない画像を含んでいます</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>壊れた画像を含んでいます</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>印刷できるピクセル数を超える画像を含んでいます</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>変換するプログラム「%1」を起動できません</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>ページ「%1」を理解できません: 1-3, 5 のように入力してください</translation>
     </message>
     <message>
@@ -1215,7 +1215,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>ページ「%1」を印刷できません: 最後のページは %2 です</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>何も印刷されません。文書のページが選ばれていません</translation>
     </message>
 </context>
@@ -1226,7 +1226,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>バンドル「%1」を使えません: %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>パネルのライブラリではありません</translation>
     </message>
     <message>
@@ -1246,7 +1246,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>フォルダーがありません</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>パネルのバンドルが見つかりません。探した場所: %1</translation>
     </message>
     <message>
@@ -1265,7 +1265,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>「%1」の設定を保存できません: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>「%1」はこの設定での印刷を許可していません。</translation>
     </message>
 </context>
@@ -1276,11 +1276,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>「%1: %2」</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>このプリンターは%1に対応していません。</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1と%2は同時に使えません。</translation>
     </message>
     <message>
@@ -1299,11 +1299,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>%1 行目: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>%1 MB を超えており、プリンターの記述としては大きすぎます</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>壊れているか不完全です: 最後まで展開できません</translation>
     </message>
     <message>
@@ -1408,26 +1408,26 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>順序</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>最後のページから</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>うち印刷する</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>奇数ページ</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>偶数ページ</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>バンドル「%1」はパネルを作成できませんでした</translation>
     </message>
     <message>
@@ -1438,7 +1438,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>この用紙とほかのカットオプションの組み合わせでは「%1」を「%2」にできないため、「%3」として印刷されます。</translation>
     </message>
     <message>
@@ -1499,15 +1499,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>同じ片のラベルの間はハーフカット。</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>フルカットしない境目に印を印刷。</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>終端はプリンターに残り、次の印刷は余白なしで続きます。</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>ラベル前後の空白を省きます。</translation>
     </message>
     <message>
@@ -1536,7 +1536,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>フォルダーではありません</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>フォルダーを作成できません: %1</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>ラベルプリンターで文書を印刷します。用紙、ページ、カットを選ぶダイアログに、出てくるとおりのラベルの帯を表示します。画面がない場合はすぐに印刷します。PDF、PNG、JPEG、SVG に対応。「-」または指定なしは標準入力です。</translation>
     </message>
     <message>
@@ -1594,31 +1594,31 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>オプションの終わり。以降はすべて文書です。</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>オプション「%1」はありません</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>オプション「%1」に値は指定できません</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>オプション「%1」には値が必要です: %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>オプション「%1」は仮想プリンター用で、「--ppd」が必要です</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H: 「%1」は送信済みのジョブ用で、「-i」が必要です</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>「%1」に文書は指定できませんが、「%2」が指定されています</translation>
     </message>
     <message>
@@ -1626,15 +1626,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>標準入力 (「-」) を印刷できるのは 1 回だけです</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>オプション「%1」と「%2」は同時に指定できません</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>オプション「%1」は次のいずれかと一緒に指定してください: %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>文書が指定されていません。ファイル、または入力する場合は「-」を指定してください</translation>
     </message>
     <message>
@@ -1642,11 +1642,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>値が空です</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>「%1」は印刷時刻として使えません。HH:MM または HH:MM:SS (UTC)、または次のいずれかを指定してください: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>「%1」は使えません。次のいずれかを指定してください: %2</translation>
     </message>
     <message>
@@ -1654,27 +1654,27 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>用紙が指定されていません</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>「%1」は部数として使えません。1 から %2 までで指定してください</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>「%1」は優先度として使えません。1 (最後) から 100 (最初) までで指定してください</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>「%1」はキューを指していません。QUEUE または QUEUE/INSTANCE と書いてください</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>「%1」はジョブではありません。ジョブ番号、または送信時に表示された QUEUE-NUMBER を指定してください</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>「%1」はオプションを指していません。NAME=VALUE と書いてください</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>印刷先のキューと、名前付きのオプションの組。省略すると既定のキュー。</translation>
     </message>
     <message>
@@ -1682,7 +1682,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリントサーバー。</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>印刷を依頼するユーザー。</translation>
     </message>
     <message>
@@ -1690,7 +1690,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>プリントサーバーとの接続を暗号化します。</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>PPD での用紙名。カスタムサイズを使えるプリンターでは Custom.幅x長さmm も可。</translation>
     </message>
     <message>
@@ -1702,7 +1702,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>印刷するページ。例: 1-3,5,8-</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>PPD またはプリントサーバーのオプション。空白で区切って複数まとめても、1 つずつでも可。</translation>
     </message>
     <message>
@@ -1714,63 +1714,63 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>ジョブの優先度。1 から 100 (最初) まで。</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>印刷する時刻: hold、immediate、HH:MM (UTC)、night、weekend など。送信済みのジョブには resume と restart も可。</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>ジョブが終わるとメールを送ります。-s を含みます。</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>ジョブ番号を表示しません。</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>lp との互換用。文書は常にコピーされます。</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>送信済みのジョブを変更します。</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>ダイアログを開いたときの設定で、すぐに印刷します。</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>キューとその状態を一覧表示します。</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>ダイアログを開いたときの設定を表示し、何も印刷しません。</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>送信以外のすべてを行い、送信される内容を表示します。</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>JSON 形式で表示します。</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>プリンターにない設定や、両立しない設定でも送信します。</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>開いたときのダイアログの画像を PNG ファイルに保存します。</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>カットオプションのパネルのバンドル、またはそれがあるフォルダー。</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>PPD ファイル (非圧縮または gzip)。キューの代わりに仮想プリンターで印刷します。</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>仮想プリンターの strip.pdf と job.json を保存するフォルダー。なければ作成します。省略するとユーザーデータ内の新しいフォルダー。</translation>
     </message>
     <message>
@@ -1782,15 +1782,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>バージョンを表示します。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>「%1」は使えません。文書は PDF として送信されます</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1806,18 +1806,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>停止されたプログラムがプリントサーバーに残したジョブを取り消します。</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>プリントサーバーが受け取ったそのようなジョブの内容を印刷します。すべての文書とは限りません。</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>ジョブは %1-%2 として送信されています。</translation>
     </message>
 </context>
@@ -1835,15 +1835,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>プリントサーバー「%1」に印刷先がありません</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>解決方法: %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>プリントサーバー「%1」に既定の印刷先がありません。「-d」で指定してください</translation>
     </message>
     <message>
@@ -1854,19 +1854,19 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>「kvprint --cancel-left %1」で取り消し、「kvprint --release-left %1」でサーバーにある分を印刷します。</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>ジョブ「%1」が複数のプリントサーバーに残っています。次のいずれかを指定してください: %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>停止されたプログラムが残したジョブ「%1」はありません。残っているジョブはありません</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>停止されたプログラムが残したジョブ「%1」はありません。残っているジョブ: %2</translation>
     </message>
 </context>
@@ -1877,11 +1877,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>PPD ファイル「%1」に用紙「%2」はありません。使える用紙: %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>PPD ファイル「%1」に用紙がありません</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>ラベルの帯の保存先:</translation>
     </message>
 </context>

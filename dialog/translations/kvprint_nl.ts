@@ -20,27 +20,27 @@
         <translation>Die printer bestaat niet.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Wachten op antwoord van de printserver…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>De vorige keer: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>De printserver antwoordt niet. De vorige keer: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>De printserver antwoordt niet.</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>De printserver vraagt een wachtwoord.</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>De printserver vraagt een wachtwoord. De vorige keer: %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>De printserver wordt niet vertrouwd.</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>De printserver wordt niet vertrouwd. De vorige keer: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>Tijdstip van afdrukken</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>Standaard van de wachtrij</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>Afdr&amp;ukstand</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>&amp;Wanneer</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>Pr&amp;ioriteit</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>Standaard van de printer</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>Nu</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>Als ik de taak vrijgeef</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>Op een tijdstip</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>De taak is verzonden.</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>Taak terugnemen</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>Afdrukken wat er is</translation>
+        <source>Release the job</source>
+        <translation>Taak vrijgeven</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>Eerst alle pagina&apos;s één keer, dan opnieuw; anders alle exemplaren van een pagina bij elkaar</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>alle, of bijv. 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Pa&amp;gina&apos;s</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>Laatste pagina eerst</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>Verzenden stoppen</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Waarde</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>Herkomst</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>Verbinding zonder versleuteling</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>De printserver &quot;%1&quot; vraagt een wachtwoord en de verbinding is niet versleuteld.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>De SHA-256-vingerafdruk is:
 %1
 
@@ -335,7 +335,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>Het PPD-bestand noemt geen papier om op af te drukken</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>De printer kan dit niet allemaal tegelijk.</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>&quot;%1&quot; heeft minstens %n teken nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
             <numerusform>&quot;%1&quot; heeft minstens %n tekens nodig. Tot dan blijft de instelling zoals ze was.</numerusform>
@@ -383,7 +383,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>Groepen opties</translation>
     </message>
     <message>
@@ -562,7 +562,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De snijopties kunnen niet worden getoond. %1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>De printer heeft geen beschrijving; het papier en de sneden zijn hier daarom niet bekend.</translation>
     </message>
     <message>
@@ -570,11 +570,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Wachten op de beschrijving van de printer…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>Er is geen printer gekozen.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>Wachten op antwoord van de printserver…</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Onvoldoende geheugen; de taak is misschien onvolledig of op de afdrukserver achtergebleven.</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>Onvoldoende geheugen. De taak is toch verzonden.</translation>
     </message>
 </context>
@@ -619,7 +619,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De optie &quot;%1&quot; van de printer &quot;%2&quot; heeft geen keuze &quot;%3&quot;; wel: %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>De printer &quot;%1&quot; kan niet op het papier &quot;%2&quot; afdrukken: het formaat is %3 × %4 punten; breedte en lengte moeten groter zijn dan 0, de ene hoogstens %5 m en de andere hoogstens %6 m.</translation>
     </message>
 </context>
@@ -653,7 +653,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>De taak moet opnieuw worden afgedrukt, maar wordt vastgehouden. %1</translation>
     </message>
     <message>
@@ -661,18 +661,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Taak %1 is niet gewijzigd. %2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 In de wachtrij &quot;%3&quot; van de printserver &quot;%4&quot; kan een taak &quot;%2&quot; zonder documenten zijn achtergebleven; daarvan wordt niets afgedrukt.</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 De printserver &quot;%2&quot; heeft alle documenten van taak %3-%4 en heeft niet gemeld of hij de taak vrijgeeft: de taak wordt afgedrukt, of ze wordt vastgehouden en niet afgedrukt. Kijk in de wachtrij voordat u opnieuw afdrukt.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>Het bestand &quot;%1&quot; over een taak die werd verzonden, is beschadigd en verwijderd; kijk in uw wachtrijen of er een taak is achtergebleven.</translation>
     </message>
 </context>
@@ -729,7 +729,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>Zoveel labels kunnen niet tegelijk worden afgedrukt: een taak heeft er hoogstens %1</translation>
     </message>
 </context>
@@ -744,7 +744,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Vastgehouden tot %1.</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>Staat in de wachtrij.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Wordt afgedrukt.</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>Gestopt; de taak gaat verder als de printer weer gereed is.</translation>
     </message>
     <message>
@@ -768,11 +768,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Afgedrukt.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>De server meldt: %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>De taak is klaar; de printserver bewaart er niets van.</translation>
     </message>
 </context>
@@ -783,18 +783,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Er is geen document om af te drukken.</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Geen printserver kan de keuze &quot;%1&quot; van de optie &quot;%2&quot; doorgeven.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>De printserver &quot;%1&quot; heeft &quot;%2&quot; niet helemaal aangenomen.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>De printserver &quot;%1&quot; heeft geen taak &quot;%2&quot; meer in de wachtrij &quot;%3&quot;, of ze is afgelopen.</translation>
     </message>
     <message>
@@ -810,18 +810,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Taak %1-%2 op de printserver &quot;%3&quot; is teruggenomen.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien taak %1 (&quot;%2&quot;) op de printserver &quot;%3&quot; achtergelaten, mogelijk zonder alle documenten.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>Een programma dat tijdens het afdrukken werd gestopt, heeft misschien een taak &quot;%1&quot; zonder documenten in de wachtrij &quot;%2&quot; van de printserver &quot;%3&quot; achtergelaten.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp kan deze opties niet opgeven zoals ze worden verzonden: %1</translation>
     </message>
 </context>
@@ -832,7 +832,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De printserver &quot;%1&quot; kan de printer &quot;%2&quot; niet bereiken.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>De printer &quot;%1&quot; is niet meer op het netwerk.</translation>
     </message>
 </context>
@@ -846,7 +846,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>De printer wacht op labels of tape.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De labelrol of tape is op.</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>De printer wordt zo gepauzeerd.</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De klep van de printer staat open.</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>Een vergrendeling van de printer staat open.</translation>
     </message>
     <message>
@@ -962,15 +962,15 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Nieuwe taken worden vastgehouden.</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>De printer is door de beheerder uitgeschakeld.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>Een deel van het printerstuurprogramma ontbreekt.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>Een deel van het printerstuurprogramma is niet veilig geïnstalleerd.</translation>
     </message>
     <message>
@@ -978,7 +978,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Wachten tot de printer de taak heeft voltooid.</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>De printer houdt zich niet aan zijn protocol.</translation>
     </message>
     <message>
@@ -1002,7 +1002,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De wachtrij accepteert geen taken.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>De server meldt: %1</translation>
     </message>
 </context>
@@ -1013,7 +1013,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Op verzoek afgebroken.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>De printserver &quot;%1&quot; antwoordt niet.</translation>
     </message>
     <message>
@@ -1021,15 +1021,15 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Kan geen verbinding maken met de printserver &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>De verbinding met de printserver &quot;%1&quot; is verbroken.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>De printserver &quot;%1&quot; meldt: %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>De printserver &quot;%1&quot; levert &quot;%2&quot; niet: %3</translation>
     </message>
     <message>
@@ -1037,11 +1037,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>het bestand is groter dan %1 MB</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>de verbinding werd halverwege verbroken</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;, maar er is geen opgegeven.</translation>
     </message>
     <message>
@@ -1053,11 +1053,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Het certificaat van de printserver &quot;%1&quot; is niet het certificaat dat voor deze host wordt vertrouwd. Het vertrouwde heeft de SHA-256-vingerafdruk %2, dat van de server heeft %3. Mogelijk is het certificaat van de server vervangen, draait er een andere printserver op dezelfde host of onderschept iemand de verbinding. Als de beheerder van de server de vingerafdruk bevestigt, verwijder dan het bestand &quot;%4&quot; en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>Het certificaat van de printserver &quot;%1&quot; met de SHA-256-vingerafdruk %2 mag niet worden vertrouwd: %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>Het certificaat van de printserver &quot;%1&quot; wordt niet vertrouwd: %2. De SHA-256-vingerafdruk is %3. Vergelijk die met de vingerafdruk die de beheerder van de server noemt en bevestig die wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
     </message>
     <message>
@@ -1065,7 +1065,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De gebruikersnaam of het wachtwoord is onjuist.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>De printserver &quot;%1&quot; vraagt een wachtwoord voor de gebruiker &quot;%2&quot;. Er is er geen verzonden, omdat de verbinding niet is versleuteld en anderen het zouden kunnen lezen. Versleutel de verbinding (-E) of bevestig het wanneer erom wordt gevraagd, in het venster of op een terminal.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>het is versleuteld; verwijder eerst het wachtwoord</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>het is op een onbekende manier versleuteld</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Kan het document van de standaardinvoer niet openen: %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>het is een beschadigde afbeelding</translation>
     </message>
     <message>
@@ -1131,11 +1131,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>het heeft %1 × %2 pixels, meer dan kan worden afgedrukt</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>het is een afbeelding waarvan het einde ontbreekt</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>Er is geen document opgegeven</translation>
     </message>
     <message>
@@ -1154,11 +1154,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>het is groter dan %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>het is geen PDF, PNG, JPEG of SVG</translation>
     </message>
     <message>
@@ -1166,19 +1166,19 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>het bestand is gewijzigd sinds het is geopend; open het opnieuw</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>het is een beschadigde PDF</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>het kan niet in &quot;%1&quot; worden bewaard: %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>het is een beschadigde SVG</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>het verwijst naar &quot;%1&quot;, en alleen wat in de SVG zelf staat wordt afgedrukt</translation>
     </message>
     <message>
@@ -1186,30 +1186,30 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>regel %1 van de SVG: %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>het is een SVG met meer onderdelen dan kunnen worden getekend</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>het bevat een afbeelding die geen PNG of JPEG is</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>het bevat een beschadigde afbeelding</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>het bevat afbeeldingen met meer pixels dan kunnen worden afgedrukt</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>het programma “%1”, dat het omzet, kan niet worden gestart</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>De pagina&apos;s &quot;%1&quot; zijn onbegrijpelijk: schrijf getallen en bereiken zoals 1-3, 5</translation>
     </message>
     <message>
@@ -1217,7 +1217,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Kan de pagina&apos;s &quot;%1&quot; niet afdrukken: de laatste pagina van het document is %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>Er zou niets worden afgedrukt: er is geen pagina van het document gekozen</translation>
     </message>
 </context>
@@ -1228,7 +1228,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Kan de bundel &quot;%1&quot; niet gebruiken: %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>de bibliotheek bevat geen panelen</translation>
     </message>
     <message>
@@ -1248,7 +1248,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>die map bestaat niet</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>Kan de paneelbundel niet vinden; gezocht: %1</translation>
     </message>
     <message>
@@ -1267,7 +1267,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
     </message>
 </context>
@@ -1278,11 +1278,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>&quot;%1: %2&quot;</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>Deze printer kan %1 niet aan.</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 en %2 sluiten elkaar uit.</translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>regel %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>het is groter dan %1 MB, meer dan enige printerbeschrijving</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>het is beschadigd of onvolledig: het kan niet tot het einde worden uitgepakt</translation>
     </message>
     <message>
@@ -1410,26 +1410,26 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Volgorde</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>laatste pagina eerst</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>Daarvan</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>de oneven pagina’s</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>de even pagina’s</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>De bundel &quot;%1&quot; kon zijn paneel niet maken</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>‘%1’ kan met dit papier en de andere snijopties niet ‘%2’ zijn en wordt afgedrukt als ‘%3’.</translation>
     </message>
     <message>
@@ -1501,15 +1501,15 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Halve snede tussen de labels van een stuk.</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>Gedrukte merktekens waar niet wordt doorgesneden.</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>Het einde blijft in de printer; de volgende taak gaat zonder marge verder.</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>Lege tape voor en na elk label vervalt.</translation>
     </message>
     <message>
@@ -1538,7 +1538,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>het is geen map</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>de map kan niet worden gemaakt: %1</translation>
     </message>
     <message>
@@ -1586,7 +1586,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>Drukt documenten af op labelprinters, met een dialoogvenster voor papier, pagina&apos;s en sneden dat de labelstrook toont zoals die eruit komt. Zonder beeldscherm wordt meteen afgedrukt. PDF, PNG, JPEG en SVG; &quot;-&quot; of niets is de standaardinvoer.</translation>
     </message>
     <message>
@@ -1596,31 +1596,31 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>Beëindigt de opties: wat volgt, zijn documenten.</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>De optie &quot;%1&quot; bestaat niet</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>De optie &quot;%1&quot; heeft geen waarde</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>De optie &quot;%1&quot; heeft een waarde nodig: %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>De optie &quot;%1&quot; betreft de virtuele printer en heeft &quot;--ppd&quot; nodig</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H: &quot;%1&quot; betreft een eerder verzonden taak en heeft &quot;-i&quot; nodig</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>&quot;%1&quot; neemt geen documenten, maar &quot;%2&quot; is opgegeven</translation>
     </message>
     <message>
@@ -1628,15 +1628,15 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De standaardinvoer (&quot;-&quot;) kan maar één keer worden afgedrukt</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>De optie &quot;%1&quot; gaat niet samen met &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>De optie &quot;%1&quot; kan alleen samen met een van: %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>Geen document opgegeven; noem een bestand, of &quot;-&quot; om er een in te typen</translation>
     </message>
     <message>
@@ -1644,11 +1644,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>de waarde is leeg</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>&quot;%1&quot; is geen tijdstip om af te drukken; schrijf HH:MM of HH:MM:SS (UTC), of een van: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>&quot;%1&quot; is niet mogelijk; het moet een zijn van: %2</translation>
     </message>
     <message>
@@ -1656,27 +1656,27 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>er is geen papier opgegeven</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>&quot;%1&quot; is geen aantal exemplaren; het moet van 1 tot %2 zijn</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>&quot;%1&quot; is geen prioriteit; die moet van 1 (laatst) tot 100 (eerst) zijn</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>&quot;%1&quot; noemt geen wachtrij; schrijf QUEUE of QUEUE/INSTANCE</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>&quot;%1&quot; is geen taak; schrijf het nummer, of QUEUE-NUMBER zoals bij het verzenden gemeld</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>&quot;%1&quot; noemt geen optie; schrijf NAME=VALUE</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>De wachtrij om op af te drukken, met een benoemde set opties. Zonder deze optie de standaardwachtrij.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De printserver.</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>De gebruiker voor wie wordt afgedrukt.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Versleutelt de verbinding met de printserver.</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>De naam van het papier in de PPD, of Custom.BREEDTExLENGTEmm waar de printer vrije formaten toelaat.</translation>
     </message>
     <message>
@@ -1704,7 +1704,7 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De pagina&apos;s om af te drukken, bijvoorbeeld 1-3,5,8-.</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>Een optie van de PPD of van de printserver; meerdere tegelijk, met spaties ertussen, of een voor een.</translation>
     </message>
     <message>
@@ -1716,63 +1716,63 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>De prioriteit van de taak, van 1 tot 100 (eerst).</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>Wanneer wordt afgedrukt: hold, immediate, HH:MM (UTC), night, weekend en andere; voor een eerder verzonden taak ook resume en restart.</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>Stuurt een e-mail als de taak is voltooid; -s hoort daarbij.</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>Meldt het nummer van de taak niet.</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>Toegelaten omwille van lp: documenten worden altijd gekopieerd.</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>Wijzigt een eerder verzonden taak.</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>Drukt meteen af, met de instellingen waarmee het dialoogvenster zou openen.</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>Toont de wachtrijen en hun toestand.</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>Toont de instellingen waarmee het dialoogvenster zou openen, en drukt niets af.</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>Doet alles behalve verzenden, en toont wat zou worden verzonden.</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>Toont dit als JSON.</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>Verzendt ook wat de printer niet heeft en wat niet samengaat.</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>Slaat een afbeelding van het dialoogvenster, zoals het opent, op in een PNG-bestand.</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>De bundel met het paneel met snijopties, of de map waarin die staat.</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Een PPD-bestand, ongecomprimeerd of gzip: drukt af op een virtuele printer in plaats van op een wachtrij.</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>De map voor strip.pdf en job.json van de virtuele printer; die wordt gemaakt als hij er niet is. Zonder deze optie een nieuwe map bij de gegevens van de gebruiker.</translation>
     </message>
     <message>
@@ -1784,15 +1784,15 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Toont de versie.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>&quot;%1&quot; is niet mogelijk; documenten worden als PDF verzonden</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1809,18 +1809,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>Neemt een taak terug die een gestopt programma op een printserver heeft achtergelaten.</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>Drukt af wat de printserver van zo’n taak heeft, misschien niet alle documenten.</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>De taak is toch verzonden, als %1-%2.</translation>
     </message>
 </context>
@@ -1838,15 +1838,15 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>De printserver &quot;%1&quot; heeft geen bestemming om op af te drukken</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>Dit zou helpen: %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>De printserver &quot;%1&quot; heeft geen standaardbestemming; noem er een met &quot;-d&quot;</translation>
     </message>
     <message>
@@ -1857,19 +1857,19 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>&quot;kvprint --cancel-left %1&quot; neemt de taak terug, &quot;kvprint --release-left %1&quot; drukt af wat de server ervan heeft.</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>Taken &quot;%1&quot; zijn op meerdere printservers achtergebleven; noem een van deze: %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>Er is geen taak &quot;%1&quot; die een gestopt programma heeft achtergelaten; er is geen enkele achtergebleven</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>Er is geen taak &quot;%1&quot; die een gestopt programma heeft achtergelaten; deze zijn achtergebleven: %2</translation>
     </message>
 </context>
@@ -1880,11 +1880,11 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Het PPD-bestand &quot;%1&quot; heeft geen papier &quot;%2&quot;; wel: %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>Het PPD-bestand &quot;%1&quot; noemt geen papier om op af te drukken</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>De labelstrook staat in:</translation>
     </message>
 </context>

@@ -20,27 +20,27 @@
         <translation>Essa impressora não existe.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>A aguardar a resposta do servidor de impressão…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>Da última vez: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>O servidor de impressão não responde. Da última vez: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>O servidor de impressão não responde.</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>O servidor de impressão pede uma palavra-passe.</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>O servidor de impressão pede uma palavra-passe. Da última vez: %1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>O servidor de impressão não é confiável.</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>O servidor de impressão não é confiável. Da última vez: %1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>Hora de impressão</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>Conforme a fila</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>Orie&amp;ntação</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>&amp;Quando imprimir</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>&amp;Prioridade</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>Conforme a impressora</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>Agora</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>Quando eu o libertar</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>A uma hora determinada</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>O trabalho foi enviado.</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>Retirar o trabalho</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>Imprimir o que existe</translation>
+        <source>Release the job</source>
+        <translation>Libertar o trabalho</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>Todas as páginas uma vez e depois outra; caso contrário, todas as cópias de uma página juntas</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>todas ou, por exemplo, 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Pá&amp;ginas</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>Última página primeiro</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>Parar o envio</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Valor</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>Origem</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>Ligação sem encriptação</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>O servidor de impressão &quot;%1&quot; pede uma palavra-passe e a ligação não está encriptada.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>A impressão digital SHA-256 dele é:
 %1
 
@@ -335,7 +335,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>O ficheiro PPD não indica nenhum papel</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>A impressora não consegue fazer tudo isto em conjunto.</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>&quot;%1&quot; precisa de, pelo menos, %n carácter. Até lá, a definição fica como estava.</numerusform>
             <numerusform>&quot;%1&quot; precisa de, pelo menos, %n caracteres. Até lá, a definição fica como estava.</numerusform>
@@ -383,7 +383,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>Grupos de opções</translation>
     </message>
     <message>
@@ -562,7 +562,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Não é possível mostrar as opções de corte. %1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>A impressora não tem descrição, pelo que os seus papéis e cortes não são conhecidos.</translation>
     </message>
     <message>
@@ -570,11 +570,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A aguardar a descrição da impressora…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>Não foi escolhida nenhuma impressora.</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>A aguardar a resposta do servidor de impressão…</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Memória esgotada; o trabalho pode estar incompleto ou ter ficado no servidor de impressão.</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>Memória esgotada. O trabalho foi enviado na mesma.</translation>
     </message>
 </context>
@@ -619,7 +619,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A opção &quot;%1&quot; da impressora &quot;%2&quot; não tem a escolha &quot;%3&quot;; tem: %4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>A impressora &quot;%1&quot; não pode imprimir no papel &quot;%2&quot;: o tamanho é de %3 × %4 pontos; a largura e o comprimento devem ser maiores que 0, um deles de no máximo %5 m e o outro de no máximo %6 m.</translation>
     </message>
 </context>
@@ -653,7 +653,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>Vai ser impresso de novo, mas está retido. %1</translation>
     </message>
     <message>
@@ -661,18 +661,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O trabalho %1 não foi alterado. %2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Nenhum servidor de impressão consegue transmitir a escolha &quot;%1&quot; da opção &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 É possível que na fila &quot;%3&quot; do servidor de impressão &quot;%4&quot; tenha ficado um trabalho &quot;%2&quot; sem documentos; nada dele é impresso.</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 O servidor de impressão &quot;%2&quot; tem todos os documentos do trabalho %3-%4 e não indicou se o liberta: o trabalho é impresso, ou está retido e não é impresso. Verifique a fila antes de voltar a imprimir.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>O registo &quot;%1&quot; de um trabalho que estava a ser enviado está danificado e foi removido; verifique nas suas filas se ficou algum trabalho.</translation>
     </message>
 </context>
@@ -729,7 +729,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>Não é possível imprimir tantas etiquetas de uma vez: um trabalho tem no máximo %1</translation>
     </message>
 </context>
@@ -744,7 +744,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Retido até: %1.</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>A aguardar a sua vez.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A imprimir.</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>Parado; continua quando a impressora estiver de novo pronta.</translation>
     </message>
     <message>
@@ -768,11 +768,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Impresso.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>O servidor indica: %1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>O trabalho terminou; o servidor de impressão não guarda registo dele.</translation>
     </message>
 </context>
@@ -783,18 +783,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Não há nenhum documento para imprimir.</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>Nenhum servidor de impressão consegue transmitir a escolha &quot;%1&quot; da opção &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>O servidor de impressão &quot;%1&quot; não aceitou a totalidade de &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>O servidor de impressão &quot;%1&quot; já não tem nenhum trabalho &quot;%2&quot; na fila &quot;%3&quot;, ou ele terminou.</translation>
     </message>
     <message>
@@ -810,18 +810,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O trabalho %1-%2 no servidor de impressão &quot;%3&quot; foi retirado.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>Um programa interrompido durante a impressão pode ter deixado o trabalho %1 (&quot;%2&quot;) no servidor de impressão &quot;%3&quot;, talvez sem todos os documentos.</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>Um programa interrompido durante a impressão pode ter deixado um trabalho &quot;%1&quot; sem documentos na fila &quot;%2&quot; do servidor de impressão &quot;%3&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp não consegue exprimir estas opções tal como são enviadas: %1</translation>
     </message>
 </context>
@@ -832,7 +832,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O servidor de impressão &quot;%1&quot; não consegue contactar a impressora &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>A impressora &quot;%1&quot; já não está na rede.</translation>
     </message>
 </context>
@@ -846,7 +846,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>A impressora aguarda etiquetas ou fita.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O rolo de etiquetas ou a fita acabou.</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>A impressora está prestes a entrar em pausa.</translation>
     </message>
     <message>
@@ -906,7 +906,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A tampa da impressora está aberta.</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>Um fecho da impressora está aberto.</translation>
     </message>
     <message>
@@ -962,15 +962,15 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Os novos trabalhos ficam retidos.</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>A impressora foi desativada pelo administrador.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>Falta uma parte do controlador da impressora.</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>Uma parte do controlador da impressora não está instalada de forma segura.</translation>
     </message>
     <message>
@@ -978,7 +978,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A aguardar que a impressora termine o trabalho.</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>A impressora não cumpre o seu protocolo.</translation>
     </message>
     <message>
@@ -1002,7 +1002,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A fila não aceita trabalhos.</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>O servidor indica: %1</translation>
     </message>
 </context>
@@ -1013,7 +1013,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Interrompido a pedido.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>O servidor de impressão &quot;%1&quot; não responde.</translation>
     </message>
     <message>
@@ -1021,15 +1021,15 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Não é possível ligar ao servidor de impressão &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>A ligação ao servidor de impressão &quot;%1&quot; foi interrompida.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>O servidor de impressão &quot;%1&quot; indica: %2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>O servidor de impressão &quot;%1&quot; não fornece &quot;%2&quot;: %3</translation>
     </message>
     <message>
@@ -1037,11 +1037,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>tem mais de %1 MB</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>a ligação foi interrompida a meio</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>O servidor de impressão &quot;%1&quot; pede uma palavra-passe para o utilizador &quot;%2&quot; e não foi indicada nenhuma.</translation>
     </message>
     <message>
@@ -1053,11 +1053,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O certificado do servidor de impressão &quot;%1&quot; não é aquele em que se confia para este computador. O certificado de confiança tem a impressão digital SHA-256 %2, o do servidor tem %3. O certificado do servidor pode ter sido substituído, pode haver outro servidor de impressão no mesmo computador ou alguém pode estar a intercetar a ligação. Se o administrador do servidor confirmar a impressão digital, remova o ficheiro &quot;%4&quot; e tente novamente.</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>Não é permitido confiar no certificado do servidor de impressão &quot;%1&quot; com a impressão digital SHA-256 %2: %3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>O certificado do servidor de impressão &quot;%1&quot; não é confiável: %2. A impressão digital SHA-256 é %3. Compare-a com a que o administrador do servidor informa e confirme-a quando for perguntado, na janela ou num terminal.</translation>
     </message>
     <message>
@@ -1065,7 +1065,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O nome de utilizador ou a palavra-passe está incorreto.</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>O servidor de impressão &quot;%1&quot; pede uma palavra-passe para o utilizador &quot;%2&quot;. Nenhuma foi enviada, porque a ligação não está encriptada e outras pessoas poderiam lê-la. Encripte a ligação (-E) ou confirme quando for perguntado, na janela ou num terminal.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>está cifrado; retire primeiro a palavra-passe</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>está cifrado de um modo desconhecido</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Não é possível abrir o documento da entrada padrão: %1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>é uma imagem danificada</translation>
     </message>
     <message>
@@ -1131,11 +1131,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>tem %1 × %2 píxeis, mais do que se pode imprimir</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>é uma imagem a que falta o fim</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>Não é indicado nenhum documento</translation>
     </message>
     <message>
@@ -1154,11 +1154,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>ultrapassa %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>não é PDF, PNG, JPEG nem SVG</translation>
     </message>
     <message>
@@ -1166,19 +1166,19 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>o ficheiro mudou desde que foi aberto; abra-o de novo</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>é um PDF danificado</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>não é possível guardar em &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>é um SVG danificado</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>refere-se a &quot;%1&quot;, e só se imprime o que está no próprio SVG</translation>
     </message>
     <message>
@@ -1186,30 +1186,30 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>linha %1 do SVG: %2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>é um SVG com mais partes do que se pode desenhar</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>contém uma imagem que não é PNG nem JPEG</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>contém uma imagem danificada</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>contém imagens com mais píxeis do que se pode imprimir</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>não é possível iniciar o programa “%1”, que o converte</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>Não se entendem as páginas &quot;%1&quot;: escreva números e intervalos como 1-3, 5</translation>
     </message>
     <message>
@@ -1217,7 +1217,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Não é possível imprimir as páginas &quot;%1&quot;: a última página do documento é %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>Nada seria impresso: nenhuma página do documento está escolhida</translation>
     </message>
 </context>
@@ -1228,7 +1228,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Não é possível usar o pacote &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>a biblioteca não contém painéis</translation>
     </message>
     <message>
@@ -1248,7 +1248,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>a pasta não existe</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>Não se encontra o pacote do painel; procurou-se %1</translation>
     </message>
     <message>
@@ -1267,7 +1267,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>&quot;%1&quot; não consegue guardar as definições: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>&quot;%1&quot; não permite imprimir o trabalho com estas definições.</translation>
     </message>
 </context>
@@ -1278,11 +1278,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>&quot;%1: %2&quot;</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>Esta impressora não permite %1.</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 e %2 excluem-se mutuamente.</translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>linha %1: %2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>tem mais de %1 MB, mais do que qualquer descrição de impressora</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>está danificado ou incompleto: não se consegue descomprimir até ao fim</translation>
     </message>
     <message>
@@ -1410,26 +1410,26 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Ordem</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>última página primeiro</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>Destas</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>as páginas ímpares</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>as páginas pares</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>O pacote &quot;%1&quot; não conseguiu criar o seu painel</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>“%1” não pode ser “%2” com este papel e as demais opções de corte, e é impresso como “%3”.</translation>
     </message>
     <message>
@@ -1501,15 +1501,15 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Meio corte entre as etiquetas de uma peça.</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>Marcas impressas onde não se corta.</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>O fim fica na impressora; o trabalho seguinte continua sem margem.</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>A fita em branco antes e depois de cada etiqueta é omitida.</translation>
     </message>
     <message>
@@ -1538,7 +1538,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>não é uma pasta</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>não é possível criar a pasta: %1</translation>
     </message>
     <message>
@@ -1586,7 +1586,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>Imprime documentos em impressoras de etiquetas, com uma janela para papel, páginas e cortes que mostra a tira de etiquetas tal como vai sair. Sem ecrã imprime de imediato. PDF, PNG, JPEG e SVG; &quot;-&quot; ou nada é a entrada padrão.</translation>
     </message>
     <message>
@@ -1596,31 +1596,31 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>Termina as opções: o que se segue são documentos.</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>A opção &quot;%1&quot; não existe</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>A opção &quot;%1&quot; não aceita valores</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>A opção &quot;%1&quot; precisa de um valor: %2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>A opção &quot;%1&quot; é para a impressora virtual e precisa de &quot;--ppd&quot;</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H: &quot;%1&quot; refere-se a um trabalho já enviado e precisa de &quot;-i&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>&quot;%1&quot; não aceita documentos e foi indicado &quot;%2&quot;</translation>
     </message>
     <message>
@@ -1628,15 +1628,15 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A entrada padrão (&quot;-&quot;) só pode ser impressa uma vez</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>A opção &quot;%1&quot; não é compatível com &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>A opção &quot;%1&quot; só é aceite em conjunto com uma destas: %2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>Não foi indicado nenhum documento; indique um ficheiro, ou &quot;-&quot; para o escrever</translation>
     </message>
     <message>
@@ -1644,11 +1644,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>o valor está vazio</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>&quot;%1&quot; não é uma hora de impressão; escreva HH:MM ou HH:MM:SS (UTC), ou uma destas palavras: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>&quot;%1&quot; não é possível; tem de ser um destes valores: %2</translation>
     </message>
     <message>
@@ -1656,27 +1656,27 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>não indica nenhum papel</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>&quot;%1&quot; não é um número de cópias; tem de estar entre 1 e %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>&quot;%1&quot; não é uma prioridade; tem de estar entre 1 (último) e 100 (primeiro)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>&quot;%1&quot; não indica nenhuma fila; escreva FILA ou FILA/INSTÂNCIA</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>&quot;%1&quot; não é um trabalho; escreva o seu número, ou FILA-NÚMERO como foi mostrado ao enviá-lo</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>&quot;%1&quot; não indica nenhuma opção; escreva NOME=VALOR</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>A fila onde imprimir, com um conjunto de opções com nome. Sem esta opção, a fila predefinida.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O servidor de impressão.</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>O utilizador para quem se imprime.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Cifra a ligação ao servidor de impressão.</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>O nome do papel no PPD, ou Custom.LARGURAxCOMPRIMENTOmm se a impressora aceitar tamanhos personalizados.</translation>
     </message>
     <message>
@@ -1704,7 +1704,7 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>As páginas a imprimir, por exemplo 1-3,5,8-.</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>Uma opção do PPD ou do servidor de impressão; várias de uma vez, separadas por espaços, ou uma a uma.</translation>
     </message>
     <message>
@@ -1716,63 +1716,63 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>A prioridade do trabalho, de 1 a 100 (primeiro).</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>Quando imprimir: hold, immediate, HH:MM (UTC), night, weekend e outros; para um trabalho já enviado, também resume e restart.</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>Envia uma mensagem de correio quando o trabalho termina; inclui -s.</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>Não mostra o número do trabalho.</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>Aceite por compatibilidade com o lp: os documentos são sempre copiados.</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>Altera um trabalho já enviado.</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>Imprime de imediato, com as definições com que a janela abriria.</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>Lista as filas e o seu estado.</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>Mostra as definições com que a janela abriria e não imprime nada.</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>Faz tudo menos enviar e mostra o que seria enviado.</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>Mostra-o como JSON.</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>Envia mesmo o que a impressora não tem e o que é incompatível.</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>Guarda uma imagem da janela, tal como abre, num ficheiro PNG.</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>O pacote com o painel de opções de corte, ou a pasta em que está.</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Um ficheiro PPD, não comprimido ou gzip: imprime numa impressora virtual em vez de numa fila.</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>A pasta para strip.pdf e job.json da impressora virtual, criada se não existir. Sem esta opção, uma nova pasta entre os dados do utilizador.</translation>
     </message>
     <message>
@@ -1784,15 +1784,15 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Mostra a versão.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>&quot;%1&quot; não é possível; os documentos são enviados como PDF</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1808,18 +1808,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>Retira um trabalho que um programa interrompido deixou num servidor de impressão.</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>Imprime o que o servidor de impressão tem desse trabalho, talvez não todos os documentos.</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>O trabalho foi enviado na mesma, como %1-%2.</translation>
     </message>
 </context>
@@ -1837,15 +1837,15 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>O servidor de impressão &quot;%1&quot; não tem nenhum destino onde imprimir</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>Solução possível: %1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>O servidor de impressão &quot;%1&quot; não tem nenhum destino predefinido; indique um com &quot;-d&quot;</translation>
     </message>
     <message>
@@ -1856,19 +1856,19 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>&quot;kvprint --cancel-left %1&quot; retira-o, &quot;kvprint --release-left %1&quot; imprime o que o servidor tem dele.</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>Ficaram trabalhos &quot;%1&quot; em vários servidores de impressão; indique um destes: %2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>Não há nenhum trabalho &quot;%1&quot; deixado por um programa interrompido; não ficou nenhum</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>Não há nenhum trabalho &quot;%1&quot; deixado por um programa interrompido; ficaram estes: %2</translation>
     </message>
 </context>
@@ -1879,11 +1879,11 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>O ficheiro PPD &quot;%1&quot; não tem o papel &quot;%2&quot;; tem: %3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>O ficheiro PPD &quot;%1&quot; não indica nenhum papel</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>A tira de etiquetas está em:</translation>
     </message>
 </context>

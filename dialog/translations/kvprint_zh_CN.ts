@@ -20,27 +20,27 @@
         <translation>没有此打印机。</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>正在等待打印服务器响应…</translation>
     </message>
     <message>
-        <source>Last time: %1</source>
+        <source>Last known state: %1</source>
         <translation>上次状态：%1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Last time: %1</source>
+        <source>The print server does not respond. Last known state: %1</source>
         <translation>打印服务器没有响应。上次状态：%1</translation>
     </message>
     <message>
-        <source>The print server does not answer.</source>
+        <source>The print server does not respond.</source>
         <translation>打印服务器没有响应。</translation>
     </message>
     <message>
-        <source>The print server wants a password.</source>
+        <source>The print server requires a password.</source>
         <translation>打印服务器要求密码。</translation>
     </message>
     <message>
-        <source>The print server wants a password. Last time: %1</source>
+        <source>The print server requires a password. Last known state: %1</source>
         <translation>打印服务器要求密码。上次状态：%1</translation>
     </message>
     <message>
@@ -48,18 +48,18 @@
         <translation>打印服务器不受信任。</translation>
     </message>
     <message>
-        <source>The print server is not trusted. Last time: %1</source>
+        <source>The print server is not trusted. Last known state: %1</source>
         <translation>打印服务器不受信任。上次：%1</translation>
     </message>
 </context>
 <context>
     <name>dialog::job::JobPage</name>
     <message>
-        <source>Time to print at</source>
+        <source>Print time</source>
         <translation>打印时刻</translation>
     </message>
     <message>
-        <source>As the queue is set</source>
+        <source>Queue default</source>
         <translation>按队列设置</translation>
     </message>
     <message>
@@ -75,7 +75,7 @@
         <translation>方向(&amp;I)</translation>
     </message>
     <message>
-        <source>Pr&amp;int it</source>
+        <source>When to pr&amp;int</source>
         <translation>打印时间(&amp;T)</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>优先级(&amp;Y)</translation>
     </message>
     <message>
-        <source>As the printer is set</source>
+        <source>Printer default</source>
         <translation>按打印机设置</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@
         <translation>立即</translation>
     </message>
     <message>
-        <source>When I release it</source>
+        <source>When it is released</source>
         <translation>手动释放时</translation>
     </message>
     <message>
-        <source>At a time</source>
+        <source>At a specific time</source>
         <translation>指定时刻</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
 <context>
     <name>dialog::job::JobWindow</name>
     <message>
-        <source>The job is sent.</source>
+        <source>The job was sent.</source>
         <translation>作业已发送。</translation>
     </message>
     <message>
@@ -169,8 +169,8 @@
         <translation>撤回作业</translation>
     </message>
     <message>
-        <source>Print what is there</source>
-        <translation>打印已有内容</translation>
+        <source>Release the job</source>
+        <translation>释放作业</translation>
     </message>
 </context>
 <context>
@@ -184,7 +184,7 @@
         <translation>先打印全部页面一遍，再重复；否则同一页的所有副本连续打印</translation>
     </message>
     <message>
-        <source>all, or for example 1-3, 5</source>
+        <source>all, or ranges such as 1-3, 5</source>
         <translation>全部，或例如 1-3, 5</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>页面(&amp;G)</translation>
     </message>
     <message>
-        <source>Last page first</source>
+        <source>Reverse order</source>
         <translation>从最后一页开始</translation>
     </message>
 </context>
@@ -225,7 +225,7 @@
 <context>
     <name>dialog::job::SendBar</name>
     <message>
-        <source>Stop sending</source>
+        <source>Cancel sending</source>
         <translation>停止发送</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>值</translation>
     </message>
     <message>
-        <source>From</source>
+        <source>Origin</source>
         <translation>来源</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@
         <translation>未加密的连接</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password, and the connection to it is not encrypted.</source>
+        <source>The print server &quot;%1&quot; requires a password, and the connection to it is not encrypted.</source>
         <translation>打印服务器“%1”需要密码，而与它的连接未加密。</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@
         <source>Its SHA-256 fingerprint is:
 %1
 
-Trust it only if the server&apos;s administrator names the same fingerprint. It is trusted from then on.</source>
+Trust it only if the server&apos;s administrator confirms this fingerprint. It stays trusted for later connections.</source>
         <translation>其 SHA-256 指纹为：
 %1
 
@@ -335,7 +335,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::job::VirtualSender</name>
     <message>
-        <source>The PPD file names no paper to print on</source>
+        <source>The PPD file defines no paper</source>
         <translation>PPD 文件未列出任何纸张</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::options::ConflictQuestion</name>
     <message>
-        <source>The printer cannot do all of these together.</source>
+        <source>The printer does not support this combination of settings.</source>
         <translation>打印机无法同时执行这些设置。</translation>
     </message>
     <message>
@@ -373,7 +373,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::options::CustomValueFields</name>
     <message numerus="yes">
-        <source>&quot;%1&quot; needs %n character(s) at least. Until then the setting is as it was before.</source>
+        <source>&quot;%1&quot; needs at least %n character(s). Until then, the previous value is used.</source>
         <translation>
             <numerusform>“%1”至少需要 %n 个字符。在此之前，设置保持原样。</numerusform>
         </translation>
@@ -382,7 +382,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>dialog::options::OptionsPage</name>
     <message>
-        <source>Groups of options</source>
+        <source>Option groups</source>
         <translation>选项组</translation>
     </message>
     <message>
@@ -561,7 +561,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>无法显示裁切选项。%1</translation>
     </message>
     <message>
-        <source>The printer has no description, so its papers and cuts are not known here.</source>
+        <source>The printer has no description (PPD); its papers and cuts are not known.</source>
         <translation>打印机没有描述文件，因此其纸张和裁切方式未知。</translation>
     </message>
     <message>
@@ -569,11 +569,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>正在等待打印机描述文件…</translation>
     </message>
     <message>
-        <source>No printer is chosen.</source>
+        <source>No printer is selected.</source>
         <translation>未选择打印机。</translation>
     </message>
     <message>
-        <source>Waiting for the print server&apos;s answer…</source>
+        <source>Waiting for the print server…</source>
         <translation>正在等待打印服务器响应…</translation>
     </message>
     <message>
@@ -599,7 +599,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>内存不足；作业可能不完整，或遗留在打印服务器上。</translation>
     </message>
     <message>
-        <source>Out of memory. The job was sent all the same.</source>
+        <source>Out of memory. The job was sent nevertheless.</source>
         <translation>内存不足。作业仍已发送。</translation>
     </message>
 </context>
@@ -618,7 +618,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>打印机“%2”的选项“%1”没有选择项“%3”；可用：%4</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be above 0, one of them at most %5 m, the other at most %6 m.</source>
+        <source>The printer &quot;%1&quot; cannot print on the paper &quot;%2&quot;: its size is %3 × %4 points; width and length must be greater than 0, one of them at most %5 m, the other at most %6 m.</source>
         <translation>打印机“%1”无法在纸张“%2”上打印：其尺寸为 %3 × %4 点；宽度和长度必须大于 0，其中一边不超过 %5 米，另一边不超过 %6 米。</translation>
     </message>
 </context>
@@ -652,7 +652,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::jobs::JobChange</name>
     <message>
-        <source>It is to be printed anew, but held. %1</source>
+        <source>It is printed again, but held. %1</source>
         <translation>作业将重新打印，但已被保留。%1</translation>
     </message>
     <message>
@@ -660,18 +660,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>作业 %1 未更改。%2</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::JobFate</name>
     <message>
-        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; nothing of it is printed.</source>
+        <source>%1 A job &quot;%2&quot; without documents may be left in the queue &quot;%3&quot; of the print server &quot;%4&quot;; it prints nothing.</source>
         <translation>%1 打印服务器“%4”的队列“%3”中可能留有一个没有文档的作业“%2”；它不会打印任何内容。</translation>
     </message>
     <message>
-        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4 and did not say whether it releases them: the job is printed, or it is held and not printed. Check the queue before you print again.</source>
+        <source>%1 The print server &quot;%2&quot; has all documents of job %3-%4, but did not report whether it released the job: it is printed, or it is still held. Check the queue before you print again.</source>
         <translation>%1 打印服务器“%2”已有作业 %3-%4 的全部文档，但没有说明是否释放它：该作业会打印，或者被保留而不打印。再次打印前请查看队列。</translation>
     </message>
     <message>
@@ -694,7 +694,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::jobs::JobJournal</name>
     <message>
-        <source>The record &quot;%1&quot; of a job that was being sent is damaged and was removed; check the queues that you print on for a job that is left.</source>
+        <source>The record &quot;%1&quot; of an interrupted job was damaged and has been removed. Check your queues for a held job.</source>
         <translation>正在发送的作业的记录“%1”已损坏并被删除；请查看您使用的队列中是否留有作业。</translation>
     </message>
 </context>
@@ -728,7 +728,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::jobs::JobSettings</name>
     <message>
-        <source>Cannot print so many labels at once: a job has at most %1</source>
+        <source>Cannot print the job: it has more than %1 labels</source>
         <translation>无法一次打印这么多标签：每个作业最多 %1 张</translation>
     </message>
 </context>
@@ -743,7 +743,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>保留至：%1。</translation>
     </message>
     <message>
-        <source>Waiting for its turn.</source>
+        <source>Waiting in the queue.</source>
         <translation>正在排队等待。</translation>
     </message>
     <message>
@@ -751,7 +751,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>正在打印。</translation>
     </message>
     <message>
-        <source>Stopped; it goes on when the printer is ready again.</source>
+        <source>Stopped; it continues when the printer is ready.</source>
         <translation>已停止；打印机再次就绪后继续。</translation>
     </message>
     <message>
@@ -767,11 +767,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>已打印。</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>服务器返回：%1</translation>
     </message>
     <message>
-        <source>The job is over; the print server keeps no record of it.</source>
+        <source>The job is finished; the print server keeps no record of it.</source>
         <translation>作业已结束；打印服务器不保留其记录。</translation>
     </message>
 </context>
@@ -782,18 +782,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>没有要打印的文档。</translation>
     </message>
     <message>
-        <source>No print server can pass on the choice &quot;%1&quot; of the option &quot;%2&quot;.</source>
+        <source>The choice &quot;%1&quot; of the option &quot;%2&quot; cannot be sent: print servers do not pass it on.</source>
         <translation>没有打印服务器能够传递选项“%2”的选择项“%1”。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; did not take all of &quot;%2&quot;.</source>
+        <source>The print server &quot;%1&quot; did not receive all of &quot;%2&quot;.</source>
         <translation>打印服务器“%1”没有接收完整的“%2”。</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LeftJob</name>
     <message>
-        <source>The print server &quot;%1&quot; has no job &quot;%2&quot; in the queue &quot;%3&quot; any more, or it is over.</source>
+        <source>The print server &quot;%1&quot; no longer has the job &quot;%2&quot; in the queue &quot;%3&quot;, or the job is finished.</source>
         <translation>打印服务器“%1”的队列“%3”中已没有作业“%2”，或者它已结束。</translation>
     </message>
     <message>
@@ -809,18 +809,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>打印服务器“%3”上的作业 %1-%2 已撤回。</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;, perhaps without all of its documents.</source>
+        <source>An interrupted program may have left job %1 (&quot;%2&quot;) on the print server &quot;%3&quot;; the job may be incomplete.</source>
         <translation>一个在打印时被中止的程序可能在打印服务器“%3”上留下了作业 %1（“%2”），也许缺少部分文档。</translation>
     </message>
     <message>
-        <source>A program that was stopped while it was printing may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
+        <source>An interrupted program may have left a job &quot;%1&quot; without documents in the queue &quot;%2&quot; of the print server &quot;%3&quot;.</source>
         <translation>一个在打印时被中止的程序可能在打印服务器“%3”的队列“%2”中留下了没有文档的作业“%1”。</translation>
     </message>
 </context>
 <context>
     <name>host::cups::jobs::LpCommand</name>
     <message>
-        <source>lp cannot say these options as they are sent: %1</source>
+        <source>lp cannot express these options: %1</source>
         <translation>lp 无法按实际发送的形式表示这些选项：%1</translation>
     </message>
 </context>
@@ -831,7 +831,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>打印服务器“%1”无法连接到打印机“%2”。</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; is not on the network any more.</source>
+        <source>The printer &quot;%1&quot; is no longer on the network.</source>
         <translation>打印机“%1”已不在网络上。</translation>
     </message>
 </context>
@@ -845,7 +845,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::cups::queues::QueueText</name>
     <message>
-        <source>The printer waits for labels or tape.</source>
+        <source>The printer needs labels or tape.</source>
         <translation>打印机正在等待标签或标签带。</translation>
     </message>
     <message>
@@ -861,7 +861,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>标签卷或标签带已用完。</translation>
     </message>
     <message>
-        <source>The printer is about to pause.</source>
+        <source>The printer is pausing.</source>
         <translation>打印机即将暂停。</translation>
     </message>
     <message>
@@ -905,7 +905,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>打印机盖已打开。</translation>
     </message>
     <message>
-        <source>A lock of the printer is open.</source>
+        <source>An interlock of the printer is open.</source>
         <translation>打印机的锁扣未锁好。</translation>
     </message>
     <message>
@@ -961,15 +961,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>新作业将被保留。</translation>
     </message>
     <message>
-        <source>The printer is switched off by its administrator.</source>
+        <source>The printer was deactivated by its administrator.</source>
         <translation>打印机已被管理员停用。</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is missing.</source>
+        <source>A filter of the printer&apos;s driver is missing.</source>
         <translation>打印机驱动程序缺少组件。</translation>
     </message>
     <message>
-        <source>A part of the printer&apos;s driver is not installed safely.</source>
+        <source>A filter of the printer&apos;s driver is not installed securely.</source>
         <translation>打印机驱动程序的某个组件安装不安全。</translation>
     </message>
     <message>
@@ -977,7 +977,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>正在等待打印机完成作业。</translation>
     </message>
     <message>
-        <source>The printer does not follow its protocol.</source>
+        <source>The printer does not conform to its protocol.</source>
         <translation>打印机未遵循其协议。</translation>
     </message>
     <message>
@@ -1001,7 +1001,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>队列不接受作业。</translation>
     </message>
     <message>
-        <source>The server says: %1</source>
+        <source>Server message: %1</source>
         <translation>服务器返回：%1</translation>
     </message>
 </context>
@@ -1012,7 +1012,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>已按要求中止。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not answer.</source>
+        <source>The print server &quot;%1&quot; does not respond.</source>
         <translation>打印服务器“%1”没有响应。</translation>
     </message>
     <message>
@@ -1020,15 +1020,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>无法连接到打印服务器“%1”：%2</translation>
     </message>
     <message>
-        <source>The connection to the print server &quot;%1&quot; broke.</source>
+        <source>The connection to the print server &quot;%1&quot; was lost.</source>
         <translation>与打印服务器“%1”的连接已中断。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; says: %2</source>
+        <source>The print server &quot;%1&quot; reports: %2</source>
         <translation>打印服务器“%1”返回：%2</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; does not give &quot;%2&quot;: %3</source>
+        <source>Cannot fetch &quot;%2&quot; from the print server &quot;%1&quot;: %3</source>
         <translation>打印服务器“%1”未提供“%2”：%3</translation>
     </message>
     <message>
@@ -1036,11 +1036,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>大于 %1 MB</translation>
     </message>
     <message>
-        <source>the connection broke in the middle</source>
+        <source>the connection was lost</source>
         <translation>连接中途断开</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;, and none was given.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;, and none was entered.</source>
         <translation>打印服务器“%1”要求用户“%2”的密码，但未提供。</translation>
     </message>
     <message>
@@ -1052,11 +1052,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>打印服务器“%1”的证书不是此主机受信任的证书。受信任证书的 SHA-256 指纹是 %2，服务器证书的指纹是 %3。服务器的证书可能已被更换，同一主机上可能运行着另一台打印服务器，或者可能有人正在拦截连接。如果服务器管理员确认该指纹，请删除文件“%4”并重试。</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 must not be trusted: %3</source>
+        <source>The certificate of the print server &quot;%1&quot; with the SHA-256 fingerprint %2 cannot be trusted: %3</source>
         <translation>不允许信任打印服务器“%1”的证书（SHA-256 指纹 %2）：%3</translation>
     </message>
     <message>
-        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the one that the server&apos;s administrator names, and confirm it when you are asked, in the window or on a terminal.</source>
+        <source>The certificate of the print server &quot;%1&quot; is not trusted: %2. Its SHA-256 fingerprint is %3. Compare it with the fingerprint that the server&apos;s administrator gives you, and confirm it in the dialog or on a terminal.</source>
         <translation>打印服务器“%1”的证书不受信任：%2。其 SHA-256 指纹为 %3。请将其与服务器管理员给出的指纹比较，并在窗口或终端中询问时确认。</translation>
     </message>
     <message>
@@ -1064,7 +1064,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>用户名或密码错误。</translation>
     </message>
     <message>
-        <source>The print server &quot;%1&quot; wants a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm when you are asked, in the window or on a terminal.</source>
+        <source>The print server &quot;%1&quot; requires a password for the user &quot;%2&quot;. None was sent, because the connection is not encrypted and others could read it. Encrypt the connection (-E), or confirm the question in the dialog or on a terminal.</source>
         <translation>打印服务器“%1”需要用户“%2”的密码。由于连接未加密，其他人可能读取密码，因此未发送。请加密连接 (-E)，或在窗口或终端中询问时确认。</translation>
     </message>
     <message>
@@ -1102,7 +1102,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>已加密；请先移除密码</translation>
     </message>
     <message>
-        <source>it is encrypted in a way that is not known here</source>
+        <source>its encryption is not supported</source>
         <translation>以未知方式加密</translation>
     </message>
     <message>
@@ -1122,7 +1122,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>无法打开标准输入中的文档：%1</translation>
     </message>
     <message>
-        <source>it is a damaged image</source>
+        <source>the image is damaged</source>
         <translation>图像已损坏</translation>
     </message>
     <message>
@@ -1130,11 +1130,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>有 %1 × %2 像素，超过可打印的范围</translation>
     </message>
     <message>
-        <source>it is an image whose end is missing</source>
+        <source>the end of the image is missing</source>
         <translation>图像末尾缺失</translation>
     </message>
     <message>
-        <source>No document is named</source>
+        <source>No document is specified</source>
         <translation>未指定文档</translation>
     </message>
     <message>
@@ -1152,11 +1152,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         </translation>
     </message>
     <message>
-        <source>it is longer than %1</source>
+        <source>it is larger than %1</source>
         <translation>超过 %1</translation>
     </message>
     <message>
-        <source>it is no PDF, PNG, JPEG or SVG</source>
+        <source>it is not a PDF, PNG, JPEG or SVG file</source>
         <translation>不是 PDF、PNG、JPEG 或 SVG</translation>
     </message>
     <message>
@@ -1164,19 +1164,19 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>文件打开后已更改；请重新打开</translation>
     </message>
     <message>
-        <source>it is a damaged PDF</source>
+        <source>the PDF is damaged</source>
         <translation>PDF 已损坏</translation>
     </message>
     <message>
-        <source>it cannot be kept in &quot;%1&quot;: %2</source>
+        <source>it cannot be stored in &quot;%1&quot;: %2</source>
         <translation>无法保存到“%1”：%2</translation>
     </message>
     <message>
-        <source>it is a damaged SVG</source>
+        <source>the SVG is damaged</source>
         <translation>SVG 已损坏</translation>
     </message>
     <message>
-        <source>it refers to &quot;%1&quot;, and only what is in the SVG itself is printed</source>
+        <source>it refers to &quot;%1&quot;, but other files are not loaded</source>
         <translation>引用了“%1”，而只打印 SVG 自身包含的内容</translation>
     </message>
     <message>
@@ -1184,30 +1184,30 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>SVG 第 %1 行：%2</translation>
     </message>
     <message>
-        <source>it is an SVG of more parts than can be drawn</source>
+        <source>the SVG is too complex to be drawn</source>
         <translation>SVG 的组成部分过多，无法绘制</translation>
     </message>
     <message>
-        <source>it has a picture in it that is neither PNG nor JPEG</source>
+        <source>it contains a picture that is neither PNG nor JPEG</source>
         <translation>其中的图片既不是 PNG 也不是 JPEG</translation>
     </message>
     <message>
-        <source>it has a damaged picture in it</source>
+        <source>it contains a damaged picture</source>
         <translation>其中的图片已损坏</translation>
     </message>
     <message>
-        <source>it has pictures of more pixels in it than can be printed</source>
+        <source>its pictures have more pixels than can be printed</source>
         <translation>其中的图片像素过多，无法打印</translation>
     </message>
     <message>
-        <source>the program &quot;%1&quot;, which converts it, cannot be started</source>
+        <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>无法启动转换它的程序“%1”</translation>
     </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
     <message>
-        <source>Cannot understand the pages &quot;%1&quot;: write numbers and ranges such as 1-3, 5</source>
+        <source>Invalid page range &quot;%1&quot;: use numbers and ranges such as 1-3, 5</source>
         <translation>无法理解页面“%1”：请输入数字和范围，例如 1-3, 5</translation>
     </message>
     <message>
@@ -1215,7 +1215,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>无法打印页面“%1”：文档最后一页是 %2</translation>
     </message>
     <message>
-        <source>Nothing would be printed: no page of the document is chosen</source>
+        <source>Nothing to print: no page of the document is selected</source>
         <translation>不会打印任何内容：未选择文档中的任何页面</translation>
     </message>
 </context>
@@ -1226,7 +1226,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>无法使用插件包“%1”：%2</translation>
     </message>
     <message>
-        <source>its library is no library of panels</source>
+        <source>its library contains no panels</source>
         <translation>其库不是面板库</translation>
     </message>
     <message>
@@ -1246,7 +1246,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>没有此文件夹</translation>
     </message>
     <message>
-        <source>Cannot find the panel bundle; looked for %1</source>
+        <source>Cannot find the panel bundle; searched %1</source>
         <translation>找不到面板插件包；已查找 %1</translation>
     </message>
     <message>
@@ -1265,7 +1265,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>“%1”无法保存设置：%2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not let the job be printed with these settings.</source>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
         <translation>“%1”不允许用这些设置打印作业。</translation>
     </message>
 </context>
@@ -1276,11 +1276,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>“%1：%2”</translation>
     </message>
     <message>
-        <source>This printer cannot do %1.</source>
+        <source>This printer does not support %1.</source>
         <translation>此打印机不支持%1。</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
+        <source>%1 and %2 conflict.</source>
         <translation>%1 与 %2 不能同时使用。</translation>
     </message>
     <message>
@@ -1299,11 +1299,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB, more than any printer&apos;s description</source>
+        <source>it is larger than %1 MB, the maximum for a PPD file</source>
         <translation>大于 %1 MB，超过任何打印机描述文件</translation>
     </message>
     <message>
-        <source>it is damaged or incomplete: it cannot be unpacked to its end</source>
+        <source>it is damaged or incomplete: it cannot be decompressed</source>
         <translation>已损坏或不完整：无法完整解压</translation>
     </message>
     <message>
@@ -1408,26 +1408,26 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>顺序</translation>
     </message>
     <message>
-        <source>last page first</source>
+        <source>reverse</source>
         <translation>从最后一页开始</translation>
     </message>
     <message>
-        <source>Of these</source>
+        <source>Page set</source>
         <translation>其中</translation>
     </message>
     <message>
-        <source>the odd pages</source>
+        <source>odd pages</source>
         <translation>奇数页</translation>
     </message>
     <message>
-        <source>the even pages</source>
+        <source>even pages</source>
         <translation>偶数页</translation>
     </message>
 </context>
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not make its panel</source>
+        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
         <translation>插件包“%1”无法创建面板</translation>
     </message>
     <message>
@@ -1438,7 +1438,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>host::setup::PrinterSetup</name>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options, and is printed as &quot;%3&quot;.</source>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>
         <translation>在此纸张和其他裁切选项下，“%1”不能为“%2”，将按“%3”打印。</translation>
     </message>
     <message>
@@ -1499,15 +1499,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>同一段内的标签之间半切。</translation>
     </message>
     <message>
-        <source>Printed marks where nothing is cut through.</source>
+        <source>Cut marks are printed where there is no full cut.</source>
         <translation>未切断处打印裁切标记。</translation>
     </message>
     <message>
-        <source>The end stays in the printer; the next job goes on from it without a margin.</source>
+        <source>The end stays in the printer; the next job continues there without a margin.</source>
         <translation>末端留在打印机中；下一作业无边距接续。</translation>
     </message>
     <message>
-        <source>Blank tape before and after each label is left out.</source>
+        <source>Blank tape before and after each label is removed.</source>
         <translation>省去每张标签前后的空白。</translation>
     </message>
     <message>
@@ -1536,7 +1536,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>不是文件夹</translation>
     </message>
     <message>
-        <source>the folder cannot be made: %1</source>
+        <source>the folder cannot be created: %1</source>
         <translation>无法创建文件夹：%1</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 </translation>
     </message>
     <message>
-        <source>Prints documents on label printers, with a dialog for paper, pages and cuts that shows the label strip as it will come out. Without a display it prints at once. PDF, PNG, JPEG and SVG; &quot;-&quot; or nothing is standard input.</source>
+        <source>Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages and cuts shows the label strip as it will come out of the printer. Without a display, the documents are printed immediately. &quot;-&quot; or no document means standard input.</source>
         <translation>在标签打印机上打印文档，并提供选择纸张、页面和裁切的对话框，按实际输出显示标签带。没有显示器时直接打印。支持 PDF、PNG、JPEG 和 SVG；“-”或不指定文档表示标准输入。</translation>
     </message>
     <message>
@@ -1594,31 +1594,31 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 </translation>
     </message>
     <message>
-        <source>Ends the options: what follows are documents.</source>
+        <source>Ends the options; all following arguments are documents.</source>
         <translation>选项到此结束：其后均为文档。</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;</source>
+        <source>Unknown option &quot;%1&quot;</source>
         <translation>没有选项“%1”</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; takes no value</source>
+        <source>The option &quot;%1&quot; does not accept a value</source>
         <translation>选项“%1”不带值</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; needs a value: %2</source>
+        <source>The option &quot;%1&quot; requires a value: %2</source>
         <translation>选项“%1”需要一个值：%2</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; is about the virtual printer and needs &quot;--ppd&quot;</source>
+        <source>The option &quot;%1&quot; applies to the virtual printer and requires &quot;--ppd&quot;</source>
         <translation>选项“%1”用于虚拟打印机，需要“--ppd”</translation>
     </message>
     <message>
-        <source>-H: &quot;%1&quot; is about a job that was sent before and needs &quot;-i&quot;</source>
+        <source>-H: &quot;%1&quot; applies to a job that was already sent and requires &quot;-i&quot;</source>
         <translation>-H：“%1”用于已发送的作业，需要“-i”</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; takes no documents, and &quot;%2&quot; was named</source>
+        <source>&quot;%1&quot; does not accept documents, but &quot;%2&quot; is specified</source>
         <translation>“%1”不接受文档，却指定了“%2”</translation>
     </message>
     <message>
@@ -1626,15 +1626,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>标准输入（“-”）只能打印一次</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; does not go together with &quot;%2&quot;</source>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; cannot be combined</source>
         <translation>选项“%1”不能与“%2”一起使用</translation>
     </message>
     <message>
-        <source>The option &quot;%1&quot; goes only together with one of: %2</source>
+        <source>The option &quot;%1&quot; requires one of: %2</source>
         <translation>选项“%1”只能与下列之一一起使用：%2</translation>
     </message>
     <message>
-        <source>No document was named; name a file, or &quot;-&quot; to type one in</source>
+        <source>No document is specified; name a file, or &quot;-&quot; for standard input</source>
         <translation>未指定文档；请指定文件，或用“-”直接输入</translation>
     </message>
     <message>
@@ -1642,11 +1642,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>值为空</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2</source>
+        <source>Invalid time &quot;%1&quot;; use HH:MM or HH:MM:SS (UTC), or one of: %2</source>
         <translation>“%1”不是打印时间；请输入 HH:MM 或 HH:MM:SS (UTC)，或下列之一：%2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; it must be one of: %2</source>
+        <source>Invalid value &quot;%1&quot;; use one of: %2</source>
         <translation>“%1”不可用；必须是下列之一：%2</translation>
     </message>
     <message>
@@ -1654,27 +1654,27 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>未指定纸张</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of copies; it must be from 1 to %2</source>
+        <source>Invalid number of copies &quot;%1&quot;; use 1 to %2</source>
         <translation>“%1”不是份数；必须在 1 到 %2 之间</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no priority; it must be from 1 (last) to 100 (first)</source>
+        <source>Invalid priority &quot;%1&quot;; use 1 (last) to 100 (first)</source>
         <translation>“%1”不是优先级；必须在 1（最后）到 100（最先）之间</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no queue; write QUEUE or QUEUE/INSTANCE</source>
+        <source>Missing queue in &quot;%1&quot;; use QUEUE or QUEUE/INSTANCE</source>
         <translation>“%1”未指定队列；请输入“队列”或“队列/实例”</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no job; write its number, or QUEUE-NUMBER as it was told when it was sent</source>
+        <source>Invalid job &quot;%1&quot;; use its number, or QUEUE-NUMBER as in the request id</source>
         <translation>“%1”不是作业；请输入作业编号，或发送时显示的“队列-编号”</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; names no option; write NAME=VALUE</source>
+        <source>Missing option in &quot;%1&quot;; use NAME=VALUE</source>
         <translation>“%1”未指定选项；请输入“名称=值”</translation>
     </message>
     <message>
-        <source>The queue to print on, with a named set of options. The default queue without it.</source>
+        <source>The queue to print on, with an instance if needed. Default: the default queue.</source>
         <translation>要使用的打印队列，可带命名的选项集（实例）。省略时使用默认队列。</translation>
     </message>
     <message>
@@ -1682,7 +1682,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>打印服务器。</translation>
     </message>
     <message>
-        <source>The user for whom is printed.</source>
+        <source>The user name for the print server.</source>
         <translation>以该用户的身份打印。</translation>
     </message>
     <message>
@@ -1690,7 +1690,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>加密与打印服务器的连接。</translation>
     </message>
     <message>
-        <source>The paper&apos;s name in the PPD, or Custom.WIDTHxLENGTHmm where the printer takes free sizes.</source>
+        <source>The name of the paper in the PPD, or Custom.WIDTHxLENGTHmm if the printer supports custom sizes.</source>
         <translation>PPD 中的纸张名称；打印机支持自定义尺寸时，也可用 Custom.宽x长mm。</translation>
     </message>
     <message>
@@ -1702,7 +1702,7 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>要打印的页面，例如 1-3,5,8-。</translation>
     </message>
     <message>
-        <source>An option of the PPD or of the print server; several in one, with blanks between them, or one by one.</source>
+        <source>An option of the PPD or of the print server. Several options are separated by blanks or given one by one.</source>
         <translation>PPD 或打印服务器的选项；可一次给出多个并以空格分隔，也可逐个给出。</translation>
     </message>
     <message>
@@ -1714,63 +1714,63 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>作业的优先级，从 1 到 100（最先）。</translation>
     </message>
     <message>
-        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; for a job that was sent before also resume and restart.</source>
+        <source>When to print: hold, immediate, HH:MM (UTC), night, weekend and others; resume and restart for a job that was already sent.</source>
         <translation>打印时间：hold、immediate、HH:MM (UTC)、night、weekend 等；已发送的作业还可用 resume 和 restart。</translation>
     </message>
     <message>
-        <source>Sends a mail when the job is over; -s is part of it.</source>
+        <source>Sends a mail when the job is finished; implies -s.</source>
         <translation>作业结束时发送邮件；包含 -s。</translation>
     </message>
     <message>
-        <source>Does not tell the job&apos;s number.</source>
+        <source>Does not print the request id.</source>
         <translation>不显示作业编号。</translation>
     </message>
     <message>
-        <source>Accepted for lp&apos;s sake: documents are always copied.</source>
+        <source>Ignored, for compatibility with lp: documents are always copied.</source>
         <translation>为兼容 lp 而接受：文档总会被复制。</translation>
     </message>
     <message>
-        <source>Changes a job that was sent before.</source>
+        <source>Changes a job that was already sent.</source>
         <translation>更改已发送的作业。</translation>
     </message>
     <message>
-        <source>Prints at once, with the settings that the dialog would open with.</source>
+        <source>Prints without the dialog, with the settings that it would show.</source>
         <translation>按对话框打开时的设置直接打印。</translation>
     </message>
     <message>
-        <source>Lists the queues and how they are.</source>
+        <source>Lists the queues and their states.</source>
         <translation>列出队列及其状态。</translation>
     </message>
     <message>
-        <source>Tells the settings that the dialog would open with, and prints nothing.</source>
+        <source>Writes the settings that the dialog would show, without printing.</source>
         <translation>显示对话框打开时的设置，不打印。</translation>
     </message>
     <message>
-        <source>Does everything but sending, and tells what would be sent.</source>
+        <source>Prepares the job and writes what would be sent, without sending it.</source>
         <translation>执行除发送外的所有步骤，并显示将发送的内容。</translation>
     </message>
     <message>
-        <source>Tells it as JSON.</source>
+        <source>Writes the output as JSON.</source>
         <translation>以 JSON 格式显示。</translation>
     </message>
     <message>
-        <source>Sends even what the printer does not have, and what conflicts.</source>
+        <source>Sends the job even with conflicts, or with choices that the printer does not have.</source>
         <translation>即使打印机没有相应项目或选项冲突，也照样发送。</translation>
     </message>
     <message>
-        <source>Saves a picture of the dialog, as it opens, in a PNG file.</source>
+        <source>Saves a screenshot of the dialog as a PNG file.</source>
         <translation>将对话框打开时的图像保存为 PNG 文件。</translation>
     </message>
     <message>
-        <source>The bundle with the cut-options panel, or the folder it is in.</source>
+        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
         <translation>含裁切选项面板的插件包，或其所在的文件夹。</translation>
     </message>
     <message>
-        <source>A PPD file, plain or gzip: prints on a virtual printer instead of a queue.</source>
+        <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>PPD 文件（未压缩或 gzip）：在虚拟打印机上打印，而不使用队列。</translation>
     </message>
     <message>
-        <source>The folder for the virtual printer&apos;s strip.pdf and job.json, made when it is not there. A new folder among the user&apos;s data without it.</source>
+        <source>The folder for strip.pdf and job.json of the virtual printer; created if it does not exist. Default: a new folder among the user&apos;s data.</source>
         <translation>虚拟打印机的 strip.pdf 和 job.json 所在的文件夹，不存在时会创建。省略时使用用户数据中的新文件夹。</translation>
     </message>
     <message>
@@ -1782,15 +1782,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>显示版本。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not possible; documents are sent as PDF</source>
+        <source>&quot;%1&quot; is not supported; documents are sent as PDF</source>
         <translation>“%1”不可用；文档以 PDF 格式发送</translation>
     </message>
     <message>
         <source>Exit status:
-  0  printed, or told what was asked for
+  0  success
   1  something could not be opened, used, sent or written; nothing was printed,
-     unless standard error says that the job was sent all the same
-  2  the command line was not understood
+     unless standard error states that the job was sent
+  2  invalid command line
   3  printed, but without the cut-options panel
   4  canceled in the dialog
   129, 130, 143  stopped by a signal before the job was sent
@@ -1806,18 +1806,18 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 </translation>
     </message>
     <message>
-        <source>Cancels a job that a program left on a print server when it was stopped.</source>
+        <source>Cancels a job that an interrupted program left on a print server.</source>
         <translation>撤回被中止的程序留在打印服务器上的作业。</translation>
     </message>
     <message>
-        <source>Prints what the print server has of such a job, perhaps not all documents.</source>
+        <source>Releases such a job; it may be incomplete.</source>
         <translation>打印服务器上已有的此类作业内容，可能不是全部文档。</translation>
     </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>
     <message>
-        <source>The job was sent all the same, as %1-%2.</source>
+        <source>The job was sent nevertheless, as %1-%2.</source>
         <translation>作业仍已发送，编号为 %1-%2。</translation>
     </message>
 </context>
@@ -1835,15 +1835,15 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>programs::kvprint::HeadlessRun</name>
     <message>
-        <source>The print server &quot;%1&quot; has no destination to print on</source>
+        <source>The print server &quot;%1&quot; has no destinations</source>
         <translation>打印服务器“%1”没有可用的打印目标</translation>
     </message>
     <message>
-        <source>This would help: %1</source>
+        <source>To resolve the conflict: %1</source>
         <translation>解决办法：%1</translation>
     </message>
     <message>
-        <source>There is no default destination on the print server &quot;%1&quot;; name one with &quot;-d&quot;</source>
+        <source>The print server &quot;%1&quot; has no default destination; specify one with &quot;-d&quot;</source>
         <translation>打印服务器“%1”没有默认打印目标；请用“-d”指定</translation>
     </message>
     <message>
@@ -1854,19 +1854,19 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
 <context>
     <name>programs::kvprint::LeftJobsRun</name>
     <message>
-        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; prints what the server has of it.</source>
+        <source>&quot;kvprint --cancel-left %1&quot; cancels it, &quot;kvprint --release-left %1&quot; releases it.</source>
         <translation>“kvprint --cancel-left %1”撤回它，“kvprint --release-left %1”打印服务器上已有的内容。</translation>
     </message>
     <message>
-        <source>Jobs &quot;%1&quot; are left on several print servers; name one of these: %2</source>
+        <source>Jobs &quot;%1&quot; are left on several print servers; specify one of: %2</source>
         <translation>多个打印服务器上留有作业“%1”；请指定其中之一：%2</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; none is left</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are no such jobs</source>
         <translation>没有被中止的程序留下的作业“%1”；没有留下任何作业</translation>
     </message>
     <message>
-        <source>There is no job &quot;%1&quot; that was left by a program that was stopped; these are left: %2</source>
+        <source>No interrupted program left a job &quot;%1&quot;; there are these: %2</source>
         <translation>没有被中止的程序留下的作业“%1”；留下的作业有：%2</translation>
     </message>
 </context>
@@ -1877,11 +1877,11 @@ Trust it only if the server&apos;s administrator names the same fingerprint. It 
         <translation>PPD 文件“%1”没有纸张“%2”；可用：%3</translation>
     </message>
     <message>
-        <source>The PPD file &quot;%1&quot; names no paper to print on</source>
+        <source>The PPD file &quot;%1&quot; defines no paper</source>
         <translation>PPD 文件“%1”未列出任何纸张</translation>
     </message>
     <message>
-        <source>The label strip is in:</source>
+        <source>The label strip was written to:</source>
         <translation>标签带保存在：</translation>
     </message>
 </context>

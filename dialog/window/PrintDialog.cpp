@@ -236,7 +236,7 @@ void PrintDialog::refreshStrip()
     m_stripPreview->setVisible(m_ticket->paper.has_value());
     if (!m_ticket->paper) {
         m_planText->setMessage(
-            tr("The printer has no description, so its papers and cuts are not known here."));
+            tr("The printer has no description (PPD); its papers and cuts are not known."));
         return;
     }
     if (!m_ticket->cuts.removeBlank)

@@ -22,8 +22,8 @@ QString waitingText(const host::QueueSession *session)
         return WaitingText::tr("The printer's description is not known.");
     if (!session || session->isSettled())
         return session && session->chosen() ? WaitingText::tr("Waiting for the printer's description…")
-                                            : WaitingText::tr("No printer is chosen.");
-    return WaitingText::tr("Waiting for the print server's answer…");
+                                            : WaitingText::tr("No printer is selected.");
+    return WaitingText::tr("Waiting for the print server\u2026");
 }
 
 } // namespace window

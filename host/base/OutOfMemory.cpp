@@ -28,7 +28,7 @@ constexpr std::array texts = {
     QT_TRANSLATE_NOOP("host::base::OutOfMemory", "Out of memory; nothing was printed."),
     QT_TRANSLATE_NOOP("host::base::OutOfMemory",
                       "Out of memory; the job may be incomplete, or left on the print server."),
-    QT_TRANSLATE_NOOP("host::base::OutOfMemory", "Out of memory. The job was sent all the same."),
+    QT_TRANSLATE_NOOP("host::base::OutOfMemory", "Out of memory. The job was sent nevertheless."),
 };
 
 /// The texts that end() writes: in English, or in the language of the program after translate().

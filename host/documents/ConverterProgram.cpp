@@ -54,7 +54,7 @@ ConverterProgram::End ConverterProgram::run(const QStringList &arguments, const 
 DocumentErrorReason ConverterProgram::missing() const
 {
     return {DocumentErrorKind::Unreadable,
-            ConverterProgramText::tr("the program \"%1\", which converts it, cannot be started").arg(m_path)};
+            ConverterProgramText::tr("the converter \"%1\" cannot be started").arg(m_path)};
 }
 
 Result<void, DocumentErrorReason> storePdf(QByteArrayView bytes, QIODevice *pdf)

@@ -35,7 +35,7 @@ struct PdfImage {
 
 DocumentErrorReason damaged()
 {
-    return {DocumentErrorKind::Damaged, ImagePdfText::tr("it is a damaged image")};
+    return {DocumentErrorKind::Damaged, ImagePdfText::tr("the image is damaged")};
 }
 
 DocumentErrorReason tooManyPixels(QSize size)
@@ -115,7 +115,7 @@ public:
     {
         if (!m_facts.complete)
             return DocumentErrorReason{DocumentErrorKind::Damaged,
-                                       ImagePdfText::tr("it is an image whose end is missing")};
+                                       ImagePdfText::tr("the end of the image is missing")};
         m_size = m_reader.size();
         if (m_size.isEmpty())
             return damaged();

@@ -29,7 +29,7 @@ LabelDocument::Source::Source(Source &&) noexcept = default;
 Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const QStringList &names)
 {
     if (names.isEmpty())
-        return DocumentError{DocumentErrorKind::Missing, LabelDocumentText::tr("No document is named")};
+        return DocumentError{DocumentErrorKind::Missing, LabelDocumentText::tr("No document is specified")};
     if (names.count(standardInputName.toString()) > 1)
         return documentError(
             {DocumentErrorKind::InputTaken, LabelDocumentText::tr("it can be read only once")},

@@ -23,7 +23,7 @@ Result<QByteArray, DocumentErrorReason> readWhole(QFile &file, qint64 most)
     if (file.size() > most)
         return DocumentErrorReason{
             DocumentErrorKind::TooLarge,
-            OpenedDocumentText::tr("it is longer than %1").arg(QLocale().formattedDataSize(most))};
+            OpenedDocumentText::tr("it is larger than %1").arg(QLocale().formattedDataSize(most))};
     // Limited to the size of the file: reading allocates as much memory as is requested.
     QByteArray content = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
@@ -63,7 +63,7 @@ Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> OpenedDocument::ope
     const std::optional<DocumentKind> kind = documentKind(file.value().file->peek(documentHeadSize));
     if (!kind)
         return DocumentErrorReason{DocumentErrorKind::UnknownKind,
-                                   OpenedDocumentText::tr("it is no PDF, PNG, JPEG or SVG")};
+                                   OpenedDocumentText::tr("it is not a PDF, PNG, JPEG or SVG file")};
     if (*kind != DocumentKind::Pdf) {
         auto pdf = makeTemporaryFile();
         if (!pdf)

@@ -25,9 +25,9 @@ Result<void, DocumentErrorReason> checkLoaded(QPdfDocument::Error error)
                                    PdfPagesText::tr("it is encrypted; remove its password first")};
     case QPdfDocument::Error::UnsupportedSecurityScheme:
         return DocumentErrorReason{DocumentErrorKind::Encrypted,
-                                   PdfPagesText::tr("it is encrypted in a way that is not known here")};
+                                   PdfPagesText::tr("its encryption is not supported")};
     default:
-        return DocumentErrorReason{DocumentErrorKind::Damaged, PdfPagesText::tr("it is a damaged PDF")};
+        return DocumentErrorReason{DocumentErrorKind::Damaged, PdfPagesText::tr("the PDF is damaged")};
     }
 }
 

@@ -42,8 +42,7 @@ std::optional<Range> parseRange(const QString &text, int pageCount)
 PageRangeError notUnderstood(const QString &text)
 {
     return {PageRangeErrorKind::NotUnderstood,
-            PrintOrderText::tr("Cannot understand the pages \"%1\": write numbers and ranges such as 1-3, 5")
-                .arg(text)};
+            PrintOrderText::tr("Invalid page range \"%1\": use numbers and ranges such as 1-3, 5").arg(text)};
 }
 
 QStringList rangeTexts(const QString &text)
@@ -136,9 +135,8 @@ parsePageRanges(const QString &text, const std::vector<int> &pageCounts, PageSet
         first += count;
     }
     if (pages.empty() && first > 0)
-        return PageRangeError{
-            PageRangeErrorKind::NoPage,
-            PrintOrderText::tr("Nothing would be printed: no page of the document is chosen")};
+        return PageRangeError{PageRangeErrorKind::NoPage,
+                              PrintOrderText::tr("Nothing to print: no page of the document is selected")};
     return pages;
 }
 

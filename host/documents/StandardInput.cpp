@@ -49,7 +49,7 @@ DocumentErrorReason notStored(const platform::TemporaryFile &file)
 {
     return {
         DocumentErrorKind::NotStored,
-        StandardInputText::tr("it cannot be kept in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
+        StandardInputText::tr("it cannot be stored in \"%1\": %2").arg(QDir::tempPath(), file.errorString())};
 }
 
 Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> readStandardInput(qint64 limit)
@@ -69,7 +69,7 @@ Result<std::unique_ptr<platform::TemporaryFile>, DocumentErrorReason> readStanda
         if (taken > limit)
             return DocumentErrorReason{
                 DocumentErrorKind::TooLarge,
-                StandardInputText::tr("it is longer than %1").arg(QLocale().formattedDataSize(limit))};
+                StandardInputText::tr("it is larger than %1").arg(QLocale().formattedDataSize(limit))};
         if (file.value()->write(buffer.data(), length) != length)
             return notStored(*file.value());
     }

@@ -20,7 +20,7 @@ constexpr double pointsPerPixel = 72.0 / 96.0;
 
 DocumentErrorReason damagedSvg()
 {
-    return {DocumentErrorKind::Damaged, SvgPdfText::tr("it is a damaged SVG")};
+    return {DocumentErrorKind::Damaged, SvgPdfText::tr("the SVG is damaged")};
 }
 
 /// Writes what the converter has written: a line with the size of the page, in points, and the PDF.

@@ -49,9 +49,8 @@ DocumentErrorReason needsOther(QString other)
     constexpr qsizetype shown = 100;
     if (other.size() > shown)
         other = other.first(shown) + u'…';
-    return {
-        DocumentErrorKind::NeedsOthers,
-        SvgSourceText::tr("it refers to \"%1\", and only what is in the SVG itself is printed").arg(other)};
+    return {DocumentErrorKind::NeedsOthers,
+            SvgSourceText::tr("it refers to \"%1\", but other files are not loaded").arg(other)};
 }
 
 class SvgReader {
@@ -72,7 +71,7 @@ public:
             return m_error;
         if (!m_rootSeen)
             return DocumentErrorReason{DocumentErrorKind::UnknownKind,
-                                       SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
+                                       SvgSourceText::tr("it is not a PDF, PNG, JPEG or SVG file")};
         if (m_reader.hasError())
             return DocumentErrorReason{DocumentErrorKind::Damaged, SvgSourceText::tr("line %1 of the SVG: %2")
                                                                        .arg(m_reader.lineNumber())
@@ -126,7 +125,7 @@ private:
         const QStringView name = m_reader.name();
         if (!m_rootSeen && name != u"svg") {
             m_error = DocumentErrorReason{DocumentErrorKind::UnknownKind,
-                                          SvgSourceText::tr("it is no PDF, PNG, JPEG or SVG")};
+                                          SvgSourceText::tr("it is not a PDF, PNG, JPEG or SVG file")};
             return;
         }
         if (++m_level > SvgSource::maxLevels || ++m_elements > SvgSource::maxElements) {
@@ -185,7 +184,7 @@ private:
         if (kind != DocumentKind::Png && kind != DocumentKind::Jpeg) {
             m_error =
                 DocumentErrorReason{DocumentErrorKind::UnknownKind,
-                                    SvgSourceText::tr("it has a picture in it that is neither PNG nor JPEG")};
+                                    SvgSourceText::tr("it contains a picture that is neither PNG nor JPEG")};
             return;
         }
         QBuffer buffer;
@@ -195,11 +194,11 @@ private:
         m_picturePixels += static_cast<qint64>(size.width()) * size.height();
         if (!size.isValid())
             m_error = DocumentErrorReason{DocumentErrorKind::Damaged,
-                                          SvgSourceText::tr("it has a damaged picture in it")};
+                                          SvgSourceText::tr("it contains a damaged picture")};
         else if (m_picturePixels > SvgSource::maxPicturePixels)
-            m_error = DocumentErrorReason{
-                DocumentErrorKind::TooLarge,
-                SvgSourceText::tr("it has pictures of more pixels in it than can be printed")};
+            m_error =
+                DocumentErrorReason{DocumentErrorKind::TooLarge,
+                                    SvgSourceText::tr("its pictures have more pixels than can be printed")};
     }
 
     void readRoot()
@@ -228,7 +227,7 @@ private:
 
 DocumentErrorReason SvgSource::tooManyParts()
 {
-    return {DocumentErrorKind::TooLarge, SvgSourceText::tr("it is an SVG of more parts than can be drawn")};
+    return {DocumentErrorKind::TooLarge, SvgSourceText::tr("the SVG is too complex to be drawn")};
 }
 
 Result<SvgSource, DocumentErrorReason> SvgSource::read(const QByteArray &svg)

@@ -42,7 +42,7 @@ std::optional<BundleError> checkInterface(const QString &folder, const QJsonObje
     const QString stem = QStringLiteral(PDEPlugInFactory_iid_stem);
     if (!interface.startsWith(stem))
         return failure(BundleErrorKind::NotABundle, folder,
-                       PanelBundleText::tr("its library is no library of panels"));
+                       PanelBundleText::tr("its library contains no panels"));
     if (interface != QStringLiteral(PDEPlugInFactory_iid)) {
         const QString own = QStringLiteral(PDEPlugInFactory_iid).mid(stem.size());
         return failure(
@@ -88,7 +88,7 @@ Result<QString, BundleError> PanelBundle::find(const std::optional<QString> &fol
     if (folder)
         return failure(BundleErrorKind::Missing, *folder, PanelBundleText::tr("there is no such folder"));
     return BundleError{BundleErrorKind::Missing,
-                       PanelBundleText::tr("Cannot find the panel bundle; looked for %1")
+                       PanelBundleText::tr("Cannot find the panel bundle; searched %1")
                            .arg(candidates.join(QStringLiteral(", ")))};
 }
 

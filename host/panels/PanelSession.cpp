@@ -53,9 +53,8 @@ PanelSettings PanelSession::settings() const
         return settings;
     const PDEChoices completed = m_host->collect([&] {
         if (!panel->shouldPrint())
-            settings.error =
-                PanelSessionText::tr("\"%1\" does not let the job be printed with these settings.")
-                    .arg(panel->panelName());
+            settings.error = PanelSessionText::tr("\"%1\" does not allow printing with these settings.")
+                                 .arg(panel->panelName());
     });
     // shouldPrint() adds the default of each option without a mark. What saving has written takes precedence:
     // outside of collect() it would be marked by now.

@@ -140,9 +140,9 @@ QString Conflict::sentence() const
     for (const ConflictSide &side : sides)
         texts.append(quoted(side));
     if (texts.size() == 1)
-        return ConstraintsText::tr("This printer cannot do %1.").arg(texts.first());
+        return ConstraintsText::tr("This printer does not support %1.").arg(texts.first());
     const QString last = texts.takeLast();
-    return ConstraintsText::tr("%1 and %2 exclude each other.").arg(texts.join(QStringLiteral(", ")), last);
+    return ConstraintsText::tr("%1 and %2 conflict.").arg(texts.join(QStringLiteral(", ")), last);
 }
 
 QHash<QString, QStringList> sentencesByKeyword(const std::vector<Conflict> &conflicts)

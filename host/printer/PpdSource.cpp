@@ -38,7 +38,7 @@ PpdError systemFailure(const QString &path, int error)
 
 QString tooLarge(qint64 limit)
 {
-    return PpdSourceText::tr("it is larger than %1 MB, more than any printer's description")
+    return PpdSourceText::tr("it is larger than %1 MB, the maximum for a PPD file")
         .arg(limit / (qint64{1024} * 1024));
 }
 
@@ -55,7 +55,7 @@ QString tooMany(const PpdCounts::Excess &excess)
 PpdError damaged(const QString &path)
 {
     return failure(PpdErrorKind::Truncated, path,
-                   PpdSourceText::tr("it is damaged or incomplete: it cannot be unpacked to its end"));
+                   PpdSourceText::tr("it is damaged or incomplete: it cannot be decompressed"));
 }
 
 /// Returns the length of the uncompressed text that a gzip file states in its last four bytes (RFC 1952);

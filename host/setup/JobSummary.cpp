@@ -33,12 +33,12 @@ SummarySection printingSection(const Ticket &ticket)
                                ranges.isEmpty() ? JobSummaryText::tr("all") : ranges);
     const PageSet set = ticket.settings.pageSet.value_or(PageSet::All);
     if (set != PageSet::All)
-        section.lines.emplace_back(JobSummaryText::tr("Of these"),
-                                   set == PageSet::Odd ? JobSummaryText::tr("the odd pages")
-                                                       : JobSummaryText::tr("the even pages"));
+        section.lines.emplace_back(JobSummaryText::tr("Page set"), set == PageSet::Odd
+                                                                       ? JobSummaryText::tr("odd pages")
+                                                                       : JobSummaryText::tr("even pages"));
     section.lines.emplace_back(JobSummaryText::tr("Copies"), QLocale().toString(ticket.pages.copies));
     if (ticket.pages.order == PageOrder::Reverse)
-        section.lines.emplace_back(JobSummaryText::tr("Order"), JobSummaryText::tr("last page first"));
+        section.lines.emplace_back(JobSummaryText::tr("Order"), JobSummaryText::tr("reverse"));
     return section;
 }
 

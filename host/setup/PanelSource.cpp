@@ -39,7 +39,7 @@ Result<ClaimedPanels, PanelError> PanelSource::panelsFor(const std::shared_ptr<D
     if (!panel)
         return PanelError{
             PanelErrorKind::NoPanel,
-            PanelSourceText::tr("The panel bundle \"%1\" could not make its panel").arg(found.value())};
+            PanelSourceText::tr("The panel bundle \"%1\" could not create its panel").arg(found.value())};
     if (panels.keywords.isEmpty())
         return ClaimedPanels();
     if (!panel->panelView())

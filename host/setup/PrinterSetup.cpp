@@ -245,8 +245,8 @@ QStringList PrinterSetup::replacedChoices() const
 
 QString PrinterSetup::replacedSentence(const QString &option, const QString &choice, const QString &saved)
 {
-    return PrinterSetupText::tr("\"%1\" cannot be \"%2\" with this paper and the other cut options, and is "
-                                "printed as \"%3\".")
+    return PrinterSetupText::tr(
+               "\"%1\" cannot be \"%2\" with this paper and the other cut options; \"%3\" is used instead.")
         .arg(option, choice, saved);
 }
 

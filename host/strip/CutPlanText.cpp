@@ -104,12 +104,12 @@ QStringList cutPlanDescription(const CutPlan &plan)
     if (any(plan, &LabelEnd::halfCut))
         sentences.append(CutPlanWordsText::tr("Half cut between the labels of a piece."));
     if (any(plan, &LabelEnd::cutMark))
-        sentences.append(CutPlanWordsText::tr("Printed marks where nothing is cut through."));
+        sentences.append(CutPlanWordsText::tr("Cut marks are printed where there is no full cut."));
     if (plan.isEndHeld())
         sentences.append(CutPlanWordsText::tr(
-            "The end stays in the printer; the next job goes on from it without a margin."));
+            "The end stays in the printer; the next job continues there without a margin."));
     if (plan.settings().removeBlank)
-        sentences.append(CutPlanWordsText::tr("Blank tape before and after each label is left out."));
+        sentences.append(CutPlanWordsText::tr("Blank tape before and after each label is removed."));
     if (plan.settings().mirror)
         sentences.append(CutPlanWordsText::tr("The labels are mirrored."));
     return sentences;

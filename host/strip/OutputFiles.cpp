@@ -49,7 +49,7 @@ void OutputFiles::createFolder()
     m_createdFolder = missing;
     if (const std::optional<QString> reason = platform::createPrivateFolders(m_folder))
         fail(OutputErrorKind::NoFolder, m_folder,
-             OutputFilesText::tr("the folder cannot be made: %1").arg(*reason));
+             OutputFilesText::tr("the folder cannot be created: %1").arg(*reason));
 }
 
 void OutputFiles::fail(OutputErrorKind kind, const QString &path, const QString &reason)

@@ -74,7 +74,8 @@ bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup
     for (const host::Conflict &conflict : ticket.conflicts)
         m_console.printError(conflict.sentence());
     if (ticket.remedy)
-        m_console.printError(CommandChecksText::tr("This would help: %1").arg(ticket.remedy->sentence()));
+        m_console.printError(
+            CommandChecksText::tr("To resolve the conflict: %1").arg(ticket.remedy->sentence()));
     // A summary of conflicting settings reports the conflicts, as the dialog does.
     return ticket.conflicts.empty() || m_command.force || m_command.task == Task::Summary;
 }

@@ -58,24 +58,21 @@ QString commandHelp()
             "       kvprint --list | --summary | --dry-run [OPTION]... [--] [DOCUMENT]...\n") +
         u'\n' +
         wrapped(CommandHelpText::tr(
-                    "Prints documents on label printers, with a dialog for paper, pages and cuts that shows "
-                    "the label strip as it will come out. Without a display it prints at once. PDF, "
-                    "PNG, JPEG and SVG; \"-\" or nothing is standard input."),
+                    "Prints documents (PDF, PNG, JPEG and SVG) on label printers. A dialog for paper, pages "
+                    "and cuts shows the label strip as it will come out of the printer. Without a display, "
+                    "the documents are printed immediately. \"-\" or no document means standard input."),
                 lineWidth, 0) +
         QStringLiteral("\n\n") + CommandHelpText::tr("Options:\n");
     for (const CommandOption &option : commandOptions())
         help += lines(option);
-    help += lines(QStringLiteral("--"), CommandHelpText::tr("Ends the options: what follows are documents."));
+    help += lines(QStringLiteral("--"),
+                  CommandHelpText::tr("Ends the options; all following arguments are documents."));
     return help + u'\n' +
            CommandHelpText::tr(
-               "Exit status:\n"
-               "  0  printed, or told what was asked for\n"
-               "  1  something could not be opened, used, sent or written; nothing was printed,\n"
-               "     unless standard error says that the job was sent all the same\n"
-               "  2  the command line was not understood\n"
-               "  3  printed, but without the cut-options panel\n"
-               "  4  canceled in the dialog\n"
-               "  129, 130, 143  stopped by a signal before the job was sent\n");
+               "Exit status:\n  0  success\n  1  something could not be opened, used, sent or written; "
+               "nothing was printed,\n     unless standard error states that the job was sent\n  2  invalid "
+               "command line\n  3  printed, but without the cut-options panel\n  4  canceled in the dialog\n "
+               " 129, 130, 143  stopped by a signal before the job was sent\n");
 }
 
 } // namespace kvprint

@@ -65,11 +65,10 @@ private:
         const QString name = word.mid(2, equals < 0 ? -1 : equals - 2);
         const CommandOption *const option = findOption(QStringView(name));
         if (!option)
-            m_error =
-                wrong(CommandParserText::tr("There is no option \"%1\"").arg(QStringLiteral("--") + name));
+            m_error = wrong(CommandParserText::tr("Unknown option \"%1\"").arg(QStringLiteral("--") + name));
         else if (!option->value && equals >= 0)
-            m_error =
-                wrong(CommandParserText::tr("The option \"%1\" takes no value").arg(option->spelling()));
+            m_error = wrong(
+                CommandParserText::tr("The option \"%1\" does not accept a value").arg(option->spelling()));
         else
             use(*option, equals < 0 ? std::nullopt : std::optional(word.mid(equals + 1)));
     }
@@ -79,8 +78,8 @@ private:
         for (qsizetype i = 1; i < word.size() && !m_error; ++i) {
             const CommandOption *const option = findOption(word[i]);
             if (!option) {
-                m_error = wrong(CommandParserText::tr("There is no option \"%1\"")
-                                    .arg(QStringLiteral("-") + word.mid(i, 1)));
+                m_error = wrong(
+                    CommandParserText::tr("Unknown option \"%1\"").arg(QStringLiteral("-") + word.mid(i, 1)));
                 return;
             }
             const bool takesRest = option->value && i + 1 < word.size();
@@ -99,7 +98,7 @@ private:
         }
         if (option.value && !value) {
             if (m_words.isEmpty()) {
-                m_error = wrong(CommandParserText::tr("The option \"%1\" needs a value: %2")
+                m_error = wrong(CommandParserText::tr("The option \"%1\" requires a value: %2")
                                     .arg(option.spelling(), QString::fromLatin1(option.value)));
                 return;
             }
@@ -127,12 +126,12 @@ private:
                 return notTogether(*option, QStringLiteral("--ppd"));
             if (option->printer == CommandOption::Printer::Virtual && !m_command.ppd)
                 return wrong(CommandParserText::tr(
-                                 "The option \"%1\" is about the virtual printer and needs \"--ppd\"")
+                                 "The option \"%1\" applies to the virtual printer and requires \"--ppd\"")
                                  .arg(option->spelling()));
         }
         if (m_command.settings.hold && holdNeedsJob(*m_command.settings.hold) && !m_command.jobToChange)
             return wrong(
-                CommandParserText::tr("-H: \"%1\" is about a job that was sent before and needs \"-i\"")
+                CommandParserText::tr("-H: \"%1\" applies to a job that was already sent and requires \"-i\"")
                     .arg(*m_command.settings.hold));
         return checkDocuments();
     }
@@ -140,7 +139,7 @@ private:
     std::optional<UsageError> checkDocuments() const
     {
         if (!takesDocuments(m_command.task) && !m_command.documents.isEmpty())
-            return wrong(CommandParserText::tr("\"%1\" takes no documents, and \"%2\" was named")
+            return wrong(CommandParserText::tr("\"%1\" does not accept documents, but \"%2\" is specified")
                              .arg(taskSpelling(), m_command.documents.constFirst()));
         if (m_command.documents.count(QStringLiteral("-")) > 1)
             return wrong(CommandParserText::tr("Standard input (\"-\") can be printed only once"));
@@ -159,7 +158,7 @@ private:
 
     static UsageError notTogether(const CommandOption &option, const QString &other)
     {
-        return wrong(CommandParserText::tr("The option \"%1\" does not go together with \"%2\"")
+        return wrong(CommandParserText::tr("The options \"%1\" and \"%2\" cannot be combined")
                          .arg(option.spelling(), other));
     }
 
@@ -174,7 +173,7 @@ private:
                     tasks.append(each.spelling());
             }
         }
-        return wrong(CommandParserText::tr("The option \"%1\" goes only together with one of: %2")
+        return wrong(CommandParserText::tr("The option \"%1\" requires one of: %2")
                          .arg(option.spelling(), tasks.join(QStringLiteral(", "))));
     }
 
@@ -195,7 +194,7 @@ host::Result<void, UsageError> checkInput(const CommandLine &command, bool input
 {
     if (!takesDocuments(command.task) || !command.documents.isEmpty() || !inputIsTerminal)
         return {};
-    return wrong(CommandParserText::tr("No document was named; name a file, or \"-\" to type one in"));
+    return wrong(CommandParserText::tr("No document is specified; name a file, or \"-\" for standard input"));
 }
 
 } // namespace kvprint

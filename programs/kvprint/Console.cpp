@@ -25,7 +25,7 @@ void Console::printRequestId(const QString &queue, int jobId, qsizetype document
     const QString line =
         QStringLiteral("request id is %1-%2 (%3 file(s))\n").arg(queue).arg(jobId).arg(documents);
     if (!out(line))
-        printError(ConsoleText::tr("The job was sent all the same, as %1-%2.").arg(queue).arg(jobId));
+        printError(ConsoleText::tr("The job was sent nevertheless, as %1-%2.").arg(queue).arg(jobId));
 }
 
 } // namespace kvprint

@@ -87,18 +87,16 @@ host::PrinterSetup *HeadlessRun::waitForSetup(host::QueueSession &session, host:
     if (m_signals.signal())
         return nullptr;
     if (!failure && !session.chosen())
-        failure =
-            host::CupsError{host::CupsErrorKind::NotFound,
-                            HeadlessRunText::tr("The print server \"%1\" has no destination to print on")
-                                .arg(m_server.displayName())};
+        failure = host::CupsError{
+            host::CupsErrorKind::NotFound,
+            HeadlessRunText::tr("The print server \"%1\" has no destinations").arg(m_server.displayName())};
     // The dialog would show which other queue it chooses; without it, the user would not see where labels go.
     const bool isAnyQueue = !m_command.destination && !host::LpOptions::read().defaultName() &&
                             !session.destinations().defaultDestination();
     if (!failure && isAnyQueue)
         failure = host::CupsError{
             host::CupsErrorKind::NotFound,
-            HeadlessRunText::tr("There is no default destination on the print server \"%1\"; name one "
-                                "with \"-d\"")
+            HeadlessRunText::tr("The print server \"%1\" has no default destination; specify one with \"-d\"")
                 .arg(m_server.displayName())};
     if (failure)
         m_console.printError(failure->message);

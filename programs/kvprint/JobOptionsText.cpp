@@ -55,7 +55,7 @@ ErrorMessage readHold(CommandLine &command, const QString &value, bool isLetter)
             accepted.append(QString::fromLatin1(each.word));
     }
     if (!accepted.contains(value) && !isTime(value))
-        return JobWordsText::tr("\"%1\" is no time to print at; write HH:MM or HH:MM:SS (UTC), or one of: %2")
+        return JobWordsText::tr("Invalid time \"%1\"; use HH:MM or HH:MM:SS (UTC), or one of: %2")
             .arg(value, accepted.join(QStringLiteral(", ")));
     command.settings.hold = value;
     // Before all other jobs; a later priority takes precedence.
@@ -71,7 +71,7 @@ ErrorMessage parseHoldOption(CommandLine &command, const QString &value)
 
 ErrorMessage notOneOf(const QString &value, const QString &accepted)
 {
-    return JobWordsText::tr("\"%1\" is not possible; it must be one of: %2").arg(value, accepted);
+    return JobWordsText::tr("Invalid value \"%1\"; use one of: %2").arg(value, accepted);
 }
 
 /// The keywords of an option and their values.
@@ -165,7 +165,7 @@ ErrorMessage rejectFormat(CommandLine &, const QString &value)
 {
     if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
         return std::nullopt;
-    return JobWordsText::tr("\"%1\" is not possible; documents are sent as PDF").arg(value);
+    return JobWordsText::tr("\"%1\" is not supported; documents are sent as PDF").arg(value);
 }
 
 /// Options with the same meaning as a letter or a name of the command line.
@@ -221,7 +221,7 @@ ErrorMessage parseCopies(CommandLine &command, const QString &value)
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
     if (!isNumber || copies < 1 || copies > host::maxCopies)
-        return JobWordsText::tr("\"%1\" is no number of copies; it must be from 1 to %2")
+        return JobWordsText::tr("Invalid number of copies \"%1\"; use 1 to %2")
             .arg(value)
             .arg(host::maxCopies);
     command.settings.copies = copies;
@@ -233,7 +233,7 @@ ErrorMessage parsePriority(CommandLine &command, const QString &value)
     bool isNumber = false;
     const int priority = value.toInt(&isNumber);
     if (!isNumber || priority < 1 || priority > 100)
-        return JobWordsText::tr("\"%1\" is no priority; it must be from 1 (last) to 100 (first)").arg(value);
+        return JobWordsText::tr("Invalid priority \"%1\"; use 1 (last) to 100 (first)").arg(value);
     command.settings.priority = priority;
     return std::nullopt;
 }
@@ -255,7 +255,7 @@ ErrorMessage parseDestination(CommandLine &command, const QString &value)
 {
     const auto [queue, instance] = host::splitDestinationName(value);
     if (queue.isEmpty() || (instance && instance->isEmpty()))
-        return JobWordsText::tr("\"%1\" names no queue; write QUEUE or QUEUE/INSTANCE").arg(value);
+        return JobWordsText::tr("Missing queue in \"%1\"; use QUEUE or QUEUE/INSTANCE").arg(value);
     command.destination = value;
     return std::nullopt;
 }
@@ -266,8 +266,7 @@ ErrorMessage parseJob(CommandLine &command, const QString &value)
     const QRegularExpressionMatch match = form.match(value);
     const int job = match.captured(2).toInt();
     if (job < 1)
-        return JobWordsText::tr(
-                   "\"%1\" is no job; write its number, or QUEUE-NUMBER as it was told when it was sent")
+        return JobWordsText::tr("Invalid job \"%1\"; use its number, or QUEUE-NUMBER as in the request id")
             .arg(value);
     command.task = Task::ChangeJob;
     command.jobToChange = job;
@@ -285,7 +284,7 @@ ErrorMessage parseOptions(CommandLine &command, const QString &value)
         errorMessage = parseOption(command, parsed[i].name, parsed[i].value);
     cupsFreeOptions(count, parsed);
     if (count == 0)
-        return JobWordsText::tr("\"%1\" names no option; write NAME=VALUE").arg(value);
+        return JobWordsText::tr("Missing option in \"%1\"; use NAME=VALUE").arg(value);
     return errorMessage;
 }
 

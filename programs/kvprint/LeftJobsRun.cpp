@@ -34,9 +34,10 @@ void LeftJobsRun::report() const
 {
     for (const host::JobRecord &job : readLeft().jobs) {
         m_console.printError(host::leftJobSentence(job));
-        m_console.printError(LeftJobsRunText::tr("\"kvprint --cancel-left %1\" cancels it, \"kvprint "
-                                                 "--release-left %1\" prints what the server has of it.")
-                                 .arg(job.name()));
+        m_console.printError(
+            LeftJobsRunText::tr(
+                "\"kvprint --cancel-left %1\" cancels it, \"kvprint --release-left %1\" releases it.")
+                .arg(job.name()));
     }
 }
 
@@ -57,17 +58,15 @@ std::optional<host::JobRecord> LeftJobsRun::meant() const
     const QString separator = QStringLiteral(", ");
     if (several.size() > 1)
         m_console.printError(
-            LeftJobsRunText::tr("Jobs \"%1\" are left on several print servers; name one of these: %2")
+            LeftJobsRunText::tr("Jobs \"%1\" are left on several print servers; specify one of: %2")
                 .arg(m_command.leftJob, several.join(separator)));
     else if (all.isEmpty())
         m_console.printError(
-            LeftJobsRunText::tr("There is no job \"%1\" that was left by a program that was stopped; "
-                                "none is left")
+            LeftJobsRunText::tr("No interrupted program left a job \"%1\"; there are no such jobs")
                 .arg(m_command.leftJob));
     else
         m_console.printError(
-            LeftJobsRunText::tr("There is no job \"%1\" that was left by a program that was stopped; "
-                                "these are left: %2")
+            LeftJobsRunText::tr("No interrupted program left a job \"%1\"; there are these: %2")
                 .arg(m_command.leftJob, all.join(separator)));
     return std::nullopt;
 }

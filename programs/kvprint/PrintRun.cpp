@@ -87,8 +87,7 @@ std::unique_ptr<host::PrinterSetup> PrintRun::openPrinter()
     if (!CommandChecks(m_command, m_console).accepts(*setup))
         return nullptr;
     if (!setup->paper()) {
-        m_console.printError(
-            PrintRunText::tr("The PPD file \"%1\" names no paper to print on").arg(*m_command.ppd));
+        m_console.printError(PrintRunText::tr("The PPD file \"%1\" defines no paper").arg(*m_command.ppd));
         return nullptr;
     }
     return setup;
@@ -142,7 +141,7 @@ ExitStatus PrintRun::showVirtual(dialog::PrintDialog &dialog, dialog::VirtualSen
         return ExitStatus::Canceled;
     }
     printSummary(dialog.summary());
-    m_console.out(PrintRunText::tr("The label strip is in:") + u'\n');
+    m_console.out(PrintRunText::tr("The label strip was written to:") + u'\n');
     m_console.out(*sender.folder() + u'\n');
     return ExitStatus::Printed;
 }

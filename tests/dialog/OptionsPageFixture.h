@@ -93,7 +93,7 @@ protected:
     {
         QStringList shown;
         for (const QLabel *const label : control(keyword)->findChildren<QLabel *>()) {
-            if (label->isVisible() && label->text().contains(QStringLiteral("exclude")))
+            if (label->isVisible() && label->text().contains(QStringLiteral(" conflict.")))
                 shown.append(label->text());
         }
         return shown.join(u'\n');

@@ -95,8 +95,8 @@ QString Intent::reasonFor(const WalkedDialog &dialog, const QByteArray &name, co
     const host::PpdFile &file = dialog.setup().ppd();
     const QString keyword = QString::fromUtf8(name);
     const QString sentence =
-        QStringLiteral("\"%1\" cannot be \"%2\" with this paper and the other cut options, "
-                       "and is printed as \"%3\".")
+        QStringLiteral(
+            "\"%1\" cannot be \"%2\" with this paper and the other cut options; \"%3\" is used instead.")
             .arg(file.optionText(keyword), file.choiceText(keyword, QString::fromUtf8(wanted)),
                  file.choiceText(keyword, QString::fromUtf8(got)));
     return told.contains(sentence) ? QString() : QStringLiteral("no banner says so: ") + told;

@@ -11,7 +11,7 @@ namespace dialogwalk {
 void OptionLists::turnToGroup(std::uint32_t number) const
 {
     auto *const groups =
-        Gestures::visibleNamed<QListWidget>(&m_dialog.window(), QStringLiteral("Groups of options"));
+        Gestures::visibleNamed<QListWidget>(&m_dialog.window(), QStringLiteral("Option groups"));
     if (!groups)
         return;
     Gestures::clickRow(groups, static_cast<int>(number % static_cast<std::uint32_t>(groups->count())));

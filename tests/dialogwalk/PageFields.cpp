@@ -30,7 +30,7 @@ PageFields::PageFields(const WalkedDialog &dialog)
     const auto *const options = dialog.window().findChild<dialog::PageOptions *>();
     copies = options->findChild<QSpinBox *>();
     collate = boxWithText(options, QStringLiteral("Set by set"));
-    lastFirst = boxWithText(options, QStringLiteral("Last page first"));
+    lastFirst = boxWithText(options, QStringLiteral("Reverse order"));
     for (QLineEdit *const each : options->findChildren<QLineEdit *>(Qt::FindDirectChildrenOnly))
         pages = each;
 }

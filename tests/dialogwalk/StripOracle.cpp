@@ -119,10 +119,10 @@ QStringList sentencesOf(const ExpectedStrip &strip, const OptionTexts &options)
     QStringList sentences{cutSentence(strip, options)};
     const std::pair<bool, const char *> others[] = {
         {any(strip.labels, &ExpectedLabel::halfCut), "Half cut between the labels of a piece."},
-        {any(strip.labels, &ExpectedLabel::cutMark), "Printed marks where nothing is cut through."},
+        {any(strip.labels, &ExpectedLabel::cutMark), "Cut marks are printed where there is no full cut."},
         {any(strip.labels, &ExpectedLabel::held),
-         "The end stays in the printer; the next job goes on from it without a margin."},
-        {isOn(options, "KvRemoveBlkSpace"), "Blank tape before and after each label is left out."},
+         "The end stays in the printer; the next job continues there without a margin."},
+        {isOn(options, "KvRemoveBlkSpace"), "Blank tape before and after each label is removed."},
         {isOn(options, "KvMirror"), "The labels are mirrored."},
     };
     for (const auto &[holds, sentence] : others) {

@@ -140,7 +140,7 @@ TEST_F(ChoicesThatStay, AListIsOperatedWhileTheWindowBecomesLarger)
     open("bare");
     hand.pickPaper("HS6x50");
     hand.perform({Action::PickPreset, 716703});
-    ASSERT_TRUE(dialog.told().contains(QStringLiteral("exclude each other"))) << dialog.told().toStdString();
+    ASSERT_TRUE(dialog.told().contains(QStringLiteral(" conflict."))) << dialog.told().toStdString();
     hand.perform({Action::Print, 513526});
     hand.pickPaper("18x60mm");
     EXPECT_EQ(dialog.options().value("PageSize"), "18x60mm");

@@ -58,7 +58,7 @@ protected:
             const QString saved = QString::fromUtf8(after.value(each.key()));
             const bool isTold =
                 told.contains(u'"' + ppd.optionText(keyword) + QStringLiteral("\" cannot be")) &&
-                told.contains(QStringLiteral("printed as \"") + ppd.choiceText(keyword, saved));
+                told.contains(u'"' + ppd.choiceText(keyword, saved) + QStringLiteral("\" is used instead"));
             const bool isRule = isTold && mayBeReplaced(each.key(), after.value("PageSize"));
             if (after.value(each.key()) != each.value() && !isRule)
                 lines.append(QStringLiteral("%1 is %2 now").arg(keyword, saved));

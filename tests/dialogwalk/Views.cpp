@@ -47,7 +47,8 @@ QString wordsBelowStrip(const WalkedDialog &dialog)
 bool arePagesValid(const WalkedDialog &dialog)
 {
     return !wordsBelowStrip(dialog).startsWith(QStringLiteral("Cannot ")) &&
-           !wordsBelowStrip(dialog).startsWith(QStringLiteral("Nothing would be printed"));
+           !wordsBelowStrip(dialog).startsWith(QStringLiteral("Invalid page range")) &&
+           !wordsBelowStrip(dialog).startsWith(QStringLiteral("Nothing to print"));
 }
 
 void compareStrip(const WalkedDialog &dialog, const ExpectedStrip &expected, Agreement &agreement)
@@ -270,7 +271,7 @@ void compareConflicts(const WalkedDialog &dialog, const OptionTexts &options, Ag
     QStringList broken;
     for (const QString &each : brokenConstraints(dialog.server().ppd(dialog.destination()), options))
         broken.append(each);
-    const auto shown = dialog.told().count(QStringLiteral("exclude each other"));
+    const auto shown = dialog.told().count(QStringLiteral(" conflict."));
     if (shown != broken.size())
         agreement.add({QStringLiteral("the banners tell %1 conflicts: %2").arg(shown).arg(dialog.told()),
                        QStringLiteral("the job has %1: %2").arg(broken.size()).arg(broken.join(u'|'))});

@@ -125,7 +125,7 @@ TEST_F(ConflictsTest, ThatThePanelMakesWhenItHandsItsSettingsOverAreAskedAbout)
     chooseTab(QStringLiteral("Options"));
     Hands::click(control<QCheckBox>("Turbo"));
     // Half cut would be saved as off, so the conflict is shown before Print is pressed.
-    const QString conflict = QStringLiteral("\"Half Cut: Off\" and \"Turbo: Fast\" exclude each other.");
+    const QString conflict = QStringLiteral("\"Half Cut: Off\" and \"Turbo: Fast\" conflict.");
     EXPECT_EQ(told(), conflict);
     EXPECT_TRUE(printAndThinkAgain());
     EXPECT_TRUE(window->isVisible());

@@ -216,12 +216,12 @@ TEST_F(DestinationsTest, WithNothingKnownARefusedPasswordCanBeGivenAfterAll)
         ASSERT_TRUE(QTest::qWaitForWindowActive(question, test_support::failureMilliseconds));
         Hands::press(question, Qt::Key_Escape);
         EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
-        EXPECT_EQ(state(), QStringLiteral("The print server wants a password."));
+        EXPECT_EQ(state(), QStringLiteral("The print server requires a password."));
         EXPECT_NE(told(), QString());
         EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
         Hands::click(button(QStringLiteral("Try again")));
         EXPECT_EQ(told(), QString());
-        EXPECT_EQ(state(), QStringLiteral("Waiting for the print server's answer…"));
+        EXPECT_EQ(state(), QStringLiteral("Waiting for the print server\u2026"));
     }
     answer(passwordDialog(), QStringLiteral("secret"));
     ASSERT_TRUE(isChosen(QStringLiteral("tape")));

@@ -83,7 +83,7 @@ TEST_F(LeftJobsTest, ABannerPrintsWhatIsThereOnRequest)
     const int jobId = leaveJob();
     const std::size_t before = cupsd->documents().size();
     openAndSettle(QStringLiteral("tape"));
-    press(QStringLiteral("Print what is there"), QStringLiteral("is released"));
+    press(QStringLiteral("Release the job"), QStringLiteral("is released"));
     EXPECT_TRUE(waitUntil([&] { return cupsd->documents().size() == before + 1; }));
     EXPECT_EQ(cupsd->documents().back().job, jobId);
 }

@@ -37,7 +37,7 @@ TEST_F(OpeningTest, WhatIsKnownFromLastTimeIsShownWhileTheServerIsSilent)
     EXPECT_TRUE(panelBox("mHalfCutChkBx")->isVisible());
     ASSERT_TRUE(papers());
     EXPECT_EQ(papers()->currentItem()->text(), QStringLiteral("Tape 24 mm x 60 mm"));
-    EXPECT_EQ(state(), QStringLiteral("Last time: Ready."));
+    EXPECT_EQ(state(), QStringLiteral("Last known state: Ready."));
     EXPECT_EQ(destinations()->currentText(), QStringLiteral("tape"));
     EXPECT_TRUE(button(QStringLiteral("Print"))->isEnabled());
     // It can be used all the while.
@@ -57,8 +57,8 @@ TEST_F(OpeningTest, WithNothingKnownItWaitsInWordsAndBecomesUsable)
     EXPECT_TRUE(waitUntil([&] { return slow.heldCount() > 0; }));
     turnEventLoop();
     EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
-    EXPECT_EQ(state(), QStringLiteral("Waiting for the print server's answer…"));
-    EXPECT_TRUE(isSeen(QStringLiteral("Waiting for the print server's answer…")));
+    EXPECT_EQ(state(), QStringLiteral("Waiting for the print server\u2026"));
+    EXPECT_TRUE(isSeen(QStringLiteral("Waiting for the print server\u2026")));
     EXPECT_EQ(destinations()->currentText(), QStringLiteral("tape"));
     EXPECT_FALSE(papers());
     slow.release();
@@ -83,8 +83,8 @@ TEST_F(OpeningTest, AServerThatIsAbsentSilentOrDeadIsToldAndTheDialogStays)
         bool isSilent = false;
     };
     for (const Row &row : {Row{"absent", absent.address(), "Cannot connect to the print server"},
-                           Row{"silent", silent.address(), "does not answer", true},
-                           Row{"breaking", breaking.address(), "broke"}}) {
+                           Row{"silent", silent.address(), "does not respond", true},
+                           Row{"breaking", breaking.address(), "was lost"}}) {
         SCOPED_TRACE(row.name);
         host::CupsServer server = knownServer(row.address);
         if (row.isSilent)
@@ -93,7 +93,7 @@ TEST_F(OpeningTest, AServerThatIsAbsentSilentOrDeadIsToldAndTheDialogStays)
         EXPECT_TRUE(waitUntil([this] { return !told().isEmpty(); }));
         EXPECT_TRUE(told().contains(QLatin1String(row.words))) << told().toStdString();
         EXPECT_TRUE(waitUntil([this] { return session->isSettled(); }));
-        EXPECT_TRUE(state().contains(QStringLiteral("Last time: Ready."))) << state().toStdString();
+        EXPECT_TRUE(state().contains(QStringLiteral("Last known state: Ready."))) << state().toStdString();
         EXPECT_TRUE(panelBox("mHalfCutChkBx")->isVisible());
         Hands::click(panelBox("mMirrorPrintChkBx"));
     }

@@ -70,7 +70,7 @@ TEST_F(ReplacedPpdTest, ThePageInFrontStaysThere)
 TEST_F(ReplacedPpdTest, SoDoTheGroupAndTheControlInUse)
 {
     chooseTab(QStringLiteral("Options"));
-    auto *const groups = find<QListWidget>(QStringLiteral("Groups of options"));
+    auto *const groups = find<QListWidget>(QStringLiteral("Option groups"));
     ASSERT_TRUE(groups && groups->count() > 1);
     groups->setCurrentRow(1);
     QApplication::processEvents();
@@ -79,7 +79,7 @@ TEST_F(ReplacedPpdTest, SoDoTheGroupAndTheControlInUse)
     ASSERT_TRUE(stamp);
     stamp->findChild<QComboBox *>()->setFocus();
     replacePpd();
-    auto *const after = find<QListWidget>(QStringLiteral("Groups of options"));
+    auto *const after = find<QListWidget>(QStringLiteral("Option groups"));
     ASSERT_TRUE(after);
     EXPECT_EQ(after->currentItem()->text(), group);
     const auto *const focused = qobject_cast<QComboBox *>(QApplication::focusWidget());

@@ -125,7 +125,7 @@ TEST_F(SendingTest, AConnectionThatBreaksLeavesNothingAndTheNextTimePrintsOnce)
     set();
     const std::size_t before = cupsd->documents().size();
     printExpectingError();
-    EXPECT_TRUE(told().contains(QStringLiteral("broke"))) << told().toStdString();
+    EXPECT_TRUE(told().contains(QStringLiteral("was lost"))) << told().toStdString();
     EXPECT_FALSE(told().contains(QStringLiteral("taken back"))) << told().toStdString();
     expectAllSet();
     EXPECT_EQ(waitingJobs(), QString());
@@ -172,7 +172,7 @@ TEST_F(SendingTest, StopSendingTakesTheJobBack)
     const std::size_t before = cupsd->documents().size();
     Hands::click(button(QStringLiteral("Print")));
     ASSERT_TRUE(window->isSending());
-    QPushButton *const stop = button(QStringLiteral("Stop sending"));
+    QPushButton *const stop = button(QStringLiteral("Cancel sending"));
     ASSERT_TRUE(stop);
     EXPECT_FALSE(button(QStringLiteral("Print"))->isEnabled());
     EXPECT_TRUE(waitUntil([&] { return stalling.stalledCount() == 1; }));
@@ -195,7 +195,7 @@ TEST_F(SendingTest, ALongDocumentIsCheckedWhileTheWindowLives)
     // The click is over long before so many pages are.
     EXPECT_TRUE(window->isSending());
     EXPECT_TRUE(window->isVisible());
-    Hands::click(button(QStringLiteral("Stop sending")));
+    Hands::click(button(QStringLiteral("Cancel sending")));
     EXPECT_TRUE(waitUntil([this] { return !window->isSending(); }));
     Hands::click(button(QStringLiteral("Print")));
     EXPECT_TRUE(waitUntil([this] { return !window->isVisible(); })) << told().toStdString();
@@ -258,7 +258,7 @@ TEST_F(SendingTest, ASilentServerWhileSendingCanBeLeft)
     set();
     EXPECT_EQ(told(), QString());
     printExpectingError();
-    EXPECT_TRUE(told().contains(QStringLiteral("does not answer"))) << told().toStdString();
+    EXPECT_TRUE(told().contains(QStringLiteral("does not respond"))) << told().toStdString();
     expectAllSet();
 }
 
@@ -279,7 +279,7 @@ TEST_F(SendingTest, TheJobWindowTellsOfAHeldJobAndTakesItBack)
     cupsd->pause(QStringLiteral("tape"));
     const int jobId = submit();
     const auto job = follow(jobId);
-    EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
+    EXPECT_TRUE(says(*job, QStringLiteral("Waiting in the queue.")));
     cupsd->run(QStringLiteral("lp"), {QStringLiteral("-i"), QStringLiteral("tape-%1").arg(jobId),
                                       QStringLiteral("-H"), QStringLiteral("hold")});
     EXPECT_TRUE(says(*job, QStringLiteral("Held until it is released.")));
@@ -311,7 +311,7 @@ TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
     cupsd->pause(QStringLiteral("tape"));
     const int jobId = submit();
     const auto job = follow(jobId);
-    EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
+    EXPECT_TRUE(says(*job, QStringLiteral("Waiting in the queue.")));
     cupsd->kill();
     {
         EXPECT_TRUE(says(*job, QStringLiteral("Cannot connect")));
@@ -321,7 +321,7 @@ TEST_F(SendingTest, TheJobWindowOutlivesTheServer)
             waitUntil([&] { return button(job.get(), QStringLiteral("Cancel the job"))->isEnabled(); }));
     }
     cupsd->restart();
-    EXPECT_TRUE(says(*job, QStringLiteral("Waiting for its turn.")));
+    EXPECT_TRUE(says(*job, QStringLiteral("Waiting in the queue.")));
     cupsd->resume(QStringLiteral("tape"));
     EXPECT_TRUE(waitUntil([&] { return !job->isVisible(); }));
 }

@@ -34,7 +34,7 @@ protected:
     /// Brings the group of options to the front.
     void chooseGroup(const QString &text) const
     {
-        auto *const groups = find<QListWidget>(QStringLiteral("Groups of options"));
+        auto *const groups = find<QListWidget>(QStringLiteral("Option groups"));
         ASSERT_TRUE(groups);
         const auto found = groups->findItems(text, Qt::MatchExactly);
         ASSERT_FALSE(found.isEmpty());
@@ -144,7 +144,7 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
     chooseTab(QStringLiteral("Job"));
     Hands::typeInto(field<QLineEdit>(QStringLiteral("Job name")), QStringLiteral("Shelf 7 'b\""));
     Hands::pick(field<QComboBox>(QStringLiteral("Orientation")), QStringLiteral("Landscape"));
-    Hands::pick(field<QComboBox>(QStringLiteral("Print it")), QStringLiteral("When I release it"));
+    Hands::pick(field<QComboBox>(QStringLiteral("When to print")), QStringLiteral("When it is released"));
     Hands::typeInto(field<QSpinBox>(QStringLiteral("Priority")), QStringLiteral("70"));
     Hands::typeInto(field<QSpinBox>(QStringLiteral("Copies")), QStringLiteral("2"));
     Hands::click(boxIn(window.get(), QStringLiteral("Set by set")));
@@ -153,7 +153,7 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
     chooseTab(QStringLiteral("What will be sent"));
     const auto shown = shownAsSent();
     const QString line = lpLine();
-    const bool isSeenBefore = isSeen(QStringLiteral("lp cannot say these options as they are sent: Stamp"));
+    const bool isSeenBefore = isSeen(QStringLiteral("lp cannot express these options: Stamp"));
     Hands::click(button(QStringLiteral("Copy")));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), line);
     EXPECT_TRUE(line.startsWith(QStringLiteral("lp -h ") + cupsd->address())) << line.toStdString();

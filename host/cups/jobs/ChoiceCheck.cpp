@@ -108,8 +108,8 @@ QString choiceList(const PpdOption &option)
 ChoiceError unusablePaper(const PpdFile &ppd, const QString &paper, const QSizeF &size)
 {
     const QString text = ChoiceCheckText::tr(
-        "The printer \"%1\" cannot print on the paper \"%2\": its size is %3 × %4 points; width and "
-        "length must be above 0, one of them at most %5 m, the other at most %6 m.");
+        "The printer \"%1\" cannot print on the paper \"%2\": its size is %3 \u00d7 %4 points; width and "
+        "length must be greater than 0, one of them at most %5 m, the other at most %6 m.");
     return {ChoiceErrorKind::UnusablePaper,
             text.arg(ppd.printerName(), paper, QString::number(size.width()), QString::number(size.height()),
                      QString::number(PpdPaperSizes::maxShortSide.number()),

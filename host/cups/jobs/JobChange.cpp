@@ -97,7 +97,7 @@ public:
         if (changed)
             return changed;
         CupsError error = changed.error();
-        error.message = JobChangeText::tr("It is to be printed anew, but held. %1").arg(error.message);
+        error.message = JobChangeText::tr("It is printed again, but held. %1").arg(error.message);
         return error;
     }
 
@@ -144,9 +144,11 @@ Result<void, CupsError> changeJob(const CupsServer &server, const JobChange &cha
     const auto told = [&](const CupsError &error) { return notChanged(change.jobId, error); };
     const std::vector<JobOption> options = changedOptions(change);
     if (const JobOption *const option = findUnsendable(options))
-        return told({CupsErrorKind::Rejected,
-                     JobChangeText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
-                         .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))});
+        return told(
+            {CupsErrorKind::Rejected,
+             JobChangeText::tr(
+                 "The choice \"%1\" of the option \"%2\" cannot be sent: print servers do not pass it on.")
+                 .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))});
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);
     if (!connection)
         return told(connection.error());

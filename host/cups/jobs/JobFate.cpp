@@ -63,7 +63,7 @@ CupsError JobFate::ofUnansweredCreation(const QByteArray &uuid, const CupsError 
         return job.value() ? cancel(*job.value(), reason) : reason;
     return {CupsErrorKind::OutcomeUnknown,
             JobFateText::tr("%1 A job \"%2\" without documents may be left in the queue \"%3\" of the print "
-                            "server \"%4\"; nothing of it is printed.")
+                            "server \"%4\"; it prints nothing.")
                 .arg(reason.message, sendableTitle(m_ticket.title), m_ticket.destination.queue,
                      m_server.displayName())};
 }
@@ -104,9 +104,9 @@ Result<void, CupsError> JobFate::ofFailedRelease(int jobId, const CupsError &rea
 {
     const auto notKnown = [&]() -> CupsError {
         return {CupsErrorKind::OutcomeUnknown,
-                JobFateText::tr("%1 The print server \"%2\" has all documents of job %3-%4 and did not say "
-                                "whether it releases them: the job is printed, or it is held and not "
-                                "printed. Check the queue before you print again.")
+                JobFateText::tr("%1 The print server \"%2\" has all documents of job %3-%4, but did not "
+                                "report whether it released the job: it is printed, or it is still held. "
+                                "Check the queue before you print again.")
                     .arg(reason.message, m_server.displayName(), m_ticket.destination.queue,
                          QString::number(jobId))};
     };

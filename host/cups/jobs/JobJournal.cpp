@@ -156,10 +156,9 @@ JobJournal::Left JobJournal::left() const
         if (record && this->path(*record) != path)
             record.reset();
         if (!record && QFile::remove(path))
-            left.damages.append(
-                JobJournalText::tr("The record \"%1\" of a job that was being sent is damaged and was "
-                                   "removed; check the queues that you print on for a job that is left.")
-                    .arg(path));
+            left.damages.append(JobJournalText::tr("The record \"%1\" of an interrupted job was damaged and "
+                                                   "has been removed. Check your queues for a held job.")
+                                    .arg(path));
         if (record && !isProgramRunning(json))
             left.jobs.push_back(*record);
     }

@@ -131,7 +131,7 @@ Result<PageChoices, PageRangeError> choosePages(const JobSettings &requested, co
     if (pages.value().size() * static_cast<std::size_t>(copies) > maxLabels)
         return PageRangeError{
             PageRangeErrorKind::TooMany,
-            JobSettingsText::tr("Cannot print so many labels at once: a job has at most %1").arg(maxLabels)};
+            JobSettingsText::tr("Cannot print the job: it has more than %1 labels").arg(maxLabels)};
     return PageChoices{std::move(pages).value(), copies, settings.collate.value_or(Collate::No),
                        settings.order.value_or(PageOrder::Normal)};
 }

@@ -44,20 +44,20 @@ QString stateSentence(const JobStatus &job)
 {
     switch (job.state) {
     case JobState::Waiting:
-        return JobStatusText::tr("Waiting for its turn.");
+        return JobStatusText::tr("Waiting in the queue.");
     case JobState::Held:
         return heldSentence(job.heldUntil);
     case JobState::Printing:
         return JobStatusText::tr("Printing.");
     case JobState::Stopped:
-        return JobStatusText::tr("Stopped; it goes on when the printer is ready again.");
+        return JobStatusText::tr("Stopped; it continues when the printer is ready.");
     case JobState::Canceled:
         return JobStatusText::tr("Canceled.");
     case JobState::Aborted:
         return JobStatusText::tr("Aborted by the print server.");
     case JobState::Completed:
         if (job.isPurged)
-            return JobStatusText::tr("The job is over; the print server keeps no record of it.");
+            return JobStatusText::tr("The job is finished; the print server keeps no record of it.");
         return JobStatusText::tr("Printed.");
     }
     return {};
@@ -75,7 +75,7 @@ QStringList JobStatus::sentences() const
     const bool addsInformation = !message.trimmed().isEmpty() && state != JobState::Completed &&
                                  state != JobState::Canceled && state != JobState::Held;
     if (addsInformation)
-        all.append(JobStatusText::tr("The server says: %1").arg(message.trimmed()));
+        all.append(JobStatusText::tr("Server message: %1").arg(message.trimmed()));
     return all;
 }
 

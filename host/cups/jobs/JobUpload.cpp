@@ -165,7 +165,7 @@ private:
     CupsError cutShort(const JobDocument &document) const
     {
         return {CupsErrorKind::Rejected,
-                JobUploadText::tr("The print server \"%1\" did not take all of \"%2\".")
+                JobUploadText::tr("The print server \"%1\" did not receive all of \"%2\".")
                     .arg(m_connection.server().displayName(), document.shownName())};
     }
 
@@ -222,7 +222,8 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
     if (const JobOption *const option = findUnsendable(ticket.options))
         return CupsError{
             CupsErrorKind::Rejected,
-            JobUploadText::tr("No print server can pass on the choice \"%1\" of the option \"%2\".")
+            JobUploadText::tr(
+                "The choice \"%1\" of the option \"%2\" cannot be sent: print servers do not pass it on.")
                 .arg(QString::fromUtf8(option->value), QString::fromUtf8(option->name))};
 
     Result<CupsConnection, CupsError> connection = CupsConnection::open(server, task);

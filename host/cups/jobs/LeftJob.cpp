@@ -30,8 +30,8 @@ CupsServer serverOf(const JobRecord &record, const CupsServer &asking)
 
 QString goneSentence(const JobRecord &record)
 {
-    return LeftJobText::tr("The print server \"%1\" has no job \"%2\" in the queue \"%3\" any more, or it is "
-                           "over.")
+    return LeftJobText::tr("The print server \"%1\" no longer has the job \"%2\" in the queue \"%3\", or the "
+                           "job is finished.")
         .arg(record.server, record.title, record.queue);
 }
 
@@ -62,11 +62,11 @@ Result<QString, CupsError> settle(CupsConnection &connection, const JobRecord &r
 QString leftJobSentence(const JobRecord &record)
 {
     if (record.jobId)
-        return LeftJobText::tr("A program that was stopped while it was printing may have left job %1 "
-                               "(\"%2\") on the print server \"%3\", perhaps without all of its documents.")
+        return LeftJobText::tr("An interrupted program may have left job %1 (\"%2\") on the print server "
+                               "\"%3\"; the job may be incomplete.")
             .arg(record.name(), record.title, record.server);
-    return LeftJobText::tr("A program that was stopped while it was printing may have left a job \"%1\" "
-                           "without documents in the queue \"%2\" of the print server \"%3\".")
+    return LeftJobText::tr("An interrupted program may have left a job \"%1\" without documents in the queue "
+                           "\"%2\" of the print server \"%3\".")
         .arg(record.title, record.queue, record.server);
 }
 

@@ -89,7 +89,7 @@ std::optional<QString> LpCommand::differencesText() const
 {
     if (differences.isEmpty())
         return std::nullopt;
-    return LpCommandText::tr("lp cannot say these options as they are sent: %1")
+    return LpCommandText::tr("lp cannot express these options: %1")
         .arg(differences.join(QStringLiteral(", ")));
 }
 

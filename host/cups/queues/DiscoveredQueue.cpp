@@ -116,7 +116,7 @@ Result<void, CupsError> ensureQueue(CupsConnection &connection, const Destinatio
             return connection.noAnswer();
         if (!deviceUri)
             return CupsError{CupsErrorKind::NotFound,
-                             DiscoveredQueueText::tr("The printer \"%1\" is not on the network any more.")
+                             DiscoveredQueueText::tr("The printer \"%1\" is no longer on the network.")
                                  .arg(destination.queue)};
         const Result<IppPointer, CupsError> answer =
             connection.exchange(creationRequest(destination, *deviceUri), "/");

@@ -22,14 +22,12 @@ struct Reason {
 
 // The keywords of RFC 8011, section 5.4.12, and those that CUPS adds.
 constexpr Reason reasons[] = {
-    {"media-needed",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer waits for labels or tape.")},
+    {"media-needed", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer needs labels or tape.")},
     {"media-jam", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Labels or tape are jammed.")},
     {"media-low",
      QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The label roll or tape is nearly empty.")},
     {"media-empty", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The label roll or tape is empty.")},
-    {"moving-to-paused",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is about to pause.")},
+    {"moving-to-paused", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is pausing.")},
     {"paused", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The queue is paused; jobs wait.")},
     {"shutdown", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is switched off.")},
     {"connecting-to-device",
@@ -43,7 +41,8 @@ constexpr Reason reasons[] = {
     {"spool-area-full",
      QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The print server has no space left.")},
     {"cover-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer's cover is open.")},
-    {"interlock-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "A lock of the printer is open.")},
+    {"interlock-open",
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "An interlock of the printer is open.")},
     {"door-open", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer's door is open.")},
     {"input-tray-missing",
      QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The cassette or roll holder is missing.")},
@@ -63,15 +62,16 @@ constexpr Reason reasons[] = {
     {"offline", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is offline.")},
     {"hold-new-jobs", QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "New jobs are held.")},
     {"deactivated",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer is switched off by its administrator.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer was deactivated by its administrator.")},
     {"cups-missing-filter",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "A part of the printer's driver is missing.")},
-    {"cups-insecure-filter", QT_TRANSLATE_NOOP("host::cups::queues::QueueText",
-                                               "A part of the printer's driver is not installed safely.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "A filter of the printer's driver is missing.")},
+    {"cups-insecure-filter",
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText",
+                       "A filter of the printer's driver is not installed securely.")},
     {"cups-waiting-for-job-completed",
      QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "Waiting for the printer to finish the job.")},
     {"cups-ipp-conformance-failure",
-     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer does not follow its protocol.")},
+     QT_TRANSLATE_NOOP("host::cups::queues::QueueText", "The printer does not conform to its protocol.")},
 };
 
 constexpr std::pair<const char *, StateSeverity> severities[] = {
@@ -150,7 +150,7 @@ QStringList queueSentences(const Destination &destination)
     const bool addsInformation = !message.isEmpty() && !(stopped && message == QStringLiteral("Paused")) &&
                                  message != QStringLiteral("Idle");
     if (addsInformation)
-        sentences.append(QueueWordsText::tr("The server says: %1").arg(message));
+        sentences.append(QueueWordsText::tr("Server message: %1").arg(message));
     return sentences;
 }
 

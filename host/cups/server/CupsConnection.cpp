@@ -134,13 +134,13 @@ CupsError CupsConnection::noAnswer() const
         return *m_state->certificateError;
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
         return {CupsErrorKind::Silent,
-                CupsConnectionText::tr("The print server \"%1\" does not answer.").arg(name)};
+                CupsConnectionText::tr("The print server \"%1\" does not respond.").arg(name)};
     if (!m_http)
         return {CupsErrorKind::Unreachable,
                 CupsConnectionText::tr("Cannot connect to the print server \"%1\": %2")
                     .arg(name, connectionFailureReason(cupsServer(), ippPort()))};
     return {CupsErrorKind::Unreachable,
-            CupsConnectionText::tr("The connection to the print server \"%1\" broke.").arg(name)};
+            CupsConnectionText::tr("The connection to the print server \"%1\" was lost.").arg(name)};
 }
 
 } // namespace server

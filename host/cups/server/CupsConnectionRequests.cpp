@@ -88,7 +88,7 @@ CupsError CupsConnection::serverError(CupsErrorKind kind, const QString &reason)
     if ((m_state->isPasswordMissing || m_state->isPasswordUnconfirmed) &&
         kind == CupsErrorKind::NotAuthorized)
         return passwordError();
-    return {kind, CupsConnectionRequestsText::tr("The print server \"%1\" says: %2")
+    return {kind, CupsConnectionRequestsText::tr("The print server \"%1\" reports: %2")
                       .arg(server().displayName(), reason)};
 }
 
@@ -315,7 +315,7 @@ CupsConnection::fetch(const QByteArray &resource, const std::optional<QByteArray
                       qint64 maxBytes)
 {
     const auto failure = [&](CupsErrorKind kind, const QString &reason) -> CupsError {
-        return {kind, CupsConnectionRequestsText::tr("The print server \"%1\" does not give \"%2\": %3")
+        return {kind, CupsConnectionRequestsText::tr("Cannot fetch \"%2\" from the print server \"%1\": %3")
                           .arg(server().displayName(), QString::fromUtf8(resource), reason)};
     };
     const http_status_t status = get(resource, unlessModifiedSince);
@@ -350,8 +350,7 @@ CupsConnection::fetch(const QByteArray &resource, const std::optional<QByteArray
     if (isCanceledOrTimedOut())
         return noAnswer();
     if (length < 0 || (announced > 0 && file.content.size() != announced))
-        return failure(CupsErrorKind::Unreachable,
-                       CupsConnectionRequestsText::tr("the connection broke in the middle"));
+        return failure(CupsErrorKind::Unreachable, CupsConnectionRequestsText::tr("the connection was lost"));
     return std::optional(file);
 }
 

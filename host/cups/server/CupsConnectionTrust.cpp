@@ -101,7 +101,7 @@ Result<void, CupsError> CupsConnection::checkCertificate() const
                      certificate->path(server().certificates)));
     if (const std::optional<QString> error = certificate->policyError())
         return untrusted(CupsConnectionTrustText::tr("The certificate of the print server \"%1\" with the "
-                                                     "SHA-256 fingerprint %2 must not be trusted: %3")
+                                                     "SHA-256 fingerprint %2 cannot be trusted: %3")
                              .arg(name, fingerprint, *error));
     if (trusted)
         return {};
@@ -109,8 +109,8 @@ Result<void, CupsError> CupsConnection::checkCertificate() const
     if (!server().trust->isGranted(request, *m_state->task, server().askTrust))
         return untrusted(CupsConnectionTrustText::tr(
                              "The certificate of the print server \"%1\" is not trusted: %2. Its SHA-256 "
-                             "fingerprint is %3. Compare it with the one that the server's administrator "
-                             "names, and confirm it when you are asked, in the window or on a terminal.")
+                             "fingerprint is %3. Compare it with the fingerprint that the server's "
+                             "administrator gives you, and confirm it in the dialog or on a terminal.")
                              .arg(name, *reason, fingerprint));
     // A certificate that cannot be saved is trusted until the program ends.
     certificate->save(server().certificates);
@@ -157,13 +157,12 @@ CupsError CupsConnection::passwordError() const
     const QString name = server().displayName();
     const QString user = QString::fromUtf8(cupsUser());
     if (m_state->isPasswordMissing && m_state->isPasswordReadable)
-        return {
-            CupsErrorKind::NotAuthorized,
-            CupsConnectionTrustText::tr(
-                "The print server \"%1\" wants a password for the user \"%2\". None was sent, because the "
-                "connection is not encrypted and others could read it. Encrypt the connection (-E), or "
-                "confirm when you are asked, in the window or on a terminal.")
-                .arg(name, user)};
+        return {CupsErrorKind::NotAuthorized,
+                CupsConnectionTrustText::tr(
+                    "The print server \"%1\" requires a password for the user \"%2\". None was sent, because "
+                    "the connection is not encrypted and others could read it. Encrypt the connection (-E), "
+                    "or confirm the question in the dialog or on a terminal.")
+                    .arg(name, user)};
     if (m_state->isPasswordUnconfirmed)
         return {CupsErrorKind::NotAuthorized,
                 CupsConnectionTrustText::tr(
@@ -171,7 +170,7 @@ CupsError CupsConnection::passwordError() const
                     .arg(name, user)};
     return {CupsErrorKind::NotAuthorized,
             CupsConnectionTrustText::tr(
-                "The print server \"%1\" wants a password for the user \"%2\", and none was given.")
+                "The print server \"%1\" requires a password for the user \"%2\", and none was entered.")
                 .arg(name, user)};
 }
 

@@ -91,14 +91,14 @@ TEST_F(JobPageTest, NothingStandsForTheQueuesOwnSettings)
     EXPECT_FALSE(settings.orientation || settings.hold || settings.priority || settings.copies ||
                  settings.collate);
     EXPECT_FALSE(settings.pageRanges);
-    EXPECT_EQ(at<QSpinBox>("Priority")->text(), QStringLiteral("As the queue is set"));
+    EXPECT_EQ(at<QSpinBox>("Priority")->text(), QStringLiteral("Queue default"));
 }
 
 TEST_F(JobPageTest, EveryChoiceIsTheWordThatLpTakes)
 {
     const std::pair<const char *, const char *> holds[] = {
         {"Now", "resume"},
-        {"When I release it", "hold"},
+        {"When it is released", "hold"},
         {"During the day", "day-time"},
         {"In the evening", "evening"},
         {"At night", "night"},
@@ -107,7 +107,7 @@ TEST_F(JobPageTest, EveryChoiceIsTheWordThatLpTakes)
         {"At the weekend", "weekend"},
     };
     for (const auto &[text, hold] : holds) {
-        pick("Print it", text);
+        pick("When to print", text);
         EXPECT_EQ(page.settings().hold, QLatin1String(hold));
     }
     const std::pair<const char *, Orientation> orientations[] = {
@@ -120,8 +120,8 @@ TEST_F(JobPageTest, EveryChoiceIsTheWordThatLpTakes)
         pick("Orientation", text);
         EXPECT_EQ(page.settings().orientation, orientation);
     }
-    pick("Print it", "As the queue is set");
-    pick("Orientation", "As the printer is set");
+    pick("When to print", "Queue default");
+    pick("Orientation", "Printer default");
     EXPECT_FALSE(page.settings().hold || page.settings().orientation);
 }
 
@@ -129,11 +129,11 @@ TEST_F(JobPageTest, ATimeIsTheUsersAndBecomesTheServers)
 {
     auto *const time = page.findChild<QTimeEdit *>();
     EXPECT_FALSE(time->isVisible());
-    pick("Print it", "At a time");
+    pick("When to print", "At a specific time");
     EXPECT_TRUE(time->isVisible());
     time->setTime({21, 45});
     EXPECT_EQ(page.settings().hold, dialog::holdFromLocalTime({21, 45}, QDateTime::currentDateTime()));
-    pick("Print it", "Now");
+    pick("When to print", "Now");
     EXPECT_FALSE(time->isVisible());
 }
 
@@ -156,13 +156,13 @@ TEST_F(JobPageTest, ShowsQuietlyWhatIsSet)
         const char *given; ///< back by settings()
     };
     const Row rows[] = {
-        {"hold", "When I release it", "hold"},
-        {"indefinite", "When I release it", "hold"},
+        {"hold", "When it is released", "hold"},
+        {"indefinite", "When it is released", "hold"},
         {"no-hold", "Now", "resume"},
         {"release", "Now", "resume"},
         {"weekend", "At the weekend", "weekend"},
-        {"13:37", "At a time", "13:37"},
-        {"03:07:09", "At a time", "03:07:09"},
+        {"13:37", "At a specific time", "13:37"},
+        {"03:07:09", "At a specific time", "03:07:09"},
         {"full-moon", "full-moon", "full-moon"},
     };
     for (const Row &row : rows) {
@@ -171,7 +171,7 @@ TEST_F(JobPageTest, ShowsQuietlyWhatIsSet)
         settings.orientation = Orientation::ReverseLandscape;
         settings.priority = 77;
         page.setSettings(settings);
-        EXPECT_EQ(at<QComboBox>("Print it")->currentText(), QLatin1String(row.shown));
+        EXPECT_EQ(at<QComboBox>("When to print")->currentText(), QLatin1String(row.shown));
         EXPECT_EQ(page.settings().hold, QLatin1String(row.given));
         EXPECT_EQ(page.settings().orientation, Orientation::ReverseLandscape);
         EXPECT_EQ(page.settings().priority, 77);
@@ -202,7 +202,7 @@ TEST_F(JobPageTest, TellsWhatTheUserChanges)
     QTest::keyClicks(priority, QStringLiteral("0"));
     EXPECT_EQ(page.settings().priority, 42) << "no more than 100";
     spy.clear();
-    pick("Print it", "At a time");
+    pick("When to print", "At a specific time");
     EXPECT_GE(spy.count(), 1);
     spy.clear();
     auto *const time = page.findChild<QTimeEdit *>();
@@ -215,7 +215,7 @@ TEST_F(JobPageTest, TellsWhatTheUserChanges)
 
 TEST_F(JobPageTest, TimesGoPastMidnight)
 {
-    pick("Print it", "At a time");
+    pick("When to print", "At a specific time");
     auto *const time = page.findChild<QTimeEdit *>();
     time->setTime({23, 0});
     time->setFocus();

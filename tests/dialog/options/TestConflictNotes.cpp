@@ -37,7 +37,7 @@ protected:
     {
         QStringList shown;
         for (const QLabel *const label : place->findChildren<QLabel *>()) {
-            if (label->isVisible() && label->text().contains(QStringLiteral("exclude each other")))
+            if (label->isVisible() && label->text().contains(QStringLiteral(" conflict.")))
                 shown.append(label->text());
         }
         return shown.join(u'\n');
@@ -58,7 +58,7 @@ TEST_F(ConflictNotesTest, StandAtThePapersAndAtThePanelWhileThereAreAny)
     EXPECT_EQ(toldAtPanel(), QString());
     choosePaper("Labels 52 mm x 75 mm");
     const QString sentence =
-        QStringLiteral("\"Media Size: Labels 52 mm x 75 mm\" and \"Half Cut: On\" exclude each other.");
+        QStringLiteral("\"Media Size: Labels 52 mm x 75 mm\" and \"Half Cut: On\" conflict.");
     EXPECT_EQ(toldAtPapers(), sentence);
     EXPECT_EQ(toldAtPanel(), sentence);
     EXPECT_EQ(find<QListWidget>(QStringLiteral("Paper"))->accessibleDescription(), sentence);
@@ -90,7 +90,7 @@ TEST_F(ConflictNotesTest, TheNoteIsWholeAndThePanelTooAndOfManySentencesTheFirst
     test_support::turnEventLoop();
     EXPECT_EQ(window->width(), before);
     const auto *const page = window->findChild<dialog::PanelPage *>();
-    EXPECT_EQ(told(page).count(QStringLiteral("exclude each other")), 2);
+    EXPECT_EQ(told(page).count(QStringLiteral(" conflict.")), 2);
     EXPECT_TRUE(toldAtPapers().endsWith(QStringLiteral("\n\u2026"))) << toldAtPapers().toStdString();
     for (const QWidget *const place :
          {static_cast<const QWidget *>(page),
@@ -116,10 +116,10 @@ TEST_F(ConflictNotesTest, OfThousandsTheBannerTellsTheFirst)
     auto *const banner = window->findChild<dialog::ConflictBanner *>();
     ASSERT_TRUE(banner);
     banner->setConflicts({conflicts.begin(), conflicts.begin() + 100}, {});
-    EXPECT_EQ(banner->message().count(QStringLiteral("exclude each other")), 100);
+    EXPECT_EQ(banner->message().count(QStringLiteral(" conflict.")), 100);
     EXPECT_FALSE(banner->message().endsWith(u'\u2026'));
     banner->setConflicts(conflicts, {});
-    EXPECT_EQ(banner->message().count(QStringLiteral("exclude each other")), 100);
+    EXPECT_EQ(banner->message().count(QStringLiteral(" conflict.")), 100);
     EXPECT_TRUE(banner->message().endsWith(QStringLiteral("\n\u2026")));
 }
 

@@ -8,7 +8,7 @@ TEST_F(OptionsPageTest, ConflictsStandAtTheControlsAndGroups)
     tick(in<QCheckBox>("Turbo"));
     EXPECT_EQ(warning("Turbo"), QString());
     pick(in<QComboBox>("Darkness"), 2);
-    const QString sentence = QStringLiteral("\"Darkness: Dark\" and \"Turbo: Fast\" exclude each other.");
+    const QString sentence = QStringLiteral("\"Darkness: Dark\" and \"Turbo: Fast\" conflict.");
     EXPECT_EQ(warning("Turbo"), sentence);
     EXPECT_EQ(warning("Darkness"), sentence);
     EXPECT_EQ(in<QComboBox>("Darkness")->accessibleDescription(), sentence);

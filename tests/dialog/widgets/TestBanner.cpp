@@ -21,9 +21,8 @@ QString sentences(int count)
 {
     QStringList all;
     for (int i = 1; i <= count; ++i)
-        all.append(QStringLiteral("\"Print quality %1: Very high\" and \"Speed %1: Very fast\" "
-                                  "exclude each other.")
-                       .arg(i));
+        all.append(
+            QStringLiteral("\"Print quality %1: Very high\" and \"Speed %1: Very fast\" conflict.").arg(i));
     return all.join(u'\n');
 }
 

@@ -82,8 +82,7 @@ TEST_F(PanelWatchTest, AChangeOutOfSightIsSeenOnTheStrip)
 
 TEST_F(PanelWatchTest, APanelThatRefusesTheJobIsToldAndAskedAgainByTheNextPrint)
 {
-    const QString message =
-        QStringLiteral("\"One box\" does not let the job be printed with these settings.");
+    const QString message = QStringLiteral("\"One box\" does not allow printing with these settings.");
     openOneBox();
     EXPECT_EQ(window->ticket()->panel.error, std::nullopt);
     panelView()->setProperty("refusesJobs", true);

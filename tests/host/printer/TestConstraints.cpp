@@ -71,7 +71,7 @@ TEST(Constraints, AreToldInWordsThatNameBothSides)
     mark(ppd, {{"KvMirror", "ON"}});
     const std::vector<Conflict> conflicts = Constraints(ppd).conflicts();
     ASSERT_EQ(conflicts.size(), 1U);
-    EXPECT_EQ(conflicts[0].sentence(), QStringLiteral("\"Mirror: Yes\" and \"%1: 24mm\" exclude each other.")
+    EXPECT_EQ(conflicts[0].sentence(), QStringLiteral("\"Mirror: Yes\" and \"%1: 24mm\" conflict.")
                                            .arg(ppd.optionText(QStringLiteral("PageSize"))));
     EXPECT_TRUE(conflicts[0].involves(QStringLiteral("KvMirror")));
     EXPECT_TRUE(conflicts[0].involves(QStringLiteral("PageSize")));

@@ -233,13 +233,13 @@ TEST(CutPlan, SaysInWordsWhatHappens)
          true},
         {{.cutAtEnd = true, .halfCut = true}, "Half cut between the labels of a piece.", true},
         {{.automaticCut = true, .halfCut = true}, "Half cut between the labels of a piece.", false},
-        {{.cutMark = true}, "Printed marks where nothing is cut through.", true},
-        {{.automaticCut = true, .cutMark = true}, "Printed marks where nothing is cut through.", false},
+        {{.cutMark = true}, "Cut marks are printed where there is no full cut.", true},
+        {{.automaticCut = true, .cutMark = true}, "Cut marks are printed where there is no full cut.", false},
         {{.chainPrint = true},
-         "The end stays in the printer; the next job goes on from it without a margin.",
+         "The end stays in the printer; the next job continues there without a margin.",
          true},
         {{.halfCut = true, .specialTape = true}, "Special tape: the printer cuts nothing.", true},
-        {{.removeBlank = true}, "Blank tape before and after each label is left out.", true},
+        {{.removeBlank = true}, "Blank tape before and after each label is removed.", true},
         {{.mirror = true}, "The labels are mirrored.", true},
     };
     for (const Row &row : rows) {

@@ -102,7 +102,8 @@ std::vector<Outcome> Kvprint::runAll(const std::vector<QStringList> &lists) cons
 std::vector<ReportedChange> toldChanges(const QByteArray &error)
 {
     static const QRegularExpression line(
-        QStringLiteral("^kvprint: \"(.+)\" cannot be \"(.*)\" with this paper .* printed as \"(.*)\"\\.$"),
+        QStringLiteral(
+            "^kvprint: \"(.+)\" cannot be \"(.*)\" with this paper .*; \"(.*)\" is used instead\\.$"),
         QRegularExpression::MultilineOption);
     std::vector<ReportedChange> changes;
     for (auto matches = line.globalMatch(QString::fromUtf8(error)); matches.hasNext();) {

@@ -15,7 +15,7 @@ using test_support::RecordedDocument;
 namespace {
 
 constexpr int printedWithoutPanel = 3;
-const char *const sentAllTheSame = "The job was sent all the same";
+const char *const sentAllTheSame = "The job was sent nevertheless";
 
 /// Without what is another in each run: the times and numbers of jobs.
 QByteArray comparable(QByteArray text)

@@ -230,7 +230,7 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
         {"--list --summary", {"--list", "--summary"}},
         {"--json a.pdf", {"--json", "--list", "--summary", "--dry-run"}},
         {"--json -i 5", {"--json", "-i"}},
-        {"--list=yes", {"--list", "no value"}},
+        {"--list=yes", {"--list", "not accept a value"}},
         {"--ppd", {"--ppd", "FILE"}},
         {"--paper=", {"--paper", "empty"}},
         {"--colour a.pdf", {"\"--colour\""}},

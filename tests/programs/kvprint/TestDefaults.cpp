@@ -43,7 +43,7 @@ TEST_F(KvprintDefaults, AreShownAsTheyArePrinted)
     QMap<QString, QString> told = summary({});
     EXPECT_EQ(told[QStringLiteral("Copies")], QStringLiteral("3"));
     EXPECT_EQ(told[QStringLiteral("Pages")], QStringLiteral("2-3"));
-    EXPECT_EQ(told[QStringLiteral("Order")], QStringLiteral("last page first"));
+    EXPECT_EQ(told[QStringLiteral("Order")], QStringLiteral("reverse"));
     EXPECT_EQ(told[QStringLiteral("Labels")], QStringLiteral("6"));
     const Outcome outcome =
         kvprint.run({QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape, samplePdf()});
@@ -66,5 +66,5 @@ TEST_F(KvprintDefaults, MoreLabelsThanAnybodyPrintsAreRefused)
 {
     expectError({QStringLiteral("-d"), tape, QStringLiteral("-n"), QStringLiteral("9999"), samplePdf(),
                  samplePdf(), samplePdf()},
-                {QStringLiteral("at most 100000")});
+                {QStringLiteral("more than 100000")});
 }

@@ -44,18 +44,12 @@ std::vector<Destination> everyKind()
 
 TEST(DestinationReport, TellsPeopleHowQueuesAre)
 {
-    EXPECT_EQ(programs::destinationsInPlainText(everyKind()),
-              QStringLiteral("tape (default)\n"
-                             "    Tape printer, Desk by the window\n"
-                             "    The queue is paused; jobs wait. The label roll or tape is empty. "
-                             "The queue accepts no jobs. The server says: Lunch\n"
-                             "tape/fine\n"
-                             "    Ready.\n"
-                             "all\n"
-                             "    Class of: tape, Büro\n"
-                             "    Printing.\n"
-                             "far\n"
-                             "    State unknown.\n"));
+    EXPECT_EQ(
+        programs::destinationsInPlainText(everyKind()),
+        QStringLiteral(
+            "tape (default)\n    Tape printer, Desk by the window\n    The queue is paused; jobs wait. The "
+            "label roll or tape is empty. The queue accepts no jobs. Server message: Lunch\ntape/fine\n    "
+            "Ready.\nall\n    Class of: tape, B\u00fcro\n    Printing.\nfar\n    State unknown.\n"));
     EXPECT_EQ(programs::destinationsInPlainText({}), QString());
 }
 

@@ -62,7 +62,8 @@ TEST_F(KvprintErrors, NameBothSidesOfAConflict)
     cupsd.addQueue(QStringLiteral("roll"), samplePpd(QStringLiteral("kvelland-dz500")));
     const QStringList words{QStringLiteral("-d"), QStringLiteral("roll"), QStringLiteral("-o"),
                             QStringLiteral("MediaType=Film PrintPriority=Speed")};
-    expectError(words + QStringList{picture()}, {word("Film"), word("Speed"), word("This would help")});
+    expectError(words + QStringList{picture()},
+                {word("Film"), word("Speed"), word("To resolve the conflict")});
     const RecordedDocument job = printed(words + QStringList{QStringLiteral("--force")});
     EXPECT_EQ(job.option("MediaType"), "Film");
     EXPECT_EQ(job.option("PrintPriority"), "Speed");
@@ -87,7 +88,7 @@ TEST_F(KvprintErrors, AreTheSameForAPpdFileAndForAQueue)
         const char *messagePart;
     } rows[] = {
         {"kvelland-dz500", "KvMirror=ON", {0, 0, 0, 0, 0}, ""},
-        {"kvelland-dz500", "MediaType=Film PrintPriority=Speed", {0, 1, 1, 0, 0}, "exclude each other"},
+        {"kvelland-dz500", "MediaType=Film PrintPriority=Speed", {0, 1, 1, 0, 0}, " conflict."},
         {"kvelland-dz500", "MediaType=Gold", {1, 1, 1, 0, 0}, "Gold"},
         {"kvelland-dz500", "NoSuch=ON KvMirror=SIDEWAYS", {1, 1, 1, 0, 0}, "no option \"NoSuch\""},
         {"kvelland-lx900",

@@ -43,7 +43,7 @@ TEST_F(KvprintOutput, AJobWhoseNumberCannotBeWrittenIsToldAmongTheMessages)
     const QStringList words{QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape, picture()};
     const Outcome outcome = runRedirected(">/dev/full", words);
     EXPECT_EQ(outcome.status, 1) << outcome;
-    EXPECT_TRUE(outcome.error.contains("The job was sent all the same, as tape-1.")) << outcome;
+    EXPECT_TRUE(outcome.error.contains("The job was sent nevertheless, as tape-1.")) << outcome;
     EXPECT_EQ(recorded(1).firstKey(), 1);
     // With -s the number is not printed, so writing cannot fail.
     EXPECT_EQ(runRedirected(">/dev/full", words + QStringList{QStringLiteral("-s")}).status, 0);

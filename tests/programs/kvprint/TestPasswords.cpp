@@ -77,7 +77,7 @@ TEST_F(KvprintPasswords, NeedNotBeGiven)
         Terminal terminal = start();
         terminal.waitFor("anna");
         terminal.type(key);
-        terminal.waitFor("wants a password");
+        terminal.waitFor("requires a password");
         EXPECT_EQ(terminal.end(), 1) << terminal.shown().toStdString();
         EXPECT_EQ(results(), QByteArray());
     }
@@ -101,10 +101,10 @@ TEST_F(KvprintPasswords, AreNotWaitedForWithoutATerminal)
     const QStringList server{QStringLiteral("-h"), locked.address(), QStringLiteral("-U"),
                              QStringLiteral("anna")};
     expectError(server + QStringList{QStringLiteral("-d"), QStringLiteral("tape"), picture()},
-                {QStringLiteral("wants a password"), QStringLiteral("anna")});
+                {QStringLiteral("requires a password"), QStringLiteral("anna")});
     const Outcome list = kvprint.run(server + QStringList{QStringLiteral("--list")});
     EXPECT_EQ(list.status, 1);
-    EXPECT_TRUE(list.error.contains("wants a password")) << list;
+    EXPECT_TRUE(list.error.contains("requires a password")) << list;
 }
 
 TEST_F(KvprintPasswords, AreAskedForWhenOnlyTheDocumentNeedsOne)
@@ -120,7 +120,7 @@ TEST_F(KvprintPasswords, AreAskedForWhenOnlyTheDocumentNeedsOne)
         terminal.type(keys);
         const bool isGiven = keys[0] == 's';
         EXPECT_EQ(terminal.end(), isGiven ? 0 : 1) << terminal.shown().toStdString();
-        EXPECT_EQ(terminal.shown().count("wants a password"), isGiven ? 0 : 1)
+        EXPECT_EQ(terminal.shown().count("requires a password"), isGiven ? 0 : 1)
             << terminal.shown().toStdString();
     }
     recorded(1);
@@ -135,5 +135,5 @@ TEST_F(KvprintPasswords, MayBeWantedForPrintingOnly)
     cupsd.addQueue(QStringLiteral("locked"), samplePpd(QStringLiteral("kvelland-lx900")),
                    {QStringLiteral("-o"), QStringLiteral("printer-op-policy=locked")});
     expectError({QStringLiteral("-d"), QStringLiteral("locked"), picture()},
-                {QStringLiteral("wants a password")});
+                {QStringLiteral("requires a password")});
 }

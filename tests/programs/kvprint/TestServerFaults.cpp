@@ -64,7 +64,7 @@ TEST_F(KvprintFaults, AServerThatIsNotThere)
 TEST_F(KvprintFaults, AServerThatIsSilent)
 {
     const FaultyServer silent(cupsd.port(), {.silent = true});
-    expectFailureAt(silent.address(), picture(), "does not answer");
+    expectFailureAt(silent.address(), picture(), "does not respond");
     EXPECT_GT(silent.connectionCount(), 0);
 }
 
@@ -74,7 +74,7 @@ TEST_F(KvprintFaults, AServerThatFallsSilentWhenItHasTheDocument)
     const FaultProxy silent(cupsd.port(), {.kind = test_support::ProxyFault::Kind::Silence,
                                            .operation = IPP_OP_SEND_DOCUMENT,
                                            .direction = test_support::Direction::ToClient});
-    expectFailureAt(silent.address(), largePicture(), "does not answer");
+    expectFailureAt(silent.address(), largePicture(), "does not respond");
     // It has the whole document and would print it.
     EXPECT_EQ(jobAttributes(1).value("number-of-documents"), "1");
     cupsd.resume(tape);

@@ -133,7 +133,7 @@ TEST_F(KvprintSignals, TheJobOfAKilledProgramIsToldAndSettledOnRequest)
 
         const Outcome none = kvprint.run({QStringLiteral("--cancel-left"), QStringLiteral("tape-7")});
         EXPECT_EQ(none.status, 1) << none;
-        EXPECT_TRUE(none.error.contains("these are left: " + name)) << none;
+        EXPECT_TRUE(none.error.contains("there are these: " + name)) << none;
         const QString action =
             jobId == 1 ? QStringLiteral("--cancel-left") : QStringLiteral("--release-left");
         const Outcome settled = kvprint.run({action, QString::fromUtf8(name)});
@@ -145,7 +145,7 @@ TEST_F(KvprintSignals, TheJobOfAKilledProgramIsToldAndSettledOnRequest)
     EXPECT_EQ(cupsd.waitForDocuments(1)[0].job, 2);
     const Outcome none = kvprint.run({QStringLiteral("--release-left"), QStringLiteral("tape-2")});
     EXPECT_EQ(none.status, 1) << none;
-    EXPECT_TRUE(none.error.contains("none is left")) << none;
+    EXPECT_TRUE(none.error.contains("there are no such jobs")) << none;
 }
 
 TEST_F(KvprintSignals, EndTheWaitForAServerThatIsSilent)

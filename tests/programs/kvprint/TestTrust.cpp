@@ -100,7 +100,7 @@ TEST_F(KvprintTrust, AnUnknownCertificateIsAnErrorWithoutATerminal)
     EXPECT_EQ(outcome.status, 1) << outcome;
     EXPECT_EQ(outcome.out, QByteArray());
     for (const QByteArray &part : {server().toUtf8(), fingerprint(), QByteArray("is not trusted: "),
-                                   QByteArray("confirm it when you are asked")})
+                                   QByteArray("confirm it in the dialog or on a terminal")})
         EXPECT_TRUE(outcome.error.contains(part)) << part.toStdString() << "\n" << outcome;
     EXPECT_FALSE(QFile::exists(trustedFile()));
     // The same when the user's settings encrypt.
@@ -165,7 +165,7 @@ TEST_F(KvprintTrust, TheAdministratorsSettingsHold)
         file(QStringLiteral("home/.cups/client.conf"), setting);
         Terminal terminal(command(encrypted()), kvprint.environment);
         EXPECT_EQ(terminal.end(), 1) << setting;
-        EXPECT_TRUE(terminal.shown().contains("must not be trusted")) << terminal.shown().toStdString();
+        EXPECT_TRUE(terminal.shown().contains("cannot be trusted")) << terminal.shown().toStdString();
     }
     EXPECT_FALSE(QFile::exists(trustedFile()));
 }
@@ -181,12 +181,12 @@ TEST_F(KvprintTrust, AnExpiredCertificateMayBeTrustedIfTheSettingsAllowIt)
             trust();
             continue;
         }
-        expectError(encrypted(), {server().toUtf8(), fingerprint(), "must not be trusted", "expired"});
+        expectError(encrypted(), {server().toUtf8(), fingerprint(), "cannot be trusted", "expired"});
         EXPECT_FALSE(QFile::exists(trustedFile()));
     }
     // A certificate that was trusted before is rejected when the settings change.
     file(QStringLiteral("home/.cups/client.conf"), "AllowExpiredCerts no\n");
-    expectError(encrypted(), {"must not be trusted", "expired"});
+    expectError(encrypted(), {"cannot be trusted", "expired"});
 }
 
 TEST_F(KvprintTrust, EncryptionThatIsRequiredIsUsedOrNothingIsSent)
@@ -209,7 +209,7 @@ TEST_F(KvprintTrust, APasswordThatOthersCanReadIsNotSentUnasked)
     cupsd.configureForNetwork(host);
     const FaultyServer locked(cupsd.port(), {.credentials = "anna:secret", .host = host});
     expectError(printing(locked.address()),
-                {locked.address().toUtf8(), "anna", "not encrypted", "confirm when you are asked"});
+                {locked.address().toUtf8(), "anna", "not encrypted", "confirm the question"});
     Terminal terminal(command(printing(locked.address())), kvprint.environment);
     terminal.waitFor(locked.address().toUtf8().constData());
     terminal.waitFor("continue:");

@@ -102,7 +102,7 @@ TEST_F(KvprintVirtualPrinter, AConflictIsAnErrorUnlessForced)
     const FilesOutcome outcome = print(conflict);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.out, QString());
-    for (const char *part : {"Film", "Speed", "exclude each other", "This would help"})
+    for (const char *part : {"Film", "Speed", " conflict.", "To resolve the conflict"})
         EXPECT_TRUE(outcome.error.contains(QLatin1String(part))) << part << outcome.error.toStdString();
     EXPECT_EQ(written(), QStringList());
     EXPECT_EQ(print(conflict + QStringList{QStringLiteral("--force")}).status, 0);
@@ -112,7 +112,7 @@ TEST_F(KvprintVirtualPrinter, AConflictIsAnErrorUnlessForced)
 TEST_F(KvprintVirtualPrinter, BadInputIsNamedAndNothingIsWritten)
 {
     const QString empty = sandbox.write(QStringLiteral("empty.pdf"), "");
-    const QString text = sandbox.write(QStringLiteral("text.pdf"), "no PDF");
+    const QString text = sandbox.write(QStringLiteral("text.pdf"), "not a PDF");
     const QByteArray truncated = tapePpd().left(tapePpd().indexOf("Kvelland Tape 9"));
     const QString cut = sandbox.write(QStringLiteral("cut.ppd"), truncated);
     const QString brokenBundle = QStringLiteral(KV_BINARY_DIR "/tests/bundles/needs_files");
@@ -132,7 +132,7 @@ TEST_F(KvprintVirtualPrinter, BadInputIsNamedAndNothingIsWritten)
         {{ppdOption, document, document}, 1, {document, QStringLiteral("line 1")}},
         {{ppdOption, ppd, QStringLiteral("/nowhere.pdf")}, 1, {QStringLiteral("/nowhere.pdf")}},
         {{ppdOption, ppd, empty}, 1, {empty, QStringLiteral("empty")}},
-        {{ppdOption, ppd, text}, 1, {text, QStringLiteral("no PDF")}},
+        {{ppdOption, ppd, text}, 1, {text, QStringLiteral("not a PDF")}},
         {{ppdOption, ppd, QStringLiteral("--paper"), QStringLiteral("A4"), document},
          1,
          {QStringLiteral("\"A4\""), ppd, QStringLiteral("DC52x75R")}},
@@ -168,7 +168,7 @@ TEST_F(KvprintVirtualPrinter, GoesOnWithoutAPanelButSaysSo)
     const std::pair<const char *, const char *> rows[] = {
         {"/nowhere", "no such folder"},
         {KV_BINARY_DIR "/tests/bundles/other_version", "version 9"},
-        {KV_BINARY_DIR "/tests/bundles/other_interface", "no library of panels"},
+        {KV_BINARY_DIR "/tests/bundles/other_interface", "contains no panels"},
         {KV_BINARY_DIR "/tests/bundles/refusing", "does not work on this system"},
     };
     for (const auto &[bundle, reason] : rows) {

@@ -161,7 +161,8 @@ TEST_F(JobJournalTest, AJobThatIsOverIsForgottenAndAnotherOfItsNumberLeftAlone)
     const host::JobJournal::Left before = journal.left();
     const auto outcome = settle(record, LeftJobAction::Cancel);
     ASSERT_TRUE(outcome) << qPrintable(outcome.error().message);
-    EXPECT_TRUE(outcome.value().contains(QStringLiteral("it is over"))) << qPrintable(outcome.value());
+    EXPECT_TRUE(outcome.value().contains(QStringLiteral("the job is finished")))
+        << qPrintable(outcome.value());
     EXPECT_EQ(state(1), JobState::Held);
     EXPECT_EQ(journal.left().jobs.size(), before.jobs.size());
 }

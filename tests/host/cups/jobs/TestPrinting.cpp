@@ -173,7 +173,7 @@ TEST_F(PrintingTest, AJobIsOverOfWhichTheServerKeepsNoRecord)
     EXPECT_TRUE(waitUntil([&] { return job.last.isOver(); }));
     EXPECT_EQ(job.last.state, JobState::Completed);
     EXPECT_EQ(job.last.sentences(),
-              QStringList{QStringLiteral("The job is over; the print server keeps no record of it.")});
+              QStringList{QStringLiteral("The job is finished; the print server keeps no record of it.")});
     EXPECT_EQ(job.problems, QStringList());
 }
 

@@ -208,7 +208,7 @@ TEST_F(DestinationListTest, AServerThatIsNotThereOrSilentIsToldInWords)
 
     const std::tuple<CupsServer, CupsErrorKind, const char *> rows[] = {
         {serverAt(refusing.address()), CupsErrorKind::Unreachable, "Cannot connect to the print server"},
-        {silentServerAt(silent.address()), CupsErrorKind::Silent, "does not answer"},
+        {silentServerAt(silent.address()), CupsErrorKind::Silent, "does not respond"},
         {serverAt(QStringLiteral("/nonexistent/cups.sock")), CupsErrorKind::Unreachable,
          "/nonexistent/cups.sock"},
     };

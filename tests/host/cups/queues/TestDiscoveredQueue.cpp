@@ -172,7 +172,7 @@ TEST_F(DiscoveredQueueTest, APrinterThatIsGoneIsTold)
         // The address no longer has a listening printer.
         {"ipp://127.0.0.1:1/ipp/print", "cannot reach the printer \"found\""},
         // The name is no longer announced.
-        {"ipp://Labels%20upstairs._ipp._tcp.local/", "\"found\" is not on the network"},
+        {"ipp://Labels%20upstairs._ipp._tcp.local/", "\"found\" is no longer on the network"},
     };
     for (const auto &row : rows) {
         found.deviceUri = QLatin1String(row.address);

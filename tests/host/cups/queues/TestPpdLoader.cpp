@@ -142,7 +142,7 @@ TEST_F(PpdLoaderTest, AConnectionThatBreaksBeforeTheAnswerIsToldAndTheCachedPpdS
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsErrorKind::Unreachable);
     EXPECT_EQ(outcome.error->message,
-              QStringLiteral("The connection to the print server \"%1\" broke.").arg(breaking.address()));
+              QStringLiteral("The connection to the print server \"%1\" was lost.").arg(breaking.address()));
     EXPECT_TRUE(PpdLoader(through).cached(tape));
 }
 

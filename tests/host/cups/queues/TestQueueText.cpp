@@ -24,14 +24,14 @@ TEST(QueueText, TellTheStateTheReasonsAndTheServersWords)
     const Row rows[] = {
         {QueueState::Ready, {}, true, "", "Ready.", StateSeverity::Good},
         {QueueState::Ready, {}, true, "Idle", "Ready.", StateSeverity::Good},
-        {QueueState::Printing, {}, true, "page 3", "Printing. The server says: page 3", StateSeverity::Good},
+        {QueueState::Printing, {}, true, "page 3", "Printing. Server message: page 3", StateSeverity::Good},
         {QueueState::Paused, reason("paused"), true, "Paused", "The queue is paused; jobs wait.",
          StateSeverity::Error},
         {QueueState::Paused,
          {},
          true,
          "Lunch",
-         "The queue is paused; jobs wait. The server says: Lunch",
+         "The queue is paused; jobs wait. Server message: Lunch",
          StateSeverity::Error},
         {QueueState::Ready, reason("media-empty-error"), true, "", "The label roll or tape is empty.",
          StateSeverity::Error},
@@ -65,13 +65,13 @@ TEST(QueueText, TellTheStateTheReasonsAndTheServersWords)
 TEST(QueueText, TellWhatBecomesOfAJob)
 {
     const std::tuple<JobState, const char *, const char *, const char *, const char *> rows[] = {
-        {JobState::Waiting, "", "", "", "Waiting for its turn."},
+        {JobState::Waiting, "", "", "", "Waiting in the queue."},
         {JobState::Held, "indefinite", "", "", "Held until it is released."},
         {JobState::Held, "night", "", "", "Held until night."},
         {JobState::Printing, "", "media-jam-error", "feeding",
-         "Printing. Labels or tape are jammed. The server says: feeding"},
+         "Printing. Labels or tape are jammed. Server message: feeding"},
         {JobState::Aborted, "", "media-jam-error", "Filter failed",
-         "Aborted by the print server. The server says: Filter failed"},
+         "Aborted by the print server. Server message: Filter failed"},
         {JobState::Canceled, "", "", "old", "Canceled."},
         {JobState::Completed, "", "media-low", "old", "Printed."},
     };

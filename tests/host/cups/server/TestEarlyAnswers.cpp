@@ -43,7 +43,7 @@ TEST_F(EarlyAnswersTest, HalfADocumentIsNotPrintedThoughTheServerIsContentWithIt
     const Outcome outcome = print(largeTicket(), at(hasty));
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsErrorKind::Rejected);
-    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("did not take all of")))
+    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("did not receive all of")))
         << qPrintable(outcome.error->message);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("large.txt")))
         << qPrintable(outcome.error->message);
@@ -77,7 +77,7 @@ TEST_F(EarlyAnswersTest, APasswordThatWasGivenIsNotBlamedForABrokenConnection)
     const Outcome outcome = print(ticket(), guarded);
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->kind, CupsErrorKind::OutcomeUnknown) << qPrintable(outcome.error->message);
-    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("broke")))
+    EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("was lost")))
         << qPrintable(outcome.error->message);
 }
 

@@ -86,7 +86,7 @@ TEST_F(PasswordsTest, WithoutTheOneForDocumentsTheJobIsCanceled)
             EXPECT_EQ(outcome.error->kind, CupsErrorKind::NotAuthorized)
                 << qPrintable(outcome.error->message);
             EXPECT_TRUE(outcome.error->message.contains(
-                passwords.isEmpty() ? QStringLiteral("none was given") : QStringLiteral("does not accept")))
+                passwords.isEmpty() ? QStringLiteral("none was entered") : QStringLiteral("does not accept")))
                 << qPrintable(outcome.error->message);
             EXPECT_EQ(asked, qMax(passwords.size(), qsizetype(1)));
             expectNothingWaits();
