@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MailRecipient.h"
 
-#include <host/cups/server/Background.h>
+#include <host/cups/server/HostLookup.h>
 
 #include <QSysInfo>
 
 #include <cups/cups.h>
 
-#include <array>
 #include <chrono>
-#include <future>
-#include <memory>
 
 namespace host {
 inline namespace cups {
@@ -23,16 +20,15 @@ constexpr std::chrono::milliseconds timeout{1000};
 
 QByteArray fullHostName()
 {
-    // Runs on a separate thread, since the lookup of a name cannot be interrupted.
-    auto found = std::make_shared<std::promise<QByteArray>>();
-    std::future<QByteArray> name = found->get_future();
-    Background::detach([found] {
-        std::array<char, HTTP_MAX_HOST> text = {};
-        found->set_value(httpGetHostname(nullptr, text.data(), static_cast<int>(text.size())));
-    });
-    if (name.wait_for(timeout) == std::future_status::ready)
-        return name.get();
-    return QSysInfo::machineHostName().toUtf8();
+    // As httpGetHostname(), which cannot be interrupted.
+    QByteArray name = QSysInfo::machineHostName().toUtf8();
+    if (!name.contains('.')) {
+        const std::shared_ptr<const HostLookup::Answer> found = HostLookup::find(name, timeout);
+        if (found && !found->canonicalName().isEmpty())
+            name = found->canonicalName();
+    }
+    // The final dot keeps a name of mDNS from being completed with the network's domain.
+    return name.endsWith(".local") ? name + '.' : name;
 }
 
 } // namespace
