@@ -6,29 +6,25 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <thread>
 
 namespace test_support {
 
-namespace {
-
-bool hasBackgroundThreads()
+qsizetype backgroundThreadCount()
 {
     const QDir threads(QStringLiteral("/proc/self/task"));
-    for (const QString &thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    const QStringList all = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::ranges::count_if(all, [&](const QString &thread) {
         QFile name(threads.filePath(thread + QStringLiteral("/comm")));
-        if (name.open(QIODevice::ReadOnly) && name.readAll() == "kv-background\n")
-            return true;
-    }
-    return false;
+        return name.open(QIODevice::ReadOnly) && name.readAll() == "kv-background\n";
+    });
 }
-
-} // namespace
 
 void awaitBackgroundThreads()
 {
     constexpr std::chrono::milliseconds step{10};
-    for (auto time = step * 0; time < failureTimeout && hasBackgroundThreads(); time += step)
+    for (auto time = step * 0; time < failureTimeout && backgroundThreadCount() > 0; time += step)
         std::this_thread::sleep_for(step);
 }
 

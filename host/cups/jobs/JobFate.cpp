@@ -8,7 +8,6 @@
 
 #include <array>
 #include <chrono>
-#include <thread>
 
 namespace host {
 inline namespace cups {
@@ -48,7 +47,7 @@ Result<std::optional<int>, CupsError> JobFate::findLate(const QByteArray &uuid) 
                                    std::chrono::milliseconds(400)};
     Result<std::optional<int>, CupsError> job = std::optional<int>();
     for (const std::chrono::milliseconds pause : pauses) {
-        std::this_thread::sleep_for(pause);
+        BackgroundTask().pause(pause);
         job = find(uuid);
         if (!job || job.value())
             break;

@@ -22,20 +22,26 @@ void JobSubmission::submit(const JobTicket &ticket)
             uploadJob(server, ticket, task, [&](const UploadProgress &progress) {
                 task.deliver([this, progress] { Q_EMIT progressed(progress); });
             });
-        task.deliver([this, job] {
-            m_isBusy = false;
-            if (job)
-                Q_EMIT submitted(job.value());
-            else
-                Q_EMIT failed(job.error());
-        });
+        task.deliver([this, job] { finish(job); });
     });
+}
+
+void JobSubmission::finish(const Result<int, CupsError> &job)
+{
+    m_isBusy = false;
+    if (job)
+        Q_EMIT submitted(job.value());
+    else
+        Q_EMIT failed(job.error());
 }
 
 void JobSubmission::cancel()
 {
-    if (m_task)
-        m_task->cancel();
+    if (!m_task || m_task->cancel() != BackgroundTask::Cancellation::BeforeStart)
+        return;
+    // The task delivers no result.
+    QMetaObject::invokeMethod(
+        this, [this] { finish(CupsConnection::canceledError()); }, Qt::QueuedConnection);
 }
 
 } // namespace jobs

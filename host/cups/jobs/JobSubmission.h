@@ -37,6 +37,8 @@ Q_SIGNALS:
     void failed(const host::CupsError &error);
 
 private:
+    void finish(const Result<int, CupsError> &job);
+
     CupsServer m_server;
     bool m_isBusy = false;
     Background m_background;

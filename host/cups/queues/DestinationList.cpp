@@ -52,7 +52,7 @@ void DestinationList::refresh(Discovery discovery)
 {
     if (m_task)
         m_task->cancel();
-    const bool needsOthers = std::exchange(m_isPartial, false);
+    const bool needsOthers = m_isPartial;
     m_task = m_background.start([this, server = m_server, discovery, needsOthers](BackgroundTask &task) {
         // "this" is only used in deliveries, on the main thread and while the object exists.
         if (needsOthers)
@@ -81,6 +81,7 @@ void DestinationList::refresh(Discovery discovery)
 
 void DestinationList::setCachedDestinations(const std::vector<Destination> &destinations)
 {
+    m_isPartial = false;
     if (!m_isStale || destinations.empty())
         return;
     m_destinations = destinations;

@@ -117,19 +117,24 @@ int CupsConnection::mayWaitOn(http_t *http, void *data)
         state.restartSilence();
     state.unsent = unsent;
     state.wasSilent = state.hasBeenSilentTooLong();
-    return !state.wasSilent && (state.ignoresCancellation || !state.task->isCanceled());
+    return !state.wasSilent && !state.isInterrupted();
 }
 
 bool CupsConnection::isCanceledOrTimedOut() const
 {
-    return m_state->wasSilent || (m_state->task->isCanceled() && !m_state->ignoresCancellation);
+    return m_state->wasSilent || m_state->isInterrupted();
+}
+
+CupsError CupsConnection::canceledError()
+{
+    return {CupsErrorKind::Canceled, CupsConnectionText::tr("Canceled on request.")};
 }
 
 CupsError CupsConnection::noAnswer() const
 {
     const QString name = server().displayName();
     if (m_state->task->isCanceled())
-        return {CupsErrorKind::Canceled, CupsConnectionText::tr("Canceled on request.")};
+        return canceledError();
     if (m_state->certificateError)
         return *m_state->certificateError;
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Background.h"
+#include "BackgroundTask.h"
 #include "CupsServer.h"
 #include "CupsThreadScope.h"
 
@@ -49,7 +49,8 @@ public:
     Result<IppPointer, CupsError> exchange(IppPointer request, const QByteArray &resource);
 
     /// Like exchange(), for a request that creates something on the server: canceling the task does not
-    /// interrupt it, because only the response identifies what has to be canceled.
+    /// interrupt it, because only the response identifies what has to be canceled. The end of the program
+    /// does interrupt it.
     Result<IppPointer, CupsError> exchangeUncancelable(IppPointer request, const QByteArray &resource);
 
     /// Returns whether the last request, or most of it, was sent and no complete response was received: the
@@ -86,6 +87,8 @@ public:
     Result<std::optional<File>, CupsError>
     fetch(const QByteArray &resource, const std::optional<QByteArray> &unlessModifiedSince, qint64 maxBytes);
 
+    /// Returns the error of a request that was canceled.
+    static CupsError canceledError();
     /// Returns why there is no response: canceled, timed out, connection broken, or not connected.
     CupsError noAnswer() const;
 
@@ -93,6 +96,10 @@ private:
     /// The data of libcups callbacks; its address does not change when the connection is moved.
     struct State {
         void restartSilence() { heard = server.clock(); }
+        bool isInterrupted() const
+        {
+            return task->isCanceled() && (!ignoresCancellation || task->isProgramEnding());
+        }
         bool hasBeenSilentTooLong() const { return server.clock() - heard > server.timeout; }
 
         CupsServer server;

@@ -23,8 +23,7 @@ void PasswordRequest::reject() const
 
 bool PasswordMemory::waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task)
 {
-    while (m_isAsking && !task.isCanceled())
-        m_answered.wait_for(lock, std::chrono::milliseconds(100));
+    m_answered.wait(lock, task.stopToken(), [this] { return !m_isAsking; });
     return !task.isCanceled();
 }
 

@@ -69,7 +69,7 @@ private:
     bool waitForTurn(std::unique_lock<std::mutex> &lock, const BackgroundTask &task);
 
     std::mutex m_mutex;
-    std::condition_variable m_answered;
+    std::condition_variable_any m_answered;
     /// The last password that was entered; it may be wrong. Absent if it is known to be wrong.
     std::optional<PasswordRequest::Credentials> m_credentials;
     /// The number of passwords entered so far.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Background.h"
+#include "BackgroundTask.h"
 
 #include <condition_variable>
 #include <memory>
@@ -32,15 +32,14 @@ public:
     {
         std::unique_lock lock(m_state->mutex);
         // A question whose window is destroyed gets no answer; the task is canceled then.
-        while (!m_state->isGiven && !task.isCanceled())
-            m_state->given.wait_for(lock, std::chrono::milliseconds(100));
+        m_state->given.wait(lock, task.stopToken(), [&] { return m_state->isGiven; });
         return m_state->answer;
     }
 
 private:
     struct State {
         std::mutex mutex;
-        std::condition_variable given;
+        std::condition_variable_any given;
         bool isGiven = false;
         std::optional<Answer> answer;
     };

@@ -40,8 +40,7 @@ bool TrustMemory::isGranted(const TrustRequest &request, const BackgroundTask &t
 {
     const QString identifier = identifierOf(request);
     std::unique_lock lock(m_mutex);
-    while (m_isAsking && !m_granted.contains(identifier) && !task.isCanceled())
-        m_answered.wait_for(lock, std::chrono::milliseconds(100));
+    m_answered.wait(lock, task.stopToken(), [&] { return !m_isAsking || m_granted.contains(identifier); });
     if (m_granted.contains(identifier))
         return true;
     if (m_rejected.contains(identifier) || !ask || task.isCanceled())

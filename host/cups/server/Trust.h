@@ -71,7 +71,7 @@ public:
 
 private:
     std::mutex m_mutex;
-    std::condition_variable m_answered;
+    std::condition_variable_any m_answered;
     bool m_isAsking = false;
     /// The identifiers of the answered questions; see Trust.cpp.
     QSet<QString> m_granted;

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <host/cups/jobs/JobMonitor.h>
+#include <host/cups/server/Background.h>
 #include <tests/servers/FaultyServer.h>
 #include <tests/servers/ManualClock.h>
 #include <tests/servers/PrintingTest.h>
+#include <tests/support/BackgroundThreads.h>
 #include <tests/support/FaultProxy.h>
+
+#include <QSemaphore>
 
 #include <cups/ipp.h>
 #include <sys/stat.h>
@@ -266,6 +270,27 @@ TEST_F(PrintingFaultsTest, CancellingTakesTheJobBack)
     EXPECT_EQ(sending.error->kind, CupsErrorKind::Canceled) << qPrintable(sending.error->message);
     EXPECT_FALSE(sending.submission.isBusy());
     expectNothingWaits();
+}
+
+TEST_F(PrintingFaultsTest, AJobThatIsCanceledBeforeItsTurnIsNotSent)
+{
+    const FaultyServer counting(cupsd.port(), {});
+    QSemaphore gate;
+    {
+        host::Background others;
+        for (std::size_t task = 0; task < host::BackgroundPool::usualMaxThreads; ++task)
+            others.start([&](host::BackgroundTask &) { gate.acquire(); });
+        Sending sending(serverAt(counting.address()), ticket());
+        sending.submission.cancel();
+        sending.submission.cancel();
+        EXPECT_TRUE(waitUntil([&] { return sending.isOver(); }));
+        ASSERT_TRUE(sending.error);
+        EXPECT_EQ(sending.error->kind, CupsErrorKind::Canceled);
+        EXPECT_FALSE(sending.submission.isBusy());
+    }
+    gate.release(static_cast<int>(host::BackgroundPool::usualMaxThreads));
+    test_support::awaitBackgroundThreads();
+    EXPECT_EQ(counting.connectionCount(), 0);
 }
 
 TEST_F(PrintingFaultsTest, ClosingTheDialogWhileSendingWaitsForNothingAndPrintsNothing)
