@@ -57,21 +57,39 @@ Result<CupsConnection, CupsError> CupsConnection::open(const CupsServer &server,
     return connection;
 }
 
+bool CupsConnection::lookUp()
+{
+    m_state->lookupError.reset();
+    auto addresses = ServerAddresses::find(cupsServer(), ippPort(), server().timeout, *m_state->task);
+    if (!addresses) {
+        m_state->wasSilent = addresses.error().kind == ServerAddresses::ErrorKind::Silent;
+        m_state->lookupError = addresses.error().message;
+        return false;
+    }
+    m_state->addresses = std::move(addresses).value();
+    return true;
+}
+
 bool CupsConnection::connect()
 {
     m_http.reset();
     m_state->unsent = 0;
     beginWaiting();
+    if (!lookUp())
+        return false;
+    // The server has its whole timeout, however long the name server has taken.
+    beginWaiting();
     errno = 0;
-    // Encryption starts afterwards, when the timeout is already in effect.
-    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1,
-                              static_cast<int>(timeout()), m_state->task->cancelFlag()));
+    constexpr int connectLater = 0; // milliseconds
+    m_http.reset(httpConnect2(cupsServer(), ippPort(), m_state->addresses.list(), AF_UNSPEC,
+                              HTTP_ENCRYPTION_IF_REQUESTED, 1, connectLater, nullptr));
     if (!m_http)
         return false;
+    // In effect before libcups connects, because it encrypts port 443 while it does.
     httpSetTimeout(m_http.get(), lookInterval, mayWaitOn, m_state.get());
     const bool encrypts = m_state->encryption >= HTTP_ENCRYPTION_REQUIRED;
-    // libcups always encrypts port 443.
-    if ((encrypts && httpEncryption(m_http.get(), m_state->encryption) != 0) || !isTrusted())
+    if (httpReconnect2(m_http.get(), static_cast<int>(timeout()), m_state->task->cancelFlag()) != 0 ||
+        (encrypts && httpEncryption(m_http.get(), m_state->encryption) != 0) || !isTrusted())
         m_http.reset();
     return m_http != nullptr;
 }
@@ -140,10 +158,13 @@ CupsError CupsConnection::noAnswer() const
     if (m_state->wasSilent || (!m_http && m_state->hasBeenSilentTooLong()))
         return {CupsErrorKind::Silent,
                 CupsConnectionText::tr("The print server \"%1\" does not respond.").arg(name)};
-    if (!m_http)
+    if (!m_http) {
+        const QString reason = m_state->lookupError
+                                   ? *m_state->lookupError
+                                   : connectionFailureReason(m_state->addresses.list(), *m_state->task);
         return {CupsErrorKind::Unreachable,
-                CupsConnectionText::tr("Cannot connect to the print server \"%1\": %2")
-                    .arg(name, connectionFailureReason(cupsServer(), ippPort()))};
+                CupsConnectionText::tr("Cannot connect to the print server \"%1\": %2").arg(name, reason)};
+    }
     return {CupsErrorKind::Unreachable,
             CupsConnectionText::tr("The connection to the print server \"%1\" was lost.").arg(name)};
 }

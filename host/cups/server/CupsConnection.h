@@ -4,6 +4,7 @@
 #include "BackgroundTask.h"
 #include "CupsServer.h"
 #include "CupsThreadScope.h"
+#include "ServerAddresses.h"
 
 #include <cups/cups.h>
 
@@ -129,6 +130,9 @@ private:
         bool isPasswordUnconfirmed = false;
         /// The number of passwords that the server has rejected in succession.
         int rejectedPasswords = 0;
+        ServerAddresses addresses;
+        /// Why the server's addresses are not known; absent if they are.
+        std::optional<QString> lookupError;
         /// Why the server is not trusted; absent if it is.
         std::optional<CupsError> certificateError;
         PasswordRequest::Credentials credentials;
@@ -154,6 +158,8 @@ private:
         m_state->restartSilence();
         m_state->wasSilent = false;
     }
+    /// Finds the server's addresses.
+    bool lookUp();
     /// Connects, and checks the server's certificate before anything is sent.
     bool connect();
     /// Connects again, with the password or the other credentials for the server.

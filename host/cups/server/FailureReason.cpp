@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <memory>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -20,14 +19,23 @@ struct FailureReasonText {
     Q_DECLARE_TR_FUNCTIONS(host::cups::server::FailureReason)
 };
 
-struct AddressListFree {
-    void operator()(http_addrlist_t *list) const { httpAddrFreeList(list); }
-};
-
-/// Returns the system's error for a connection to the address; 0 if it succeeds.
-int connectionError(http_addr_t &address)
+/// Returns whether the connection is complete or has failed. Waits for one second, or until the task is
+/// canceled.
+bool isDecided(int descriptor, const BackgroundTask &task)
 {
     constexpr int maxMilliseconds = 1000;
+    constexpr int interval = 100; // milliseconds
+    pollfd waiting{.fd = descriptor, .events = POLLOUT, .revents = 0};
+    for (int waited = 0; waited < maxMilliseconds && !task.isCanceled(); waited += interval) {
+        if (::poll(&waiting, 1, interval) > 0)
+            return true;
+    }
+    return false;
+}
+
+/// Returns the system's error for a connection to the address; 0 if it succeeds.
+int connectionError(http_addr_t &address, const BackgroundTask &task)
+{
     const int descriptor = ::socket(httpAddrFamily(&address), SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     if (descriptor < 0)
         return errno;
@@ -35,10 +43,9 @@ int connectionError(http_addr_t &address)
     if (::connect(descriptor, &address.addr, static_cast<socklen_t>(httpAddrLength(&address))) != 0)
         error = errno;
     if (error == EINPROGRESS) {
-        pollfd waiting{.fd = descriptor, .events = POLLOUT, .revents = 0};
         socklen_t length = sizeof error;
         error = ETIMEDOUT;
-        if (::poll(&waiting, 1, maxMilliseconds) > 0)
+        if (isDecided(descriptor, task))
             ::getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &length);
     }
     ::close(descriptor);
@@ -47,15 +54,13 @@ int connectionError(http_addr_t &address)
 
 } // namespace
 
-QString connectionFailureReason(const QByteArray &server, int port)
+QString connectionFailureReason(http_addrlist_t *addresses, const BackgroundTask &task)
 {
     const QByteArray reported = cupsLastErrorString();
     if (reported != std::strerror(EHOSTDOWN)) // NOLINT(concurrency-mt-unsafe): glibc's is safe
         return QString::fromLocal8Bit(reported);
-    const std::unique_ptr<http_addrlist_t, AddressListFree> list(
-        httpAddrGetList(server.constData(), AF_UNSPEC, QByteArray::number(port).constData()));
-    for (http_addrlist_t *each = list.get(); each; each = each->next) {
-        if (const int error = connectionError(each->addr))
+    for (http_addrlist_t *each = addresses; each; each = each->next) {
+        if (const int error = connectionError(each->addr, task))
             return qt_error_string(error);
     }
     return QString::fromLocal8Bit(reported);
