@@ -5,7 +5,6 @@
 
 #include <dialog/translations/Translations.h>
 #include <host/base/OutOfMemory.h>
-#include <host/cups/server/Background.h>
 #include <platform/TemporaryFile.h>
 
 #include <QApplication>
@@ -14,7 +13,6 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <cstdlib>
 #include <thread>
 
 #include <malloc.h>
@@ -122,8 +120,5 @@ int main(int argc, char **argv)
     const programs::Console console{[&](const QString &text) { return streams.out(text); },
                                     programs::StandardStreams::error};
     platform::TemporaryFile::removeLeftovers(QDir::tempPath());
-    const int outcome = status(programs::PrintRun(std::move(command).value(), console).run(), streams);
-    if (host::Background::wasUsed())
-        std::_Exit(outcome);
-    return outcome;
+    return status(programs::PrintRun(std::move(command).value(), console).run(), streams);
 }

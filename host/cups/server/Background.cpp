@@ -7,17 +7,6 @@ namespace host {
 inline namespace cups {
 inline namespace server {
 
-namespace {
-
-std::atomic<bool> anythingStarted = false;
-
-} // namespace
-
-bool Background::wasUsed()
-{
-    return anythingStarted;
-}
-
 Background::Background(BackgroundPool &pool)
     : m_pool(pool)
 {
@@ -33,7 +22,6 @@ Background::~Background()
 
 std::shared_ptr<BackgroundTask> Background::start(std::function<void(BackgroundTask &)> work)
 {
-    anythingStarted = true;
     std::erase_if(m_tasks, [](const std::weak_ptr<BackgroundTask> &task) { return task.expired(); });
     auto task = std::make_shared<BackgroundTask>(m_pool);
     m_tasks.push_back(task);

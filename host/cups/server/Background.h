@@ -29,9 +29,6 @@ public:
     /// Runs the work on a thread of the pool and returns its task.
     std::shared_ptr<BackgroundTask> start(std::function<void(BackgroundTask &)> work);
 
-    /// Returns whether this class has started any task in this program.
-    static bool wasUsed();
-
 private:
     BackgroundPool &m_pool;
     /// The deliveries are queued calls of this object, which end with it.
