@@ -48,6 +48,7 @@ struct Releaser {
         function(object);
     }
 };
+using Error = std::unique_ptr<GError, Releaser<g_error_free>>;
 using Handle = std::unique_ptr<RsvgHandle, Releaser<g_object_unref>>;
 using Stream = std::unique_ptr<GInputStream, Releaser<g_object_unref>>;
 using Surface = std::unique_ptr<cairo_surface_t, Releaser<cairo_surface_destroy>>;
@@ -76,9 +77,11 @@ void setLimits()
 #endif
 }
 
-ConversionError conversionError(ConversionError::Status status, const GError *error)
+/// Takes over the error.
+ConversionError conversionError(ConversionError::Status status, GError *error)
 {
-    return {status, error ? error->message : "unknown error"};
+    const Error owned(error);
+    return {status, owned ? owned->message : "unknown error"};
 }
 
 void check(cairo_status_t status)
