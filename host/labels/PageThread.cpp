@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageThread.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
@@ -18,8 +19,8 @@ inline namespace labels {
 
 namespace {
 
-/// Threads that still draw their last page. The program waits for them before it ends: pdfium must not be
-/// destroyed while it draws.
+/// Threads that still draw their last page. The end of the application object waits for them: pdfium cannot
+/// be interrupted, and must not be destroyed while it draws.
 class EndingThreads {
 public:
     static EndingThreads &instance()
@@ -28,10 +29,13 @@ public:
         return threads;
     }
 
-    ~EndingThreads()
+    ~EndingThreads() { join(); }
+
+    void join()
     {
         for (Ending &each : m_threads)
             each.thread.join();
+        m_threads.clear();
     }
 
     void add(std::thread thread, std::shared_ptr<std::atomic<bool>> hasEnded)
@@ -51,7 +55,10 @@ private:
         std::shared_ptr<std::atomic<bool>> hasEnded;
     };
 
-    EndingThreads() = default;
+    EndingThreads()
+    {
+        qAddPostRoutine([] { instance().join(); });
+    }
 
     std::vector<Ending> m_threads;
 };
