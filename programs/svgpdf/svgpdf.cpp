@@ -77,7 +77,7 @@ void setLimits()
 #endif
 }
 
-/// Takes over the error.
+/// Makes the error of the program from that of a library, which is released.
 ConversionError conversionError(ConversionError::Status status, GError *error)
 {
     const Error owned(error);

@@ -43,7 +43,7 @@ protected:
         ASSERT_TRUE(program.waitForFinished(failureMilliseconds));
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(program.exitCode(), 128 + signal);
-        EXPECT_FALSE(program.readAllStandardError().contains("does not answer"));
+        EXPECT_FALSE(program.readAllStandardError().contains("does not respond"));
         QFile report(m_report);
         ASSERT_TRUE(report.open(QIODevice::ReadOnly)) << qPrintable(m_report);
         const QByteArray lines = report.readAll();
