@@ -45,7 +45,9 @@ QByteArray decoded(std::string_view text)
 
 bool isUtf8(const QByteArray &bytes)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    // A decoder that keeps a state waits for the rest of a character at the end: "Caf\xE9" in Latin-1 would
+    // pass.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(bytes);
     return !decoder.hasError() && !text.isEmpty();
 }
