@@ -38,9 +38,9 @@ std::optional<double> number(QStringView text)
 {
     bool isNumber = false;
     const double value = text.toDouble(&isNumber);
-    // "inf" and "nan" are numbers for Qt, but not in an SVG.
-    const bool isWord = !text.isEmpty() && text.back().isLetter();
-    return !isWord && (isNumber || std::isinf(value)) ? std::optional(value) : std::nullopt;
+    // "inf", "nan" and numbers with blanks around them are numbers for Qt, but not in an SVG.
+    const bool isQtsOnly = text.isEmpty() || text.back().isLetter() || text.trimmed().size() != text.size();
+    return !isQtsOnly && (isNumber || std::isinf(value)) ? std::optional(value) : std::nullopt;
 }
 
 /// Returns the length in px; absent for a length that depends on something else, such as a percentage.
