@@ -58,6 +58,7 @@ public:
     explicit SvgReader(const QByteArray &svg)
         : m_reader(svg)
         , m_writer(&m_source.content)
+        , m_hasSvgTag(svg.contains("<svg"))
     {
         // Otherwise, a prefix without a declaration is an error.
         m_reader.setNamespaceProcessing(false);
@@ -69,7 +70,9 @@ public:
             pass(m_reader.readNext());
         if (m_error)
             return m_error;
-        if (!m_rootSeen)
+        // The reader decodes the text ahead: text in another encoding than declared is an error before the
+        // root.
+        if (!m_rootSeen && !(m_reader.hasError() && m_hasSvgTag))
             return DocumentErrorReason{DocumentErrorKind::UnknownKind,
                                        SvgSourceText::tr("it is not a PDF, PNG, JPEG or SVG file")};
         if (m_reader.hasError())
@@ -217,6 +220,7 @@ private:
     QXmlStreamReader m_reader;
     QXmlStreamWriter m_writer;
     std::optional<DocumentErrorReason> m_error;
+    bool m_hasSvgTag;
     bool m_rootSeen = false;
     int m_level = 0;
     int m_elements = 0;
