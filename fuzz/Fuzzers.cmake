@@ -22,12 +22,27 @@ kv_fuzzer(lpoptions
 kv_fuzzer(message
     SOURCES FuzzMessage.cpp
     USES platform/text)
+kv_fuzzer(page_ranges
+    SOURCES FuzzPageRanges.cpp
+    USES host/documents)
 kv_fuzzer(ppd
     SOURCES FuzzPpd.cpp PpdExamination.cpp
     USES host/cups/jobs)
+kv_fuzzer(ppd_number
+    SOURCES FuzzPpdNumber.cpp
+    USES host/printer)
+kv_fuzzer(ppd_paper_sizes
+    SOURCES FuzzPpdPaperSizes.cpp
+    USES host/printer)
 kv_fuzzer(ppd_structure
     SOURCES FuzzPpdStructure.cpp PpdExamination.cpp
     USES host/cups/jobs)
+kv_fuzzer(ppd_text
+    SOURCES FuzzPpdText.cpp
+    USES host/printer)
+kv_fuzzer(ppd_translations
+    SOURCES FuzzPpdTranslations.cpp
+    USES host/printer)
 kv_fuzzer(property_list
     SOURCES FuzzPropertyList.cpp
     USES platform/text)
@@ -40,4 +55,7 @@ kv_fuzzer(request
     NEEDS KVLXDZOptions)
 kv_fuzzer(svg
     SOURCES FuzzSvg.cpp
+    USES host/documents)
+kv_fuzzer(svg_size
+    SOURCES FuzzSvgSize.cpp
     USES host/documents)
