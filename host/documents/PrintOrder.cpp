@@ -86,14 +86,13 @@ Result<void, PageRangeError> checkPageRanges(const QString &text)
 
 QString canonicalPageRanges(const QString &text)
 {
+    // Without its blanks, "1 2" would be another page.
+    if (!checkPageRanges(text))
+        return text;
     constexpr int end = std::numeric_limits<int>::max();
     std::vector<Range> ranges;
-    for (const QString &part : rangeTexts(text)) {
-        const std::optional<Range> range = parseRange(part, end);
-        if (!range)
-            return QString(text).remove(u' ');
-        ranges.push_back(*range);
-    }
+    for (const QString &part : rangeTexts(text))
+        ranges.push_back(parseRange(part, end).value());
     std::ranges::sort(ranges, {}, &Range::first);
     std::vector<Range> merged;
     for (const Range &range : ranges) {

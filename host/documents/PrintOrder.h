@@ -49,8 +49,7 @@ Result<std::vector<int>, PageRangeError> parsePageRanges(const QString &text,
                                                          PagesBeyond beyond = PagesBeyond::Reject);
 
 /// Returns the same pages as IPP requires (RFC 8011, 5.2.7): in ascending order, each page once. "5,1-3,2"
-/// becomes "1-3,5". Empty for all pages. A text that checkPageRanges() rejects is returned without blanks
-/// and otherwise unchanged.
+/// becomes "1-3,5". Empty for all pages. A text that checkPageRanges() rejects is returned unchanged.
 QString canonicalPageRanges(const QString &text);
 
 /// Returns an error if no document can have the pages.
