@@ -72,7 +72,8 @@ objects_of() {
 
 # compile OBJECT FILE FOLDER: the object with the broken copy of the file, which lies in the folder.
 compile() {
-    local command source out="$3/$(printf '%s' "$1" | tr / _)"
+    local command source out flags
+    out=$3/${1//\//_}
     command=$(ninja -C "$build" -t commands -s "$1")
     source=$(printf '%s' "$command" | awk '{print $NF}')
     if [ "${2%.cpp}" != "$2" ]; then
