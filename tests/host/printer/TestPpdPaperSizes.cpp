@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-
+#include <host/printer/PpdPaperSizes.h>
 #include <tests/samples/SamplePpd.h>
 
 #include <gtest/gtest.h>
 
 using host::PpdFile;
+using host::PpdPaperSizes;
 
 TEST(PpdPaperSizes, PapersOfUnusableSizeAreLeftOut)
 {
@@ -74,4 +75,53 @@ TEST(PpdPaperSizes, FreeSizesAreWithinWhatPrintersCanPrint)
     EXPECT_TRUE(ppd.value().unusableSize("Custom.24x0mm"));
     EXPECT_FALSE(ppd.value().unusableSize("Custom.24x5mm")) << "is too short for this printer only";
     EXPECT_FALSE(ppd.value().unusableSize("Custom.rubbish"));
+}
+
+TEST(PpdPaperSizes, ReadsStatementsOfExactNames)
+{
+    const std::tuple<const char *, const char *, std::optional<QSizeF>> rows[] = {
+        {"*PaperDimension W24", "68 170", QSizeF(68, 170)},
+        {"*PaperDimension W24/24 mm", "68 170", QSizeF(68, 170)},
+        {"*PaperDimension  \tW24 /24 mm", " 68\t170 points", QSizeF(68, 170)},
+        {"*PaperDimension W24", "6.8e1 +170", QSizeF(68, 170)},
+        {"*PaperDimension W24", "68", std::nullopt},
+        {"*PaperDimension W24", "", std::nullopt},
+        {"*PaperDimension W24", "x 68 170", std::nullopt},
+        {"*PaperDimension W24", "68,170", std::nullopt},
+        {"*PaperDimension w24", "68 170", std::nullopt},
+        {"*PaperDimension W24 W25", "68 170", std::nullopt},
+        {"*PaperDimension", "68 170", std::nullopt},
+        {"*PaperDimensions W24", "68 170", std::nullopt},
+        {"*paperdimension W24", "68 170", std::nullopt},
+        {"PaperDimension W24", "68 170", std::nullopt},
+        {"*ImageableArea W24", "0 0 68 170", std::nullopt},
+        {"", "68 170", std::nullopt},
+    };
+    for (const auto &[statement, value, size] : rows) {
+        PpdPaperSizes sizes;
+        sizes.addStatement(statement, value);
+        EXPECT_EQ(sizes.size("W24"), size) << statement << ": " << value;
+    }
+}
+
+TEST(PpdPaperSizes, AnAreaWithoutWidthOrHeightStatesNoMargins)
+{
+    const std::pair<const char *, std::optional<QMarginsF>> rows[] = {
+        {"1 2 58 97", QMarginsF(1, 3, 2, 2)},
+        {"0 0 60 100", QMarginsF(0, 0, 0, 0)},
+        {"-1 -2 61 102", QMarginsF(-1, -2, -1, -2)},
+        {"30 2 30 97", std::nullopt},
+        {"31 2 30 97", std::nullopt},
+        {"1 50 58 50", std::nullopt},
+        {"1 51 58 50", std::nullopt},
+        {"1 2 58", std::nullopt},
+        {"", std::nullopt},
+    };
+    for (const auto &[area, margins] : rows) {
+        PpdPaperSizes sizes;
+        sizes.addStatement("*ImageableArea W24", area);
+        EXPECT_FALSE(sizes.margins("W24")) << "of a paper without a size";
+        sizes.addStatement("*PaperDimension W24", "60 100");
+        EXPECT_EQ(sizes.margins("W24"), margins) << area;
+    }
 }
