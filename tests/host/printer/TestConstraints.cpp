@@ -136,6 +136,22 @@ TEST(Constraints, ARemedyMayTakeSeveralStepsOrNotExist)
     EXPECT_FALSE(Constraints(hopeless).remedy());
 }
 
+TEST(Constraints, ARemedyPrefersTheDefaultThenOffThenThePpdsOrder)
+{
+    PpdBuilder builder;
+    builder.option({"Finish", "Finish", {{"Matt", ""}, {"Off", ""}, {"Gloss", ""}, {"Foil", ""}}, "Gloss"});
+    const std::pair<const char *, const char *> rows[] = {
+        {"Foil", "Gloss"}, {"Gloss", "Off"}, {"Off", "Matt"}};
+    for (const auto &[excluded, instead] : rows) {
+        builder.constraint("Finish", excluded, "PageSize", "24mm");
+        PpdFile ppd = openMarked(builder);
+        mark(ppd, {{"Finish", "Foil"}});
+        const auto remedy = Constraints(ppd).remedy();
+        ASSERT_TRUE(remedy) << excluded;
+        EXPECT_EQ(remedy->sentence(), QStringLiteral("Set \"Finish\" to \"%1\"").arg(QLatin1String(instead)));
+    }
+}
+
 TEST(Constraints, ConstraintsOfCupsMayHaveAnyNumberOfSides)
 {
     PpdBuilder builder = PpdBuilder()

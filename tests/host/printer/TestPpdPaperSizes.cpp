@@ -120,6 +120,7 @@ TEST(PpdPaperSizes, AnAreaWithoutWidthOrHeightStatesNoMargins)
     for (const auto &[area, margins] : rows) {
         PpdPaperSizes sizes;
         sizes.addStatement("*ImageableArea W24", area);
+        sizes.addStatement("*ImageableAreas W24", "7 7 8 8");
         EXPECT_FALSE(sizes.margins("W24")) << "of a paper without a size";
         sizes.addStatement("*PaperDimension W24", "60 100");
         EXPECT_EQ(sizes.margins("W24"), margins) << area;
