@@ -50,7 +50,6 @@ void BackgroundPool::start(std::function<void()> work)
         const std::scoped_lock lock(m_mutex);
         if (m_end.stop_requested())
             return;
-        ended.swap(m_ended);
         if (m_running.size() < m_maxThreads) {
             Threads created(1);
             // The thread waits for the lock before it uses its place in the list.
@@ -59,6 +58,8 @@ void BackgroundPool::start(std::function<void()> work)
             m_running.splice(m_running.end(), created);
         }
         m_waiting.push_back(std::move(work));
+        // Last, because a thread that is not joined ends the program if an exception destroys it.
+        ended.swap(m_ended);
     }
     join(ended);
 }
