@@ -30,62 +30,62 @@ constexpr unsigned reportTasks = bit(Task::List) | bit(Task::Summary) | bit(Task
 constexpr unsigned allTasks = jobTasks | reportTasks;
 
 template<auto Field>
-ErrorMessage parseText(CommandLine &command, const QString &value)
+ParseResult parseText(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return CommandOptionText::tr("the value is empty");
     command.*Field = value;
-    return std::nullopt;
+    return {};
 }
 
 template<auto Field>
-ErrorMessage parseFlag(CommandLine &command, const QString &)
+ParseResult parseFlag(CommandLine &command, const QString &)
 {
     command.*Field = true;
-    return std::nullopt;
+    return {};
 }
 
 template<Task Wanted>
-ErrorMessage parseTask(CommandLine &command, const QString &)
+ParseResult parseTask(CommandLine &command, const QString &)
 {
     command.task = Wanted;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseTitle(CommandLine &command, const QString &value)
+ParseResult parseTitle(CommandLine &command, const QString &value)
 {
     // An empty title stands for the name of the document, as without the option.
     command.title = value.isEmpty() ? std::nullopt : std::optional(value);
-    return std::nullopt;
+    return {};
 }
 
 /// The mail contains the job's number; the run is quiet then, as with lp.
-ErrorMessage parseMail(CommandLine &command, const QString &)
+ParseResult parseMail(CommandLine &command, const QString &)
 {
     command.mail = true;
     command.quiet = true;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage applyPaper(CommandLine &command, const QString &value)
+ParseResult applyPaper(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return CommandOptionText::tr("the value is empty");
     command.paper = value.toUtf8();
-    return std::nullopt;
+    return {};
 }
 
 template<Task Wanted>
-ErrorMessage parseLeftJob(CommandLine &command, const QString &value)
+ParseResult parseLeftJob(CommandLine &command, const QString &value)
 {
     command.task = Wanted;
     return parseText<&CommandLine::leftJob>(command, value);
 }
 
 /// Documents are always copied before the program ends.
-ErrorMessage parseCopyFlag(CommandLine &, const QString &)
+ParseResult parseCopyFlag(CommandLine &, const QString &)
 {
-    return std::nullopt;
+    return {};
 }
 
 constexpr auto Any = CommandOption::Printer::Any;

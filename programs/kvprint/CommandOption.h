@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CommandLine.h"
-#include "ErrorMessage.h"
+#include "ParseResult.h"
 
 #include <span>
 
@@ -30,7 +30,7 @@ struct CommandOption {
     unsigned tasks;
     Printer printer;
     /// Stores the option and its value in the command; null for options that end the parsing.
-    ErrorMessage (*take)(CommandLine &command, const QString &value);
+    ParseResult (*parse)(CommandLine &command, const QString &value);
 
     /// Returns the option as it is written: "-d" or "--ppd".
     QString spelling() const;

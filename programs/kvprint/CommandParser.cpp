@@ -92,7 +92,7 @@ private:
     /// Applies the option with the value from the same argument, if there is one.
     void use(const CommandOption &option, std::optional<QString> value)
     {
-        if (!option.take) {
+        if (!option.parse) {
             m_error = answer(option);
             return;
         }
@@ -104,8 +104,8 @@ private:
             }
             value = m_words.takeFirst();
         }
-        if (const ErrorMessage errorMessage = option.take(m_command, value.value_or(QString())))
-            m_error = wrong(option.spelling() + QStringLiteral(": ") + *errorMessage);
+        if (const ParseResult parsed = option.parse(m_command, value.value_or(QString())); !parsed)
+            m_error = wrong(option.spelling() + QStringLiteral(": ") + parsed.error());
         m_used.push_back(&option);
     }
 

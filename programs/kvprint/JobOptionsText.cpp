@@ -46,7 +46,7 @@ bool isTime(const QString &value)
 }
 
 /// Parses the time from -H, or from the option, which allows fewer keywords.
-ErrorMessage readHold(CommandLine &command, const QString &value, bool isLetter)
+ParseResult readHold(CommandLine &command, const QString &value, bool isLetter)
 {
     QStringList accepted;
     for (const HoldWord &each : holdTexts) {
@@ -61,15 +61,15 @@ ErrorMessage readHold(CommandLine &command, const QString &value, bool isLetter)
     // Before all other jobs; a later priority takes precedence.
     if (value == QStringLiteral("immediate"))
         command.settings.priority = 100;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseHoldOption(CommandLine &command, const QString &value)
+ParseResult parseHoldOption(CommandLine &command, const QString &value)
 {
     return readHold(command, value, false);
 }
 
-ErrorMessage notOneOf(const QString &value, const QString &accepted)
+ParseResult notOneOf(const QString &value, const QString &accepted)
 {
     return JobWordsText::tr("Invalid value \"%1\"; use one of: %2").arg(value, accepted);
 }
@@ -80,27 +80,27 @@ using Words = std::initializer_list<std::pair<const char *, Meaning>>;
 
 /// Stores the value of the keyword.
 template<typename Meaning>
-ErrorMessage parseWord(const QString &value, Words<Meaning> words, std::optional<Meaning> &place)
+ParseResult parseWord(const QString &value, Words<Meaning> words, std::optional<Meaning> &place)
 {
     QStringList accepted;
     for (const auto &[word, meaning] : words) {
         if (value == QLatin1String(word)) {
             place = meaning;
-            return std::nullopt;
+            return {};
         }
         accepted.append(QString::fromLatin1(word));
     }
     return notOneOf(value, accepted.join(QStringLiteral(", ")));
 }
 
-ErrorMessage parseCollate(CommandLine &command, const QString &value)
+ParseResult parseCollate(CommandLine &command, const QString &value)
 {
     using host::Collate;
     return parseWord<Collate>(value, {{"true", Collate::Yes}, {"false", Collate::No}},
                               command.settings.collate);
 }
 
-ErrorMessage parseHandling(CommandLine &command, const QString &value)
+ParseResult parseHandling(CommandLine &command, const QString &value)
 {
     using host::Collate;
     return parseWord<Collate>(value,
@@ -109,21 +109,21 @@ ErrorMessage parseHandling(CommandLine &command, const QString &value)
                               command.settings.collate);
 }
 
-ErrorMessage parsePageSet(CommandLine &command, const QString &value)
+ParseResult parsePageSet(CommandLine &command, const QString &value)
 {
     using host::PageSet;
     return parseWord<PageSet>(value, {{"all", PageSet::All}, {"odd", PageSet::Odd}, {"even", PageSet::Even}},
                               command.settings.pageSet);
 }
 
-ErrorMessage parseOrder(CommandLine &command, const QString &value)
+ParseResult parseOrder(CommandLine &command, const QString &value)
 {
     using host::PageOrder;
     return parseWord<PageOrder>(value, {{"normal", PageOrder::Normal}, {"reverse", PageOrder::Reverse}},
                                 command.settings.order);
 }
 
-ErrorMessage parseOrientation(CommandLine &command, const QString &value)
+ParseResult parseOrientation(CommandLine &command, const QString &value)
 {
     using host::Orientation;
     return parseWord<Orientation>(value,
@@ -138,38 +138,38 @@ ErrorMessage parseOrientation(CommandLine &command, const QString &value)
                                   command.settings.orientation);
 }
 
-ErrorMessage parseLandscape(CommandLine &command, const QString &value)
+ParseResult parseLandscape(CommandLine &command, const QString &value)
 {
     using host::Orientation;
     return parseWord<Orientation>(value, {{"true", Orientation::Landscape}, {"false", Orientation::Portrait}},
                                   command.settings.orientation);
 }
 
-ErrorMessage parseMedia(CommandLine &command, const QString &value)
+ParseResult parseMedia(CommandLine &command, const QString &value)
 {
     if (value.isEmpty())
         return JobWordsText::tr("it names no paper");
     command.paper = value.toUtf8();
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseJobName(CommandLine &command, const QString &value)
+ParseResult parseJobName(CommandLine &command, const QString &value)
 {
     if (!value.isEmpty())
         command.title = value;
-    return std::nullopt;
+    return {};
 }
 
 /// The content type of a file for lp. Labels are shown and sent as PDF, and declared to the server as PDF.
-ErrorMessage rejectFormat(CommandLine &, const QString &value)
+ParseResult rejectFormat(CommandLine &, const QString &value)
 {
     if (value == QStringLiteral("false") || value == QStringLiteral("application/pdf"))
-        return std::nullopt;
+        return {};
     return JobWordsText::tr("\"%1\" is not supported; documents are sent as PDF").arg(value);
 }
 
 /// Options with the same meaning as a letter or a name of the command line.
-constexpr std::pair<const char *, ErrorMessage (*)(CommandLine &, const QString &)> settingOptions[] = {
+constexpr std::pair<const char *, ParseResult (*)(CommandLine &, const QString &)> settingOptions[] = {
     {"copies", parseCopies},
     {"page-ranges", parsePages},
     {"page-set", parsePageSet},
@@ -200,23 +200,23 @@ void setOption(std::vector<host::JobChoice> &options, const QByteArray &name, co
         options.push_back({name, value, host::Origin::You});
 }
 
-ErrorMessage parseOption(CommandLine &command, const QByteArray &name, const QByteArray &value)
+ParseResult parseOption(CommandLine &command, const QByteArray &name, const QByteArray &value)
 {
     const auto *const setting = std::find_if(std::begin(settingOptions), std::end(settingOptions),
                                              [&](const auto &row) { return name == row.first; });
     if (setting == std::end(settingOptions)) {
         setOption(command.options, name, value);
-        return std::nullopt;
+        return {};
     }
-    ErrorMessage errorMessage = setting->second(command, QString::fromUtf8(value));
-    if (errorMessage)
-        errorMessage = QString::fromUtf8(name) + QStringLiteral(": ") + *errorMessage;
-    return errorMessage;
+    ParseResult parsed = setting->second(command, QString::fromUtf8(value));
+    if (!parsed)
+        return QString::fromUtf8(name) + QStringLiteral(": ") + parsed.error();
+    return parsed;
 }
 
 } // namespace
 
-ErrorMessage parseCopies(CommandLine &command, const QString &value)
+ParseResult parseCopies(CommandLine &command, const QString &value)
 {
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
@@ -225,42 +225,42 @@ ErrorMessage parseCopies(CommandLine &command, const QString &value)
             .arg(value)
             .arg(host::maxCopies);
     command.settings.copies = copies;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parsePriority(CommandLine &command, const QString &value)
+ParseResult parsePriority(CommandLine &command, const QString &value)
 {
     bool isNumber = false;
     const int priority = value.toInt(&isNumber);
     if (!isNumber || priority < 1 || priority > 100)
         return JobWordsText::tr("Invalid priority \"%1\"; use 1 (last) to 100 (first)").arg(value);
     command.settings.priority = priority;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseHold(CommandLine &command, const QString &value)
+ParseResult parseHold(CommandLine &command, const QString &value)
 {
     return readHold(command, value, true);
 }
 
-ErrorMessage parsePages(CommandLine &command, const QString &value)
+ParseResult parsePages(CommandLine &command, const QString &value)
 {
     if (const auto checked = host::checkPageRanges(value); !checked)
         return checked.error().message;
     command.settings.pageRanges = value;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseDestination(CommandLine &command, const QString &value)
+ParseResult parseDestination(CommandLine &command, const QString &value)
 {
     const auto [queue, instance] = host::splitDestinationName(value);
     if (queue.isEmpty() || (instance && instance->isEmpty()))
         return JobWordsText::tr("Missing queue in \"%1\"; use QUEUE or QUEUE/INSTANCE").arg(value);
     command.destination = value;
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseJob(CommandLine &command, const QString &value)
+ParseResult parseJob(CommandLine &command, const QString &value)
 {
     static const QRegularExpression form(QStringLiteral("^(?:(.+)-)?([0-9]{1,9})$"));
     const QRegularExpressionMatch match = form.match(value);
@@ -272,20 +272,20 @@ ErrorMessage parseJob(CommandLine &command, const QString &value)
     command.jobToChange = job;
     if (match.capturedLength(1) > 0)
         command.destination = match.captured(1);
-    return std::nullopt;
+    return {};
 }
 
-ErrorMessage parseOptions(CommandLine &command, const QString &value)
+ParseResult parseOptions(CommandLine &command, const QString &value)
 {
     cups_option_t *parsed = nullptr;
     const int count = cupsParseOptions(value.toUtf8().constData(), 0, &parsed);
-    ErrorMessage errorMessage;
-    for (int i = 0; i < count && !errorMessage; ++i)
-        errorMessage = parseOption(command, parsed[i].name, parsed[i].value);
+    ParseResult result;
+    for (int i = 0; i < count && result; ++i)
+        result = parseOption(command, parsed[i].name, parsed[i].value);
     cupsFreeOptions(count, parsed);
     if (count == 0)
         return JobWordsText::tr("Missing option in \"%1\"; use NAME=VALUE").arg(value);
-    return errorMessage;
+    return result;
 }
 
 bool holdNeedsJob(const QString &hold)

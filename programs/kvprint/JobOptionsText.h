@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "ErrorMessage.h"
+#include "ParseResult.h"
 
 namespace programs {
 inline namespace kvprint {
@@ -12,20 +12,20 @@ struct CommandLine;
 // returns the reason why the value is not valid and leaves the command unchanged.
 
 /// -n: 1 to host::maxCopies.
-ErrorMessage parseCopies(CommandLine &command, const QString &value);
+ParseResult parseCopies(CommandLine &command, const QString &value);
 /// -q: 1 (last) to 100 (first).
-ErrorMessage parsePriority(CommandLine &command, const QString &value);
+ParseResult parsePriority(CommandLine &command, const QString &value);
 /// -H: "hold", "immediate", "HH:MM" in UTC and so on.
-ErrorMessage parseHold(CommandLine &command, const QString &value);
+ParseResult parseHold(CommandLine &command, const QString &value);
 /// -P: "1-3,5,8-".
-ErrorMessage parsePages(CommandLine &command, const QString &value);
+ParseResult parsePages(CommandLine &command, const QString &value);
 /// -d: "queue" or "queue/instance".
-ErrorMessage parseDestination(CommandLine &command, const QString &value);
+ParseResult parseDestination(CommandLine &command, const QString &value);
 /// -i: "12" or "queue-12".
-ErrorMessage parseJob(CommandLine &command, const QString &value);
+ParseResult parseJob(CommandLine &command, const QString &value);
 /// -o: "NAME=VALUE NAME NoNAME", quoted as in libcups. Options with the meaning of a letter are stored like
 /// the letter.
-ErrorMessage parseOptions(CommandLine &command, const QString &value);
+ParseResult parseOptions(CommandLine &command, const QString &value);
 
 /// Returns whether the value of -H requires a job that was sent before: "resume" and "restart".
 bool holdNeedsJob(const QString &hold);

@@ -24,8 +24,8 @@ QByteArray fullHostName()
     QByteArray name = QSysInfo::machineHostName().toUtf8();
     if (!name.contains('.')) {
         const std::shared_ptr<const HostLookup::Answer> found = HostLookup::find(name, timeout);
-        if (found && !found->canonicalName().isEmpty())
-            name = found->canonicalName();
+        if (found)
+            name = found->canonicalName().value_or(name);
     }
     // The final dot keeps a name of mDNS from being completed with the network's domain.
     return name.endsWith(".local") ? name + '.' : name;

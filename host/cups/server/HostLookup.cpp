@@ -23,17 +23,19 @@ HostLookup::Answer::Answer(int error, int systemError, addrinfo *addresses)
 {
 }
 
-QString HostLookup::Answer::error() const
+std::optional<QString> HostLookup::Answer::error() const
 {
     if (m_error == 0)
-        return {};
+        return std::nullopt;
     return m_error == EAI_SYSTEM ? qt_error_string(m_systemError)
                                  : QString::fromLocal8Bit(gai_strerror(m_error));
 }
 
-QByteArray HostLookup::Answer::canonicalName() const
+std::optional<QByteArray> HostLookup::Answer::canonicalName() const
 {
-    return {m_addresses ? m_addresses->ai_canonname : nullptr};
+    if (!m_addresses || !m_addresses->ai_canonname)
+        return std::nullopt;
+    return QByteArray(m_addresses->ai_canonname);
 }
 
 /// One call of getaddrinfo(): its thread and all that wait for it own it together.

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <stop_token>
 
 #include <netdb.h>
@@ -26,15 +27,15 @@ public:
     /// The result of a lookup.
     class Answer {
     public:
-        /// Takes over the result of getaddrinfo(); systemError is errno after EAI_SYSTEM.
+        /// Owns the result of getaddrinfo(); systemError is errno after EAI_SYSTEM.
         Answer(int error, int systemError, addrinfo *addresses);
 
         /// Returns the addresses, without ports; null if there are none. Owned by the answer.
         const addrinfo *addresses() const { return m_addresses.get(); }
-        /// Returns the system's message about the error; empty if there are addresses.
-        QString error() const;
-        /// Returns the name under which the host is known; empty if it is not known.
-        QByteArray canonicalName() const;
+        /// Returns the system's message about the error; absent if there are addresses.
+        std::optional<QString> error() const;
+        /// Returns the name under which the host is known; absent if it is not known.
+        std::optional<QByteArray> canonicalName() const;
 
     private:
         struct Free {

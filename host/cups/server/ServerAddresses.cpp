@@ -82,7 +82,7 @@ Result<ServerAddresses, ServerAddresses::Error> ServerAddresses::find(const QByt
     if (!answer)
         return Error{ErrorKind::Silent, {}};
     if (!answer->addresses())
-        return Error{ErrorKind::Unknown, answer->error()};
+        return Error{ErrorKind::Unknown, answer->error().value_or(QString())};
     return ServerAddresses(withPort(answer->addresses(), port));
 }
 

@@ -65,6 +65,6 @@ TEST(HostLookup, FindsTheAddressesOfAName)
     const auto answer = HostLookup::find("localhost", test_support::failureTimeout);
     ASSERT_TRUE(answer);
     EXPECT_TRUE(answer->addresses());
-    EXPECT_EQ(answer->error(), QString());
-    EXPECT_FALSE(answer->canonicalName().isEmpty());
+    EXPECT_FALSE(answer->error());
+    EXPECT_TRUE(answer->canonicalName());
 }
