@@ -52,6 +52,20 @@ TEST(PpdTranslations, ReadLanguageKeywordChoiceAndText)
     }
 }
 
+TEST(PpdTranslations, ALanguageHasTwoOrThreeLetters)
+{
+    const std::pair<QByteArray, bool> rows[] = {
+        {"de", true},    {"gsw", true}, {"zh_Hant", true}, {"d", false},
+        {"deut", false}, {"d1", false}, {"", false},
+    };
+    for (const auto &[language, isRead] : rows) {
+        PpdTranslations translations;
+        translations.addStatement(("*" + language + ".PageSize W24/Band").toStdString());
+        EXPECT_EQ(translations.text(QString::fromUtf8(language), "PageSize", "W24").has_value(), isRead)
+            << language.constData();
+    }
+}
+
 TEST(PpdTranslations, DecodeHexadecimalBytes)
 {
     const StatementRow rows[] = {

@@ -66,7 +66,7 @@ TEST_F(LpOptionsTest, ReadsQueuesInstancesAndOptions)
         {"Dest tape/long a=1\n", {}},
         {"Dest other a=1\n", {}},
         // Malformed lines are skipped, the others are read.
-        {"\n \nDest\nDest \nDestination tape a=0\n# Dest tape a=0\ntape a=0\nDest tape a=1", {{"a", "1"}}},
+        {"\n \nDest\nDest \nDestination tape x=0\n# Dest tape a=0\ntape a=0\nDest tape a=1", {{"a", "1"}}},
         {QByteArray("\0\xFF\n=\nDest tape a=1\n", 20), {{"a", "1"}}},
         {"", {}},
     };
