@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QWindow>
 
+#include <gtest/gtest.h>
+
 namespace dialogwalk {
 
 bool Gestures::pickRow(QComboBox *list, int row)

@@ -150,7 +150,7 @@ QString Hand::pressRemedy()
     auto *const button = banner && banner->isVisible() ? banner->findChild<QPushButton *>() : nullptr;
     if (!remedy || !button)
         return {};
-    const host::Remedy pressed = *remedy;
+    const host::Remedy &pressed = *remedy;
     Hands::click(button);
     for (const host::Remedy::Change &change : pressed.changes)
         m_intent.choose({{change.keyword.toUtf8(), change.choice.toUtf8()}});

@@ -29,10 +29,12 @@ QByteArray contentOf(const QString &path)
 OptionTexts optionsOf(const QJsonObject &job)
 {
     OptionTexts texts;
-    for (const QJsonValue &each : job["options"].toArray())
-        texts[each["keyword"].toString().toUtf8()] = each["choice"].toString().toUtf8();
+    const QJsonArray options = job["options"].toArray();
+    for (const auto &each : options)
+        texts[each.toObject()["keyword"].toString().toUtf8()] = each.toObject()["choice"].toString().toUtf8();
     QByteArrayList pages;
-    for (const QJsonValue &page : job["pages"].toArray())
+    const QJsonArray numbers = job["pages"].toArray();
+    for (const auto &page : numbers)
         pages.append(QByteArray::number(page.toInt()));
     texts["page-ranges"] = pages.join(',');
     texts["copies"] = QByteArray::number(job["copies"].toInt());

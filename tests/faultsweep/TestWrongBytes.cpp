@@ -63,16 +63,16 @@ std::vector<QByteArray> forgeries()
     const QByteArray success("\x01\x01\x00\x00\x00\x00\x00\x01", 8);
     const QByteArray firstJob("\x02\x21\x00\x06job-id\x00\x04\x00\x00\x00\x01\x03", 17);
     const QByteArray endless("\x02\x21\x7f\xff", 4);
+    const QByteArray empty = "Content-Length: 0\r\n\r\n";
+    const QByteArray digest = "WWW-Authenticate: Digest realm=\"CUPS\", nonce=\"0\", qop=\"auth\"\r\n\r\n";
     return {
         "HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n",
         "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"CUPS\"\r\nContent-Length: 0\r\n\r\n",
         // Kerberos, without a ticket; and a scheme that does not exist.
         "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Negotiate\r\nContent-Length: 0\r\n\r\n",
         "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Unheard\r\nContent-Length: 0\r\n\r\n",
-        "HTTP/1.1 401 Unauthorized\r\nContent-Length: 0\r\n"
-        "WWW-Authenticate: Digest realm=\"CUPS\", nonce=\"0\", qop=\"auth\"\r\n\r\n",
-        "HTTP/1.1 426 Upgrade Required\r\nConnection: Upgrade\r\nUpgrade: TLS/1.2\r\nContent-Length: "
-        "0\r\n\r\n",
+        "HTTP/1.1 401 Unauthorized\r\nContent-Length: 0\r\n" + digest,
+        "HTTP/1.1 426 Upgrade Required\r\nConnection: Upgrade\r\nUpgrade: TLS/1.2\r\n" + empty,
         "HTTP/1.1 301 Moved Permanently\r\nLocation: http://127.0.0.1:9/\r\nContent-Length: 0\r\n\r\n",
         "HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n",
         "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nffffffff\r\nx",

@@ -35,7 +35,7 @@ void Panel::loadView()
 {
     if (view)
         return;
-    view.emplace();
+    view = View();
     const auto bottom = [this](const char *control) {
         const auto frame = m_layout.frame(control);
         return m_layout.viewHeight() - frame.y() - frame.height();

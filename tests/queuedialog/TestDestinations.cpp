@@ -102,7 +102,7 @@ TEST_F(DestinationsTest, AClassTakesTheJob)
 {
     openAndSettle(QStringLiteral("all"));
     print();
-    EXPECT_TRUE(waitUntil([this] { return !cupsd->documents().empty(); }));
+    EXPECT_TRUE(waitUntil([] { return !cupsd->documents().empty(); }));
 }
 
 TEST_F(DestinationsTest, AnInstanceBringsItsOptions)

@@ -139,7 +139,9 @@ TEST_F(OpeningTest, LargePpdsAreShownAndReplaced)
     EXPECT_GT(huge.size(), 1'000'000);
     const std::pair<const char *, QByteArray> rows[] = {
         {"papers", tapePpdWithMorePapers(300)}, {"options", constrained}, {"huge", huge}};
-    for (const auto &[name, ppd] : rows) {
+    for (const auto &row : rows) {
+        const char *const name = row.first;
+        const QByteArray &ppd = row.second;
         SCOPED_TRACE(name);
         cupsd->addQueue(QLatin1String(name), ppd);
         // The first time it comes from the server, the second time from the cache, then it is replaced.

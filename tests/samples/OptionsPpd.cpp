@@ -21,11 +21,7 @@ QByteArray head()
            "*ImageableArea Large: \"0 0 200 300\"\n";
 }
 
-} // namespace
-
-QByteArray optionsPpd()
-{
-    return head() + R"(*OpenGroup: Print/Print & Quality
+constexpr char options[] = R"(*OpenGroup: Print/Print & Quality
 *OpenUI *Darkness/Darkness: PickOne
 *DefaultDarkness: Normal
 *Darkness Light/Light: ""
@@ -106,6 +102,12 @@ QByteArray optionsPpd()
 *de.Translation Marks/Zu druckende Marken: ""
 *de.Marks Crop/Schnittmarken: ""
 )";
+
+} // namespace
+
+QByteArray optionsPpd()
+{
+    return head() + options;
 }
 
 QByteArray largeOptionsPpd(int options, int choices)

@@ -88,7 +88,7 @@ QByteArray tapePpdWithMorePapers(int count)
 
 QByteArray damagedPpdText()
 {
-    return "*PPD-Adobe: \"4.3\"\n" + QByteArray(50 * 1024 * 1024, '%');
+    return "*PPD-Adobe: \"4.3\"\n" + QByteArray(50LL * 1024 * 1024, '%');
 }
 
 host::PpdFile openTapePpd(const Sandbox &sandbox)

@@ -25,7 +25,8 @@ QByteArray unchanged(QByteArray bytes)
 
 QByteArray twice(QByteArray bytes)
 {
-    return bytes + bytes;
+    bytes.append(bytes);
+    return bytes;
 }
 
 QByteArray turned(QByteArray bytes)

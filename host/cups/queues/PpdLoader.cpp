@@ -112,7 +112,7 @@ std::optional<QByteArray> PpdLoader::loadLargeCached(const CupsServer &server, c
     const std::optional<QString> path = cache.ppdPath(queue);
     if (!path || !isLarge(*path))
         return std::nullopt;
-    const std::optional<QByteArray> stamp = cache.ppdStamp(queue);
+    std::optional<QByteArray> stamp = cache.ppdStamp(queue);
     std::optional<PpdFile> ppd = openIfUsable(*path);
     if (!ppd || !stamp)
         return std::nullopt;

@@ -17,7 +17,8 @@ namespace {
 /// The option's value in job.json.
 QString choice(const QJsonObject &job, const char *keyword)
 {
-    for (const QJsonValue &option : job[QStringLiteral("options")].toArray()) {
+    const QJsonArray options = job[QStringLiteral("options")].toArray();
+    for (const auto &option : options) {
         if (option[QStringLiteral("keyword")] == QLatin1String(keyword))
             return option[QStringLiteral("choice")].toString();
     }

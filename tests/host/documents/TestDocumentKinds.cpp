@@ -220,7 +220,7 @@ TEST_F(DocumentKinds, PngsLoseNoPixel)
     }
     QByteArray rows;
     for (int y = 0; y < image.height(); ++y)
-        rows.append(reinterpret_cast<const char *>(image.constScanLine(y)), image.width() * 3);
+        rows.append(reinterpret_cast<const char *>(image.constScanLine(y)), qsizetype{3} * image.width());
     const auto document = open({write("image", withoutResolution(encoded(image, "png")))});
     EmbeddedImage embedded(document->files()[0].pathToSend);
     EXPECT_EQ(embedded.number("/Width"), image.width());

@@ -47,7 +47,7 @@ QByteArray jfif(int unit, quint32 across, quint32 down)
 QByteArray frame(char marker, int bits, int colors)
 {
     return jpegSegment(marker, QByteArray(1, static_cast<char>(bits)) + QByteArray("\0\4\0\4", 4) +
-                                   static_cast<char>(colors) + QByteArray(3 * colors, 1));
+                                   static_cast<char>(colors) + QByteArray(qsizetype{3} * colors, 1));
 }
 
 const QByteArray jpegStart("\xFF\xD8");

@@ -285,7 +285,8 @@ TEST_F(BlankMeasurerTest, NoLengthIsStatedBeforeItIsMeasured)
     const QJsonObject json = host::cutPlanJson(early);
     EXPECT_TRUE(json.value(QStringLiteral("tapeUsed")).isNull());
     for (const char *const list : {"labels", "pieces"}) {
-        for (const QJsonValue &each : json.value(QLatin1String(list)).toArray())
+        const QJsonArray parts = json.value(QLatin1String(list)).toArray();
+        for (const auto &each : parts)
             EXPECT_TRUE(each.toObject().value(QStringLiteral("length")).isNull()) << list;
     }
     const host::CutPlan whole = planOf(*renderer, 4, false);

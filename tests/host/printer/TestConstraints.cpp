@@ -222,8 +222,8 @@ TEST(Constraints, AgreeWithLibcups)
             return QByteArray(option->choices[roll(option->num_choices)].choice);
         };
         for (int i = roll(12); i > 0; --i) {
-            const QByteArray first = names[roll(9)];
-            const QByteArray second = names[roll(9)];
+            const QByteArray &first = names[roll(9)];
+            const QByteArray &second = names[roll(9)];
             if (first != second)
                 builder.constraint(first, roll(4) ? choice(first) : QByteArray(), second, choice(second));
         }

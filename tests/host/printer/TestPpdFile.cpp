@@ -116,14 +116,14 @@ TEST(PpdFile, RefusesHugeFilesPlainAndPacked)
 {
     const Sandbox sandbox;
     QFile plain(sandbox.path(QStringLiteral("huge.ppd")));
-    ASSERT_TRUE(plain.open(QIODevice::WriteOnly) && plain.resize(50 * 1024 * 1024));
+    ASSERT_TRUE(plain.open(QIODevice::WriteOnly) && plain.resize(50LL * 1024 * 1024));
     const auto fromPlain = PpdFile::open(plain.fileName());
     ASSERT_FALSE(fromPlain);
     EXPECT_EQ(fromPlain.error().kind, PpdErrorKind::TooLarge);
     EXPECT_TRUE(fromPlain.error().message.contains(QStringLiteral("larger than 16 MB")));
 
     const QString packed = sandbox.path(QStringLiteral("huge.ppd.gz"));
-    writeGzip(packed, tapePpd() + QByteArray(50 * 1024 * 1024, '\n'));
+    writeGzip(packed, tapePpd() + QByteArray(50LL * 1024 * 1024, '\n'));
     EXPECT_LT(QFile(packed).size(), 100'000);
     const auto fromPacked = PpdFile::open(packed);
     ASSERT_FALSE(fromPacked);

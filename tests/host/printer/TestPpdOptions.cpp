@@ -13,7 +13,7 @@ using host::PpdParameterKind;
 
 namespace {
 
-PpdParameter named(std::vector<PpdParameter> parameters, const char *name)
+PpdParameter named(const std::vector<PpdParameter> &parameters, const char *name)
 {
     for (const PpdParameter &parameter : parameters) {
         if (parameter.name == name)

@@ -299,7 +299,8 @@ TEST_F(TicketTest, TheVirtualPrintersJobIsTheTicket)
     EXPECT_EQ(json.value(QStringLiteral("copies")).toInt(), 2);
     EXPECT_EQ(json.value(QStringLiteral("pages")).toArray(), (QJsonArray{1, 2, 3}));
     Choices choices;
-    for (const QJsonValue &each : json.value(QStringLiteral("options")).toArray()) {
+    const QJsonArray options = json.value(QStringLiteral("options")).toArray();
+    for (const auto &each : options) {
         if (each[QStringLiteral("keyword")].toString().startsWith(QStringLiteral("Kv")))
             choices[each[QStringLiteral("keyword")].toString().toUtf8()] =
                 each[QStringLiteral("choice")].toString().toUtf8();

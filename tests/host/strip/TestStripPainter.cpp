@@ -145,8 +145,8 @@ TEST_F(StripPainterTest, ALeadingMarginIsHatched)
 {
     draw({}, 1, 4.0_mm);
     int dark = 0;
-    for (double x = 0.5; x < 3.5; x += 0.1)
-        dark += isWhite(x, 12.0) ? 0 : 1;
+    for (int tenth = 5; tenth < 35; ++tenth)
+        dark += isWhite(tenth / 10.0, 12.0) ? 0 : 1;
     EXPECT_GT(dark, 0);
     EXPECT_LT(dark, 30);
 }

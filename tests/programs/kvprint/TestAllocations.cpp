@@ -18,7 +18,7 @@ constexpr int printedWithoutPanel = 3;
 const char *const sentAllTheSame = "The job was sent nevertheless";
 
 /// Without what is another in each run: the times and numbers of jobs.
-QByteArray comparable(QByteArray text)
+QByteArray comparable(const QByteArray &text)
 {
     static const QRegularExpression changing(
         QStringLiteral("/(CreationDate|ModDate|ID|Id) ?[\\[(][^\\])]*[\\])]|job-uuid=\\S+|"
@@ -113,7 +113,7 @@ private:
     RecordedDocument waitFor(int job)
     {
         printedJobs += 1;
-        const QMap<int, RecordedDocument> documents = recorded(static_cast<std::size_t>(printedJobs + 2));
+        const QMap<int, RecordedDocument> documents = recorded(static_cast<std::size_t>(printedJobs) + 2);
         EXPECT_EQ(documents.size(), printedJobs + 2) << "more was printed than there are jobs";
         EXPECT_TRUE(documents.contains(job)) << job;
         return documents.value(job);

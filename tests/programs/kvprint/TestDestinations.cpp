@@ -144,7 +144,7 @@ TEST_F(KvprintDestinations, AreListedWithAllTheirKeys)
     const QJsonArray list = QJsonDocument::fromJson(outcome.out).array();
     ASSERT_EQ(list.size(), 4) << outcome;
     QMap<QString, QJsonObject> byName;
-    for (const QJsonValue &each : list) {
+    for (const auto &each : list) {
         const QStringList keys = each.toObject().keys();
         EXPECT_EQ(keys.join(u' '),
                   QStringLiteral("accepting class default description instance location "

@@ -154,7 +154,8 @@ TEST_F(KvprintSameJob, IsToldAsJson)
     EXPECT_EQ(documents[0].toObject().keys().join(u' '), word("file type"));
     EXPECT_EQ(documents[0][word("type")].toString(), word("application/pdf"));
     bool hasMirror = false;
-    for (const QJsonValue &option : job[word("options")].toArray()) {
+    const QJsonArray options = job[word("options")].toArray();
+    for (const auto &option : options) {
         EXPECT_EQ(option.toObject().keys().join(u' '), word("name origin sent value"));
         if (option[word("name")].toString() != word("KvMirror"))
             continue;
@@ -175,9 +176,10 @@ TEST_F(KvprintSameJob, IsSummedUpAsJson)
     const QJsonArray sections = QJsonDocument::fromJson(json.out).array();
     ASSERT_FALSE(sections.isEmpty()) << json;
     const Outcome plain = kvprint.run(words);
-    for (const QJsonValue &section : sections) {
+    for (const auto &section : sections) {
         EXPECT_EQ(section.toObject().keys().join(u' '), word("lines title"));
-        for (const QJsonValue &line : section[word("lines")].toArray()) {
+        const QJsonArray lines = section[word("lines")].toArray();
+        for (const auto &line : lines) {
             EXPECT_EQ(line.toObject().keys().join(u' '), word("title value"));
             EXPECT_TRUE(plain.out.contains(line[word("value")].toString().toUtf8())) << plain;
         }

@@ -180,6 +180,8 @@ TEST_F(JobJournalTest, AJobStaysRememberedWhenItsServerCannotBeAsked)
 TEST_F(JobJournalTest, DamagedFilesAreRemovedWithAWord)
 {
     ASSERT_TRUE(QDir().mkpath(journal.folder()));
+    const QByteArray withNilUuid =
+        R"({"server":"a","queue":"b","uuid":"urn:uuid:00000000-0000-4000-8000-000000000000"})";
     const std::vector<QByteArray> damaged{"",
                                           "{",
                                           "[1]",
@@ -188,8 +190,7 @@ TEST_F(JobJournalTest, DamagedFilesAreRemovedWithAWord)
                                           R"({"server":1,"queue":[],"uuid":{}})",
                                           R"({"server":"a","queue":"b","uuid":"c"})",
                                           R"({"server":"a","queue":"b","uuid":"urn:uuid:../other"})",
-                                          R"({"server":"a","queue":"b",)"
-                                          R"("uuid":"urn:uuid:00000000-0000-4000-8000-000000000000"})"};
+                                          withNilUuid};
     for (std::size_t i = 0; i < damaged.size(); ++i) {
         QFile file(journal.folder() + QStringLiteral("/%1.json").arg(i));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -19,7 +19,7 @@ using test_support::PpdBuilder;
 
 namespace {
 
-PpdFile openPpd(PpdBuilder builder)
+PpdFile openPpd(const PpdBuilder &builder)
 {
     const QTemporaryDir folder;
     EXPECT_TRUE(builder.writeTo(folder.filePath(QStringLiteral("tape.ppd"))));

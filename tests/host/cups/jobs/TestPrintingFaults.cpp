@@ -277,9 +277,9 @@ TEST_F(PrintingFaultsTest, AJobThatIsCanceledBeforeItsTurnIsNotSent)
     const FaultyServer counting(cupsd.port(), {});
     QSemaphore gate;
     {
-        host::Background others;
+        host::Background earlier;
         for (std::size_t task = 0; task < host::BackgroundPool::usualMaxThreads; ++task)
-            others.start([&](host::BackgroundTask &) { gate.acquire(); });
+            earlier.start([&](host::BackgroundTask &) { gate.acquire(); });
         Sending sending(serverAt(counting.address()), ticket());
         sending.submission.cancel();
         sending.submission.cancel();

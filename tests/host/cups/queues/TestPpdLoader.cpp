@@ -173,7 +173,7 @@ TEST_F(PpdLoaderTest, APpdLargerThanAnyPrintersIsRefusedWithoutFillingTheDisk)
     const QString file = cupsd->path(QStringLiteral("etc/ppd/tape.ppd"));
     QFile ppd(file);
     ASSERT_TRUE(ppd.open(QIODevice::Append));
-    ASSERT_TRUE(ppd.resize(50 * 1024 * 1024));
+    ASSERT_TRUE(ppd.resize(50LL * 1024 * 1024));
     const LoadOutcome outcome = load(tape);
     ASSERT_TRUE(outcome.error);
     EXPECT_TRUE(outcome.error->message.contains(QStringLiteral("larger than 16 MB")))

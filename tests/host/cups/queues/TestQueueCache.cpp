@@ -109,21 +109,21 @@ TEST_F(QueueCacheTest, IgnoresDamagedFilesAndThoseOfOtherVersions)
 
 TEST_F(QueueCacheTest, KeepsThePpdWithTheDateOfTheServer)
 {
-    const QString tape = QStringLiteral("tape");
+    const QString name = QStringLiteral("tape");
     // 2001-09-09 01:46:40 UTC
-    cache.storePpd(tape, "*PPD-Adobe: \"4.3\"\n", 1'000'000'000);
-    ASSERT_TRUE(cache.ppdPath(tape));
-    QFile file(*cache.ppdPath(tape));
+    cache.storePpd(name, "*PPD-Adobe: \"4.3\"\n", 1'000'000'000);
+    ASSERT_TRUE(cache.ppdPath(name));
+    QFile file(*cache.ppdPath(name));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "*PPD-Adobe: \"4.3\"\n");
-    EXPECT_EQ(cache.ppdStamp(tape), QByteArray("Sun, 09 Sep 2001 01:46:40 GMT; length=18"));
-    EXPECT_EQ(QueueCache::stamp(1'000'000'000, 18), cache.ppdStamp(tape));
+    EXPECT_EQ(cache.ppdStamp(name), QByteArray("Sun, 09 Sep 2001 01:46:40 GMT; length=18"));
+    EXPECT_EQ(QueueCache::stamp(1'000'000'000, 18), cache.ppdStamp(name));
     // Replaced within the same second by a longer one.
-    cache.storePpd(tape, "*PPD-Adobe: \"4.3\"\n\n", 1'000'000'000);
-    EXPECT_EQ(cache.ppdStamp(tape), QByteArray("Sun, 09 Sep 2001 01:46:40 GMT; length=19"));
-    cache.removePpd(tape);
-    cache.removePpd(tape);
-    EXPECT_FALSE(cache.ppdPath(tape));
+    cache.storePpd(name, "*PPD-Adobe: \"4.3\"\n\n", 1'000'000'000);
+    EXPECT_EQ(cache.ppdStamp(name), QByteArray("Sun, 09 Sep 2001 01:46:40 GMT; length=19"));
+    cache.removePpd(name);
+    cache.removePpd(name);
+    EXPECT_FALSE(cache.ppdPath(name));
 }
 
 TEST_F(QueueCacheTest, NoNameOfAQueueLeavesTheFolderOrMeetsAnother)

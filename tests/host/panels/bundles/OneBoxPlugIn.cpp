@@ -2,12 +2,11 @@
 // A minimal bundle: one panel with one check box for the option "KvMirror". Its summary lists the calls that
 // it received from the dialog. While its view has the property "refusesJobs", it rejects every job;
 // "askedForJobs" counts how often it was called for a job.
-#include <protocol/PDEPlugIn.h>
+#include "OneBoxEntry.h"
+
 #include <protocol/PDEUserChoices.h>
 
 #include <QCheckBox>
-#include <QObject>
-#include <QtPlugin>
 
 namespace {
 
@@ -88,13 +87,7 @@ public:
 
 } // namespace
 
-class OneBoxEntry : public QObject, public PDEPlugInFactory {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID TEST_IID FILE TEST_METADATA)
-    Q_INTERFACES(PDEPlugInFactory)
-
-public:
-    std::unique_ptr<PDEPlugIn> createPlugIn() override { return std::make_unique<OneBoxPlugIn>(); }
-};
-
-#include "OneBoxPlugIn.moc"
+std::unique_ptr<PDEPlugIn> OneBoxEntry::createPlugIn()
+{
+    return std::make_unique<OneBoxPlugIn>();
+}

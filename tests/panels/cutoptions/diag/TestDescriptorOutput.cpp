@@ -72,7 +72,7 @@ TEST(DescriptorOutput, FullPipeThatMayBlockGetsEverythingInTheEnd)
     Pipe pipe;
     const qsizetype filled = fill(pipe);
     ::fcntl(pipe.writer(), F_SETFL, 0);
-    const auto bytes = sampleBytes(16 * 1000);
+    const auto bytes = sampleBytes(16'000);
     QByteArray received;
     std::thread reader([&] { received = pipe.readAll(); });
     memoryCheckFd(0, pipe.writer(), bytes.data(), static_cast<std::int32_t>(bytes.size()));
@@ -109,7 +109,7 @@ TEST(DescriptorOutput, InterruptedWritesAreContinued)
     Pipe pipe;
     const qsizetype filled = fill(pipe);
     ::fcntl(pipe.writer(), F_SETFL, 0);
-    const auto bytes = sampleBytes(16 * 50);
+    const auto bytes = sampleBytes(800);
     const pthread_t writing = pthread_self();
     QByteArray received;
     std::thread reader([&] {

@@ -140,9 +140,9 @@ Verdict check(const Settings &settings, const Edit &edit)
         if ((settings.style != 2 && settings.style != 4) || !full)
             continue;
         const std::int32_t value = leadingInteger(edit.partial);
-        if (settings.maxValue && *settings.maxValue < value)
-            verdict.notification = formatError;
-        else if (settings.minValue && *settings.minValue > value)
+        const bool isTooLarge = settings.maxValue && *settings.maxValue < value;
+        const bool isTooSmall = settings.minValue && *settings.minValue > value;
+        if (isTooLarge || isTooSmall)
             verdict.notification = formatError;
     }
     verdict.accepted = verdict.notification.isEmpty();

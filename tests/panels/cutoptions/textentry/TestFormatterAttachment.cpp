@@ -199,7 +199,7 @@ static void editAtRandom(quint32 seed)
                      [&](const QString &text) { observed = text; });
     const QStringList texts{"1", "23", "x", "4y", "日", "5678901"};
     for (int round = 0; round < 2000; ++round) {
-        const QString text = texts[random.bounded(texts.size())];
+        const QString &text = texts[random.bounded(texts.size())];
         const FieldState before = in.state();
         Refusals choiceErrors;
         const int kind = editOnce(in, random, text);
