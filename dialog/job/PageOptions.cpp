@@ -34,7 +34,7 @@ void PageOptions::build()
     m_copies->setAccelerated(true);
     m_collate->setToolTip(
         tr("All pages once, then all pages again; otherwise all copies of a page together"));
-    m_pages->setPlaceholderText(tr("all, or ranges such as 1-3, 5"));
+    m_pages->setPlaceholderText(tr("all, or ranges: 1-3, 5"));
     addClearButton(m_pages);
     auto *const layout = new QFormLayout(this);
     layout->setContentsMargins({});

@@ -184,7 +184,7 @@
         <translation>Erst alle Seiten einmal, dann alle noch einmal; sonst alle Kopien einer Seite zusammen</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>alle, oder zum Beispiel 1-3, 5</translation>
     </message>
     <message>

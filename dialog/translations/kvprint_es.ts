@@ -184,7 +184,7 @@
         <translation>Todas las páginas una vez y luego otra; si no, todas las copias de una página juntas</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>todas o, por ejemplo, 1-3, 5</translation>
     </message>
     <message>

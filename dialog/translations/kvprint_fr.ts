@@ -184,7 +184,7 @@
         <translation>Toutes les pages une fois, puis à nouveau ; sinon toutes les copies d’une page ensemble</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>toutes, ou par exemple 1-3, 5</translation>
     </message>
     <message>

@@ -184,7 +184,7 @@
         <translation>Tutte le pagine una volta, poi di nuovo; altrimenti tutte le copie di una pagina insieme</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>tutte o, per esempio, 1-3, 5</translation>
     </message>
     <message>

@@ -184,7 +184,7 @@
         <translation>全ページを 1 部ずつ繰り返します。オフの場合は同じページの複製をまとめて印刷します</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>すべて、または例 1-3, 5</translation>
     </message>
     <message>

@@ -184,7 +184,7 @@
         <translation>Eerst alle pagina&apos;s één keer, dan opnieuw; anders alle exemplaren van een pagina bij elkaar</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>alle, of bijv. 1-3, 5</translation>
     </message>
     <message>

@@ -184,7 +184,7 @@
         <translation>Todas as páginas uma vez e depois outra; caso contrário, todas as cópias de uma página juntas</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>todas ou, por exemplo, 1-3, 5</translation>
     </message>
     <message>

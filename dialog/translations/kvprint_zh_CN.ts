@@ -184,7 +184,7 @@
         <translation>先打印全部页面一遍，再重复；否则同一页的所有副本连续打印</translation>
     </message>
     <message>
-        <source>all, or ranges such as 1-3, 5</source>
+        <source>all, or ranges: 1-3, 5</source>
         <translation>全部，或例如 1-3, 5</translation>
     </message>
     <message>
