@@ -64,7 +64,7 @@ objects_of() {
     *)
         ninja -C "$build" -t deps | awk -v file="/${1#panels/cutoptions/}" '
             /: #deps/ { object = $1; sub(/:$/, "", object); found = 0 }
-            !found && substr($1, length($1) - length(file) + 1) == file { found = 1; print object }' |
+            !found && substr($0, length($0) - length(file) + 1) == file { found = 1; print object }' |
             grep -E 'kv_panels_|test_(ppd|plugin|preview|options)\.dir'
         ;;
     esac
@@ -72,46 +72,64 @@ objects_of() {
 
 # compile OBJECT FILE FOLDER: the object with the broken copy of the file, which lies in the folder.
 compile() {
-    local command source out flags
+    local words=() kept=() flags=(-w) source out word next="" root=$3/panels/cutoptions
     out=$3/${1//\//_}
-    command=$(ninja -C "$build" -t commands -s "$1")
-    source=$(printf '%s' "$command" | awk '{print $NF}')
+    # A shell command without operators.
+    eval "words=($(ninja -C "$build" -t commands -s "$1"))"
+    source=${words[-1]}
     if [ "${2%.cpp}" != "$2" ]; then
         sed "s|$here/$2|$3/$2|" "$source" | sed "s|^#include \"\([^/]\)|#include \"$(dirname "$source")/\1|" >"$out.cxx"
         [ "$source" != "$here/$2" ] || cp "$3/$2" "$out.cxx"
-        command=${command%"$source"}$out.cxx
+        words[-1]=$out.cxx
     fi
     # The flags of the preset apply, but nothing is optimised and warnings about the broken code are expected. The
     # precompiled header of the tests needs their own optimisation.
-    case $1 in tests/*) flags=-w ;; *) flags="-w -O0" ;; esac
-    command=${command/ -o "$1"/ -o "$out"}
-    command=$(printf '%s' "$command" | sed "s| -M[DT] | |; s| -MF [^ ]*||; s| -MT [^ ]*||; s| -MD||")
-    # Before the include roots of the rooms.
-    command=${command/ -I/ -I"$3/panels/cutoptions" -I}
-    (cd "$build" && eval "${command/ -c / -iquote \"$here/$(dirname "$2")\" $flags -c }")
+    case $1 in tests/*) ;; *) flags+=(-O0) ;; esac
+    for word in "${words[@]}"; do
+        case $next$word in
+        dropped*) next="" ;;
+        output*) kept+=("$out") next="" ;;
+        -MD) ;;
+        -MT | -MF) next=dropped ;;
+        -o) kept+=("$word") next=output ;;
+        -c) kept+=(-iquote "$here/$(dirname "$2")" "${flags[@]}" "$word") ;;
+        # Before the include roots of the rooms.
+        -I*) kept+=(${root:+"-I$root"} "$word") root="" ;;
+        *) kept+=("$word") ;;
+        esac
+    done
+    (cd "$build" && "${kept[@]}")
     printf '%s\n' "$out"
 }
 
 # link PROGRAM FOLDER OBJECT=BROKEN...: the broken objects stand before the libraries, whose own are not linked then. Links
 # nothing if the program has none of them.
 link() {
-    local program=$1 folder=$2 command pair room added="" replaced=""
+    local program=$1 folder=$2 words=() kept=() broken=() replaced=" " pair word room next=""
     shift 2
-    command=$(ninja -C "$build" -t commands -s "tests/$program")
+    eval "words=($(ninja -C "$build" -t commands -s "tests/$program" | sed 's/^: && //; s/ && :$//'))"
     for pair in "$@"; do
         room=${pair%%.dir/*}
-        case $command in
-        *" ${pair%%=*} "*)
-            command=${command/ "${pair%%=*}" / "${pair#*=}" }
-            replaced=yes
-            ;;
-        *"/lib${room##*/}.a "*) added="$added ${pair#*=}" ;;
+        for word in "${words[@]}"; do
+            case $word in
+            "${pair%%=*}") replaced="$replaced$word " ;;
+            */"lib${room##*/}.a") ;;
+            *) continue ;;
+            esac
+            broken+=("${pair#*=}")
+            break
+        done
+    done
+    [ ${#broken[@]} -gt 0 ] || return 0
+    for word in "${words[@]}"; do
+        case $next$word in
+        output*) kept+=("$folder/$program") next="" ;;
+        -o) kept+=("${broken[@]}" "$word") next=output ;;
+        -Wl,-rpath,*) kept+=("-Wl,-rpath,$build/lib") ;;
+        *) case $replaced in *" $word "*) ;; *) kept+=("$word") ;; esac ;;
         esac
     done
-    [ -n "$added$replaced" ] || return 0
-    command=${command/ -o "tests/$program"/"$added" -o "$folder/$program"}
-    command=$(printf '%s' "$command" | sed "s|-Wl,-rpath,\"[^\"]*\"|-Wl,-rpath,$build/lib|")
-    (cd "$build" && eval "$command")
+    (cd "$build" && "${kept[@]}")
 }
 
 # run PROGRAM FILTER: a program that a broken rule keeps from ending is ended after ten minutes.

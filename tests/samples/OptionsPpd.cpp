@@ -21,7 +21,7 @@ QByteArray head()
            "*ImageableArea Large: \"0 0 200 300\"\n";
 }
 
-constexpr char options[] = R"(*OpenGroup: Print/Print & Quality
+constexpr char optionsInGroups[] = R"(*OpenGroup: Print/Print & Quality
 *OpenUI *Darkness/Darkness: PickOne
 *DefaultDarkness: Normal
 *Darkness Light/Light: ""
@@ -107,7 +107,7 @@ constexpr char options[] = R"(*OpenGroup: Print/Print & Quality
 
 QByteArray optionsPpd()
 {
-    return head() + options;
+    return head() + optionsInGroups;
 }
 
 QByteArray largeOptionsPpd(int options, int choices)

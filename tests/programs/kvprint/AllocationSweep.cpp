@@ -21,7 +21,7 @@ quint64 numberOr(const char *name, quint64 otherwise)
 Kvprint withFailingAllocations(const Kvprint &kvprint)
 {
     Kvprint prepared = kvprint;
-    prepared.environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KV_FAILING_ALLOCATIONS));
+    prepared.preload(QStringLiteral(KV_FAILING_ALLOCATIONS));
     return prepared;
 }
 
@@ -53,6 +53,7 @@ quint64 AllocationSweep::count(const Kvprint &kvprint, const QStringList &words)
     EXPECT_EQ(outcome.status, 0) << outcome;
     quint64 count = 0;
     EXPECT_EQ(counter.read(reinterpret_cast<char *>(&count), sizeof count), qint64{sizeof count});
+    EXPECT_GT(count, 0U) << outcome;
     return count;
 }
 

@@ -3,6 +3,7 @@
 
 #include <tests/support/Waiting.h>
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -97,6 +98,14 @@ std::vector<Outcome> Kvprint::runAll(const std::vector<QStringList> &lists) cons
     while (!running.empty())
         endOne();
     return outcomes;
+}
+
+void Kvprint::preload(const QString &library)
+{
+    // LD_PRELOAD separates libraries by blanks, which the path of a library may contain.
+    const QFileInfo file(library);
+    environment.insert(QStringLiteral("LD_PRELOAD"), file.fileName());
+    environment.insert(QStringLiteral("LD_LIBRARY_PATH"), file.path());
 }
 
 std::vector<ReportedChange> toldChanges(const QByteArray &error)

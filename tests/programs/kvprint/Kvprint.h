@@ -35,6 +35,9 @@ public:
     /// Runs another program in the same environment.
     Outcome runOther(const QString &program, const QStringList &words, const QByteArray &input = {}) const;
 
+    /// Loads the library into programs before all others.
+    void preload(const QString &library);
+
     /// For changes: what programs find in their environment.
     QProcessEnvironment environment;
 };

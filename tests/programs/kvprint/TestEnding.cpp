@@ -79,7 +79,7 @@ TEST_F(KvprintEnding, OfADialogWhoseServerIsSilent)
 TEST_F(KvprintEnding, WhileANameServerIsSilent)
 {
     const QString asked = folder.filePath(QStringLiteral("asked"));
-    kvprint.environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KV_SILENT_NAME_SERVER));
+    kvprint.preload(QStringLiteral(KV_SILENT_NAME_SERVER));
     kvprint.environment.insert(QStringLiteral("KV_NAME_SERVER_ASKED"), asked);
     for (const QStringList &words : {QStringList{QStringLiteral("--no-dialog")}, QStringList()}) {
         QProcess program;
