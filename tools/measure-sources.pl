@@ -73,7 +73,7 @@ sub measure_declarations {
         } elsif (/^\s*(#|\/\/|(inline )?namespace|using|extern "C" \{|friend|Q_OBJECT|class [\w:]+;|struct [\w:]+;|enum class [\w:]+;|\})/) {
             next;
         } elsif ($public && !$inside && /^\s*[\w~\[]/) {
-            next if /^\s*(virtual )?~|\boperator[ =]|\boverride\b|= (delete|default);|^\s*explicit \w+\(Q(Widget|Object) \*/;
+            next if /^\s*(virtual )?~|\boperator\W|\boverride\b|= (delete|default);|^\s*explicit \w+\(Q(Widget|Object) \*/;
             next if !/[;{]$/ && ($lines[$i + 1] // '') =~ /\boverride;/;
             $declared{$building}++;
             if ($is_documented || m{///<}) {

@@ -99,11 +99,11 @@ void DestinationChooser::showDestinations()
 
 void DestinationChooser::showChosen()
 {
-    const QString name = m_session.chosenName();
-    int index = m_list->findData(name);
-    if (index < 0 && !name.isEmpty()) {
+    const std::optional<QString> name = m_session.chosenName();
+    int index = name ? m_list->findData(*name) : -1;
+    if (index < 0 && name) {
         // A requested destination that has not been found yet, or an instance that does not exist.
-        m_list->insertItem(0, name, name);
+        m_list->insertItem(0, *name, *name);
         index = 0;
     }
     m_list->setCurrentIndex(index);

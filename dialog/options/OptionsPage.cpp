@@ -104,10 +104,10 @@ void OptionsPage::fitGroups()
     m_groups->setFixedWidth(qMin(names + sign + fontMetrics().height(), widest));
 }
 
-QString OptionsPage::shownGroup() const
+std::optional<QString> OptionsPage::shownGroup() const
 {
     const QListWidgetItem *const item = m_groups->currentItem();
-    return item ? item->text() : QString();
+    return item ? std::optional(item->text()) : std::nullopt;
 }
 
 void OptionsPage::showGroup(const QString &text)

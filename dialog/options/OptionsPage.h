@@ -38,8 +38,8 @@ public:
     /// Shows the conflicts below their options and in the list of groups; an empty list removes them.
     void setConflicts(const std::vector<host::Conflict> &conflicts);
 
-    /// Returns the text of the group that is shown; empty if the page has no groups.
-    QString shownGroup() const;
+    /// Returns the text of the group that is shown; absent if the page has no groups.
+    std::optional<QString> shownGroup() const;
     /// Shows the group with this text. Does nothing if there is no such group.
     void showGroup(const QString &text);
 

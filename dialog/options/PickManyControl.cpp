@@ -28,7 +28,7 @@ PickManyControl::PickManyControl(const host::PpdOption &option, QWidget *parent)
 {
     auto *const boxes = new QVBoxLayout(m_frame);
     for (const host::PpdChoice &choice : option.choices) {
-        if (m_none.isEmpty() && meansNone(choice.name)) {
+        if (!m_none && meansNone(choice.name)) {
             m_none = choice.name;
             m_frame->setToolTip(plainToolTip(choice.text));
             continue;
@@ -50,7 +50,7 @@ QByteArray PickManyControl::value() const
         if (box->isChecked())
             names.append(name);
     }
-    return names.isEmpty() ? m_none : names.join(',');
+    return names.isEmpty() ? m_none.value_or(QByteArray()) : names.join(',');
 }
 
 void PickManyControl::showMarked(const host::PpdOptions &options)

@@ -27,8 +27,8 @@ private:
     QByteArray value() const;
 
     std::vector<std::pair<QByteArray, QCheckBox *>> m_boxes;
-    /// The name of the choice that means "none"; empty if the PPD does not have one.
-    QByteArray m_none;
+    /// The name of the choice that means "none"; absent if the PPD does not have one.
+    std::optional<QByteArray> m_none;
     QGroupBox *m_frame;
 };
 

@@ -13,6 +13,7 @@ class LengthField : public NumberField {
     Q_OBJECT
 
 public:
+    /// Creates a field for lengths within these limits.
     LengthField(host::Points minimum, host::Points maximum, QWidget *parent);
 
     /// Returns the length, always within the limits; exactly the minimum if the field is read-only.

@@ -187,7 +187,7 @@ void DialogPages::detachSetup()
 
 void DialogPages::saveFocus()
 {
-    m_group = m_optionsPage ? m_optionsPage->shownGroup() : QString();
+    m_group = m_optionsPage ? m_optionsPage->shownGroup() : std::nullopt;
     m_focused = nameOfFocus(currentWidget());
     if (m_optionsPlace && currentWidget() == m_optionsPlace)
         m_front = Front::Options;
@@ -201,8 +201,8 @@ void DialogPages::restoreFocus()
         setCurrentWidget(m_panelPage);
     if (m_front == Front::Options && m_optionsPlace) {
         setCurrentWidget(m_optionsPlace);
-        if (m_optionsPage)
-            m_optionsPage->showGroup(m_group);
+        if (m_optionsPage && m_group)
+            m_optionsPage->showGroup(*m_group);
     }
     if (m_front != Front::Other)
         focusByName(currentWidget(), m_focused);

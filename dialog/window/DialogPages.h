@@ -93,8 +93,8 @@ private:
     /// front when they are replaced.
     enum class Front { Panel, Options, Other };
     Front m_front = Front::Panel;
-    /// The group of options that was shown, and the name of the control that had the focus.
-    QString m_group;
+    /// The group of options that was shown, if any, and the name of the control that had the focus.
+    std::optional<QString> m_group;
     QString m_focused;
     PagePreview *m_pagePreview;
     // Null until they are first shown.

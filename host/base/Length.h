@@ -36,27 +36,14 @@ public:
     /// The number of units.
     constexpr double number() const { return m_number; }
 
-    constexpr Length &operator+=(Length other)
-    {
-        m_number += other.m_number;
-        return *this;
-    }
-    constexpr Length &operator-=(Length other)
-    {
-        m_number -= other.m_number;
-        return *this;
-    }
-    friend constexpr Length operator+(Length left, Length right) { return left += right; }
-    friend constexpr Length operator-(Length left, Length right) { return left -= right; }
-    friend constexpr Length operator*(Length length, double factor)
-    {
-        return Length(length.m_number * factor);
-    }
-    friend constexpr Length operator*(double factor, Length length) { return length * factor; }
-    friend constexpr Length operator/(Length length, double divisor)
-    {
-        return Length(length.m_number / divisor);
-    }
+    // Lengths are added to lengths, and multiplied and divided by numbers.
+    constexpr Length &operator+=(Length other) { return *this = *this + other; }
+    constexpr Length &operator-=(Length other) { return *this = *this - other; }
+    friend constexpr Length operator+(Length a, Length b) { return Length(a.m_number + b.m_number); }
+    friend constexpr Length operator-(Length a, Length b) { return Length(a.m_number - b.m_number); }
+    friend constexpr Length operator*(Length length, double by) { return Length(length.m_number * by); }
+    friend constexpr Length operator*(double by, Length length) { return Length(length.m_number * by); }
+    friend constexpr Length operator/(Length length, double by) { return Length(length.m_number / by); }
     /// The ratio of two lengths.
     friend constexpr double operator/(Length left, Length right) { return left.m_number / right.m_number; }
     // clang-tidy 14 reports the 0 with which the compiler writes "left < right".

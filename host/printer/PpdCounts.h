@@ -33,8 +33,8 @@ public:
 
     /// A kind of statement whose number exceeds the maximum.
     struct Excess {
-        /// The keyword, for instance "*OpenUI"; empty if the number of all statements exceeds the maximum.
-        QByteArray keyword;
+        /// The keyword, for instance "*OpenUI"; absent if the number of all statements exceeds the maximum.
+        std::optional<QByteArray> keyword;
         /// The number of statements, and its maximum.
         int count = 0;
         int max = 0;

@@ -230,10 +230,12 @@ std::vector<PpdParameter> PpdOptions::parameters(const QByteArray &keyword) cons
     return parameters;
 }
 
-QByteArray PpdOptions::defaultChoice(const QByteArray &keyword) const
+std::optional<QByteArray> PpdOptions::defaultChoice(const QByteArray &keyword) const
 {
     const ppd_option_t *const option = ppdFindOption(m_ppd.handle(), keyword.constData());
-    return option ? QByteArray(option->defchoice) : QByteArray();
+    if (!option)
+        return std::nullopt;
+    return option->defchoice;
 }
 
 std::vector<QByteArray> PpdOptions::markedChoices(const QByteArray &keyword) const

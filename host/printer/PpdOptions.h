@@ -103,9 +103,9 @@ public:
     /// The parameters of the option's custom value, in the order of the PPD; empty if the option does not
     /// allow custom values.
     std::vector<PpdParameter> parameters(const QByteArray &keyword) const;
-    /// The default choice of the PPD, which need not be one of the option's choices; empty if the PPD does
+    /// The default choice of the PPD, which need not be one of the option's choices; absent if the PPD does
     /// not have the option.
-    QByteArray defaultChoice(const QByteArray &keyword) const;
+    std::optional<QByteArray> defaultChoice(const QByteArray &keyword) const;
     /// The marked choices in the order of the PPD. Most options have one; an option without a valid default
     /// may have none.
     std::vector<QByteArray> markedChoices(const QByteArray &keyword) const;

@@ -46,10 +46,10 @@ QString tooMany(const PpdCounts::Excess &excess)
 {
     const QString count = QString::number(excess.count);
     const QString max = QString::number(excess.max);
-    if (excess.keyword.isEmpty())
+    if (!excess.keyword)
         return PpdSourceText::tr("it has %1 statements; the maximum is %2").arg(count, max);
     return PpdSourceText::tr("it has %1 \"%2\" statements; the maximum is %3")
-        .arg(count, QString::fromUtf8(excess.keyword), max);
+        .arg(count, QString::fromUtf8(*excess.keyword), max);
 }
 
 PpdError damaged(const QString &path)

@@ -125,8 +125,10 @@ std::optional<PpdPaper> PrinterSetup::defaultPaper() const
         return m_state->ppd().paper(*queues);
     if (std::optional<PpdPaper> marked = m_state->ppd().markedPaper())
         return marked;
-    if (std::optional<PpdPaper> own = ppd().paper(PpdOptions(ppd()).defaultChoice(paperKeyword)))
-        return own;
+    if (const std::optional<QByteArray> name = PpdOptions(ppd()).defaultChoice(paperKeyword)) {
+        if (std::optional<PpdPaper> own = ppd().paper(*name))
+            return own;
+    }
     const std::vector<PpdPaper> papers = m_state->ppd().papers();
     return papers.empty() ? std::nullopt : std::optional(papers.front());
 }
@@ -163,9 +165,9 @@ void PrinterSetup::applyPaper(const SetupRequest &requested)
 void PrinterSetup::rejectUnusableDefault()
 {
     // Without a choice, the server would print on it.
-    const QByteArray paper = PpdOptions(ppd()).defaultChoice(paperKeyword);
-    if (m_choiceErrors.empty() && ppd().unusableSize(paper))
-        m_choiceErrors.push_back(checkChoice(ppd(), {paperKeyword, paper, Origin::Ppd}).error());
+    const std::optional<QByteArray> paper = PpdOptions(ppd()).defaultChoice(paperKeyword);
+    if (m_choiceErrors.empty() && paper && ppd().unusableSize(*paper))
+        m_choiceErrors.push_back(checkChoice(ppd(), {paperKeyword, *paper, Origin::Ppd}).error());
 }
 
 void PrinterSetup::keepRejected(const SetupRequest &requested)

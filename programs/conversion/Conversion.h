@@ -13,18 +13,20 @@ inline namespace conversion {
 /// the language of the user.
 class ConversionError : public std::runtime_error {
 public:
+    /// The exit status of the program.
     enum Status {
         Damaged = 1,  ///< the document or an argument is invalid, or a stream cannot be read or written
         TooLarge = 2, ///< the document needs more memory or time than there is
     };
 
+    /// An error with its reason.
     ConversionError(Status status, const std::string &reason)
         : std::runtime_error(reason)
         , m_status(status)
     {
     }
 
-    /// The exit status of the program.
+    /// The status of the error.
     Status status() const { return m_status; }
 
 private:

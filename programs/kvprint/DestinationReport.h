@@ -15,7 +15,7 @@ QString destinationsInPlainText(const std::vector<host::Destination> &destinatio
 ///   name           "queue" or "queue/instance", as -d takes it
 ///   queue          the queue alone
 ///   instance       the name of the set of options; null for the queue itself
-///   description, location, makeAndModel, uri    texts, empty when the server tells nothing
+///   description, location, makeAndModel, uri    texts, empty if the server does not report them
 ///   class          whether it is a class; members: its queues
 ///   default        whether jobs go there that name no destination
 ///   accepting      whether it takes jobs

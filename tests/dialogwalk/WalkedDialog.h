@@ -32,7 +32,7 @@ public:
     PanelBoxes panel() const { return PanelBoxes(m_window.get()); }
 
     /// The destination that is chosen.
-    QString destination() const { return m_session->chosenName(); }
+    QString destination() const { return m_session->chosenName().value_or(QString()); }
     /// Waits until the destination's description is there and everything is shown that follows from it.
     bool settle(const QString &destination);
     /// Lets the window show what has changed, and waits for lengths that are being measured.

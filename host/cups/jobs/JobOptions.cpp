@@ -78,7 +78,7 @@ void addPpdDefaults(Layers &layers, const PpdFile &ppd)
     for (const PpdGroup &group : options.groups()) {
         for (const QByteArray &keyword : group.keywords) {
             if (!isOtherPaperOption(keyword))
-                layers.setByServer(keyword, options.defaultChoice(keyword), Origin::Ppd);
+                layers.setByServer(keyword, options.defaultChoice(keyword).value(), Origin::Ppd);
         }
     }
 }

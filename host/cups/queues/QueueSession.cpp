@@ -79,9 +79,9 @@ void QueueSession::retry()
     Q_EMIT stateChanged();
 }
 
-QString QueueSession::chosenName() const
+std::optional<QString> QueueSession::chosenName() const
 {
-    return m_chosen ? m_chosen->name() : m_requested.value_or(QString());
+    return m_chosen ? m_chosen->name() : m_requested;
 }
 
 void QueueSession::choose(const QString &name)
@@ -171,7 +171,7 @@ CupsError QueueSession::noSuchDestination() const
 {
     return {CupsErrorKind::NotFound,
             QueueSessionText::tr("The print server \"%1\" has no queue or class \"%2\".")
-                .arg(m_server.displayName(), chosenName())};
+                .arg(m_server.displayName(), chosenName().value_or(QString()))};
 }
 
 void QueueSession::updateState(const Destination &destination)

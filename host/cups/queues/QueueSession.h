@@ -45,9 +45,9 @@ public:
     const std::optional<CupsError> &listError() const { return m_listError; }
     /// The chosen destination; absent while it is not known.
     const std::optional<Destination> &chosen() const { return m_chosen; }
-    /// Returns the name of the chosen destination, or of the requested one while it is not known; empty if
-    /// neither is known.
-    QString chosenName() const;
+    /// Returns the name of the chosen destination, or of the requested one while it is not known; absent
+    /// if neither is known.
+    std::optional<QString> chosenName() const;
     /// Chooses another destination of the list; ignores a name that the list does not contain.
     void choose(const QString &name);
     /// Sets a function that returns whether the user has already changed a setting for the chosen

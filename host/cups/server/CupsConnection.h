@@ -42,9 +42,10 @@ public:
     /// The server that was passed to open().
     const CupsServer &server() const { return m_state->server; }
 
-    /// Returns a request for the operation with the attributes that every request has: for a queue, for the
-    /// server itself if the queue is empty, or for a job of the queue.
-    IppPointer newRequest(ipp_op_t operation, const QString &queue = {}, std::optional<int> jobId = {}) const;
+    /// Returns a request for the operation with the attributes that every request has: for the server itself,
+    /// for a queue, or for a job of the queue.
+    IppPointer newRequest(ipp_op_t operation, const std::optional<QString> &queue = {},
+                          std::optional<int> jobId = {}) const;
     /// Sends the request and waits for the response. A response with an error status is an error, with the
     /// server's message.
     Result<IppPointer, CupsError> exchange(IppPointer request, const QByteArray &resource);
@@ -113,8 +114,8 @@ private:
         /// Canceling the task does not interrupt the current request.
         bool ignoresCancellation = false;
         bool isAnswerMissing = false;
-        /// The resource to which the document is being sent; empty if there is no document.
-        QByteArray documentResource;
+        /// The resource to which the document is being sent; absent if there is no document.
+        std::optional<QByteArray> documentResource;
         /// The status of a response that was received before the whole document was sent.
         std::optional<http_status_t> earlyStatus;
         /// Whether the server confirms that it is ready for a document ("Expect: 100-continue").

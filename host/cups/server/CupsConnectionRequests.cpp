@@ -92,13 +92,13 @@ CupsError CupsConnection::serverError(CupsErrorKind kind, const QString &reason)
                       .arg(server().displayName(), reason)};
 }
 
-IppPointer CupsConnection::newRequest(ipp_op_t operation, const QString &queue,
+IppPointer CupsConnection::newRequest(ipp_op_t operation, const std::optional<QString> &queue,
                                       std::optional<int> jobId) const
 {
     IppPointer request(ippNewRequest(operation));
-    if (!queue.isEmpty())
+    if (queue)
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-                     queueUri(queue).constData());
+                     queueUri(*queue).constData());
     // RFC 8011: the target of a request precedes its other attributes.
     if (jobId)
         ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", *jobId);
@@ -154,7 +154,7 @@ Result<IppPointer, CupsError> CupsConnection::exchange(IppPointer request, const
 Result<void, CupsError> CupsConnection::beginDocument(IppPointer request, const QByteArray &resource)
 {
     m_state->isAnswerMissing = false;
-    m_state->documentResource.clear();
+    m_state->documentResource.reset();
     const http_status_t status = sendUntilAccepted("POST", resource, [&] {
         if (!post(request.get(), resource, unknownLength))
             return HTTP_STATUS_ERROR;
@@ -215,13 +215,13 @@ Result<IppPointer, CupsError> CupsConnection::readDocumentAnswer(http_status_t s
 
 bool CupsConnection::documentNeedsPassword() const
 {
-    return m_http && !m_state->documentResource.isEmpty() && !isCanceledOrTimedOut() &&
+    return m_http && m_state->documentResource && !isCanceledOrTimedOut() &&
            httpGetStatus(m_http.get()) == HTTP_STATUS_UNAUTHORIZED;
 }
 
 Result<void, CupsError> CupsConnection::authenticateDocument()
 {
-    if (!meetRequirement(HTTP_STATUS_UNAUTHORIZED, "POST", m_state->documentResource))
+    if (!meetRequirement(HTTP_STATUS_UNAUTHORIZED, "POST", m_state->documentResource.value()))
         return serverError(CupsErrorKind::NotAuthorized,
                            QString::fromUtf8(httpStatus(HTTP_STATUS_UNAUTHORIZED)));
     if (!reconnect())
