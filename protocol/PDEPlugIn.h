@@ -40,6 +40,12 @@ public:
 /// The factory of principal objects that the library of a bundle exports. The interface version is part of
 /// the interface's name, so that a bundle that was built for another version is detected before any of its
 /// code runs.
+///
+/// The factory is declared with Q_PLUGIN_METADATA(IID PDEPlugInFactory_iid FILE "bundle.json"). The JSON
+/// object of the file describes the bundle without running its code: "Keywords" lists the PPD keywords that
+/// its panels may handle, and "Resources" the files in Resources/ that it needs. The dialog loads the bundle
+/// only for a printer whose PPD has an option with one of the keywords, and leaves no other option to its
+/// panels.
 class KV_EXPORT PDEPlugInFactory {
 public:
     virtual ~PDEPlugInFactory() = default;
