@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Noch einmal versuchen</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>„%1“ wird gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>nein</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Übersicht</translation>
     </message>
 </context>
 <context>
@@ -544,6 +544,17 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>Die Optionen des Druckers stehen auf der Seite „Optionen“.</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>Wieder laden</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -556,10 +567,6 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Die Schneideoptionen können nicht gezeigt werden. %1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1222,6 +1229,51 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>Das Bundle „%1“ wird nicht verwendet: %2.</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>Die Bundles in „%1“ werden nicht verwendet: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>den Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>es ist kein Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>„%1“ lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>„%1“ gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>andere Benutzer können in „%1“ schreiben; „chmod go-w“ verhindert es</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1261,14 +1313,14 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>„%1“ kann die Einstellungen nicht speichern: %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>in „%1“ ist ein Fehler aufgetreten</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>„%1“ lässt den Auftrag mit diesen Einstellungen nicht drucken.</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>in „%1“ ist ein Fehler aufgetreten: %2</translation>
     </message>
 </context>
 <context>
@@ -1429,12 +1481,20 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>Das Bundle „%1“ konnte seine Seite nicht anlegen</translation>
+        <source>it could not create its panel</source>
+        <translation>es konnte seine Seite nicht anlegen</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Die Seite des Bundles „%1“ kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>seine Seite kann nicht gezeigt werden: Ihre Layoutdatei ist unbrauchbar</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>Das Bundle „%1“ stellt %2 nicht ein: Das tut ein anderes Bundle oder der Dialog, oder seine Beschreibung führt es nicht auf.</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>das Programm ist am %2 während „%1“ abgestürzt oder angehalten worden</translation>
     </message>
 </context>
 <context>
@@ -1450,10 +1510,6 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>Die Beschreibung des Druckers sagt nicht, ob er die Etiketten schneidet.</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>Etiketten: %1 · Band: %2</translation>
@@ -1493,10 +1549,6 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Es wird nichts gedruckt.</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Spezialband: Der Drucker schneidet nichts.</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>Halbschnitt zwischen den Etiketten eines Stücks.</translation>
     </message>
@@ -1515,6 +1567,14 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>The labels are mirrored.</source>
         <translation>Die Etiketten sind gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>Der Schnitt ist nicht bekannt: Die Beschreibung des Druckers sagt nicht, ob er die Etiketten schneidet.</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>Vollschnitte nach den Etiketten %1.</translation>
     </message>
 </context>
 <context>
@@ -1764,10 +1824,6 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>Speichert ein Bild des Dialogs, wie er sich öffnet, in einer PNG-Datei.</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>Das Bundle mit den Schneideoptionen, oder der Ordner, in dem es liegt.</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Eine PPD-Datei, unkomprimiert oder gzip: druckt auf einem virtuellen Drucker statt auf einer Warteschlange.</translation>
     </message>
@@ -1815,6 +1871,14 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>Druckt, was der Druckserver von einem solchen Auftrag hat, vielleicht nicht alle Dokumente.</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>Ein Bundle mit Seiten des Druckdialogs, oder ein Ordner mit Bundles, statt der installierten.</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>Lädt Seiten wieder, die das Programm zuvor beendet oder blockiert haben.</translation>
     </message>
 </context>
 <context>

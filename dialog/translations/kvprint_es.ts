@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Intentar de nuevo</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>Enviando «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>no</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valor</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Resumen</translation>
     </message>
 </context>
 <context>
@@ -544,6 +544,17 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>Las opciones de la impresora están en la página «Opciones».</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>Cargar de nuevo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -556,10 +567,6 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>No se pueden mostrar las opciones de corte. %1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1222,6 +1229,51 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>El paquete de paneles «%1» no se usa: %2.</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>Los paquetes de paneles de «%1» no se usan: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>no existe esa carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>no es una carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>«%1» no se puede leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>«%1» pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>otros usuarios pueden escribir en «%1»; «chmod go-w» lo impide</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>«%1» no puede guardar sus ajustes: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1261,14 +1313,14 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>«%1» no puede guardar sus ajustes: %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>se produjo un error en «%1»</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>«%1» no permite imprimir el trabajo con estos ajustes.</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>se produjo un error en «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -1429,12 +1481,20 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>El paquete «%1» no pudo crear su panel</translation>
+        <source>it could not create its panel</source>
+        <translation>no pudo crear su panel</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>No se puede mostrar el panel del paquete «%1»: su archivo de diseño no sirve</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>su panel no se puede mostrar: su archivo de diseño no se puede usar</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>El paquete de paneles «%1» no controla %2: lo hace otro panel o el diálogo, o su descripción no lo incluye.</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>el programa terminó o fue detenido durante «%1» el %2</translation>
     </message>
 </context>
 <context>
@@ -1450,10 +1510,6 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>La descripción de la impresora no indica si corta las etiquetas.</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>Etiquetas: %1 · Cinta: %2</translation>
@@ -1493,10 +1549,6 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>No se imprime nada.</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Cinta especial: la impresora no corta nada.</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>Medio corte entre las etiquetas de una pieza.</translation>
     </message>
@@ -1515,6 +1567,14 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>The labels are mirrored.</source>
         <translation>Las etiquetas están reflejadas.</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>El corte no se conoce: la descripción de la impresora no dice si corta las etiquetas.</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>Cortes completos después de las etiquetas %1.</translation>
     </message>
 </context>
 <context>
@@ -1764,10 +1824,6 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>Guarda una imagen del diálogo, tal como se abre, en un archivo PNG.</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>El paquete con el panel de opciones de corte, o la carpeta en la que está.</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Un archivo PPD, sin comprimir o gzip: imprime en una impresora virtual en lugar de en una cola.</translation>
     </message>
@@ -1814,6 +1870,14 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>Imprime lo que el servidor de impresión tiene de ese trabajo, quizá no todos los documentos.</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>Un paquete de paneles, o una carpeta con paquetes, en lugar de los instalados.</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>Vuelve a cargar los paneles que antes terminaron o bloquearon el programa.</translation>
     </message>
 </context>
 <context>

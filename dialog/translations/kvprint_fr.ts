@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Réessayer</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>Envoi de « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>non</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Réglage</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
     </message>
 </context>
 <context>
@@ -544,6 +544,17 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>Les options de l’imprimante se trouvent sur la page « Options ».</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>Recharger</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -556,10 +567,6 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Les options de coupe ne peuvent pas être affichées. %1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1222,6 +1229,51 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>Le paquet de panneaux « %1 » n’est pas utilisé : %2.</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>Les paquets de panneaux dans « %1 » ne sont pas utilisés : %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>ce dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>« %1 » ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>« %1 » appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>d’autres utilisateurs peuvent écrire dans « %1 » ; « chmod go-w » l’empêche</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1261,14 +1313,14 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>« %1 » ne peut pas enregistrer ses réglages : %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>une erreur s’est produite dans « %1 »</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>« %1 » ne permet pas d’imprimer la tâche avec ces réglages.</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>une erreur s’est produite dans « %1 » : %2</translation>
     </message>
 </context>
 <context>
@@ -1429,12 +1481,20 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>Le paquet « %1 » n’a pas pu créer son panneau</translation>
+        <source>it could not create its panel</source>
+        <translation>il n’a pas pu créer son panneau</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Le panneau du paquet « %1 » ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>son panneau ne peut pas être affiché : son fichier de mise en page est inutilisable</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>Le paquet de panneaux « %1 » ne gère pas %2 : un autre panneau ou la boîte de dialogue s’en charge, ou sa description ne le cite pas.</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>le programme s’est terminé ou a été arrêté pendant « %1 » le %2</translation>
     </message>
 </context>
 <context>
@@ -1450,10 +1510,6 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>La description de l’imprimante n’indique pas si elle coupe les étiquettes.</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>Étiquettes : %1 · Ruban : %2</translation>
@@ -1493,10 +1549,6 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Rien n’est imprimé.</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Ruban spécial : l’imprimante ne coupe rien.</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>Demi-coupe entre les étiquettes d’un morceau.</translation>
     </message>
@@ -1515,6 +1567,14 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>The labels are mirrored.</source>
         <translation>Les étiquettes sont en miroir.</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>La coupe n’est pas connue : la description de l’imprimante ne dit pas si elle coupe les étiquettes.</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>Coupes complètes après les étiquettes %1.</translation>
     </message>
 </context>
 <context>
@@ -1764,10 +1824,6 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>Enregistre une image de la boîte de dialogue, telle qu’elle s’ouvre, dans un fichier PNG.</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>Le paquet du panneau des options de coupe, ou le dossier où il se trouve.</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Un fichier PPD, non compressé ou gzip&#xa0;: imprime sur une imprimante virtuelle au lieu d’une file d’attente.</translation>
     </message>
@@ -1815,6 +1871,14 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>Imprime ce que le serveur d’impression a d’une telle tâche, peut-être pas tous les documents.</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>Un paquet de panneaux, ou un dossier de paquets, à utiliser à la place de ceux qui sont installés.</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>Recharge les panneaux qui ont auparavant arrêté ou bloqué le programme.</translation>
     </message>
 </context>
 <context>

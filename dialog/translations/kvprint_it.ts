@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Riprova</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>Invio di &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>no</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Impostazione</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valore</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Riepilogo</translation>
     </message>
 </context>
 <context>
@@ -544,6 +544,17 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>Le opzioni della stampante sono nella pagina «Opzioni».</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>Carica di nuovo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -556,10 +567,6 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Le opzioni di taglio non possono essere mostrate. %1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1222,6 +1229,51 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>Il bundle di pannelli «%1» non viene usato: %2.</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>I bundle di pannelli in «%1» non vengono usati: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>la cartella non esiste</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>non è una cartella</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>«%1» non può essere letto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>«%1» appartiene a un altro utente</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>altri utenti possono scrivere in «%1»; «chmod go-w» lo impedisce</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1261,14 +1313,14 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>&quot;%1&quot; non può salvare le impostazioni: %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>si è verificato un errore in «%1»</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>&quot;%1&quot; non consente di stampare il lavoro con queste impostazioni.</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>si è verificato un errore in «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -1429,12 +1481,20 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>Il bundle &quot;%1&quot; non ha potuto creare il suo pannello</translation>
+        <source>it could not create its panel</source>
+        <translation>non ha potuto creare il suo pannello</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Il pannello del bundle &quot;%1&quot; non può essere mostrato: il suo file di layout è inutilizzabile</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>il suo pannello non può essere mostrato: il file di layout non è utilizzabile</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>Il bundle di pannelli «%1» non controlla %2: lo fa un altro pannello o la finestra, oppure la sua descrizione non lo elenca.</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>il programma è terminato o è stato fermato durante «%1» il %2</translation>
     </message>
 </context>
 <context>
@@ -1450,10 +1510,6 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>La descrizione della stampante non indica se taglia le etichette.</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>Etichette: %1 · Nastro: %2</translation>
@@ -1493,10 +1549,6 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Non si stampa nulla.</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Nastro speciale: la stampante non taglia nulla.</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>Mezzo taglio tra le etichette di un pezzo.</translation>
     </message>
@@ -1515,6 +1567,14 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>The labels are mirrored.</source>
         <translation>Le etichette sono speculari.</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>Il taglio non è noto: la descrizione della stampante non dice se taglia le etichette.</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>Tagli completi dopo le etichette %1.</translation>
     </message>
 </context>
 <context>
@@ -1764,10 +1824,6 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>Salva un&apos;immagine della finestra, così come si apre, in un file PNG.</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>Il bundle con il pannello delle opzioni di taglio, o la cartella in cui si trova.</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Un file PPD, non compresso o gzip: stampa su una stampante virtuale invece che su una coda.</translation>
     </message>
@@ -1815,6 +1871,14 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>Stampa ciò che il server di stampa ha di tale lavoro, forse non tutti i documenti.</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>Un bundle di pannelli, o una cartella con bundle, da usare al posto di quelli installati.</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>Carica di nuovo i pannelli che prima hanno terminato o bloccato il programma.</translation>
     </message>
 </context>
 <context>

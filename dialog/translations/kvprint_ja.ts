@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>再試行</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>「%1」を送信中</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>いいえ</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>値</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>概要</translation>
     </message>
 </context>
 <context>
@@ -543,6 +543,17 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>プリンターのオプションは「オプション」ページにあります。</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>再読み込み</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -555,10 +566,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>カットオプションを表示できません。%1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1220,6 +1227,51 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>パネルバンドル「%1」は使用されません: %2。</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>「%1」のパネルバンドルは使用されません: %2。</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>フォルダーがありません</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>「%1」を読み取れません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>「%1」は別のユーザーの所有です</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>他のユーザーが「%1」に書き込めます。「chmod go-w」で防げます</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>「%1」の設定を保存できません: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>「%1」はこの設定での印刷を許可していません。</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1259,14 +1311,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>「%1」の設定を保存できません: %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>「%1」でエラーが発生しました</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>「%1」はこの設定での印刷を許可していません。</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>「%1」でエラーが発生しました: %2</translation>
     </message>
 </context>
 <context>
@@ -1427,12 +1479,20 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>バンドル「%1」はパネルを作成できませんでした</translation>
+        <source>it could not create its panel</source>
+        <translation>パネルを作成できませんでした</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>バンドル「%1」のパネルを表示できません: レイアウトファイルが使えません</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>パネルを表示できません: レイアウトファイルを使用できません</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>パネルバンドル「%1」は %2 を制御しません: 別のパネルかダイアログが制御するか、バンドルの記述にありません。</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>%2 に「%1」の実行中にプログラムが終了または停止されました</translation>
     </message>
 </context>
 <context>
@@ -1448,10 +1508,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>プリンターの記述には、ラベルをカットするかどうかが書かれていません。</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>ラベル: %1 · テープ: %2</translation>
@@ -1491,10 +1547,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <translation>何も印刷されません。</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>特殊テープ: プリンターはカットしません。</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>同じ片のラベルの間はハーフカット。</translation>
     </message>
@@ -1513,6 +1565,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>The labels are mirrored.</source>
         <translation>ラベルは鏡像になります。</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>カットは不明です: プリンターの記述には、ラベルをカットするかどうかが書かれていません。</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>ラベル %1 の後でフルカット。</translation>
     </message>
 </context>
 <context>
@@ -1762,10 +1822,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <translation>開いたときのダイアログの画像を PNG ファイルに保存します。</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>カットオプションのパネルのバンドル、またはそれがあるフォルダー。</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>PPD ファイル (非圧縮または gzip)。キューの代わりに仮想プリンターで印刷します。</translation>
     </message>
@@ -1812,6 +1868,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>プリントサーバーが受け取ったそのようなジョブの内容を印刷します。すべての文書とは限りません。</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>インストール済みのものの代わりに使うパネルバンドル、またはバンドルのあるフォルダー。</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>以前にプログラムを終了または停止させたパネルを再び読み込みます。</translation>
     </message>
 </context>
 <context>

@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Opnieuw proberen</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>&quot;%1&quot; wordt verzonden</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Samenvatting</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>nee</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Instelling</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Waarde</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Samenvatting</translation>
     </message>
 </context>
 <context>
@@ -544,6 +544,17 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>De opties van de printer staan op de pagina ‘Opties’.</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>Opnieuw laden</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -556,10 +567,6 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>Cancel</source>
         <translation>Annuleren</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>De snijopties kunnen niet worden getoond. %1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1222,6 +1229,51 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>De paneelbundel ‘%1’ wordt niet gebruikt: %2.</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>De paneelbundels in ‘%1’ worden niet gebruikt: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>die map bestaat niet</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>het is geen map</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>‘%1’ kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>‘%1’ is van een andere gebruiker</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>andere gebruikers kunnen in ‘%1’ schrijven; ‘chmod go-w’ voorkomt dat</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1261,14 +1313,14 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>&quot;%1&quot; kan de instellingen niet opslaan: %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>er is een fout opgetreden in ‘%1’</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>&quot;%1&quot; laat de taak met deze instellingen niet afdrukken.</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>er is een fout opgetreden in ‘%1’: %2</translation>
     </message>
 </context>
 <context>
@@ -1429,12 +1481,20 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>De bundel &quot;%1&quot; kon zijn paneel niet maken</translation>
+        <source>it could not create its panel</source>
+        <translation>het kon zijn paneel niet maken</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Het paneel van de bundel &quot;%1&quot; kan niet worden getoond: het opmaakbestand is onbruikbaar</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>het paneel kan niet worden getoond: het lay-outbestand is onbruikbaar</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>De paneelbundel ‘%1’ bestuurt %2 niet: een ander paneel of het dialoogvenster doet dat, of de beschrijving noemt het niet.</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>het programma is op %2 tijdens ‘%1’ beëindigd of gestopt</translation>
     </message>
 </context>
 <context>
@@ -1450,10 +1510,6 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>De beschrijving van de printer vermeldt niet of hij de etiketten afsnijdt.</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>Labels: %1 · Tape: %2</translation>
@@ -1493,10 +1549,6 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Er wordt niets afgedrukt.</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Speciale tape: de printer snijdt niets.</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>Halve snede tussen de labels van een stuk.</translation>
     </message>
@@ -1515,6 +1567,14 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>The labels are mirrored.</source>
         <translation>De labels zijn gespiegeld.</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>De snede is niet bekend: de beschrijving van de printer zegt niet of hij de labels snijdt.</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>Volledige sneden na de labels %1.</translation>
     </message>
 </context>
 <context>
@@ -1764,10 +1824,6 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>Slaat een afbeelding van het dialoogvenster, zoals het opent, op in een PNG-bestand.</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>De bundel met het paneel met snijopties, of de map waarin die staat.</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Een PPD-bestand, ongecomprimeerd of gzip: drukt af op een virtuele printer in plaats van op een wachtrij.</translation>
     </message>
@@ -1815,6 +1871,14 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>Drukt af wat de printserver van zo’n taak heeft, misschien niet alle documenten.</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>Een paneelbundel, of een map met bundels, in plaats van de geïnstalleerde.</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>Laadt panelen opnieuw die het programma eerder hebben beëindigd of geblokkeerd.</translation>
     </message>
 </context>
 <context>

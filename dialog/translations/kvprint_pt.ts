@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>Tentar de novo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>Tentar de novo</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>A enviar &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>Definição</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumo</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>não</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>Definição</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valor</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Resumo</translation>
     </message>
 </context>
 <context>
@@ -544,6 +544,17 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>As opções da impressora estão na página “Opções”.</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>Carregar de novo</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -556,10 +567,6 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>Não é possível mostrar as opções de corte. %1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1222,6 +1229,51 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>O pacote de painéis “%1” não é usado: %2.</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>Os pacotes de painéis em “%1” não são usados: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>a pasta não existe</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>não é uma pasta</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>“%1” não pode ser lido</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>“%1” pertence a outro usuário</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>outros usuários podem gravar em “%1”; “chmod go-w” impede isso</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>&quot;%1&quot; não consegue guardar as definições: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>&quot;%1&quot; não permite imprimir o trabalho com estas definições.</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1261,14 +1313,14 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>&quot;%1&quot; não consegue guardar as definições: %2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>ocorreu um erro em “%1”</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>&quot;%1&quot; não permite imprimir o trabalho com estas definições.</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>ocorreu um erro em “%1”: %2</translation>
     </message>
 </context>
 <context>
@@ -1429,12 +1481,20 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>O pacote &quot;%1&quot; não conseguiu criar o seu painel</translation>
+        <source>it could not create its panel</source>
+        <translation>não foi possível criar o painel</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>Não é possível mostrar o painel do pacote &quot;%1&quot;: o ficheiro de disposição não serve</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>o painel não pode ser exibido: o arquivo de layout não pode ser usado</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>O pacote de painéis “%1” não controla %2: outro painel ou o diálogo o faz, ou sua descrição não o lista.</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>o programa terminou ou foi parado durante “%1” em %2</translation>
     </message>
 </context>
 <context>
@@ -1450,10 +1510,6 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>A descrição da impressora não indica se ela corta as etiquetas.</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>Etiquetas: %1 · Fita: %2</translation>
@@ -1493,10 +1549,6 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Nada é impresso.</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>Fita especial: a impressora não corta nada.</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>Meio corte entre as etiquetas de uma peça.</translation>
     </message>
@@ -1515,6 +1567,14 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>The labels are mirrored.</source>
         <translation>As etiquetas são espelhadas.</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>O corte não é conhecido: a descrição da impressora não diz se ela corta as etiquetas.</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>Cortes completos após as etiquetas %1.</translation>
     </message>
 </context>
 <context>
@@ -1764,10 +1824,6 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>Guarda uma imagem da janela, tal como abre, num ficheiro PNG.</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>O pacote com o painel de opções de corte, ou a pasta em que está.</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>Um ficheiro PPD, não comprimido ou gzip: imprime numa impressora virtual em vez de numa fila.</translation>
     </message>
@@ -1814,6 +1870,14 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>Imprime o que o servidor de impressão tem desse trabalho, talvez não todos os documentos.</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>Um pacote de painéis, ou uma pasta com pacotes, em vez dos instalados.</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>Carrega novamente os painéis que antes encerraram ou bloquearam o programa.</translation>
     </message>
 </context>
 <context>

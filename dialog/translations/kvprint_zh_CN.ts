@@ -53,6 +53,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::job::ErrorBanner</name>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::JobPage</name>
     <message>
         <source>Print time</source>
@@ -216,13 +223,6 @@
     </message>
 </context>
 <context>
-    <name>dialog::job::ErrorBanner</name>
-    <message>
-        <source>Try again</source>
-        <translation>重试</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::SendBar</name>
     <message>
         <source>Cancel sending</source>
@@ -231,6 +231,21 @@
     <message>
         <source>Sending &quot;%1&quot;</source>
         <translation>正在发送“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::SummaryPage</name>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
     </message>
 </context>
 <context>
@@ -274,21 +289,6 @@
     <message>
         <source>no</source>
         <translation>否</translation>
-    </message>
-</context>
-<context>
-    <name>dialog::job::SummaryPage</name>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>摘要</translation>
     </message>
 </context>
 <context>
@@ -543,6 +543,17 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelBanner</name>
+    <message>
+        <source>The printer&apos;s options are listed on the page &quot;Options&quot;.</source>
+        <translation>打印机的选项列在“选项”页上。</translation>
+    </message>
+    <message>
+        <source>Load It Again</source>
+        <translation>重新加载</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -555,10 +566,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
-    </message>
-    <message>
-        <source>The cut options cannot be shown. %1</source>
-        <translation>无法显示裁切选项。%1</translation>
     </message>
     <message>
         <source>The printer has no description (PPD); its papers and cuts are not known.</source>
@@ -1220,6 +1227,51 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
+    <name>host::panels::BundleCatalog</name>
+    <message>
+        <source>The panel bundle &quot;%1&quot; is not used: %2.</source>
+        <translation>未使用面板包“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The panel bundles in &quot;%1&quot; are not used: %2.</source>
+        <translation>未使用“%1”中的面板包：%2。</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有此文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>不是文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::BundleFolders</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>无法读取“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>“%1”属于其他用户</translation>
+    </message>
+    <message>
+        <source>other users can write to &quot;%1&quot;; &quot;chmod go-w&quot; prevents it</source>
+        <translation>其他用户可以写入“%1”；可用“chmod go-w”阻止</translation>
+    </message>
+</context>
+<context>
+    <name>host::panels::HostedPanel</name>
+    <message>
+        <source>&quot;%1&quot; cannot save its settings: %2</source>
+        <translation>“%1”无法保存设置：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not allow printing with these settings.</source>
+        <translation>“%1”不允许用这些设置打印作业。</translation>
+    </message>
+</context>
+<context>
     <name>host::panels::PanelBundle</name>
     <message>
         <source>Cannot use the panel bundle &quot;%1&quot;: %2</source>
@@ -1259,14 +1311,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
-    <name>host::panels::PanelSession</name>
+    <name>host::panels::PanelGuard</name>
     <message>
-        <source>&quot;%1&quot; cannot save its settings: %2</source>
-        <translation>“%1”无法保存设置：%2</translation>
+        <source>an error occurred in &quot;%1&quot;</source>
+        <translation>“%1”中发生错误</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not allow printing with these settings.</source>
-        <translation>“%1”不允许用这些设置打印作业。</translation>
+        <source>an error occurred in &quot;%1&quot;: %2</source>
+        <translation>“%1”中发生错误：%2</translation>
     </message>
 </context>
 <context>
@@ -1427,12 +1479,20 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
 <context>
     <name>host::setup::PanelSource</name>
     <message>
-        <source>The panel bundle &quot;%1&quot; could not create its panel</source>
-        <translation>插件包“%1”无法创建面板</translation>
+        <source>it could not create its panel</source>
+        <translation>无法创建其面板</translation>
     </message>
     <message>
-        <source>The panel of the bundle &quot;%1&quot; cannot be shown: its layout file cannot be used</source>
-        <translation>无法显示插件包“%1”的面板：布局文件不可用</translation>
+        <source>its panel cannot be shown: its layout file cannot be used</source>
+        <translation>无法显示其面板：布局文件无法使用</translation>
+    </message>
+    <message>
+        <source>The panel bundle &quot;%1&quot; does not control %2: another panel or the dialog does, or its description does not list it.</source>
+        <translation>面板包“%1”不控制 %2：由其他面板或对话框控制，或其描述中未列出。</translation>
+    </message>
+    <message>
+        <source>the program ended or was stopped during its &quot;%1&quot; on %2</source>
+        <translation>程序于 %2 在“%1”期间结束或被停止</translation>
     </message>
 </context>
 <context>
@@ -1448,10 +1508,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
 </context>
 <context>
     <name>host::strip::CutPlan</name>
-    <message>
-        <source>The printer&apos;s description does not say whether it cuts the labels.</source>
-        <translation>打印机的描述未说明是否裁切标签。</translation>
-    </message>
     <message>
         <source>Labels: %1 · Tape: %2</source>
         <translation>标签：%1 · 用量：%2</translation>
@@ -1491,10 +1547,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <translation>不打印任何内容。</translation>
     </message>
     <message>
-        <source>Special tape: the printer cuts nothing.</source>
-        <translation>特殊标签带：打印机不裁切。</translation>
-    </message>
-    <message>
         <source>Half cut between the labels of a piece.</source>
         <translation>同一段内的标签之间半切。</translation>
     </message>
@@ -1513,6 +1565,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>The labels are mirrored.</source>
         <translation>标签镜像打印。</translation>
+    </message>
+    <message>
+        <source>Cutting is not known: the printer&apos;s description does not say whether it cuts the labels.</source>
+        <translation>裁切情况未知：打印机的描述没有说明是否裁切标签。</translation>
+    </message>
+    <message>
+        <source>Full cuts after the labels %1.</source>
+        <translation>在标签 %1 之后全切。</translation>
     </message>
 </context>
 <context>
@@ -1762,10 +1822,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <translation>将对话框打开时的图像保存为 PNG 文件。</translation>
     </message>
     <message>
-        <source>The bundle of the cut-options panel, or the folder that contains it.</source>
-        <translation>含裁切选项面板的插件包，或其所在的文件夹。</translation>
-    </message>
-    <message>
         <source>Prints on a virtual printer with this PPD file, plain or gzip, instead of a queue.</source>
         <translation>PPD 文件（未压缩或 gzip）：在虚拟打印机上打印，而不使用队列。</translation>
     </message>
@@ -1812,6 +1868,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Releases such a job; it may be incomplete.</source>
         <translation>打印服务器上已有的此类作业内容，可能不是全部文档。</translation>
+    </message>
+    <message>
+        <source>A panel bundle, or a folder with bundles, to use instead of the installed ones.</source>
+        <translation>用来代替已安装面板包的面板包，或包含面板包的文件夹。</translation>
+    </message>
+    <message>
+        <source>Loads panels again that have ended or blocked the program before.</source>
+        <translation>重新加载先前使程序结束或停滞的面板。</translation>
     </message>
 </context>
 <context>

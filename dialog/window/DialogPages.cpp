@@ -14,6 +14,8 @@
 #include <QStyleOptionTabWidgetFrame>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace dialog {
 inline namespace window {
 
@@ -102,8 +104,7 @@ void DialogPages::attachSetup(host::PrinterSetup &setup)
     const QSignalBlocker quiet(this);
     if (setup.hasPpd())
         addOptions();
-    if (PDEPanel *const panel = setup.panel())
-        addPanel(*panel);
+    addPanels();
     makeRoom(tabBar()->sizeHint().width());
     restoreFocus();
 }
@@ -113,23 +114,37 @@ void DialogPages::makeRoom(int titleWidth)
     // All tab titles are visible, up to a limit for languages with long titles.
     const int widest = 120 * fontMetrics().averageCharWidth();
     const int titles = qMin(titleWidth + tabBar()->fontMetrics().height(), widest);
-    // The whole panel is visible, too; it is laid out for its own width.
+    // The whole panels are visible, too; they are laid out for their own widths.
     QStyleOptionTabWidgetFrame frame;
     initStyleOption(&frame);
-    const QSize panel = m_panelPage ? m_panelPage->minimumSizeHint() : QSize(0, 0);
+    QSize panel(0, 0);
+    for (const PanelPage *const page : m_panelPages)
+        panel = panel.expandedTo(page->minimumSizeHint());
     const int around = style()->sizeFromContents(QStyle::CT_TabWidget, &frame, panel, this).width();
     setMinimumWidth(qMax(titles, around));
 }
 
-void DialogPages::addPanel(PDEPanel &panel)
+void DialogPages::addPanels()
 {
-    m_panelPage = new PanelPage(panel, this);
-    m_setup->panelHost()->setPanelViewDidResizeHook([this] {
-        m_panelPage->fitView();
-        makeRoom(tabBar()->sizeHint().width());
-    });
-    QString title = panel.panelName();
-    insertTab(0, m_panelPage, title.replace(u'&', QStringLiteral("&&")));
+    for (host::HostedPanel *const panel : m_setup->panels()) {
+        auto *const page = new PanelPage(*panel, this);
+        insertTab(static_cast<int>(m_panelPages.size()), page,
+                  panel->title().replace(u'&', QStringLiteral("&&")));
+        m_panelPages.push_back(page);
+    }
+    for (host::PanelHost *const panelHost : m_setup->panelHosts()) {
+        panelHost->setPanelViewDidResizeHook([this] {
+            for (PanelPage *const page : m_panelPages)
+                page->fitView();
+            makeRoom(tabBar()->sizeHint().width());
+        });
+    }
+}
+
+PanelPage *DialogPages::frontPanel() const
+{
+    const auto found = std::ranges::find(m_panelPages, currentWidget());
+    return found == m_panelPages.end() ? nullptr : *found;
 }
 
 void DialogPages::addOptions()
@@ -161,8 +176,8 @@ void DialogPages::writeJobTo(host::JobRequest &request) const
 void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
 {
     m_conflicts = conflicts;
-    if (m_panelPage)
-        m_panelPage->setConflicts(host::sentencesAbout(m_setup->claimedKeywords(), conflicts));
+    for (PanelPage *const page : m_panelPages)
+        page->setConflicts(host::sentencesAbout(page->panel().keywords(), conflicts));
     if (!m_optionsPage)
         return;
     m_optionsPage->refresh();
@@ -171,8 +186,9 @@ void DialogPages::setConflicts(const std::vector<host::Conflict> &conflicts)
 
 void DialogPages::detachSetup()
 {
-    if (m_setup && m_setup->panelHost())
-        m_setup->panelHost()->setPanelViewDidResizeHook([] {});
+    for (host::PanelHost *const panelHost :
+         m_setup ? m_setup->panelHosts() : std::vector<host::PanelHost *>())
+        panelHost->setPanelViewDidResizeHook([] {});
     const QSignalBlocker quiet(this);
     if (m_setup)
         saveFocus();
@@ -180,8 +196,7 @@ void DialogPages::detachSetup()
     delete m_optionsPlace;
     m_optionsPlace = nullptr;
     m_optionsPage = nullptr;
-    delete m_panelPage;
-    m_panelPage = nullptr;
+    qDeleteAll(std::exchange(m_panelPages, {}));
     m_setup = nullptr;
 }
 
@@ -192,13 +207,16 @@ void DialogPages::saveFocus()
     if (m_optionsPlace && currentWidget() == m_optionsPlace)
         m_front = Front::Options;
     else
-        m_front = !m_panelPage || currentWidget() == m_panelPage ? Front::Panel : Front::Other;
+        m_front = m_panelPages.empty() || frontPanel() ? Front::Panel : Front::Other;
+    const auto front = std::ranges::find(m_panelPages, currentWidget());
+    if (front != m_panelPages.end())
+        m_frontPanel = static_cast<std::size_t>(front - m_panelPages.begin());
 }
 
 void DialogPages::restoreFocus()
 {
-    if (m_front == Front::Panel && m_panelPage)
-        setCurrentWidget(m_panelPage);
+    if (m_front == Front::Panel && !m_panelPages.empty())
+        setCurrentWidget(m_panelPages[m_frontPanel < m_panelPages.size() ? m_frontPanel : 0]);
     if (m_front == Front::Options && m_optionsPlace) {
         setCurrentWidget(m_optionsPlace);
         if (m_optionsPage && m_group)
@@ -228,14 +246,14 @@ void DialogPages::refresh()
 
 void DialogPages::notifyFront()
 {
-    if (m_panelPage && currentWidget() == m_panelPage)
-        m_setup->announcePanel();
+    if (const PanelPage *const page = frontPanel())
+        m_setup->announce(page->panel());
 }
 
 void DialogPages::notifyClosing(QWidget *window)
 {
-    if (m_panelPage)
-        m_panelPage->panel().printWindowWillClose(window);
+    for (const PanelPage *const page : m_panelPages)
+        page->panel().printWindowWillClose(window);
 }
 
 } // namespace window

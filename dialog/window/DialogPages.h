@@ -34,7 +34,7 @@ inline namespace window {
 class PagePreview;
 class PanelPage;
 
-/// The pages of the dialog: the printer's panel and its other options, which are replaced with the printer,
+/// The pages of the dialog: the printer's panels and its other options, which are replaced with the printer,
 /// and the pages that every printer has.
 class DialogPages : public QTabWidget {
     Q_OBJECT
@@ -77,7 +77,8 @@ Q_SIGNALS:
     void chosen();
 
 private:
-    void addPanel(PDEPanel &panel);
+    void addPanels();
+    PanelPage *frontPanel() const;
     void addOptions();
     QWidget *makeOptionsPage(QWidget *parent);
     QWidget *makeJobPage(QWidget *parent);
@@ -87,12 +88,15 @@ private:
 
     const host::CupsServer *m_server;
     host::PrinterSetup *m_setup = nullptr;
-    PanelPage *m_panelPage = nullptr;
+    /// The pages of the panels, in the order of the tabs.
+    std::vector<PanelPage *> m_panelPages;
     LazyPage *m_optionsPlace = nullptr;
     /// The page that comes to the front with the pages of a printer. The page that the user looks at stays in
     /// front when they are replaced.
     enum class Front { Panel, Options, Other };
     Front m_front = Front::Panel;
+    /// The number of the panel that was in front, counted from 0.
+    std::size_t m_frontPanel = 0;
     /// The group of options that was shown, if any, and the name of the control that had the focus.
     std::optional<QString> m_group;
     QString m_focused;

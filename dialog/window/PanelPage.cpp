@@ -19,10 +19,10 @@ const QString viewIsLaidOut = QStringLiteral("NSViewDidUpdateTrackingAreasNotifi
 
 } // namespace
 
-PanelPage::PanelPage(PDEPanel &panel, QWidget *parent)
+PanelPage::PanelPage(host::HostedPanel &panel, QWidget *parent)
     : QWidget(parent)
     , m_panel(panel)
-    , m_view(panel.panelView())
+    , m_view(panel.view())
     , m_frame(new QWidget)
     , m_scrolled(new QScrollArea(this))
     , m_note(new ConflictNote(this))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/panels/PanelSession.h>
+#include <host/panels/HostedPanel.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -24,12 +24,12 @@ class PanelPage : public QWidget {
 public:
     /// The panel is not owned and must outlive the page. Its view must be loaded already; the page shows the
     /// view without owning it.
-    PanelPage(PDEPanel &panel, QWidget *parent);
+    PanelPage(host::HostedPanel &panel, QWidget *parent);
     /// Hides the view and removes it from the page.
     ~PanelPage() override;
 
     /// The panel that the page shows.
-    PDEPanel &panel() const { return m_panel; }
+    host::HostedPanel &panel() const { return m_panel; }
     /// Adapts the page to the current size of the view.
     void fitView();
     /// Shows the sentences that describe conflicts above the panel; an empty list removes them.
@@ -42,7 +42,7 @@ protected:
 private:
     void postLaidOut() const;
 
-    PDEPanel &m_panel;
+    host::HostedPanel &m_panel;
     /// Null when the panel has deleted it.
     QPointer<QWidget> m_view;
     QWidget *m_frame;

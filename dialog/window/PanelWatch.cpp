@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace dialog {
 inline namespace window {
 
@@ -46,17 +48,17 @@ PanelWatch::PanelWatch(QObject *parent)
 {
 }
 
-void PanelWatch::follow(QWidget *view)
+void PanelWatch::follow(const std::vector<QWidget *> &views)
 {
     qApp->removeEventFilter(this);
     if (QAbstractEventDispatcher *const dispatcher = QAbstractEventDispatcher::instance())
         dispatcher->disconnect(this);
-    m_view = view;
-    if (!view)
+    m_views.assign(views.begin(), views.end());
+    if (views.empty())
         return;
     qApp->installEventFilter(this);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-        if (m_view && !m_isPending)
+        if (hasView() && !m_isPending)
             Q_EMIT touched();
     });
 }
@@ -64,14 +66,19 @@ void PanelWatch::follow(QWidget *view)
 bool PanelWatch::belongsToView(const QObject *object) const
 {
     // Menus, lists and alerts are separate windows, but they are children of the view.
-    while (object && object != m_view)
+    while (object && std::ranges::find(m_views, object) == m_views.end())
         object = object->parent();
     return object != nullptr;
 }
 
+bool PanelWatch::hasView() const
+{
+    return std::ranges::any_of(m_views, [](const QPointer<QWidget> &view) { return !view.isNull(); });
+}
+
 bool PanelWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_view && !m_isPending && mayFollowFromChange(event->type()) && belongsToView(watched))
+    if (!m_isPending && hasView() && mayFollowFromChange(event->type()) && belongsToView(watched))
         notifyLater();
     return false;
 }
@@ -83,7 +90,7 @@ void PanelWatch::notifyLater()
         this,
         [this] {
             m_isPending = false;
-            if (m_view)
+            if (hasView())
                 Q_EMIT touched();
         },
         Qt::QueuedConnection);

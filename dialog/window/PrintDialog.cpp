@@ -3,6 +3,7 @@
 
 #include "ChoicesColumn.h"
 #include "DialogPages.h"
+#include "PanelBanner.h"
 #include "PanelWatch.h"
 #include "StripPreview.h"
 #include "WaitingText.h"
@@ -53,7 +54,7 @@ PrintDialog::~PrintDialog()
 void PrintDialog::build(const RequestedSettings &requested)
 {
     m_content = new QWidget(this);
-    m_panelBanner = new Banner(this);
+    m_panelBanner = new PanelBanner(m_keeper, this);
     m_conflictBanner = new ConflictBanner(m_keeper, this);
     m_errorBanner = new ErrorBanner(this);
     // The tab order leads from here to the pages of the printer and then to the strip.
@@ -139,13 +140,14 @@ void PrintDialog::connectAll()
 void PrintDialog::attachSetup()
 {
     host::PrinterSetup *const setup = m_keeper.setup();
-    const bool hasError = setup && setup->panelError();
-    m_panelBanner->setMessage(
-        hasError ? tr("The cut options cannot be shown. %1").arg(setup->panelError()->message) : QString());
+    m_panelBanner->showSetup();
     if (setup) {
         m_pages->attachSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
-        m_panelWatch->follow(setup->panel() ? setup->panel()->panelView() : nullptr);
+        std::vector<QWidget *> views;
+        for (host::HostedPanel *const panel : setup->panels())
+            views.push_back(panel->view());
+        m_panelWatch->follow(views);
     }
     m_choices->showPapers();
     applyPaper();
@@ -156,7 +158,7 @@ void PrintDialog::attachSetup()
 
 void PrintDialog::detachSetup()
 {
-    m_panelWatch->follow(nullptr);
+    m_panelWatch->follow({});
     m_stripPreview->clear();
     m_plan.reset();
     m_ticket.reset();
@@ -239,7 +241,7 @@ void PrintDialog::refreshStrip()
             tr("The printer has no description (PPD); its papers and cuts are not known."));
         return;
     }
-    if (!m_ticket->cuts.removeBlank)
+    if (!m_ticket->strip.removeBlank)
         m_renderer->measurer()->cancel();
     m_plan = host::makePlan(*m_ticket, *m_document, *m_renderer);
     m_stripPreview->setPlan(*m_plan, *m_renderer);
@@ -310,9 +312,9 @@ const std::optional<QString> &PrintDialog::error() const
     return m_errorBanner->sendError();
 }
 
-bool PrintDialog::hasPanelError() const
+bool PrintDialog::hasPanelErrors() const
 {
-    return m_keeper.setup() && m_keeper.setup()->panelError();
+    return m_keeper.setup() && !m_keeper.setup()->panelErrors().empty();
 }
 
 std::vector<SummarySection> PrintDialog::summary() const

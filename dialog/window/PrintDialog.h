@@ -14,7 +14,6 @@ class QPushButton;
 
 namespace dialog {
 inline namespace widgets {
-class Banner;
 class FittedLabel;
 } // namespace widgets
 } // namespace dialog
@@ -37,6 +36,7 @@ inline namespace window {
 
 class ChoicesColumn;
 class DialogPages;
+class PanelBanner;
 class PanelWatch;
 class StripPreview;
 
@@ -77,8 +77,8 @@ public:
     const std::optional<host::Ticket> &ticket() const { return m_ticket; }
     /// Returns the job's name.
     const QString &title() const { return m_jobRequest.title; }
-    /// Returns whether the printer has cut options, but its panel cannot be shown.
-    bool hasPanelError() const;
+    /// Returns whether a panel of the printer cannot be shown.
+    bool hasPanelErrors() const;
     /// Returns the summary of all current settings; empty while no printer is known.
     std::vector<SummarySection> summary() const;
 
@@ -141,7 +141,7 @@ private:
     std::optional<QString> m_pagesError;
 
     QWidget *m_content = nullptr;
-    Banner *m_panelBanner = nullptr;
+    PanelBanner *m_panelBanner = nullptr;
     ConflictBanner *m_conflictBanner = nullptr;
     ErrorBanner *m_errorBanner = nullptr;
     ChoicesColumn *m_choices = nullptr;

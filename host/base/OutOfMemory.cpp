@@ -35,6 +35,7 @@ constexpr std::array texts = {
 std::array<std::atomic<const char *>, texts.size()> sentences = {texts[0], texts[1], texts[2]};
 std::atomic<JobProgress> jobProgress = JobProgress::Nothing;
 std::atomic_flag isEnding;
+std::atomic<void (*)()> endHook = nullptr;
 std::terminate_handler previousTerminateHandler = nullptr;
 
 /// Returns whether the exception means that memory or threads have run out.
@@ -95,8 +96,15 @@ void OutOfMemory::end()
     // Only the first thread that gets here writes and exits; all others wait.
     while (isEnding.test_and_set())
         ::pause();
+    if (void (*const hook)() = endHook)
+        hook();
     writeError(sentences.at(static_cast<std::size_t>(jobProgress.load())));
     ::_exit(1);
+}
+
+void OutOfMemory::setEndHook(void (*hook)())
+{
+    endHook = hook;
 }
 
 void OutOfMemory::setJobProgress(JobProgress progress)

@@ -28,6 +28,10 @@ public:
     /// memory has run out.
     [[noreturn]] static void end();
 
+    /// Sets a function that end() calls before it ends the program; null for none. It must not allocate
+    /// memory and can be called in any thread.
+    static void setEndHook(void (*hook)());
+
     /// Sets the progress that end() reports, for all threads. Can be called from any thread.
     static void setJobProgress(JobProgress progress);
 };

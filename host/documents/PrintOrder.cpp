@@ -154,22 +154,31 @@ std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
     return documents;
 }
 
-std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
-                            PageOrder pageOrder)
+std::vector<PrintedPage> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies,
+                                    Collate collate, PageOrder pageOrder)
 {
-    std::vector<int> order;
+    std::vector<PrintedPage> order;
     for (std::vector<int> pages : pagesByDocument) {
+        if (pages.empty())
+            continue;
         if (pageOrder == PageOrder::Reverse)
             std::ranges::reverse(pages);
-        if (collate == Collate::Yes) {
-            for (int copy = 0; copy < copies; ++copy)
-                order.insert(order.end(), pages.begin(), pages.end());
-        } else {
+        const bool isCollated = collate == Collate::Yes;
+        for (int set = 0; set < (isCollated ? copies : 1); ++set) {
             for (const int page : pages)
-                order.insert(order.end(), static_cast<std::size_t>(copies), page);
+                order.insert(order.end(), static_cast<std::size_t>(isCollated ? 1 : copies), {page});
+            order.back().endsCopy = true;
         }
+        order.back().endsDocument = true;
     }
     return order;
+}
+
+std::vector<int> pageNumbers(const std::vector<PrintedPage> &order)
+{
+    std::vector<int> numbers(order.size());
+    std::ranges::transform(order, numbers.begin(), &PrintedPage::page);
+    return numbers;
 }
 
 } // namespace documents

@@ -59,10 +59,26 @@ Result<void, PageRangeError> checkPageRanges(const QString &text);
 std::vector<std::vector<int>> pagesByDocument(const std::vector<int> &pages,
                                               const std::vector<int> &pageCounts);
 
+/// A page in the order in which pages are printed.
+struct PrintedPage {
+    /// Numbered from 0 through all documents.
+    int page = 0;
+    /// Whether it is the last page of one copy of its document. Without collating, the copies of a page
+    /// follow each other, and only the last page of the document ends a copy.
+    bool endsCopy = false;
+    /// Whether it is the last page of all copies of its document.
+    bool endsDocument = false;
+
+    bool operator==(const PrintedPage &) const = default;
+};
+
 /// Returns the pages in the order in which they are printed. Each document is copied separately, as by a
 /// print server: all copies of the first document precede the second, whatever the order of the pages.
-std::vector<int> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies, Collate collate,
-                            PageOrder pageOrder = PageOrder::Normal);
+std::vector<PrintedPage> printOrder(const std::vector<std::vector<int>> &pagesByDocument, int copies,
+                                    Collate collate, PageOrder pageOrder = PageOrder::Normal);
+
+/// Returns the numbers of the pages.
+std::vector<int> pageNumbers(const std::vector<PrintedPage> &order);
 
 } // namespace documents
 } // namespace host

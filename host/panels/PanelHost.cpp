@@ -25,7 +25,11 @@ void PanelHost::setPanels(const PDEPanelList &panels)
 void PanelHost::optionChanged(const std::optional<QString> &keyword, const std::optional<QString> &choice)
 {
     for (const std::weak_ptr<PDEPanel> &panel : m_panels) {
-        if (const std::shared_ptr<PDEPanel> alive = panel.lock())
+        const std::shared_ptr<PDEPanel> alive = panel.lock();
+        if (alive && m_guard)
+            m_guard->run("PPDOptionKeyValueDidChange",
+                         [&] { alive->PPDOptionKeyValueDidChange(keyword, choice); });
+        else if (alive)
             alive->PPDOptionKeyValueDidChange(keyword, choice);
     }
 }
@@ -45,6 +49,8 @@ void PanelHost::setWillChangeHook(std::function<void(const QString &, const std:
 
 void PanelHost::willChangePPDOptionKeyValue(const QString &key, const std::optional<QString> &choice)
 {
+    if (m_keywords && !m_keywords->contains(key))
+        return;
     if (m_collected) {
         if (choice)
             setChoice(*m_collected, key, *choice);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DialogState.h"
+#include "PanelGuard.h"
 #include "PanelSettings.h"
 
 #include <host/printer/PpdForPanels.h>
@@ -27,6 +28,11 @@ public:
     /// Sets the panels that were made with this object. Changes from other sources are reported to them as
     /// long as they exist. Does not take part in the ownership of the panels.
     void setPanels(const PDEPanelList &panels);
+    /// Sets the guard under which changes are reported to the panels; null, as initially, for none.
+    void setGuard(std::shared_ptr<PanelGuard> guard) { m_guard = std::move(guard); }
+    /// Restricts the panels to the options with these keywords: other changes that they request are ignored.
+    /// Initially, they may change all options.
+    void restrictTo(const QStringList &keywords) { m_keywords = keywords; }
     /// Reports a change from another source to these panels.
     void optionChanged(const std::optional<QString> &keyword, const std::optional<QString> &choice) override;
 
@@ -58,6 +64,10 @@ public:
 private:
     std::shared_ptr<DialogState> m_state;
     std::vector<std::weak_ptr<PDEPanel>> m_panels;
+    /// Null without a guard.
+    std::shared_ptr<PanelGuard> m_guard;
+    /// The keywords of the options that the panels may change; absent if all.
+    std::optional<QStringList> m_keywords;
     /// Receives the requested changes during collect(); null otherwise.
     PDEChoices *m_collected = nullptr;
     std::function<void(const QString &, const std::optional<QString> &)> m_willChange;

@@ -19,14 +19,6 @@ public:
     const std::optional<PDEPanelList> &panels() const { return m_panels; }
     /// The first panel; null without panels. Owned by this object.
     PDEPanel *firstPanel() const;
-    /// Returns the PPD keywords that the panels handle; the dialog does not show these options itself. Must
-    /// be called before any panel's view is loaded: a panel writes its settings when it is asked for its
-    /// keywords, and controls that are loaded but not filled yet would replace the marked choices of the PPD.
-    QStringList handledKeywords() const;
-    /// Returns what the first panel would save, and whether it lets the job be printed. Runs the panel's save
-    /// and check operations without carrying out the changes that they request, so that nothing changes and
-    /// further calls return the same. Empty without a panel.
-    PanelSettings settings() const;
     /// The callback object and the bundle that this object was made with.
     PanelHost &host() const { return *m_host; }
     const PanelBundle &bundle() const { return m_bundle; }

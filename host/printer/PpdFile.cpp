@@ -156,6 +156,17 @@ QString PpdFile::printerName() const
     return QFileInfo(m_path).completeBaseName();
 }
 
+QStringList PpdFile::values(const char *keyword) const
+{
+    QStringList values;
+    for (const ppd_attr_t *each = ppdFindAttr(m_ppd.get(), keyword, nullptr); each;
+         each = ppdFindNextAttr(m_ppd.get(), keyword, nullptr)) {
+        if (each->value && !*each->spec)
+            values.append(QString::fromUtf8(each->value));
+    }
+    return values;
+}
+
 void PpdFile::localize(const QString &language)
 {
     const Localizer localizer(m_ppd.get(), m_translations, language);

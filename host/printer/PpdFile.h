@@ -66,6 +66,10 @@ public:
     /// otherwise the file name.
     QString printerName() const;
 
+    /// The values of all statements with this main keyword that have no option keyword, such as
+    /// "*Manufacturer: "Example"", without their quotation marks; empty if the PPD has none.
+    QStringList values(const char *keyword) const;
+
     /// Sets the texts of groups, options and choices to their translations into the language ("de", "pt_BR").
     /// Texts that the PPD does not translate stay unchanged. Panels see the translations, too. Does not
     /// depend on the locale of the process.

@@ -57,7 +57,7 @@ SummarySection stripSection(const CutPlan &plan)
 {
     SummarySection section{JobSummaryText::tr("Label strip"), {}};
     section.lines.emplace_back(JobSummaryText::tr("Labels"), number(plan.labels().size()));
-    if (plan.settings().areKnown)
+    if (plan.areCutsKnown())
         section.lines.emplace_back(JobSummaryText::tr("Pieces"), number(plan.pieces().size()));
     section.lines.emplace_back(JobSummaryText::tr("Tape"), tapeText(plan));
     section.lines.emplace_back(JobSummaryText::tr("Cuts"), cutPlanDescription(plan).join(u' '));
@@ -69,9 +69,8 @@ SummarySection stripSection(const CutPlan &plan)
 std::vector<SummarySection> summarize(const Ticket &ticket, const PrinterSetup &setup, const CutPlan *plan)
 {
     std::vector<SummarySection> sections{printingSection(ticket)};
-    if (PDEPanel *const panel = setup.panel())
-        sections.push_back(panelSection(panel->panelName(),
-                                        setup.panelSummary(ticket.panel.choices).value_or(QVariantMap())));
+    for (const PanelSummary &summary : setup.panelSummaries(ticket.panel.choices))
+        sections.push_back(panelSection(summary.title, summary.lines));
     if (plan)
         sections.push_back(stripSection(*plan));
     return sections;

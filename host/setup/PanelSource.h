@@ -1,35 +1,56 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/panels/PanelSession.h>
+#include <host/panels/BundleCatalog.h>
+#include <host/panels/HostedPanel.h>
+
+#include <map>
 
 namespace host {
 inline namespace setup {
 
-/// Why the panels of a bundle cannot be used.
-enum class PanelErrorKind {
-    NoPanel,      ///< no bundle, or one that is of no use here: the dialog goes on without it
-    BrokenBundle, ///< the bundle lacks files of its own: printing on would mislead
-};
-using PanelError = Failure<PanelErrorKind>;
-
-/// The panels of a bundle for one printer, and the PPD keywords that they handle.
-struct ClaimedPanels {
-    /// Null if the panels handle no option of this printer.
-    std::unique_ptr<PanelSession> session;
-    QStringList keywords;
+/// The panels for one printer.
+struct LoadedPanels {
+    /// In the order of their pages. Each has keywords of its own.
+    std::vector<std::unique_ptr<HostedPanel>> panels;
+    /// Why bundles that have options of this printer cannot be used.
+    std::vector<BundleError> errors;
+    /// One sentence for each bundle that is not used because other users can change it, and for each option
+    /// that two panels claim.
+    QStringList notices;
 };
 
-/// Where panels are loaded from: a bundle in a folder, or the installed one, with its texts in the first of
-/// the user's languages that the bundle has.
-struct PanelSource {
-    /// The folder for PanelBundle::find(); absent for the installed bundle.
-    std::optional<QString> folder = {};
-    QStringList languages = {};
+/// Where panels are loaded from, and which bundles are not used because they have failed.
+class PanelSource {
+public:
+    /// The installed bundles (BundleCatalog::installed()), without texts in other languages than English.
+    PanelSource() = default;
+    /// The bundle in the folder, or all bundles that it contains; the installed ones if it is absent. Texts
+    /// are in the first of the languages that a bundle has.
+    PanelSource(std::optional<QString> folder, QStringList languages)
+        : m_folder(std::move(folder))
+        , m_languages(std::move(languages))
+    {
+    }
 
-    /// Loads the bundle and creates its panels for the printer. The view of the first panel is loaded and
-    /// shows the marked choices of the PPD.
-    Result<ClaimedPanels, PanelError> panelsFor(const std::shared_ptr<DialogState> &state) const;
+    /// Loads the bundles that have options of the printer, and creates their panels. Their views are loaded.
+    /// A bundle that cannot be used is left out and reported.
+    LoadedPanels panelsFor(const std::shared_ptr<DialogState> &state) const;
+
+    /// Does not load the bundle in this folder any more, because of the error.
+    void exclude(const QString &bundle, const BundleError &error)
+    {
+        m_failed.insert_or_assign(bundle, error);
+    }
+
+private:
+    /// The errors of the bundles that are not loaded, by the bundle's folder.
+    std::map<QString, BundleError> excluded() const;
+
+    std::optional<QString> m_folder;
+    QStringList m_languages;
+    /// The errors of bundles that have failed in this process, by the bundle's folder.
+    std::map<QString, BundleError> m_failed;
 };
 
 } // namespace setup

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrinterSetup.h"
 
-#include <host/strip/CutSettings.h>
-
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
@@ -28,8 +26,9 @@ platform::Paper panelPaper(const PpdPaper &paper)
 } // namespace
 
 PrinterSetup::PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupRequest &requested,
-                           const PanelSource &panelSource)
+                           PanelSource panelSource)
     : m_destination(std::move(destination))
+    , m_panelSource(std::move(panelSource))
 {
     if (!ppd) {
         // The capabilities of such a queue are not known, so everything is passed on.
@@ -49,13 +48,14 @@ PrinterSetup::PrinterSetup(Destination destination, std::optional<PpdFile> ppd, 
     applyPaper(requested);
     if (requested.force)
         keepRejected(requested);
-    loadPanels(panelSource);
+    loadPanels();
 }
 
 PrinterSetup::~PrinterSetup()
 {
     setDidChangeHook({});
-    if (PanelHost *const host = panelHost())
+    setPanelFailedHook({});
+    for (PanelHost *const host : panelHosts())
         host->setWillChangeHook({});
 }
 
@@ -182,33 +182,76 @@ void PrinterSetup::keepRejected(const SetupRequest &requested)
         record(paperKeyword, *missing, Origin::UserDefault);
 }
 
-void PrinterSetup::loadPanels(const PanelSource &source)
+void PrinterSetup::reloadPanels()
+{
+    if (!m_panels)
+        return;
+    m_panels.reset();
+    loadPanels();
+}
+
+void PrinterSetup::loadPanels()
 {
     m_panels.emplace(m_state);
-    // For printers without cut options, a missing or broken bundle is not an error.
-    if (!CutSettings::areDefinedBy(ppd()))
-        return;
     PDEChoices requested;
     for (const JobChoice &choice : m_choices)
         requested.emplace_back(QString::fromUtf8(choice.name), QString::fromUtf8(choice.value));
-    m_panels->load(source, requested);
-    if (!panelHost())
-        return;
+    m_panels->load(m_panelSource, requested);
     startNoting();
-    panelHost()->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
-        m_panels->clearReplaced(keyword, choice);
-        m_reported.insert(keyword);
-        // Saving a choice that is already marked is not a choice of the user.
-        if (!choice || ppd().markedChoice(keyword) == choice)
-            return;
-        m_lastChosen = keyword;
-        record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
-    });
+    for (PanelHost *const host : panelHosts()) {
+        host->setWillChangeHook([this](const QString &keyword, const std::optional<QString> &choice) {
+            noteChange(keyword, choice);
+        });
+    }
 }
 
-std::optional<PanelError> PrinterSetup::panelError() const
+void PrinterSetup::noteChange(const QString &keyword, const std::optional<QString> &choice)
 {
-    return m_panels ? m_panels->error() : std::nullopt;
+    m_panels->clearReplaced(keyword, choice);
+    m_reported.insert(keyword);
+    // Saving a choice that is already marked is not a choice of the user.
+    if (!choice || ppd().markedChoice(keyword) == choice)
+        return;
+    m_lastChosen = keyword;
+    record(keyword.toUtf8(), choice->toUtf8(), Origin::Panel);
+}
+
+std::vector<HostedPanel *> PrinterSetup::panels() const
+{
+    return m_panels ? m_panels->panels() : std::vector<HostedPanel *>();
+}
+
+std::vector<PanelHost *> PrinterSetup::panelHosts() const
+{
+    return m_panels ? m_panels->hosts() : std::vector<PanelHost *>();
+}
+
+std::vector<BundleError> PrinterSetup::panelErrors() const
+{
+    return m_panels ? m_panels->errors() : std::vector<BundleError>();
+}
+
+std::vector<BundleError> PrinterSetup::panelFailures() const
+{
+    return m_panels ? m_panels->failures() : std::vector<BundleError>();
+}
+
+void PrinterSetup::dropFailedPanels()
+{
+    if (!m_panels)
+        return;
+    m_panels->dropFailed();
+    startNoting();
+}
+
+std::vector<BundleError> PrinterSetup::laterPanelErrors() const
+{
+    return m_panels ? m_panels->laterErrors() : std::vector<BundleError>();
+}
+
+QStringList PrinterSetup::panelNotices() const
+{
+    return m_panels ? m_panels->notices() : QStringList();
 }
 
 QStringList PrinterSetup::claimedKeywords() const
@@ -221,9 +264,14 @@ PanelSettings PrinterSetup::panelSettings() const
     return m_panels ? m_panels->settings() : PanelSettings();
 }
 
-std::optional<QVariantMap> PrinterSetup::panelSummary(const PDEChoices &choices) const
+std::vector<PanelSummary> PrinterSetup::panelSummaries(const PDEChoices &choices) const
 {
-    return m_panels ? m_panels->summary(choices) : std::nullopt;
+    return m_panels ? m_panels->summaries(choices) : std::vector<PanelSummary>();
+}
+
+StripEffects PrinterSetup::stripEffects(const PDEChoices &choices, std::span<const PDELabel> labels) const
+{
+    return m_panels ? m_panels->stripEffects(choices, labels) : StripEffects();
 }
 
 std::vector<ReplacedChoice> PrinterSetup::replaced() const
@@ -252,14 +300,12 @@ QString PrinterSetup::replacedSentence(const QString &option, const QString &cho
         .arg(option, choice, saved);
 }
 
-void PrinterSetup::announcePanel()
+void PrinterSetup::announce(const HostedPanel &panel)
 {
     notePanelInput();
     // Saving the panel does not count as a choice of the user.
     const QScopedValueRollback keep(m_lastChosen);
-    if (!panel())
-        return;
-    m_panels->announce();
+    m_panels->announce(panel);
     startNoting();
 }
 
@@ -298,7 +344,7 @@ void PrinterSetup::noteCombination()
 
 void PrinterSetup::notePanelInput()
 {
-    if (!panel())
+    if (!m_panels)
         return;
     if (m_panels->settings().combinationsChosen != m_notedCombinations)
         noteCombination();
@@ -343,7 +389,7 @@ void PrinterSetup::choosePaper(const PpdPaper &paper)
         m_state->changeOption(QString::fromLatin1(paperKeyword), QString::fromUtf8(paper.name), nullptr);
         m_state->postPaperDidChange();
     };
-    m_panels->keepChoices(change, SetupPanels::Retry::Yes);
+    m_panels->keepChoices(change, SetupPanel::Retry::Yes);
     startNoting();
 }
 
@@ -369,10 +415,16 @@ void PrinterSetup::apply(const Remedy &remedy)
     m_lastChosen = chosen;
 }
 
-void PrinterSetup::setDidChangeHook(std::function<void()> hook)
+void PrinterSetup::setDidChangeHook(const std::function<void()> &hook)
 {
-    if (PanelHost *const host = panelHost())
-        host->setDidChangeHook(std::move(hook));
+    for (PanelHost *const host : panelHosts())
+        host->setDidChangeHook(hook);
+}
+
+void PrinterSetup::setPanelFailedHook(const std::function<void()> &hook)
+{
+    if (m_panels)
+        m_panels->setFailedHook(hook);
 }
 
 } // namespace setup

@@ -31,7 +31,7 @@ public:
     /// Creates the setup of a queue, with or without a PPD. Marks the queue's effective defaults, then the
     /// requested choices. Choices that the PPD does not have are skipped and reported by choiceErrors().
     PrinterSetup(Destination destination, std::optional<PpdFile> ppd, const SetupRequest &requested,
-                 const PanelSource &panelSource);
+                 PanelSource panelSource);
     ~PrinterSetup();
     PrinterSetup(const PrinterSetup &) = delete;
     PrinterSetup &operator=(const PrinterSetup &) = delete;
@@ -52,18 +52,34 @@ public:
     /// The constraints of the PPD; null without a PPD.
     const PpdFile *ppdOrNull() const { return m_state ? &m_state->ppd() : nullptr; }
 
-    /// The panel to show, with its view loaded; null without a panel. Owned by the setup.
-    PDEPanel *panel() const { return m_panels ? m_panels->panel() : nullptr; }
-    /// The callback object of the panel; null without a panel.
-    PanelHost *panelHost() const { return m_panels ? m_panels->panelHost() : nullptr; }
-    /// The error if the printer has options for a panel but the panel cannot be shown; absent otherwise.
-    std::optional<PanelError> panelError() const;
+    /// The panels to show, with their views loaded, in the order of their pages. Owned by the setup.
+    std::vector<HostedPanel *> panels() const;
+    /// The callback objects of the panels, one for each bundle.
+    std::vector<PanelHost *> panelHosts() const;
+    /// The errors of bundles that have options of the printer but cannot be used.
+    std::vector<BundleError> panelErrors() const;
+    /// Those of panelErrors() that have occurred since the panels were loaded.
+    std::vector<BundleError> laterPanelErrors() const;
+    /// The errors of bundles that have failed and whose panels still exist; see dropFailedPanels().
+    std::vector<BundleError> panelFailures() const;
+    /// Loads the panels of the printer again. Views of the previous ones must not be shown any more. The
+    /// panels show the choices that are marked now.
+    void reloadPanels();
+    /// Removes the panels of bundles that have failed, whose views must not be shown any more. Their options
+    /// keep their marked choices and are left to the dialog.
+    void dropFailedPanels();
+    /// Sentences about bundles and options that are not used.
+    QStringList panelNotices() const;
+    /// The options that the panels handle.
     QStringList claimedKeywords() const;
-    /// What the panel would save if the job were printed now; empty without a panel. Marks, records and
+    /// What the panels would save if the job were printed now; empty without a panel. Marks, records and
     /// reports nothing.
     PanelSettings panelSettings() const;
-    /// Returns the panel's lines of the summary for these choices; absent without a panel.
-    std::optional<QVariantMap> panelSummary(const PDEChoices &choices) const;
+    /// Returns the panels' lines of the summary for these choices.
+    std::vector<PanelSummary> panelSummaries(const PDEChoices &choices) const;
+    /// Returns what these choices of a job do to its labels, as the panels report it. Without a panel, the
+    /// cutting is not known.
+    StripEffects stripEffects(const PDEChoices &choices, std::span<const PDELabel> labels) const;
     /// The requested choices that the panel's rules replace.
     std::vector<ReplacedChoice> replaced() const;
     /// Returns one sentence for each of replaced(), with the PPD's texts.
@@ -105,14 +121,16 @@ public:
     /// controls agree; earlier requests for these options are discarded. Must not be called while the panel
     /// shows a question, since the user has not decided yet.
     void notePanelInput();
-    /// Returns whether a caller further up the stack is calling or operating the panel.
+    /// Returns whether a caller further up the stack is calling or operating a panel.
     bool isPanelBusy() const { return m_panels && m_panels->isBusy(); }
 
     /// Notifies the panel that its page comes to the front, and keeps the user's choices.
-    void announcePanel();
+    void announce(const HostedPanel &panel);
     /// Sets the function that is called after each change that a panel makes by itself, except for changes
     /// while it is queried.
-    void setDidChangeHook(std::function<void()> hook);
+    void setDidChangeHook(const std::function<void()> &hook);
+    /// Sets the function that is called when a bundle fails; see PanelGuard.
+    void setPanelFailedHook(const std::function<void()> &hook);
 
 private:
     void markRequested(const SetupRequest &requested);
@@ -122,12 +140,14 @@ private:
     /// Rejects the default paper of a PPD without any usable paper.
     void rejectUnusableDefault();
     void keepRejected(const SetupRequest &requested);
-    void loadPanels(const PanelSource &source);
+    void loadPanels();
     void startNoting();
+    void noteChange(const QString &keyword, const std::optional<QString> &choice);
     void noteCombination();
     void record(const QByteArray &name, const QByteArray &value, Origin origin);
 
     Destination m_destination;
+    PanelSource m_panelSource;
     std::shared_ptr<DialogState> m_state;
     std::optional<Constraints> m_constraints;
     std::optional<SetupPanels> m_panels;

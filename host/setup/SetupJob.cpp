@@ -10,7 +10,9 @@ Ticket ticketFor(const PrinterSetup &setup, const LabelDocument &document, const
 {
     return makeTicket({setup.destination(), setup.printerText(), setup.ppdOrNull(), setup.constraints(),
                        setup.choices(), setup.keptByRemedies(), setup.panelSettings(), setup.paper(),
-                       document, request});
+                       document, request, [&](const PDEChoices &choices, std::span<const PDELabel> labels) {
+                           return setup.stripEffects(choices, labels);
+                       }});
 }
 
 QString defaultTitle(const LabelDocument &document)

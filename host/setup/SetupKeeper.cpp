@@ -10,6 +10,7 @@ SetupKeeper::SetupKeeper(std::unique_ptr<PrinterSetup> setup, QObject *parent)
     : QObject(parent)
     , m_setup(std::move(setup))
 {
+    watchPanels();
 }
 
 SetupKeeper::SetupKeeper(QueueSession &session, PanelSource panelSource, SetupRequest requested,
@@ -49,10 +50,46 @@ void SetupKeeper::release()
 {
     m_isHeld = false;
     const bool ppdIsLate = std::exchange(m_ppdIsLate, false);
+    if (std::exchange(m_failureIsLate, false))
+        dropFailedPanels();
     if (std::exchange(m_queueIsLate, false))
         changeQueue();
     else if (ppdIsLate)
         changePpd();
+}
+
+void SetupKeeper::watchPanels()
+{
+    // The hook is called in the middle of an operation of the panel.
+    m_setup->setPanelFailedHook(
+        [this] { QMetaObject::invokeMethod(this, &SetupKeeper::dropFailedPanels, Qt::QueuedConnection); });
+}
+
+void SetupKeeper::dropFailedPanels()
+{
+    if (!m_setup || m_setup->panelFailures().empty())
+        return;
+    if (m_isHeld) {
+        m_failureIsLate = true;
+        return;
+    }
+    Q_EMIT setupAboutToEnd();
+    for (const BundleError &error : m_setup->panelErrors()) {
+        if (error.kind == BundleErrorKind::Failed)
+            m_panelSource.exclude(error.folder, error);
+    }
+    m_setup->dropFailedPanels();
+    Q_EMIT setupChanged();
+}
+
+void SetupKeeper::reloadPanels()
+{
+    if (!m_setup)
+        return;
+    Q_EMIT setupAboutToEnd();
+    m_setup->reloadPanels();
+    watchPanels();
+    Q_EMIT setupChanged();
 }
 
 void SetupKeeper::changeQueue()
@@ -114,6 +151,7 @@ void SetupKeeper::replace(std::optional<PpdFile> ppd)
     }
     const bool isAnother = before == m_choicesOfQueues.end();
     m_setup = std::make_unique<PrinterSetup>(*m_session->chosen(), std::move(ppd), requested, m_panelSource);
+    watchPanels();
     Q_EMIT setupChanged();
     // Saved after the panels are shown, because panels record the choices that they find.
     if (isAnother || !m_hadUsersChoices)

@@ -31,6 +31,9 @@ public:
     /// The setup of the chosen printer; null while its PPD is not known.
     PrinterSetup *setup() const { return m_setup.get(); }
 
+    /// Loads the panels of the current setup again, with the choices that are marked now.
+    void reloadPanels();
+
     /// Keeps the setup while the user answers a question about it; changes wait for release().
     void hold() { m_isHeld = true; }
     void release();
@@ -44,6 +47,8 @@ Q_SIGNALS:
 private:
     void changeQueue();
     void changePpd();
+    void watchPanels();
+    void dropFailedPanels();
     void replace(std::optional<PpdFile> ppd);
     void end();
     bool isUsableWithoutPpd() const;
@@ -61,6 +66,7 @@ private:
     bool m_isHeld = false;
     bool m_queueIsLate = false;
     bool m_ppdIsLate = false;
+    bool m_failureIsLate = false;
 };
 
 } // namespace setup

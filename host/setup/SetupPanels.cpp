@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SetupPanels.h"
 
-#include <QScopedValueRollback>
-
 #include <algorithm>
 
 namespace host {
@@ -17,203 +15,184 @@ SetupPanels::~SetupPanels() = default;
 
 void SetupPanels::load(const PanelSource &source, const PDEChoices &requested)
 {
-    Result<ClaimedPanels, PanelError> panels = source.panelsFor(m_state);
-    if (!panels) {
-        m_error = panels.error();
-        return;
+    LoadedPanels loaded = source.panelsFor(m_state);
+    m_errors = std::move(loaded.errors);
+    m_notices = std::move(loaded.notices);
+    for (std::unique_ptr<HostedPanel> &panel : loaded.panels)
+        m_panels.push_back(std::make_unique<SetupPanel>(m_state, std::move(panel)));
+    for (const auto &panel : m_panels)
+        panel->show(requested);
+    dropFailed();
+    m_loadErrors = m_errors.size();
+}
+
+void SetupPanels::dropFailed()
+{
+    std::ranges::copy(failures(), std::back_inserter(m_errors));
+    std::erase_if(m_panels, [](const auto &each) { return each->panel().guard().error().has_value(); });
+}
+
+std::vector<HostedPanel *> SetupPanels::panels() const
+{
+    std::vector<HostedPanel *> panels;
+    for (const auto &each : m_panels)
+        panels.push_back(&each->panel());
+    return panels;
+}
+
+std::vector<PanelHost *> SetupPanels::hosts() const
+{
+    std::vector<PanelHost *> hosts;
+    for (const auto &each : m_panels) {
+        if (std::ranges::find(hosts, &each->panel().host()) == hosts.end())
+            hosts.push_back(&each->panel().host());
     }
-    m_panels = std::move(panels).value();
-    if (!panel())
-        return;
-    const PDEChoices marked = markedChoices();
-    restore();
-    panel()->willShow();
-    // A panel that is shown for the first time marks the PPD's defaults. Other choices of the queue, the user
-    // and the command line are changes that were made elsewhere.
-    bool isChanged = false;
-    for (const auto &[keyword, choice] : marked) {
-        if (ppd().markedChoice(keyword) == choice)
-            continue;
-        m_state->changeOption(keyword, choice, nullptr);
-        isChanged = true;
+    return hosts;
+}
+
+std::vector<BundleError> SetupPanels::failures() const
+{
+    std::vector<BundleError> failures;
+    for (const auto &each : m_panels) {
+        const std::optional<BundleError> &error = each->panel().guard().error();
+        if (error && std::ranges::find(failures, error->folder, &BundleError::folder) == failures.end())
+            failures.push_back(*error);
     }
-    if (isChanged)
-        restore();
-    apply(marked);
-    PDEChoices wanted;
-    for (const auto &[keyword, choice] : requested) {
-        if (keywords().contains(keyword))
-            wanted.emplace_back(keyword, choice);
-    }
-    noteReplaced(wanted);
+    return failures;
+}
+
+std::vector<BundleError> SetupPanels::errors() const
+{
+    std::vector<BundleError> errors = m_errors;
+    std::ranges::copy(failures(), std::back_inserter(errors));
+    return errors;
+}
+
+std::vector<BundleError> SetupPanels::laterErrors() const
+{
+    const std::vector<BundleError> all = errors();
+    return {all.begin() + static_cast<std::ptrdiff_t>(m_loadErrors), all.end()};
+}
+
+QStringList SetupPanels::keywords() const
+{
+    QStringList keywords;
+    for (const auto &each : m_panels)
+        keywords += each->panel().keywords();
+    return keywords;
+}
+
+void SetupPanels::setFailedHook(const std::function<void()> &hook)
+{
+    for (const auto &each : m_panels)
+        each->panel().guard().setFailedHook(hook);
 }
 
 PanelSettings SetupPanels::settings() const
 {
-    const QScopedValueRollback asking(m_isAsking, true);
-    return panel() ? m_panels.session->settings() : PanelSettings();
+    PanelSettings all;
+    for (const auto &each : m_panels) {
+        const PanelSettings settings = each->settings();
+        std::ranges::copy(settings.choices, std::back_inserter(all.choices));
+        all.combinationsChosen += settings.combinationsChosen;
+        if (!all.error)
+            all.error = settings.error;
+        if (!all.error)
+            all.error = each->restoreError();
+    }
+    return all;
 }
 
 PDEChoices SetupPanels::choicesToKeep() const
 {
-    PDEChoices choices = settings().choices;
-    const auto *const controls = dynamic_cast<const PDEUserChoices_v1 *>(panel());
-    for (const auto &[keyword, choice] : controls ? controls->shownChoices() : PDEChoices()) {
-        if (findChoice(choices, keyword))
-            setChoice(choices, keyword, choice);
+    PDEChoices all;
+    for (const auto &each : m_panels)
+        std::ranges::copy(each->choicesToKeep(), std::back_inserter(all));
+    return all;
+}
+
+std::vector<PanelSummary> SetupPanels::summaries(const PDEChoices &choices) const
+{
+    std::vector<PanelSummary> summaries;
+    for (const auto &each : m_panels) {
+        if (const std::optional<QVariantMap> lines = each->panel().summary(choices))
+            summaries.push_back({each->panel().title(), *lines});
     }
-    return choices;
+    return summaries;
 }
 
-std::optional<QVariantMap> SetupPanels::summary(const PDEChoices &choices) const
+StripEffects SetupPanels::stripEffects(const PDEChoices &choices, std::span<const PDELabel> labels) const
 {
-    PDEPanel *const shown = panel();
-    if (!shown)
-        return std::nullopt;
-    const auto *const exact = dynamic_cast<const PDEChoiceSummary_v1 *>(shown);
-    return exact ? exact->summaryInfoFor(choices) : shown->summaryInfo();
+    std::vector<PDEStripEffects> reports;
+    for (const auto &each : m_panels)
+        reports.push_back(each->panel().stripEffects(choices, labels));
+    return combined(reports, labels.size());
 }
 
-void SetupPanels::announce()
+std::optional<QString> SetupPanels::reasonForDisabled(const QString &keyword) const
 {
-    if (panel())
-        keepChoices([this] { panel()->willShow(); });
+    const SetupPanel *const panel = panelWith(keyword);
+    return panel ? panel->panel().reasonForDisabled(keyword) : std::nullopt;
+}
+
+SetupPanel *SetupPanels::panelWith(const QString &keyword) const
+{
+    const auto found =
+        std::ranges::find_if(m_panels, [&](const auto &each) { return each->hasKeyword(keyword); });
+    return found == m_panels.end() ? nullptr : found->get();
+}
+
+void SetupPanels::announce(const HostedPanel &panel)
+{
+    const auto found =
+        std::ranges::find_if(m_panels, [&](const auto &each) { return &each->panel() == &panel; });
+    if (found != m_panels.end())
+        (*found)->announce();
 }
 
 void SetupPanels::choose(const QString &keyword, const QString &choice)
 {
-    const QScopedValueRollback operating(m_isOperating, true);
-    PDEChoices wanted = requestedChoices(Retry::No);
-    setChoice(wanted, keyword, choice);
-    std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == keyword; });
-    if (!panel()) {
-        m_state->changeOption(keyword, choice, nullptr);
-        return;
-    }
-    apply({{keyword, choice}});
-    if (isSame(keyword, settings().choice(keyword), choice)) {
-        // Nothing was refreshed: the other controls still have the user's choices, whatever is saved for
-        // them.
-        noteReplaced({{keyword, choice}});
-        return;
-    }
-    // The panel has no control for the option and reads the choice from the PPD.
-    PDEChoices kept = choicesToKeep();
-    setChoice(kept, keyword, choice);
-    save();
-    m_state->changeOption(keyword, choice, nullptr);
-    restore();
-    apply(kept);
-    noteReplaced(wanted);
-}
-
-void SetupPanels::keepChoices(const std::function<void()> &action, Retry retry)
-{
-    if (!panel()) {
-        action();
-        return;
-    }
-    const QScopedValueRollback operating(m_isOperating, true);
-    const PDEChoices wanted = requestedChoices(retry);
-    const PDEChoices saved = settings().choices;
-    const PDEChoices shown = choicesToKeep();
-    save();
-    for (const auto &[keyword, choice] : wanted) {
-        // Only choices that were replaced before are not marked by now.
-        if (ppd().markedChoice(keyword) != choice)
-            ppd().mark(keyword, choice);
-    }
-    action();
-    PDEChoices dropped = wanted;
-    std::erase_if(dropped, [&](const auto &each) { return ppd().markedChoice(each.first) != each.second; });
-    for (auto &[keyword, choice] : dropped) {
-        if (findChoice(saved, keyword) == choice)
-            choice = findChoice(shown, keyword).value_or(choice);
-    }
-    apply(dropped);
-    noteReplaced(wanted);
+    if (SetupPanel *const panel = panelWith(keyword))
+        panel->choose(keyword, choice);
 }
 
 void SetupPanels::markSettings()
 {
-    const QScopedValueRollback operating(m_isOperating, true);
-    if (panel())
-        save();
+    for (const auto &each : m_panels)
+        each->markSettings();
+}
+
+void SetupPanels::keepChoices(const std::function<void()> &action, SetupPanel::Retry retry)
+{
+    keepChoicesFrom(0, action, retry);
+}
+
+void SetupPanels::keepChoicesFrom(std::size_t index, const std::function<void()> &action,
+                                  SetupPanel::Retry retry)
+{
+    if (index == m_panels.size())
+        action();
+    else
+        m_panels[index]->keepChoices([&] { keepChoicesFrom(index + 1, action, retry); }, retry);
+}
+
+std::vector<ReplacedChoice> SetupPanels::replaced() const
+{
+    std::vector<ReplacedChoice> all;
+    for (const auto &each : m_panels)
+        std::ranges::copy(each->replaced(), std::back_inserter(all));
+    return all;
 }
 
 void SetupPanels::clearReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice)
 {
-    if (m_isOperating)
-        return;
-    std::erase_if(m_replaced, [&](const ReplacedChoice &each) {
-        return !keyword || (each.keyword == *keyword && each.choice != choice);
-    });
+    for (const auto &each : m_panels)
+        each->clearReplaced(keyword, choice);
 }
 
-PDEChoices SetupPanels::requestedChoices(Retry retry)
+bool SetupPanels::isBusy() const
 {
-    PDEChoices wanted = settings().choices;
-    for (const ReplacedChoice &each : m_replaced) {
-        // Unless the user has made another choice since.
-        if (retry == Retry::Yes && findChoice(wanted, each.keyword) == each.saved)
-            setChoice(wanted, each.keyword, each.choice);
-    }
-    return wanted;
-}
-
-void SetupPanels::noteReplaced(const PDEChoices &wanted)
-{
-    const PanelSettings now = settings();
-    // A replaced choice remains recorded while the panel saves the same choice for its option.
-    std::erase_if(m_replaced,
-                  [&](const ReplacedChoice &each) { return now.choice(each.keyword) != each.saved; });
-    for (const auto &[keyword, choice] : wanted) {
-        const std::optional<QString> saved = now.choice(keyword);
-        // A choice that the PPD does not have was not replaced by a rule; the panel writes it in its own way.
-        if (!saved || isSame(keyword, saved, choice) || !ppd().choiceIndex(keyword, *saved))
-            continue;
-        // A copy: clang 14 does not allow lambdas to capture a structured binding.
-        const QString &ofKeyword = keyword;
-        std::erase_if(m_replaced, [&](const ReplacedChoice &each) { return each.keyword == ofKeyword; });
-        m_replaced.push_back({keyword, choice, *saved});
-    }
-}
-
-PDEChoices SetupPanels::markedChoices() const
-{
-    PDEChoices choices;
-    for (const QString &keyword : keywords()) {
-        if (const std::optional<QString> choice = ppd().markedChoice(keyword))
-            choices.emplace_back(keyword, *choice);
-    }
-    return choices;
-}
-
-bool SetupPanels::isSame(const QString &keyword, const std::optional<QString> &saved,
-                         const QString &choice) const
-{
-    // libcups compares choices case-insensitively.
-    const std::optional<int> index = saved ? ppd().choiceIndex(keyword, *saved) : std::nullopt;
-    return saved == choice || (index && index == ppd().choiceIndex(keyword, choice));
-}
-
-void SetupPanels::save()
-{
-    // An error of saving is also part of settings(), which is checked before the job is sent.
-    panel()->saveValuesAndReturnError(nullptr);
-}
-
-void SetupPanels::restore()
-{
-    QString error;
-    if (!panel()->restoreValuesAndReturnError(&error))
-        m_error = PanelError{PanelErrorKind::NoPanel, error};
-}
-
-void SetupPanels::apply(const PDEChoices &choices)
-{
-    if (auto *const controls = dynamic_cast<PDEUserChoices_v1 *>(panel()))
-        controls->applyUserChoices(choices);
+    return std::ranges::any_of(m_panels, [](const auto &each) { return each->isBusy(); });
 }
 
 } // namespace setup

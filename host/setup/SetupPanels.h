@@ -2,29 +2,22 @@
 #pragma once
 
 #include "PanelSource.h"
+#include "SetupPanel.h"
 
 #include <QVariantMap>
 
 namespace host {
 inline namespace setup {
 
-/// A requested choice that the panel's rules have replaced.
-struct ReplacedChoice {
-    QString keyword;
-    /// The requested choice.
-    QString choice;
-    /// The choice that the panel saves instead.
-    QString saved;
-
-    bool operator==(const ReplacedChoice &) const = default;
+/// A panel's lines of the summary, under the panel's title.
+struct PanelSummary {
+    QString title;
+    /// See PDEPanel::summaryInfo().
+    QVariantMap lines;
 };
 
-/// The panels of one printer while it is set up: queries what they would save, and preserves the user's
-/// choices when panels read the PPD again.
-///
-/// The settings of a panel may exist only in its controls: a predefined combination changes no mark before
-/// it is saved, and a refresh from the PPD discards it. Everything that may refresh a panel therefore runs
-/// in keepChoices().
+/// The panels of one printer while it is set up. Each option belongs to at most one of them; what concerns
+/// the whole job combines the answers of all.
 class SetupPanels {
 public:
     /// Creates the object without panels; load() loads them. The state has the PPD.
@@ -33,68 +26,69 @@ public:
     SetupPanels(const SetupPanels &) = delete;
     SetupPanels &operator=(const SetupPanels &) = delete;
 
-    /// Loads the bundle and its panels, which read the marked choices, and shows the first panel. replaced()
-    /// then contains the requested choices that the panel's rules replace.
+    /// Loads the panels of the printer, which read the marked choices, and shows each for the first time.
+    /// replaced() then contains the requested choices that their rules replace.
     void load(const PanelSource &source, const PDEChoices &requested);
 
-    /// The panel to show, with its view loaded; null without a panel. Owned by this object.
-    PDEPanel *panel() const { return m_panels.session ? m_panels.session->firstPanel() : nullptr; }
-    /// The callback object of the panel; null without a panel.
-    PanelHost *panelHost() const { return m_panels.session ? &m_panels.session->host() : nullptr; }
-    /// The error if the printer has options for a panel but the panel cannot be shown; absent otherwise.
-    const std::optional<PanelError> &error() const { return m_error; }
+    /// The panels to show, with their views loaded, in the order of their pages. Owned by this object.
+    std::vector<HostedPanel *> panels() const;
+    /// The callback objects of the panels, one for each bundle.
+    std::vector<PanelHost *> hosts() const;
+    /// The errors of bundles that have options of the printer but cannot be used, including those that have
+    /// failed since they were loaded.
+    std::vector<BundleError> errors() const;
+    /// The errors of bundles that have failed and whose panels still exist.
+    std::vector<BundleError> failures() const;
+    /// Those of errors() that have occurred since load().
+    std::vector<BundleError> laterErrors() const;
+    /// Sentences about bundles and options that are not used; see LoadedPanels.
+    const QStringList &notices() const { return m_notices; }
     /// The PPD keywords that the panels handle.
-    const QStringList &keywords() const { return m_panels.keywords; }
+    QStringList keywords() const;
+    /// Removes the panels of bundles that have failed; their options are left to the dialog. Their views must
+    /// not be shown any more.
+    void dropFailed();
+    /// Sets the function that is called when a bundle fails; see PanelGuard.
+    void setFailedHook(const std::function<void()> &hook);
 
-    /// What the panel would save now; empty without a panel. Marks, records and reports nothing.
+    /// What the panels would save now. Marks, records and reports nothing.
     PanelSettings settings() const;
-    /// Returns what the panel would save. Where a rule replaces a choice temporarily, as special tape does
-    /// with half cuts, returns the choice that the control shows.
+    /// Returns what the panels would save; see SetupPanel::choicesToKeep().
     PDEChoices choicesToKeep() const;
-    /// Returns the panel's lines of the summary for these choices; absent without a panel, or if it has
-    /// none.
-    std::optional<QVariantMap> summary(const PDEChoices &choices) const;
+    /// Returns the lines of the summary for these choices, of each panel that has any.
+    std::vector<PanelSummary> summaries(const PDEChoices &choices) const;
+    /// Returns what these choices of a job do to its labels, as the panels report it.
+    StripEffects stripEffects(const PDEChoices &choices, std::span<const PDELabel> labels) const;
+    /// Returns why the control of the option is disabled; absent if it is not, or if the reason is not known.
+    std::optional<QString> reasonForDisabled(const QString &keyword) const;
 
     /// Notifies the panel that its page comes to the front.
-    void announce();
-    /// Sets the choice of one of the panel's keywords, through the panel's controls where they allow it.
+    void announce(const HostedPanel &panel);
+    /// Sets the choice of one of the keywords() through its panel.
     void choose(const QString &keyword, const QString &choice);
-    /// Lets the panel save the choices of its controls. They do not count as the user's choices.
+    /// Lets the panels save the choices of their controls. They do not count as the user's choices.
     void markSettings();
-    /// Whether choices that were replaced before are applied again: another paper may allow them.
-    enum class Retry { No, Yes };
-    /// Saves the panel, runs the action, which may make the panel refresh its controls, and then applies the
-    /// choices again that the refresh has discarded. Choices that the panel marks during the action remain:
-    /// for instance, a paper that cannot be cut turns automatic cutting off.
-    void keepChoices(const std::function<void()> &action, Retry retry = Retry::No);
+    /// Runs the action, which may make panels refresh their controls, and preserves their choices; see
+    /// SetupPanel::keepChoices().
+    void keepChoices(const std::function<void()> &action, SetupPanel::Retry retry = SetupPanel::Retry::No);
 
-    /// The choices that the user requested, on the panel or elsewhere, and that the panel saves differently.
-    /// A choice is removed when the user makes another one or the panel allows it.
-    const std::vector<ReplacedChoice> &replaced() const { return m_replaced; }
-    /// Removes requests that the user has superseded by making the choice on the panel; an absent keyword
-    /// stands for a combination of several options. Does nothing while this object operates the panel.
+    /// The requested choices that the panels save differently; see SetupPanel::replaced().
+    std::vector<ReplacedChoice> replaced() const;
+    /// Removes superseded requests; see SetupPanel::clearReplaced().
     void clearReplaced(const std::optional<QString> &keyword, const std::optional<QString> &choice);
-
-    /// Returns whether a caller further up the stack queries or operates the panel, which then must not be
-    /// queried again.
-    bool isBusy() const { return m_isOperating || m_isAsking; }
+    /// Returns whether a caller further up the stack queries or operates a panel.
+    bool isBusy() const;
 
 private:
-    PpdFile &ppd() const { return m_state->ppd(); }
-    PDEChoices markedChoices() const;
-    bool isSame(const QString &keyword, const std::optional<QString> &saved, const QString &choice) const;
-    void save();
-    void restore();
-    void apply(const PDEChoices &choices);
-    void noteReplaced(const PDEChoices &wanted);
-    PDEChoices requestedChoices(Retry retry);
+    SetupPanel *panelWith(const QString &keyword) const;
+    void keepChoicesFrom(std::size_t index, const std::function<void()> &action, SetupPanel::Retry retry);
 
     std::shared_ptr<DialogState> m_state;
-    ClaimedPanels m_panels;
-    std::optional<PanelError> m_error;
-    std::vector<ReplacedChoice> m_replaced;
-    bool m_isOperating = false;
-    mutable bool m_isAsking = false;
+    std::vector<std::unique_ptr<SetupPanel>> m_panels;
+    std::vector<BundleError> m_errors;
+    /// The number of errors that load() has found.
+    std::size_t m_loadErrors = 0;
+    QStringList m_notices;
 };
 
 } // namespace setup

@@ -54,15 +54,26 @@ JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
 }
 
 /// Returns the PPD options that the job contains. The server applies the marked defaults of the others.
-RecordedChoices sentChoices(const JobTicket &job, const PpdFile &ppd)
+PDEChoices sentChoices(const JobTicket &job, const PpdFile &ppd)
 {
-    RecordedChoices sent;
+    PDEChoices sent;
     for (const JobOption &option : job.options) {
         const QString keyword = QString::fromUtf8(option.name);
         if (option.isSent && ppd.hasOption(keyword))
-            sent.record(keyword, QString::fromUtf8(option.value));
+            setChoice(sent, keyword, QString::fromUtf8(option.value));
     }
     return sent;
+}
+
+StripEffects stripEffects(const TicketSource &source, const Ticket &ticket)
+{
+    if (!source.ppd || !source.stripEffects)
+        return {};
+    std::vector<PDELabel> labels;
+    labels.reserve(ticket.order.size());
+    for (const PrintedPage &page : ticket.order)
+        labels.push_back({page.endsCopy, page.endsDocument});
+    return source.stripEffects(sentChoices(ticket.job, *source.ppd), labels);
 }
 
 } // namespace
@@ -78,9 +89,9 @@ Ticket makeTicket(const TicketSource &source)
     ticket.choices = choicesWithPanel(source);
     ticket.panel = source.panel;
     ticket.job = makeJob(source, ticket);
-    ticket.cuts.areKnown = false;
-    if (source.ppd)
-        ticket.cuts = CutSettings::fromJob(*source.ppd, sentChoices(ticket.job, *source.ppd));
+    ticket.order = printOrder(pagesByDocument(ticket.pages.pages, source.document.pageCounts()),
+                              ticket.pages.copies, ticket.pages.collate, ticket.pages.order);
+    ticket.strip = stripEffects(source, ticket);
     if (source.constraints) {
         ticket.conflicts = source.constraints->conflicts(source.panel.choices);
         if (!ticket.conflicts.empty())
@@ -91,7 +102,7 @@ Ticket makeTicket(const TicketSource &source)
 
 CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const LabelRenderer &renderer)
 {
-    const MeasureBlank blank = ticket.cuts.removeBlank ? MeasureBlank::Yes : MeasureBlank::No;
+    const MeasureBlank blank = ticket.strip.removeBlank ? MeasureBlank::Yes : MeasureBlank::No;
     std::vector<LabelExtent> extents(static_cast<std::size_t>(document.pageCount()));
     for (const int page : ticket.pages.pages)
         extents[static_cast<std::size_t>(page)] = renderer.extent(page, blank);
@@ -99,9 +110,7 @@ CutPlan makePlan(const Ticket &ticket, const LabelDocument &document, const Labe
     std::optional<Millimetres> leadingMargin;
     if (ticket.paper && ticket.paper->margins)
         leadingMargin = Millimetres(Points(ticket.paper->margins->top()));
-    const std::vector<int> order = printOrder(pagesByDocument(ticket.pages.pages, document.pageCounts()),
-                                              ticket.pages.copies, ticket.pages.collate, ticket.pages.order);
-    return CutPlan::make(ticket.cuts, order, extents, leadingMargin);
+    return CutPlan::make(ticket.strip, pageNumbers(ticket.order), extents, leadingMargin);
 }
 
 } // namespace setup

@@ -8,6 +8,8 @@
 #include <host/printer/Constraints.h>
 #include <host/strip/CutPlan.h>
 
+#include <functional>
+
 namespace host {
 inline namespace setup {
 
@@ -41,6 +43,9 @@ struct TicketSource {
     const std::optional<PpdPaper> &paper;
     const LabelDocument &document;
     const JobRequest &request;
+    /// Returns what the options of the panels do to the labels with these choices of the job; empty without a
+    /// panel, in which case the cutting is not known.
+    std::function<StripEffects(const PDEChoices &, std::span<const PDELabel>)> stripEffects;
 };
 
 /// Everything that is sent if the user presses Print now. All that shows or sends the job is made from this
@@ -57,8 +62,10 @@ struct Ticket {
     PageChoices pages;
     /// The settings of the job, the destination's defaults included.
     JobSettings settings;
-    /// How the labels are cut; areKnown is false without a PPD.
-    CutSettings cuts;
+    /// The pages in print order, with all copies.
+    std::vector<PrintedPage> order;
+    /// What the settings do to the labels. Their ends, if known, are as many as the pages in print order.
+    StripEffects strip;
     /// All choices with their origins, including the settings of the panel.
     std::vector<JobChoice> choices;
     /// What the panel would save now, and whether it lets the job be printed.

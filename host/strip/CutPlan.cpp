@@ -9,29 +9,10 @@ inline namespace strip {
 
 namespace {
 
-/// Returns what the printer does after the label at this position, counted from 0. The count is the number of
-/// labels of the job.
-LabelEnd labelEnd(const CutSettings &settings, std::size_t position, std::size_t count)
+PlannedLabel plannedLabel(const StripEffects &effects, int page, const LabelExtent &extent)
 {
-    LabelEnd end;
-    if (settings.specialTape)
-        return end;
-    const bool last = position + 1 == count;
-    const bool turn = (position + 1) % static_cast<std::size_t>(settings.labelsPerCut) == 0;
-    if (last)
-        end.fullCut = (settings.automaticCut || settings.cutAtEnd) && !settings.chainPrint;
-    else
-        end.fullCut = settings.automaticCut && turn;
-    end.halfCut = settings.halfCut && !end.fullCut && !last;
-    end.cutMark = settings.cutMark && !end.fullCut;
-    end.held = settings.chainPrint && last;
-    return end;
-}
-
-PlannedLabel plannedLabel(const CutSettings &settings, int page, const LabelExtent &extent)
-{
-    PlannedLabel label{page, extent.length, {}, {}, extent.isMeasured || !settings.removeBlank};
-    if (settings.removeBlank && !extent.whollyBlank) {
+    PlannedLabel label{page, extent.length, {}, {}, extent.isMeasured || !effects.removeBlank};
+    if (effects.removeBlank && !extent.whollyBlank) {
         label.trimmedBefore = extent.leadingBlank;
         label.length -= extent.leadingBlank + extent.trailingBlank;
     }
@@ -57,17 +38,18 @@ std::vector<Piece> piecesOf(const std::vector<PlannedLabel> &labels)
 
 } // namespace
 
-CutPlan CutPlan::make(const CutSettings &settings, std::span<const int> pagesInOrder,
+CutPlan CutPlan::make(StripEffects effects, std::span<const int> pagesInOrder,
                       std::span<const LabelExtent> extents, std::optional<Millimetres> leadingMargin)
 {
     CutPlan plan;
-    plan.m_settings = settings;
-    plan.m_leadingMargin = leadingMargin;
+    plan.m_effects = std::move(effects);
+    plan.m_leadingMargin = plan.m_effects.leadingMargin ? plan.m_effects.leadingMargin : leadingMargin;
     plan.m_labels.reserve(pagesInOrder.size());
     for (std::size_t i = 0; i < pagesInOrder.size(); ++i) {
         const int page = pagesInOrder[i];
-        PlannedLabel label = plannedLabel(settings, page, extents[static_cast<std::size_t>(page)]);
-        label.end = labelEnd(settings, i, pagesInOrder.size());
+        PlannedLabel label = plannedLabel(plan.m_effects, page, extents[static_cast<std::size_t>(page)]);
+        if (plan.m_effects.ends)
+            label.end = (*plan.m_effects.ends)[i];
         plan.m_labels.push_back(label);
     }
     plan.m_pieces = piecesOf(plan.m_labels);

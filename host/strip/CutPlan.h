@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CutSettings.h"
+#include "StripEffects.h"
 
 #include <host/labels/LabelExtent.h>
 
@@ -11,20 +11,6 @@
 
 namespace host {
 inline namespace strip {
-
-/// What the printer does to the tape after a label.
-struct LabelEnd {
-    /// Cuts through tape and backing.
-    bool fullCut = false;
-    /// Cuts through the label layer only; the backing holds the strip together.
-    bool halfCut = false;
-    /// Prints a line along which the user can cut by hand.
-    bool cutMark = false;
-    /// Keeps the end of the tape in the printer; the next job continues there.
-    bool held = false;
-
-    bool operator==(const LabelEnd &) const = default;
-};
 
 /// A label on the strip.
 struct PlannedLabel {
@@ -64,13 +50,16 @@ struct Piece {
 class CutPlan {
 public:
     /// Makes the plan for the pages in print order. The extents are those of the document's pages; every page
-    /// in print order is an index into them. The leading margin is the tape that the printer
-    /// feeds before the first label; it is absent if the printer does not report it.
-    static CutPlan make(const CutSettings &settings, std::span<const int> pagesInOrder,
+    /// in print order is an index into them. The ends of the effects, if they are known, are as many as the
+    /// pages. The leading margin is the tape that the printer feeds before the first label if the effects do
+    /// not determine it; it is absent if the printer does not report it.
+    static CutPlan make(StripEffects effects, std::span<const int> pagesInOrder,
                         std::span<const LabelExtent> extents, std::optional<Millimetres> leadingMargin);
 
-    /// The settings from which the plan was made.
-    const CutSettings &settings() const { return m_settings; }
+    /// What the settings do to the labels.
+    const StripEffects &effects() const { return m_effects; }
+    /// Whether it is known how the printer cuts. If it is not, the plan has no cuts.
+    bool areCutsKnown() const { return m_effects.ends.has_value(); }
     /// The labels in print order, and the pieces in the order in which they leave the printer.
     const std::vector<PlannedLabel> &labels() const { return m_labels; }
     const std::vector<Piece> &pieces() const { return m_pieces; }
@@ -89,7 +78,7 @@ public:
     bool operator==(const CutPlan &) const = default;
 
 private:
-    CutSettings m_settings;
+    StripEffects m_effects;
     std::optional<Millimetres> m_leadingMargin;
     std::vector<PlannedLabel> m_labels;
     std::vector<Piece> m_pieces;

@@ -22,19 +22,55 @@ bool any(const CutPlan &plan, bool LabelEnd::*what)
     return std::ranges::any_of(plan.labels(), [what](const PlannedLabel &label) { return label.end.*what; });
 }
 
+/// Returns the numbers of the labels after which the printer makes a full cut, as "2, 5 and 7".
+QString cutPositions(const std::vector<PlannedLabel> &labels)
+{
+    constexpr qsizetype maxNumbers = 8;
+    QStringList numbers;
+    for (std::size_t i = 0; i < labels.size() && numbers.size() <= maxNumbers; ++i) {
+        if (labels[i].end.fullCut)
+            numbers.append(QLocale().toString(static_cast<qulonglong>(i + 1)));
+    }
+    if (numbers.size() > maxNumbers)
+        numbers.back() = QStringLiteral("\u2026");
+    return QLocale().createSeparatedList(numbers);
+}
+
+/// Returns after how many labels the printer makes a full cut each time; absent if it makes none before the
+/// last label, or at different intervals. What follows the last label does not matter: it ends the strip.
+std::optional<std::size_t> cutInterval(const std::vector<PlannedLabel> &labels)
+{
+    const auto isCut = [](const PlannedLabel &label) { return label.end.fullCut; };
+    const auto last = labels.end() - 1;
+    const auto first = std::find_if(labels.begin(), last, isCut);
+    if (first == last)
+        return std::nullopt;
+    const std::size_t interval = static_cast<std::size_t>(first - labels.begin()) + 1;
+    for (std::size_t i = 0; i + 1 < labels.size(); ++i) {
+        if (isCut(labels[i]) != ((i + 1) % interval == 0))
+            return std::nullopt;
+    }
+    return interval;
+}
+
 QString fullCutSentence(const CutPlan &plan)
 {
-    const CutSettings &settings = plan.settings();
-    if (!settings.areKnown)
-        return CutPlanWordsText::tr("The printer's description does not say whether it cuts the labels.");
-    if (!any(plan, &LabelEnd::fullCut))
+    if (!plan.areCutsKnown())
+        return CutPlanWordsText::tr("Cutting is not known: the printer's description does not say whether it "
+                                    "cuts the labels.");
+    const std::vector<PlannedLabel> &labels = plan.labels();
+    const auto cuts = std::ranges::count_if(labels, [](const auto &label) { return label.end.fullCut; });
+    if (cuts == 0)
         return CutPlanWordsText::tr("No full cut: the labels come out as one strip.");
-    if (!settings.automaticCut)
+    if (labels.size() > 1 && cuts == 1 && labels.back().end.fullCut)
         return CutPlanWordsText::tr("Full cut after the last label.");
-    if (settings.labelsPerCut == 1)
+    const std::optional<std::size_t> interval = labels.size() == 1 ? 1 : cutInterval(labels);
+    if (!interval)
+        return CutPlanWordsText::tr("Full cuts after the labels %1.").arg(cutPositions(labels));
+    if (*interval == 1)
         return CutPlanWordsText::tr("Full cut after every label.");
     return CutPlanWordsText::tr("Full cut after every %1 labels.")
-        .arg(QLocale().toString(settings.labelsPerCut));
+        .arg(QLocale().toString(static_cast<qulonglong>(*interval)));
 }
 
 /// Rounds to a hundredth of a millimetre: further digits only result from the conversion from points.
@@ -84,7 +120,7 @@ QString tapeText(const CutPlan &plan)
 QString cutPlanFigures(const CutPlan &plan)
 {
     const QLocale locale;
-    if (!plan.settings().areKnown)
+    if (!plan.areCutsKnown())
         return CutPlanWordsText::tr("Labels: %1 \u00b7 Tape: %2")
             .arg(locale.toString(static_cast<qulonglong>(plan.labels().size())), lengthText(plan.tapeUsed()));
     return CutPlanWordsText::tr("Labels: %1 \u00b7 Pieces: %2 \u00b7 Tape: %3")
@@ -96,10 +132,8 @@ QStringList cutPlanDescription(const CutPlan &plan)
 {
     if (plan.labels().empty())
         return {CutPlanWordsText::tr("Nothing is printed.")};
-    QStringList sentences;
-    if (plan.settings().specialTape)
-        sentences.append(CutPlanWordsText::tr("Special tape: the printer cuts nothing."));
-    else
+    QStringList sentences = plan.effects().cuttingTexts;
+    if (sentences.isEmpty())
         sentences.append(fullCutSentence(plan));
     if (any(plan, &LabelEnd::halfCut))
         sentences.append(CutPlanWordsText::tr("Half cut between the labels of a piece."));
@@ -108,9 +142,9 @@ QStringList cutPlanDescription(const CutPlan &plan)
     if (plan.isEndHeld())
         sentences.append(CutPlanWordsText::tr(
             "The end stays in the printer; the next job continues there without a margin."));
-    if (plan.settings().removeBlank)
+    if (plan.effects().removeBlank)
         sentences.append(CutPlanWordsText::tr("Blank tape before and after each label is removed."));
-    if (plan.settings().mirror)
+    if (plan.effects().mirror)
         sentences.append(CutPlanWordsText::tr("The labels are mirrored."));
     return sentences;
 }

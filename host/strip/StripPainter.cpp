@@ -150,7 +150,7 @@ void StripPainter::paintPicture(QPainter &painter, std::size_t index, const QIma
     const QRectF label = m_layout.label(index);
     painter.save();
     painter.setClipRect(label, Qt::IntersectClip);
-    if (m_layout.plan().settings().mirror) {
+    if (m_layout.plan().effects().mirror) {
         const bool alongTape = m_renderer.readingDirection(planned.page) == Qt::Horizontal;
         painter.translate(label.center());
         painter.scale(alongTape ? -1.0 : 1.0, alongTape ? 1.0 : -1.0);

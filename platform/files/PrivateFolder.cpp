@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PrivateFolder.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -47,6 +48,12 @@ void restrictToUser(const QString &folder)
     struct stat status = {};
     if (::stat(name.constData(), &status) == 0 && (status.st_mode & allPermissions) != S_IRWXU)
         ::chmod(name.constData(), S_IRWXU);
+}
+
+QString stateFolder()
+{
+    const QString named = qEnvironmentVariable("XDG_STATE_HOME");
+    return QDir::isAbsolutePath(named) ? named : QDir::homePath() + QStringLiteral("/.local/state");
 }
 
 } // namespace files

@@ -17,5 +17,9 @@ std::optional<QString> createPrivateFolders(const QString &folder);
 /// the system does not permit the change.
 void restrictToUser(const QString &folder);
 
+/// Returns the folder for the state that programs keep between two starts: $XDG_STATE_HOME, or ~/.local/state
+/// if that is not an absolute path (XDG Base Directory Specification). Does not create it.
+QString stateFolder();
+
 } // namespace files
 } // namespace platform

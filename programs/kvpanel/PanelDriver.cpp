@@ -122,7 +122,7 @@ QJsonObject PanelDriver::open(const DriverRequest &members)
         throw RequestError(ppd.error().message);
     const std::optional<QString> asked =
         m_bundleFolder.isEmpty() ? std::nullopt : std::optional(m_bundleFolder);
-    const auto folder = host::PanelBundle::find(asked);
+    const auto folder = host::PanelBundle::find(QStringLiteral("KVLXDZOptions"), asked);
     if (!folder)
         throw RequestError(folder.error().message);
 

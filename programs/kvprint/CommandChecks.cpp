@@ -51,10 +51,11 @@ bool CommandChecks::accepts(const host::PrinterSetup &setup) const
         m_console.printError(errorText(error, setup));
     if (!setup.choiceErrors().empty() && !m_command.force)
         return false;
-    const auto error = setup.panelError();
-    if (error)
-        m_console.printError(error->message);
-    return !error || error->kind != host::PanelErrorKind::BrokenBundle;
+    for (const host::BundleError &error : setup.panelErrors())
+        m_console.printError(error.message);
+    for (const QString &notice : setup.panelNotices())
+        m_console.printError(notice);
+    return true;
 }
 
 void CommandChecks::reportReplaced(const host::PrinterSetup &setup) const
@@ -87,9 +88,12 @@ void CommandChecks::printRequestId(const dialog::QueueSender &sender) const
                                  qMax(qsizetype(1), m_command.documents.size()));
 }
 
-ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &setup)
+ExitStatus CommandChecks::statusOf(ExitStatus status, const host::PrinterSetup &setup) const
 {
-    return status == ExitStatus::Printed && setup.panelError() ? ExitStatus::PrintedWithoutPanel : status;
+    for (const host::BundleError &error : setup.laterPanelErrors())
+        m_console.printError(error.message);
+    return status == ExitStatus::Printed && !setup.panelErrors().empty() ? ExitStatus::PrintedWithoutPanel
+                                                                         : status;
 }
 
 } // namespace kvprint

@@ -31,8 +31,9 @@ public:
     bool accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const;
     /// Prints the line that identifies the sent job to scripts, unless the run is quiet.
     void printRequestId(const dialog::QueueSender &sender) const;
-    /// Returns the exit status of a run: a job that was printed without its panel has a status of its own.
-    static ExitStatus statusOf(ExitStatus status, const host::PrinterSetup &setup);
+    /// Returns the exit status of a run: a job that was printed without one of its panels has a status of its
+    /// own. Prints the errors of panels that have occurred since they were loaded.
+    ExitStatus statusOf(ExitStatus status, const host::PrinterSetup &setup) const;
 
 private:
     QString errorText(const host::ChoiceError &error, const host::PrinterSetup &setup) const;

@@ -86,6 +86,8 @@ struct CommandLine {
     /// Sends the job despite conflicts and choices that the PPD does not have.
     bool force = false;
     bool json = false;
+    /// Loads bundles again during whose calls an earlier program ended or was stopped.
+    bool retryPanels = false;
 };
 
 } // namespace kvprint

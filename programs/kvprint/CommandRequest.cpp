@@ -33,6 +33,8 @@ host::SetupRequest setupRequest(const CommandLine &command)
 
 host::PanelSource panelSource(const CommandLine &command)
 {
+    if (command.retryPanels)
+        host::PanelCallRecord::forgetAll();
     return {command.bundle, QLocale().uiLanguages()};
 }
 

@@ -163,7 +163,7 @@ ExitStatus HeadlessRun::run()
     if (!request)
         return ExitStatus::Failed;
     const host::Ticket ticket = host::ticketFor(*setup, *m_document, *request);
-    return checks.accepts(ticket, *setup) ? CommandChecks::statusOf(finish(*setup, ticket), *setup)
+    return checks.accepts(ticket, *setup) ? checks.statusOf(finish(*setup, ticket), *setup)
                                           : ExitStatus::Failed;
 }
 

@@ -102,7 +102,8 @@ ExitStatus PrintRun::runVirtual()
     host::SetupKeeper keeper(std::move(setup));
     dialog::VirtualSender sender(m_command.output);
     dialog::PrintDialog dialog(std::move(document), keeper, sender, requestedSettings());
-    return CommandChecks::statusOf(showVirtual(dialog, sender, *keeper.setup()), *keeper.setup());
+    return CommandChecks(m_command, m_console)
+        .statusOf(showVirtual(dialog, sender, *keeper.setup()), *keeper.setup());
 }
 
 bool PrintRun::canPrintAtOnce(dialog::PrintDialog &dialog, const host::PrinterSetup &setup) const
@@ -205,7 +206,7 @@ ExitStatus PrintRun::follow(dialog::PrintDialog &dialog, const dialog::QueueSend
         if (status->state == host::JobState::Canceled)
             return ExitStatus::Canceled;
     }
-    const bool withoutPanel = dialog.hasPanelError();
+    const bool withoutPanel = dialog.hasPanelErrors();
     return withoutPanel ? ExitStatus::PrintedWithoutPanel : ExitStatus::Printed;
 }
 

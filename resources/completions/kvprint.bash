@@ -55,7 +55,7 @@ _kvprint_offer() {
 _kvprint() {
     local command=$1 current=$2 previous=$3
     local letters='-d -h -U -E -n -P -o -t -q -H -m -s -c -i --'
-    local names='--paper --no-dialog --list --summary --dry-run --json --force --screenshot --bundle --ppd
+    local names='--paper --no-dialog --list --summary --dry-run --json --force --screenshot --bundle --retry-panels --ppd
         --output --cancel-left --release-left --help --version'
     local IFS=$' \t\n'
     COMPREPLY=()

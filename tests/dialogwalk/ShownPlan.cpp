@@ -12,7 +12,7 @@ namespace dialogwalk {
 ExpectedStrip stripOf(const host::CutPlan &plan, const QString &words)
 {
     ExpectedStrip strip;
-    strip.areCutsKnown = plan.settings().areKnown;
+    strip.areCutsKnown = plan.areCutsKnown();
     strip.tape = plan.tapeUsed().number();
     for (const host::PlannedLabel &label : plan.labels())
         strip.labels.push_back({label.page, label.length.number(), label.end.fullCut, label.end.halfCut,

@@ -104,12 +104,16 @@ QString cutSentence(const ExpectedStrip &strip, const OptionTexts &options)
     if (isOn(options, "KvSpecialTape"))
         return QStringLiteral("Special tape: the printer cuts nothing.");
     if (!strip.areCutsKnown)
-        return QStringLiteral("The printer's description does not say whether it cuts the labels.");
+        return QStringLiteral(
+            "Cutting is not known: the printer's description does not say whether it cuts the labels.");
     if (!any(strip.labels, &ExpectedLabel::fullCut))
         return QStringLiteral("No full cut: the labels come out as one strip.");
-    if (!isOn(options, "KvAutoTapeCut"))
+    const auto last = strip.labels.size() - 1;
+    const bool isCutBefore = std::any_of(strip.labels.begin(), strip.labels.end() - 1,
+                                         [](const ExpectedLabel &label) { return label.fullCut; });
+    if (last > 0 && !isCutBefore)
         return QStringLiteral("Full cut after the last label.");
-    const int every = numberOf(options, "KvCutLabel");
+    const int every = last == 0 ? 1 : numberOf(options, "KvCutLabel");
     return every == 1 ? QStringLiteral("Full cut after every label.")
                       : QStringLiteral("Full cut after every %1 labels.").arg(every);
 }

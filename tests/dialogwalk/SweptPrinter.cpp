@@ -87,7 +87,7 @@ void SweptPrinter::click(QCheckBox *box)
 
 void SweptPrinter::visitPage()
 {
-    m_setup->announcePanel();
+    m_setup->announce(*m_setup->panels().front());
     look();
 }
 

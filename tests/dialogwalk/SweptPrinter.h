@@ -17,7 +17,7 @@ class SweptPrinter {
 public:
     explicit SweptPrinter(const QString &ppdPath);
 
-    PanelBoxes panel() const { return PanelBoxes(m_setup->panel()->panelView()); }
+    PanelBoxes panel() const { return PanelBoxes(m_setup->panels().front()->view()); }
     host::PrinterSetup &setup() const { return *m_setup; }
 
     void choosePaper(const char *name);

@@ -111,12 +111,6 @@ bool isLocked(const QString &path)
     return isLocked;
 }
 
-QString stateFolder()
-{
-    const QString named = qEnvironmentVariable("XDG_STATE_HOME");
-    return QDir::isAbsolutePath(named) ? named : QDir::homePath() + QStringLiteral("/.local/state");
-}
-
 } // namespace
 
 QString JobRecord::identifier() const
@@ -131,7 +125,7 @@ QString JobRecord::name() const
 }
 
 JobJournal::JobJournal()
-    : m_folder(stateFolder() + QStringLiteral("/kvprint/jobs"))
+    : m_folder(platform::stateFolder() + QStringLiteral("/kvprint/jobs"))
 {
 }
 

@@ -3,6 +3,7 @@
 
 #include <plugin/BasePDE.h>
 #include <preview/OptionView.h>
+#include <protocol/PDELabelStrip.h>
 #include <protocol/PDEUserChoices.h>
 #include <table/OptionTable.h>
 #include <table/Preset.h>
@@ -31,7 +32,10 @@
 /// All rows are driven by one table (optionTable), so that a new option is a new row. Controls that are not
 /// loaded yet read as visible, disabled and off, and writing to them does nothing, since a dialog may save or
 /// request the summary before it shows the panel.
-class OptionPDE13_v400_ : public BasePDE13_v400_, public PDEUserChoices_v1, public PDEChoiceSummary_v1 {
+class OptionPDE13_v400_ : public BasePDE13_v400_,
+                          public PDEUserChoices_v1,
+                          public PDEChoiceSummary_v1,
+                          public PDELabelStrip_v1 {
 public:
     /// The choices of an option in the order of the PPD; null without the option.
     using ChoicesField = std::unique_ptr<PDEChoiceList>;
@@ -96,6 +100,8 @@ public:
     /// The lines in the order of OptionRow::summaryPlace. Options without a given or selected choice have
     /// none.
     std::optional<QVariantMap> summaryInfoFor(const PDEChoices &given) const override;
+    /// The effects of the cut options; see PDELabelStrip_v1. Special tape has a text of its own.
+    PDEStripEffects stripEffects(const PDEChoices &choices, std::span<const PDELabel> labels) const override;
 
     /// Called when the layout is loaded and its controls are connected. Shows the rows that the PPD defines,
     /// closes the gaps between them, removes the presets that the printer does not support, and inserts the

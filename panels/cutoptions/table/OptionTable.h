@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "CutSettings.h"
 #include "PresetTag.h"
 
 #include <algorithm>
@@ -60,6 +61,9 @@ struct OptionRow {
     bool isOffOnSpecialTape = false;
     /// Whether the box keeps the state that the user has set while the paper disables it.
     bool keepsStateWhileDisabled = false;
+    /// What the option does to the strip while its second choice is selected; null for the count, and for an
+    /// option without an effect on the strip.
+    bool CutSettings::*effect = nullptr;
 
     /// The combinations that do not apply to a printer with this option.
     PresetSet removedWith = {};
@@ -94,6 +98,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .summaryKey = "RS_STitle_CutAtEnd",
         .panelPlace = 4,
         .summaryPlace = 3,
+        .effect = &CutSettings::cutAtEnd,
         .removedWithout = {PresetLabelsCutAtEnd},
     },
     {
@@ -106,6 +111,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .summaryKey = "RS_STitle_MirrorPrinting",
         .panelPlace = 8,
         .summaryPlace = 7,
+        .effect = &CutSettings::mirror,
     },
     {
         .kind = OptionKind::AutoCut,
@@ -118,6 +124,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .panelPlace = 3,
         .summaryPlace = 2,
         .isOffOnSpecialTape = true,
+        .effect = &CutSettings::automaticCut,
         .removedWithout = {PresetTapeCut, PresetTapeCutChain, PresetTapeCutHalfCut,
                            PresetTapeCutHalfCutChain},
     },
@@ -132,6 +139,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .panelPlace = 5,
         .summaryPlace = 4,
         .isOffOnSpecialTape = true,
+        .effect = &CutSettings::halfCut,
         .removedWithout = {PresetTapeHalfCut, PresetTapeHalfCutChain, PresetTapeCutHalfCut,
                            PresetTapeCutHalfCutChain},
     },
@@ -146,6 +154,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .panelPlace = 7,
         .summaryPlace = 6,
         .isOffOnSpecialTape = true,
+        .effect = &CutSettings::chainPrint,
         .removedWithout = {PresetTapeChain, PresetTapeHalfCutChain, PresetTapeCutChain,
                            PresetTapeCutHalfCutChain, PresetCutMarkChain, PresetNoCutMarkChain},
     },
@@ -159,6 +168,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .summaryKey = "RS_STitle_SpecialTape",
         .panelPlace = 6,
         .summaryPlace = 5,
+        .effect = &CutSettings::specialTape,
         .removedWithout = {PresetSpecialTape},
     },
     {
@@ -172,6 +182,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .panelPlace = 9,
         .summaryPlace = 8,
         .keepsStateWhileDisabled = true,
+        .effect = &CutSettings::removeBlank,
     },
     {
         .kind = OptionKind::CutMark,
@@ -185,6 +196,7 @@ inline constexpr std::array<OptionRow, OptionCount> optionTable = {{
         .summaryPlace = 9,
         .isOffOnSpecialTape = true,
         .keepsStateWhileDisabled = true,
+        .effect = &CutSettings::cutMark,
         .removedWith = {PresetTapeUncut, PresetTapeChain, PresetTapeHalfCutChain, PresetTapeCutChain,
                         PresetTapeCutHalfCutChain},
         .removedWithout = {PresetCutMark, PresetCutMarkChain, PresetNoCutMarkChain, PresetNoCutMark},

@@ -77,7 +77,7 @@ TEST_F(DialogLookTest, ThePanelIsWholeThoughThereAreNoOtherOptions)
 {
     // All of this printer's options are the panel's.
     open();
-    const QWidget *const view = keeper->setup()->panel()->panelView();
+    const QWidget *const view = keeper->setup()->panels().front()->view();
     const auto *const pages = window->findChild<QTabWidget *>();
     ASSERT_EQ(pages->count(), 3);
     EXPECT_TRUE(window->rect().contains(QRect(view->mapTo(window.get(), QPoint()), view->size())));

@@ -195,7 +195,7 @@ TEST_F(OneTruthTest, ThePanelIsAsHighAsItsRows)
     // Rows that a printer does not have occupy no space, and the picture is directly below the pop-up.
     for (const char *const sample : samples) {
         openSample(sample);
-        const QWidget *const view = keeper->setup()->panel()->panelView();
+        const QWidget *const view = keeper->setup()->panels().front()->view();
         int bottom = 0;
         for (const QWidget *const child :
              view->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -216,7 +216,7 @@ TEST_F(OneTruthTest, APanelThatWaitsForRoomHearsWhenItsPageIsLaidOut)
     int heard = 0;
     auto &center = platform::NotificationCenter::defaultCenter();
     center.addObserver(this, QStringLiteral("NSViewDidUpdateTrackingAreasNotification"),
-                       keeper->setup()->panel()->panelView(),
+                       keeper->setup()->panels().front()->view(),
                        [&](const platform::Notification &) { ++heard; });
     window->resize(window->size() + QSize(40, 40));
     QApplication::processEvents();
@@ -284,7 +284,7 @@ TEST_F(OneTruthTest, APresetPickedWhileTheDialogIsAboutToRefreshCountsToo)
 TEST_F(OneTruthTest, APanelThatLosesItsViewLeavesADialogThatCloses)
 {
     openSample("kvelland-lx900");
-    delete keeper->setup()->panel()->panelView();
+    delete keeper->setup()->panels().front()->view();
     window->resize(window->size() + QSize(10, 10));
     QApplication::processEvents();
     chooseTab("Summary");

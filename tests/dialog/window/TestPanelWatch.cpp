@@ -22,7 +22,7 @@ protected:
         test_support::turnEventLoop();
     }
 
-    QWidget *panelView() const { return keeper->setup()->panel()->panelView(); }
+    QWidget *panelView() const { return keeper->setup()->panels().front()->view(); }
     int askedCount() const { return panelView()->property("askedForJobs").toInt(); }
 
     /// Whether one of the dialog's banners shows exactly this message.
@@ -59,9 +59,9 @@ TEST_F(PanelWatchTest, AsksBeforeTheEventLoopWaitsThoughNoEventReachesTheView)
     const QSignalSpy touched(&watch, &dialog::PanelWatch::touched);
     EXPECT_TRUE(waitIdlyUntil([turns = 0]() mutable { return ++turns == 3; }));
     EXPECT_EQ(touched.count(), 0) << "there is no view to watch";
-    watch.follow(&view);
+    watch.follow({&view});
     EXPECT_TRUE(waitIdlyUntil([&] { return touched.count() > 0; }));
-    watch.follow(nullptr);
+    watch.follow({});
     const auto before = touched.count();
     EXPECT_TRUE(waitIdlyUntil([turns = 0]() mutable { return ++turns == 3; }));
     EXPECT_EQ(touched.count(), before);

@@ -6,6 +6,7 @@
 #include <host/labels/BlankMeasurer.h>
 #include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
+#include <tests/samples/SampleCuts.h>
 #include <tests/samples/SamplePdf.h>
 
 #include <QLabel>
@@ -69,8 +70,8 @@ protected:
         std::vector<host::LabelExtent> extents;
         for (const int page : pages)
             extents.push_back(renderer.extent(page, blank));
-        return host::CutPlan::make({.automaticCut = true, .removeBlank = removeBlank}, pages, extents,
-                                   host::Millimetres(2.0));
+        return host::CutPlan::make(effectsOn(pageCount, {.automaticCut = true, .removeBlank = removeBlank}),
+                                   pages, extents, host::Millimetres(2.0));
     }
     host::CutPlan plan(bool removeBlank = false) const { return planWith(*renderer, removeBlank); }
 

@@ -6,6 +6,16 @@
 using host::Collate;
 using host::PageRangeErrorKind;
 
+namespace {
+
+template<typename... Arguments>
+std::vector<int> numbersInOrder(const std::vector<std::vector<int>> &pages, Arguments... arguments)
+{
+    return host::pageNumbers(host::printOrder(pages, arguments...));
+}
+
+} // namespace
+
 TEST(PageRanges, NamePagesOnceAndInOrder)
 {
     struct Row {
@@ -90,14 +100,28 @@ TEST(PageRanges, CanBeCheckedBeforeThereIsADocument)
 
 TEST(PrintOrder, GoesSetBySetOrLabelByLabel)
 {
-    EXPECT_EQ(host::printOrder({{0, 2, 3}}, 1, Collate::Yes), (std::vector<int>{0, 2, 3}));
-    EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 0, 2}));
-    EXPECT_EQ(host::printOrder({{0, 2}}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
-    EXPECT_TRUE(host::printOrder({}, 3, Collate::Yes).empty());
+    EXPECT_EQ(numbersInOrder({{0, 2, 3}}, 1, Collate::Yes), (std::vector<int>{0, 2, 3}));
+    EXPECT_EQ(numbersInOrder({{0, 2}}, 3, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 0, 2}));
+    EXPECT_EQ(numbersInOrder({{0, 2}}, 3, Collate::No), (std::vector<int>{0, 0, 0, 2, 2, 2}));
+    EXPECT_TRUE(numbersInOrder({}, 3, Collate::Yes).empty());
     using host::PageOrder;
-    EXPECT_EQ(host::printOrder({{0, 2}, {3, 4}}, 2, Collate::Yes, PageOrder::Reverse),
+    EXPECT_EQ(numbersInOrder({{0, 2}, {3, 4}}, 2, Collate::Yes, PageOrder::Reverse),
               (std::vector<int>{2, 0, 2, 0, 4, 3, 4, 3}));
-    EXPECT_EQ(host::printOrder({{0, 2}}, 2, Collate::No, PageOrder::Reverse), (std::vector<int>{2, 2, 0, 0}));
+    EXPECT_EQ(numbersInOrder({{0, 2}}, 2, Collate::No, PageOrder::Reverse), (std::vector<int>{2, 2, 0, 0}));
+}
+
+TEST(PrintOrder, CopiesAndDocumentsEndWithTheirLastPage)
+{
+    using host::PrintedPage;
+    EXPECT_EQ(host::printOrder({{0, 1}, {2}}, 2, Collate::Yes), (std::vector<PrintedPage>{{0, false, false},
+                                                                                          {1, true, false},
+                                                                                          {0, false, false},
+                                                                                          {1, true, true},
+                                                                                          {2, true, false},
+                                                                                          {2, true, true}}));
+    EXPECT_EQ(
+        host::printOrder({{0, 1}, {}}, 2, Collate::No),
+        (std::vector<PrintedPage>{{0, false, false}, {0, false, false}, {1, false, false}, {1, true, true}}));
 }
 
 TEST(PageRanges, ApplyToEveryDocumentByItself)
@@ -128,7 +152,7 @@ TEST(PrintOrder, MakesCopiesOfEachDocumentByItself)
 {
     const auto documents = host::pagesByDocument({0, 2, 4, 5}, {3, 1, 5});
     EXPECT_EQ(documents, (std::vector<std::vector<int>>{{0, 2}, {}, {4, 5}}));
-    EXPECT_EQ(host::printOrder(documents, 2, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 4, 5, 4, 5}));
-    EXPECT_EQ(host::printOrder(documents, 2, Collate::No), (std::vector<int>{0, 0, 2, 2, 4, 4, 5, 5}));
+    EXPECT_EQ(numbersInOrder(documents, 2, Collate::Yes), (std::vector<int>{0, 2, 0, 2, 4, 5, 4, 5}));
+    EXPECT_EQ(numbersInOrder(documents, 2, Collate::No), (std::vector<int>{0, 0, 2, 2, 4, 4, 5, 5}));
     EXPECT_TRUE(host::pagesByDocument({}, {}).empty());
 }

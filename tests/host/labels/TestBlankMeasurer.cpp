@@ -6,6 +6,7 @@
 #include <host/labels/LabelRenderer.h>
 #include <host/strip/CutPlanText.h>
 #include <tests/samples/ClosedGate.h>
+#include <tests/samples/SampleCuts.h>
 #include <tests/samples/SamplePdf.h>
 
 #include <QJsonArray>
@@ -124,8 +125,8 @@ host::CutPlan planOf(const LabelRenderer &renderer, int count, bool removeBlank)
     std::vector<LabelExtent> extents;
     for (const int page : pages)
         extents.push_back(renderer.extent(page, removeBlank ? MeasureBlank::Yes : MeasureBlank::No));
-    return host::CutPlan::make({.automaticCut = true, .labelsPerCut = 2, .removeBlank = removeBlank}, pages,
-                               extents, 2.0_mm);
+    const SampleCuts cuts{.automaticCut = true, .labelsPerCut = 2, .removeBlank = removeBlank};
+    return host::CutPlan::make(effectsOn(pages.size(), cuts), pages, extents, 2.0_mm);
 }
 
 } // namespace
@@ -309,7 +310,7 @@ TEST_F(BlankMeasurerTest, APieceIsMeasuredWhenAllItsLabelsAre)
     std::vector<LabelExtent> extents(4, {60.0_mm, 5.0_mm, 5.0_mm, false});
     extents[2].isMeasured = false;
     const host::CutPlan plan =
-        host::CutPlan::make({.automaticCut = true, .labelsPerCut = 2, .removeBlank = true},
+        host::CutPlan::make(effectsOn(4, {.automaticCut = true, .labelsPerCut = 2, .removeBlank = true}),
                             std::vector<int>{0, 1, 2, 3}, extents, std::nullopt);
     EXPECT_TRUE(plan.pieces()[0].isMeasured);
     EXPECT_FALSE(plan.pieces()[1].isMeasured);

@@ -15,6 +15,8 @@ using host::PanelBundle;
 
 namespace {
 
+const QString bundleName = QStringLiteral("KVLXDZOptions");
+
 /// A bundle of tests/host/panels/bundles/, as the build left it.
 QString bundleFolder(const char *name)
 {
@@ -122,15 +124,15 @@ TEST(PanelBundle, FindsTheFolderItselfOrTheOneThatHoldsIt)
 {
     const Sandbox sandbox;
     const QString folder = bundleWithFiles(sandbox, "good", {});
-    EXPECT_EQ(PanelBundle::find(folder).value(), folder);
-    EXPECT_EQ(PanelBundle::find(sandbox.path(QStringLiteral("."))).value(), folder);
+    EXPECT_EQ(PanelBundle::find(bundleName, folder).value(), folder);
+    EXPECT_EQ(PanelBundle::find(bundleName, sandbox.path(QStringLiteral("."))).value(), folder);
 
-    const auto missing = PanelBundle::find(sandbox.path(QStringLiteral("nowhere")));
+    const auto missing = PanelBundle::find(bundleName, sandbox.path(QStringLiteral("nowhere")));
     ASSERT_FALSE(missing);
     EXPECT_EQ(missing.error().kind, BundleErrorKind::Missing);
     EXPECT_TRUE(missing.error().message.contains(QStringLiteral("nowhere")));
 
-    const auto file = PanelBundle::find(sandbox.write(QStringLiteral("file"), "x"));
+    const auto file = PanelBundle::find(bundleName, sandbox.write(QStringLiteral("file"), "x"));
     ASSERT_FALSE(file);
     EXPECT_EQ(file.error().kind, BundleErrorKind::NotABundle);
 }
@@ -138,8 +140,9 @@ TEST(PanelBundle, FindsTheFolderItselfOrTheOneThatHoldsIt)
 TEST(PanelBundle, SaysWhereItLookedWhenNothingWasAskedFor)
 {
     // The test programs have no bundle beside them.
-    const auto found = PanelBundle::find(std::nullopt);
+    const auto found = PanelBundle::find(bundleName, std::nullopt);
     ASSERT_FALSE(found);
     EXPECT_EQ(found.error().kind, BundleErrorKind::Missing);
-    EXPECT_EQ(found.error().message.count(PanelBundle::folderName), 2) << found.error().message.toStdString();
+    EXPECT_EQ(found.error().message.count(bundleName + QStringLiteral(".bundle")), 2)
+        << found.error().message.toStdString();
 }

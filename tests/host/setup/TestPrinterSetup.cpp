@@ -47,7 +47,7 @@ protected:
 
     static QCheckBox *box(const PrinterSetup &setup, const char *name)
     {
-        return setup.panel()->panelView()->findChild<QCheckBox *>(QLatin1String(name));
+        return setup.panels().front()->view()->findChild<QCheckBox *>(QLatin1String(name));
     }
 
     const host::PanelSource source{QStringLiteral(KV_BINARY_DIR "/bin"), {}};
@@ -68,7 +68,7 @@ TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
     const auto setup =
         make(PpdBuilder().allOptions(),
              {{requestedChoice("KvMirror", "ON"), requestedChoice("KvCutLabel", "7")}, "36mm"});
-    ASSERT_TRUE(setup->panel());
+    ASSERT_FALSE(setup->panels().empty());
     EXPECT_EQ(setup->claimedKeywords().size(), 9);
     EXPECT_TRUE(setup->choiceErrors().empty());
     EXPECT_EQ(marked(*setup, "KvMirror"), QStringLiteral("ON"));
@@ -76,7 +76,7 @@ TEST_F(PrinterSetupTest, WishesAreMarkedAndSeenByThePanel)
     EXPECT_EQ(setup->paper()->name, QByteArray("36mm"));
     EXPECT_EQ(setup->state().paper()->name, QStringLiteral("36mm"));
     // Showing the panel again does not change it back.
-    setup->announcePanel();
+    setup->announce(*setup->panels().front());
     EXPECT_TRUE(box(*setup, "mMirrorPrintChkBx")->isChecked());
     EXPECT_EQ(find(*setup, "KvMirror")->origin, Origin::You);
 }
@@ -250,8 +250,8 @@ TEST_F(PrinterSetupTest, WithoutAPpdEverythingIsPassedOn)
     const PrinterSetup setup(destination, std::nullopt, {{requestedChoice("Anything", "Goes")}, "A4"},
                              source);
     EXPECT_FALSE(setup.hasPpd());
-    EXPECT_FALSE(setup.panel());
-    EXPECT_FALSE(setup.panelError());
+    EXPECT_TRUE(setup.panels().empty());
+    EXPECT_TRUE(setup.panelErrors().empty());
     EXPECT_FALSE(setup.paper());
     EXPECT_TRUE(ticketOf(setup).conflicts.empty());
     ASSERT_EQ(setup.choices().size(), 2U);
@@ -262,8 +262,8 @@ TEST_F(PrinterSetupTest, WithoutAPpdEverythingIsPassedOn)
 TEST_F(PrinterSetupTest, APrinterWithoutCutOptionsHasNoPanelAndNoProblem)
 {
     const auto setup = make(PpdBuilder().option("Other"));
-    EXPECT_FALSE(setup->panel());
-    EXPECT_FALSE(setup->panelError());
+    EXPECT_TRUE(setup->panels().empty());
+    EXPECT_TRUE(setup->panelErrors().empty());
     EXPECT_EQ(setup->panelSettings(), host::PanelSettings());
 }
 
@@ -274,8 +274,8 @@ TEST_F(PrinterSetupTest, ABundleThatIsNotThereIsAProblemToTell)
     auto ppd = host::PpdFile::open(path);
     ASSERT_TRUE(ppd);
     const PrinterSetup setup({}, std::move(ppd).value(), {}, {QStringLiteral("/nowhere"), {}});
-    ASSERT_TRUE(setup.panelError());
-    EXPECT_EQ(setup.panelError()->kind, host::PanelErrorKind::NoPanel);
-    EXPECT_TRUE(setup.panelError()->message.contains(QStringLiteral("/nowhere")));
-    EXPECT_FALSE(setup.panel());
+    ASSERT_EQ(setup.panelErrors().size(), 1U);
+    EXPECT_EQ(setup.panelErrors().front().kind, host::BundleErrorKind::Missing);
+    EXPECT_TRUE(setup.panelErrors().front().message.contains(QStringLiteral("/nowhere")));
+    EXPECT_TRUE(setup.panels().empty());
 }

@@ -94,7 +94,7 @@ TEST_F(SetupKeeperTest, TheFirstTimeThePrinterComesWithTheServersAnswer)
     session->start(host::Discovery::No);
     ASSERT_TRUE(waitUntil([this] { return keeper->setup() != nullptr; }));
     EXPECT_EQ(keeper->setup()->destination().queue, QStringLiteral("tape"));
-    EXPECT_TRUE(keeper->setup()->panel());
+    EXPECT_FALSE(keeper->setup()->panels().empty());
     EXPECT_EQ(failures, QStringList());
 }
 
@@ -103,7 +103,7 @@ TEST_F(SetupKeeperTest, TheSecondTimeItIsThereBeforeAnybodyIsAsked)
     openAndSettle(QStringLiteral("tape"));
     open(QStringLiteral("tape"));
     ASSERT_TRUE(keeper->setup());
-    EXPECT_TRUE(keeper->setup()->panel());
+    EXPECT_FALSE(keeper->setup()->panels().empty());
     EXPECT_EQ(session->ppdState(), PpdState::Cached);
     const host::PrinterSetup *const before = keeper->setup();
     session->start(host::Discovery::No);
@@ -252,7 +252,7 @@ TEST_F(SetupKeeperTest, AReplacedPpdIsNothingThatTheUserHasSet)
         if (!keeper->setup())
             return;
         // A panel saves what it finds as soon as it is shown.
-        keeper->setup()->announcePanel();
+        keeper->setup()->announce(*keeper->setup()->panels().front());
         ++setups;
     });
     session->start(host::Discovery::No);

@@ -78,13 +78,13 @@ protected:
 
     static QCheckBox *box(const PrinterSetup &setup, const char *name)
     {
-        return setup.panel()->panelView()->findChild<QCheckBox *>(QLatin1String(name));
+        return setup.panels().front()->view()->findChild<QCheckBox *>(QLatin1String(name));
     }
     static void click(QCheckBox *box) { QTest::mouseClick(box, Qt::LeftButton, {}, {5, box->height() / 2}); }
 
     static QComboBox *presets(const PrinterSetup &setup)
     {
-        return setup.panel()->panelView()->findChild<QComboBox *>();
+        return setup.panels().front()->view()->findChild<QComboBox *>();
     }
     /// Walks to the preset by keyboard, as the panel hears of it.
     static void choosePreset(PrinterSetup &setup, int index)
@@ -128,7 +128,7 @@ TEST_F(TicketTest, AskingChangesNothingAndGivesTheSameAgain)
     const Ticket second = ticketOf(*setup);
     EXPECT_EQ(first.job.options, second.job.options);
     EXPECT_EQ(first.panel, second.panel);
-    EXPECT_EQ(first.cuts, second.cuts);
+    EXPECT_EQ(first.strip, second.strip);
     EXPECT_EQ(marks(*setup), before);
     EXPECT_EQ(setup->state().recorded().pairs(), recorded);
     EXPECT_EQ(reported, 0);
@@ -148,7 +148,11 @@ TEST_F(TicketTest, APresetIsInTheJobBeforeThePanelHasSavedIt)
         };
         EXPECT_EQ(sent.at("KvHalfCut"), expected("mHalfCutChkBx")) << index;
         EXPECT_EQ(sent.at("KvChainPrint"), expected("mChainPrintChkBx")) << index;
-        EXPECT_EQ(planOf(*setup).settings().halfCut, sent.at("KvHalfCut") == "ON") << index;
+        const host::CutPlan plan = planOf(*setup);
+        const auto isHalfCut = [](const host::PlannedLabel &label) { return label.end.halfCut; };
+        const bool isCutInFull = sent.at("KvAutoTapeCut") == "ON";
+        EXPECT_EQ(std::ranges::any_of(plan.labels(), isHalfCut), sent.at("KvHalfCut") == "ON" && !isCutInFull)
+            << index;
     }
 }
 
@@ -163,11 +167,11 @@ TEST_F(TicketTest, PresetsAndBoxesStayThroughVisitsAndPapersOnEveryPrinter)
             if (QCheckBox *const mirror = box(*setup, "mMirrorPrintChkBx"); !mirror->isHidden())
                 click(mirror);
             const Choices chosen = cutOptions(*setup);
-            setup->announcePanel();
+            setup->announce(*setup->panels().front());
             EXPECT_EQ(cutOptions(*setup), chosen) << printer << " preset " << index;
             for (const host::PpdPaper &paper : papers) {
                 setup->choosePaper(paper);
-                setup->announcePanel();
+                setup->announce(*setup->panels().front());
                 EXPECT_EQ(cutOptions(*setup) != chosen, !setup->replacedChoices().isEmpty())
                     << printer << " preset " << index << " on " << paper.name.constData();
                 setup->choosePaper(first);
@@ -182,7 +186,8 @@ TEST_F(TicketTest, WhatSpecialTapeMasksIsThereAgainWhenItIsOff)
 {
     // The boxes of what special tape excludes stay as they are, greyed, and count again later.
     const auto setup = sample("kvelland-lx900");
-    const auto visits = {std::function<void()>([&] { setup->announcePanel(); }), std::function<void()>([&] {
+    const auto visits = {std::function<void()>([&] { setup->announce(*setup->panels().front()); }),
+                         std::function<void()>([&] {
                              const host::PpdPaper first = *setup->paper();
                              choosePaper(*setup, setup->ppd().papers().back().name);
                              setup->choosePaper(first);
@@ -219,7 +224,7 @@ TEST_F(TicketTest, APaperThatExcludesAChoiceIsReportedAndTheNextPaperHasItAgain)
     ASSERT_EQ(setup->replacedChoices().size(), 1);
     EXPECT_TRUE(setup->replacedChoices().first().contains(QStringLiteral("cannot be \"On\"")))
         << setup->replacedChoices().first().toStdString();
-    setup->announcePanel();
+    setup->announce(*setup->panels().front());
     EXPECT_EQ(cutOptions(*setup).at("KvAutoTapeCut"), "OFF");
     choosePaper(*setup, before);
     EXPECT_EQ(cutOptions(*setup).at("KvAutoTapeCut"), "ON");
@@ -335,7 +340,7 @@ TEST_F(TicketTest, NothingIsKnownOfTheCutsWithoutAPpd)
     destination.queue = QStringLiteral("plain");
     const PrinterSetup setup(destination, std::nullopt, {}, {});
     const Ticket ticket = ticketOf(setup);
-    EXPECT_FALSE(ticket.cuts.areKnown);
+    EXPECT_FALSE(ticket.strip.ends);
     EXPECT_FALSE(ticket.paper);
     EXPECT_EQ(ticket.job.title, QStringLiteral("title"));
 }

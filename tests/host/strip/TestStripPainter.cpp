@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <host/strip/StripPainter.h>
+#include <tests/samples/SampleCuts.h>
 #include <tests/samples/SamplePdf.h>
 
 #include <gtest/gtest.h>
 
 using host::CutPlan;
-using host::CutSettings;
 
 using host::operator""_mm;
 
@@ -29,11 +29,11 @@ protected:
         renderer.emplace(*document, QSizeF(24, 60) * mm);
     }
 
-    void draw(const CutSettings &settings, int labels, std::optional<host::Millimetres> margin = std::nullopt)
+    void draw(const SampleCuts &cuts, int labels, std::optional<host::Millimetres> margin = std::nullopt)
     {
         const std::vector<int> pages(static_cast<std::size_t>(labels), 0);
         const std::vector<host::LabelExtent> extents{renderer->extent(0, host::MeasureBlank::Yes)};
-        plan = CutPlan::make(settings, pages, extents, margin);
+        plan = CutPlan::make(effectsOn(pages.size(), cuts), pages, extents, margin);
         layout.emplace(plan, 24.0_mm, 1.0_mm);
         const QRectF bounds = layout->bounds();
         image = QImage((bounds.size() * pixelsPerMillimetre).toSize(), QImage::Format_RGB32);

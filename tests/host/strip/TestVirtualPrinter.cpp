@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <host/documents/PrintOrder.h>
-#include <host/panels/DialogState.h>
 #include <host/strip/OutputFiles.h>
 #include <host/strip/StripPdf.h>
 #include <host/strip/VirtualPrinter.h>
+#include <tests/samples/SampleCuts.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/samples/SamplePpd.h>
 #include <tests/support/SpecialFiles.h>
@@ -41,20 +41,19 @@ protected:
         auto opened = LabelDocument::open(writePdf(sandbox, QStringLiteral("labels.pdf"), pages));
         ASSERT_TRUE(opened) << opened.error().message.toStdString();
         document = std::move(opened).value();
-        paper = state.ppd().paper("W24H60").value();
+        paper = ppd.paper("W24H60").value();
         renderer = std::make_unique<host::LabelRenderer>(*document, paper.size);
     }
 
-    /// Three labels, so often, with the cuts that the state has.
-    host::CutPlan plan(int copies = 1) const { return planOf(state, copies); }
-    host::CutPlan planOf(const host::DialogState &of, int copies = 1) const
+    /// Three labels, so often, cut as the default says.
+    host::CutPlan plan(int copies = 1,
+                       const SampleCuts &cuts = {.automaticCut = true, .cutAtEnd = true}) const
     {
         std::vector<host::LabelExtent> extents;
         for (int page = 0; page < document->pageCount(); ++page)
             extents.push_back(renderer->extent(page, host::MeasureBlank::No));
-        const std::vector<int> order = host::printOrder({{0, 1, 2}}, copies, Collate::Yes);
-        return host::CutPlan::make(host::CutSettings::fromJob(of.ppd(), of.recorded()), order, extents,
-                                   2.0_mm);
+        const auto order = host::pageNumbers(host::printOrder({{0, 1, 2}}, copies, Collate::Yes));
+        return host::CutPlan::make(effectsOn(order.size(), cuts), order, extents, 2.0_mm);
     }
 
     host::Result<void, host::OutputError> print(const host::CutPlan &printed, const QString &folder,
@@ -64,7 +63,7 @@ protected:
     }
     host::PrintedStrip strip(const host::CutPlan &printed) const
     {
-        return {printed, *renderer, document->title(), state.ppd().printerName(), paper.text};
+        return {printed, *renderer, document->title(), ppd.printerName(), paper.text};
     }
 
     QByteArray read(const QString &name) const
@@ -75,7 +74,7 @@ protected:
     }
 
     Sandbox sandbox;
-    host::DialogState state{openTapePpd(sandbox)};
+    host::PpdFile ppd = openTapePpd(sandbox);
     std::unique_ptr<LabelDocument> document;
     host::PpdPaper paper;
     std::unique_ptr<host::LabelRenderer> renderer;
@@ -151,23 +150,19 @@ TEST_F(VirtualPrinterTest, DrawsEveryCutOnTheStrip)
     const QColor fullCut(0xd6, 0x2b, 0x1f);
     const QColor halfCut(0xc4, 0x6a, 0x00);
     struct Row {
-        std::vector<std::pair<const char *, const char *>> choices;
+        SampleCuts cuts;
         int fullCuts;
         int halfCuts;
     };
     const Row rows[] = {
-        {{}, 3, 0},
-        {{{"KvCutLabel", "2"}}, 2, 1},
-        {{{"KvAutoTapeCut", "OFF"}}, 1, 2},
-        {{{"KvAutoTapeCut", "OFF"}, {"KvHalfCut", "OFF"}, {"KvCutAtEnd", "OFF"}}, 0, 0},
-        {{{"KvAutoTapeCut", "OFF"}, {"KvChainPrint", "ON"}}, 0, 2},
-        {{{"KvSpecialTape", "ON"}}, 0, 0},
+        {{.automaticCut = true}, 3, 0},
+        {{.automaticCut = true, .labelsPerCut = 2, .halfCut = true}, 2, 1},
+        {{.cutAtEnd = true, .halfCut = true}, 1, 2},
+        {{}, 0, 0},
+        {{.halfCut = true, .chainPrint = true}, 0, 2},
     };
     for (const Row &row : rows) {
-        host::DialogState own(openTapePpd(sandbox));
-        for (const auto &[keyword, choice] : row.choices)
-            own.changeOption(QLatin1String(keyword), QLatin1String(choice), nullptr);
-        ASSERT_TRUE(print(planOf(own), sandbox.path(QStringLiteral("out"))));
+        ASSERT_TRUE(print(plan(1, row.cuts), sandbox.path(QStringLiteral("out"))));
         const RenderedStrip strip(sandbox.path(QStringLiteral("out/strip.pdf")));
         // A full cut's line reaches below the tape and its backing, a half cut's marker stands above it.
         const double tapeBottom = strip.size().height() - 8.0 - 8.0 - 9.0 + 8.0;

@@ -115,7 +115,6 @@ TEST_F(KvprintVirtualPrinter, BadInputIsNamedAndNothingIsWritten)
     const QString text = sandbox.write(QStringLiteral("text.pdf"), "not a PDF");
     const QByteArray truncated = tapePpd().left(tapePpd().indexOf("Kvelland Tape 9"));
     const QString cut = sandbox.write(QStringLiteral("cut.ppd"), truncated);
-    const QString brokenBundle = QStringLiteral(KV_BINARY_DIR "/tests/bundles/needs_files");
     const QString blocked = sandbox.write(QStringLiteral("blocked"), "x");
     struct Row {
         QStringList arguments;
@@ -136,9 +135,6 @@ TEST_F(KvprintVirtualPrinter, BadInputIsNamedAndNothingIsWritten)
         {{ppdOption, ppd, QStringLiteral("--paper"), QStringLiteral("A4"), document},
          1,
          {QStringLiteral("\"A4\""), ppd, QStringLiteral("DC52x75R")}},
-        {{ppdOption, ppd, QStringLiteral("--bundle"), brokenBundle, document},
-         1,
-         {QStringLiteral("Resources/Layout.ui")}},
         {{ppdOption, ppd, document, outputOption, blocked}, 1, {blocked}},
         {{ppdOption, ppd, document, QStringLiteral("--screenshot"), blocked + QStringLiteral("/x.png")},
          1,
@@ -170,6 +166,7 @@ TEST_F(KvprintVirtualPrinter, GoesOnWithoutAPanelButSaysSo)
         {KV_BINARY_DIR "/tests/bundles/other_version", "version 9"},
         {KV_BINARY_DIR "/tests/bundles/other_interface", "contains no panels"},
         {KV_BINARY_DIR "/tests/bundles/refusing", "does not work on this system"},
+        {KV_BINARY_DIR "/tests/bundles/needs_files", "Resources/Layout.ui"},
     };
     for (const auto &[bundle, reason] : rows) {
         const FilesOutcome outcome = print({QStringLiteral("--bundle"), QLatin1String(bundle)});

@@ -40,6 +40,11 @@
         <translation>Spezialband</translation>
     </message>
     <message>
+        <source>RS_Strip_SpecialTape</source>
+        <extracomment>Describes the label strip in the dialog while "Special Tape" is on.</extracomment>
+        <translation>Spezialband: Der Drucker schneidet nichts.</translation>
+    </message>
+    <message>
         <source>RS_ChainPrinting</source>
         <extracomment>Title of a check box of the panel; 230 points wide at most. The end of the strip stays in the printer for the next job, which saves tape.</extracomment>
         <translation>Kettendruck</translation>

@@ -40,6 +40,11 @@
         <translation>Special Tape</translation>
     </message>
     <message>
+        <source>RS_Strip_SpecialTape</source>
+        <extracomment>Describes the label strip in the dialog while "Special Tape" is on.</extracomment>
+        <translation>Special tape: the printer cuts nothing.</translation>
+    </message>
+    <message>
         <source>RS_ChainPrinting</source>
         <extracomment>Title of a check box of the panel; 230 points wide at most. The end of the strip stays in the printer for the next job, which saves tape.</extracomment>
         <translation>Chain Printing</translation>

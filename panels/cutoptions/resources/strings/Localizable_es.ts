@@ -40,6 +40,11 @@
         <translation>Cinta especial</translation>
     </message>
     <message>
+        <source>RS_Strip_SpecialTape</source>
+        <extracomment>Describes the label strip in the dialog while "Special Tape" is on.</extracomment>
+        <translation>Cinta especial: la impresora no corta nada.</translation>
+    </message>
+    <message>
         <source>RS_ChainPrinting</source>
         <extracomment>Title of a check box of the panel; 230 points wide at most. The end of the strip stays in the printer for the next job, which saves tape.</extracomment>
         <translation>Impresión en cadena</translation>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // The bundle as a print dialog meets it: loaded at run time, known by the protocol alone.
+#include <host/panels/BundleCatalog.h>
 #include <host/panels/DialogState.h>
 #include <host/panels/PanelSession.h>
-#include <host/strip/CutSettings.h>
 #include <protocol/PDEPanelInspection.h>
 #include <tests/support/PpdBuilder.h>
 
@@ -54,13 +54,14 @@ TEST_F(BundleTest, AnswersThePrintDialogWithOnePanel)
     EXPECT_EQ(panelState()["preview"].toObject()["picture"].toString(), QStringLiteral("AHCMOffOffOffOff"));
 }
 
-// The strip that the dialog draws does not use the panel's table: it is drawn for the panels of any bundle.
-// Both read the same keywords in the PPD.
-TEST_F(BundleTest, TheStripKnowsEachOptionOfThePanel)
+// The dialog loads the bundle for the keywords in its metadata, and leaves no other options to the panel.
+TEST_F(BundleTest, ItsMetadataListsEachOptionOfThePanel)
 {
-    QStringList ofStrip = host::CutSettings::keywords();
-    ofStrip.sort();
-    EXPECT_EQ(panelState()["marked"].toObject().keys(), ofStrip);
+    const auto described = host::PanelBundle::describe(bundleFolder);
+    ASSERT_TRUE(described) << described.error().message.toStdString();
+    QStringList listed = described.value().keywords;
+    listed.sort();
+    EXPECT_EQ(panelState()["marked"].toObject().keys(), listed);
 }
 
 TEST(Bundle, ExportsItsFunctionsByName)

@@ -1,16 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <host/panels/RecordedChoices.h>
-#include <host/printer/PpdFile.h>
-
-#include <QStringList>
-
-namespace host {
-inline namespace strip {
-
-/// How the labels of a job are cut and finished, according to its option choices. Settings whose options are
-/// missing in the PPD are off.
+/// How the labels of a job are cut and finished, according to the choices of the options. Settings whose
+/// options are missing in the PPD are off.
 struct CutSettings {
     /// The printer makes a full cut after every labelsPerCut labels.
     bool automaticCut = false;
@@ -30,22 +22,6 @@ struct CutSettings {
     bool removeBlank = false;
     /// A mark is printed after each label that is not followed by a full cut.
     bool cutMark = false;
-    /// False if the PPD has none of these options. Whether such a printer cuts is then unknown, and the other
-    /// members are meaningless.
-    bool areKnown = true;
-
-    /// The keywords of these options.
-    static QStringList keywords();
-
-    /// Returns whether the PPD has at least one of these options.
-    static bool areDefinedBy(const PpdFile &ppd);
 
     bool operator==(const CutSettings &) const = default;
-
-    /// Returns the settings of a job. For each option the recorded choice is used; without one, the choice
-    /// that is marked in the PPD; without a mark, the default of the PPD.
-    static CutSettings fromJob(const PpdFile &ppd, const RecordedChoices &recorded);
 };
-
-} // namespace strip
-} // namespace host
