@@ -4,6 +4,7 @@
 #include <dialog/options/ConflictNote.h>
 #include <platform/NotificationCenter.h>
 
+#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -27,9 +28,11 @@ PanelPage::PanelPage(host::HostedPanel &panel, QWidget *parent)
     , m_scrolled(new QScrollArea(this))
     , m_note(new ConflictNote(this))
 {
-    m_view->setParent(m_frame);
-    m_view->move(0, 0);
-    m_view->show();
+    if (m_view) {
+        m_view->setParent(m_frame);
+        m_view->move(0, 0);
+        m_view->show();
+    }
     m_scrolled->setFrameShape(QFrame::NoFrame);
     m_scrolled->setWidget(m_frame);
     m_scrolled->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -58,8 +61,10 @@ void PanelPage::fitView()
         return;
     // The panel lays out its view itself; the page only provides the room that the view needs.
     m_frame->setFixedSize(m_view->size());
+    // A view that is larger than the screen is scrolled.
     const int frame = 2 * m_scrolled->frameWidth();
-    m_scrolled->setMinimumSize(m_view->size() + QSize(frame, frame));
+    const QSize room = screen()->availableSize() * 4 / 5;
+    m_scrolled->setMinimumSize((m_view->size() + QSize(frame, frame)).boundedTo(room));
 }
 
 void PanelPage::postLaidOut() const

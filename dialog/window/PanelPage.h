@@ -23,7 +23,7 @@ class PanelPage : public QWidget {
 
 public:
     /// The panel is not owned and must outlive the page. Its view must be loaded already; the page shows the
-    /// view without owning it.
+    /// view without owning it. If the panel has deleted its view, the page is empty.
     PanelPage(host::HostedPanel &panel, QWidget *parent);
     /// Hides the view and removes it from the page.
     ~PanelPage() override;

@@ -145,8 +145,10 @@ void PrintDialog::attachSetup()
         m_pages->attachSetup(*setup);
         setup->setDidChangeHook([this] { refreshLater(); });
         std::vector<QWidget *> views;
-        for (host::HostedPanel *const panel : setup->panels())
-            views.push_back(panel->view());
+        for (host::HostedPanel *const panel : setup->panels()) {
+            if (QWidget *const view = panel->view())
+                views.push_back(view);
+        }
         m_panelWatch->follow(views);
     }
     m_choices->showPapers();

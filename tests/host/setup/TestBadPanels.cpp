@@ -20,11 +20,15 @@ namespace {
 
 class BadPanelsTest : public testing::Test {
 protected:
-    void SetUp() override { qputenv("XDG_STATE_HOME", folder.path().toUtf8()); }
+    void SetUp() override
+    {
+        stateBefore = qgetenv("XDG_STATE_HOME");
+        qputenv("XDG_STATE_HOME", folder.path().toUtf8());
+    }
     void TearDown() override
     {
         qunsetenv("KVTEST_TROUBLE");
-        qunsetenv("XDG_STATE_HOME");
+        qputenv("XDG_STATE_HOME", stateBefore);
     }
 
     std::unique_ptr<PrinterSetup> make(const QByteArray &trouble)
@@ -48,6 +52,7 @@ protected:
 
     const host::PanelSource source{QStringLiteral(KV_BINARY_DIR "/tests/bundles/trouble"), {}};
     QTemporaryDir folder;
+    QByteArray stateBefore;
     const host::Result<std::unique_ptr<host::LabelDocument>, host::DocumentError> document =
         host::LabelDocument::open(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"));
 };

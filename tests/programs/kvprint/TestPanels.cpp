@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QProcess>
 
-#include <csignal>
-
 namespace {
 
 const QString bundle = QStringLiteral(KV_BINARY_DIR "/tests/bundles/trouble");
@@ -81,4 +79,30 @@ TEST_F(KvprintPanels, AMissingBundleThatTheUserNamesIsReportedForEveryPrinter)
                      folder.filePath(QStringLiteral("out")), samplePdf()});
     EXPECT_EQ(outcome.status, 3) << outcome;
     EXPECT_TRUE(outcome.error.contains("/nowhere")) << outcome;
+}
+
+TEST_F(KvprintPanels, APanelThatBlocksTheProgramIsNotLoadedAgain)
+{
+    QProcess blocked;
+    QProcessEnvironment environment = kvprint.environment;
+    environment.insert(QStringLiteral("KVTEST_TROUBLE"), QStringLiteral("hang willShow"));
+    blocked.setProcessEnvironment(environment);
+    blocked.start(QStringLiteral(KV_BINARY_DIR "/bin/kvprint"), words);
+    const QDir records(environment.value(QStringLiteral("XDG_STATE_HOME")) +
+                       QStringLiteral("/kvprint/panels"));
+    const auto isBlocked = [&] {
+        const QStringList names = records.entryList({QStringLiteral("*.call")}, QDir::Files);
+        QFile record(records.filePath(names.value(0)));
+        return record.open(QIODevice::ReadOnly) && record.readAll().startsWith("willShow\n");
+    };
+    while (!isBlocked() && blocked.state() != QProcess::NotRunning)
+        blocked.waitForFinished(20);
+    ASSERT_NE(blocked.state(), QProcess::NotRunning);
+    // While it runs, other programs use the panel.
+    EXPECT_EQ(runWith("").status, 0);
+    blocked.kill();
+    blocked.waitForFinished(-1);
+    const Outcome next = runWith("");
+    EXPECT_EQ(next.status, 3) << next;
+    EXPECT_TRUE(next.error.contains("\"willShow\"")) << next;
 }
