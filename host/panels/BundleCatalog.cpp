@@ -115,8 +115,8 @@ std::vector<BundleDescription> BundleCatalog::bundlesFor(const PpdFile &ppd) con
         return std::ranges::any_of(bundle.keywords,
                                    [&](const QString &keyword) { return ppd.hasOption(keyword); });
     });
-    std::ranges::stable_partition(found,
-                                  [&](const BundleDescription &bundle) { return isNamedBy(ppd, bundle); });
+    std::stable_partition(found.begin(), found.end(),
+                          [&](const BundleDescription &bundle) { return isNamedBy(ppd, bundle); });
     return found;
 }
 
