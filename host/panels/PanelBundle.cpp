@@ -44,7 +44,8 @@ std::optional<BundleError> checkInterface(const BundleDescription &bundle)
 {
     if (!bundle.otherVersion)
         return std::nullopt;
-    const QString own = QStringLiteral(PDEPlugInFactory_iid).mid(qstrlen(PDEPlugInFactory_iid_stem));
+    const QString own =
+        QStringLiteral(PDEPlugInFactory_iid).mid(QLatin1String(PDEPlugInFactory_iid_stem).size());
     return PanelBundle::error(
         BundleErrorKind::WrongInterfaceVersion, bundle.folder,
         PanelBundleText::tr(
