@@ -555,6 +555,13 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>

@@ -555,6 +555,13 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>

@@ -555,6 +555,13 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>

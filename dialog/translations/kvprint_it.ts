@@ -555,6 +555,13 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>

@@ -555,6 +555,13 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     </message>
 </context>
 <context>
+    <name>dialog::window::PanelPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+</context>
+<context>
     <name>dialog::window::PrintDialog</name>
     <message>
         <source>Print %1</source>

@@ -4,6 +4,8 @@
 #include <dialog/options/ConflictNote.h>
 #include <platform/NotificationCenter.h>
 
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
@@ -44,7 +46,28 @@ PanelPage::PanelPage(host::HostedPanel &panel, QWidget *parent)
     layout->setContentsMargins({});
     layout->addWidget(m_note);
     layout->addWidget(m_scrolled, 1);
+    addHelp(layout);
     fitView();
+}
+
+void PanelPage::addHelp(QLayout *layout)
+{
+    const std::optional<QString> text = m_panel.helpText();
+    if (!text)
+        return;
+    auto *const button = new QPushButton(tr("Help"), this);
+    button->setAutoDefault(false);
+    layout->addWidget(button);
+    layout->setAlignment(button, Qt::AlignLeft);
+    connect(button, &QPushButton::clicked, this, [this, text] {
+        // Not modal, so that the user can follow the help in the dialog.
+        auto *const help = new QMessageBox(QMessageBox::Information, m_panel.title(), *text,
+                                           QMessageBox::Close, window());
+        help->setTextFormat(Qt::PlainText);
+        help->setAttribute(Qt::WA_DeleteOnClose);
+        help->setModal(false);
+        help->show();
+    });
 }
 
 PanelPage::~PanelPage()

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class QLayout;
 class QScrollArea;
 
 namespace dialog {
@@ -17,7 +18,8 @@ class ConflictNote;
 namespace dialog {
 inline namespace window {
 
-/// Shows a bundle's panel, and above it the conflicts of the panel's settings.
+/// Shows a bundle's panel, above it the conflicts of the panel's settings, and below it a button for its help
+/// if the panel has any.
 class PanelPage : public QWidget {
     Q_OBJECT
 
@@ -40,6 +42,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void addHelp(QLayout *layout);
     void postLaidOut() const;
 
     host::HostedPanel &m_panel;

@@ -281,23 +281,28 @@ std::vector<ReplacedChoice> PrinterSetup::replaced() const
     // The user may have set it on the panel since.
     std::erase_if(replaced,
                   [&](const ReplacedChoice &each) { return now.choice(each.keyword) != each.saved; });
+    for (ReplacedChoice &each : replaced)
+        each.reason = m_panels->reasonForDisabled(each.keyword);
     return replaced;
 }
 
 QStringList PrinterSetup::replacedChoices() const
 {
     QStringList sentences;
-    for (const auto &[keyword, choice, saved] : replaced())
-        sentences.append(replacedSentence(ppd().optionText(keyword), ppd().choiceText(keyword, choice),
-                                          ppd().choiceText(keyword, saved)));
+    for (const ReplacedChoice &each : replaced())
+        sentences.append(replacedSentence({ppd().optionText(each.keyword),
+                                           ppd().choiceText(each.keyword, each.choice),
+                                           ppd().choiceText(each.keyword, each.saved), each.reason}));
     return sentences;
 }
 
-QString PrinterSetup::replacedSentence(const QString &option, const QString &choice, const QString &saved)
+QString PrinterSetup::replacedSentence(const ReplacedChoice &texts)
 {
-    return PrinterSetupText::tr(
-               "\"%1\" cannot be \"%2\" with this paper and the other cut options; \"%3\" is used instead.")
-        .arg(option, choice, saved);
+    const QString sentence =
+        PrinterSetupText::tr(
+            "\"%1\" cannot be \"%2\" with this paper and the other cut options; \"%3\" is used instead.")
+            .arg(texts.keyword, texts.choice, texts.saved);
+    return texts.reason ? sentence + u' ' + *texts.reason : sentence;
 }
 
 void PrinterSetup::announce(const HostedPanel &panel)

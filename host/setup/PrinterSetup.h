@@ -84,9 +84,9 @@ public:
     std::vector<ReplacedChoice> replaced() const;
     /// Returns one sentence for each of replaced(), with the PPD's texts.
     QStringList replacedChoices() const;
-    /// Returns the sentence about a replaced choice, with these texts for the option, the requested choice,
-    /// and the choice that is saved instead.
-    static QString replacedSentence(const QString &option, const QString &choice, const QString &saved);
+    /// Returns the sentence about a replaced choice, with the reason if the panel explains it. The option and
+    /// the choices are shown as the argument names them.
+    static QString replacedSentence(const ReplacedChoice &texts);
 
     /// Absent without a PPD, or if the PPD has no usable paper.
     const std::optional<PpdPaper> &paper() const { return m_paper; }

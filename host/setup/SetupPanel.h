@@ -16,6 +16,9 @@ struct ReplacedChoice {
     QString choice;
     /// The choice that the panel saves instead.
     QString saved;
+    /// Why the control of the option is disabled, as one sentence; absent if it is not, or if the panel does
+    /// not explain it.
+    std::optional<QString> reason = {};
 
     bool operator==(const ReplacedChoice &) const = default;
 };

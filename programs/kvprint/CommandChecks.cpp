@@ -61,8 +61,8 @@ bool CommandChecks::accepts(const host::PrinterSetup &setup) const
 void CommandChecks::reportReplaced(const host::PrinterSetup &setup) const
 {
     // By the names that the command line uses.
-    for (const auto &[keyword, choice, saved] : setup.replaced())
-        m_console.printError(host::PrinterSetup::replacedSentence(keyword, choice, saved));
+    for (const host::ReplacedChoice &each : setup.replaced())
+        m_console.printError(host::PrinterSetup::replacedSentence(each));
 }
 
 bool CommandChecks::accepts(const host::Ticket &ticket, const host::PrinterSetup &setup) const

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
 
 namespace {
 
@@ -130,6 +131,21 @@ TEST_F(PanelsTest, APanelThatHasEndedTheProgramIsLoadedAgainOnRequest)
     EXPECT_TRUE(tabs().contains(QStringLiteral("Trouble")));
     EXPECT_EQ(message(), QString());
     EXPECT_TRUE(host::PanelCallRecord::interrupted().empty());
+    EXPECT_EQ(sent("KvTrouble"), QByteArray("ON"));
+}
+
+TEST_F(PanelsTest, TheHelpOfAPanelIsShownBesideTheDialog)
+{
+    openBoth();
+    EXPECT_EQ(button("Help"), nullptr);
+    openBoth("help");
+    chooseTab("Trouble");
+    click(button("Help"));
+    auto *const help = window->findChild<QMessageBox *>();
+    ASSERT_TRUE(help);
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_FALSE(help->isModal());
+    EXPECT_EQ(help->text(), QStringLiteral("The sample help."));
     EXPECT_EQ(sent("KvTrouble"), QByteArray("ON"));
 }
 

@@ -138,6 +138,16 @@ TEST_F(BadPanelsTest, APanelControlsOnlyWhatItsMetadataList)
     EXPECT_EQ(setup->ppd().markedChoice(QStringLiteral("Other")), QStringLiteral("OFF"));
 }
 
+TEST_F(BadPanelsTest, AReplacedChoiceIsExplainedByThePanel)
+{
+    const auto setup = make("");
+    // The panel always saves ON.
+    setup->choose("KvTrouble", "OFF");
+    ASSERT_EQ(setup->replacedChoices().size(), 1);
+    EXPECT_TRUE(setup->replacedChoices().front().endsWith(QStringLiteral(" The sample reason.")))
+        << setup->replacedChoices().front().toStdString();
+}
+
 TEST_F(BadPanelsTest, ABundleWithoutAPanelOrAViewIsReported)
 {
     for (const char *const trouble : {"no panel", "no view"}) {

@@ -4,7 +4,9 @@
 // CALL" does not return, and others are listed below.
 #include "OneBoxEntry.h"
 
+#include <protocol/PDEControlReasons.h>
 #include <protocol/PDELabelStrip.h>
+#include <protocol/PDEPanelHelp.h>
 
 #include <QCheckBox>
 #include <QThread>
@@ -33,7 +35,10 @@ void enter(const char *call)
         QThread::msleep(10);
 }
 
-class TroublePanel : public PDEPanel, public PDELabelStrip_v1 {
+class TroublePanel : public PDEPanel,
+                     public PDELabelStrip_v1,
+                     public PDEControlReasons_v1,
+                     public PDEPanelHelp_v1 {
 public:
     explicit TroublePanel(std::shared_ptr<PDEPluginCallback13_v400_> callback)
         : m_callback(std::move(callback))
@@ -76,7 +81,7 @@ public:
         enter("shouldPrint");
         return true;
     }
-    bool shouldShowHelp() const override { return false; }
+    bool shouldShowHelp() const override { return is("help"); }
     void PPDOptionKeyValueDidChange(const std::optional<QString> &, const std::optional<QString> &) override
     {
         enter("PPDOptionKeyValueDidChange");
@@ -105,6 +110,12 @@ public:
         const std::size_t count = is("too few ends") && !labels.empty() ? labels.size() - 1 : labels.size();
         return {.cutting = PDECutting::Known, .ends = std::vector<PDELabelEnd>(count, {.fullCut = true})};
     }
+
+    std::optional<QString> reasonForDisabled(const QString &) const override
+    {
+        return QStringLiteral("The sample reason.");
+    }
+    QString helpText() const override { return QStringLiteral("The sample help."); }
 
 private:
     std::shared_ptr<PDEPluginCallback13_v400_> m_callback;
