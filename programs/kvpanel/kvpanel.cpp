@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// kvpanel: the cut-options panel behind JSON lines.
+// kvpanel: the cut-options panel behind JSON lines, and the check of panel bundles.
+#include "BundleCheck.h"
 #include "LineReader.h"
 #include "PanelDriver.h"
 
@@ -43,6 +44,28 @@ QJsonObject replyTo(PanelDriver &driver, LineReader::Result result, const QByteA
     return driver.handle(document.object());
 }
 
+/// Checks a bundle and prints its breaches. Returns the exit status: 0 without a breach, 1 with breaches, 2
+/// if nothing can be checked.
+int check(const QStringList &arguments, bool hasBundleOption)
+{
+    if (arguments.size() != 2 || hasBundleOption) {
+        std::fprintf(stderr, "kvpanel: --check needs a bundle and a PPD, and no other option\n");
+        return 2;
+    }
+    const auto breaches = BundleCheck::run(arguments[0], arguments[1]);
+    if (!breaches) {
+        std::fprintf(stderr, "kvpanel: %s\n", qUtf8Printable(breaches.error().message));
+        return 2;
+    }
+    for (const QString &line : breaches.value())
+        std::printf("%s\n", qUtf8Printable(line));
+    if (std::fflush(stdout) != 0) {
+        std::fprintf(stderr, "kvpanel: cannot write the breaches to standard output\n");
+        return 2;
+    }
+    return breaches.value().isEmpty() ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -63,7 +86,13 @@ int main(int argc, char **argv)
     const QCommandLineOption bundleOption(
         QStringLiteral("bundle"), QStringLiteral("The plug-in bundle's folder."), QStringLiteral("DIR"));
     parser.addOption(bundleOption);
+    const QCommandLineOption checkOption(
+        QStringLiteral("check"),
+        QStringLiteral("Check whether the panels of a bundle follow the panel protocol with a PPD."));
+    parser.addOption(checkOption);
     parser.process(application);
+    if (parser.isSet(checkOption))
+        return check(parser.positionalArguments(), parser.isSet(bundleOption));
     if (!parser.positionalArguments().isEmpty()) {
         std::fprintf(stderr, "kvpanel: unexpected argument \"%s\"; requests come on standard input\n",
                      qPrintable(parser.positionalArguments().constFirst()));
