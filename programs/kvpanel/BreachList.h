@@ -5,13 +5,14 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 /// The breaches of the panel protocol that a check has found, one line each, in the order in which they were
 /// found. A breach that is found again, for another choice or paper, is listed once.
 class BreachList {
 public:
-    /// Sets the call of the protocol that the next breaches belong to.
-    void setCall(const QString &call) { m_call = call; }
+    /// Sets the call of the protocol that the next breaches belong to. Returns the one before.
+    QString setCall(const QString &call) { return std::exchange(m_call, call); }
 
     /// Adds a breach of the current call: what the protocol expects, as a noun ("a view"), and what happened,
     /// as a sentence without a full stop ("it returned null").

@@ -17,14 +17,8 @@ namespace {
 /// must contain what the dialog has shown.
 void saveTwice(PanelTrial &trial)
 {
-    QString error;
-    bool isSaved = true;
-    const auto save = [&] { isSaved = trial.panel().saveValuesAndReturnError(&error) && isSaved; };
-    const std::optional<PDEChoices> first = trial.call(saves, save);
-    const std::optional<PDEChoices> second = trial.call(saves, save);
-    if (!isSaved)
-        trial.report(QStringLiteral("that the panel saves"),
-                     QStringLiteral("it returns false with the error \"%1\"").arg(error));
+    const std::optional<PDEChoices> first = trial.save();
+    const std::optional<PDEChoices> second = trial.save();
     if (first && second && first != second)
         trial.report(QStringLiteral("the same choices each time it saves"),
                      QStringLiteral("it saves %1, then %2").arg(choicesText(*first), choicesText(*second)));
@@ -95,12 +89,7 @@ void checkKeywords(PanelTrial &trial)
 
 void checkRestoring(PanelTrial &trial)
 {
-    QString error;
-    bool isRestored = true;
-    trial.call(notifies, [&] { isRestored = trial.panel().restoreValuesAndReturnError(&error); });
-    if (!isRestored)
-        trial.report(QStringLiteral("that the panel shows the marked choices"),
-                     QStringLiteral("it returns false with the error \"%1\"").arg(error));
+    trial.restore();
     // A dialog that does not show the reason passes null.
     trial.call(notifies, [&] { trial.panel().restoreValuesAndReturnError(nullptr); });
 }
@@ -155,7 +144,7 @@ void checkOutsideChanges(PanelTrial &trial)
     }
     notify(std::nullopt, std::nullopt);
     notify(QStringLiteral("KvNoSuchOption"), QStringLiteral("ON"));
-    trial.call(notifies, [&] { trial.panel().restoreValuesAndReturnError(nullptr); });
+    trial.restore();
 }
 
 void checkHelp(PanelTrial &trial)

@@ -25,12 +25,6 @@ Interface *interfaceOf(PanelTrial &trial)
     return dynamic_cast<Interface *>(&trial.panel());
 }
 
-/// What the panel would print now.
-PDEChoices choicesToPrint(PanelTrial &trial)
-{
-    return trial.call(saves, [&] { trial.panel().saveValuesAndReturnError(nullptr); }).value_or(PDEChoices());
-}
-
 /// The labels of two documents of which two copies are printed, limited to a number.
 std::vector<PDELabel> someLabels(std::size_t count)
 {
@@ -80,7 +74,7 @@ bool canShow(PanelTrial &trial, const PDEUserChoices_v1 &controls, const QString
              const QString &choice)
 {
     trial.mark(keyword, choice);
-    trial.call(notifies, [&] { trial.panel().restoreValuesAndReturnError(nullptr); });
+    trial.restore();
     return host::findChoice(shownBy(trial, controls), keyword) == choice;
 }
 
@@ -147,7 +141,7 @@ void checkAppliedChoices(PanelTrial &trial)
     auto *const controls = interfaceOf<PDEUserChoices_v1>(trial);
     if (!controls)
         return;
-    const PDEChoices before = choicesToPrint(trial);
+    const PDEChoices before = trial.save().value_or(PDEChoices());
     for (const auto &[keyword, choice] : before)
         applyEach(trial, *controls, keyword);
     trial.call(notifiesQuietly, [&] {
@@ -155,7 +149,7 @@ void checkAppliedChoices(PanelTrial &trial)
     });
     for (const auto &[keyword, choice] : before)
         trial.mark(keyword, choice);
-    trial.call(notifies, [&] { trial.panel().restoreValuesAndReturnError(nullptr); });
+    trial.restore();
 }
 
 void checkChoiceSummary(PanelTrial &trial)
@@ -163,7 +157,7 @@ void checkChoiceSummary(PanelTrial &trial)
     const auto *const exact = interfaceOf<PDEChoiceSummary_v1>(trial);
     if (!exact)
         return;
-    const PDEChoices choices = choicesToPrint(trial);
+    const PDEChoices choices = trial.save().value_or(PDEChoices());
     std::optional<QVariantMap> first;
     std::optional<QVariantMap> second;
     trial.call(asks, [&] { first = exact->summaryInfoFor(choices); });
@@ -180,7 +174,7 @@ void checkStrip(PanelTrial &trial)
     if (!strip)
         return;
     for (const std::size_t count : {0, 1, 2, 7})
-        checkEffects(trial, *strip, choicesToPrint(trial), someLabels(count));
+        checkEffects(trial, *strip, trial.save().value_or(PDEChoices()), someLabels(count));
     // Without a choice, the marks count.
     checkEffects(trial, *strip, {}, someLabels(4));
     for (const QString &keyword : trial.handled()) {

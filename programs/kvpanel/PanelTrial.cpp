@@ -101,6 +101,31 @@ std::optional<PDEChoices> PanelTrial::call(const CallRules &rules, const std::fu
     return isDone ? std::optional(requested) : std::nullopt;
 }
 
+std::optional<PDEChoices> PanelTrial::save()
+{
+    const QString check = m_breaches.setCall(QStringLiteral("saveValuesAndReturnError"));
+    bool isDone = true;
+    QString error;
+    const auto choices = call(saves, [&] { isDone = m_panel.saveValuesAndReturnError(&error); });
+    if (!isDone)
+        report(QStringLiteral("that the panel saves"),
+               QStringLiteral("it returns false with the error \"%1\"").arg(error));
+    m_breaches.setCall(check);
+    return choices;
+}
+
+void PanelTrial::restore()
+{
+    const QString check = m_breaches.setCall(QStringLiteral("restoreValuesAndReturnError"));
+    bool isDone = true;
+    QString error;
+    call(notifies, [&] { isDone = m_panel.restoreValuesAndReturnError(&error); });
+    if (!isDone)
+        report(QStringLiteral("that the panel shows the marked choices"),
+               QStringLiteral("it returns false with the error \"%1\"").arg(error));
+    m_breaches.setCall(check);
+}
+
 void PanelTrial::checkRequests(const CallRules &rules, const PDEChoices &requested)
 {
     if (!rules.mayRequest && !requested.empty())

@@ -51,6 +51,12 @@ public:
     /// that the PPD does not have, and a view that does not exist any more.
     std::optional<PDEChoices> call(const CallRules &rules, const std::function<void()> &function);
 
+    /// Lets the panel save. Returns the choices that it saves; absent after an exception. Breaches belong to
+    /// saveValuesAndReturnError(), whatever check needs the choices.
+    std::optional<PDEChoices> save();
+    /// Lets the panel restore its controls from the marks. Breaches belong to restoreValuesAndReturnError().
+    void restore();
+
     /// Marks the choice, as another part of the dialog does, without notifying the panel.
     void mark(const QString &keyword, const QString &choice);
 
