@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <protocol/PDEPlugIn.h>
+
+#include <QObject>
+
+/// The factory that the dialog finds in the library.
+class CutPlugInFactory : public QObject, public PDEPlugInFactory {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID PDEPlugInFactory_iid FILE "bundle.json")
+    Q_INTERFACES(PDEPlugInFactory)
+
+public:
+    std::unique_ptr<PDEPlugIn> createPlugIn() override;
+};
