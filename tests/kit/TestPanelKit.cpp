@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -130,6 +131,29 @@ TEST_F(PanelKit, RejectsMetadataThatNoDialogAccepts)
     }
     ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
     file.write(original);
+}
+
+TEST_F(PanelKit, HasAManualPageThatNamesEveryCall)
+{
+    QFile page(prefix() + QStringLiteral("/share/man/man7/kv-panel.7"));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    const QDir headers(prefix() + QStringLiteral("/include/kvprint/protocol"));
+    const QRegularExpression function(QStringLiteral("virtual [^~(;]*\\b(\\w+)\\("));
+    int count = 0;
+    for (const QString &name : headers.entryList(QDir::Files)) {
+        // For tools only.
+        if (name == QStringLiteral("PDEPanelInspection.h"))
+            continue;
+        QFile header(headers.filePath(name));
+        ASSERT_TRUE(header.open(QIODevice::ReadOnly));
+        auto found = function.globalMatch(QString::fromUtf8(header.readAll()));
+        for (; found.hasNext(); ++count) {
+            const QRegularExpression call(QStringLiteral("\\b%1\\b").arg(found.next().captured(1)));
+            EXPECT_TRUE(text.contains(call)) << name.toStdString() << ": " << call.pattern().toStdString();
+        }
+    }
+    EXPECT_GT(count, 25);
 }
 
 TEST_F(PanelKit, IsFoundByPkgConfig)
