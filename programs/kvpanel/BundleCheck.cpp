@@ -44,7 +44,7 @@ BundleCheck::BundleCheck(QString folder, host::PpdFile ppd)
 {
 }
 
-host::Result<QStringList, BundleCheckError> BundleCheck::run(const QString &folder, const QString &ppd)
+host::Result<BundleCheckReport, BundleCheckError> BundleCheck::run(const QString &folder, const QString &ppd)
 {
     auto opened = host::PpdFile::open(ppd);
     if (!opened)
@@ -66,7 +66,8 @@ host::Result<QStringList, BundleCheckError> BundleCheck::run(const QString &fold
     // A library for another version of the interface is not loaded, as in a dialog.
     if (check.checkInterface(metadata.value(QStringLiteral("IID")).toString()))
         check.checkLibrary(qobject_cast<PDEPlugInFactory *>(loader.instance()), loader.errorString());
-    return check.m_breaches.lines();
+    const auto isOfPrinter = [&](const QString &keyword) { return check.m_dialog->ppd().hasOption(keyword); };
+    return BundleCheckReport{check.m_breaches.lines(), std::ranges::any_of(check.m_keywords, isOfPrinter)};
 }
 
 bool BundleCheck::checkInterface(const QString &identifier)

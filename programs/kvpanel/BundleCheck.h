@@ -28,6 +28,15 @@ enum class BundleCheckErrorKind {
 };
 using BundleCheckError = host::Failure<BundleCheckErrorKind>;
 
+/// What a check has found.
+struct BundleCheckReport {
+    /// The breaches of the protocol, one line each; empty if there is none.
+    QStringList breaches;
+    /// Whether the PPD has an option with one of the bundle's keywords. Otherwise no dialog loads the bundle
+    /// for this printer, and the checks of single options had nothing to check.
+    bool isForPrinter = false;
+};
+
 /// Walks the panels of a bundle through their life with a printer's PPD and reports every breach of the panel
 /// protocol.
 ///
@@ -35,9 +44,8 @@ using BundleCheckError = host::Failure<BundleCheckErrorKind>;
 /// from the metadata to the destruction of the panels is a check here. Needs a QApplication.
 class BundleCheck {
 public:
-    /// Checks the bundle in the folder with the PPD. Returns the breaches, one line each. Fails if the bundle
-    /// or the PPD cannot be opened.
-    static host::Result<QStringList, BundleCheckError> run(const QString &folder, const QString &ppd);
+    /// Checks the bundle in the folder with the PPD. Fails if the bundle or the PPD cannot be opened.
+    static host::Result<BundleCheckReport, BundleCheckError> run(const QString &folder, const QString &ppd);
 
 private:
     BundleCheck(QString folder, host::PpdFile ppd);

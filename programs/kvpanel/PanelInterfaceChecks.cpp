@@ -141,15 +141,17 @@ void checkAppliedChoices(PanelTrial &trial)
     auto *const controls = interfaceOf<PDEUserChoices_v1>(trial);
     if (!controls)
         return;
-    const PDEChoices before = trial.save().value_or(PDEChoices());
-    for (const auto &[keyword, choice] : before)
+    const host::PpdFile &ppd = trial.dialog().ppd();
+    for (const QString &keyword : trial.handled()) {
+        const std::optional<QString> before = ppd.markedChoice(keyword);
         applyEach(trial, *controls, keyword);
+        if (before)
+            trial.mark(keyword, *before);
+    }
+    trial.restore();
     trial.call(notifiesQuietly, [&] {
         controls->applyUserChoices({{QStringLiteral("KvNoSuchOption"), QStringLiteral("ON")}});
     });
-    for (const auto &[keyword, choice] : before)
-        trial.mark(keyword, choice);
-    trial.restore();
 }
 
 void checkChoiceSummary(PanelTrial &trial)

@@ -52,18 +52,21 @@ int check(const QStringList &arguments, bool hasBundleOption)
         std::fprintf(stderr, "kvpanel: --check needs a bundle and a PPD, and no other option\n");
         return 2;
     }
-    const auto breaches = BundleCheck::run(arguments[0], arguments[1]);
-    if (!breaches) {
-        std::fprintf(stderr, "kvpanel: %s\n", qUtf8Printable(breaches.error().message));
+    const auto report = BundleCheck::run(arguments[0], arguments[1]);
+    if (!report) {
+        std::fprintf(stderr, "kvpanel: %s\n", qUtf8Printable(report.error().message));
         return 2;
     }
-    for (const QString &line : breaches.value())
+    if (!report.value().isForPrinter)
+        std::fprintf(stderr, "kvpanel: \"%s\" has no option that \"%s\" handles; check it with another PPD\n",
+                     qUtf8Printable(arguments[1]), qUtf8Printable(arguments[0]));
+    for (const QString &line : report.value().breaches)
         std::printf("%s\n", qUtf8Printable(line));
     if (std::fflush(stdout) != 0) {
         std::fprintf(stderr, "kvpanel: cannot write the breaches to standard output\n");
         return 2;
     }
-    return breaches.value().isEmpty() ? 0 : 1;
+    return report.value().breaches.isEmpty() ? 0 : 1;
 }
 
 } // namespace

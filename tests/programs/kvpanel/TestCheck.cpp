@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // kvpanel --check: finds each planted breach, and nothing in a panel that follows the protocol.
+#include <tests/support/PpdBuilder.h>
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -115,6 +119,19 @@ TEST(Check, FindsNothingInTheCutOptionsPanel)
         EXPECT_EQ(outcome.status, 0) << name.toStdString() << outcome.errors.toStdString();
         EXPECT_EQ(outcome.lines, QStringList()) << name.toStdString();
     }
+}
+
+TEST(Check, NotesAPrinterThatIsNoneOfThePanel)
+{
+    const QTemporaryDir folder;
+    const QString ppd = folder.filePath(QStringLiteral("printer.ppd"));
+    ASSERT_TRUE(test_support::PpdBuilder().option("KvHalfCut").writeTo(ppd));
+    const CheckOutcome outcome = runCheck({QStringLiteral(KV_BINARY_DIR "/bin/KVLXDZOptions.bundle"), ppd});
+    EXPECT_EQ(outcome.status, 0) << outcome.lines.join(u'\n').toStdString();
+    EXPECT_FALSE(outcome.errors.contains(QStringLiteral("has no option"))) << outcome.errors.toStdString();
+    ASSERT_TRUE(test_support::PpdBuilder().writeTo(ppd));
+    EXPECT_TRUE(runCheck({breachBundle(QStringLiteral("None")), ppd})
+                    .errors.contains(QStringLiteral("has no option")));
 }
 
 TEST(Check, CannotOpenWhatIsMissing)
