@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OptionRows.h"
+
+#include "PanelTexts.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+
+namespace rollcutter {
+
+OptionRows::OptionRows(const RollRules &rules, const PrinterOptions &options)
+{
+    auto *const layout = new QFormLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (const RollRow &row : rules.rows()) {
+        const QString keyword = QString::fromLatin1(row.keyword);
+        auto *const box = new QComboBox;
+        box->setObjectName(keyword);
+        for (const OptionChoice &choice : options.choices(keyword))
+            box->addItem(PanelTexts::choiceText(options, keyword, choice.name), choice.name);
+        // The signal activated() is sent for the user's choices only.
+        connect(box, &QComboBox::activated, this, [this, box, keyword](int index) {
+            Q_EMIT chosen({{keyword, box->itemData(index).toString()}});
+        });
+        // The label is the buddy, and so the accessible name, of the box.
+        layout->addRow(options.text(keyword) + u':', box);
+        m_rows.push_back({keyword, box});
+    }
+}
+
+void OptionRows::showChoices(const PrinterOptions &options, const Reason &reason)
+{
+    for (const Row &row : m_rows) {
+        const QString choice = options.current(row.keyword).value_or(QString());
+        int index = row.box->findData(choice);
+        if (index < 0 && !choice.isEmpty()) {
+            // A custom value, for example one that a command line has set.
+            row.box->addItem(PanelTexts::choiceText(options, row.keyword, choice), choice);
+            index = row.box->count() - 1;
+        }
+        row.box->setCurrentIndex(index);
+        const std::optional<QString> why = reason(row.keyword);
+        row.box->setEnabled(!why);
+        row.box->setToolTip(why.value_or(QString()));
+    }
+}
+
+} // namespace rollcutter

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CutGroup.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace rollcutter {
+
+/// When an option of the roll has an effect.
+enum class RowRule {
+    Always,
+    OnlyTearing, ///< only while the user tears the labels off
+    NotCutting,  ///< not while the printer cuts
+};
+
+/// An option that the panel shows as a list of the PPD's choices.
+struct RollRow {
+    const char *keyword;
+    RowRule rule;
+};
+
+/// These options, in the order in which the panel shows them. The names with hyphens are those of the IPP
+/// attributes, for PPDs that are made from the attributes of a printer.
+inline constexpr RollRow rollRows[] = {
+    {"inTearInterval", RowRule::OnlyTearing},
+    {"inCutInterval", RowRule::Always},
+    {"zeMediaTracking", RowRule::Always},
+    {"media-tracking", RowRule::Always},
+    {"label-mode", RowRule::Always},
+    {"zeLabelTop", RowRule::Always},
+    {"zeTearOffPosition", RowRule::NotCutting},
+    {"Darkness", RowRule::Always},
+    {"cupsDarkness", RowRule::Always},
+    {"inPrintDensity", RowRule::Always},
+    {"print-darkness", RowRule::Always},
+    {"zePrintRate", RowRule::Always},
+    {"inPrintRate", RowRule::Always},
+    {"print-speed", RowRule::Always},
+};
+
+/// The options of the roll printer that the panel shows and the rules between them.
+class RollRules {
+public:
+    /// The rules for the options that the PPD has.
+    explicit RollRules(const PrinterOptions &options);
+
+    const std::vector<CutGroup> &groups() const { return m_groups; }
+    /// The options that are shown as lists, in display order: those that no group chooses.
+    const std::vector<RollRow> &rows() const { return m_rows; }
+    /// All options of the panel.
+    const QStringList &keywords() const { return m_keywords; }
+
+    /// Returns the key of the text that explains why the option cannot be changed at the moment; absent if it
+    /// can, or if it is no option of the panel.
+    std::optional<QString> disabledReason(const QString &keyword, const PrinterOptions &options) const;
+
+    /// The style that the group has with the current choices; CutStyle::Other if there is none.
+    static CutStyle styleOf(const CutGroup &group, const PrinterOptions &options);
+    /// Whether the user tears the labels off: a group says so and none cuts.
+    bool isTorn(const PrinterOptions &options) const;
+
+private:
+    bool isCut(const PrinterOptions &options) const;
+
+    std::vector<CutGroup> m_groups;
+    std::vector<RollRow> m_rows;
+    QStringList m_keywords;
+};
+
+} // namespace rollcutter
