@@ -16,6 +16,10 @@ OptionRows::OptionRows(const RollRules &rules, const PrinterOptions &options)
         const QString keyword = QString::fromLatin1(row.keyword);
         auto *const box = new QComboBox;
         box->setObjectName(keyword);
+        // Long texts of a PPD are shown in full in the list; the panel stays as narrow as the dialog.
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(18);
+        box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         for (const OptionChoice &choice : options.choices(keyword))
             box->addItem(PanelTexts::choiceText(options, keyword, choice.name), choice.name);
         // The signal activated() is sent for the user's choices only.
@@ -41,7 +45,7 @@ void OptionRows::showChoices(const PrinterOptions &options, const Reason &reason
         row.box->setCurrentIndex(index);
         const std::optional<QString> why = reason(row.keyword);
         row.box->setEnabled(!why);
-        row.box->setToolTip(why.value_or(QString()));
+        row.box->setToolTip(why.value_or(row.box->currentText()));
     }
 }
 

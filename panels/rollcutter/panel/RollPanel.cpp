@@ -78,8 +78,8 @@ PDEStripEffects RollPanel::stripEffects(const PDEChoices &choices, std::span<con
 {
     const PrinterOptions options(ppd(), choices);
     PDEStripEffects effects = cutEffects(m_rules.groups(), options, labels);
-    if (m_rules.isTorn(options))
-        effects.cuttingText = m_texts.text(QStringLiteral("STRIP_TORN"));
+    if (const std::optional<QString> key = m_rules.stripText(options))
+        effects.cuttingText = m_texts.text(*key);
     return effects;
 }
 

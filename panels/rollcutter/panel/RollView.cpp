@@ -15,21 +15,21 @@ RollView::RollView(const RollRules &rules, const PrinterOptions &options, const 
     : m_rules(rules)
     , m_texts(texts)
 {
-    auto *const layout = new QVBoxLayout(this);
+    auto *const columns = new QHBoxLayout(this);
+    addButtons(columns);
+    auto *const column = new QVBoxLayout;
     if (!rules.groups().empty()) {
         m_preview = new RollPreview;
         m_preview->setAccessibleName(m_texts.text(QStringLiteral("PREVIEW_NAME")));
-        layout->addWidget(m_preview);
+        column->addWidget(m_preview);
     }
-    auto *const columns = new QHBoxLayout;
-    addButtons(columns);
     if (!rules.rows().empty()) {
         m_rows = new OptionRows(rules, options);
         connect(m_rows, &OptionRows::chosen, this, &RollView::chosen);
-        columns->addWidget(m_rows, 1, Qt::AlignTop);
+        column->addWidget(m_rows);
     }
-    layout->addLayout(columns);
-    layout->addStretch();
+    column->addStretch();
+    columns->addLayout(column, 1);
 }
 
 void RollView::addButtons(QLayout *layout)

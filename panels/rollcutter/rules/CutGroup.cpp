@@ -46,7 +46,7 @@ constexpr NamedStyle namedStyles[] = {
     {cutMedia, "EndOfFile", CutStyle::EachDocument},
     {cutMedia, "EndOfDocument", CutStyle::EachDocument},
     {cutMedia, "EndOfJob", CutStyle::AtEnd},
-    {cutMedia, "trim", CutStyle::PrinterSetting},
+    {cutMedia, "trim", CutStyle::Somewhere},
     {cutMedia, "trim-after-pages", CutStyle::EveryLabel},
     {cutMedia, "trim-after-copies", CutStyle::EachCopy},
     {cutMedia, "trim-after-documents", CutStyle::EachDocument},

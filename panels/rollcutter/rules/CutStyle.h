@@ -22,6 +22,7 @@ enum class CutStyle {
     Rewind,
     Applicator,
     Never,
+    Somewhere,      ///< the printer cuts, and decides where
     PrinterSetting, ///< as it is set at the printer's own controls
     Other,          ///< a choice whose meaning only the printer knows
 };
@@ -37,27 +38,30 @@ enum class CutPlace {
     NotKnown,
 };
 
-/// One row for each style: where it cuts, whether the user tears the labels off, and the key of its text.
+/// One row for each style: where it cuts, whether the user tears the labels off, the key of its text, and the
+/// key of the sentence about the strip; null if the places of the cuts say everything.
 struct CutStyleRow {
     CutStyle style;
     CutPlace place;
     bool isTorn;
     const char *textKey;
+    const char *stripKey;
 };
 
-inline constexpr std::array<CutStyleRow, 12> cutStyleTable = {{
-    {CutStyle::EveryLabel, CutPlace::EveryLabel, false, "CUT_EVERY_LABEL"},
-    {CutStyle::EveryFew, CutPlace::EveryFew, false, "CUT_EVERY_FEW"},
-    {CutStyle::EachCopy, CutPlace::EachCopy, false, "CUT_EACH_COPY"},
-    {CutStyle::EachDocument, CutPlace::EachDocument, false, "CUT_EACH_DOCUMENT"},
-    {CutStyle::AtEnd, CutPlace::AtEnd, false, "CUT_AT_END"},
-    {CutStyle::Tear, CutPlace::Nowhere, true, "CUT_TEAR"},
-    {CutStyle::Peel, CutPlace::Nowhere, false, "CUT_PEEL"},
-    {CutStyle::Rewind, CutPlace::Nowhere, false, "CUT_REWIND"},
-    {CutStyle::Applicator, CutPlace::Nowhere, false, "CUT_APPLICATOR"},
-    {CutStyle::Never, CutPlace::Nowhere, false, "CUT_NEVER"},
-    {CutStyle::PrinterSetting, CutPlace::NotKnown, false, "CUT_PRINTER_SETTING"},
-    {CutStyle::Other, CutPlace::NotKnown, false, "CUT_OTHER"},
+inline constexpr std::array<CutStyleRow, 13> cutStyleTable = {{
+    {CutStyle::EveryLabel, CutPlace::EveryLabel, false, "CUT_EVERY_LABEL", nullptr},
+    {CutStyle::EveryFew, CutPlace::EveryFew, false, "CUT_EVERY_FEW", nullptr},
+    {CutStyle::EachCopy, CutPlace::EachCopy, false, "CUT_EACH_COPY", nullptr},
+    {CutStyle::EachDocument, CutPlace::EachDocument, false, "CUT_EACH_DOCUMENT", nullptr},
+    {CutStyle::AtEnd, CutPlace::AtEnd, false, "CUT_AT_END", nullptr},
+    {CutStyle::Tear, CutPlace::Nowhere, true, "CUT_TEAR", "STRIP_TEAR"},
+    {CutStyle::Peel, CutPlace::Nowhere, false, "CUT_PEEL", "STRIP_PEEL"},
+    {CutStyle::Rewind, CutPlace::Nowhere, false, "CUT_REWIND", "STRIP_REWIND"},
+    {CutStyle::Applicator, CutPlace::Nowhere, false, "CUT_APPLICATOR", "STRIP_APPLICATOR"},
+    {CutStyle::Never, CutPlace::Nowhere, false, "CUT_NEVER", nullptr},
+    {CutStyle::Somewhere, CutPlace::NotKnown, false, "CUT_SOMEWHERE", "STRIP_SOMEWHERE"},
+    {CutStyle::PrinterSetting, CutPlace::NotKnown, false, "CUT_PRINTER_SETTING", "STRIP_PRINTER_SETTING"},
+    {CutStyle::Other, CutPlace::NotKnown, false, "CUT_OTHER", nullptr},
 }};
 
 static_assert(

@@ -40,6 +40,17 @@ bool RollRules::isTorn(const PrinterOptions &options) const
     });
 }
 
+std::optional<QString> RollRules::stripText(const PrinterOptions &options) const
+{
+    if (isCut(options))
+        return std::nullopt;
+    for (const CutGroup &group : m_groups) {
+        if (const char *const key = cutStyleRow(styleOf(group, options)).stripKey)
+            return QString::fromLatin1(key);
+    }
+    return std::nullopt;
+}
+
 std::optional<QString> RollRules::disabledReason(const QString &keyword, const PrinterOptions &options) const
 {
     for (const CutGroup &group : m_groups) {

@@ -62,6 +62,9 @@ public:
     static CutStyle styleOf(const CutGroup &group, const PrinterOptions &options);
     /// Whether the user tears the labels off: a group says so and none cuts.
     bool isTorn(const PrinterOptions &options) const;
+    /// Returns the key of a sentence about what happens to the strip; absent if the places of the cuts say
+    /// everything.
+    std::optional<QString> stripText(const PrinterOptions &options) const;
 
 private:
     bool isCut(const PrinterOptions &options) const;

@@ -80,6 +80,36 @@
         <translation>Nicht schneiden</translation>
     </message>
     <message>
+        <source>CUT_SOMEWHERE</source>
+        <extracomment>Radio button and value in the summary: the printer cuts, and nothing says where.</extracomment>
+        <translation>Schneiden, wo der Drucker es vorsieht</translation>
+    </message>
+    <message>
+        <source>STRIP_PEEL</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Jedes Etikett wird vom Träger abgelöst.</translation>
+    </message>
+    <message>
+        <source>STRIP_REWIND</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Die gedruckten Etiketten werden aufgewickelt.</translation>
+    </message>
+    <message>
+        <source>STRIP_APPLICATOR</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Jedes Etikett wird von einer Maschine aufgebracht.</translation>
+    </message>
+    <message>
+        <source>STRIP_SOMEWHERE</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Der Schnitt ist nicht bekannt: Der Drucker entscheidet, wo er schneidet.</translation>
+    </message>
+    <message>
+        <source>STRIP_PRINTER_SETTING</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Der Schnitt ist nicht bekannt: Es gilt die Einstellung am Drucker.</translation>
+    </message>
+    <message>
         <source>CUT_PRINTER_SETTING</source>
         <extracomment>Radio button and value in the summary: the setting at the printer's own controls.</extracomment>
         <translation>Wie am Drucker eingestellt</translation>
@@ -105,7 +135,7 @@
         <translation>Der Drucker schneidet die Etiketten, sodass die Abreißposition keine Wirkung hat.</translation>
     </message>
     <message>
-        <source>STRIP_TORN</source>
+        <source>STRIP_TEAR</source>
         <extracomment>Sentence beside the strip in the print dialog.</extracomment>
         <translation>Die Etiketten werden von Hand abgerissen.</translation>
     </message>

@@ -80,6 +80,36 @@
         <translation>Do not cut</translation>
     </message>
     <message>
+        <source>CUT_SOMEWHERE</source>
+        <extracomment>Radio button and value in the summary: the printer cuts, and nothing says where.</extracomment>
+        <translation>Cut where the printer decides</translation>
+    </message>
+    <message>
+        <source>STRIP_PEEL</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Each label is peeled off the backing.</translation>
+    </message>
+    <message>
+        <source>STRIP_REWIND</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>The printed labels are wound up.</translation>
+    </message>
+    <message>
+        <source>STRIP_APPLICATOR</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Each label is applied by a machine.</translation>
+    </message>
+    <message>
+        <source>STRIP_SOMEWHERE</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Cutting is not known: the printer decides where it cuts.</translation>
+    </message>
+    <message>
+        <source>STRIP_PRINTER_SETTING</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Cutting is not known: the setting at the printer applies.</translation>
+    </message>
+    <message>
         <source>CUT_PRINTER_SETTING</source>
         <extracomment>Radio button and value in the summary: the setting at the printer's own controls.</extracomment>
         <translation>As set on the printer</translation>
@@ -105,7 +135,7 @@
         <translation>The printer cuts the labels, so that the tear-off position has no effect.</translation>
     </message>
     <message>
-        <source>STRIP_TORN</source>
+        <source>STRIP_TEAR</source>
         <extracomment>Sentence beside the strip in the print dialog.</extracomment>
         <translation>The labels are torn off by hand.</translation>
     </message>

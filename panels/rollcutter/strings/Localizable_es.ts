@@ -80,6 +80,36 @@
         <translation>No cortar</translation>
     </message>
     <message>
+        <source>CUT_SOMEWHERE</source>
+        <extracomment>Radio button and value in the summary: the printer cuts, and nothing says where.</extracomment>
+        <translation>Cortar donde decida la impresora</translation>
+    </message>
+    <message>
+        <source>STRIP_PEEL</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Cada etiqueta se despega del soporte.</translation>
+    </message>
+    <message>
+        <source>STRIP_REWIND</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Las etiquetas impresas se rebobinan.</translation>
+    </message>
+    <message>
+        <source>STRIP_APPLICATOR</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Una máquina aplica cada etiqueta.</translation>
+    </message>
+    <message>
+        <source>STRIP_SOMEWHERE</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>No se conoce el corte: la impresora decide dónde corta.</translation>
+    </message>
+    <message>
+        <source>STRIP_PRINTER_SETTING</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>No se conoce el corte: se aplica el ajuste de la impresora.</translation>
+    </message>
+    <message>
         <source>CUT_PRINTER_SETTING</source>
         <extracomment>Radio button and value in the summary: the setting at the printer's own controls.</extracomment>
         <translation>Según el ajuste de la impresora</translation>
@@ -105,7 +135,7 @@
         <translation>La impresora corta las etiquetas, por lo que la posición de arranque no tiene efecto.</translation>
     </message>
     <message>
-        <source>STRIP_TORN</source>
+        <source>STRIP_TEAR</source>
         <extracomment>Sentence beside the strip in the print dialog.</extracomment>
         <translation>Las etiquetas se arrancan a mano.</translation>
     </message>

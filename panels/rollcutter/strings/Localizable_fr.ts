@@ -80,6 +80,36 @@
         <translation>Ne pas couper</translation>
     </message>
     <message>
+        <source>CUT_SOMEWHERE</source>
+        <extracomment>Radio button and value in the summary: the printer cuts, and nothing says where.</extracomment>
+        <translation>Couper là où l’imprimante le décide</translation>
+    </message>
+    <message>
+        <source>STRIP_PEEL</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Chaque étiquette est décollée de son support.</translation>
+    </message>
+    <message>
+        <source>STRIP_REWIND</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Les étiquettes imprimées sont rembobinées.</translation>
+    </message>
+    <message>
+        <source>STRIP_APPLICATOR</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Chaque étiquette est posée par une machine.</translation>
+    </message>
+    <message>
+        <source>STRIP_SOMEWHERE</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>La coupe n’est pas connue : l’imprimante décide où elle coupe.</translation>
+    </message>
+    <message>
+        <source>STRIP_PRINTER_SETTING</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>La coupe n’est pas connue : le réglage de l’imprimante s’applique.</translation>
+    </message>
+    <message>
         <source>CUT_PRINTER_SETTING</source>
         <extracomment>Radio button and value in the summary: the setting at the printer's own controls.</extracomment>
         <translation>Selon le réglage de l’imprimante</translation>
@@ -105,7 +135,7 @@
         <translation>L’imprimante coupe les étiquettes : la position de déchirure est sans effet.</translation>
     </message>
     <message>
-        <source>STRIP_TORN</source>
+        <source>STRIP_TEAR</source>
         <extracomment>Sentence beside the strip in the print dialog.</extracomment>
         <translation>Les étiquettes sont détachées à la main.</translation>
     </message>

@@ -80,6 +80,36 @@
         <translation>Non tagliare</translation>
     </message>
     <message>
+        <source>CUT_SOMEWHERE</source>
+        <extracomment>Radio button and value in the summary: the printer cuts, and nothing says where.</extracomment>
+        <translation>Taglia dove decide la stampante</translation>
+    </message>
+    <message>
+        <source>STRIP_PEEL</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Ogni etichetta viene staccata dal supporto.</translation>
+    </message>
+    <message>
+        <source>STRIP_REWIND</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Le etichette stampate vengono riavvolte.</translation>
+    </message>
+    <message>
+        <source>STRIP_APPLICATOR</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Ogni etichetta viene applicata da una macchina.</translation>
+    </message>
+    <message>
+        <source>STRIP_SOMEWHERE</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Il taglio non è noto: la stampante decide dove tagliare.</translation>
+    </message>
+    <message>
+        <source>STRIP_PRINTER_SETTING</source>
+        <extracomment>Sentence beside the strip in the print dialog.</extracomment>
+        <translation>Il taglio non è noto: vale l’impostazione della stampante.</translation>
+    </message>
+    <message>
         <source>CUT_PRINTER_SETTING</source>
         <extracomment>Radio button and value in the summary: the setting at the printer's own controls.</extracomment>
         <translation>Come impostato sulla stampante</translation>
@@ -105,7 +135,7 @@
         <translation>La stampante taglia le etichette, quindi la posizione di strappo non ha effetto.</translation>
     </message>
     <message>
-        <source>STRIP_TORN</source>
+        <source>STRIP_TEAR</source>
         <extracomment>Sentence beside the strip in the print dialog.</extracomment>
         <translation>Le etichette vengono strappate a mano.</translation>
     </message>
