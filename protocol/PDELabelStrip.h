@@ -56,7 +56,8 @@ struct PDEStripEffects {
     /// determine it. The dialog then uses the margin of the paper.
     std::optional<double> leadingMargin = {};
     /// A sentence in the user's language that the dialog shows instead of its own about full cuts; absent if
-    /// the dialog's sentence, which it derives from the ends, is sufficient.
+    /// the dialog's sentence, which it derives from the ends, is sufficient. The dialog ignores it if the
+    /// options of another panel cut elsewhere.
     std::optional<QString> cuttingText = {};
 };
 

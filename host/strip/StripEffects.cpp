@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StripEffects.h"
 
+#include <algorithm>
+
 namespace host {
 inline namespace strip {
 
@@ -12,6 +14,14 @@ void add(LabelEnd &end, const LabelEnd &other)
     end.halfCut = end.halfCut || other.halfCut;
     end.cutMark = end.cutMark || other.cutMark;
     end.held = end.held || other.held;
+    // A full cut leaves nothing to cut half and nothing to hold.
+    end.halfCut = end.halfCut && !end.fullCut;
+    end.held = end.held && !end.fullCut;
+}
+
+bool hasSameFullCuts(const std::vector<PDELabelEnd> &ends, const std::vector<LabelEnd> &others)
+{
+    return std::ranges::equal(ends, others, {}, &PDELabelEnd::fullCut, &LabelEnd::fullCut);
 }
 
 /// Returns whether the report describes how each of the labels ends. A report for another number of labels is
@@ -34,6 +44,14 @@ bool areEndsKnown(const std::vector<PDEStripEffects> &reports, std::size_t label
     return isDescribed;
 }
 
+/// Returns whether the panel's sentence about the cuts holds for all panels together.
+bool isTextValid(const PDEStripEffects &report, const StripEffects &effects)
+{
+    if (!effects.ends)
+        return report.cutting == PDECutting::NotKnown;
+    return report.cutting == PDECutting::Known && hasSameFullCuts(report.ends, *effects.ends);
+}
+
 } // namespace
 
 StripEffects combined(const std::vector<PDEStripEffects> &reports, std::size_t labelCount)
@@ -49,7 +67,9 @@ StripEffects combined(const std::vector<PDEStripEffects> &reports, std::size_t l
         effects.removeBlank = effects.removeBlank || report.removeBlank;
         if (report.leadingMargin && !effects.leadingMargin)
             effects.leadingMargin = Millimetres(Points(*report.leadingMargin));
-        if (report.cuttingText)
+    }
+    for (const PDEStripEffects &report : reports) {
+        if (report.cuttingText && isTextValid(report, effects))
             effects.cuttingTexts.append(*report.cuttingText);
     }
     return effects;

@@ -26,15 +26,16 @@ struct StripEffects {
     bool removeBlank = false;
     /// The tape that is fed before the first label; absent if no option determines it.
     std::optional<Millimetres> leadingMargin = {};
-    /// The sentences of panels that replace the one about full cuts.
+    /// The sentences of panels that replace the one about full cuts. A panel's sentence is left out if the
+    /// options of another panel cut elsewhere.
     QStringList cuttingTexts = {};
 
     bool operator==(const StripEffects &) const = default;
 };
 
 /// Combines the reports of several panels about the same labels: each label is followed by everything that
-/// any of them reports. The cutting is known if at least one panel determines it and none reports that it is
-/// not known.
+/// any of them reports, and a full cut leaves nothing to cut half or to hold. The cutting is known if at
+/// least one panel determines it and none reports that it is not known.
 StripEffects combined(const std::vector<PDEStripEffects> &reports, std::size_t labelCount);
 
 } // namespace strip
