@@ -135,10 +135,10 @@ CutGroup::CutGroup(const PrinterOptions &options, const QString &keyword)
         const PDEChoices chosen{{keyword, choice.name}};
         const bool hasIntervals = family->intervalMode && choice.name == QLatin1String(family->intervalMode);
         const QString intervalKeyword = QString::fromLatin1(hasIntervals ? family->intervalKeyword : "");
-        if (hasIntervals && options.has(intervalKeyword))
+        if (hasIntervals && options.isSent(intervalKeyword))
             addIntervals(options, chosen, intervalKeyword);
         else if (hasIntervals)
-            m_settings.push_back({CutStyle::PrinterSetting, 0, chosen});
+            m_settings.push_back({CutStyle::Somewhere, 0, chosen});
         else
             add(choice);
     }
@@ -172,7 +172,7 @@ void CutGroup::addIntervals(const PrinterOptions &options, const PDEChoices &mod
         const std::optional<int> labels = numberIn(choice.name);
         // Without an interval, the driver sends none, and the printer uses its own.
         if (!labels || *labels == 0)
-            m_settings.push_back({CutStyle::PrinterSetting, 0, with(choice.name)});
+            m_settings.push_back({CutStyle::Somewhere, 0, with(choice.name)});
         else
             m_settings.push_back(everyFew(*labels, with(choice.name)));
     }

@@ -40,8 +40,12 @@ public:
     /// Absent if there is none. A custom number is "Custom.NUMBER".
     std::optional<QString> current(const QString &keyword) const;
     /// The smallest and the largest whole number that the custom choice of the option accepts; absent if it
-    /// accepts none.
+    /// accepts none, or if its PostScript code loses the number.
     std::optional<std::pair<int, int>> customRange(const QString &keyword) const;
+    /// Whether the choice of the option reaches the filters of CUPS. The PostScript code of a choice sets
+    /// fields of the raster pages; a field that the code of a later option sets again is lost. In one of
+    /// CUPS's own drivers, the resolution overwrites the intervals and the speed in this way.
+    bool isSent(const QString &keyword) const;
 
 private:
     ppd_option_t *option(const QString &keyword) const;

@@ -62,6 +62,8 @@ std::optional<QString> RollRules::disabledReason(const QString &keyword, const P
         m_rows, [&](const RollRow &each) { return keyword == QLatin1String(each.keyword); });
     if (row == m_rows.end())
         return std::nullopt;
+    if (!options.isSent(keyword))
+        return QStringLiteral("REASON_NOT_SENT");
     if (row->rule == RowRule::OnlyTearing && !m_groups.empty() && !isTorn(options))
         return QStringLiteral("REASON_TEAR_INTERVAL");
     if (row->rule == RowRule::NotCutting && isCut(options))

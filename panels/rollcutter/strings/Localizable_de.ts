@@ -140,6 +140,11 @@
         <translation>Die Etiketten werden von Hand abgerissen.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>Der Druckertreiber gibt diese Einstellung nicht weiter; es gilt die Einstellung am Drucker.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Vorschau der Schnitte</translation>

@@ -140,6 +140,11 @@
         <translation>The labels are torn off by hand.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>The printer’s driver does not pass this setting on; the setting at the printer applies.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Preview of the cuts</translation>

@@ -140,6 +140,11 @@
         <translation>Las etiquetas se arrancan a mano.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>El controlador de la impresora no transmite este ajuste; se aplica el de la impresora.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Vista previa de los cortes</translation>

@@ -140,6 +140,11 @@
         <translation>Les étiquettes sont détachées à la main.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>Le pilote de l’imprimante ne transmet pas ce réglage ; celui de l’imprimante s’applique.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Aperçu des coupes</translation>

@@ -140,6 +140,11 @@
         <translation>Le etichette vengono strappate a mano.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>Il driver della stampante non trasmette questa impostazione; vale quella della stampante.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Anteprima dei tagli</translation>

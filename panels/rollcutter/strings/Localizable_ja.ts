@@ -140,6 +140,11 @@
         <translation>ラベルは手で切り取ります。</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>プリンタードライバーがこの設定を送信しないため、プリンター本体の設定が使われます。</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>カットのプレビュー</translation>

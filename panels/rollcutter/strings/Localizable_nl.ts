@@ -140,6 +140,11 @@
         <translation>De etiketten worden met de hand afgescheurd.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>De printerdriver geeft deze instelling niet door; de instelling op de printer geldt.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Voorbeeld van de sneden</translation>

@@ -140,6 +140,11 @@
         <translation>As etiquetas são destacadas à mão.</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>O controlador da impressora não transmite esta definição; aplica-se a da impressora.</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>Pré-visualização dos cortes</translation>

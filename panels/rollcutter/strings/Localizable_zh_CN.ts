@@ -140,6 +140,11 @@
         <translation>标签由手动撕下。</translation>
     </message>
     <message>
+        <source>REASON_NOT_SENT</source>
+        <extracomment>Tool tip of a disabled option: an error in the printer's driver.</extracomment>
+        <translation>打印机驱动程序不会传递此设置，以打印机上的设置为准。</translation>
+    </message>
+    <message>
         <source>PREVIEW_NAME</source>
         <extracomment>Name of the picture, for screen readers.</extracomment>
         <translation>裁切预览</translation>

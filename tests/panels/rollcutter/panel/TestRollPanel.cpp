@@ -88,11 +88,11 @@ protected:
 
 TEST_F(RollPanelTest, ShowsTheMarksAndSavesThem)
 {
-    show(roll_ppds::openCupsDriver("intelbar.ppd"));
+    show(roll_ppds::openIntervalDriver());
     EXPECT_EQ(buttons(),
               (QStringList{QStringLiteral("Cut after every label"), QStringLiteral("Cut after every"),
                            QStringLiteral("Let me tear"), QStringLiteral("Do not cut"),
-                           QStringLiteral("As set on the printer")}));
+                           QStringLiteral("Cut where the printer decides")}));
     EXPECT_EQ(checkedButton(), QStringLiteral("Do not cut"));
     EXPECT_TRUE(dialog->changes.empty()) << "showing a panel changes nothing";
     const Changes all = saved();
@@ -104,7 +104,7 @@ TEST_F(RollPanelTest, ShowsTheMarksAndSavesThem)
 
 TEST_F(RollPanelTest, AButtonRequestsTheChoicesOfItsSetting)
 {
-    show(roll_ppds::openCupsDriver("intelbar.ppd"));
+    show(roll_ppds::openIntervalDriver());
     EXPECT_EQ(changesOf([&] { click("Cut after every label"); }),
               (Changes{change("inPrintMode", "Cut"), change("inCutInterval", "1")}));
     EXPECT_EQ(changesOf([&] { click("Cut after every"); }), Changes{change("inCutInterval", "2")});
@@ -114,13 +114,14 @@ TEST_F(RollPanelTest, AButtonRequestsTheChoicesOfItsSetting)
     // The field remembers the number.
     EXPECT_EQ(interval()->value(), 12);
     EXPECT_EQ(changesOf([&] { click("Cut after every"); }), Changes{change("inPrintMode", "Cut")});
-    EXPECT_EQ(changesOf([&] { click("As set on the printer"); }), Changes{change("inCutInterval", "None")});
+    EXPECT_EQ(changesOf([&] { click("Cut where the printer decides"); }),
+              Changes{change("inCutInterval", "None")});
     EXPECT_EQ(dialog->marked("inPrintMode"), QStringLiteral("Cut"));
 }
 
 TEST_F(RollPanelTest, DisabledControlsSayWhy)
 {
-    show(roll_ppds::openCupsDriver("intelbar.ppd"));
+    show(roll_ppds::openIntervalDriver());
     const QString reason =
         QStringLiteral("To set the number of labels, select \u201CCut after every \u2026 labels\u201D.");
     EXPECT_FALSE(interval()->isEnabled());
@@ -153,7 +154,7 @@ TEST_F(RollPanelTest, ListsShowTheTextsOfThePpd)
 
 TEST_F(RollPanelTest, FollowsOtherPartsOfTheDialog)
 {
-    show(roll_ppds::openCupsDriver("intelbar.ppd"));
+    show(roll_ppds::openIntervalDriver());
     dialog->mark("inPrintMode", "Cut");
     dialog->mark("inCutInterval", "Custom.33");
     panel->PPDOptionKeyValueDidChange(QStringLiteral("inCutInterval"), QStringLiteral("Custom.33"));
@@ -178,7 +179,7 @@ TEST_F(RollPanelTest, ChecksNoButtonForChoicesOfNoSetting)
 
 TEST_F(RollPanelTest, AppliesChoicesAsTheUserDoes)
 {
-    show(roll_ppds::openCupsDriver("intelbar.ppd"));
+    show(roll_ppds::openIntervalDriver());
     const auto apply = [&](const PDEChoices &choices) {
         return changesOf([&] { panel->applyUserChoices(choices); });
     };
@@ -213,7 +214,7 @@ TEST_F(RollPanelTest, TheSummaryListsWhatHasAnEffect)
     EXPECT_EQ(summary[QStringLiteral("Print Rate")], QStringLiteral("2 inches/sec."));
     EXPECT_EQ((*panel->summaryInfo())[QStringLiteral("Cutting")], QStringLiteral("As set on the printer"));
 
-    show(roll_ppds::openCupsDriver("intelbar.ppd"));
+    show(roll_ppds::openIntervalDriver());
     EXPECT_EQ((*panel->summaryInfoFor({change("inPrintMode", "Cut"),
                                        change("inCutInterval", "Custom.25")}))[QStringLiteral("Cutting")],
               QStringLiteral("Cut after every 25 labels"));

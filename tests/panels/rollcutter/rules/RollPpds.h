@@ -3,7 +3,9 @@
 
 #include <tests/support/PpdBuilder.h>
 
+#include <QFile>
 #include <QString>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
@@ -20,6 +22,31 @@ inline test_support::PpdPointer openCupsDriver(const char *name)
 {
     test_support::PpdPointer ppd(ppdOpenFile(cupsDriver(name).toUtf8().constData()));
     EXPECT_TRUE(ppd) << name;
+    ppdMarkDefaults(ppd.get());
+    return ppd;
+}
+
+/// CUPS's driver with intervals as its authors meant it. In the delivered one, the resolution sets the fields
+/// of the intervals and of the speed to 0 again, so that they never reach the printer.
+inline QByteArray intervalDriver()
+{
+    QFile file(cupsDriver("intelbar.ppd"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray ppd = file.readAll();
+    const QByteArray overwriting = "/cupsRowCount 0/cupsRowFeed 0/cupsRowStep 0";
+    EXPECT_TRUE(ppd.contains(overwriting));
+    EXPECT_TRUE(ppd.contains(" 2 1 roll"));
+    return ppd.replace(overwriting, "").replace(" 2 1 roll", " 3 -1 roll");
+}
+
+inline test_support::PpdPointer openIntervalDriver()
+{
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open());
+    file.write(intervalDriver());
+    file.flush();
+    test_support::PpdPointer ppd(ppdOpenFile(file.fileName().toUtf8().constData()));
+    EXPECT_TRUE(ppd);
     ppdMarkDefaults(ppd.get());
     return ppd;
 }

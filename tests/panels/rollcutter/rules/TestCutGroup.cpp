@@ -33,12 +33,12 @@ QStringList texts(std::initializer_list<const char *> names)
 
 TEST(CutGroup, OffersOnlyWhatThePpdCanExpress)
 {
-    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    const PpdPointer ppd = roll_ppds::openIntervalDriver();
     const auto groups = CutGroup::groupsOf(PrinterOptions(ppd.get()));
     ASSERT_EQ(groups.size(), 1U);
     EXPECT_EQ(groups[0].keywords(), texts({"inPrintMode", "inCutInterval"}));
     EXPECT_EQ(stylesOf(groups[0]),
-              texts({"CUT_NEVER", "CUT_TEAR", "CUT_PRINTER_SETTING", "CUT_EVERY_LABEL", "CUT_EVERY_FEW"}));
+              texts({"CUT_NEVER", "CUT_TEAR", "CUT_SOMEWHERE", "CUT_EVERY_LABEL", "CUT_EVERY_FEW"}));
     // 2 to 10 from the list, and up to 99 as custom values.
     ASSERT_EQ(groups[0].intervals().size(), 98U);
     EXPECT_EQ(groups[0].intervals().front(), 2);
@@ -55,6 +55,22 @@ TEST(CutGroup, OffersOnlyWhatThePpdCanExpress)
     EXPECT_FALSE(groups[0].find(CutStyle::EachCopy, 0));
 }
 
+TEST(CutGroup, IntervalsThatDoNotReachThePrinterAreNotOffered)
+{
+    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    const PrinterOptions options(ppd.get());
+    const RollRules rules(options);
+    ASSERT_EQ(rules.groups().size(), 1U);
+    EXPECT_EQ(stylesOf(rules.groups()[0]), texts({"CUT_NEVER", "CUT_TEAR", "CUT_SOMEWHERE"}));
+    for (const char *const keyword : {"inCutInterval", "inTearInterval", "inPrintRate"}) {
+        EXPECT_FALSE(options.isSent(QString::fromLatin1(keyword))) << keyword;
+        EXPECT_EQ(rules.disabledReason(QString::fromLatin1(keyword), options),
+                  QStringLiteral("REASON_NOT_SENT"))
+            << keyword;
+    }
+    EXPECT_FALSE(rules.disabledReason(QStringLiteral("inPrintDensity"), options));
+}
+
 TEST(CutGroup, ACutModeWithoutIntervalsLeavesTheIntervalToThePrinter)
 {
     const PpdPointer ppd =
@@ -64,7 +80,7 @@ TEST(CutGroup, ACutModeWithoutIntervalsLeavesTheIntervalToThePrinter)
             .openMarked();
     const auto groups = CutGroup::groupsOf(PrinterOptions(ppd.get()));
     ASSERT_EQ(groups.size(), 1U);
-    EXPECT_EQ(stylesOf(groups[0]), texts({"CUT_PRINTER_SETTING"}));
+    EXPECT_EQ(stylesOf(groups[0]), texts({"CUT_SOMEWHERE"}));
     EXPECT_EQ(groups[0].current(PrinterOptions(ppd.get())), 0U);
 }
 
@@ -92,7 +108,7 @@ TEST(CutGroup, AnOptionWithoutChoicesOffersNothing)
 
 TEST(PrinterOptions, TheGivenChoiceCountsThenTheMarkThenTheDefault)
 {
-    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    const PpdPointer ppd = roll_ppds::openIntervalDriver();
     const QString interval = QStringLiteral("inCutInterval");
     EXPECT_EQ(PrinterOptions(ppd.get()).current(interval), QStringLiteral("None"));
     ppdMarkOption(ppd.get(), "inCutInterval", "3");
@@ -106,6 +122,51 @@ TEST(PrinterOptions, TheGivenChoiceCountsThenTheMarkThenTheDefault)
     EXPECT_FALSE(PrinterOptions(ppd.get()).current(QStringLiteral("NoSuchOption")));
 }
 
+TEST(PrinterOptions, ACustomNumberThatTheCodeLosesIsNotOffered)
+{
+    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    EXPECT_FALSE(PrinterOptions(ppd.get()).customRange(QStringLiteral("inCutInterval")));
+}
+
+TEST(PrinterOptions, AFieldThatALaterOptionSetsAgainIsNotSent)
+{
+    const auto ppdWith = [](const char *order, const char *otherOrder, const char *otherCode) {
+        return PpdBuilder()
+            .raw(QByteArray("*OpenUI *Speed/Speed: PickOne\n*OrderDependency: ") + order +
+                 " *Speed\n*DefaultSpeed: 1\n*Speed 1: \"<</cupsRowFeed 1>>setpagedevice\"\n"
+                 "*Speed 2: \"<</cupsRowFeed 2>>setpagedevice\"\n*CloseUI: *Speed\n"
+                 "*OpenUI *Grid/Grid: PickOne\n*OrderDependency: " +
+                 otherOrder + " *Grid\n*DefaultGrid: A\n*Grid A: \"" + otherCode +
+                 "\"\n*Grid B: \"\"\n*CloseUI: *Grid\n")
+            .openMarked();
+    };
+    struct Case {
+        const char *order;
+        const char *otherOrder;
+        const char *otherCode;
+        bool isSent;
+    };
+    const char *const same = "<</HWResolution[300 300]/cupsRowFeed 0>>setpagedevice";
+    const Case cases[] = {
+        {"20 DocumentSetup", "10 AnySetup", same, false},
+        {"20 AnySetup", "10 AnySetup", same, true},
+        {"10 AnySetup", "20 AnySetup", same, false},
+        {"10 AnySetup", "10 AnySetup", same, true},
+        {"10 AnySetup", "20 DocumentSetup", same, true},
+        {"10 Prolog", "20 PageSetup", same, false},
+        {"10 AnySetup", "20 ExitServer", same, true},
+        {"20 DocumentSetup", "10 AnySetup", "<</cupsRowStep 0>>setpagedevice", true},
+    };
+    const QString speed = QStringLiteral("Speed");
+    for (const Case &each : cases) {
+        SCOPED_TRACE(std::string(each.order) + ", " + each.otherOrder + ": " + each.otherCode);
+        const PpdPointer ppd = ppdWith(each.order, each.otherOrder, each.otherCode);
+        EXPECT_EQ(PrinterOptions(ppd.get()).isSent(speed), each.isSent);
+        EXPECT_TRUE(PrinterOptions(ppd.get(), {{QStringLiteral("Grid"), QStringLiteral("B")}}).isSent(speed));
+    }
+    EXPECT_FALSE(PrinterOptions(nullptr).isSent(speed));
+}
+
 TEST(RollRules, ListsTheOptionsThatThePpdHas)
 {
     const auto keywordsOf = [](const char *driver) {
@@ -117,7 +178,7 @@ TEST(RollRules, ListsTheOptionsThatThePpdHas)
     EXPECT_EQ(keywordsOf("zebracpl.ppd"),
               texts({"zeMediaTracking", "zeTearOffPosition", "Darkness", "zePrintRate"}));
     EXPECT_EQ(keywordsOf("intelbar.ppd"),
-              texts({"inPrintMode", "inCutInterval", "inTearInterval", "inPrintDensity", "inPrintRate"}));
+              texts({"inPrintMode", "inTearInterval", "inCutInterval", "inPrintDensity", "inPrintRate"}));
     EXPECT_EQ(keywordsOf("dymo.ppd"), texts({"cupsDarkness"}));
     EXPECT_EQ(keywordsOf("laserjet.ppd"), QStringList());
     EXPECT_EQ(RollRules(PrinterOptions(nullptr)).keywords(), QStringList());
@@ -137,6 +198,7 @@ TEST(RollRules, AnIntervalWithoutItsModeIsAList)
 TEST(RollRules, OptionsWithoutEffectAreDisabledWithAReason)
 {
     struct Case {
+        /// Null for the driver with intervals.
         const char *driver;
         const char *mode;
         const char *choice;
@@ -145,13 +207,13 @@ TEST(RollRules, OptionsWithoutEffectAreDisabledWithAReason)
         const char *reason;
     };
     const Case cases[] = {
-        {"intelbar.ppd", "inPrintMode", "Standard", "None", "inCutInterval", "REASON_INTERVAL"},
-        {"intelbar.ppd", "inPrintMode", "Cut", "1", "inCutInterval", "REASON_INTERVAL"},
-        {"intelbar.ppd", "inPrintMode", "Cut", "2", "inCutInterval", nullptr},
-        {"intelbar.ppd", "inPrintMode", "Cut", "2", "inTearInterval", "REASON_TEAR_INTERVAL"},
-        {"intelbar.ppd", "inPrintMode", "Standard", "2", "inTearInterval", "REASON_TEAR_INTERVAL"},
-        {"intelbar.ppd", "inPrintMode", "Tear", "2", "inTearInterval", nullptr},
-        {"intelbar.ppd", "inPrintMode", "Tear", "2", "inPrintMode", nullptr},
+        {nullptr, "inPrintMode", "Standard", "None", "inCutInterval", "REASON_INTERVAL"},
+        {nullptr, "inPrintMode", "Cut", "1", "inCutInterval", "REASON_INTERVAL"},
+        {nullptr, "inPrintMode", "Cut", "2", "inCutInterval", nullptr},
+        {nullptr, "inPrintMode", "Cut", "2", "inTearInterval", "REASON_TEAR_INTERVAL"},
+        {nullptr, "inPrintMode", "Standard", "2", "inTearInterval", "REASON_TEAR_INTERVAL"},
+        {nullptr, "inPrintMode", "Tear", "2", "inTearInterval", nullptr},
+        {nullptr, "inPrintMode", "Tear", "2", "inPrintMode", nullptr},
         {"zebra.ppd", "zePrintMode", "Cutter", "", "zeTearOffPosition", "REASON_TEAR_POSITION"},
         {"zebra.ppd", "zePrintMode", "Tear", "", "zeTearOffPosition", nullptr},
         {"zebra.ppd", "zePrintMode", "Saved", "", "zeTearOffPosition", nullptr},
@@ -160,7 +222,8 @@ TEST(RollRules, OptionsWithoutEffectAreDisabledWithAReason)
     };
     for (const Case &each : cases) {
         SCOPED_TRACE(std::string(each.choice) + ' ' + each.keyword);
-        const PpdPointer ppd = roll_ppds::openCupsDriver(each.driver);
+        const PpdPointer ppd =
+            each.driver ? roll_ppds::openCupsDriver(each.driver) : roll_ppds::openIntervalDriver();
         PDEChoices choices{{QString::fromLatin1(each.mode), QString::fromLatin1(each.choice)}};
         if (*each.interval)
             choices.emplace_back(QStringLiteral("inCutInterval"), QString::fromLatin1(each.interval));

@@ -70,7 +70,7 @@ void expectCuts(ppd_file_t *ppd, std::initializer_list<CutCase> cases)
 
 TEST(CutTable, PrintModeWithIntervals)
 {
-    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    const PpdPointer ppd = roll_ppds::openIntervalDriver();
     expectCuts(ppd.get(), {
                               {"", "--------"},
                               {"inPrintMode=Standard inCutInterval=3", "--------"},
@@ -87,6 +87,17 @@ TEST(CutTable, PrintModeWithIntervals)
                               {"inPrintMode=Cut inCutInterval=Custom.99", "--------"},
                               {"inPrintMode=Cut inCutInterval=Custom.100", "not known"},
                               {"inPrintMode=Unknown", "not known"},
+                          });
+}
+
+TEST(CutTable, PrintModeWithIntervalsThatDoNotReachThePrinter)
+{
+    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    expectCuts(ppd.get(), {
+                              {"", "--------"},
+                              {"inPrintMode=Tear inTearInterval=2", "--------"},
+                              {"inPrintMode=Cut inCutInterval=1", "not known"},
+                              {"inPrintMode=Cut inCutInterval=5", "not known"},
                           });
 }
 
@@ -241,7 +252,7 @@ TEST(CutTable, EveryIntervalWithEveryNumberOfLabels)
     constexpr const char *rows[] = {"cccccccccccc", "-c-c-c-c-c-c", "--c--c--c--c", "---c---c---c",
                                     "----c----c--", "-----c-----c", "------c-----", "-------c----",
                                     "--------c---", "---------c--"};
-    const PpdPointer ppd = roll_ppds::openCupsDriver("intelbar.ppd");
+    const PpdPointer ppd = roll_ppds::openIntervalDriver();
     for (int interval = 1; interval <= 10; ++interval) {
         const QString choices = QStringLiteral("inPrintMode=Cut inCutInterval=%1").arg(interval);
         for (std::size_t count = 0; count <= 12; ++count) {
