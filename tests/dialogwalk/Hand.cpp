@@ -6,6 +6,7 @@
 #include "OptionLists.h"
 #include "PageFields.h"
 #include "PaperRows.h"
+#include "RollControls.h"
 #include "Views.h"
 
 #include <dialog/options/ConflictBanner.h>
@@ -55,6 +56,8 @@ QString Hand::perform(const Step &step)
         done = turnToPage(step.number);
     else if (step.action == Action::ChangeBoxByTimer)
         done = changeBoxByTimer(step.number);
+    else if (step.action == Action::OperateRoll)
+        done = operateRoll(step.number);
     else if (step.action == Action::PickQueue)
         done = changeQueue(step.number);
     else if (step.action <= Action::StepOptionByKey)
@@ -137,6 +140,18 @@ QString Hand::onOptions(const Step &step)
     const OptionLists options(m_dialog);
     const std::optional<OptionTexts> chosen =
         step.action == Action::PickOption ? options.pick(step.number) : options.stepByKey(step.number);
+    if (!chosen)
+        return {};
+    m_intent.choose(*chosen);
+    return QString::fromUtf8(chosen->firstKey() + '=' + chosen->first());
+}
+
+QString Hand::operateRoll(std::uint32_t number)
+{
+    if (!m_dialog.hasTab(RollControls::tab()))
+        return {};
+    m_dialog.chooseTab(RollControls::tab());
+    const std::optional<OptionTexts> chosen = RollControls(m_dialog).operate(number);
     if (!chosen)
         return {};
     m_intent.choose(*chosen);

@@ -44,6 +44,7 @@ private:
     QString onPages(const Step &step);
     QString turnToPage(std::uint32_t number);
     QString changeQueue(std::uint32_t number);
+    QString operateRoll(std::uint32_t number);
     QString pressRemedy();
     QString replacePpd();
     QString printAndReopen(std::uint32_t number);

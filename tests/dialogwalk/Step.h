@@ -22,6 +22,7 @@ enum class Action {
     StepPaperByKey,
     TurnToPage,
     ChangeBoxByTimer,
+    OperateRoll,
     PickQueue,
     PickOption,
     StepOptionByKey,

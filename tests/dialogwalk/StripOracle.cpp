@@ -45,6 +45,11 @@ std::vector<int> chosenPages(const QByteArray &ranges, int count)
     return pages;
 }
 
+bool isCollated(const OptionTexts &options)
+{
+    return options.value("collate").toLower() == "true";
+}
+
 std::vector<int> pagesInOrder(const OptionTexts &options, int count)
 {
     std::vector<int> pages = chosenPages(options.value("page-ranges"), count);
@@ -52,7 +57,7 @@ std::vector<int> pagesInOrder(const OptionTexts &options, int count)
         std::ranges::reverse(pages);
     const auto copies = static_cast<std::size_t>(numberOf(options, "copies"));
     std::vector<int> order;
-    if (options.value("collate").toLower() == "true") {
+    if (isCollated(options)) {
         for (std::size_t copy = 0; copy < copies; ++copy)
             order.insert(order.end(), pages.begin(), pages.end());
         return order;
@@ -94,28 +99,104 @@ void addEnd(ExpectedLabel &label, std::size_t number, std::size_t count, const O
     label.cutMark = isOn(options, "KvCutMark") && !label.fullCut;
 }
 
+/// How a roll printer cuts: after every so many labels of the job; "every" is 0 for no cut. Absent where its
+/// own settings decide.
+struct RollCuts {
+    std::size_t every = 0;
+    bool afterCopies = false;
+    bool atEnd = false;
+};
+
+bool isPrintersInterval(const OptionTexts &options)
+{
+    return options.value("inPrintMode") == "Cut" && options.value("inCutInterval").toUInt() == 0;
+}
+
+std::optional<RollCuts> rollCuts(const OptionTexts &options)
+{
+    const QByteArray finishing = options.value("CutMedia");
+    const QByteArray mode = options.value("inPrintMode");
+    if (finishing == "trim" || isPrintersInterval(options))
+        return std::nullopt;
+    if (finishing == "trim-after-pages")
+        return RollCuts{1};
+    RollCuts cuts{mode == "Cut" ? options.value("inCutInterval").toUInt() : 0U};
+    cuts.afterCopies = finishing == "trim-after-copies";
+    cuts.atEnd = finishing == "trim-after-job" || finishing == "trim-after-documents";
+    return cuts;
+}
+
+void addRollCut(ExpectedLabel &label, std::size_t number, std::size_t count, std::size_t perCopy,
+                const RollCuts &cuts)
+{
+    const bool isCut = (cuts.every != 0 && number % cuts.every == 0) || (cuts.atEnd && number == count) ||
+                       (cuts.afterCopies && number % perCopy == 0);
+    if (!isCut)
+        return;
+    label.fullCut = true;
+    label.halfCut = false;
+    label.held = false;
+}
+
 bool any(const std::vector<ExpectedLabel> &labels, bool ExpectedLabel::*what)
 {
     return std::ranges::any_of(labels, [what](const ExpectedLabel &label) { return label.*what; });
 }
 
-QString cutSentence(const ExpectedStrip &strip, const OptionTexts &options)
+/// What the options without cuts say, if no label is cut.
+QString sentenceWithoutCuts(const OptionTexts &options)
 {
     if (isOn(options, "KvSpecialTape"))
         return QStringLiteral("Special tape: the printer cuts nothing.");
+    if (options.value("inPrintMode") == "Tear")
+        return QStringLiteral("The labels are torn off by hand.");
+    return QStringLiteral("No full cut: the labels come out as one strip.");
+}
+
+QString unknownSentence(const OptionTexts &options)
+{
+    return options.value("CutMedia") == "trim" || isPrintersInterval(options)
+               ? QStringLiteral("Cutting is not known: the printer decides where it cuts.")
+               : QStringLiteral("Cutting is not known: the printer's description does not say whether it "
+                                "cuts the labels.");
+}
+
+/// Whether the labels are cut after every so many: what follows the last one does not matter.
+bool isCutEvery(const std::vector<ExpectedLabel> &labels, std::size_t every)
+{
+    for (std::size_t number = 1; number < labels.size(); ++number) {
+        if (labels[number - 1].fullCut != (number % every == 0))
+            return false;
+    }
+    return true;
+}
+
+QString cutSentence(const ExpectedStrip &strip, const OptionTexts &options)
+{
     if (!strip.areCutsKnown)
-        return QStringLiteral(
-            "Cutting is not known: the printer's description does not say whether it cuts the labels.");
-    if (!any(strip.labels, &ExpectedLabel::fullCut))
-        return QStringLiteral("No full cut: the labels come out as one strip.");
-    const auto last = strip.labels.size() - 1;
-    const bool isCutBefore = std::any_of(strip.labels.begin(), strip.labels.end() - 1,
-                                         [](const ExpectedLabel &label) { return label.fullCut; });
-    if (last > 0 && !isCutBefore)
+        return unknownSentence(options);
+    QStringList places;
+    for (std::size_t number = 1; number <= strip.labels.size(); ++number) {
+        if (strip.labels[number - 1].fullCut)
+            places.append(QString::number(number));
+    }
+    if (places.isEmpty())
+        return sentenceWithoutCuts(options);
+    const std::size_t count = strip.labels.size();
+    if (count > 1 && places == QStringList{QString::number(count)})
         return QStringLiteral("Full cut after the last label.");
-    const int every = last == 0 ? 1 : numberOf(options, "KvCutLabel");
-    return every == 1 ? QStringLiteral("Full cut after every label.")
-                      : QStringLiteral("Full cut after every %1 labels.").arg(every);
+    if (isCutEvery(strip.labels, 1))
+        return QStringLiteral("Full cut after every label.");
+    for (std::size_t every = 2; every < count; ++every) {
+        if (isCutEvery(strip.labels, every))
+            return QStringLiteral("Full cut after every %1 labels.").arg(every);
+    }
+    if (places.size() > 8)
+        places = places.first(8) + QStringList{QStringLiteral("\u2026")};
+    const QString last = places.takeLast();
+    const QString comma = places.size() > 1 ? QStringLiteral(",") : QString();
+    return QStringLiteral("Full cuts after the labels %1%2 and %3.")
+        .arg(places.join(QStringLiteral(", ")), comma, last);
 }
 
 QStringList sentencesOf(const ExpectedStrip &strip, const OptionTexts &options)
@@ -146,6 +227,8 @@ PrinterFacts PrinterFacts::of(const QByteArray &ppd)
                                             QRegularExpression::MultilineOption);
     for (auto each = keyword.globalMatch(text); each.hasNext();)
         facts.cutKeywords.append(each.next().captured(1));
+    facts.hasRollCutter = text.contains(QStringLiteral("*OpenUI *CutMedia")) ||
+                          text.contains(QStringLiteral("*OpenUI *inPrintMode"));
     static const QRegularExpression size(
         QStringLiteral("^\\*PaperDimension ([^/:]+)[^:]*: *\"([\\d.]+) ([\\d.]+)\""),
         QRegularExpression::MultilineOption);
@@ -205,16 +288,23 @@ std::optional<ExpectedStrip> expectedStrip(const OptionTexts &options, const Pri
     if (paper == printer.papers.constEnd())
         return std::nullopt;
     ExpectedStrip strip;
-    strip.areCutsKnown = !printer.cutKeywords.isEmpty();
+    const std::optional<RollCuts> cuts = rollCuts(options);
+    strip.areCutsKnown = cuts && (!printer.cutKeywords.isEmpty() || printer.hasRollCutter);
     strip.tape = paper->leadingMargin;
     const std::vector<int> order = pagesInOrder(options, static_cast<int>(pages.size()));
+    // Without collating, the copies of a page follow each other: only the end of the job ends a copy.
+    const auto copies = static_cast<std::size_t>(numberOf(options, "copies"));
+    const std::size_t perCopy = isCollated(options) && copies > 0 ? order.size() / copies : order.size();
     for (const int page : order) {
         const PageFacts &facts = pages[static_cast<std::size_t>(page)];
         ExpectedLabel label{page, paper->length};
         if (isOn(options, "KvRemoveBlkSpace"))
             label.length = lengthWithoutBlank(facts, *paper);
-        if (!isOn(options, "KvSpecialTape"))
-            addEnd(label, strip.labels.size() + 1, order.size(), options);
+        const std::size_t number = strip.labels.size() + 1;
+        if (strip.areCutsKnown && !isOn(options, "KvSpecialTape"))
+            addEnd(label, number, order.size(), options);
+        if (strip.areCutsKnown)
+            addRollCut(label, number, order.size(), perCopy, *cuts);
         strip.tape += label.length;
         strip.labels.push_back(label);
     }

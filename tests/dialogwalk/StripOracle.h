@@ -32,6 +32,8 @@ struct PaperFacts {
 struct PrinterFacts {
     /// The cut options that the printer has.
     QStringList cutKeywords;
+    /// Whether it has an option of CUPS's roll printers for cuts.
+    bool hasRollCutter = false;
     QMap<QByteArray, PaperFacts> papers;
 
     /// Reads the lines of a PPD.

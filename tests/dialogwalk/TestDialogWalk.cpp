@@ -39,6 +39,7 @@ Step randomStep(walk::Dice &dice)
         {Action::StepPaperByKey, 5},
         {Action::TurnToPage, 12},
         {Action::ChangeBoxByTimer, 4},
+        {Action::OperateRoll, 20},
         {Action::PickQueue, 4},
         {Action::PickOption, 4},
         {Action::StepOptionByKey, 4},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views.h"
 
+#include "RollControls.h"
 #include "ShownPlan.h"
 
 #include <dialog/widgets/FittedLabel.h>
@@ -100,7 +101,7 @@ QStringList expectedPanelLines(const WalkedDialog &dialog, const OptionTexts &op
         else if (name != "KvAutoTapeCut" || !keywords.contains(QStringLiteral("KvCutLabel")))
             lines.append(yesOrNo(keyword));
     }
-    return lines;
+    return lines + RollControls::summaryWords(dialog.server().ppd(dialog.destination()), options);
 }
 
 QStringList panelLines(const std::vector<dialog::SummarySection> &sections)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WalkedServer.h"
 
+#include "RollControls.h"
+
 #include <QFile>
 
 #include <tests/samples/OptionsPpd.h>
@@ -51,6 +53,11 @@ WalkedServer::WalkedServer()
              without(withoutDefault(samplePpd("kvelland-lx300.ppd"), "KvHalfCut"), "KvMirror"));
     addQueue(QStringLiteral("plain"), optionsPpd(),
              without(optionsPpd(), "Twins").replace("Kvelland Options", "Kvelland Other"));
+    const QByteArray both = samplePpd("kvelland-lx900.ppd") + RollControls::finishingLines();
+    addQueue(QStringLiteral("both"), both, without(both, "CutMedia"));
+    const QByteArray roll = optionsPpd() + RollControls::printModeLines();
+    addQueue(QStringLiteral("roll"), roll,
+             without(roll, "inCutInterval").replace("Kvelland Options", "Kvelland Other"));
     m_cupsd.addRawQueue(QStringLiteral("raw"));
     m_destinations.append(QStringLiteral("raw"));
     addInstance(QStringLiteral("lx/shelf"),

@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QStyleOptionButton>
 #include <QWindow>
@@ -24,12 +25,14 @@ void scrollTo(QWidget *target)
 
 QPoint placeToClick(const QWidget *target)
 {
-    const auto *const box = qobject_cast<const QCheckBox *>(target);
-    if (!box)
+    const bool isBox = qobject_cast<const QCheckBox *>(target);
+    if (!isBox && !qobject_cast<const QRadioButton *>(target))
         return target->rect().center();
     QStyleOptionButton option;
-    option.initFrom(box);
-    return box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
+    option.initFrom(target);
+    const QStyle::SubElement indicator =
+        isBox ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator;
+    return target->style()->subElementRect(indicator, &option, target).center();
 }
 
 } // namespace

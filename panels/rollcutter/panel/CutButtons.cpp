@@ -62,6 +62,7 @@ void CutButtons::addButton(QVBoxLayout *layout, std::size_t setting, const Panel
 IntervalBox *CutButtons::makeInterval(const PanelTexts &texts)
 {
     auto *const interval = new IntervalBox(m_group.intervals());
+    interval->setObjectName(QStringLiteral("interval"));
     interval->setSuffix(texts.text(QStringLiteral("INTERVAL_SUFFIX")));
     interval->setAccessibleName(texts.text(QStringLiteral("INTERVAL_NAME")));
     return interval;

@@ -101,6 +101,11 @@ const ppd_cparam_t *PrinterOptions::customNumber(const QString &keyword) const
     return parameter->type == PPD_CUSTOM_INT ? parameter : nullptr;
 }
 
+bool PrinterOptions::hasCustom(const QString &keyword) const
+{
+    return m_ppd && ppdFindCustomOption(m_ppd, keyword.toUtf8().constData());
+}
+
 std::optional<std::pair<int, int>> PrinterOptions::customRange(const QString &keyword) const
 {
     const ppd_cparam_t *const number = customNumber(keyword);

@@ -39,6 +39,8 @@ public:
     /// The choice of the job: the given one, otherwise the marked one, otherwise the default of the PPD.
     /// Absent if there is none. A custom number is "Custom.NUMBER".
     std::optional<QString> current(const QString &keyword) const;
+    /// Whether the option accepts custom values besides its listed choices.
+    bool hasCustom(const QString &keyword) const;
     /// The smallest and the largest whole number that the custom choice of the option accepts; absent if it
     /// accepts none, or if its PostScript code loses the number.
     std::optional<std::pair<int, int>> customRange(const QString &keyword) const;

@@ -10,13 +10,22 @@ RollRules::RollRules(const PrinterOptions &options)
 {
     for (const CutGroup &group : m_groups)
         m_keywords += group.keywords();
-    for (const RollRow &row : rollRows) {
-        const QString keyword = QString::fromLatin1(row.keyword);
-        if (!options.has(keyword) || m_keywords.contains(keyword))
-            continue;
-        m_rows.push_back(row);
-        m_keywords.append(keyword);
+    for (const RollRow &row : rollRows)
+        addRow(row, options);
+    const bool isRoll = std::ranges::any_of(m_rows, [](const RollRow &row) { return !row.isCommon; });
+    if (m_groups.empty() && !isRoll) {
+        m_rows.clear();
+        m_keywords.clear();
     }
+}
+
+void RollRules::addRow(const RollRow &row, const PrinterOptions &options)
+{
+    const QString keyword = QString::fromLatin1(row.keyword);
+    if (!options.has(keyword) || m_keywords.contains(keyword) || (row.isCommon && options.hasCustom(keyword)))
+        return;
+    m_rows.push_back(row);
+    m_keywords.append(keyword);
 }
 
 CutStyle RollRules::styleOf(const CutGroup &group, const PrinterOptions &options)

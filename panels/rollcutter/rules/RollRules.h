@@ -21,25 +21,28 @@ enum class RowRule {
 struct RollRow {
     const char *keyword;
     RowRule rule;
+    /// Printers of all kinds may have an option with this name. It is shown only beside other options of the
+    /// roll, and left to the dialog if it has custom values, for which the dialog has fields.
+    bool isCommon;
 };
 
 /// These options, in the order in which the panel shows them. The names with hyphens are those of the IPP
 /// attributes, for PPDs that are made from the attributes of a printer.
 inline constexpr RollRow rollRows[] = {
-    {"inTearInterval", RowRule::OnlyTearing},
-    {"inCutInterval", RowRule::Always},
-    {"zeMediaTracking", RowRule::Always},
-    {"media-tracking", RowRule::Always},
-    {"label-mode", RowRule::Always},
-    {"zeLabelTop", RowRule::Always},
-    {"zeTearOffPosition", RowRule::NotCutting},
-    {"Darkness", RowRule::Always},
-    {"cupsDarkness", RowRule::Always},
-    {"inPrintDensity", RowRule::Always},
-    {"print-darkness", RowRule::Always},
-    {"zePrintRate", RowRule::Always},
-    {"inPrintRate", RowRule::Always},
-    {"print-speed", RowRule::Always},
+    {"inTearInterval", RowRule::OnlyTearing, false},
+    {"inCutInterval", RowRule::Always, false},
+    {"zeMediaTracking", RowRule::Always, false},
+    {"media-tracking", RowRule::Always, false},
+    {"label-mode", RowRule::Always, false},
+    {"zeLabelTop", RowRule::Always, false},
+    {"zeTearOffPosition", RowRule::NotCutting, false},
+    {"Darkness", RowRule::Always, true},
+    {"cupsDarkness", RowRule::Always, true},
+    {"inPrintDensity", RowRule::Always, true},
+    {"print-darkness", RowRule::Always, true},
+    {"zePrintRate", RowRule::Always, true},
+    {"inPrintRate", RowRule::Always, true},
+    {"print-speed", RowRule::Always, true},
 };
 
 /// The options of the roll printer that the panel shows and the rules between them.
@@ -67,6 +70,7 @@ public:
     std::optional<QString> stripText(const PrinterOptions &options) const;
 
 private:
+    void addRow(const RollRow &row, const PrinterOptions &options);
     bool isCut(const PrinterOptions &options) const;
 
     std::vector<CutGroup> m_groups;

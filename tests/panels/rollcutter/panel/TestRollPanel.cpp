@@ -223,12 +223,14 @@ TEST_F(RollPanelTest, TheSummaryListsWhatHasAnEffect)
 TEST_F(RollPanelTest, TwoOptionsWithOneTextHaveTwoLines)
 {
     show(test_support::PpdBuilder()
+             .option("label-mode")
              .option("Darkness")
              .option("cupsDarkness")
              .text("cupsDarkness", "Darkness")
              .openMarked());
     EXPECT_EQ(panel->summaryInfo()->value(PDESummaryDisplayOrderKey).toStringList(),
-              (QStringList{QStringLiteral("Darkness"), QStringLiteral("Darkness (cupsDarkness)")}));
+              (QStringList{QStringLiteral("label-mode"), QStringLiteral("Darkness"),
+                           QStringLiteral("Darkness (cupsDarkness)")}));
 }
 
 TEST_F(RollPanelTest, APrinterWithoutTheOptionsHasNoControls)

@@ -179,9 +179,24 @@ TEST(RollRules, ListsTheOptionsThatThePpdHas)
               texts({"zeMediaTracking", "zeTearOffPosition", "Darkness", "zePrintRate"}));
     EXPECT_EQ(keywordsOf("intelbar.ppd"),
               texts({"inPrintMode", "inTearInterval", "inCutInterval", "inPrintDensity", "inPrintRate"}));
-    EXPECT_EQ(keywordsOf("dymo.ppd"), texts({"cupsDarkness"}));
+    EXPECT_EQ(keywordsOf("dymo.ppd"), QStringList());
     EXPECT_EQ(keywordsOf("laserjet.ppd"), QStringList());
     EXPECT_EQ(RollRules(PrinterOptions(nullptr)).keywords(), QStringList());
+}
+
+TEST(RollRules, CommonOptionsAloneAreLeftToTheDialog)
+{
+    const auto keywordsOf = [](std::initializer_list<QByteArray> options, const QByteArray &raw = {}) {
+        const PpdPointer ppd = PpdBuilder().options(options).raw(raw).openMarked();
+        return RollRules(PrinterOptions(ppd.get())).keywords();
+    };
+    EXPECT_EQ(keywordsOf({"Darkness", "cupsDarkness", "print-darkness", "print-speed", "zePrintRate"}),
+              QStringList());
+    EXPECT_EQ(keywordsOf({"Darkness", "label-mode"}), texts({"label-mode", "Darkness"}));
+    // The dialog has fields for custom values.
+    EXPECT_EQ(keywordsOf({"Darkness", "label-mode"},
+                         "*CustomDarkness True: \"\"\n*ParamCustomDarkness Level/Level: 1 int 10 90\n"),
+              texts({"label-mode"}));
 }
 
 TEST(RollRules, AnIntervalWithoutItsModeIsAList)
