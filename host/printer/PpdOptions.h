@@ -86,6 +86,18 @@ struct PpdConstraintSide {
 /// Choices that conflict if all of them are selected; in most cases two.
 using PpdConstraint = std::vector<PpdConstraintSide>;
 
+/// A finishing of IPP (PWG 5100.1), and the choices of PPD options that stand for it.
+struct PpdFinishing {
+    /// The value of the IPP attribute "finishings", for example 60 for "trim-after-pages".
+    int number = 0;
+    std::vector<std::pair<QByteArray, QByteArray>> choices;
+
+    bool operator==(const PpdFinishing &) const = default;
+};
+
+/// The number of the finishing "none".
+inline constexpr int noFinishing = 3;
+
 /// Reads the options of a PPD in the language set by PpdFile::localize(), and their marked choices. Cheap to
 /// construct. The PPD is not owned and must outlive this object.
 class PpdOptions {
@@ -112,6 +124,9 @@ public:
     /// The UIConstraints, NonUIConstraints and cupsUIConstraints. Constraints are returned even if the PPD
     /// does not have their options and choices.
     std::vector<PpdConstraint> constraints() const;
+    /// The finishings of the printer, which the PPD lists as *cupsIPPFinishings; libcups writes them for a
+    /// driverless printer. Malformed lines are skipped.
+    std::vector<PpdFinishing> finishings() const;
 
 private:
     const PpdFile &m_ppd;

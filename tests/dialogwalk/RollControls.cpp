@@ -30,14 +30,14 @@ struct RollButton {
 };
 
 constexpr RollButton rollButtons[] = {
-    {"Cut after every label", "trim-after-pages", "Cut", "1"},
+    {"Cut after every label", "EndOfPage", "Cut", "1"},
     {"Cut after every", nullptr, "Cut", nullptr},
-    {"Cut after each copy", "trim-after-copies", nullptr, nullptr},
-    {"Cut after each document", "trim-after-documents", nullptr, nullptr},
-    {"Cut at the end", "trim-after-job", nullptr, nullptr},
+    {"Cut after each copy", "EndOfSet", nullptr, nullptr},
+    {"Cut after each document", "EndOfDoc", nullptr, nullptr},
+    {"Cut at the end", "EndOfJob", nullptr, nullptr},
     {"Let me tear", nullptr, "Tear", nullptr},
     {"Do not cut", "None", "Standard", nullptr},
-    {"Cut where the printer decides", "trim", "Cut", "None"},
+    {"Cut where the printer decides", "Auto", "Cut", "None"},
 };
 
 bool has(const QByteArray &ppd, const char *keyword)
@@ -65,8 +65,7 @@ QString RollControls::tab()
 
 QByteArray RollControls::finishingLines()
 {
-    return optionLines("CutMedia", {"None", "trim", "trim-after-pages", "trim-after-documents",
-                                    "trim-after-copies", "trim-after-job"}) +
+    return optionLines("CutMedia", {"None", "Auto", "EndOfPage", "EndOfDoc", "EndOfSet", "EndOfJob"}) +
            optionLines("media-tracking", {"Gap", "Mark", "Continuous"});
 }
 

@@ -116,13 +116,13 @@ std::optional<RollCuts> rollCuts(const OptionTexts &options)
 {
     const QByteArray finishing = options.value("CutMedia");
     const QByteArray mode = options.value("inPrintMode");
-    if (finishing == "trim" || isPrintersInterval(options))
+    if (finishing == "Auto" || isPrintersInterval(options))
         return std::nullopt;
-    if (finishing == "trim-after-pages")
+    if (finishing == "EndOfPage")
         return RollCuts{1};
     RollCuts cuts{mode == "Cut" ? options.value("inCutInterval").toUInt() : 0U};
-    cuts.afterCopies = finishing == "trim-after-copies";
-    cuts.atEnd = finishing == "trim-after-job" || finishing == "trim-after-documents";
+    cuts.afterCopies = finishing == "EndOfSet";
+    cuts.atEnd = finishing == "EndOfJob" || finishing == "EndOfDoc";
     return cuts;
 }
 
@@ -155,7 +155,7 @@ QString sentenceWithoutCuts(const OptionTexts &options)
 
 QString unknownSentence(const OptionTexts &options)
 {
-    return options.value("CutMedia") == "trim" || isPrintersInterval(options)
+    return options.value("CutMedia") == "Auto" || isPrintersInterval(options)
                ? QStringLiteral("Cutting is not known: the printer decides where it cuts.")
                : QStringLiteral("Cutting is not known: the printer's description does not say whether it "
                                 "cuts the labels.");

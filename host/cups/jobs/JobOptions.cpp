@@ -18,6 +18,8 @@ struct JobOptionsText {
     Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobOptions)
 };
 
+constexpr const char *finishingsName = "finishings";
+
 /// Returns whether the option is another name for the paper, which could only contradict the exact one.
 bool isOtherPaperOption(const QByteArray &name)
 {
@@ -56,6 +58,12 @@ public:
     void send(const QByteArray &name) { at(name).isSent = true; }
     std::vector<JobOption> take() && { return std::move(m_options); }
     bool has(const QByteArray &name) const { return m_positions.contains(name); }
+    /// The option; null if no layer has it.
+    const JobOption *find(const QByteArray &name) const
+    {
+        const auto found = m_positions.constFind(name);
+        return found == m_positions.constEnd() ? nullptr : &m_options[*found];
+    }
 
 private:
     JobOption &at(const QByteArray &name)
@@ -81,6 +89,40 @@ void addPpdDefaults(Layers &layers, const PpdFile &ppd)
                 layers.setByServer(keyword, options.defaultChoice(keyword).value(), Origin::Ppd);
         }
     }
+}
+
+/// Adds the finishings of IPP that the choices of the job stand for. The server of a driverless queue gives a
+/// job without "finishings" the printer's default, which its filters then prefer to the choices of the PPD: a
+/// job that is to be cut would not be cut.
+void addFinishings(Layers &layers, const PpdFile &ppd)
+{
+    QByteArrayList numbers;
+    const JobOption *sent = nullptr;
+    for (const PpdFinishing &finishing : PpdOptions(ppd).finishings()) {
+        bool isChosen = true;
+        for (const auto &[keyword, choice] : finishing.choices) {
+            const JobOption *const option = layers.find(keyword);
+            isChosen = isChosen && option && option->value == choice;
+            if (option && option->isSent)
+                sent = option;
+        }
+        if (isChosen && finishing.number != noFinishing)
+            numbers.append(QByteArray::number(finishing.number));
+    }
+    if (!sent)
+        return;
+    if (numbers.isEmpty())
+        numbers.append(QByteArray::number(noFinishing));
+    const Origin origin = sent->origin;
+    layers.set(finishingsName, numbers.join(','), origin);
+    layers.send(finishingsName);
+}
+
+bool isRequested(const QByteArray &name, const Destination &destination,
+                 const std::vector<JobChoice> &choices)
+{
+    return findValue(destination.userOptions, name) ||
+           std::ranges::find(choices, name, &JobChoice::name) != choices.end();
 }
 
 } // namespace
@@ -142,6 +184,8 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
         if (choice.isPanels)
             layers.send(choice.name);
     }
+    if (ppd && !isRequested(finishingsName, destination, choices))
+        addFinishings(layers, *ppd);
     for (const NamedValue &setting : settingValues(settings)) {
         // All pages are the default.
         const bool isDefaultRange = setting.value == "1-" && !layers.has(setting.name);

@@ -46,7 +46,8 @@ struct JobOption {
 ///
 /// The options that are sent are the paper, always and under the PPD's exact name; the options that a panel
 /// has saved; the user's lpoptions, which the server does not know; and all others that differ from what the
-/// server does by itself. Without a PPD, the choices are sent unchanged.
+/// server does by itself. Without a PPD, the choices are sent unchanged. For choices that stand for
+/// finishings of IPP, the job also contains "finishings", unless it is requested itself; see PpdFinishing.
 std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
                                       const std::vector<JobChoice> &choices, const JobSettings &settings);
 

@@ -21,8 +21,9 @@ constexpr const char *cutMedia = "CutMedia";
 /// More labels between two cuts are not offered, whatever number the printer accepts.
 constexpr int maxInterval = 999;
 
-/// The names of the choices. Those of the print modes are defined by CUPS's label drivers, those with "trim"
-/// by the IPP attribute "finishings", and the others are in use for CutMedia.
+/// The names of the choices. Those of the print modes are defined by CUPS's label drivers. Of those of
+/// CutMedia, libcups writes None, Auto, EndOfPage, EndOfDoc, EndOfSet and EndOfJob for a driverless printer;
+/// those with "trim" are the keywords of the IPP attribute "finishings".
 constexpr NamedStyle namedStyles[] = {
     {"inPrintMode", "Standard", CutStyle::Never},
     {"inPrintMode", "Tear", CutStyle::Tear},
@@ -44,8 +45,10 @@ constexpr NamedStyle namedStyles[] = {
     {cutMedia, "EndOfSet", CutStyle::EachCopy},
     {cutMedia, "EndOfCopy", CutStyle::EachCopy},
     {cutMedia, "EndOfFile", CutStyle::EachDocument},
+    {cutMedia, "EndOfDoc", CutStyle::EachDocument},
     {cutMedia, "EndOfDocument", CutStyle::EachDocument},
     {cutMedia, "EndOfJob", CutStyle::AtEnd},
+    {cutMedia, "Auto", CutStyle::Somewhere},
     {cutMedia, "trim", CutStyle::Somewhere},
     {cutMedia, "trim-after-pages", CutStyle::EveryLabel},
     {cutMedia, "trim-after-copies", CutStyle::EachCopy},

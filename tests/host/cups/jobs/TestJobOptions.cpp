@@ -200,6 +200,54 @@ TEST(JobOptions, TheDocumentsFormatIsNoOptionOfTheJob)
     EXPECT_EQ(described(makeJobOptions(destination, nullptr, {}, {})), list({"fold=true user*"}));
 }
 
+TEST(JobOptions, ChoicesThatAreFinishingsOfIppAreSentAsSuch)
+{
+    const PpdFile ppd = openPpd(PpdBuilder()
+                                    .options({"KvMirror"})
+                                    .option({.keyword = "CutMedia",
+                                             .text = "Cut",
+                                             .choices = {{"None", ""}, {"EndOfPage", ""}, {"Odd", ""}},
+                                             .defaultChoice = "None"})
+                                    .option({.keyword = "Fold",
+                                             .text = "Fold",
+                                             .choices = {{"None", ""}, {"Half", ""}},
+                                             .defaultChoice = "None"})
+                                    .raw("*cupsIPPFinishings 60/trim-after-pages: \"*CutMedia EndOfPage\"\n"
+                                         "*cupsIPPFinishings 93/fold-half: \"*Fold Half\"\n"
+                                         "*cupsIPPFinishings 99/both: \"*Fold Half *CutMedia EndOfPage\"\n"
+                                         "*cupsIPPFinishings 98/odd: \"*Fold Half *CutMedia\"\n"
+                                         "*cupsIPPFinishings x/odd: \"*Fold Half\"\n"
+                                         "*cupsIPPFinishings 97/odd: \"Fold Half\"\n"));
+    Destination destination;
+    destination.queueOptions = {{"finishings", "3"}};
+    const auto sent = [&](const std::vector<JobChoice> &choices, const Destination &to) -> QByteArray {
+        const auto options = makeJobOptions(to, &ppd, choices, {});
+        const auto found = std::ranges::find(options, QByteArray("finishings"), &JobOption::name);
+        return found != options.end() && found->isSent ? found->value : QByteArray("(not sent)");
+    };
+    struct Row {
+        std::vector<JobChoice> choices;
+        const char *expected;
+    };
+    const Row rows[] = {
+        {{}, "(not sent)"},
+        {{{"KvMirror", "ON"}}, "(not sent)"},
+        {{{"CutMedia", "EndOfPage"}}, "60"},
+        {{{"CutMedia", "None", Origin::Panel}}, "3"},
+        {{{"CutMedia", "Odd"}}, "3"},
+        {{{"Fold", "Half"}}, "93"},
+        {{{"Fold", "Half"}, {"CutMedia", "EndOfPage"}}, "60,93,99"},
+        {{{"CutMedia", "EndOfPage"}, {"finishings", "62"}}, "62"},
+    };
+    for (const Row &row : rows) {
+        EXPECT_EQ(sent(row.choices, destination), row.expected);
+        EXPECT_EQ(sent(row.choices, {}), row.expected) << "a server that does not report a default";
+    }
+    Destination users = destination;
+    users.userOptions = {{"finishings", "63"}};
+    EXPECT_EQ(sent({{"CutMedia", "EndOfPage"}}, users), "63");
+}
+
 TEST(JobOptions, SettingsStandOverTheUsersDefaults)
 {
     Destination destination;

@@ -67,11 +67,11 @@ inline test_support::PpdBuilder cutMedia(std::vector<test_support::PpdChoiceLine
 inline test_support::PpdBuilder driverless()
 {
     return cutMedia({{"None", "None"},
-                     {"trim", "Cut"},
-                     {"trim-after-pages", "Cut after every page"},
-                     {"trim-after-documents", "Cut after every document"},
-                     {"trim-after-copies", "Cut after every copy"},
-                     {"trim-after-job", "Cut after job"}});
+                     {"Auto", "Auto"},
+                     {"EndOfPage", "EndOfPage"},
+                     {"EndOfDoc", "EndOfDoc"},
+                     {"EndOfSet", "EndOfSet"},
+                     {"EndOfJob", "EndOfJob"}});
 }
 
 } // namespace roll_ppds

@@ -121,6 +121,25 @@ TEST(CutTable, DriverlessFinishings)
     expectCuts(ppd.get(), {
                               {"", "--------"},
                               {"CutMedia=None", "--------"},
+                              {"CutMedia=Auto", "not known"},
+                              {"CutMedia=EndOfPage", "cccccccc"},
+                              {"CutMedia=EndOfSet", "--c--c-c"},
+                              {"CutMedia=EndOfDoc", "-----c-c"},
+                              {"CutMedia=EndOfJob", "-------c"},
+                          });
+}
+
+TEST(CutTable, FinishingsByTheirNamesInIpp)
+{
+    const PpdPointer ppd = roll_ppds::cutMedia({{"None", ""},
+                                                {"trim", ""},
+                                                {"trim-after-pages", ""},
+                                                {"trim-after-copies", ""},
+                                                {"trim-after-documents", ""},
+                                                {"trim-after-job", ""}})
+                               .openMarked();
+    expectCuts(ppd.get(), {
+                              {"", "--------"},
                               {"CutMedia=trim", "not known"},
                               {"CutMedia=trim-after-pages", "cccccccc"},
                               {"CutMedia=trim-after-copies", "--c--c-c"},
@@ -237,11 +256,11 @@ TEST(CutTable, EveryNumberOfLabelsAndCopies)
             if (!atEnd.empty())
                 atEnd.back() = 'c';
             EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=None"), job), std::string(atEnd.size(), '-'));
-            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=trim-after-pages"), job),
+            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=EndOfPage"), job),
                       std::string(atEnd.size(), 'c'));
-            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=trim-after-copies"), job), afterCopies);
-            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=trim-after-documents"), job), atEnd);
-            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=trim-after-job"), job), atEnd);
+            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=EndOfSet"), job), afterCopies);
+            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=EndOfDoc"), job), atEnd);
+            EXPECT_EQ(cutsIn(ppd.get(), choicesOf("CutMedia=EndOfJob"), job), atEnd);
         }
     }
 }
