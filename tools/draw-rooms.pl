@@ -14,13 +14,14 @@ my @buildings = (
     ["programs",          "programs/"],
     ["dialog",            "dialog/"],
     ["panels/cutoptions", "panels/cutoptions/"],
+    ["panels/rollcutter", "panels/rollcutter/"],
     ["host",              "host/"],
 );
 
 # The only rooms with an arrow to these.
 my %drawn_users = (
     "host/base" => {"host/printer" => 1},
-    "platform"  => {"protocol" => 1, "host/documents" => 1, "panels/cutoptions/ppd" => 1},
+    "platform"  => {"protocol" => 1, "host/documents" => 1, "panels/cutoptions/ppd" => 1, "panels/rollcutter/rules" => 1},
 );
 
 # Platform is drawn as one room. Programs that make resources are no rooms of the product.

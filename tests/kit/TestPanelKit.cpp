@@ -61,14 +61,14 @@ protected:
     static QString example() { return folder->filePath(QStringLiteral("my panel")); }
     static QString bundle() { return example() + QStringLiteral("/build/FullCut.bundle"); }
 
-    static QStringList configureArguments()
+    static QStringList configureArguments(const QString &project)
     {
         return {QStringLiteral("-G"),
                 QStringLiteral(KV_GENERATOR),
                 QStringLiteral("-S"),
-                example(),
+                project,
                 QStringLiteral("-B"),
-                example() + QStringLiteral("/build"),
+                project + QStringLiteral("/build"),
                 QStringLiteral("-DCMAKE_PREFIX_PATH=") + prefix(),
                 QStringLiteral("-DCMAKE_CXX_COMPILER=" KV_COMPILER),
                 QStringLiteral("-DCMAKE_CXX_FLAGS=-Wall -Wextra -Werror " KV_COMPILER_FLAGS) +
@@ -84,7 +84,7 @@ std::unique_ptr<QTemporaryDir> PanelKit::folder;
 
 TEST_F(PanelKit, BuildsTheExampleWhichFollowsTheProtocol)
 {
-    runKitProgram(example(), QStringLiteral(KV_CMAKE), configureArguments());
+    runKitProgram(example(), QStringLiteral(KV_CMAKE), configureArguments(example()));
     runKitProgram(example(), QStringLiteral(KV_CMAKE), {QStringLiteral("--build"), QStringLiteral("build")});
     const QString ppd = folder->filePath(QStringLiteral("printer.ppd"));
     ASSERT_TRUE(
@@ -110,6 +110,40 @@ TEST_F(PanelKit, BuildsTheExampleWhichFollowsTheProtocol)
     EXPECT_TRUE(QFile::exists(home + QStringLiteral("/share/kvprint/panels/FullCut.bundle/FullCut.so")));
 }
 
+TEST_F(PanelKit, BuildsThePanelForRollPrintersFromItsSources)
+{
+    // The delivered panel uses nothing of the project but what is installed.
+    const QString project = folder->filePath(QStringLiteral("roll panel"));
+    const QDir panels(QStringLiteral(KV_SOURCE_DIR "/panels"));
+    for (const char *const room : {"rollcutter/rules", "rollcutter/panel", "rollcutter/bundle"}) {
+        const QString name = QString::fromLatin1(room);
+        ASSERT_TRUE(QDir().mkpath(project + u'/' + name));
+        for (const QString &file :
+             QDir(panels.filePath(name)).entryList({QStringLiteral("*.*")}, QDir::Files))
+            ASSERT_TRUE(
+                QFile::copy(panels.filePath(name) + u'/' + file, project + u'/' + name + u'/' + file));
+    }
+    QFile build(project + QStringLiteral("/CMakeLists.txt"));
+    ASSERT_TRUE(build.open(QIODevice::WriteOnly));
+    build.write(
+        "cmake_minimum_required(VERSION 3.25)\nproject(RollCutter LANGUAGES CXX)\n"
+        "find_package(kvprint REQUIRED)\nfile(GLOB_RECURSE sources rollcutter/*.cpp rollcutter/*.h)\n"
+        "kvprint_add_panel_bundle(RollCutter SOURCES ${sources} METADATA rollcutter/bundle/bundle.json\n"
+        "    RESOURCES \"${CMAKE_PREFIX_PATH}/" KV_LIBRARY_DIR
+        "/kvprint/RollCutter.bundle/Resources/Localizable_en.qm\")\n"
+        "target_include_directories(RollCutter PRIVATE \"${PROJECT_SOURCE_DIR}\")\n");
+    build.close();
+    runKitProgram(project, QStringLiteral(KV_CMAKE),
+                  configureArguments(project) + QStringList{QStringLiteral("-DCMAKE_UNITY_BUILD=ON")});
+    runKitProgram(project, QStringLiteral(KV_CMAKE), {QStringLiteral("--build"), QStringLiteral("build")});
+    const QString ppd = folder->filePath(QStringLiteral("roll.ppd"));
+    ASSERT_TRUE(test_support::PpdBuilder().options({"CutMedia", "label-mode"}).writeTo(ppd));
+    EXPECT_EQ(
+        runKitProgram(project, prefix() + QStringLiteral("/bin/kvpanel"),
+                      {QStringLiteral("--check"), project + QStringLiteral("/build/RollCutter.bundle"), ppd}),
+        QString());
+}
+
 TEST_F(PanelKit, RejectsMetadataThatNoDialogAccepts)
 {
     const QString metadata = example() + QStringLiteral("/bundle.json");
@@ -127,7 +161,8 @@ TEST_F(PanelKit, RejectsMetadataThatNoDialogAccepts)
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(content);
         file.close();
-        const QString output = runKitProgram(example(), QStringLiteral(KV_CMAKE), configureArguments(), 1);
+        const QString output =
+            runKitProgram(example(), QStringLiteral(KV_CMAKE), configureArguments(example()), 1);
         EXPECT_TRUE(output.contains(message)) << output.toStdString();
     }
     ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));

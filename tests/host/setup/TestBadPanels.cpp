@@ -5,6 +5,7 @@
 #include <tests/support/PpdBuilder.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -31,7 +32,9 @@ protected:
         qputenv("XDG_STATE_HOME", stateBefore);
     }
 
-    std::unique_ptr<PrinterSetup> make(const QByteArray &trouble)
+    std::unique_ptr<PrinterSetup> make(const QByteArray &trouble) { return make(trouble, source); }
+
+    std::unique_ptr<PrinterSetup> make(const QByteArray &trouble, const host::PanelSource &bundles)
     {
         qputenv("KVTEST_TROUBLE", trouble);
         const QString path = folder.filePath(QStringLiteral("printer.ppd"));
@@ -40,7 +43,7 @@ protected:
         if (!opened)
             qFatal("%s", qPrintable(opened.error().message));
         return std::make_unique<PrinterSetup>(host::Destination(), std::move(opened).value(),
-                                              host::SetupRequest(), source);
+                                              host::SetupRequest(), bundles);
     }
 
     host::Ticket ticketOf(const PrinterSetup &setup) const
@@ -136,6 +139,25 @@ TEST_F(BadPanelsTest, APanelControlsOnlyWhatItsMetadataList)
     EXPECT_TRUE(setup->panelNotices().front().contains(QStringLiteral("Other")));
     EXPECT_EQ(ticketOf(*setup).panel.choice(QStringLiteral("Other")), std::nullopt);
     EXPECT_EQ(setup->ppd().markedChoice(QStringLiteral("Other")), QStringLiteral("OFF"));
+}
+
+TEST_F(BadPanelsTest, TheFirstOfTwoBundlesWithTheSameOptionsIsUsed)
+{
+    // The bundle under its own name and under another one that comes before it.
+    const QString library = QStringLiteral(KV_BINARY_DIR "/tests/bundles/trouble/Trouble.bundle/Trouble.so");
+    for (const char *const name : {"Trouble", "Again"}) {
+        const QString bundle = folder.filePath(QStringLiteral("both/%1.bundle/").arg(QLatin1String(name)));
+        ASSERT_TRUE(QDir().mkpath(bundle));
+        ASSERT_TRUE(QFile::copy(library, bundle + QLatin1String(name) + QStringLiteral(".so")));
+    }
+    const auto setup = make("", host::PanelSource{folder.filePath(QStringLiteral("both")), {}});
+    EXPECT_TRUE(setup->panelErrors().empty());
+    EXPECT_EQ(setup->panels().size(), 1U);
+    EXPECT_EQ(setup->claimedKeywords(), QStringList{QStringLiteral("KvTrouble")});
+    ASSERT_EQ(setup->panelNotices().size(), 1);
+    const QString notice = setup->panelNotices().front();
+    EXPECT_TRUE(notice.contains(QStringLiteral("\"Trouble\" does not control KvTrouble")))
+        << notice.toStdString();
 }
 
 TEST_F(BadPanelsTest, AReplacedChoiceIsExplainedByThePanel)
