@@ -125,11 +125,18 @@ Result<PanelBundle, BundleError> PanelBundle::load(const QString &folder, const 
     const Result<BundleDescription, BundleError> described = describe(folder);
     if (!described)
         return described.error();
-    if (const std::optional<BundleError> error = checkInterface(described.value()))
+    return load(described.value(), languages);
+}
+
+Result<PanelBundle, BundleError> PanelBundle::load(const BundleDescription &description,
+                                                   const QStringList &languages)
+{
+    if (const std::optional<BundleError> error = checkInterface(description))
         return *error;
-    if (const std::optional<BundleError> error = checkResources(described.value()))
+    if (const std::optional<BundleError> error = checkResources(description))
         return *error;
 
+    const QString &folder = description.folder;
     QPluginLoader loader(libraryPath(folder));
     PanelBundle bundle;
     bundle.m_factory = qobject_cast<PDEPlugInFactory *>(loader.instance());

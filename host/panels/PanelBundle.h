@@ -61,6 +61,9 @@ public:
     /// resources are searched for, before any code of the library runs. Texts are in the first of the
     /// languages that the bundle has; see platform::Bundle::open().
     static Result<PanelBundle, BundleError> load(const QString &folder, const QStringList &languages);
+    /// Loads the bundle that describe() has described, without reading the metadata again.
+    static Result<PanelBundle, BundleError> load(const BundleDescription &description,
+                                                 const QStringList &languages);
 
     /// Returns the error about the bundle in this folder; the reason is the end of a sentence.
     static BundleError error(BundleErrorKind kind, const QString &folder, const QString &reason);

@@ -62,7 +62,7 @@ private:
                                        std::optional<BundleError> &error)
     {
         return guard.call("PDEPanelsForType", std::shared_ptr<PanelSession>(), [&] {
-            Result<PanelBundle, BundleError> loaded = PanelBundle::load(bundle.folder, m_languages);
+            Result<PanelBundle, BundleError> loaded = PanelBundle::load(bundle, m_languages);
             if (!loaded) {
                 error = loaded.error();
                 return std::shared_ptr<PanelSession>();

@@ -4,6 +4,7 @@
 #include "IntervalBox.h"
 
 #include <QButtonGroup>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -14,12 +15,14 @@
 
 namespace rollcutter {
 
-CutButtons::CutButtons(const CutGroup &group, const QString &title, const PanelTexts &texts)
-    : QGroupBox(title)
-    , m_group(group)
-    , m_buttons(new QButtonGroup(this))
+CutButtons::CutButtons(const CutGroup &group, const QString &title, const PanelTexts &texts,
+                       ChoicesHook chosen)
+    : m_group(group)
+    , m_chosen(std::move(chosen))
+    , m_box(new QGroupBox(title))
+    , m_buttons(new QButtonGroup(m_box))
 {
-    auto *const layout = new QVBoxLayout(this);
+    auto *const layout = new QVBoxLayout(m_box);
     const std::vector<CutSetting> &settings = group.settings();
     std::vector<std::size_t> order(settings.size());
     std::iota(order.begin(), order.end(), std::size_t(0));
@@ -41,7 +44,7 @@ void CutButtons::addButton(QVBoxLayout *layout, std::size_t setting, const Panel
     m_entries.push_back({button, setting});
     // The signal clicked() is sent for the user's choices only.
     if (offered.style != CutStyle::EveryFew) {
-        connect(button, &QRadioButton::clicked, this, [this, setting] { choose(setting); });
+        QObject::connect(button, &QRadioButton::clicked, m_box, [this, setting] { choose(setting); });
         layout->addWidget(button);
         return;
     }
@@ -50,8 +53,8 @@ void CutButtons::addButton(QVBoxLayout *layout, std::size_t setting, const Panel
         if (const auto found = m_group.find(CutStyle::EveryFew, m_interval->value()))
             choose(*found);
     };
-    connect(button, &QRadioButton::clicked, this, chooseInterval);
-    connect(m_interval, &QSpinBox::valueChanged, this, chooseInterval);
+    QObject::connect(button, &QRadioButton::clicked, m_box, chooseInterval);
+    QObject::connect(m_interval, &QSpinBox::valueChanged, m_box, chooseInterval);
     auto *const line = new QHBoxLayout;
     line->addWidget(button);
     line->addWidget(m_interval);
@@ -78,7 +81,7 @@ bool CutButtons::isShownBy(const Button &button, std::size_t setting) const
 
 void CutButtons::choose(std::size_t setting)
 {
-    Q_EMIT chosen(m_group.settings()[setting].choices);
+    m_chosen(m_group.settings()[setting].choices);
 }
 
 void CutButtons::showChoices(const PrinterOptions &options, const std::optional<QString> &intervalReason)

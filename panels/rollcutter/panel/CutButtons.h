@@ -5,12 +5,12 @@
 
 #include <rollcutter/rules/CutGroup.h>
 
-#include <QGroupBox>
-
+#include <functional>
 #include <optional>
 #include <vector>
 
 class QButtonGroup;
+class QGroupBox;
 class QRadioButton;
 class QVBoxLayout;
 
@@ -18,21 +18,23 @@ namespace rollcutter {
 
 class IntervalBox;
 
-/// The ways to cut of one group as radio buttons, with a field for the number of labels between two cuts.
-class CutButtons : public QGroupBox {
-    Q_OBJECT
+/// Called when the user has made these choices.
+using ChoicesHook = std::function<void(const PDEChoices &choices)>;
 
+/// The ways to cut of one group as radio buttons, with a field for the number of labels between two cuts. No
+/// widget itself: each class of widgets costs time when the bundle is loaded.
+class CutButtons {
 public:
-    /// Buttons for the group, which must outlive the widget.
-    CutButtons(const CutGroup &group, const QString &title, const PanelTexts &texts);
+    /// Buttons for the group, which must outlive the object. The hook is called with the choices of the
+    /// setting that the user chooses.
+    CutButtons(const CutGroup &group, const QString &title, const PanelTexts &texts, ChoicesHook chosen);
+
+    /// The box with the buttons. Owned by its parent; the layout that it is added to gives it one.
+    QGroupBox *box() const { return m_box; }
 
     /// Shows the current setting of the group; no button is checked if there is none. The reason why the
     /// number cannot be changed is the tool tip of its field; absent if it can.
     void showChoices(const PrinterOptions &options, const std::optional<QString> &intervalReason);
-
-Q_SIGNALS:
-    /// The user has chosen a setting, which consists of these choices.
-    void chosen(const PDEChoices &choices);
 
 private:
     struct Button {
@@ -46,6 +48,8 @@ private:
     void choose(std::size_t setting);
 
     const CutGroup &m_group;
+    ChoicesHook m_chosen;
+    QGroupBox *m_box;
     QButtonGroup *m_buttons;
     std::vector<Button> m_entries;
     /// Null if the printer has no intervals.

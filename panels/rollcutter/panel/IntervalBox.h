@@ -10,8 +10,6 @@ namespace rollcutter {
 /// A field for a number that is one of a list, such as the intervals that a printer has: stepping moves to
 /// the next number of the list, and other numbers cannot be entered.
 class IntervalBox : public QSpinBox {
-    Q_OBJECT
-
 public:
     /// A field for the numbers, which are in ascending order and not empty.
     explicit IntervalBox(std::vector<int> numbers, QWidget *parent = nullptr);

@@ -8,10 +8,9 @@
 
 namespace rollcutter {
 
-OptionRows::OptionRows(const RollRules &rules, const PrinterOptions &options)
+OptionRows::OptionRows(const RollRules &rules, const PrinterOptions &options, const ChoicesHook &chosen)
+    : m_layout(new QFormLayout)
 {
-    auto *const layout = new QFormLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
     for (const RollRow &row : rules.rows()) {
         const QString keyword = QString::fromLatin1(row.keyword);
         auto *const box = new QComboBox;
@@ -23,11 +22,11 @@ OptionRows::OptionRows(const RollRules &rules, const PrinterOptions &options)
         for (const OptionChoice &choice : options.choices(keyword))
             box->addItem(PanelTexts::choiceText(options, keyword, choice.name), choice.name);
         // The signal activated() is sent for the user's choices only.
-        connect(box, &QComboBox::activated, this, [this, box, keyword](int index) {
-            Q_EMIT chosen({{keyword, box->itemData(index).toString()}});
+        QObject::connect(box, &QComboBox::activated, box, [chosen, box, keyword](int index) {
+            chosen({{keyword, box->itemData(index).toString()}});
         });
         // The label is the buddy, and so the accessible name, of the box.
-        layout->addRow(options.text(keyword) + u':', box);
+        m_layout->addRow(options.text(keyword) + u':', box);
         m_rows.push_back({keyword, box});
     }
 }

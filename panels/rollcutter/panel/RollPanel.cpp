@@ -19,12 +19,11 @@ RollPanel::RollPanel(std::shared_ptr<PDEPluginCallback13_v400_> dialog,
 QWidget *RollPanel::panelView()
 {
     if (!m_view) {
-        m_view = std::make_unique<RollView>(m_rules, PrinterOptions(ppd()), m_texts);
-        QObject::connect(m_view.get(), &RollView::chosen,
-                         [this](const PDEChoices &choices) { choose(choices); });
+        m_view = std::make_unique<RollView>(m_rules, PrinterOptions(ppd()), m_texts,
+                                            [this](const PDEChoices &choices) { choose(choices); });
         showChoices();
     }
-    return m_view.get();
+    return m_view->widget();
 }
 
 QString RollPanel::panelName()

@@ -12,8 +12,6 @@ namespace rollcutter {
 /// A picture of a short job on the roll: numbered labels, scissors where the printer cuts, dashes where the
 /// user tears, and question marks if the cuts are not known.
 class RollPreview : public QWidget {
-    Q_OBJECT
-
 public:
     RollPreview();
 

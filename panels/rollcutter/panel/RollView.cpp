@@ -6,41 +6,43 @@
 
 #include <rollcutter/rules/CutEffects.h>
 
+#include <QFormLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace rollcutter {
 
-RollView::RollView(const RollRules &rules, const PrinterOptions &options, const PanelTexts &texts)
+RollView::RollView(const RollRules &rules, const PrinterOptions &options, const PanelTexts &texts,
+                   const ChoicesHook &chosen)
     : m_rules(rules)
     , m_texts(texts)
+    , m_widget(std::make_unique<QWidget>())
 {
-    auto *const columns = new QHBoxLayout(this);
-    addButtons(columns);
+    auto *const columns = new QHBoxLayout(m_widget.get());
+    addButtons(columns, chosen);
     auto *const column = new QVBoxLayout;
     if (!rules.groups().empty()) {
         m_preview = new RollPreview;
+        m_preview->setObjectName(QStringLiteral("preview"));
         m_preview->setAccessibleName(m_texts.text(QStringLiteral("PREVIEW_NAME")));
         column->addWidget(m_preview);
     }
     if (!rules.rows().empty()) {
-        m_rows = new OptionRows(rules, options);
-        connect(m_rows, &OptionRows::chosen, this, &RollView::chosen);
-        column->addWidget(m_rows);
+        m_rows = std::make_unique<OptionRows>(rules, options, chosen);
+        column->addLayout(m_rows->layout());
     }
     column->addStretch();
     columns->addLayout(column, 1);
 }
 
-void RollView::addButtons(QLayout *layout)
+void RollView::addButtons(QLayout *layout, const ChoicesHook &chosen)
 {
     const bool isOnly = m_rules.groups().size() == 1;
     for (const CutGroup &group : m_rules.groups()) {
         const QString title = isOnly ? m_texts.text(QStringLiteral("CUT_TITLE")) : group.title();
-        auto *const buttons = new CutButtons(group, title, m_texts);
-        connect(buttons, &CutButtons::chosen, this, &RollView::chosen);
-        layout->addWidget(buttons);
-        m_buttons.push_back(buttons);
+        m_buttons.push_back(std::make_unique<CutButtons>(group, title, m_texts, chosen));
+        layout->addWidget(m_buttons.back()->box());
     }
 }
 

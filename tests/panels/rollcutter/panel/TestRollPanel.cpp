@@ -4,7 +4,6 @@
 
 #include <rollcutter/panel/IntervalBox.h>
 #include <rollcutter/panel/RollPanel.h>
-#include <rollcutter/panel/RollPreview.h>
 #include <tests/support/TestDialog.h>
 
 #include <QComboBox>
@@ -58,7 +57,7 @@ protected:
         }
         ADD_FAILURE() << "no button " << text;
     }
-    IntervalBox *interval() const { return view->findChild<IntervalBox *>(); }
+    QSpinBox *interval() const { return view->findChild<QSpinBox *>(QStringLiteral("interval")); }
     QComboBox *list(const char *keyword) const
     {
         return view->findChild<QComboBox *>(QLatin1String(keyword));
@@ -275,7 +274,7 @@ TEST_F(RollPanelTest, HasAllTextsInNineLanguages)
 TEST_F(RollPanelTest, ThePreviewShowsTheCutsOfTheSetting)
 {
     show(roll_ppds::openCupsDriver("zebra.ppd"));
-    auto *const preview = view->findChild<RollPreview *>();
+    auto *const preview = view->findChild<QWidget *>(QStringLiteral("preview"));
     ASSERT_TRUE(preview);
     EXPECT_EQ(preview->accessibleName(), QStringLiteral("Preview of the cuts"));
     EXPECT_EQ(preview->accessibleDescription(), QStringLiteral("As set on the printer"));
