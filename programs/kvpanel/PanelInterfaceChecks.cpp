@@ -175,7 +175,7 @@ void checkStrip(PanelTrial &trial)
     const auto *const strip = interfaceOf<PDELabelStrip_v1>(trial);
     if (!strip)
         return;
-    for (const std::size_t count : {0, 1, 2, 7})
+    for (const std::size_t count : {0U, 1U, 2U, 7U})
         checkEffects(trial, *strip, trial.save().value_or(PDEChoices()), someLabels(count));
     // Without a choice, the marks count.
     checkEffects(trial, *strip, {}, someLabels(4));
