@@ -42,6 +42,7 @@ public:
     /// A call in progress, as long as the object exists. Calls can be nested; the innermost is recorded.
     class Call {
     public:
+        /// Begins the call of this name into the bundle in this folder.
         Call(PanelCallRecord &record, const QString &bundle, const char *name);
         ~Call();
         Call(const Call &) = delete;

@@ -13,6 +13,7 @@ namespace rollcutter {
 /// user tears, and question marks if the cuts are not known.
 class RollPreview : public QWidget {
 public:
+    /// A picture without cuts; see setEffects().
     RollPreview();
 
     /// The job of the picture: two copies of a document with three labels.

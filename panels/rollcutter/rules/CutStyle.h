@@ -48,6 +48,7 @@ struct CutStyleRow {
     const char *stripKey;
 };
 
+/// All styles, in the order of their values.
 inline constexpr std::array<CutStyleRow, 13> cutStyleTable = {{
     {CutStyle::EveryLabel, CutPlace::EveryLabel, false, "CUT_EVERY_LABEL", nullptr},
     {CutStyle::EveryFew, CutPlace::EveryFew, false, "CUT_EVERY_FEW", nullptr},

@@ -30,6 +30,7 @@ public:
     /// The PPD must outlive the object. Null stands for a printer without a PPD, which has no options.
     explicit PrinterOptions(ppd_file_t *ppd, PDEChoices given = {});
 
+    /// Whether the PPD has the option.
     bool has(const QString &keyword) const { return option(keyword); }
     /// The option's text for the user; empty if the PPD does not have the option.
     QString text(const QString &keyword) const;

@@ -51,6 +51,7 @@ public:
     /// The rules for the options that the PPD has.
     explicit RollRules(const PrinterOptions &options);
 
+    /// The options that select a way to cut, with their settings.
     const std::vector<CutGroup> &groups() const { return m_groups; }
     /// The options that are shown as lists, in display order: those that no group chooses.
     const std::vector<RollRow> &rows() const { return m_rows; }
