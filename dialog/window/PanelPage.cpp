@@ -61,8 +61,8 @@ void PanelPage::addHelp(QLayout *layout)
     layout->setAlignment(button, Qt::AlignLeft);
     connect(button, &QPushButton::clicked, this, [this, text] {
         // Not modal, so that the user can follow the help in the dialog.
-        auto *const help = new QMessageBox(QMessageBox::Information, m_panel.title(), *text,
-                                           QMessageBox::Close, window());
+        auto *const help =
+            new QMessageBox(QMessageBox::Information, m_panel.title(), *text, QMessageBox::Close, window());
         help->setTextFormat(Qt::PlainText);
         help->setAttribute(Qt::WA_DeleteOnClose);
         help->setModal(false);
