@@ -138,6 +138,8 @@ Result<PanelBundle, BundleError> PanelBundle::load(const BundleDescription &desc
 
     const QString &folder = description.folder;
     QPluginLoader loader(libraryPath(folder));
+    // A function that no library has is an error now instead of the end of the program when it is called.
+    loader.setLoadHints(loader.loadHints() | QLibrary::ResolveAllSymbolsHint);
     PanelBundle bundle;
     bundle.m_factory = qobject_cast<PDEPlugInFactory *>(loader.instance());
     if (!bundle.m_factory)

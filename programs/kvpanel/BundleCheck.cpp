@@ -56,6 +56,7 @@ host::Result<BundleCheckReport, BundleCheckError> BundleCheck::run(const QString
     QPluginLoader loader(bundle.filePath() + u'/' + library);
     if (!QFileInfo(loader.fileName()).isFile())
         return noBundle(folder, QStringLiteral("it has no library %1").arg(library));
+    loader.setLoadHints(loader.loadHints() | QLibrary::ResolveAllSymbolsHint);
     const QJsonObject metadata = loader.metaData();
     if (metadata.isEmpty())
         return noBundle(folder, loader.errorString());
@@ -64,8 +65,10 @@ host::Result<BundleCheckReport, BundleCheckError> BundleCheck::run(const QString
     check.m_breaches.setCall(QStringLiteral("metadata"));
     check.checkMetadata(metadata.value(QStringLiteral("MetaData")).toObject());
     // A library for another version of the interface is not loaded, as in a dialog.
-    if (check.checkInterface(metadata.value(QStringLiteral("IID")).toString()))
-        check.checkLibrary(qobject_cast<PDEPlugInFactory *>(loader.instance()), loader.errorString());
+    if (check.checkInterface(metadata.value(QStringLiteral("IID")).toString())) {
+        QObject *const factory = loader.instance();
+        check.checkLibrary(qobject_cast<PDEPlugInFactory *>(factory), loader.errorString());
+    }
     const auto isOfPrinter = [&](const QString &keyword) { return check.m_dialog->ppd().hasOption(keyword); };
     return BundleCheckReport{check.m_breaches.lines(), std::ranges::any_of(check.m_keywords, isOfPrinter)};
 }

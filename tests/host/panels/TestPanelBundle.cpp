@@ -77,6 +77,7 @@ TEST(PanelBundle, RefusesOthersWithTheReason)
     const Refusal rows[] = {
         {"other_version", BundleErrorKind::WrongInterfaceVersion, "version 9"},
         {"other_interface", BundleErrorKind::NotABundle, "contains no panels"},
+        {"missing_symbol", BundleErrorKind::NotABundle, "functionOfNoLibrary"},
         {"refusing", BundleErrorKind::Unusable, "does not work on this system"},
         {"needs_files", BundleErrorKind::ResourceMissing, "Resources/Layout.ui, Resources/Picture.png"},
     };

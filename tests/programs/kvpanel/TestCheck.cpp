@@ -108,6 +108,17 @@ TEST(Check, FindsNothingInAPanelThatFollowsTheProtocol)
     EXPECT_EQ(outcome.lines, QStringList());
 }
 
+TEST(Check, NamesTheFunctionThatNoLibraryHas)
+{
+    const CheckOutcome outcome = runCheck(
+        {QStringLiteral(KV_BINARY_DIR "/tests/bundles/missing_symbol/KVLXDZOptions.bundle"), checkedPpd});
+    EXPECT_EQ(outcome.status, 1) << outcome.errors.toStdString();
+    EXPECT_TRUE(std::ranges::any_of(outcome.lines, [](const QString &line) {
+        return line.startsWith(QStringLiteral("loading of the library: ")) &&
+               line.contains(QStringLiteral("functionOfNoLibrary"));
+    })) << outcome.lines.join(u'\n').toStdString();
+}
+
 TEST(Check, FindsNothingInTheCutOptionsPanel)
 {
     const QDir ppds(QStringLiteral(KV_SOURCE_DIR "/resources/ppd"));

@@ -8,6 +8,10 @@
 
 #include <QCheckBox>
 
+#ifdef TEST_MISSING_SYMBOL
+void functionOfNoLibrary();
+#endif
+
 namespace {
 
 class OneBoxPanel : public PDEPanel, public PDEUserChoices_v1 {
@@ -75,7 +79,13 @@ private:
 
 class OneBoxPlugIn : public PDEPlugIn {
 public:
-    bool initWithBundle(const platform::Bundle *) override { return TEST_ACCEPTS; }
+    bool initWithBundle(const platform::Bundle *) override
+    {
+#ifdef TEST_MISSING_SYMBOL
+        functionOfNoLibrary();
+#endif
+        return TEST_ACCEPTS;
+    }
     std::optional<PDEPanelList> PDEPanelsForType(const QString &type,
                                                  std::shared_ptr<PDEPluginCallback13_v400_> hostInfo) override
     {
