@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // A random walk through print dialogs with mouse, keys and accessibility: whatever is done, everything that
 // the dialog shows is what it would send, what it sends is what the printer receives, and what was chosen
-// stays chosen. KV_DIALOG_WALK_SEED repeats a walk, KV_DIALOG_WALK_STEPS makes it longer.
+// stays chosen. KV_DIALOG_WALK_SEED repeats a walk, KV_DIALOG_WALK_STEPS makes it longer,
+// KV_DIALOG_WALK_QUEUE keeps it on one queue.
 #include "Walk.h"
 
 #include "Dice.h"
@@ -83,7 +84,7 @@ TEST(DialogWalk, WhatIsShownIsWhatIsSentAndWhatIsChosenStays)
     walk::Dice dice(seed);
     WalkedServer server;
     Walk walk(server);
-    std::optional<Fault> fault = walk.begin(QStringLiteral("lx"));
+    std::optional<Fault> fault = walk.begin(server.destinations().constFirst());
     std::uint64_t step = 0;
     while (!fault && step < steps) {
         ++step;

@@ -65,6 +65,9 @@ WalkedServer::WalkedServer()
                  QStringLiteral("KvMirror=ON"), QStringLiteral("copies=2")});
     addInstance(QStringLiteral("dz/desk"),
                 {QStringLiteral("PageSize=DC29x90"), QStringLiteral("KvCutLabel=3")});
+    const QString only = qEnvironmentVariable("KV_DIALOG_WALK_QUEUE");
+    if (m_destinations.contains(only))
+        m_destinations = {only};
 }
 
 void WalkedServer::addQueue(const QString &name, const QByteArray &ppd, const QByteArray &other)
