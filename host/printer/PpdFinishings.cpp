@@ -27,7 +27,7 @@ std::vector<PpdFinishing> PpdOptions::finishings() const
     std::vector<PpdFinishing> finishings;
     for (const ppd_attr_t *each = ppdFindAttr(m_ppd.handle(), "cupsIPPFinishings", nullptr); each;
          each = ppdFindNextAttr(m_ppd.handle(), "cupsIPPFinishings", nullptr)) {
-        const PpdFinishing finishing{QByteArray(each->spec).toInt(), choicesIn(each->value)};
+        const PpdFinishing finishing{QByteArray(each->spec).toInt(), each->text, choicesIn(each->value)};
         if (finishing.number > 0 && !finishing.choices.empty())
             finishings.push_back(finishing);
     }

@@ -90,6 +90,8 @@ using PpdConstraint = std::vector<PpdConstraintSide>;
 struct PpdFinishing {
     /// The value of the IPP attribute "finishings", for example 60 for "trim-after-pages".
     int number = 0;
+    /// The keyword of this value.
+    QByteArray keyword;
     std::vector<std::pair<QByteArray, QByteArray>> choices;
 
     bool operator==(const PpdFinishing &) const = default;

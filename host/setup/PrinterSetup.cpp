@@ -61,7 +61,7 @@ PrinterSetup::~PrinterSetup()
 
 void PrinterSetup::markRequested(const SetupRequest &requested)
 {
-    std::vector<JobChoice> choices = requested.choices;
+    std::vector<JobChoice> choices = withFinishingsAsChoices(m_state->ppd(), requested.choices);
     std::erase_if(choices,
                   [](const JobChoice &requestedChoice) { return requestedChoice.name == paperKeyword; });
     CarriedChoices carried = carryOverChoices(choices, m_state->ppd());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JobOptions.h"
 
+#include "Finishings.h"
+
 #include <host/printer/PpdOptions.h>
 
 #include <QCoreApplication>
@@ -17,8 +19,6 @@ namespace {
 struct JobOptionsText {
     Q_DECLARE_TR_FUNCTIONS(host::cups::jobs::JobOptions)
 };
-
-constexpr const char *finishingsName = "finishings";
 
 /// Returns whether the option is another name for the paper, which could only contradict the exact one.
 bool isOtherPaperOption(const QByteArray &name)
@@ -91,38 +91,50 @@ void addPpdDefaults(Layers &layers, const PpdFile &ppd)
     }
 }
 
-/// Adds the finishings of IPP that the choices of the job stand for. The server of a driverless queue gives a
-/// job without "finishings" the printer's default, which its filters then prefer to the choices of the PPD: a
-/// job that is to be cut would not be cut.
-void addFinishings(Layers &layers, const PpdFile &ppd)
+/// Returns the choices of the PPD that the default finishings stand for. Every queue reports "none" if
+/// nothing else is set, also beside a default of its PPD option; that has no effect.
+std::vector<NamedValue> defaultFinishings(const PpdFile &ppd, const std::vector<NamedValue> &options)
 {
-    QByteArrayList numbers;
-    const JobOption *sent = nullptr;
-    for (const PpdFinishing &finishing : PpdOptions(ppd).finishings()) {
-        bool isChosen = true;
-        for (const auto &[keyword, choice] : finishing.choices) {
-            const JobOption *const option = layers.find(keyword);
-            isChosen = isChosen && option && option->value == choice;
-            if (option && option->isSent)
-                sent = option;
-        }
-        if (isChosen && finishing.number != noFinishing)
-            numbers.append(QByteArray::number(finishing.number));
-    }
-    if (!sent)
-        return;
-    if (numbers.isEmpty())
-        numbers.append(QByteArray::number(noFinishing));
-    const Origin origin = sent->origin;
-    layers.set(finishingsName, numbers.join(','), origin);
-    layers.send(finishingsName);
+    const QByteArray *const finishings = findValue(options, finishingsName);
+    if (!finishings || *finishings == QByteArray::number(noFinishing))
+        return {};
+    return choicesOfFinishings(ppd, *finishings);
 }
 
-bool isRequested(const QByteArray &name, const Destination &destination,
-                 const std::vector<JobChoice> &choices)
+/// Adds what the server applies to each job of the queue by itself.
+void addServerDefaults(Layers &layers, const Destination &destination, const PpdFile *ppd)
 {
-    return findValue(destination.userOptions, name) ||
-           std::ranges::find(choices, name, &JobChoice::name) != choices.end();
+    if (ppd)
+        addPpdDefaults(layers, *ppd);
+    for (const NamedValue &option : destination.queueOptions) {
+        if (!isOtherPaperOption(option.name))
+            layers.setByServer(option.name, option.value, Origin::Queue);
+    }
+    for (const auto &[name, value] :
+         ppd ? defaultFinishings(*ppd, destination.queueOptions) : std::vector<NamedValue>())
+        layers.setByServer(name, value, Origin::Queue);
+}
+
+/// Adds the finishings of IPP that the choices of the job stand for, if the job contains one of them.
+void addFinishings(Layers &layers, const PpdFile &ppd)
+{
+    const std::vector<PpdFinishing> finishings = PpdOptions(ppd).finishings();
+    std::optional<Origin> origin;
+    for (const PpdFinishing &finishing : finishings) {
+        for (const auto &[keyword, choice] : finishing.choices) {
+            const JobOption *const option = layers.find(keyword);
+            if (option && option->isSent)
+                origin = option->origin;
+        }
+    }
+    if (!origin)
+        return;
+    const QByteArray value = finishingsOf(finishings, [&](const QByteArray &keyword) {
+        const JobOption *const option = layers.find(keyword);
+        return option ? std::optional(option->value) : std::nullopt;
+    });
+    layers.set(finishingsName, value, *origin);
+    layers.send(finishingsName);
 }
 
 } // namespace
@@ -161,16 +173,29 @@ void setJobChoice(std::vector<JobChoice> &choices, const JobChoice &choice)
     known->origin = choice.origin;
 }
 
+std::vector<JobChoice> withFinishingsAsChoices(const PpdFile &ppd, const std::vector<JobChoice> &choices)
+{
+    const auto attribute = std::ranges::find(choices, QByteArray(finishingsName), &JobChoice::name);
+    if (attribute == choices.end())
+        return choices;
+    const std::vector<NamedValue> meant = choicesOfFinishings(ppd, attribute->value);
+    if (meant.empty())
+        return choices;
+    std::vector<JobChoice> replaced;
+    for (const NamedValue &each : meant)
+        setJobChoice(replaced, {each.name, each.value, attribute->origin});
+    for (const JobChoice &choice : choices) {
+        if (choice.name != finishingsName)
+            setJobChoice(replaced, choice);
+    }
+    return replaced;
+}
+
 std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
                                       const std::vector<JobChoice> &choices, const JobSettings &settings)
 {
     Layers layers;
-    if (ppd)
-        addPpdDefaults(layers, *ppd);
-    for (const NamedValue &option : destination.queueOptions) {
-        if (!isOtherPaperOption(option.name))
-            layers.setByServer(option.name, option.value, Origin::Queue);
-    }
+    addServerDefaults(layers, destination, ppd);
     const bool hasPaper = layers.has(paperKeyword);
     const auto paperOfQueue = hasPaper && ppd ? queuePaper(destination, *ppd) : std::nullopt;
     if (paperOfQueue)
@@ -179,12 +204,17 @@ std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdF
         if (!isFormatOption(option.name) && (!hasPaper || !isOtherPaperOption(option.name)))
             layers.set(option.name, option.value, Origin::UserDefault);
     }
+    for (const NamedValue &option :
+         ppd ? defaultFinishings(*ppd, destination.userOptions) : std::vector<NamedValue>())
+        layers.setByServer(option.name, option.value, Origin::UserDefault);
     for (const JobChoice &choice : choices) {
         layers.set(choice.name, choice.value, choice.origin);
         if (choice.isPanels)
             layers.send(choice.name);
     }
-    if (ppd && !isRequested(finishingsName, destination, choices))
+    const bool areFinishingsChosen =
+        std::ranges::find(choices, QByteArray(finishingsName), &JobChoice::name) != choices.end();
+    if (ppd && !areFinishingsChosen)
         addFinishings(layers, *ppd);
     for (const NamedValue &setting : settingValues(settings)) {
         // All pages are the default.
@@ -211,6 +241,8 @@ void markEffectiveDefaults(PpdFile &ppd, const Destination &destination)
 {
     ppd.markDefaults();
     const auto markNamed = [&](const std::vector<NamedValue> &options) {
+        for (const NamedValue &option : defaultFinishings(ppd, options))
+            ppd.mark(QString::fromUtf8(option.name), QString::fromUtf8(option.value));
         for (const NamedValue &option : options) {
             const QString name = QString::fromUtf8(option.name);
             if (ppd.hasOption(name))

@@ -31,6 +31,10 @@ struct JobChoice {
 /// requested has not made the choice.
 void setJobChoice(std::vector<JobChoice> &choices, const JobChoice &choice);
 
+/// Returns the choices with those of the PPD instead of "finishings", so that they can be shown and changed.
+/// A choice of an option itself counts more. See Finishings.h.
+std::vector<JobChoice> withFinishingsAsChoices(const PpdFile &ppd, const std::vector<JobChoice> &choices);
+
 /// An option of a job, with its origin.
 struct JobOption {
     QByteArray name;
@@ -47,7 +51,7 @@ struct JobOption {
 /// The options that are sent are the paper, always and under the PPD's exact name; the options that a panel
 /// has saved; the user's lpoptions, which the server does not know; and all others that differ from what the
 /// server does by itself. Without a PPD, the choices are sent unchanged. For choices that stand for
-/// finishings of IPP, the job also contains "finishings", unless it is requested itself; see PpdFinishing.
+/// finishings of IPP, the job also contains "finishings", unless the choices do; see Finishings.h.
 std::vector<JobOption> makeJobOptions(const Destination &destination, const PpdFile *ppd,
                                       const std::vector<JobChoice> &choices, const JobSettings &settings);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <host/cups/jobs/Finishings.h>
 #include <host/cups/jobs/JobOptions.h>
 #include <host/cups/jobs/LpCommand.h>
 #include <tests/support/PpdBuilder.h>
@@ -245,7 +246,81 @@ TEST(JobOptions, ChoicesThatAreFinishingsOfIppAreSentAsSuch)
     }
     Destination users = destination;
     users.userOptions = {{"finishings", "63"}};
-    EXPECT_EQ(sent({{"CutMedia", "EndOfPage"}}, users), "63");
+    EXPECT_EQ(sent({{"CutMedia", "EndOfPage"}}, users), "60");
+}
+
+TEST(JobOptions, FinishingsOfIppAreChoicesOfThePpd)
+{
+    const PpdBuilder builder = PpdBuilder()
+                                   .option({.keyword = "CutMedia",
+                                            .text = "Cut",
+                                            .choices = {{"None", ""}, {"EndOfPage", ""}, {"EndOfJob", ""}},
+                                            .defaultChoice = "EndOfJob"})
+                                   .option({.keyword = "Fold",
+                                            .text = "Fold",
+                                            .choices = {{"None", ""}, {"Half", ""}},
+                                            .defaultChoice = "None"})
+                                   .raw("*cupsIPPFinishings 60/trim-after-pages: \"*CutMedia EndOfPage\"\n"
+                                        "*cupsIPPFinishings 63/trim-after-job: \"*CutMedia EndOfJob\"\n"
+                                        "*cupsIPPFinishings 93/fold-half: \"*Fold Half\"\n");
+    const PpdFile ppd = openPpd(builder);
+    struct Row {
+        const char *finishings;
+        const char *choices;
+    };
+    const Row rows[] = {
+        {"60", "CutMedia=EndOfPage"},
+        {"trim-after-pages", "CutMedia=EndOfPage"},
+        {"60,93", "CutMedia=EndOfPage Fold=Half"},
+        {"93, trim-after-job", "Fold=Half CutMedia=EndOfJob"},
+        {"3", "CutMedia=None Fold=None"},
+        {"none", "CutMedia=None Fold=None"},
+        {"4", ""},
+        {"60,4", ""},
+        {"", ""},
+    };
+    for (const Row &row : rows) {
+        QByteArrayList choices;
+        for (const host::NamedValue &choice : host::choicesOfFinishings(ppd, row.finishings))
+            choices.append(choice.name + '=' + choice.value);
+        EXPECT_EQ(choices.join(' '), row.choices) << row.finishings;
+    }
+    const auto names = [&](const std::vector<JobChoice> &choices) {
+        QByteArrayList texts;
+        for (const JobChoice &choice : host::withFinishingsAsChoices(ppd, choices))
+            texts.append(choice.name + '=' + choice.value);
+        return texts.join(' ');
+    };
+    EXPECT_EQ(names({{"finishings", "60"}, {"KvMirror", "ON"}}), "CutMedia=EndOfPage KvMirror=ON");
+    EXPECT_EQ(names({{"finishings", "60"}, {"CutMedia", "None"}}), "CutMedia=None");
+    EXPECT_EQ(names({{"finishings", "4"}, {"CutMedia", "None"}}), "finishings=4 CutMedia=None");
+}
+
+TEST(JobOptions, FinishingsThatAreDefaultsAreMarked)
+{
+    const auto marked = [](const char *queue, const char *user) {
+        PpdFile file = openPpd(PpdBuilder()
+                                   .option({.keyword = "CutMedia",
+                                            .text = "Cut",
+                                            .choices = {{"None", ""}, {"EndOfPage", ""}, {"EndOfJob", ""}},
+                                            .defaultChoice = "EndOfJob"})
+                                   .raw("*cupsIPPFinishings 60/trim-after-pages: \"*CutMedia EndOfPage\"\n"));
+        Destination destination;
+        destination.queueOptions = {{"finishings", queue}};
+        if (*user)
+            destination.userOptions = {{"finishings", user}};
+        host::markEffectiveDefaults(file, destination);
+        const QString choice = file.markedChoice(QStringLiteral("CutMedia")).value_or(QString());
+        // What the job has agrees with what is marked.
+        const auto options = makeJobOptions(destination, &file, {}, {});
+        const auto found = std::ranges::find(options, QByteArray("CutMedia"), &JobOption::name);
+        EXPECT_TRUE(found != options.end() && QString::fromUtf8(found->value) == choice && !found->isSent);
+        return choice;
+    };
+    EXPECT_EQ(marked("3", ""), QStringLiteral("EndOfJob")) << "what every queue reports";
+    EXPECT_EQ(marked("60", ""), QStringLiteral("EndOfPage"));
+    EXPECT_EQ(marked("3", "60"), QStringLiteral("EndOfPage"));
+    EXPECT_EQ(marked("60", "4"), QStringLiteral("EndOfPage")) << "a finishing that the PPD does not have";
 }
 
 TEST(JobOptions, SettingsStandOverTheUsersDefaults)
