@@ -10,8 +10,7 @@ CutPanel::CutPanel(std::shared_ptr<PDEPluginCallback13_v400_> dialog)
     ppd_file_t *const ppd = m_dialog->ppdFile();
     const ppd_option_t *const option = ppd ? ppdFindOption(ppd, "CutMedia") : nullptr;
     if (option && option->num_choices >= 2)
-        m_choices = {QString::fromUtf8(option->choices[0].choice),
-                     QString::fromUtf8(option->choices[1].choice)};
+        m_choices = {option->choices[0].choice, option->choices[1].choice};
 }
 
 std::optional<QStringList> CutPanel::supportedPPDOptionKeys()

@@ -36,7 +36,6 @@ public:
 
 private:
     inline static const QString keyword = QStringLiteral("CutMedia");
-
     QString markedChoice() const;
 
     std::shared_ptr<PDEPluginCallback13_v400_> m_dialog;
