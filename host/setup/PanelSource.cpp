@@ -39,6 +39,7 @@ public:
         const std::shared_ptr<PanelSession> session = load(bundle, *guard, error);
         const auto panels = session ? session->panels().value_or(PDEPanelList()) : PDEPanelList();
         std::vector<std::unique_ptr<HostedPanel>> added;
+        added.reserve(panels.size());
         for (const std::shared_ptr<PDEPanel> &panel : panels)
             added.push_back(std::make_unique<HostedPanel>(session, panel, guard));
         if (session && panels.empty())

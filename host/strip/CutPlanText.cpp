@@ -27,9 +27,11 @@ QString cutPositions(const std::vector<PlannedLabel> &labels)
 {
     constexpr qsizetype maxNumbers = 8;
     QStringList numbers;
-    for (std::size_t i = 0; i < labels.size() && numbers.size() <= maxNumbers; ++i) {
-        if (labels[i].end.fullCut)
-            numbers.append(QLocale().toString(static_cast<qulonglong>(i + 1)));
+    qulonglong number = 0;
+    for (const PlannedLabel &label : labels) {
+        ++number;
+        if (label.end.fullCut && numbers.size() <= maxNumbers)
+            numbers.append(QLocale().toString(number));
     }
     if (numbers.size() > maxNumbers)
         numbers.back() = QStringLiteral("\u2026");

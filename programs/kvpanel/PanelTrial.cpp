@@ -32,7 +32,8 @@ QStringList changedKeywords(const TrialMarks &before, const TrialMarks &after)
 {
     QStringList changed;
     for (const auto &[keyword, choices] : after) {
-        if (before.at(keyword) != choices)
+        const auto old = before.find(keyword);
+        if (old == before.end() || old->second != choices)
             changed.append(QString::fromUtf8(keyword));
     }
     return changed;
@@ -106,7 +107,7 @@ std::optional<PDEChoices> PanelTrial::save()
     const QString check = m_breaches.setCall(QStringLiteral("saveValuesAndReturnError"));
     bool isDone = true;
     QString error;
-    const auto choices = call(saves, [&] { isDone = m_panel.saveValuesAndReturnError(&error); });
+    auto choices = call(saves, [&] { isDone = m_panel.saveValuesAndReturnError(&error); });
     if (!isDone)
         report(QStringLiteral("that the panel saves"),
                QStringLiteral("it returns false with the error \"%1\"").arg(error));

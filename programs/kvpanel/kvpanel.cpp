@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // kvpanel: the cut-options panel behind JSON lines, and the check of panel bundles.
-#include "BundleCheck.h"
+#include "CheckCommand.h"
 #include "LineReader.h"
 #include "PanelDriver.h"
 
@@ -44,31 +44,6 @@ QJsonObject replyTo(PanelDriver &driver, LineReader::Result result, const QByteA
     return driver.handle(document.object());
 }
 
-/// Checks a bundle and prints its breaches. Returns the exit status: 0 without a breach, 1 with breaches, 2
-/// if nothing can be checked.
-int check(const QStringList &arguments, bool hasBundleOption)
-{
-    if (arguments.size() != 2 || hasBundleOption) {
-        std::fprintf(stderr, "kvpanel: --check needs a bundle and a PPD, and no other option\n");
-        return 2;
-    }
-    const auto report = BundleCheck::run(arguments[0], arguments[1]);
-    if (!report) {
-        std::fprintf(stderr, "kvpanel: %s\n", qUtf8Printable(report.error().message));
-        return 2;
-    }
-    if (!report.value().isForPrinter)
-        std::fprintf(stderr, "kvpanel: \"%s\" has no option that \"%s\" handles; check it with another PPD\n",
-                     qUtf8Printable(arguments[1]), qUtf8Printable(arguments[0]));
-    for (const QString &line : report.value().breaches)
-        std::printf("%s\n", qUtf8Printable(line));
-    if (std::fflush(stdout) != 0) {
-        std::fprintf(stderr, "kvpanel: cannot write the breaches to standard output\n");
-        return 2;
-    }
-    return report.value().breaches.isEmpty() ? 0 : 1;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -95,7 +70,7 @@ int main(int argc, char **argv)
     parser.addOption(checkOption);
     parser.process(application);
     if (parser.isSet(checkOption))
-        return check(parser.positionalArguments(), parser.isSet(bundleOption));
+        return runCheck(parser.positionalArguments(), parser.isSet(bundleOption));
     if (!parser.positionalArguments().isEmpty()) {
         std::fprintf(stderr, "kvpanel: unexpected argument \"%s\"; requests come on standard input\n",
                      qPrintable(parser.positionalArguments().constFirst()));

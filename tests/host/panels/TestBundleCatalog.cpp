@@ -25,21 +25,22 @@ class Environment {
 public:
     void set(const char *name, const QString &value)
     {
-        m_before.emplace_back(name,
-                              qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt);
+        m_before.emplace(m_before.begin(), name,
+                         qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt);
         qputenv(name, value.toUtf8());
     }
     ~Environment()
     {
-        for (auto each = m_before.rbegin(); each != m_before.rend(); ++each) {
-            if (each->second)
-                qputenv(each->first, *each->second);
+        for (const auto &[name, value] : m_before) {
+            if (value)
+                qputenv(name, *value);
             else
-                qunsetenv(each->first);
+                qunsetenv(name);
         }
     }
 
 private:
+    /// The values before, the last change first.
     std::vector<std::pair<const char *, std::optional<QByteArray>>> m_before;
 };
 
@@ -114,7 +115,7 @@ TEST_F(BundleCatalogTest, TheFirstOfTwoBundlesWithOneNameIsUsed)
     install(QStringLiteral("home/kvprint/panels"), QStringLiteral("Same"));
     const QString first = install(QStringLiteral("own"), QStringLiteral("Same"));
     const BundleCatalog catalog = BundleCatalog::installed();
-    const auto bundles = catalog.bundles();
+    const auto &bundles = catalog.bundles();
     EXPECT_EQ(std::ranges::count(bundles, QStringLiteral("Same"), &host::BundleDescription::name), 1);
     EXPECT_EQ(std::ranges::find(bundles, QStringLiteral("Same"), &host::BundleDescription::name)->folder,
               first);

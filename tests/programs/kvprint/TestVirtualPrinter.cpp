@@ -168,9 +168,9 @@ TEST_F(KvprintVirtualPrinter, GoesOnWithoutAPanelButSaysSo)
         {KV_BINARY_DIR "/tests/bundles/refusing", "does not work on this system"},
         {KV_BINARY_DIR "/tests/bundles/needs_files", "Resources/Layout.ui"},
     };
-    for (const auto &[bundle, reason] : rows) {
-        const FilesOutcome outcome = print({QStringLiteral("--bundle"), QLatin1String(bundle)});
-        EXPECT_EQ(outcome.status, 3) << bundle << ": " << outcome.error.toStdString();
+    for (const auto &[folderOfBundle, reason] : rows) {
+        const FilesOutcome outcome = print({QStringLiteral("--bundle"), QLatin1String(folderOfBundle)});
+        EXPECT_EQ(outcome.status, 3) << folderOfBundle << ": " << outcome.error.toStdString();
         EXPECT_TRUE(outcome.error.contains(QLatin1String(reason))) << outcome.error.toStdString();
         EXPECT_EQ(written(), allFiles);
         QDir(output).removeRecursively();
