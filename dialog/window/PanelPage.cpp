@@ -26,10 +26,21 @@ PanelPage::PanelPage(host::HostedPanel &panel, QWidget *parent)
     : QWidget(parent)
     , m_panel(panel)
     , m_view(panel.view())
-    , m_frame(new QWidget)
-    , m_scrolled(new QScrollArea(this))
-    , m_note(new ConflictNote(this))
 {
+    if (!m_view)
+        return;
+    m_view->hide();
+    m_view->setParent(this);
+    // As when it is shown: a view whose size the panel has not set gets the size of its layout.
+    if (!m_view->testAttribute(Qt::WA_Resized))
+        m_view->adjustSize();
+}
+
+void PanelPage::addContents()
+{
+    m_frame = new QWidget;
+    m_scrolled = new QScrollArea(this);
+    m_note = new ConflictNote(this);
     if (m_view) {
         m_view->setParent(m_frame);
         m_view->move(0, 0);
@@ -42,12 +53,18 @@ PanelPage::PanelPage(host::HostedPanel &panel, QWidget *parent)
     setAutoFillBackground(true);
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this);
     m_note->setContentsMargins(margin, margin, margin, 0);
+    m_note->setSentences(m_conflicts);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_note);
     layout->addWidget(m_scrolled, 1);
     addHelp(layout);
     fitView();
+    // The layout would show them only after the page has been painted empty.
+    for (QObject *const each : children()) {
+        if (auto *const widget = qobject_cast<QWidget *>(each); widget && widget != m_note)
+            widget->show();
+    }
 }
 
 void PanelPage::addHelp(QLayout *layout)
@@ -78,26 +95,38 @@ PanelPage::~PanelPage()
     m_view->setParent(nullptr);
 }
 
+QSize PanelPage::viewSize() const
+{
+    // A view that is larger than the screen is scrolled.
+    return m_view ? m_view->size().boundedTo(screen()->availableSize() * 4 / 5) : QSize();
+}
+
+QSize PanelPage::minimumSizeHint() const
+{
+    return m_frame ? QWidget::minimumSizeHint() : viewSize();
+}
+
 void PanelPage::fitView()
 {
-    if (!m_view)
+    if (!m_view || !m_frame) {
+        updateGeometry();
         return;
+    }
     // The panel lays out its view itself; the page only provides the room that the view needs.
     m_frame->setFixedSize(m_view->size());
-    // A view that is larger than the screen is scrolled.
-    const int frame = 2 * m_scrolled->frameWidth();
-    const QSize room = screen()->availableSize() * 4 / 5;
-    m_scrolled->setMinimumSize((m_view->size() + QSize(frame, frame)).boundedTo(room));
+    m_scrolled->setMinimumSize(viewSize());
 }
 
 void PanelPage::postLaidOut() const
 {
-    if (m_view)
+    if (m_view && m_frame)
         platform::NotificationCenter::defaultCenter().post(viewIsLaidOut, m_view);
 }
 
 void PanelPage::showEvent(QShowEvent *event)
 {
+    if (!m_frame)
+        addContents();
     QWidget::showEvent(event);
     postLaidOut();
 }
@@ -110,7 +139,9 @@ void PanelPage::resizeEvent(QResizeEvent *event)
 
 void PanelPage::setConflicts(const QStringList &sentences)
 {
-    m_note->setSentences(sentences);
+    m_conflicts = sentences;
+    if (m_note)
+        m_note->setSentences(m_conflicts);
 }
 
 } // namespace window

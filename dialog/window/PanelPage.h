@@ -19,7 +19,8 @@ namespace dialog {
 inline namespace window {
 
 /// Shows a bundle's panel, above it the conflicts of the panel's settings, and below it a button for its help
-/// if the panel has any.
+/// if the panel has any. The page lays out the view when it is shown for the first time: a page that stays
+/// behind another one does not delay the opening of the dialog.
 class PanelPage : public QWidget {
     Q_OBJECT
 
@@ -36,21 +37,27 @@ public:
     void fitView();
     /// Shows the sentences that describe conflicts above the panel; an empty list removes them.
     void setConflicts(const QStringList &sentences);
+    /// The room that the view needs, even before the page is shown.
+    QSize minimumSizeHint() const override;
 
 protected:
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void addContents();
     void addHelp(QLayout *layout);
+    QSize viewSize() const;
     void postLaidOut() const;
 
     host::HostedPanel &m_panel;
     /// Null when the panel has deleted it.
     QPointer<QWidget> m_view;
-    QWidget *m_frame;
-    QScrollArea *m_scrolled;
-    ConflictNote *m_note;
+    QStringList m_conflicts;
+    // Null until the page is first shown.
+    QWidget *m_frame = nullptr;
+    QScrollArea *m_scrolled = nullptr;
+    ConflictNote *m_note = nullptr;
 };
 
 } // namespace window
