@@ -8,16 +8,29 @@
 
 namespace rollcutter {
 
+namespace {
+
+/// A list of choices that stays as narrow as the dialog: long texts of a PPD are shown in full when it is
+/// open. A size adjust policy would create the open list at once.
+class ChoiceBox : public QComboBox {
+public:
+    ChoiceBox() { setMinimumContentsLength(minimumLength); }
+
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
+private:
+    static constexpr int minimumLength = 18;
+};
+
+} // namespace
+
 OptionRows::OptionRows(const RollRules &rules, const PrinterOptions &options, const ChoicesHook &chosen)
     : m_layout(new QFormLayout)
 {
     for (const RollRow &row : rules.rows()) {
         const QString keyword = QString::fromLatin1(row.keyword);
-        auto *const box = new QComboBox;
+        auto *const box = new ChoiceBox;
         box->setObjectName(keyword);
-        // Long texts of a PPD are shown in full in the list; the panel stays as narrow as the dialog.
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(18);
         box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         for (const OptionChoice &choice : options.choices(keyword))
             box->addItem(PanelTexts::choiceText(options, keyword, choice.name), choice.name);

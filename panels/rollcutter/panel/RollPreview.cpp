@@ -13,7 +13,7 @@ constexpr int labelCount = 6;
 constexpr int labelsOfCopy = 3;
 
 /// The measures of the picture, in units of the height of a line of text.
-constexpr double labelWidth = 2.2;
+constexpr double labelWidth = 1.8;
 constexpr double labelHeight = 1.7;
 constexpr double gapWidth = 0.9;
 constexpr double backingMargin = 0.25;
