@@ -48,7 +48,8 @@ void FittedLabel::fit()
 {
     const int line = fontMetrics().lineSpacing();
     // Before the label is shown, its width is not the final one.
-    // heightForWidth() is never less than the minimum height, and so would keep the height of a longer message.
+    // heightForWidth() is never less than the minimum height, and would keep the height of a longer
+    // message.
     const QRect room(0, 0, width(), m_maxLines * line);
     const int needed = isVisible() ? fontMetrics().boundingRect(room, Qt::TextWordWrap, text()).height() : 0;
     setFixedHeight(qBound(m_minLines * line, needed, m_maxLines * line));
