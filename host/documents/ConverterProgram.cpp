@@ -26,6 +26,14 @@ QString privateFile(const QString &name)
     return QDir::cleanPath(programs.filePath(QStringLiteral(KV_PRIVATE_LIBRARIES))) + u'/' + name;
 }
 
+/// How a program that has ended did so.
+ConverterProgram::End endOf(const QProcess &process)
+{
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() == 2)
+        return ConverterProgram::End::TooLarge;
+    return process.exitCode() == 0 ? ConverterProgram::End::Converted : ConverterProgram::End::Rejected;
+}
+
 } // namespace
 
 ConverterProgram::ConverterProgram(const QString &converter)
@@ -46,9 +54,31 @@ ConverterProgram::End ConverterProgram::run(const QStringList &arguments, const 
     process.closeWriteChannel();
     process.waitForFinished(-1);
     m_output = process.readAllStandardOutput();
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() == 2)
-        return End::TooLarge;
-    return process.exitCode() == 0 ? End::Converted : End::Rejected;
+    return endOf(process);
+}
+
+ConverterProgram::End ConverterProgram::runOnFiles(const QStringList &arguments, const QString &input,
+                                                   const QString &output,
+                                                   const std::function<bool()> &isCanceled)
+{
+    constexpr int pollInterval = 100;
+    QProcess process;
+    process.setProgram(m_path);
+    process.setArguments(arguments);
+    process.setStandardInputFile(input);
+    process.setStandardOutputFile(output);
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start();
+    if (!process.waitForStarted(-1))
+        return End::Missing;
+    do {
+        if (!isCanceled())
+            continue;
+        process.kill();
+        process.waitForFinished(-1);
+        return End::Canceled;
+    } while (!process.waitForFinished(pollInterval) && process.state() != QProcess::NotRunning);
+    return endOf(process);
 }
 
 DocumentErrorReason ConverterProgram::missing() const

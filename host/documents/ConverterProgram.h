@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <functional>
+
 class QIODevice;
 
 namespace host {
@@ -23,6 +25,7 @@ public:
         Rejected, ///< the document is damaged (exit status 1)
         TooLarge, ///< the document exceeds the limits of the program (exit status 2, or a signal)
         Missing,  ///< the program is not there or cannot be started
+        Canceled, ///< the caller has canceled the conversion
     };
 
     /// The converter "imagepdf" is the program kvprint-imagepdf in the folder of the private libraries.
@@ -30,6 +33,10 @@ public:
 
     /// Runs the program, passes it the content on standard input, and waits until it ends.
     End run(const QStringList &arguments, const QByteArray &content);
+    /// Runs the program with standard input and standard output from and to files, and waits until it ends.
+    /// The output file must exist; its content is replaced. Ends the program when isCanceled returns true.
+    End runOnFiles(const QStringList &arguments, const QString &input, const QString &output,
+                   const std::function<bool()> &isCanceled);
     /// What the program wrote to standard output.
     const QByteArray &output() const { return m_output; }
     /// The error of a program that is missing, with its path.
