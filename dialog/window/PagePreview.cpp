@@ -50,7 +50,7 @@ PagePreview::PagePreview(const host::LabelDocument &document, QWidget *parent)
 void PagePreview::setRenderer(const host::LabelRenderer &renderer)
 {
     m_renderer = &renderer;
-    if (!m_pictures || m_pictures->paper() != renderer.paper()) {
+    if (!m_pictures || m_pictures->layout() != renderer.layout()) {
         m_pictures = renderer.makePictures();
         if (m_pictures)
             connect(m_pictures.get(), &host::LabelPictures::drawn, this, [this] {

@@ -36,13 +36,13 @@ StripPreview::StripPreview(QWidget *parent)
 void StripPreview::setPlan(const host::CutPlan &plan, const host::LabelRenderer &renderer)
 {
     m_renderer = &renderer;
-    const bool hasSamePaper = m_paper == renderer.paper();
-    if (hasSamePaper && m_plan == plan)
+    const bool hasSameLayout = m_pageLayout == renderer.layout();
+    if (hasSameLayout && m_plan == plan)
         return;
     m_layout.reset();
     m_plan = plan;
-    m_paper = renderer.paper();
-    if (!hasSamePaper || !m_pictures) {
+    m_pageLayout = renderer.layout();
+    if (!hasSameLayout || !m_pictures) {
         m_pictures = renderer.makePictures();
         if (m_pictures)
             connect(m_pictures.get(), &host::LabelPictures::drawn, this, [this] { viewport()->update(); });
@@ -86,7 +86,7 @@ void StripPreview::layOut()
         horizontalScrollBar()->setRange(0, 0);
         return;
     }
-    const host::Millimetres tapeWidth(host::Points(m_paper.width()));
+    const host::Millimetres tapeWidth(host::Points(m_pageLayout.paper.width()));
     // The layout needs 18 units above and below the tape, and some spacing. The room of the scroll bar is
     // always reserved: a strip that used it while the bar is hidden would need the bar again.
     const int height = maximumViewportSize().height() - horizontalScrollBar()->sizeHint().height();

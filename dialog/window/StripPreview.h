@@ -62,8 +62,8 @@ private:
     std::optional<host::CutPlan> m_plan;
     /// Null after clear().
     const host::LabelRenderer *m_renderer = nullptr;
-    /// The size of the paper that is shown, in points.
-    QSizeF m_paper;
+    /// The layout of the pages that are shown.
+    host::PageLayout m_pageLayout;
     /// Null if labels are drawn synchronously.
     std::unique_ptr<host::LabelPictures> m_pictures;
     std::optional<host::StripLayout> m_layout;

@@ -21,9 +21,9 @@ constexpr std::size_t maxPagesPerTask = 2000;
 
 } // namespace
 
-BlankMeasurer::BlankMeasurer(PageThread &thread, QSizeF paper, int pageCount)
+BlankMeasurer::BlankMeasurer(PageThread &thread, const PageLayout &layout, int pageCount)
     : m_thread(thread)
-    , m_paper(paper)
+    , m_layout(layout)
     , m_extents(static_cast<std::size_t>(pageCount))
     , m_isRequested(static_cast<std::size_t>(pageCount))
 {
@@ -78,9 +78,9 @@ void BlankMeasurer::start()
     const std::size_t count = std::min(m_requested.size() - m_next, maxPagesPerTask);
     const auto first = m_requested.begin() + static_cast<std::ptrdiff_t>(m_next);
     const auto measure = [this, pages = std::vector<int>(first, first + static_cast<std::ptrdiff_t>(count)),
-                          paper = m_paper, isCanceled = m_isCanceled](
+                          layout = m_layout, isCanceled = m_isCanceled](
                              const LabelDocument &document, const PageThread::ShouldPause &shouldPause) {
-        const LabelDrawing drawing(document, paper);
+        const LabelDrawing drawing(document, layout);
         const QDeadlineTimer end(interval);
         Measured results;
         for (const int page : pages) {

@@ -4,8 +4,9 @@
 #include "LabelExtent.h"
 #include "PageThread.h"
 
+#include <host/layout/PageLayout.h>
+
 #include <QElapsedTimer>
-#include <QSizeF>
 
 #include <atomic>
 #include <memory>
@@ -21,9 +22,9 @@ class BlankMeasurer : public QObject {
     Q_OBJECT
 
 public:
-    /// The paper's width and length are in points. The thread is borrowed; its document has this number of
+    /// The thread is borrowed; its document has this number of
     /// pages.
-    BlankMeasurer(PageThread &thread, QSizeF paper, int pageCount);
+    BlankMeasurer(PageThread &thread, const PageLayout &layout, int pageCount);
 
     /// Returns the extent of the page; absent if it is not measured yet. Then the page is measured after the
     /// next event, and measured() is emitted.
@@ -47,7 +48,7 @@ private:
     void store(const Measured &results);
 
     PageThread &m_thread;
-    QSizeF m_paper;
+    PageLayout m_layout;
     std::vector<std::optional<LabelExtent>> m_extents;
     /// The requested pages; those before m_next are measured.
     std::vector<int> m_requested;

@@ -6,6 +6,7 @@
 #include <host/base/Length.h>
 
 #include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -15,55 +16,43 @@ inline namespace labels {
 
 namespace {
 
-/// Sizes in PDFs are rounded, often to whole points; a page this little too large is not shrunk.
-constexpr double tolerance = 0.5;
 /// Pixels that one image of a label may have, and along one side what QPainter can draw.
 constexpr double maxPixels = 40e6;
 constexpr double maxPixelsPerSide = 32000.0;
 /// As fine as the usual label printer's 203 dots an inch.
 constexpr double measuringResolution = 8.0;
 
-bool isLying(QSizeF size)
+/// How strongly the part of a page that is not printed is drawn.
+constexpr double faint = 0.25;
+
+/// Returns the size of the image of the page as it is read; the label shows it turned.
+QSize imageSize(const PagePlacement &placement, const QRectF &onStrip)
 {
-    return size.width() > size.height();
+    // On the strip the label lies on its side.
+    const QSizeF size = placement.isOnSide() ? onStrip.size() : onStrip.size().transposed();
+    return size.toSize().expandedTo({1, 1});
 }
 
 } // namespace
 
-LabelDrawing::LabelDrawing(const LabelDocument &document, QSizeF paper)
+LabelDrawing::LabelDrawing(const LabelDocument &document, const PageLayout &layout)
     : m_document(document)
-    , m_paper(paper)
-    , m_label(inMillimetres(paper.transposed()))
+    , m_layout(layout)
+    , m_label(inMillimetres(layout.paper.transposed()))
 {
 }
 
-bool LabelDrawing::isTurned(int page) const
+PagePlacement LabelDrawing::place(int page) const
 {
-    const QSizeF size = m_document.pageSize(page);
-    // A square page or a square label needs no turning.
-    return (isLying(size) && isLying(m_paper.transposed())) ||
-           (isLying(size.transposed()) && isLying(m_paper));
+    return m_layout.place(m_document.pageSize(page));
 }
 
-QSizeF LabelDrawing::pageOnStrip(int page) const
+double LabelDrawing::possibleResolution(const PagePlacement &placement, double pixelsPerMillimetre) const
 {
-    const QSizeF size = inMillimetres(m_document.pageSize(page));
-    return isTurned(page) ? size : size.transposed();
-}
-
-double LabelDrawing::scale(int page) const
-{
-    const QSizeF size = pageOnStrip(page);
-    if (size.width() <= m_label.width() + tolerance && size.height() <= m_label.height() + tolerance)
-        return 1.0;
-    return std::min(m_label.width() / size.width(), m_label.height() / size.height());
-}
-
-double LabelDrawing::possibleResolution(double pixelsPerMillimetre) const
-{
-    return std::min({pixelsPerMillimetre, maxPixelsPerSide / m_label.width(),
-                     maxPixelsPerSide / m_label.height(),
-                     std::sqrt(maxPixels / (m_label.width() * m_label.height()))});
+    // A page that is not shrunk may be larger than the label.
+    const QSizeF room = m_label.expandedTo(inMillimetres(placement.area.size().transposed()));
+    return std::min({pixelsPerMillimetre, maxPixelsPerSide / room.width(), maxPixelsPerSide / room.height(),
+                     std::sqrt(maxPixels / (room.width() * room.height()))});
 }
 
 QSize LabelDrawing::labelPixels(double pixelsPerMillimetre) const
@@ -71,47 +60,65 @@ QSize LabelDrawing::labelPixels(double pixelsPerMillimetre) const
     return (m_label * pixelsPerMillimetre).toSize().expandedTo({1, 1});
 }
 
-QSize LabelDrawing::pagePixels(int page, double pixelsPerMillimetre) const
+QRectF LabelDrawing::onStrip(const QRectF &onLabel, double pixelsPerMillimetre) const
 {
-    const QSizeF onStrip = pageOnStrip(page) * scale(page) * pixelsPerMillimetre;
-    return (isTurned(page) ? onStrip : onStrip.transposed()).toSize().expandedTo({1, 1});
+    const double pixels = pixelsPerMillimetre * Millimetres(Points(1.0)).number();
+    return {onLabel.top() * pixels, (m_layout.paper.width() - onLabel.right()) * pixels,
+            onLabel.height() * pixels, onLabel.width() * pixels};
 }
 
 QImage LabelDrawing::draw(int page, double pixelsPerMillimetre) const
 {
-    const double resolution = possibleResolution(pixelsPerMillimetre);
-    const QSize pixels = labelPixels(resolution);
-    QImage label(pixels, QImage::Format_RGB32);
+    const PagePlacement placement = place(page);
+    const double resolution = possibleResolution(placement, pixelsPerMillimetre);
+    QImage label(labelPixels(resolution), QImage::Format_RGB32);
     label.fill(Qt::white);
-    const QSize drawn = pagePixels(page, resolution);
+    const QRectF area = onStrip(placement.area, resolution);
+    const QImage image = m_document.renderTransparent(page, imageSize(placement, area));
     QPainter painter(&label);
-    painter.translate(QPointF(pixels.width(), pixels.height()) / 2.0);
-    if (!isTurned(page))
-        painter.rotate(-90.0);
-    painter.drawImage(QPointF(-drawn.width() / 2.0, -drawn.height() / 2.0),
-                      m_document.renderTransparent(page, drawn));
+    const auto paint = [&] {
+        painter.save();
+        // Whole pixels: the image is not blurred.
+        painter.translate(area.center());
+        painter.rotate(90.0 * (placement.quarterTurns - 1));
+        painter.drawImage(QPointF(-image.width() / 2.0, -image.height() / 2.0), image);
+        painter.restore();
+    };
+    const QRectF printable = onStrip(m_layout.printableArea(), resolution);
+    if (!printable.contains(area)) {
+        painter.setOpacity(faint);
+        paint();
+        painter.setOpacity(1.0);
+        painter.fillRect(printable, Qt::white);
+        painter.setClipRect(printable);
+    }
+    paint();
     return label;
 }
 
 LabelExtent LabelDrawing::measure(int page) const
 {
-    const double resolution = possibleResolution(measuringResolution);
-    const QSize label = labelPixels(resolution);
-    const QSize drawn = pagePixels(page, resolution);
-    const bool turned = isTurned(page);
-    // The label's place in the page's pixels: page and label have one centre.
-    const QSize labelAsRead = turned ? label : label.transposed();
-    const QPoint corner((drawn.width() - labelAsRead.width()) / 2,
-                        (drawn.height() - labelAsRead.height()) / 2);
-    const QRect area(corner, labelAsRead);
-    const QImage image = m_document.renderTransparent(page, drawn);
-    const std::optional<InkSpan> ink = turned ? inkedColumns(image, area) : inkedRows(image, area);
+    const PagePlacement placement = place(page);
+    const double resolution = possibleResolution(placement, measuringResolution);
+    const QRectF area = onStrip(placement.area, resolution);
+    const QImage image = m_document.renderTransparent(page, imageSize(placement, area));
+    // The printable part of the page in the pixels of its image.
+    const QTransform toImage = QTransform::fromTranslate(-area.center().x(), -area.center().y()) *
+                               QTransform().rotate(-90.0 * (placement.quarterTurns - 1)) *
+                               QTransform::fromTranslate(image.width() / 2.0, image.height() / 2.0);
+    const QRectF printable = onStrip(m_layout.printableArea(), resolution);
+    const QRect part = toImage.mapRect(printable).toRect() & image.rect();
+    const std::optional<InkSpan> ink =
+        placement.isOnSide() ? inkedColumns(image, part) : inkedRows(image, part);
     if (!ink)
         return {.length = Millimetres(m_label.width()), .whollyBlank = true};
-    const int before = ink->first - (turned ? area.left() : area.top());
-    const int after = label.width() - before - (ink->end - ink->first);
-    const Millimetres pixel(m_label.width() / label.width());
-    return {Millimetres(m_label.width()), before * pixel, after * pixel, false};
+    const QRectF inked = placement.isOnSide() ? QRectF(ink->first, 0.0, ink->end - ink->first, image.height())
+                                              : QRectF(0.0, ink->first, image.width(), ink->end - ink->first);
+    const QRectF span = toImage.inverted().mapRect(inked);
+    const Millimetres length(m_label.width());
+    const Millimetres pixel(1.0 / resolution);
+    return {length, std::max(Millimetres(), span.left() * pixel),
+            std::max(Millimetres(), length - span.right() * pixel), false};
 }
 
 } // namespace labels

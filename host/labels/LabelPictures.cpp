@@ -19,10 +19,10 @@ constexpr qint64 maxBytes = 128LL * 1024 * 1024;
 
 } // namespace
 
-LabelPictures::LabelPictures(const LabelDocument &document, PageThread &thread, QSizeF paper)
+LabelPictures::LabelPictures(const LabelDocument &document, PageThread &thread, const PageLayout &layout)
     : m_document(document)
     , m_thread(thread)
-    , m_paper(paper)
+    , m_layout(layout)
 {
 }
 
@@ -58,9 +58,9 @@ void LabelPictures::start()
     if (m_isDrawing || m_missing.empty())
         return;
     m_isDrawing = true;
-    const auto draw = [this, pages = m_missing, paper = m_paper, resolution = m_resolution](
+    const auto draw = [this, pages = m_missing, layout = m_layout, resolution = m_resolution](
                           const LabelDocument &document, const PageThread::ShouldPause &shouldPause) {
-        const LabelDrawing drawing(document, paper);
+        const LabelDrawing drawing(document, layout);
         const QDeadlineTimer end(drawingSlice);
         std::vector<Drawn> results;
         for (const int page : pages) {

@@ -3,10 +3,10 @@
 
 #include "PageThread.h"
 #include <host/documents/LabelDocument.h>
+#include <host/layout/PageLayout.h>
 
 #include <QHash>
 #include <QImage>
-#include <QSizeF>
 
 #include <vector>
 
@@ -19,11 +19,11 @@ class LabelPictures : public QObject {
     Q_OBJECT
 
 public:
-    /// The paper's width and length in points. Document and thread are borrowed and belong together.
-    LabelPictures(const LabelDocument &document, PageThread &thread, QSizeF paper);
+    /// Document and thread are borrowed and belong together.
+    LabelPictures(const LabelDocument &document, PageThread &thread, const PageLayout &layout);
 
-    /// The paper's width and length in points.
-    QSizeF paper() const { return m_paper; }
+    /// The layout of all pages.
+    const PageLayout &layout() const { return m_layout; }
 
     /// Sets the visible pages and the pixels per millimetre. Waiting pages that are no longer visible are
     /// not drawn, except for the few that the thread is drawing.
@@ -56,7 +56,7 @@ private:
 
     const LabelDocument &m_document;
     PageThread &m_thread;
-    QSizeF m_paper;
+    PageLayout m_layout;
     QHash<int, Picture> m_pictures;
     qint64 m_bytes = 0;
     double m_resolution = 0.0;

@@ -16,25 +16,25 @@ constexpr int cacheSize = 128 * 1024;
 
 } // namespace
 
-LabelRenderer::LabelRenderer(const LabelDocument &document, QSizeF paper)
+LabelRenderer::LabelRenderer(const LabelDocument &document, const PageLayout &layout)
     : m_document(document)
-    , m_drawing(document, paper)
+    , m_drawing(document, layout)
     , m_images(cacheSize)
 {
 }
 
-LabelRenderer::LabelRenderer(const LabelDocument &document, QSizeF paper, PageThread &thread)
-    : LabelRenderer(document, paper)
+LabelRenderer::LabelRenderer(const LabelDocument &document, const PageLayout &layout, PageThread &thread)
+    : LabelRenderer(document, layout)
 {
     m_thread = &thread;
-    m_measurer = std::make_unique<BlankMeasurer>(thread, paper, document.pageCount());
+    m_measurer = std::make_unique<BlankMeasurer>(thread, layout, document.pageCount());
 }
 
 LabelRenderer::~LabelRenderer() = default;
 
 bool LabelRenderer::shrinks(int page) const
 {
-    return (!m_thread || m_document.isPageSizeKnown(page)) && m_drawing.scale(page) < 1.0;
+    return (!m_thread || m_document.isPageSizeKnown(page)) && m_drawing.place(page).scale < 1.0;
 }
 
 LabelExtent LabelRenderer::extent(int page, MeasureBlank blank) const
@@ -60,7 +60,7 @@ QImage LabelRenderer::render(int page, double pixelsPerMillimetre) const
 
 std::unique_ptr<LabelPictures> LabelRenderer::makePictures() const
 {
-    return m_thread ? std::make_unique<LabelPictures>(m_document, *m_thread, paper()) : nullptr;
+    return m_thread ? std::make_unique<LabelPictures>(m_document, *m_thread, layout()) : nullptr;
 }
 
 } // namespace labels

@@ -24,24 +24,19 @@ enum class MeasureBlank { No, Yes };
 /// blank is measured and pictures for the screen are drawn in the background; without one, immediately.
 class LabelRenderer {
 public:
-    /// The paper's width and length in points. The document is borrowed.
-    LabelRenderer(const LabelDocument &document, QSizeF paper);
+    /// The document is borrowed.
+    LabelRenderer(const LabelDocument &document, const PageLayout &layout);
     /// The thread is borrowed and belongs to the document.
-    LabelRenderer(const LabelDocument &document, QSizeF paper, PageThread &thread);
+    LabelRenderer(const LabelDocument &document, const PageLayout &layout, PageThread &thread);
     ~LabelRenderer();
 
-    /// The paper's width and length in points.
-    QSizeF paper() const { return m_drawing.paper(); }
+    /// The layout of all pages.
+    const PageLayout &layout() const { return m_drawing.layout(); }
     /// Length along the tape and width across it, in millimetres.
     QSizeF labelSize() const { return m_drawing.labelSize(); }
     /// Returns whether the page is larger than the label. With a page thread, false for a page whose size is
     /// not read yet; the size is known once its picture is drawn.
     bool shrinks(int page) const;
-    /// The direction on the strip in which the page's lines of text run, for mirroring.
-    Qt::Orientation readingDirection(int page) const
-    {
-        return m_drawing.isTurned(page) ? Qt::Horizontal : Qt::Vertical;
-    }
     /// Returns the extent of the page. With a page thread, a blank that is not known yet is 0 (isMeasured is
     /// false) and is measured in the background; measurer() reports it.
     LabelExtent extent(int page, MeasureBlank blank) const;

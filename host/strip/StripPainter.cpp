@@ -151,9 +151,9 @@ void StripPainter::paintPicture(QPainter &painter, std::size_t index, const QIma
     painter.save();
     painter.setClipRect(label, Qt::IntersectClip);
     if (m_layout.plan().effects().mirror) {
-        const bool alongTape = m_renderer.readingDirection(planned.page) == Qt::Horizontal;
+        // Printers mirror the raster of the label across the tape, whichever way the page is turned on it.
         painter.translate(label.center());
-        painter.scale(alongTape ? -1.0 : 1.0, alongTape ? 1.0 : -1.0);
+        painter.scale(1.0, -1.0);
         painter.translate(-label.center());
     }
     // Draws the whole image clipped, so that a PDF contains it only once, however often the label is printed.

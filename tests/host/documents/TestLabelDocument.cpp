@@ -102,7 +102,6 @@ TEST(LabelRenderer, LaysAnUprightPageWithItsTopFirst)
     const LabelRenderer renderer(*document, QSizeF(24, 60) * mm);
     EXPECT_NEAR(renderer.labelSize().width(), 60.0, 1e-6);
     EXPECT_NEAR(renderer.labelSize().height(), 24.0, 1e-6);
-    EXPECT_EQ(renderer.readingDirection(0), Qt::Vertical);
     const QImage image = renderer.render(0, 4.0);
     EXPECT_EQ(image.size(), QSize(240, 96));
     // The page's top is on the left, its left edge at the bottom.
@@ -116,7 +115,6 @@ TEST(LabelRenderer, TurnsALyingPageWithItsLeftEdgeFirst)
     const Sandbox sandbox;
     const auto document = openPages(sandbox, {pageWithBox({60, 24}, {0, 0, 6, 6})});
     const LabelRenderer renderer(*document, QSizeF(24, 60) * mm);
-    EXPECT_EQ(renderer.readingDirection(0), Qt::Horizontal);
     const QImage image = renderer.render(0, 4.0);
     EXPECT_EQ(image.size(), QSize(240, 96));
     EXPECT_TRUE(isBlack(image, 10, 10));

@@ -79,10 +79,10 @@ TEST_F(StripPainterTest, LabelsLieWhereTheLayoutSays)
     EXPECT_DOUBLE_EQ(layout->label(1).left(), 3.0 + 60.0 + 7.0);
 }
 
-TEST_F(StripPainterTest, MirroredLabelsAreTurnedRoundInTheirReadingDirection)
+TEST_F(StripPainterTest, MirroredLabelsAreMirroredAcrossTheTape)
 {
     draw({.mirror = true}, 1);
-    EXPECT_TRUE(isDark(45.0, 5.0));
+    EXPECT_TRUE(isDark(15.0, 19.0));
     EXPECT_TRUE(isWhite(15.0, 5.0));
     EXPECT_TRUE(isWhite(45.0, 19.0));
 }
@@ -92,8 +92,9 @@ TEST_F(StripPainterTest, WithoutBlankTheLabelBeginsAndEndsWithItsPrint)
     for (const bool mirror : {false, true}) {
         draw({.mirror = mirror, .removeBlank = true}, 1);
         EXPECT_NEAR(plan.labels()[0].length.number(), 10.0, 0.3);
-        EXPECT_TRUE(isDark(0.8, 5.0)) << mirror;
-        EXPECT_TRUE(isDark(9.2, 5.0)) << mirror;
+        const double across = mirror ? 19.0 : 5.0;
+        EXPECT_TRUE(isDark(0.8, across)) << mirror;
+        EXPECT_TRUE(isDark(9.2, across)) << mirror;
     }
 }
 
