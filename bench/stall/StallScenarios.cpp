@@ -230,14 +230,14 @@ StallScenarios::Duration StallScenarios::refusedJob()
 
 StallScenarios::Duration StallScenarios::brokenUpload()
 {
-    makeDocumentLarger(largeDocument);
+    makeDocumentLarge(largeDocument);
     const FaultProxy breaking(cupsd->port(), test_support::cutRequests(IPP_OP_SEND_DOCUMENT, 1'000'000));
     return sendTo(serverAt(breaking.address()));
 }
 
 StallScenarios::Duration StallScenarios::fullSpool()
 {
-    makeDocumentLarger(largeDocument);
+    makeDocumentLarge(largeDocument);
     cupsd->setSpoolFull(true);
     const Duration longest = sendTo(serverAt(cupsd->address()));
     cupsd->setSpoolFull(false);
@@ -252,7 +252,7 @@ StallScenarios::Duration StallScenarios::silentWhileSending()
 
 StallScenarios::Duration StallScenarios::stoppedUpload()
 {
-    makeDocumentLarger(largeDocument);
+    makeDocumentLarge(largeDocument);
     const FaultyServer stalling(cupsd->port(), {.stallAfter = 500'000});
     return sendTo(serverAt(stalling.address()), [&] {
         waitUntil([&] { return stalling.stalledCount() == 1; });

@@ -49,6 +49,7 @@ JobPage::JobPage(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLineEdit(this))
     , m_orientation(new QComboBox(this))
+    , m_scaling(new QComboBox(this))
     , m_hold(new QComboBox(this))
     , m_time(new QTimeEdit(this))
     , m_priority(new QSpinBox(this))
@@ -56,6 +57,7 @@ JobPage::JobPage(QWidget *parent)
     build();
     connect(m_title, &QLineEdit::textEdited, this, &JobPage::changed);
     connect(m_orientation, &QComboBox::activated, this, &JobPage::changed);
+    connect(m_scaling, &QComboBox::activated, this, &JobPage::changed);
     connect(m_hold, &QComboBox::activated, this, &JobPage::holdChosen);
     connect(m_time, &QTimeEdit::userTimeChanged, this, &JobPage::changed);
     connect(m_priority, &QSpinBox::valueChanged, this, &JobPage::changed);
@@ -68,6 +70,7 @@ void JobPage::build()
     constexpr int maxTitleLength = 255;
     m_title->setMaxLength(maxTitleLength);
     fillOrientations();
+    fillScalings();
     fillHolds();
     m_time->setAccessibleName(tr("Print time"));
     // Qt reverses a time in a right-to-left window, but times are written from left to right there.
@@ -89,6 +92,7 @@ void JobPage::build()
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("Job &name"), m_title);
     form->addRow(tr("Orienta&tion"), m_orientation);
+    form->addRow(tr("Page si&ze"), m_scaling);
     auto *const whenLabel = new QLabel(tr("When to pr&int"), this);
     whenLabel->setBuddy(m_hold);
     form->addRow(whenLabel, when);
@@ -106,6 +110,19 @@ void JobPage::fillOrientations()
     };
     for (const auto &[orientation, text] : entries)
         m_orientation->addItem(text, static_cast<int>(orientation));
+}
+
+void JobPage::fillScalings()
+{
+    m_scaling->addItem(tr("Queue default"));
+    const std::pair<host::Scaling, QString> entries[] = {
+        {host::Scaling::ShrinkLarge, tr("Shrink pages larger than the label")},
+        {host::Scaling::Fit, tr("Fit to the printable area")},
+        {host::Scaling::Fill, tr("Fill the label")},
+        {host::Scaling::ActualSize, tr("Actual size")},
+    };
+    for (const auto &[scaling, text] : entries)
+        m_scaling->addItem(text, static_cast<int>(scaling));
 }
 
 void JobPage::fillHolds()
@@ -132,6 +149,8 @@ void JobPage::setSettings(const host::JobSettings &settings)
     const int orientation =
         settings.orientation ? m_orientation->findData(static_cast<int>(*settings.orientation)) : 0;
     m_orientation->setCurrentIndex(orientation);
+    m_scaling->setCurrentIndex(settings.scaling ? m_scaling->findData(static_cast<int>(*settings.scaling))
+                                                : 0);
     showHold(settings.hold.value_or(QString()));
     // lp sends a job with "immediate" at the highest priority, so that it is printed before all others.
     const bool isFirst = settings.hold == QStringLiteral("immediate");
@@ -179,6 +198,8 @@ host::JobSettings JobPage::settings() const
     host::JobSettings settings;
     if (m_orientation->currentIndex() > 0)
         settings.orientation = static_cast<host::Orientation>(m_orientation->currentData().toInt());
+    if (m_scaling->currentIndex() > 0)
+        settings.scaling = static_cast<host::Scaling>(m_scaling->currentData().toInt());
     settings.hold = hold();
     if (m_priority->value() > 0)
         settings.priority = m_priority->value();

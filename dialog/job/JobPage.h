@@ -13,8 +13,8 @@ class QTimeEdit;
 namespace dialog {
 inline namespace job {
 
-/// The settings that the print server applies: the job's name, its orientation, when it is printed, and its
-/// priority. A setting without a chosen value is absent, and the queue's default applies.
+/// The settings that the print server applies: the job's name, its orientation, scaling, when it is printed,
+/// and its priority. A setting without a chosen value is absent, and the queue's default applies.
 class JobPage : public QWidget {
     Q_OBJECT
 
@@ -22,11 +22,11 @@ public:
     /// Creates the page without settings and without a name.
     explicit JobPage(QWidget *parent);
 
-    /// Shows orientation, hold and priority without emitting a signal. A value of hold that the page does not
-    /// know is kept unchanged.
+    /// Shows orientation, scaling, hold and priority without emitting a signal. A value of hold that the page
+    /// does not know is kept unchanged.
     void setSettings(const host::JobSettings &settings);
-    /// Returns orientation, hold and priority. Copies, pages and order are not set on this page and are
-    /// absent.
+    /// Returns orientation, scaling, hold and priority. Copies, pages and order are not set on this page and
+    /// are absent.
     host::JobSettings settings() const;
 
     /// The job's name, as the user has entered it.
@@ -40,6 +40,7 @@ Q_SIGNALS:
 private:
     void build();
     void fillOrientations();
+    void fillScalings();
     void fillHolds();
     void showHold(const QString &hold);
     void holdChosen();
@@ -47,6 +48,7 @@ private:
 
     QLineEdit *m_title;
     QComboBox *m_orientation;
+    QComboBox *m_scaling;
     QComboBox *m_hold;
     QTimeEdit *m_time;
     QSpinBox *m_priority;

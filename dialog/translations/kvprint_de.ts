@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>Am Wochenende</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>Seiten&amp;größe</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>Zu große Seiten verkleinern</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>In den druckbaren Bereich einpassen</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Etikett ausfüllen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tatsächliche Größe</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -739,6 +759,10 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>set by you</source>
         <translation>von Ihnen gewählt</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1218,6 +1242,14 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>das Programm „%1“, das es umwandelt, lässt sich nicht starten</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>seine Seiten auf Etiketten anzuordnen braucht zu viel Speicher oder Zeit</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>seine Seiten lassen sich nicht auf Etiketten anordnen; das PDF ist beschädigt</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1918,10 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>Lädt Seiten wieder, die das Programm zuvor beendet oder blockiert haben.</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>Ungültige Skalierung „%1“; möglich sind auto, fit, fill und none</translation>
     </message>
 </context>
 <context>

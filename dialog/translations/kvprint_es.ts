@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>El fin de semana</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>Tamaño &amp;de página</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>Reducir las páginas mayores que la etiqueta</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>Ajustar al área imprimible</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Llenar la etiqueta</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -739,6 +759,10 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>set by you</source>
         <translation>elegido por usted</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>diseño de página</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1218,6 +1242,14 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>no se puede iniciar el programa «%1», que lo convierte</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>colocar sus páginas en etiquetas necesita demasiada memoria o tiempo</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>sus páginas no se pueden colocar en etiquetas; el PDF está dañado</translation>
     </message>
 </context>
 <context>
@@ -1885,6 +1917,10 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>Vuelve a cargar los paneles que antes terminaron o bloquearon el programa.</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>Escala no válida «%1»; use auto, fit, fill o none</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>Le week-end</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>&amp;Format de la page</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>Réduire les pages plus grandes que l’étiquette</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>Ajuster à la zone imprimable</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Remplir l’étiquette</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -739,6 +759,10 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>set by you</source>
         <translation>réglé par vous</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>mise en page</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1218,6 +1242,14 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>le programme « %1 », qui le convertit, ne peut pas être lancé</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>la disposition de ses pages sur des étiquettes demande trop de mémoire ou de temps</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>ses pages ne peuvent pas être disposées sur des étiquettes ; le PDF est endommagé</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1918,10 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>Recharge les panneaux qui ont auparavant arrêté ou bloqué le programme.</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>Mise à l’échelle « %1 » non valide ; utilisez auto, fit, fill ou none</translation>
     </message>
 </context>
 <context>

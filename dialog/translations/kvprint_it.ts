@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>Nel fine settimana</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>D&amp;imensione pagina</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>Riduci le pagine più grandi dell’etichetta</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>Adatta all’area stampabile</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Riempi l’etichetta</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Dimensioni effettive</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -739,6 +759,10 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>set by you</source>
         <translation>scelto dall&apos;utente</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>layout di pagina</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1218,6 +1242,14 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>impossibile avviare il programma «%1», che lo converte</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>disporre le pagine sulle etichette richiede troppa memoria o troppo tempo</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>le pagine non possono essere disposte sulle etichette; il PDF è danneggiato</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1918,10 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>Carica di nuovo i pannelli che prima hanno terminato o bloccato il programma.</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>Scala «%1» non valida; usare auto, fit, fill o none</translation>
     </message>
 </context>
 <context>

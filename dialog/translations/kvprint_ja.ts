@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>週末</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>ページサイズ(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>ラベルより大きいページを縮小</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>印刷可能領域に合わせる</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>ラベル全体に拡大</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -738,6 +758,10 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>set by you</source>
         <translation>ユーザーの設定</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>ページレイアウト</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1216,6 +1240,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>変換するプログラム「%1」を起動できません</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>ページをラベルに配置するには、メモリまたは時間がかかりすぎます</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>ページをラベルに配置できません。PDF が破損しています</translation>
     </message>
 </context>
 <context>
@@ -1883,6 +1915,10 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>以前にプログラムを終了または停止させたパネルを再び読み込みます。</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>拡大縮小「%1」は無効です。auto、fit、fill、none のいずれかを指定してください</translation>
     </message>
 </context>
 <context>

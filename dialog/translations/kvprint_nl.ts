@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>In het weekend</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>&amp;Paginagrootte</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>Pagina’s die groter zijn dan het label verkleinen</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>Aan afdrukgebied aanpassen</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Label vullen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Werkelijke grootte</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -739,6 +759,10 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>set by you</source>
         <translation>door u ingesteld</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>pagina-indeling</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1218,6 +1242,14 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>het programma “%1”, dat het omzet, kan niet worden gestart</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>de pagina’s op labels plaatsen kost te veel geheugen of tijd</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>de pagina’s kunnen niet op labels worden geplaatst; de pdf is beschadigd</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1918,10 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>Laadt panelen opnieuw die het programma eerder hebben beëindigd of geblokkeerd.</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>Ongeldige schaal ‘%1’; gebruik auto, fit, fill of none</translation>
     </message>
 </context>
 <context>

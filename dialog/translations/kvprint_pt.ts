@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>No fim de semana</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>Tamanho &amp;da página</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>Reduzir páginas maiores que a etiqueta</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>Ajustar à área imprimível</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>Preencher a etiqueta</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamanho real</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -739,6 +759,10 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>set by you</source>
         <translation>escolhido pelo utilizador</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>layout da página</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1218,6 +1242,14 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>não é possível iniciar o programa “%1”, que o converte</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>dispor suas páginas em etiquetas exige memória ou tempo demais</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>suas páginas não podem ser dispostas em etiquetas; o PDF está danificado</translation>
     </message>
 </context>
 <context>
@@ -1885,6 +1917,10 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>Carrega novamente os painéis que antes encerraram ou bloquearam o programa.</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>Escala “%1” inválida; use auto, fit, fill ou none</translation>
     </message>
 </context>
 <context>

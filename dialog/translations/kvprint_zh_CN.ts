@@ -145,6 +145,26 @@
         <source>At the weekend</source>
         <translation>周末</translation>
     </message>
+    <message>
+        <source>Page si&amp;ze</source>
+        <translation>页面大小(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Shrink pages larger than the label</source>
+        <translation>缩小比标签大的页面</translation>
+    </message>
+    <message>
+        <source>Fit to the printable area</source>
+        <translation>适合可打印区域</translation>
+    </message>
+    <message>
+        <source>Fill the label</source>
+        <translation>填满标签</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>实际大小</translation>
+    </message>
 </context>
 <context>
     <name>dialog::job::JobWindow</name>
@@ -738,6 +758,10 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>set by you</source>
         <translation>由您设置</translation>
     </message>
+    <message>
+        <source>page layout</source>
+        <translation>页面布局</translation>
+    </message>
 </context>
 <context>
     <name>host::cups::jobs::JobSettings</name>
@@ -1216,6 +1240,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>the converter &quot;%1&quot; cannot be started</source>
         <translation>无法启动转换它的程序“%1”</translation>
+    </message>
+    <message>
+        <source>laying its pages out on labels needs too much memory or time</source>
+        <translation>在标签上排列其页面需要过多的内存或时间</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out on labels; the PDF is damaged</source>
+        <translation>无法在标签上排列其页面；PDF 已损坏</translation>
     </message>
 </context>
 <context>
@@ -1883,6 +1915,10 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Loads panels again that have ended or blocked the program before.</source>
         <translation>重新加载先前使程序结束或停滞的面板。</translation>
+    </message>
+    <message>
+        <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
+        <translation>缩放“%1”无效；请使用 auto、fit、fill 或 none</translation>
     </message>
 </context>
 <context>

@@ -152,7 +152,6 @@ void PrintDialog::attachSetup()
         m_panelWatch->follow(views);
     }
     m_choices->showPapers();
-    applyPaper();
     if (isVisible())
         m_pages->notifyFront();
     refresh();
@@ -173,18 +172,19 @@ void PrintDialog::detachSetup()
 void PrintDialog::changePaper()
 {
     m_keeper.setup()->choosePaper(m_choices->chosenPaper());
-    applyPaper();
     refresh();
 }
 
-void PrintDialog::applyPaper()
+void PrintDialog::applyLayout()
 {
+    const host::PageLayout layout =
+        host::shownLayout(m_ticket ? &*m_ticket : nullptr, m_keeper.setup(), *m_document);
+    if (m_renderer && m_renderer->layout() == layout)
+        return;
     // Everything that refers to the old renderer releases it first.
     m_stripPreview->clear();
     m_plan.reset();
-    const host::PrinterSetup *const setup = m_keeper.setup();
-    const QSizeF paper = host::shownPaper(setup, *m_document);
-    auto renderer = std::make_unique<host::LabelRenderer>(*m_document, paper, m_pageThread);
+    auto renderer = std::make_unique<host::LabelRenderer>(*m_document, layout, m_pageThread);
     connect(renderer->measurer(), &host::BlankMeasurer::measured, this, &PrintDialog::refreshLater);
     m_pages->setRenderer(*renderer);
     m_renderer = std::move(renderer);
@@ -219,6 +219,7 @@ void PrintDialog::refresh()
     m_pages->writeJobTo(m_jobRequest);
     m_choices->pages().writeTo(m_jobRequest.settings);
     m_ticket = setup ? std::optional(host::ticketFor(*setup, *m_document, m_jobRequest)) : std::nullopt;
+    applyLayout();
     m_printButton->setEnabled(setup && choices && !m_isSending);
     refreshStrip();
     refreshMessages();

@@ -100,7 +100,7 @@ private:
     void attachSetup();
     void detachSetup();
     void changePaper();
-    void applyPaper();
+    void applyLayout();
     /// Refreshes everything that shows the job, once, when control returns to the event loop.
     void refreshLater();
     void refresh();

@@ -36,6 +36,8 @@ QString originKey(Origin origin)
         return QStringLiteral("panel");
     case Origin::You:
         return QStringLiteral("you");
+    case Origin::Layout:
+        return QStringLiteral("layout");
     }
     return {};
 }

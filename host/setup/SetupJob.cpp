@@ -28,5 +28,10 @@ QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document)
     return setup && setup->paper() ? setup->paper()->size : document.pageSize(0).transposed();
 }
 
+PageLayout shownLayout(const Ticket *ticket, const PrinterSetup *setup, const LabelDocument &document)
+{
+    return ticket && ticket->layout ? *ticket->layout : PageLayout(shownPaper(setup, document));
+}
+
 } // namespace setup
 } // namespace host

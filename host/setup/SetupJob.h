@@ -18,5 +18,9 @@ QString defaultTitle(const LabelDocument &document);
 /// setup, one of the size of the first page.
 QSizeF shownPaper(const PrinterSetup *setup, const LabelDocument &document);
 
+/// Returns the layout of the pages that are shown: that of the ticket; without a ticket or a paper, that of
+/// shownPaper().
+PageLayout shownLayout(const Ticket *ticket, const PrinterSetup *setup, const LabelDocument &document);
+
 } // namespace setup
 } // namespace host

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Ticket.h"
 
+#include "JobLayout.h"
+
 #include <host/base/Length.h>
+#include <host/documents/PdfPages.h>
 
 #include <algorithm>
 
@@ -48,9 +51,32 @@ JobTicket makeJob(const TicketSource &source, const Ticket &ticket)
         std::erase_if(known.userOptions, [](const NamedValue &each) { return each.name == paperKeyword; });
     job.options = makeJobOptions(known, source.ppd, ticket.choices, source.request.settings);
     sendShownPaper(ticket, job.options);
-    for (const DocumentFile &file : source.document.files())
-        job.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp});
     return job;
+}
+
+/// Returns whether the layout changes one of the first pages of the document, whose sizes are known.
+bool changesPages(const LabelDocument &document, const DocumentFile &file, const PageLayout &layout)
+{
+    const int end = file.firstPage + std::min(file.pageCount, PdfPages::checkedAtOnce);
+    for (int page = file.firstPage; page < end; ++page) {
+        const QSizeF size = document.pageSize(page);
+        if (!layout.isUnchanged(size, layout.place(size)))
+            return true;
+    }
+    return false;
+}
+
+/// Adds the documents, laid out on the paper if there is one.
+void addDocuments(const LabelDocument &document, Ticket &ticket)
+{
+    if (ticket.paper) {
+        ticket.layout = layoutOf(*ticket.paper, ticket.job.options);
+        keepLaidOutPages(ticket.job.options);
+    }
+    for (const DocumentFile &file : document.files())
+        ticket.job.documents.push_back({file.pathToSend, file.mimeType.toUtf8(), file.name, file.stamp,
+                                        ticket.layout,
+                                        ticket.layout && changesPages(document, file, *ticket.layout)});
 }
 
 /// Returns the PPD options that the job contains. The server applies the marked defaults of the others.
@@ -89,9 +115,13 @@ Ticket makeTicket(const TicketSource &source)
     ticket.choices = choicesWithPanel(source);
     ticket.panel = source.panel;
     ticket.job = makeJob(source, ticket);
+    addDocuments(source.document, ticket);
     ticket.order = printOrder(pagesByDocument(ticket.pages.pages, source.document.pageCounts()),
                               ticket.pages.copies, ticket.pages.collate, ticket.pages.order);
     ticket.strip = stripEffects(source, ticket);
+    // A printer that mirrors the label as well shows it as it was.
+    if (isMirroredByFilters(ticket.job.options))
+        ticket.strip.mirror = !ticket.strip.mirror;
     if (source.constraints) {
         ticket.conflicts = source.constraints->conflicts(source.panel.choices);
         if (!ticket.conflicts.empty())

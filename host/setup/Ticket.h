@@ -59,6 +59,8 @@ struct Ticket {
     QString printer;
     /// Absent without a PPD, or if the PPD has no usable paper; then there is no strip.
     std::optional<PpdPaper> paper;
+    /// Where the pages lie on the paper; absent without a paper.
+    std::optional<PageLayout> layout;
     PageChoices pages;
     /// The settings of the job, the destination's defaults included.
     JobSettings settings;

@@ -176,7 +176,7 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Tick
     if (m_command.task == Task::DryRun)
         return print(host::ticketJson(m_server, ticket), host::ticketInPlainText(m_server, ticket));
     if (m_command.task == Task::Summary) {
-        const host::LabelRenderer renderer(*m_document, host::shownPaper(&setup, *m_document));
+        const host::LabelRenderer renderer(*m_document, host::shownLayout(&ticket, &setup, *m_document));
         std::optional<host::CutPlan> plan;
         if (ticket.paper)
             plan = host::makePlan(ticket, *m_document, renderer);

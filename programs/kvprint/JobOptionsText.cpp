@@ -153,6 +153,14 @@ ParseResult parseMedia(CommandLine &command, const QString &value)
     return {};
 }
 
+ParseResult parseScaling(CommandLine &command, const QString &value)
+{
+    command.settings.scaling = host::scalingFrom(value.toUtf8());
+    if (!command.settings.scaling)
+        return JobWordsText::tr("Invalid scaling \"%1\"; use auto, fit, fill or none").arg(value);
+    return {};
+}
+
 ParseResult parseJobName(CommandLine &command, const QString &value)
 {
     if (!value.isEmpty())
@@ -182,6 +190,7 @@ constexpr std::pair<const char *, ParseResult (*)(CommandLine &, const QString &
     {"orientation-requested", parseOrientation},
     {"orientation", parseOrientation},
     {"landscape", parseLandscape},
+    {host::scalingName, parseScaling},
     {"raw", rejectFormat},
     {"document-format", rejectFormat},
     {"PageSize", parseMedia},

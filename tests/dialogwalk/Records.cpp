@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Records.h"
 
+#include <tests/samples/Sandbox.h>
+
+#include <host/documents/LaidOutPdf.h>
+#include <host/printer/PpdFile.h>
+
 #include <QFile>
 
 #include <cups/cups.h>
@@ -30,6 +35,19 @@ bool isServers(const QByteArray &name)
     return name == "job-hold-until" || name == "job-priority";
 }
 
+/// Returns the document as it is sent, laid out on the paper of the job.
+QByteArray sentDocument(const QString &path, const QByteArray &ppd, const QByteArray &paperName)
+{
+    const Sandbox sandbox;
+    const auto printer = host::PpdFile::open(sandbox.write(QStringLiteral("printer.ppd"), ppd));
+    const auto paper = printer ? printer.value().paper(paperName) : std::nullopt;
+    if (!paper)
+        return contentOf(path);
+    const host::PageLayout layout(paper->size, paper->margins.value_or(QMarginsF()));
+    const auto laidOut = host::layOutPdf(path, layout, [] { return false; });
+    return laidOut && laidOut.value() ? contentOf(laidOut.value()->fileName()) : contentOf(path);
+}
+
 QStringList compare(const SentJob &job, const test_support::RecordedDocument &document, WalkedServer &server)
 {
     QStringList lines;
@@ -41,7 +59,7 @@ QStringList compare(const SentJob &job, const test_support::RecordedDocument &do
                                   QString::fromUtf8(recorded.value(each.key())))
                              .arg(job.id));
     }
-    if (document.content != contentOf(server.documentPath()))
+    if (document.content != sentDocument(server.documentPath(), job.ppd, recorded.value("PageSize")))
         lines.append(QStringLiteral("the document arrived with other bytes"));
     const auto strip = expectedStrip(recorded, PrinterFacts::of(job.ppd), server.pages());
     if (strip.has_value() != job.strip.has_value())

@@ -77,9 +77,16 @@ double lengthWithoutBlank(const PageFacts &page, const PaperFacts &paper)
     const double along = isTurned ? page.size.width() : page.size.height();
     const double across = isTurned ? page.size.height() : page.size.width();
     const bool fits = along <= paper.length + 0.5 && across <= paper.width + 0.5;
-    const double scale = fits ? 1.0 : std::min(paper.length / along, paper.width / across);
-    const double ink = isTurned ? page.ink->width() : page.ink->height();
-    return ink * scale;
+    // A page that is too large is shrunk to what the printer can print, and lies in its middle.
+    const double end = paper.length - paper.endMargin;
+    const double room = end - paper.leadingMargin;
+    const double width = paper.width - paper.leftMargin - paper.rightMargin;
+    const double scale = fits ? 1.0 : std::min({1.0, room / along, width / across});
+    const double start =
+        fits ? (paper.length - along) / 2.0 : paper.leadingMargin + (room - along * scale) / 2.0;
+    const double first = isTurned ? page.ink->left() : page.ink->top();
+    const double last = isTurned ? page.ink->right() : page.ink->bottom();
+    return std::min(end, start + last * scale) - std::max(paper.leadingMargin, start + first * scale);
 }
 
 void addEnd(ExpectedLabel &label, std::size_t number, std::size_t count, const OptionTexts &options)
@@ -239,12 +246,16 @@ PrinterFacts PrinterFacts::of(const QByteArray &ppd)
                                                       0.0};
     }
     static const QRegularExpression area(
-        QStringLiteral("^\\*ImageableArea ([^/:]+)[^:]*: *\"[\\d.]+ [\\d.]+ [\\d.]+ ([\\d.]+)\""),
+        QStringLiteral("^\\*ImageableArea ([^/:]+)[^:]*: *\"([\\d.]+) ([\\d.]+) ([\\d.]+) ([\\d.]+)\""),
         QRegularExpression::MultilineOption);
     for (auto each = area.globalMatch(text); each.hasNext();) {
         const QRegularExpressionMatch match = each.next();
         PaperFacts &paper = facts.papers[match.captured(1).toLatin1()];
-        paper.leadingMargin = paper.length - match.captured(2).toDouble() * millimetresPerPoint;
+        const auto side = [&](int number) { return match.captured(number).toDouble() * millimetresPerPoint; };
+        paper.leftMargin = side(2);
+        paper.endMargin = side(3);
+        paper.rightMargin = paper.width - side(4);
+        paper.leadingMargin = paper.length - side(5);
     }
     return facts;
 }

@@ -26,6 +26,10 @@ struct PaperFacts {
     double width = 0.0;
     double length = 0.0;
     double leadingMargin = 0.0;
+    /// What the printer cannot print at the other edges.
+    double endMargin = 0.0;
+    double leftMargin = 0.0;
+    double rightMargin = 0.0;
 };
 
 /// What a printer's description says of cuts and papers.

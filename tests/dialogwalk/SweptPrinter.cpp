@@ -105,8 +105,7 @@ const host::LabelRenderer &SweptPrinter::renderer()
 {
     std::unique_ptr<host::LabelRenderer> &renderer = m_renderers[m_ticket->paper->name];
     if (!renderer)
-        renderer =
-            std::make_unique<host::LabelRenderer>(*m_document, host::shownPaper(m_setup.get(), *m_document));
+        renderer = std::make_unique<host::LabelRenderer>(*m_document, *m_ticket->layout);
     return *renderer;
 }
 

@@ -4,12 +4,14 @@
 #include <dialog/job/PasswordDialog.h>
 #include <dialog/widgets/Banner.h>
 #include <host/cups/queues/QueueCache.h>
+#include <tests/samples/RawPdf.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/support/BackgroundThreads.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTabBar>
 #include <QTabWidget>
@@ -103,15 +105,21 @@ void QueueDialogTest::overwritePpd(const QString &queue, const QByteArray &bytes
     file.write(bytes);
 }
 
-void QueueDialogTest::makeDocumentLarger(qsizetype bytes) const
+void QueueDialogTest::makeDocumentLarge(qsizetype bytes) const
 {
+    // Noise, so that no compression makes it smaller.
+    QByteArray noise(bytes / 4 * 4, Qt::Uninitialized);
+    QRandomGenerator random(1);
+    random.generate(reinterpret_cast<quint32 *>(noise.begin()), reinterpret_cast<quint32 *>(noise.end()));
+    const QByteArray image = "<< /Type /XObject /Subtype /Image /BitsPerComponent 8 /ColorSpace /DeviceGray"
+                             " /Width 1000 /Height " +
+                             QByteArray::number(noise.size() / 1000) + " /Length " +
+                             QByteArray::number(noise.size()) + " >>\nstream\n" + noise + "\nendstream";
     QFile file(documentPath);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    const QByteArray pdf = file.readAll();
-    // In front of the last lines, which say where everything is.
-    const qsizetype tail = pdf.lastIndexOf("startxref");
-    file.seek(tail);
-    file.write("\n%" + QByteArray(bytes, 'x') + '\n' + pdf.mid(tail));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(rawPdf({{"/MediaBox [0 0 170 68] /Resources << /XObject << /Noise 10 0 R >> >>",
+                        "q 100 0 0 50 0 0 cm /Noise Do Q"}},
+                      {image}));
 }
 
 void QueueDialogTest::open(const std::optional<QString> &wanted, const host::CupsServer &given,

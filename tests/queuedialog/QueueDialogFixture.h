@@ -45,8 +45,8 @@ protected:
     static void rememberMoreQueues(const host::CupsServer &server, int count);
     /// Replaces the content of the PPD that the shared server stores for the queue.
     static void overwritePpd(const QString &queue, const QByteArray &bytes);
-    /// Makes the document this number of bytes larger, without changing its appearance.
-    void makeDocumentLarger(qsizetype bytes) const;
+    /// Replaces the document by one of this number of bytes that cannot be compressed.
+    void makeDocumentLarge(qsizetype bytes) const;
 
     /// The visible control with that accessible name; null when there is none.
     template<typename Widget>

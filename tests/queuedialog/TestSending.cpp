@@ -118,7 +118,7 @@ TEST_F(SendingTest, ARefusalIsToldInTheServersWordsAndTheNextTimePrintsOnce)
 
 TEST_F(SendingTest, AConnectionThatBreaksLeavesNothingAndTheNextTimePrintsOnce)
 {
-    makeDocumentLarger(3'000'000);
+    makeDocumentLarge(3'000'000);
     const test_support::FaultProxy breaking(cupsd->port(),
                                             test_support::cutRequests(IPP_OP_SEND_DOCUMENT, 1'000'000));
     openAndSettle(QStringLiteral("tape"), serverAt(breaking.address()));
@@ -149,7 +149,7 @@ TEST_F(SendingTest, AServerThatDiesIsToldAndTheNextTimePrintsOnce)
 
 TEST_F(SendingTest, AFullSpoolIsToldAndLeavesNoJob)
 {
-    makeDocumentLarger(3'000'000);
+    makeDocumentLarge(3'000'000);
     openAndSettle(QStringLiteral("tape"));
     set();
     const std::size_t before = cupsd->documents().size();
@@ -164,7 +164,7 @@ TEST_F(SendingTest, AFullSpoolIsToldAndLeavesNoJob)
 
 TEST_F(SendingTest, StopSendingTakesTheJobBack)
 {
-    makeDocumentLarger(30'000'000);
+    makeDocumentLarge(30'000'000);
     // The job can be sent no further than this.
     const FaultyServer stalling(cupsd->port(), {.stallAfter = 500'000});
     openAndSettle(QStringLiteral("tape"), serverAt(stalling.address()));
@@ -226,7 +226,7 @@ TEST_F(SendingTest, WhatIsSetWhileTheLabelsAreMeasuredIsPrintedToo)
 
 TEST_F(SendingTest, ClosingTheWindowWhileSendingTakesTheJobBack)
 {
-    makeDocumentLarger(30'000'000);
+    makeDocumentLarge(30'000'000);
     // While the server has not even answered that there is a job, and while it has a part of the document.
     for (const Faults &faults :
          {Faults{.holds = true, .heldOperation = IPP_OP_CREATE_JOB}, Faults{.stallAfter = 500'000}}) {

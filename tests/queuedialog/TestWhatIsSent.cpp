@@ -115,9 +115,16 @@ TEST_F(WhatIsSentTest, NothingTouchedSendsThePaperAndThePanelsChoices)
     EXPECT_EQ(job.copies, "1");
     EXPECT_EQ(job.option("KvMirror"), "OFF");
     EXPECT_EQ(job.option("Darkness"), QByteArray());
-    QFile file(documentPath);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(job.content, file.readAll());
+    // The pages are landscape, the paper is portrait.
+    sandbox.write(QStringLiteral("sent.pdf"), job.content);
+    const auto sent = host::LabelDocument::open(sandbox.path(QStringLiteral("sent.pdf")));
+    const auto original = host::LabelDocument::open(documentPath);
+    ASSERT_TRUE(sent && original);
+    EXPECT_EQ(sent.value()->pageCount(), original.value()->pageCount());
+    for (int page = 0; page < sent.value()->pageCount(); ++page) {
+        EXPECT_NEAR(sent.value()->pageSize(page).width(), 68.0, 0.1) << page;
+        EXPECT_NEAR(sent.value()->pageSize(page).height(), 170.0, 0.1) << page;
+    }
 }
 
 TEST_F(WhatIsSentTest, EveryControlArrives)
@@ -144,6 +151,7 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
     chooseTab(QStringLiteral("Job"));
     Hands::typeInto(field<QLineEdit>(QStringLiteral("Job name")), QStringLiteral("Shelf 7 'b\""));
     Hands::pick(field<QComboBox>(QStringLiteral("Orientation")), QStringLiteral("Landscape"));
+    Hands::pick(field<QComboBox>(QStringLiteral("Page size")), QStringLiteral("Fill the label"));
     Hands::pick(field<QComboBox>(QStringLiteral("When to print")), QStringLiteral("When it is released"));
     Hands::typeInto(field<QSpinBox>(QStringLiteral("Priority")), QStringLiteral("70"));
     Hands::typeInto(field<QSpinBox>(QStringLiteral("Copies")), QStringLiteral("2"));
@@ -167,7 +175,8 @@ TEST_F(WhatIsSentTest, EveryControlArrives)
         {"Feed", "Short"},
         {"Twins", "Second"},
         {"Marks", "Fold,Text"},
-        {"orientation-requested", "4"},
+        {"orientation-requested", "3"},
+        {"print-scaling", "none"},
         {"job-hold-until", "indefinite"},
         {"page-ranges", "1-2"},
         {"job-priority", "70"},

@@ -154,6 +154,8 @@ QString originText(Origin origin)
         return JobOptionsText::tr("cut options");
     case Origin::You:
         return JobOptionsText::tr("set by you");
+    case Origin::Layout:
+        return JobOptionsText::tr("page layout");
     }
     return {};
 }

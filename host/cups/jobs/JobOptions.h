@@ -10,9 +10,10 @@ inline namespace cups {
 inline namespace jobs {
 
 /// The origin of a job option. A later origin overrides an earlier one.
-enum class Origin { Ppd, Queue, UserDefault, Preset, Panel, You };
+enum class Origin { Ppd, Queue, UserDefault, Preset, Panel, You, Layout };
 
-/// Returns the origin as text in the user's language, "printer default", "set by you".
+/// Returns the origin as text in the user's language, "printer default", "set by you". Layout: the pages are
+/// already laid out on the paper, and the option keeps the server's filters from doing it again.
 QString originText(Origin origin);
 
 /// A choice for the job: an option by its PPD or IPP name, byte for byte.

@@ -71,7 +71,31 @@ void fill(std::optional<Value> &requestedChoice, const std::optional<Value> &def
         requestedChoice = defaultValue;
 }
 
+/// A scaling has one value that is sent, the first.
+constexpr std::pair<const char *, Scaling> scalings[] = {
+    {"auto", Scaling::ShrinkLarge}, {"auto-fit", Scaling::ShrinkLarge}, {"fit", Scaling::Fit},
+    {"fill", Scaling::Fill},        {"none", Scaling::ActualSize},
+};
+
 } // namespace
+
+std::optional<Scaling> scalingFrom(const QByteArray &value)
+{
+    for (const auto &[name, scaling] : scalings) {
+        if (value == name)
+            return scaling;
+    }
+    return std::nullopt;
+}
+
+QByteArray scalingValue(Scaling scaling)
+{
+    for (const auto &[name, each] : scalings) {
+        if (each == scaling)
+            return name;
+    }
+    return {};
+}
 
 std::vector<NamedValue> settingValues(const JobSettings &settings)
 {
@@ -91,6 +115,8 @@ std::vector<NamedValue> settingValues(const JobSettings &settings)
         add("outputorder", *settings.order == PageOrder::Reverse ? "reverse" : "normal");
     if (settings.orientation)
         add("orientation-requested", QByteArray::number(static_cast<int>(*settings.orientation)));
+    if (settings.scaling)
+        add(scalingName, scalingValue(*settings.scaling));
     if (settings.hold)
         add("job-hold-until", holdValue(*settings.hold));
     if (settings.priority || settings.hold == QStringLiteral("immediate"))

@@ -3,6 +3,7 @@
 
 #include <host/cups/queues/Destination.h>
 #include <host/documents/PageChoices.h>
+#include <host/layout/PageLayout.h>
 
 namespace host {
 inline namespace cups {
@@ -20,6 +21,7 @@ struct JobSettings {
     std::optional<PageSet> pageSet = {};
     std::optional<PageOrder> order = {};
     std::optional<Orientation> orientation = {};
+    std::optional<Scaling> scaling = {};
     /// In the syntax of the -H option of lp: "hold", "resume", "immediate", "HH:MM" in UTC, "night" and so
     /// on.
     std::optional<QString> hold = {};
@@ -31,6 +33,11 @@ struct JobSettings {
 
 /// Returns the settings by their IPP names, with the values that lp sends.
 std::vector<NamedValue> settingValues(const JobSettings &settings);
+
+/// The option of the scaling, and its values (PWG 5100.13).
+inline constexpr const char *scalingName = "print-scaling";
+std::optional<Scaling> scalingFrom(const QByteArray &value);
+QByteArray scalingValue(Scaling scaling);
 
 /// Returns the default pages, copies and order of a job to the destination: those of the user's lpoptions,
 /// otherwise those of the queue. Orientation, hold and priority are absent.

@@ -4,6 +4,7 @@
 #include "JobOptions.h"
 
 #include <host/documents/RegularFile.h>
+#include <host/layout/PageLayout.h>
 
 struct _ipp_s;
 
@@ -22,6 +23,10 @@ struct JobDocument {
     /// The state of the file when it was shown to the user; a file in any other state is not sent. Absent if
     /// the document was not shown.
     std::optional<FileStamp> stamp = {};
+    /// How the pages of a PDF are laid out before it is sent; absent for a document that is sent as it is.
+    std::optional<PageLayout> layout = {};
+    /// Whether pages are known to change when they are laid out.
+    bool changesPages = false;
 
     /// The name for messages.
     const QString &shownName() const { return name.isEmpty() ? path : name; }

@@ -7,6 +7,7 @@
 
 #include <host/base/OutOfMemory.h>
 #include <host/cups/queues/DiscoveredQueue.h>
+#include <host/documents/LaidOutPdf.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -178,6 +179,36 @@ private:
     bool m_isDocumentUnanswered = false;
 };
 
+/// A document as it is sent.
+struct PreparedDocument {
+    DocumentSource source;
+    /// The file with the pages that are laid out; null if the document itself is sent.
+    std::unique_ptr<platform::TemporaryFile> laidOut;
+};
+
+Result<PreparedDocument, CupsError> prepare(const JobDocument &document, const BackgroundTask &task)
+{
+    Result<DocumentSource, CupsError> original = DocumentSource::open(document.path, document.stamp);
+    if (!original)
+        return original.error();
+    if (!document.layout)
+        return PreparedDocument{std::move(original).value(), nullptr};
+    auto laidOut = layOutPdf(document.path, *document.layout, [&task] { return task.isCanceled(); });
+    if (!laidOut)
+        return CupsError{CupsErrorKind::BadDocument,
+                         documentError(laidOut.error(), document.shownName()).message};
+    // The pages that were laid out are those that were shown only if the file has not changed meanwhile.
+    Result<DocumentSource, CupsError> same = DocumentSource::open(document.path, document.stamp);
+    if (!same)
+        return same.error();
+    if (!laidOut.value())
+        return PreparedDocument{std::move(same).value(), nullptr};
+    Result<DocumentSource, CupsError> source = DocumentSource::open(laidOut.value()->fileName());
+    if (!source)
+        return source.error();
+    return PreparedDocument{std::move(source).value(), std::move(laidOut).value()};
+}
+
 /// Sends the documents of a job that the server has created, and releases the job. Returns
 /// why the job is not printed, with its state.
 Result<void, CupsError> finish(Upload &upload, const JobFate &fate, std::vector<DocumentSource> &sources,
@@ -210,11 +241,13 @@ Result<int, CupsError> uploadJob(const CupsServer &server, const JobTicket &tick
                                  const std::function<void(const UploadProgress &)> &progress)
 {
     std::vector<DocumentSource> sources;
+    std::vector<std::unique_ptr<platform::TemporaryFile>> laidOut;
     for (const JobDocument &document : ticket.documents) {
-        Result<DocumentSource, CupsError> source = DocumentSource::open(document.path, document.stamp);
-        if (!source)
-            return source.error();
-        sources.push_back(std::move(source).value());
+        Result<PreparedDocument, CupsError> prepared = prepare(document, task);
+        if (!prepared)
+            return prepared.error();
+        sources.push_back(std::move(prepared.value().source));
+        laidOut.push_back(std::move(prepared.value().laidOut));
     }
     if (sources.empty())
         return CupsError{CupsErrorKind::BadDocument, JobUploadText::tr("There is no document to print.")};

@@ -21,7 +21,8 @@ struct UploadProgress {
 
 /// Sends a job with all its documents and returns its number. For background tasks.
 ///
-/// Opens all documents before it creates the job: a missing document leaves nothing on the server. If a later
+/// Lays out the pages of the documents, if requested, and opens all documents before it creates the job: a
+/// missing or damaged document leaves nothing on the server. If a later
 /// step fails or the task is canceled, it cancels the job, so that nothing is printed and sending the job
 /// again prints it once. If a response of the server is missing, it queries the server: a job with all its
 /// documents counts as sent. Returns CupsErrorKind::OutcomeUnknown, with a description, if something may be

@@ -117,6 +117,8 @@ LpCommand lpCommand(const CupsServer &server, const JobTicket &ticket)
         words += fileWord(document.shownName());
     if (std::ranges::any_of(ticket.documents, isConverted))
         command.differences += QStringLiteral("document-format");
+    if (std::ranges::any_of(ticket.documents, &JobDocument::changesPages))
+        command.differences += QLatin1String(scalingName);
     command.differences.removeDuplicates();
     for (QString &word : words)
         word = shellWord(word);

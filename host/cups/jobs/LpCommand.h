@@ -14,7 +14,8 @@ struct LpCommand {
     /// The command line, to be copied into a terminal.
     QString line;
     /// The names of options that lp would send differently, since its syntax cannot express them; usually
-    /// empty. Contains "document-format" if a PDF is sent that was converted from the named document.
+    /// empty. Contains "document-format" if a PDF is sent that was converted from the named document,
+    /// and "print-scaling" if its pages are laid out before it is sent.
     QStringList differences;
 
     /// Returns the differences as a sentence without a full stop; absent if there are none.

@@ -46,7 +46,7 @@ TEST_F(KvprintLetters, MeanWhatTheyMeanToLp)
         {{}, "job-name", "label.png"},
         {{QStringLiteral("-U"), QStringLiteral("anna")}, "job-originating-user-name", "anna"},
         {{QStringLiteral("-c"), QStringLiteral("-n"), QStringLiteral("2")}, "copies", "2"},
-        {{QStringLiteral("-o"), QStringLiteral("landscape")}, "orientation-requested", "landscape"},
+        {{QStringLiteral("-o"), QStringLiteral("landscape")}, "print-scaling", "none"},
         {{QStringLiteral("-o"), QStringLiteral("KvMirror=ON PrintDensity=Dark")}, "PrintDensity", "Dark"},
         {{QStringLiteral("-o"), QStringLiteral("KvMirror=ON PrintDensity=Dark")}, "KvMirror", "ON"},
         {{QStringLiteral("-o"), QStringLiteral("PrintDensity=Dark"), QStringLiteral("-o"),

@@ -119,7 +119,11 @@ TEST_F(KvprintSameJob, ComesOfTheLpLineThatIsTold)
     };
     std::size_t printedSoFar = 0;
     for (const QStringList &words : rows) {
-        const QString line = dryRun(words)[QStringLiteral("lp")].toString();
+        const QJsonObject job = dryRun(words);
+        const QString line = job[QStringLiteral("lp")].toString();
+        // Pages that are laid out make another file.
+        const bool isSameFile =
+            !job[QStringLiteral("lpDifferences")].toArray().contains(QStringLiteral("print-scaling"));
         SCOPED_TRACE(qPrintable(words.join(u' ') + QStringLiteral("\n") + line));
         const Outcome ours =
             kvprint.run(QStringList{QStringLiteral("--no-dialog")} + words + QStringList{samplePdf()});
@@ -130,7 +134,13 @@ TEST_F(KvprintSameJob, ComesOfTheLpLineThatIsTold)
         ASSERT_GE(jobs.size(), 2);
         const int ourJob = jobs[jobs.size() - 2];
         const int theirJob = jobs[jobs.size() - 1];
-        expectEqual(comparable(ourJob), comparable(theirJob));
+        QMap<QByteArray, QByteArray> ourAttributes = comparable(ourJob);
+        QMap<QByteArray, QByteArray> theirAttributes = comparable(theirJob);
+        if (!isSameFile) {
+            ourAttributes.remove("job-k-octets");
+            theirAttributes.remove("job-k-octets");
+        }
+        expectEqual(ourAttributes, theirAttributes);
         if (jobStates().value(ourJob) == 4)
             continue;
         printedSoFar += 2;
