@@ -141,6 +141,38 @@ TEST(LabelRenderer, ShrinksWhatIsTooLargeAndCentresTheRest)
     EXPECT_FALSE(renderer.shrinks(2)) << "half a millimetre is rounding";
 }
 
+TEST(LabelRenderer, DrawsFaintWhatIsNotPrinted)
+{
+    const Sandbox sandbox;
+    const auto document = openPages(sandbox, {pageWithBox({24, 60}, {0, 0, 24, 60})});
+    const host::PageLayout layout(QSizeF(24, 60) * mm, QMarginsF(2, 4, 6, 8) * mm);
+    const QImage image = LabelRenderer(*document, layout).render(0, 4.0);
+    // The left edge of the label is at the bottom, its top on the left.
+    const QRect printable(16, 24, 192, 64);
+    for (const QPoint &inside : {printable.topLeft(), printable.bottomRight()})
+        EXPECT_TRUE(isBlack(image, inside.x(), inside.y())) << inside.x();
+    for (const QPoint &outside : {QPoint(14, 50), QPoint(210, 50), QPoint(100, 21), QPoint(100, 90)}) {
+        EXPECT_FALSE(isBlack(image, outside.x(), outside.y())) << outside.x();
+        EXPECT_NE(image.pixelColor(outside), QColor(Qt::white)) << outside.x();
+    }
+}
+
+TEST(LabelRenderer, WhatIsNotPrintedIsBlank)
+{
+    const Sandbox sandbox;
+    const auto document =
+        openPages(sandbox, {pageWithBox({24, 60}, {0, 0, 24, 60}), pageWithBox({60, 24}, {0, 0, 60, 24}),
+                            pageWithBox({24, 60}, {0, 0, 24, 3})});
+    const host::PageLayout layout(QSizeF(24, 60) * mm, QMarginsF(2, 4, 6, 8) * mm);
+    const LabelRenderer renderer(*document, layout);
+    for (const int page : {0, 1}) {
+        const host::LabelExtent extent = renderer.extent(page, MeasureBlank::Yes);
+        EXPECT_NEAR(extent.leadingBlank.number(), 4.0, 0.25) << page;
+        EXPECT_NEAR(extent.trailingBlank.number(), 8.0, 0.25) << page;
+    }
+    EXPECT_TRUE(renderer.extent(2, MeasureBlank::Yes).whollyBlank);
+}
+
 TEST(LabelRenderer, MeasuresBlankAlongTheTape)
 {
     const Sandbox sandbox;

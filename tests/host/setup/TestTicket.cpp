@@ -134,6 +134,30 @@ TEST_F(TicketTest, AskingChangesNothingAndGivesTheSameAgain)
     EXPECT_EQ(reported, 0);
 }
 
+TEST_F(TicketTest, WhatTheFiltersMirrorIsShownMirrored)
+{
+    const host::JobChoice mirror{"mirror", "true", host::Origin::You};
+    const host::JobChoice printers{"KvMirror", "ON", host::Origin::You};
+    EXPECT_FALSE(ticketOf(*sample("kvelland-lx900")).strip.mirror);
+    EXPECT_TRUE(ticketOf(*sample("kvelland-lx900", {{mirror}})).strip.mirror);
+    EXPECT_TRUE(ticketOf(*sample("kvelland-lx900", {{printers}})).strip.mirror);
+    EXPECT_FALSE(ticketOf(*sample("kvelland-lx900", {{mirror, printers}})).strip.mirror);
+}
+
+TEST_F(TicketTest, DocumentsAreLaidOutOnThePaperOfTheTicket)
+{
+    const host::JobChoice fitting{"print-scaling", "fit", host::Origin::You};
+    const auto setup = sample("kvelland-lx900", {{fitting}});
+    const Ticket ticket = ticketOf(*setup);
+    ASSERT_TRUE(ticket.layout);
+    EXPECT_EQ(ticket.layout->paper, ticket.paper->size);
+    EXPECT_EQ(ticket.layout->margins, *ticket.paper->margins);
+    EXPECT_EQ(ticket.layout->scaling, host::Scaling::Fit);
+    ASSERT_EQ(ticket.job.documents.size(), 1U);
+    EXPECT_EQ(ticket.job.documents[0].layout, ticket.layout);
+    EXPECT_TRUE(ticket.job.documents[0].changesPages);
+}
+
 TEST_F(TicketTest, APresetIsInTheJobBeforeThePanelHasSavedIt)
 {
     const auto setup = sample("kvelland-lx900");
