@@ -78,7 +78,7 @@ QImage LabelDrawing::draw(int page, double pixelsPerMillimetre) const
     QPainter painter(&label);
     const auto paint = [&] {
         painter.save();
-        // Whole pixels: the image is not blurred.
+        // The image has the size of the area: it is not scaled.
         painter.translate(area.center());
         painter.rotate(90.0 * (placement.quarterTurns - 1));
         painter.drawImage(QPointF(-image.width() / 2.0, -image.height() / 2.0), image);
