@@ -13,9 +13,11 @@
 #include <dialog/job/PageOptions.h>
 #include <dialog/job/SendBar.h>
 #include <dialog/options/ConflictBanner.h>
+#include <dialog/options/ConflictNote.h>
 #include <dialog/options/ConflictQuestion.h>
 #include <dialog/widgets/FittedLabel.h>
 #include <host/labels/BlankMeasurer.h>
+#include <host/setup/Preflight.h>
 #include <host/strip/CutPlanText.h>
 
 #include <QDialogButtonBox>
@@ -65,6 +67,7 @@ void PrintDialog::build(const RequestedSettings &requested)
     m_stripPreview = new StripPreview(m_content);
     // The minimum height keeps the window from growing whenever the text changes.
     m_planText = new FittedLabel(3, 20, this);
+    m_preflightNote = new ConflictNote(this);
     auto *const leftJobs = session ? new LeftJobBanner(session->server(), this) : nullptr;
     m_sendBar = new SendBar(this);
     m_buttons = new QDialogButtonBox(this);
@@ -83,6 +86,7 @@ void PrintDialog::build(const RequestedSettings &requested)
     layout->addWidget(m_panelBanner);
     layout->addWidget(m_content, 1);
     layout->addWidget(m_planText);
+    layout->addWidget(m_preflightNote);
     layout->addWidget(m_conflictBanner);
     layout->addWidget(m_errorBanner);
     if (leftJobs) {
@@ -222,6 +226,7 @@ void PrintDialog::refresh()
     applyLayout();
     m_printButton->setEnabled(setup && choices && !m_isSending);
     refreshStrip();
+    refreshPreflight();
     refreshMessages();
     m_pages->refresh();
     if (m_printsWhenReady && isReadyToSend())
@@ -244,12 +249,20 @@ void PrintDialog::refreshStrip()
             tr("The printer has no description (PPD); its papers and cuts are not known."));
         return;
     }
-    if (!m_ticket->strip.removeBlank)
-        m_renderer->measurer()->cancel();
     m_plan = host::makePlan(*m_ticket, *m_document, *m_renderer);
     m_stripPreview->setPlan(*m_plan, *m_renderer);
     m_planText->setMessage(host::cutPlanFigures(*m_plan) + u'\n' +
                            host::cutPlanDescription(*m_plan).join(u' '));
+}
+
+void PrintDialog::refreshPreflight()
+{
+    QStringList sentences;
+    if (m_plan) {
+        for (const host::PreflightNote &note : host::preflight(*m_ticket, *m_renderer, *m_plan))
+            sentences.append(note.sentence);
+    }
+    m_preflightNote->setSentences(sentences);
 }
 
 void PrintDialog::refreshMessages()

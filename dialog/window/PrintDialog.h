@@ -21,6 +21,7 @@ class FittedLabel;
 namespace dialog {
 inline namespace options {
 class ConflictBanner;
+class ConflictNote;
 } // namespace options
 } // namespace dialog
 
@@ -108,6 +109,7 @@ private:
     bool isReadyToSend() const;
     void printWhenReady();
     void refreshStrip();
+    void refreshPreflight();
     void refreshMessages();
     /// Refreshes if the settings that the panel would save differ from those of the ticket.
     void checkPanel();
@@ -149,6 +151,7 @@ private:
     PanelWatch *m_panelWatch = nullptr;
     StripPreview *m_stripPreview = nullptr;
     FittedLabel *m_planText = nullptr;
+    ConflictNote *m_preflightNote = nullptr;
     SendBar *m_sendBar = nullptr;
     QDialogButtonBox *m_buttons = nullptr;
     QPushButton *m_printButton = nullptr;

@@ -110,15 +110,28 @@ LabelExtent LabelDrawing::measure(int page) const
     const QRect part = toImage.mapRect(printable).toRect() & image.rect();
     const std::optional<InkSpan> ink =
         placement.isOnSide() ? inkedColumns(image, part) : inkedRows(image, part);
+    const bool isCutOff = hasInkOutside(image, part);
     if (!ink)
-        return {.length = Millimetres(m_label.width()), .whollyBlank = true};
+        return {.length = Millimetres(m_label.width()), .whollyBlank = true, .isCutOff = isCutOff};
     const QRectF inked = placement.isOnSide() ? QRectF(ink->first, 0.0, ink->end - ink->first, image.height())
                                               : QRectF(0.0, ink->first, image.width(), ink->end - ink->first);
     const QRectF span = toImage.inverted().mapRect(inked);
     const Millimetres length(m_label.width());
     const Millimetres pixel(1.0 / resolution);
     return {length, std::max(Millimetres(), span.left() * pixel),
-            std::max(Millimetres(), length - span.right() * pixel), false};
+            std::max(Millimetres(), length - span.right() * pixel), false, isCutOff};
+}
+
+bool LabelDrawing::hasInkOutside(const QImage &image, const QRect &part)
+{
+    // Smoothed edges are up to a pixel further out.
+    const QRect inside = part.adjusted(-1, -1, 1, 1);
+    const std::optional<InkSpan> rows = inkedRows(image, image.rect());
+    if (!rows || inside.contains(image.rect()))
+        return false;
+    const std::optional<InkSpan> columns = inkedColumns(image, image.rect());
+    return rows->first < inside.top() || rows->end > inside.bottom() + 1 || columns->first < inside.left() ||
+           columns->end > inside.right() + 1;
 }
 
 } // namespace labels

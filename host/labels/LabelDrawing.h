@@ -37,6 +37,8 @@ private:
     /// Returns a rectangle on the label, in points, as it lies on the strip, in pixels.
     QRectF onStrip(const QRectF &onLabel, double pixelsPerMillimetre) const;
     QSize labelPixels(double pixelsPerMillimetre) const;
+    /// Returns whether the image of a page has ink outside of the part that can be printed.
+    static bool hasInkOutside(const QImage &image, const QRect &part);
 
     const LabelDocument &m_document;
     PageLayout m_layout;

@@ -14,6 +14,8 @@ struct LabelExtent {
     Millimetres trailingBlank = {};
     /// Whether nothing is printed on the label.
     bool whollyBlank = false;
+    /// Whether the page has marks where the printer cannot print.
+    bool isCutOff = false;
     /// Whether the blank is known. Until then it counts as 0.
     bool isMeasured = true;
 

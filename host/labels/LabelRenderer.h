@@ -37,6 +37,8 @@ public:
     /// Returns whether the page is larger than the label. With a page thread, false for a page whose size is
     /// not read yet; the size is known once its picture is drawn.
     bool shrinks(int page) const;
+    /// Returns the scale of the page on the label; see shrinks().
+    double scale(int page) const { return m_drawing.place(page).scale; }
     /// Returns the extent of the page. With a page thread, a blank that is not known yet is 0 (isMeasured is
     /// false) and is measured in the background; measurer() reports it.
     LabelExtent extent(int page, MeasureBlank blank) const;

@@ -101,7 +101,8 @@ QJsonArray choicesJson(const Ticket &ticket)
 
 } // namespace
 
-QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
+QString ticketInPlainText(const CupsServer &server, const Ticket &whole,
+                          const std::vector<PreflightNote> &notes)
 {
     const JobTicket &ticket = whole.job;
     QString text = JobReportText::tr("Job \"%1\" for \"%2\" on %3\n")
@@ -117,6 +118,8 @@ QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
     }
     for (const Conflict &conflict : whole.conflicts)
         text += conflict.sentence() + u'\n';
+    for (const PreflightNote &note : notes)
+        text += note.sentence + u'\n';
     const LpCommand lp = lpCommand(server, ticket);
     text += lp.line + u'\n';
     if (const std::optional<QString> differences = lp.differencesText())
@@ -124,7 +127,7 @@ QString ticketInPlainText(const CupsServer &server, const Ticket &whole)
     return text;
 }
 
-QJsonObject ticketJson(const CupsServer &server, const Ticket &whole)
+QJsonObject ticketJson(const CupsServer &server, const Ticket &whole, const std::vector<PreflightNote> &notes)
 {
     const JobTicket &ticket = whole.job;
     QJsonArray sentences;
@@ -137,6 +140,7 @@ QJsonObject ticketJson(const CupsServer &server, const Ticket &whole)
             {QStringLiteral("documents"), documentsJson(ticket)},
             {QStringLiteral("options"), optionsJson(ticket)},
             {QStringLiteral("conflicts"), sentences},
+            {QStringLiteral("preflight"), preflightJson(notes)},
             {QStringLiteral("lp"), lp.line},
             {QStringLiteral("lpDifferences"), QJsonArray::fromStringList(lp.differences)}};
 }

@@ -173,13 +173,19 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Tick
         m_console.out(m_command.json ? QString::fromUtf8(QJsonDocument(json).toJson()) : text);
         return ExitStatus::Printed;
     };
-    if (m_command.task == Task::DryRun)
-        return print(host::ticketJson(m_server, ticket), host::ticketInPlainText(m_server, ticket));
+    if (m_command.task == Task::Print)
+        return send(ticket);
+    const host::LabelRenderer renderer(*m_document, host::shownLayout(&ticket, &setup, *m_document));
+    std::optional<host::CutPlan> plan;
+    if (ticket.paper)
+        plan = host::makePlan(ticket, *m_document, renderer);
+    if (m_command.task == Task::DryRun) {
+        const std::vector<host::PreflightNote> notes =
+            plan ? host::preflight(ticket, renderer, *plan) : std::vector<host::PreflightNote>();
+        return print(host::ticketJson(m_server, ticket, notes),
+                     host::ticketInPlainText(m_server, ticket, notes));
+    }
     if (m_command.task == Task::Summary) {
-        const host::LabelRenderer renderer(*m_document, host::shownLayout(&ticket, &setup, *m_document));
-        std::optional<host::CutPlan> plan;
-        if (ticket.paper)
-            plan = host::makePlan(ticket, *m_document, renderer);
         const auto summary = host::summarize(ticket, setup, plan ? &*plan : nullptr);
         return print(host::summaryJson(summary), host::summaryInPlainText(summary));
     }

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: Apache-2.0
+// What is reported of documents before they are printed, on the sample printer's tape of 24 x 60 mm.
+#include <host/setup/Preflight.h>
+#include <host/setup/SetupJob.h>
+
+#include <tests/samples/RawPdf.h>
+#include <tests/samples/Sandbox.h>
+
+#include <gtest/gtest.h>
+
+#include <QJsonObject>
+
+using host::PreflightKind;
+
+namespace {
+
+const QByteArray mark = "0 g 30 60 10 10 re f";
+const RawPage label{"/MediaBox [0 0 68.03 170.08]", mark};
+const RawPage blank{"/MediaBox [0 0 68.03 170.08]"};
+const RawPage a4{"/MediaBox [0 0 595 842]", "0 g 300 400 100 100 re f"};
+/// The printer cannot print the outermost 3 mm at the sides.
+const RawPage framed{"/MediaBox [0 0 68.03 170.08]", "2 2 64 166 re S"};
+
+class PreflightTest : public testing::Test {
+protected:
+    using Notes = std::vector<host::PreflightNote>;
+
+    Notes notesOn(const std::vector<RawPage> &pages, const std::vector<host::JobChoice> &choices = {},
+                  int copies = 1)
+    {
+        return notesOn(sandbox.write(QStringLiteral("document.pdf"), rawPdf(pages)), choices, copies);
+    }
+
+    static Notes notesOn(const QString &path, const std::vector<host::JobChoice> &choices = {},
+                         int copies = 1)
+    {
+        const auto document = host::LabelDocument::open(path);
+        EXPECT_TRUE(document);
+        auto ppd = host::PpdFile::open(QStringLiteral(KV_SOURCE_DIR "/resources/ppd/kvelland-lx900.ppd"));
+        EXPECT_TRUE(ppd);
+        const host::PrinterSetup setup({}, std::move(ppd).value(), {choices},
+                                       host::PanelSource{QStringLiteral(KV_BINARY_DIR "/bin"), {}});
+        host::JobRequest request{{}, QStringLiteral("title"), {{}, copies, host::Collate::Yes}};
+        for (int page = 0; page < document.value()->pageCount(); ++page)
+            request.pages.pages.push_back(page);
+        const host::Ticket ticket = ticketFor(setup, *document.value(), request);
+        const host::LabelRenderer renderer(*document.value(), *ticket.layout);
+        return preflight(ticket, renderer, makePlan(ticket, *document.value(), renderer));
+    }
+
+    /// The kinds with their pages, counted from 1.
+    static QStringList kinds(const Notes &notes)
+    {
+        QStringList kinds;
+        for (const auto &each : preflightJson(notes)) {
+            QStringList texts{each.toObject()[QStringLiteral("kind")].toString()};
+            for (const host::PreflightNote &note : notes) {
+                if (note.sentence == each.toObject()[QStringLiteral("text")].toString() &&
+                    !note.pages.empty())
+                    texts.append(host::pageList(note.pages));
+            }
+            kinds.append(texts.join(u' '));
+        }
+        return kinds;
+    }
+
+    const Sandbox sandbox;
+};
+
+QStringList words(const char *text)
+{
+    return QString::fromUtf8(text).split(u'|', Qt::SkipEmptyParts);
+}
+
+TEST_F(PreflightTest, ReportsWhatWastesTape)
+{
+    const struct {
+        const char *what;
+        std::vector<RawPage> pages;
+        const char *kinds;
+    } rows[] = {
+        {"a label", {label}, ""},
+        {"a large page", {label, a4, a4}, "shrunk 2–3"},
+        {"content at the edge", {framed, label}, "cut-off 1"},
+        {"a blank page", {label, blank, label, blank}, "blank 2, 4"},
+        {"all of it", {framed, a4, blank}, "shrunk 2|cut-off 1|blank 3"},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(kinds(notesOn(row.pages)), words(row.kinds)) << row.what;
+}
+
+TEST_F(PreflightTest, AShrunkPageIsReportedWithItsSize)
+{
+    const Notes notes = notesOn({a4});
+    ASSERT_EQ(notes.size(), 1U);
+    // The printable width is 51 of 595 points.
+    EXPECT_TRUE(notes[0].sentence.contains(QStringLiteral(" 9 %"))) << notes[0].sentence.toStdString();
+}
+
+TEST_F(PreflightTest, WithoutScalingALargePageIsCutOff)
+{
+    const RawPage dark{"/MediaBox [0 0 595 842]", "0 g 100 100 395 642 re f"};
+    const host::JobChoice actualSize{"print-scaling", "none", host::Origin::You};
+    EXPECT_EQ(kinds(notesOn({dark}, {actualSize})), words("cut-off 1"));
+}
+
+TEST_F(PreflightTest, ALonelyLabelAfterPiecesOfSeveral)
+{
+    const host::JobChoice everyTwo{"KvCutLabel", "2", host::Origin::You};
+    EXPECT_EQ(kinds(notesOn({label, label, label, label, label}, {everyTwo})), words("lonely-label"));
+    EXPECT_EQ(kinds(notesOn({label, label, label, label}, {everyTwo})), QStringList());
+    EXPECT_EQ(kinds(notesOn({label}, {everyTwo})), QStringList());
+}
+
+TEST_F(PreflightTest, MoreThanFiveMetresOfTape)
+{
+    EXPECT_EQ(kinds(notesOn({label}, {}, 83)), QStringList());
+    EXPECT_EQ(kinds(notesOn({label}, {}, 84)), words("long-tape"));
+}
+
+TEST_F(PreflightTest, NothingIsReportedOfTheSampleDocument)
+{
+    EXPECT_EQ(kinds(notesOn(QStringLiteral(KV_SOURCE_DIR "/resources/documents/labels.pdf"))), QStringList());
+}
+
+TEST(PreflightPages, AreListedAsRanges)
+{
+    EXPECT_EQ(host::pageList({0}), QStringLiteral("1"));
+    EXPECT_EQ(host::pageList({0, 1, 2, 4, 6, 7}), QString::fromUtf8("1–3, 5, 7–8"));
+    EXPECT_EQ(host::pageList({}), QString());
+}
+
+} // namespace
