@@ -1537,6 +1537,41 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>Seite %1 ist größer als das Etikett und wird auf %2 % verkleinert gedruckt.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>Die Seiten %1 sind größer als das Etikett und werden verkleinert gedruckt, auf %2 % oder mehr.</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>Seite %1 hat Inhalt, wo der Drucker nicht drucken kann.</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>Die Seiten %1 haben Inhalt, wo der Drucker nicht drucken kann.</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>Seite %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>Die Seiten %1 sind leer.</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>Das letzte Etikett ist ein Stück für sich.</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>Der Auftrag braucht %1 m Band.</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

@@ -1537,6 +1537,41 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>La página %1 es mayor que la etiqueta y se imprime al %2 % de su tamaño.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>Las páginas %1 son mayores que la etiqueta y se imprimen reducidas, al %2 % o más.</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>La página %1 tiene contenido donde la impresora no puede imprimir.</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>Las páginas %1 tienen contenido donde la impresora no puede imprimir.</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>La página %1 está en blanco.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>Las páginas %1 están en blanco.</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>La última etiqueta es una pieza aparte.</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>El trabajo necesita %1 m de cinta.</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

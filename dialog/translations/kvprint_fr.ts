@@ -1537,6 +1537,41 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>La page %1 est plus grande que l’étiquette et est imprimée à %2 % de sa taille.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>Les pages %1 sont plus grandes que l’étiquette et sont imprimées réduites, à %2 % ou plus.</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>La page %1 a du contenu là où l’imprimante ne peut pas imprimer.</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>Les pages %1 ont du contenu là où l’imprimante ne peut pas imprimer.</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>La page %1 est vide.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>Les pages %1 sont vides.</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>La dernière étiquette forme un morceau à elle seule.</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>La tâche demande %1 m de ruban.</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

@@ -1537,6 +1537,41 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>La pagina %1 è più grande dell’etichetta e viene stampata al %2 % delle sue dimensioni.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>Le pagine %1 sono più grandi dell’etichetta e vengono stampate ridotte, al %2 % o più.</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>La pagina %1 ha contenuto dove la stampante non può stampare.</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>Le pagine %1 hanno contenuto dove la stampante non può stampare.</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>La pagina %1 è vuota.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>Le pagine %1 sono vuote.</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>L’ultima etichetta è un pezzo a sé.</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>Il lavoro richiede %1 m di nastro.</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

@@ -1535,6 +1535,41 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>ページ %1 はラベルより大きいため、%2 % の大きさで印刷されます。</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>ページ %1 はラベルより大きいため、縮小して (%2 % 以上で) 印刷されます。</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>ページ %1 には、プリンターが印刷できない位置に内容があります。</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>ページ %1 には、プリンターが印刷できない位置に内容があります。</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>ページ %1 は白紙です。</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>ページ %1 は白紙です。</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>最後のラベルは 1 枚だけの切れ端になります。</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>このジョブには %1 m のテープが必要です。</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

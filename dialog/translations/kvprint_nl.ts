@@ -1537,6 +1537,41 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>Pagina %1 is groter dan het label en wordt op %2 % van de grootte afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>De pagina’s %1 zijn groter dan het label en worden verkleind afgedrukt, op %2 % of meer.</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>Pagina %1 heeft inhoud waar de printer niet kan afdrukken.</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>De pagina’s %1 hebben inhoud waar de printer niet kan afdrukken.</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>Pagina %1 is leeg.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>De pagina’s %1 zijn leeg.</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>Het laatste label is een stuk op zich.</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>De taak heeft %1 m tape nodig.</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

@@ -1537,6 +1537,41 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>A página %1 é maior que a etiqueta e é impressa com %2 % do tamanho.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>As páginas %1 são maiores que a etiqueta e são impressas reduzidas, com %2 % ou mais.</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>A página %1 tem conteúdo onde a impressora não pode imprimir.</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>As páginas %1 têm conteúdo onde a impressora não pode imprimir.</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>A página %1 está em branco.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>As páginas %1 estão em branco.</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>A última etiqueta é um pedaço separado.</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>O trabalho precisa de %1 m de fita.</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

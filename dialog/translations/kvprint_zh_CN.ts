@@ -1535,6 +1535,41 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     </message>
 </context>
 <context>
+    <name>host::setup::Preflight</name>
+    <message>
+        <source>Page %1 is larger than the label and is printed at %2 % of its size.</source>
+        <translation>第 %1 页比标签大，将按 %2 % 的大小打印。</translation>
+    </message>
+    <message>
+        <source>Pages %1 are larger than the label and are printed smaller, at %2 % or more.</source>
+        <translation>第 %1 页比标签大，将缩小打印（%2 % 或以上）。</translation>
+    </message>
+    <message>
+        <source>Page %1 has content where the printer cannot print.</source>
+        <translation>第 %1 页有内容位于打印机无法打印的区域。</translation>
+    </message>
+    <message>
+        <source>Pages %1 have content where the printer cannot print.</source>
+        <translation>第 %1 页有内容位于打印机无法打印的区域。</translation>
+    </message>
+    <message>
+        <source>Page %1 is blank.</source>
+        <translation>第 %1 页为空白。</translation>
+    </message>
+    <message>
+        <source>Pages %1 are blank.</source>
+        <translation>第 %1 页为空白。</translation>
+    </message>
+    <message>
+        <source>The last label is a piece of its own.</source>
+        <translation>最后一个标签单独成段。</translation>
+    </message>
+    <message>
+        <source>The job needs %1 m of tape.</source>
+        <translation>此作业需要 %1 m 标签带。</translation>
+    </message>
+</context>
+<context>
     <name>host::setup::PrinterSetup</name>
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; with this paper and the other cut options; &quot;%3&quot; is used instead.</source>

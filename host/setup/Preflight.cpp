@@ -34,11 +34,6 @@ QString kindKey(PreflightKind kind)
     return {};
 }
 
-int pageCountOf(const std::vector<int> &pages)
-{
-    return static_cast<int>(pages.size());
-}
-
 /// Adds the note unless it is about no page.
 void addPages(std::vector<PreflightNote> &notes, PreflightKind kind, std::vector<int> pages,
               const QString &sentence)
@@ -67,15 +62,19 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
     constexpr double percent = 100.0;
     const QString size = QLocale().toString(std::max(1.0, std::round(scale * percent)), 'f', 0);
     addPages(notes, PreflightKind::Shrunk, shrunk,
-             PreflightText::tr("Page %1 is larger than the label and is printed at %2 % of its size.",
-                               nullptr, pageCountOf(shrunk))
+             (shrunk.size() == 1
+                  ? PreflightText::tr("Page %1 is larger than the label and is printed at %2 % of its size.")
+                  : PreflightText::tr(
+                        "Pages %1 are larger than the label and are printed smaller, at %2 % or more."))
                  .arg(pageList(shrunk), size));
-    addPages(
-        notes, PreflightKind::CutOff, cutOff,
-        PreflightText::tr("Page %1 has content where the printer cannot print.", nullptr, pageCountOf(cutOff))
-            .arg(pageList(cutOff)));
+    addPages(notes, PreflightKind::CutOff, cutOff,
+             (cutOff.size() == 1 ? PreflightText::tr("Page %1 has content where the printer cannot print.")
+                                 : PreflightText::tr("Pages %1 have content where the printer cannot print."))
+                 .arg(pageList(cutOff)));
     addPages(notes, PreflightKind::Blank, blank,
-             PreflightText::tr("Page %1 is blank.", nullptr, pageCountOf(blank)).arg(pageList(blank)));
+             (blank.size() == 1 ? PreflightText::tr("Page %1 is blank.")
+                                : PreflightText::tr("Pages %1 are blank."))
+                 .arg(pageList(blank)));
 }
 
 /// Whether the last piece is a single label, and all pieces before it have the same greater number of labels.

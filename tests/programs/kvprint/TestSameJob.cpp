@@ -155,7 +155,7 @@ TEST_F(KvprintSameJob, IsToldAsJson)
     const QJsonObject job =
         dryRun({word("-d"), word("tape"), word("-o"), word("KvMirror=ON"), word("-t"), word("A \"b\"\n")});
     EXPECT_EQ(job.keys().join(u' '),
-              word("conflicts destination documents lp lpDifferences options server title"));
+              word("conflicts destination documents lp lpDifferences options preflight server title"));
     EXPECT_EQ(job[word("server")].toString(), cupsd.address());
     EXPECT_EQ(job[word("destination")].toString(), word("tape"));
     EXPECT_EQ(job[word("title")].toString(), word("A \"b\"\n"));
