@@ -1570,6 +1570,14 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>The job needs %1 m of tape.</source>
         <translation>Der Auftrag braucht %1 m Band.</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>„%1“ verwenden</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>Leere Seiten weglassen</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

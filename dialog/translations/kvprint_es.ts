@@ -1570,6 +1570,14 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>The job needs %1 m of tape.</source>
         <translation>El trabajo necesita %1 m de cinta.</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>Usar «%1»</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>Omitir las páginas en blanco</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1570,6 +1570,14 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>The job needs %1 m of tape.</source>
         <translation>La tâche demande %1 m de ruban.</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>Utiliser « %1 »</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>Ignorer les pages vides</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1570,6 +1570,14 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>The job needs %1 m of tape.</source>
         <translation>Il lavoro richiede %1 m di nastro.</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>Usa «%1»</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>Ometti le pagine vuote</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1568,6 +1568,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>The job needs %1 m of tape.</source>
         <translation>このジョブには %1 m のテープが必要です。</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>「%1」を使用</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>白紙のページを除く</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

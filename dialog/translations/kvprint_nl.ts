@@ -1570,6 +1570,14 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>The job needs %1 m of tape.</source>
         <translation>De taak heeft %1 m tape nodig.</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>‘%1’ gebruiken</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>Lege pagina’s overslaan</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1570,6 +1570,14 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>The job needs %1 m of tape.</source>
         <translation>O trabalho precisa de %1 m de fita.</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>Usar “%1”</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>Omitir páginas em branco</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1568,6 +1568,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>The job needs %1 m of tape.</source>
         <translation>此作业需要 %1 m 标签带。</translation>
     </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>使用“%1”</translation>
+    </message>
+    <message>
+        <source>Leave out blank pages</source>
+        <translation>跳过空白页</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

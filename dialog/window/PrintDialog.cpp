@@ -5,6 +5,7 @@
 #include "DialogPages.h"
 #include "PanelBanner.h"
 #include "PanelWatch.h"
+#include "PreflightBanner.h"
 #include "StripPreview.h"
 #include "WaitingText.h"
 
@@ -13,11 +14,9 @@
 #include <dialog/job/PageOptions.h>
 #include <dialog/job/SendBar.h>
 #include <dialog/options/ConflictBanner.h>
-#include <dialog/options/ConflictNote.h>
 #include <dialog/options/ConflictQuestion.h>
 #include <dialog/widgets/FittedLabel.h>
 #include <host/labels/BlankMeasurer.h>
-#include <host/setup/Preflight.h>
 #include <host/strip/CutPlanText.h>
 
 #include <QDialogButtonBox>
@@ -67,7 +66,7 @@ void PrintDialog::build(const RequestedSettings &requested)
     m_stripPreview = new StripPreview(m_content);
     // The minimum height keeps the window from growing whenever the text changes.
     m_planText = new FittedLabel(3, 20, this);
-    m_preflightNote = new ConflictNote(this);
+    m_preflightBanner = new PreflightBanner(this);
     auto *const leftJobs = session ? new LeftJobBanner(session->server(), this) : nullptr;
     m_sendBar = new SendBar(this);
     m_buttons = new QDialogButtonBox(this);
@@ -86,7 +85,7 @@ void PrintDialog::build(const RequestedSettings &requested)
     layout->addWidget(m_panelBanner);
     layout->addWidget(m_content, 1);
     layout->addWidget(m_planText);
-    layout->addWidget(m_preflightNote);
+    layout->addWidget(m_preflightBanner);
     layout->addWidget(m_conflictBanner);
     layout->addWidget(m_errorBanner);
     if (leftJobs) {
@@ -118,6 +117,7 @@ void PrintDialog::connectAll()
         connect(session, &host::QueueSession::ppdChanged, this, &PrintDialog::refreshLater);
         connect(session, &host::QueueSession::stateChanged, this, &PrintDialog::refreshLater);
     }
+    connect(m_preflightBanner, &PreflightBanner::remedyChosen, this, &PrintDialog::applyRemedy);
     connect(m_sendBar, &SendBar::canceled, &m_sender, &JobSender::cancel);
     connect(m_sendBar, &SendBar::canceled, this, [this] {
         if (!m_isSending)
@@ -257,12 +257,29 @@ void PrintDialog::refreshStrip()
 
 void PrintDialog::refreshPreflight()
 {
-    QStringList sentences;
-    if (m_plan) {
-        for (const host::PreflightNote &note : host::preflight(*m_ticket, *m_renderer, *m_plan))
-            sentences.append(note.sentence);
+    std::vector<host::PreflightNote> notes;
+    if (m_plan)
+        notes =
+            host::preflight(*m_ticket, *m_document, *m_renderer, *m_plan, m_keeper.setup()->ppd().papers());
+    m_preflightBanner->setNotes(notes);
+}
+
+void PrintDialog::applyRemedy(const host::NamedValue &option)
+{
+    host::PrinterSetup *const setup = m_keeper.setup();
+    if (!setup || !setup->hasPpd())
+        return;
+    if (option.name == host::paperKeyword) {
+        if (const std::optional<host::PpdPaper> paper = setup->ppd().paper(option.value))
+            setup->choosePaper(*paper);
+        m_choices->showPapers();
+    } else {
+        host::JobSettings settings;
+        m_choices->pages().writeTo(settings);
+        settings.pageRanges = QString::fromLatin1(option.value);
+        m_choices->pages().setSettings(settings);
     }
-    m_preflightNote->setSentences(sentences);
+    refresh();
 }
 
 void PrintDialog::refreshMessages()

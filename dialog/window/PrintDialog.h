@@ -21,7 +21,6 @@ class FittedLabel;
 namespace dialog {
 inline namespace options {
 class ConflictBanner;
-class ConflictNote;
 } // namespace options
 } // namespace dialog
 
@@ -39,6 +38,7 @@ class ChoicesColumn;
 class DialogPages;
 class PanelBanner;
 class PanelWatch;
+class PreflightBanner;
 class StripPreview;
 
 /// What was requested for the job in addition to the printer; the initial state of the dialog.
@@ -110,6 +110,7 @@ private:
     void printWhenReady();
     void refreshStrip();
     void refreshPreflight();
+    void applyRemedy(const host::NamedValue &option);
     void refreshMessages();
     /// Refreshes if the settings that the panel would save differ from those of the ticket.
     void checkPanel();
@@ -151,7 +152,7 @@ private:
     PanelWatch *m_panelWatch = nullptr;
     StripPreview *m_stripPreview = nullptr;
     FittedLabel *m_planText = nullptr;
-    ConflictNote *m_preflightNote = nullptr;
+    PreflightBanner *m_preflightBanner = nullptr;
     SendBar *m_sendBar = nullptr;
     QDialogButtonBox *m_buttons = nullptr;
     QPushButton *m_printButton = nullptr;

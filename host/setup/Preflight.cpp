@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace host {
 inline namespace setup {
@@ -36,13 +37,51 @@ QString kindKey(PreflightKind kind)
 
 /// Adds the note unless it is about no page.
 void addPages(std::vector<PreflightNote> &notes, PreflightKind kind, std::vector<int> pages,
-              const QString &sentence)
+              const QString &sentence, const std::optional<PreflightRemedy> &remedy = std::nullopt)
 {
     if (!pages.empty())
-        notes.push_back({kind, std::move(pages), sentence});
+        notes.push_back({kind, std::move(pages), sentence, remedy});
 }
 
-void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const LabelRenderer &renderer)
+/// Returns the smallest of the papers on which none of the pages is shrunk.
+std::optional<PreflightRemedy> largerPaper(const Ticket &ticket, const LabelDocument &document,
+                                           const std::vector<int> &pages, const std::vector<PpdPaper> &papers)
+{
+    if (pages.empty())
+        return std::nullopt;
+    const PpdPaper *smallest = nullptr;
+    const auto area = [](const PpdPaper &paper) { return paper.size.width() * paper.size.height(); };
+    for (const PpdPaper &paper : papers) {
+        PageLayout layout = *ticket.layout;
+        layout.paper = paper.size;
+        layout.margins = paper.margins.value_or(QMarginsF());
+        const bool fits = std::ranges::all_of(
+            pages, [&](int page) { return layout.place(document.pageSize(page)).scale >= 1.0; });
+        if (fits && (!smallest || area(paper) < area(*smallest)))
+            smallest = &paper;
+    }
+    if (!smallest)
+        return std::nullopt;
+    return PreflightRemedy{PreflightText::tr("Use \"%1\"").arg(smallest->text),
+                           {paperKeyword, smallest->name}};
+}
+
+/// Returns the pages of the ticket without the blank ones. The ranges of several documents apply to each of
+/// them, so that a page of one cannot be left out.
+std::optional<PreflightRemedy> withoutPages(const Ticket &ticket, const std::vector<int> &blank)
+{
+    std::vector<int> kept;
+    std::ranges::set_difference(ticket.pages.pages, blank, std::back_inserter(kept));
+    if (kept.empty() || ticket.job.documents.size() != 1)
+        return std::nullopt;
+    QByteArrayList ranges;
+    for (const int page : kept)
+        ranges.append(QByteArray::number(page + 1));
+    return PreflightRemedy{PreflightText::tr("Leave out blank pages"), {"page-ranges", ranges.join(',')}};
+}
+
+void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const LabelDocument &document,
+                  const LabelRenderer &renderer, const std::vector<PpdPaper> &papers)
 {
     std::vector<int> shrunk;
     std::vector<int> cutOff;
@@ -66,7 +105,8 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
                   ? PreflightText::tr("Page %1 is larger than the label and is printed at %2 % of its size.")
                   : PreflightText::tr(
                         "Pages %1 are larger than the label and are printed smaller, at %2 % or more."))
-                 .arg(pageList(shrunk), size));
+                 .arg(pageList(shrunk), size),
+             largerPaper(ticket, document, shrunk, papers));
     addPages(notes, PreflightKind::CutOff, cutOff,
              (cutOff.size() == 1 ? PreflightText::tr("Page %1 has content where the printer cannot print.")
                                  : PreflightText::tr("Pages %1 have content where the printer cannot print."))
@@ -74,7 +114,8 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
     addPages(notes, PreflightKind::Blank, blank,
              (blank.size() == 1 ? PreflightText::tr("Page %1 is blank.")
                                 : PreflightText::tr("Pages %1 are blank."))
-                 .arg(pageList(blank)));
+                 .arg(pageList(blank)),
+             withoutPages(ticket, blank));
 }
 
 /// Whether the last piece is a single label, and all pieces before it have the same greater number of labels.
@@ -102,10 +143,12 @@ QString pageList(const std::vector<int> &pages)
     return ranges.join(QStringLiteral(", "));
 }
 
-std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelRenderer &renderer, const CutPlan &plan)
+std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelDocument &document,
+                                     const LabelRenderer &renderer, const CutPlan &plan,
+                                     const std::vector<PpdPaper> &papers)
 {
     std::vector<PreflightNote> notes;
-    addPageNotes(notes, ticket, renderer);
+    addPageNotes(notes, ticket, document, renderer, papers);
     if (hasLonelyLabel(plan.pieces()))
         notes.push_back(
             {PreflightKind::LonelyLabel, {}, PreflightText::tr("The last label is a piece of its own.")});
@@ -125,9 +168,13 @@ QJsonArray preflightJson(const std::vector<PreflightNote> &notes)
         QJsonArray pages;
         for (const int page : note.pages)
             pages.append(page + 1);
-        list.append(QJsonObject{{QStringLiteral("kind"), kindKey(note.kind)},
-                                {QStringLiteral("pages"), pages},
-                                {QStringLiteral("text"), note.sentence}});
+        QJsonObject object{{QStringLiteral("kind"), kindKey(note.kind)},
+                           {QStringLiteral("pages"), pages},
+                           {QStringLiteral("text"), note.sentence}};
+        if (note.remedy)
+            object[QStringLiteral("remedy")] =
+                QString::fromUtf8(note.remedy->option.name + '=' + note.remedy->option.value);
+        list.append(object);
     }
     return list;
 }

@@ -18,6 +18,16 @@ enum class PreflightKind {
     LongTape,    ///< the job needs more tape than most rolls have
 };
 
+/// A setting with which a warning does not occur.
+struct PreflightRemedy {
+    /// What the user reads: 'Use "Tape 36 mm x 80 mm"'.
+    QString text;
+    /// The option of the job and its value, as lp names them: "PageSize" or "page-ranges".
+    NamedValue option;
+
+    bool operator==(const PreflightRemedy &) const = default;
+};
+
 /// A warning about a job. The job can be printed nevertheless.
 struct PreflightNote {
     PreflightKind kind = PreflightKind::Shrunk;
@@ -25,6 +35,8 @@ struct PreflightNote {
     std::vector<int> pages = {};
     /// One sentence in the user's language.
     QString sentence = {};
+    /// Absent if there is no such setting.
+    std::optional<PreflightRemedy> remedy = {};
 
     bool operator==(const PreflightNote &) const = default;
 };
@@ -34,13 +46,16 @@ inline constexpr Metres longTape{5.0};
 
 /// Checks the pages of the ticket, which has a paper, as the renderer lays them out. Pages that are not
 /// measured yet are measured in the background, and only their sizes are judged. Each kind occurs once.
-std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelRenderer &renderer,
-                                     const CutPlan &plan);
+/// The papers are those that can replace the one of the ticket.
+std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelDocument &document,
+                                     const LabelRenderer &renderer, const CutPlan &plan,
+                                     const std::vector<PpdPaper> &papers);
 
 /// Returns pages for sentences, counted from 1: "2, 5-7".
 QString pageList(const std::vector<int> &pages);
 
-/// Returns the notes for programs: a list with "kind", "pages", counted from 1, and "text".
+/// Returns the notes for programs: a list with "kind", "pages", counted from 1, "text" and, if
+/// there is a remedy, "remedy" as NAME=VALUE.
 QJsonArray preflightJson(const std::vector<PreflightNote> &notes);
 
 } // namespace setup

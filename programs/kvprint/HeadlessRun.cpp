@@ -181,7 +181,8 @@ ExitStatus HeadlessRun::finish(const host::PrinterSetup &setup, const host::Tick
         plan = host::makePlan(ticket, *m_document, renderer);
     if (m_command.task == Task::DryRun) {
         const std::vector<host::PreflightNote> notes =
-            plan ? host::preflight(ticket, renderer, *plan) : std::vector<host::PreflightNote>();
+            plan ? host::preflight(ticket, *m_document, renderer, *plan, setup.ppd().papers())
+                 : std::vector<host::PreflightNote>();
         return print(host::ticketJson(m_server, ticket, notes),
                      host::ticketInPlainText(m_server, ticket, notes));
     }

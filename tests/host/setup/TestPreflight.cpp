@@ -45,7 +45,8 @@ protected:
             request.pages.pages.push_back(page);
         const host::Ticket ticket = ticketFor(setup, *document.value(), request);
         const host::LabelRenderer renderer(*document.value(), *ticket.layout);
-        return preflight(ticket, renderer, makePlan(ticket, *document.value(), renderer));
+        return preflight(ticket, *document.value(), renderer, makePlan(ticket, *document.value(), renderer),
+                         setup.ppd().papers());
     }
 
     /// The kinds with their pages, counted from 1.
@@ -95,6 +96,31 @@ TEST_F(PreflightTest, AShrunkPageIsReportedWithItsSize)
     ASSERT_EQ(notes.size(), 1U);
     // The printable width is 51 of 595 points.
     EXPECT_TRUE(notes[0].sentence.contains(QStringLiteral(" 9 %"))) << notes[0].sentence.toStdString();
+}
+
+TEST_F(PreflightTest, OffersThePaperOnWhichNothingIsShrunk)
+{
+    // 20 x 70 mm: fits on tapes of 24 mm and 100 mm, and on larger ones.
+    const RawPage longer{"/MediaBox [0 0 57 198]", mark};
+    const Notes notes = notesOn({label, longer});
+    ASSERT_EQ(notes.size(), 1U);
+    ASSERT_TRUE(notes[0].remedy);
+    EXPECT_EQ(notes[0].remedy->option, (host::NamedValue{"PageSize", "24x100mm"}));
+    EXPECT_EQ(notes[0].remedy->text, QStringLiteral("Use \"Tape 24 mm x 100 mm\""));
+    const Notes huge = notesOn({a4});
+    ASSERT_EQ(huge.size(), 1U);
+    EXPECT_FALSE(huge[0].remedy) << "no tape is that wide";
+}
+
+TEST_F(PreflightTest, OffersToLeaveOutBlankPages)
+{
+    const Notes notes = notesOn({label, blank, label, label, blank});
+    ASSERT_EQ(notes.size(), 1U);
+    ASSERT_TRUE(notes[0].remedy);
+    EXPECT_EQ(notes[0].remedy->option, (host::NamedValue{"page-ranges", "1,3,4"}));
+    const Notes all = notesOn({blank, blank});
+    ASSERT_EQ(all.size(), 1U);
+    EXPECT_FALSE(all[0].remedy) << "nothing would be left";
 }
 
 TEST_F(PreflightTest, WithoutScalingALargePageIsCutOff)
