@@ -4,6 +4,7 @@
 #include "Hands.h"
 
 #include <dialog/widgets/Banner.h>
+#include <dialog/window/PreflightBanner.h>
 #include <dialog/window/StripPreview.h>
 
 #include <QApplication>
@@ -96,7 +97,8 @@ QString WalkedDialog::told() const
 {
     QStringList messages;
     for (const dialog::Banner *const banner : m_window->findChildren<dialog::Banner *>()) {
-        if (banner->isVisible())
+        const bool isPreflight = qobject_cast<const dialog::PreflightBanner *>(banner);
+        if (banner->isVisible() && !isPreflight)
             messages.append(banner->message());
     }
     return messages.join(u'\n');

@@ -37,7 +37,7 @@ public:
     bool settle(const QString &destination);
     /// Lets the window show what has changed, and waits for lengths that are being measured.
     bool refresh();
-    /// The texts of all banners.
+    /// The texts of all banners, without what the preflight reports.
     QString told() const;
     /// All options of the job as the dialog would send it now.
     OptionTexts options() const;

@@ -3,6 +3,7 @@
 
 #include <dialog/job/PasswordDialog.h>
 #include <dialog/widgets/Banner.h>
+#include <dialog/window/PreflightBanner.h>
 #include <host/cups/queues/QueueCache.h>
 #include <tests/samples/RawPdf.h>
 #include <tests/samples/SamplePdf.h>
@@ -201,7 +202,8 @@ QString QueueDialogTest::told() const
 {
     QStringList messages;
     for (const dialog::Banner *const banner : window->findChildren<dialog::Banner *>()) {
-        if (banner->isVisible())
+        const bool isPreflight = qobject_cast<const dialog::PreflightBanner *>(banner);
+        if (banner->isVisible() && !isPreflight)
             messages.append(banner->message());
     }
     return messages.join(u'\n');

@@ -79,7 +79,7 @@ protected:
     QListWidget *papers() const { return find<QListWidget>(QStringLiteral("Paper")); }
     /// The text of the line below the destinations.
     QString state() const { return destinations()->accessibleDescription(); }
-    /// The texts of all banners of the dialog.
+    /// The texts of all banners of the dialog, without what the preflight reports.
     QString told() const;
     /// Whether any visible label contains the text.
     bool isSeen(const QString &text) const;
