@@ -15,7 +15,7 @@ using host::PreflightKind;
 namespace {
 
 const QByteArray mark = "0 g 30 60 10 10 re f";
-const RawPage label{"/MediaBox [0 0 68.03 170.08]", mark};
+const RawPage markedLabel{"/MediaBox [0 0 68.03 170.08]", mark};
 const RawPage blank{"/MediaBox [0 0 68.03 170.08]"};
 const RawPage a4{"/MediaBox [0 0 595 842]", "0 g 300 400 100 100 re f"};
 /// The printer cannot print the outermost 3 mm at the sides.
@@ -80,10 +80,10 @@ TEST_F(PreflightTest, ReportsWhatWastesTape)
         std::vector<RawPage> pages;
         const char *kinds;
     } rows[] = {
-        {"a label", {label}, ""},
-        {"a large page", {label, a4, a4}, "shrunk 2–3"},
-        {"content at the edge", {framed, label}, "cut-off 1"},
-        {"a blank page", {label, blank, label, blank}, "blank 2, 4"},
+        {"a label", {markedLabel}, ""},
+        {"a large page", {markedLabel, a4, a4}, "shrunk 2–3"},
+        {"content at the edge", {framed, markedLabel}, "cut-off 1"},
+        {"a blank page", {markedLabel, blank, markedLabel, blank}, "blank 2, 4"},
         {"all of it", {framed, a4, blank}, "shrunk 2|cut-off 1|blank 3"},
     };
     for (const auto &row : rows)
@@ -102,7 +102,7 @@ TEST_F(PreflightTest, OffersThePaperOnWhichNothingIsShrunk)
 {
     // 20 x 70 mm: fits on tapes of 24 mm and 100 mm, and on larger ones.
     const RawPage longer{"/MediaBox [0 0 57 198]", mark};
-    const Notes notes = notesOn({label, longer});
+    const Notes notes = notesOn({markedLabel, longer});
     ASSERT_EQ(notes.size(), 1U);
     ASSERT_TRUE(notes[0].remedy);
     EXPECT_EQ(notes[0].remedy->option, (host::NamedValue{"PageSize", "24x100mm"}));
@@ -114,7 +114,7 @@ TEST_F(PreflightTest, OffersThePaperOnWhichNothingIsShrunk)
 
 TEST_F(PreflightTest, OffersToLeaveOutBlankPages)
 {
-    const Notes notes = notesOn({label, blank, label, label, blank});
+    const Notes notes = notesOn({markedLabel, blank, markedLabel, markedLabel, blank});
     ASSERT_EQ(notes.size(), 1U);
     ASSERT_TRUE(notes[0].remedy);
     EXPECT_EQ(notes[0].remedy->option, (host::NamedValue{"page-ranges", "1,3,4"}));
@@ -133,15 +133,17 @@ TEST_F(PreflightTest, WithoutScalingALargePageIsCutOff)
 TEST_F(PreflightTest, ALonelyLabelAfterPiecesOfSeveral)
 {
     const host::JobChoice everyTwo{"KvCutLabel", "2", host::Origin::You};
-    EXPECT_EQ(kinds(notesOn({label, label, label, label, label}, {everyTwo})), words("lonely-label"));
-    EXPECT_EQ(kinds(notesOn({label, label, label, label}, {everyTwo})), QStringList());
-    EXPECT_EQ(kinds(notesOn({label}, {everyTwo})), QStringList());
+    EXPECT_EQ(kinds(notesOn({markedLabel, markedLabel, markedLabel, markedLabel, markedLabel}, {everyTwo})),
+              words("lonely-label"));
+    EXPECT_EQ(kinds(notesOn({markedLabel, markedLabel, markedLabel, markedLabel}, {everyTwo})),
+              QStringList());
+    EXPECT_EQ(kinds(notesOn({markedLabel}, {everyTwo})), QStringList());
 }
 
 TEST_F(PreflightTest, MoreThanFiveMetresOfTape)
 {
-    EXPECT_EQ(kinds(notesOn({label}, {}, 83)), QStringList());
-    EXPECT_EQ(kinds(notesOn({label}, {}, 84)), words("long-tape"));
+    EXPECT_EQ(kinds(notesOn({markedLabel}, {}, 83)), QStringList());
+    EXPECT_EQ(kinds(notesOn({markedLabel}, {}, 84)), words("long-tape"));
 }
 
 TEST_F(PreflightTest, NothingIsReportedOfTheSampleDocument)
