@@ -9,6 +9,7 @@
 // exit status is 1 if an argument is invalid, and 2 if there is too little memory; the reason is written to
 // standard error.
 #include <programs/conversion/Conversion.h>
+#include <programs/sandbox/Sandbox.h>
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
@@ -31,6 +32,15 @@ struct Request {
     std::string pointsAcross;
     std::string pointsDown;
 };
+
+/// What the process may use. The image and the PDF are both in memory.
+programs::SandboxRules rules()
+{
+    programs::SandboxRules rules;
+    rules.seconds = 60;
+    rules.bytes = std::size_t{2} << 30U;
+    return rules;
+}
 
 void writePage(const Request &request, std::vector<unsigned char> &data)
 {
@@ -65,6 +75,7 @@ void writePage(const Request &request, std::vector<unsigned char> &data)
 
 int main(int argc, char **argv)
 {
+    programs::enterSandbox(rules());
     return programs::runConversion("kvprint-imagepdf", [argc, argv] {
         constexpr int argumentCount = 7;
         if (argc != argumentCount)

@@ -10,6 +10,7 @@
 // file. The exit status is 1 if the document or an argument is invalid, and 2 if the document needs too much
 // memory or time; the reason is written to standard error.
 #include <programs/conversion/Conversion.h>
+#include <programs/sandbox/Sandbox.h>
 
 #include <host/layout/PageLayout.h>
 
@@ -25,27 +26,19 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <sys/resource.h>
 #include <vector>
 
 namespace {
 
 using Rectangle = QPDFObjectHandle::Rectangle;
 
-/// A document with very many pages needs some minutes.
-void limitResources()
+/// What the process may use. A document with very many pages needs some minutes.
+programs::SandboxRules rules()
 {
-    constexpr rlim_t seconds = 300;
-    constexpr rlimit time = {seconds, seconds};
-    constexpr rlimit noCore = {0, 0};
-    setrlimit(RLIMIT_CPU, &time);
-    setrlimit(RLIMIT_CORE, &noCore);
-#ifndef KV_SANITIZED
-    // The sanitizers reserve much more address space than they use.
-    constexpr rlim_t bytes = rlim_t{4} * 1024 * 1024 * 1024;
-    constexpr rlimit memory = {bytes, bytes};
-    setrlimit(RLIMIT_AS, &memory);
-#endif
+    programs::SandboxRules rules;
+    rules.seconds = 300;
+    rules.bytes = std::size_t{4} << 30U;
+    return rules;
 }
 
 /// What a viewer shows of a page: the crop box within the media box, turned by /Rotate.
@@ -216,7 +209,7 @@ void layOut(const host::PageLayout &layout)
 
 int main(int argc, char **argv)
 {
-    limitResources();
+    programs::enterSandbox(rules());
     return programs::runConversion("kvprint-layoutpdf", [argc, argv] {
         QStringList arguments;
         for (int index = 1; index < argc; ++index)

@@ -9,9 +9,10 @@
 // damaged, and 2 if it is too large or too complex to be drawn; the reason is written to standard error.
 //
 // kvprint runs this program when it opens an SVG. References to files and to the network are not loaded: the
-// library resolves them against the location of the SVG, and it is given none. The system limits time and
-// memory, because an SVG of a few lines can need any amount of both.
+// library resolves them against the location of the SVG, and it is given none. The process is in a sandbox,
+// which limits time and memory too, because an SVG of a few lines can need any amount of both.
 #include <programs/conversion/Conversion.h>
+#include <programs/sandbox/Sandbox.h>
 
 #include <librsvg/rsvg.h>
 
@@ -24,8 +25,6 @@
 #include <cstdlib>
 #include <memory>
 #include <vector>
-
-#include <sys/resource.h>
 
 namespace {
 
@@ -61,20 +60,10 @@ struct DrawingSize {
     bool isWhatIsDrawn = false;
 };
 
-/// The limits of the process. The system ends it when it exceeds one of them.
-void setLimits()
+/// What the process may use. Fonts are files of the system.
+programs::SandboxRules rules()
 {
-    constexpr rlim_t seconds = 10;
-    constexpr rlimit time = {seconds, seconds};
-    constexpr rlimit noCore = {0, 0};
-    setrlimit(RLIMIT_CPU, &time);
-    setrlimit(RLIMIT_CORE, &noCore);
-#ifndef KV_SANITIZED
-    // AddressSanitizer reserves terabytes of addresses.
-    constexpr rlim_t bytes = rlim_t{1} << 30U;
-    constexpr rlimit memory = {bytes, bytes};
-    setrlimit(RLIMIT_AS, &memory);
-#endif
+    return {.seconds = 10, .bytes = std::size_t{1} << 30U, .readableFolders = programs::fontFolders()};
 }
 
 /// Makes the error of the program from that of a library, which is released.
@@ -167,9 +156,9 @@ void writePdf(RsvgHandle *handle, const DrawingSize &size)
 
 void convert(int argc, char **argv)
 {
-    setLimits();
     // Which variants Chinese, Japanese and Korean glyphs have depends on the user's language.
     std::setlocale(LC_CTYPE, "");
+    programs::enterSandbox(rules());
     const std::vector<unsigned char> svg = programs::readStandardInput();
     const Handle handle = load(svg);
     const DrawingSize size = argc == 3
