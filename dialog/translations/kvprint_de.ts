@@ -1251,6 +1251,26 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>seine Seiten lassen sich nicht auf Etiketten anordnen; das PDF ist beschädigt</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>das Programm, das PDFs liest, kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>das Programm, das PDFs liest, ist abgestürzt</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>das Lesen dauert zu lange</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>es versucht, was kein Dokument darf</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht aus</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1265,6 +1285,13 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>Es würde nichts gedruckt: Keine Seite des Dokuments ist gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>Seite %1 kann nicht dargestellt werden</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1604,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>Leave out blank pages</source>
         <translation>Leere Seiten weglassen</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Seite %1 kann nicht dargestellt und der Auftrag nicht gedruckt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Die Seiten %1 können nicht dargestellt und der Auftrag nicht gedruckt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>Nicht darstellbare Seiten auslassen</translation>
     </message>
 </context>
 <context>

@@ -1251,6 +1251,26 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>sus páginas no se pueden colocar en etiquetas; el PDF está dañado</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>el programa que lee los PDF no se puede iniciar</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>el programa que lee los PDF ha fallado</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>leerlo tarda demasiado</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>intenta hacer lo que ningún documento puede hacer</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1265,6 +1285,13 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>No se imprimiría nada: no se ha elegido ninguna página del documento</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>La página %1 no se puede dibujar</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1604,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>Leave out blank pages</source>
         <translation>Omitir las páginas en blanco</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>La página %1 no se puede dibujar y el trabajo no se puede imprimir: %2.</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Las páginas %1 no se pueden dibujar y el trabajo no se puede imprimir: %2.</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>Omitir las páginas que no se pueden dibujar</translation>
     </message>
 </context>
 <context>

@@ -1251,6 +1251,26 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>ses pages ne peuvent pas être disposées sur des étiquettes ; le PDF est endommagé</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>le programme qui lit les PDF ne peut pas être démarré</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>le programme qui lit les PDF s’est arrêté brutalement</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>sa lecture prend trop de temps</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>il tente ce qu’aucun document n’a le droit de faire</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>la mémoire est insuffisante</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1265,6 +1285,13 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>Rien ne serait imprimé : aucune page du document n’est choisie</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>La page %1 ne peut pas être affichée</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1604,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>Leave out blank pages</source>
         <translation>Ignorer les pages vides</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>La page %1 ne peut pas être affichée et la tâche ne peut pas être imprimée : %2.</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Les pages %1 ne peuvent pas être affichées et la tâche ne peut pas être imprimée : %2.</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>Omettre les pages qui ne peuvent pas être affichées</translation>
     </message>
 </context>
 <context>

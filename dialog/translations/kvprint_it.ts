@@ -1251,6 +1251,26 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>le pagine non possono essere disposte sulle etichette; il PDF è danneggiato</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>impossibile avviare il programma che legge i PDF</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>il programma che legge i PDF si è arrestato in modo anomalo</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>la lettura richiede troppo tempo</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>tenta di fare ciò che nessun documento può fare</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>la memoria non è sufficiente</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1265,6 +1285,13 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>Non verrebbe stampato nulla: nessuna pagina del documento è scelta</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>Impossibile disegnare la pagina %1</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1604,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>Leave out blank pages</source>
         <translation>Ometti le pagine vuote</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Impossibile disegnare la pagina %1 e stampare il lavoro: %2.</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Impossibile disegnare le pagine %1 e stampare il lavoro: %2.</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>Ometti le pagine che non si possono disegnare</translation>
     </message>
 </context>
 <context>

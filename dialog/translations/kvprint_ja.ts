@@ -1249,6 +1249,26 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>ページをラベルに配置できません。PDF が破損しています</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>PDF を読み込むプログラムを起動できません</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>PDF を読み込むプログラムが異常終了しました</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>読み込みに時間がかかりすぎます</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>文書に許可されていない動作を試みています</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>メモリが足りません</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1263,6 +1283,13 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>何も印刷されません。文書のページが選ばれていません</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>ページ %1 を描画できません</translation>
     </message>
 </context>
 <context>
@@ -1575,6 +1602,18 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Leave out blank pages</source>
         <translation>白紙のページを除く</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>ページ %1 を描画できないため、ジョブを印刷できません: %2。</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>ページ %1 を描画できないため、ジョブを印刷できません: %2。</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>描画できないページを除外</translation>
     </message>
 </context>
 <context>

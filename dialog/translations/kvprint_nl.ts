@@ -1251,6 +1251,26 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>de pagina’s kunnen niet op labels worden geplaatst; de pdf is beschadigd</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>het programma dat PDF&apos;s leest, kan niet worden gestart</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>het programma dat PDF&apos;s leest, is vastgelopen</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>het lezen duurt te lang</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>het probeert wat geen document mag doen</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>er is niet genoeg geheugen</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1265,6 +1285,13 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>Er zou niets worden afgedrukt: er is geen pagina van het document gekozen</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>Pagina %1 kan niet worden getekend</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1604,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>Leave out blank pages</source>
         <translation>Lege pagina’s overslaan</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Pagina %1 kan niet worden getekend en de taak kan niet worden afgedrukt: %2.</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>Pagina&apos;s %1 kunnen niet worden getekend en de taak kan niet worden afgedrukt: %2.</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>Pagina&apos;s die niet kunnen worden getekend weglaten</translation>
     </message>
 </context>
 <context>

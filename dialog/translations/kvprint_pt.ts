@@ -1251,6 +1251,26 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>suas páginas não podem ser dispostas em etiquetas; o PDF está danificado</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>o programa que lê os PDF não pode ser iniciado</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>o programa que lê os PDF falhou</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>a leitura demora demasiado</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>tenta fazer o que nenhum documento pode fazer</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>não há memória suficiente</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1265,6 +1285,13 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>Nada seria impresso: nenhuma página do documento está escolhida</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>A página %1 não pode ser desenhada</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1604,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>Leave out blank pages</source>
         <translation>Omitir páginas em branco</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>A página %1 não pode ser desenhada e o trabalho não pode ser impresso: %2.</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>As páginas %1 não podem ser desenhadas e o trabalho não pode ser impresso: %2.</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>Omitir as páginas que não podem ser desenhadas</translation>
     </message>
 </context>
 <context>

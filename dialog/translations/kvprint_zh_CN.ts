@@ -1249,6 +1249,26 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>its pages cannot be laid out on labels; the PDF is damaged</source>
         <translation>无法在标签上排列其页面；PDF 已损坏</translation>
     </message>
+    <message>
+        <source>the program that reads PDFs cannot be started</source>
+        <translation>无法启动读取 PDF 的程序</translation>
+    </message>
+    <message>
+        <source>the program that reads PDFs has crashed</source>
+        <translation>读取 PDF 的程序已崩溃</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>读取时间过长</translation>
+    </message>
+    <message>
+        <source>it attempts what no document may do</source>
+        <translation>它尝试了文档不允许进行的操作</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
 </context>
 <context>
     <name>host::documents::PrintOrder</name>
@@ -1263,6 +1283,13 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Nothing to print: no page of the document is selected</source>
         <translation>不会打印任何内容：未选择文档中的任何页面</translation>
+    </message>
+</context>
+<context>
+    <name>host::labels::LabelDrawing</name>
+    <message>
+        <source>Page %1 cannot be drawn</source>
+        <translation>无法绘制第 %1 页</translation>
     </message>
 </context>
 <context>
@@ -1575,6 +1602,18 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Leave out blank pages</source>
         <translation>跳过空白页</translation>
+    </message>
+    <message>
+        <source>Page %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>无法绘制第 %1 页，因此无法打印此作业：%2。</translation>
+    </message>
+    <message>
+        <source>Pages %1 cannot be drawn, and the job cannot be printed: %2.</source>
+        <translation>无法绘制第 %1 页，因此无法打印此作业：%2。</translation>
+    </message>
+    <message>
+        <source>Leave out pages that cannot be drawn</source>
+        <translation>略过无法绘制的页面</translation>
     </message>
 </context>
 <context>

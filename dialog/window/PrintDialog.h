@@ -105,6 +105,8 @@ private:
     /// Refreshes everything that shows the job, once, when control returns to the event loop.
     void refreshLater();
     void refresh();
+    /// Whether all pages of the job are measured.
+    bool isMeasured() const;
     /// Returns whether the document is checked and, if the sender needs it, the strip is measured.
     bool isReadyToSend() const;
     void printWhenReady();

@@ -9,6 +9,7 @@
 #include <dialog/options/ConflictBanner.h>
 #include <dialog/options/ConflictQuestion.h>
 #include <host/labels/BlankMeasurer.h>
+#include <host/setup/Preflight.h>
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -16,10 +17,15 @@
 namespace dialog {
 inline namespace window {
 
+bool PrintDialog::isMeasured() const
+{
+    // Pages whose blank is not removed are measured as well: some may be impossible to draw.
+    return !m_plan || m_renderer->measurer()->isIdle();
+}
+
 bool PrintDialog::isReadyToSend() const
 {
-    const bool isMeasured = !m_plan || m_plan->isMeasured();
-    return m_pageCheck.isDone() && (isMeasured || !m_sender.needsStrip());
+    return m_pageCheck.isDone() && (isMeasured() || !m_sender.needsStrip());
 }
 
 void PrintDialog::printWhenReady()
@@ -41,12 +47,12 @@ host::Result<void, QString> PrintDialog::prepare()
         return *m_ticket->panel.error;
     if (m_pagesError)
         return *m_pagesError;
-    return {};
+    return m_ticket ? host::checkDrawing(*m_ticket, *m_document) : host::Result<void, QString>();
 }
 
 void PrintDialog::finishMeasuring()
 {
-    if (!m_plan || m_plan->isMeasured())
+    if (isMeasured())
         return;
     m_renderer->measurer()->finish();
     refresh();

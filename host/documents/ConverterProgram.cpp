@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ConverterProgram.h"
 
+#include <host/rendering/PrivateProgram.h>
+
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QProcess>
 
 namespace host {
@@ -14,17 +14,6 @@ namespace {
 struct ConverterProgramText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
-
-/// The path of a file in the folder of the private libraries: that of the build tree, or that of the
-/// installation.
-QString privateFile(const QString &name)
-{
-    const QDir programs(QCoreApplication::applicationDirPath());
-    QString built = QDir::cleanPath(programs.filePath(QStringLiteral("../lib/") + name));
-    if (QFileInfo::exists(built))
-        return built;
-    return QDir::cleanPath(programs.filePath(QStringLiteral(KV_PRIVATE_LIBRARIES))) + u'/' + name;
-}
 
 /// How a program that has ended did so.
 ConverterProgram::End endOf(const QProcess &process)
@@ -37,7 +26,7 @@ ConverterProgram::End endOf(const QProcess &process)
 } // namespace
 
 ConverterProgram::ConverterProgram(const QString &converter)
-    : m_path(privateFile(QStringLiteral("kvprint-") + converter))
+    : m_path(privateProgram(QStringLiteral("kvprint-") + converter))
 {
 }
 

@@ -3,6 +3,8 @@
 
 #include "OpenedDocument.h"
 
+#include <host/rendering/RendererProcess.h>
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -20,7 +22,11 @@ struct LabelDocumentText {
 
 } // namespace
 
-LabelDocument::LabelDocument() = default;
+LabelDocument::LabelDocument(std::shared_ptr<RendererProcess> renderer)
+    : m_renderer(std::move(renderer))
+{
+}
+
 LabelDocument::~LabelDocument() = default;
 LabelDocument::Source::Source() = default;
 LabelDocument::Source::~Source() = default;
@@ -34,9 +40,9 @@ Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const 
         return documentError(
             {DocumentErrorKind::InputTaken, LabelDocumentText::tr("it can be read only once")},
             standardInputName.toString());
-    std::unique_ptr<LabelDocument> document(new LabelDocument);
+    std::unique_ptr<LabelDocument> document(new LabelDocument(std::make_shared<RendererProcess>()));
     for (const QString &name : names) {
-        auto opened = OpenedDocument::open(name);
+        auto opened = OpenedDocument::open(name, document->m_renderer);
         if (!opened)
             return documentError(opened.error(), name);
         document->append(name, std::move(opened).value());
@@ -53,6 +59,7 @@ LabelDocument::Source LabelDocument::source() const
 {
     Source source;
     source.files = m_files;
+    source.renderer = std::make_shared<RendererProcess>();
     for (const auto &document : m_documents)
         source.pdfs.push_back(document->source());
     return source;
@@ -60,10 +67,10 @@ LabelDocument::Source LabelDocument::source() const
 
 std::unique_ptr<LabelDocument> LabelDocument::openAgain(Source source)
 {
-    std::unique_ptr<LabelDocument> document(new LabelDocument);
+    std::unique_ptr<LabelDocument> document(new LabelDocument(std::move(source.renderer)));
     document->m_files = std::move(source.files);
     for (PdfSource &pdf : source.pdfs)
-        document->m_documents.push_back(OpenedDocument::openAgain(std::move(pdf)));
+        document->m_documents.push_back(OpenedDocument::openAgain(std::move(pdf), document->m_renderer));
     return document;
 }
 
@@ -142,6 +149,18 @@ QImage LabelDocument::renderTransparent(int page, QSize size) const
 {
     const Place place = placeOf(page);
     return place.pages.renderTransparent(place.page, size);
+}
+
+QString LabelDocument::drawingFault(int page) const
+{
+    const Place place = placeOf(page);
+    return place.pages.drawingFault(place.page);
+}
+
+void LabelDocument::setDrawingFault(int page, const QString &fault) const
+{
+    const Place place = placeOf(page);
+    place.pages.setDrawingFault(place.page, fault);
 }
 
 int LabelDocument::drawingCount() const

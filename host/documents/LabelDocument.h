@@ -13,6 +13,14 @@
 #include <vector>
 
 namespace host {
+inline namespace rendering {
+
+class RendererProcess;
+
+} // namespace rendering
+} // namespace host
+
+namespace host {
 inline namespace documents {
 
 class OpenedDocument;
@@ -70,6 +78,8 @@ public:
         /// The documents, and the source of each one's PDF.
         std::vector<DocumentFile> files;
         std::vector<PdfSource> pdfs;
+        /// The process that reads the pages for the other thread; cancel() ends its current request.
+        std::shared_ptr<RendererProcess> renderer;
     };
     /// Opens the files again, without checks. The pages of a file that has changed are white.
     Source source() const;
@@ -77,7 +87,7 @@ public:
     /// only: the first instance owns the temporary files and checks them before printing.
     static std::unique_ptr<LabelDocument> openAgain(Source source);
 
-    /// Returns whether pageSize() returns without waiting for pdfium, which another thread may be using.
+    /// Returns whether pageSize() returns without asking the renderer.
     bool isPageSizeKnown(int page) const;
     /// Returns the size in the PDF, in points; it may be empty or invalid.
     QSizeF statedPageSize(int page) const;
@@ -85,16 +95,20 @@ public:
     void setStatedPageSize(int page, QSizeF size) const;
     /// Returns the page on a transparent background; null if it cannot be drawn.
     QImage renderTransparent(int page, QSize size) const;
+    /// Returns why the page could not be drawn, the end of a sentence; empty as long as it could.
+    QString drawingFault(int page) const;
+    /// Adds a fault that another instance has found.
+    void setDrawingFault(int page, const QString &fault) const;
     /// The number of pages that this instance has drawn.
     int drawingCount() const;
 
     /// Checks what open() skips to be fast: the last pages of long documents, and whether the files have
-    /// changed. Must be called before a job is sent. Needs seconds for tens of thousands of pages, and no
-    /// time for pages whose sizes PageCheck has read in the background.
+    /// changed. Must be called before a job is sent. Needs seconds for
+    /// tens of thousands of pages, and no time for pages whose sizes PageCheck has read in the background.
     Result<void, DocumentError> checkForPrinting() const;
 
 private:
-    LabelDocument();
+    explicit LabelDocument(std::shared_ptr<RendererProcess> renderer);
 
     void append(const QString &name, std::unique_ptr<OpenedDocument> document);
     /// Returns the index of the document to which the page belongs.
@@ -106,6 +120,7 @@ private:
     };
     Place placeOf(int page) const;
 
+    std::shared_ptr<RendererProcess> m_renderer;
     std::vector<DocumentFile> m_files;
     std::vector<std::unique_ptr<OpenedDocument>> m_documents;
 };

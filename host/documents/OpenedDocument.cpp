@@ -46,7 +46,8 @@ Result<void, DocumentErrorReason> convert(QFile &file, DocumentKind kind, platfo
 
 } // namespace
 
-Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> OpenedDocument::open(const QString &name)
+Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason>
+OpenedDocument::open(const QString &name, const std::shared_ptr<RendererProcess> &renderer)
 {
     std::unique_ptr<OpenedDocument> document(new OpenedDocument);
     document->m_path = name;
@@ -77,17 +78,18 @@ Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> OpenedDocument::ope
             return file.error();
     }
     document->m_stamp = file.value().stamp;
-    auto pages = PdfPages::open(std::move(file.value().file));
+    auto pages = PdfPages::open(std::move(file.value().file), renderer);
     if (!pages)
         return pages.error();
     document->m_pages = std::move(pages).value();
     return document;
 }
 
-std::unique_ptr<OpenedDocument> OpenedDocument::openAgain(PdfSource source)
+std::unique_ptr<OpenedDocument> OpenedDocument::openAgain(PdfSource source,
+                                                          const std::shared_ptr<RendererProcess> &renderer)
 {
     std::unique_ptr<OpenedDocument> document(new OpenedDocument);
-    document->m_pages = PdfPages::openAgain(std::move(source));
+    document->m_pages = PdfPages::openAgain(std::move(source), renderer);
     return document;
 }
 

@@ -21,9 +21,12 @@ public:
     static constexpr qint64 maxSvgBytes = 64LL * 1024 * 1024;
 
     /// Opens a file, or for "-" standard input, which is read to its end.
-    static Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason> open(const QString &name);
+    /// The renderer reads its PDF.
+    static Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason>
+    open(const QString &name, const std::shared_ptr<RendererProcess> &renderer);
     /// Returns the pages of another instance for another thread. Has no path, so it cannot be printed.
-    static std::unique_ptr<OpenedDocument> openAgain(PdfSource source);
+    static std::unique_ptr<OpenedDocument> openAgain(PdfSource source,
+                                                     const std::shared_ptr<RendererProcess> &renderer);
     /// Returns the source for openAgain(), without a file if the file at the path has been replaced.
     PdfSource source() const;
 

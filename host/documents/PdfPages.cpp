@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PdfPages.h"
 
+#include <host/rendering/RemotePdf.h>
+
 #include <QCoreApplication>
 #include <QPainter>
 
@@ -15,19 +17,47 @@ struct PdfPagesText {
     Q_DECLARE_TR_FUNCTIONS(host::documents::LabelDocument)
 };
 
-Result<void, DocumentErrorReason> checkLoaded(QPdfDocument::Error error)
+/// The number of sizes that are read together: reading one costs less than the message that requests it.
+constexpr int sizesAtOnce = 100;
+
+/// Returns why a PDF or a page cannot be read, as the end of a sentence.
+QString faultText(RenderFault fault)
 {
-    switch (error) {
-    case QPdfDocument::Error::None:
-        return {};
-    case QPdfDocument::Error::IncorrectPassword:
-        return DocumentErrorReason{DocumentErrorKind::Encrypted,
-                                   PdfPagesText::tr("it is encrypted; remove its password first")};
-    case QPdfDocument::Error::UnsupportedSecurityScheme:
-        return DocumentErrorReason{DocumentErrorKind::Encrypted,
-                                   PdfPagesText::tr("its encryption is not supported")};
+    switch (fault) {
+    case RenderFault::Missing:
+        return PdfPagesText::tr("the program that reads PDFs cannot be started");
+    case RenderFault::Crashed:
+        return PdfPagesText::tr("the program that reads PDFs has crashed");
+    case RenderFault::TooLong:
+        return PdfPagesText::tr("reading it takes too long");
+    case RenderFault::Forbidden:
+        return PdfPagesText::tr("it attempts what no document may do");
+    case RenderFault::TooLarge:
+        return PdfPagesText::tr("there is not enough memory");
+    case RenderFault::PasswordNeeded:
+        return PdfPagesText::tr("it is encrypted; remove its password first");
+    case RenderFault::UnsupportedEncryption:
+        return PdfPagesText::tr("its encryption is not supported");
+    case RenderFault::Canceled:
+    case RenderFault::Damaged:
+        break;
+    }
+    return PdfPagesText::tr("the PDF is damaged");
+}
+
+DocumentErrorKind faultKind(RenderFault fault)
+{
+    switch (fault) {
+    case RenderFault::Missing:
+        return DocumentErrorKind::Unreadable;
+    case RenderFault::TooLong:
+    case RenderFault::TooLarge:
+        return DocumentErrorKind::TooLarge;
+    case RenderFault::PasswordNeeded:
+    case RenderFault::UnsupportedEncryption:
+        return DocumentErrorKind::Encrypted;
     default:
-        return DocumentErrorReason{DocumentErrorKind::Damaged, PdfPagesText::tr("the PDF is damaged")};
+        return DocumentErrorKind::Damaged;
     }
 }
 
@@ -38,37 +68,35 @@ double withinLimits(double side)
 
 } // namespace
 
-PdfPages::PdfPages(std::unique_ptr<QFile> file, PageSizes sizes)
-    : m_file(std::move(file))
-    , m_sizes(std::move(sizes))
+PdfPages::PdfPages(PageSizes sizes)
+    : m_sizes(std::move(sizes))
 {
 }
 
-Result<std::unique_ptr<PdfPages>, DocumentErrorReason> PdfPages::open(std::unique_ptr<QFile> file)
+PdfPages::~PdfPages() = default;
+
+Result<std::unique_ptr<PdfPages>, DocumentErrorReason>
+PdfPages::open(std::unique_ptr<QFile> file, std::shared_ptr<RendererProcess> renderer)
 {
-    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(file), {}));
-    pages->load();
-    if (const auto loaded = checkLoaded(pages->m_pdf.error()); !loaded)
-        return loaded.error();
-    if (pages->pageCount() < 1)
+    std::unique_ptr<PdfPages> pages(new PdfPages({}));
+    pages->m_pdf = std::make_unique<RemotePdf>(std::move(renderer), std::move(file));
+    const auto count = pages->m_pdf->open();
+    if (!count)
+        return DocumentErrorReason{faultKind(count.error()), faultText(count.error())};
+    if (count.value() < 1)
         return DocumentErrorReason{DocumentErrorKind::Empty, PdfPagesText::tr("it has no pages")};
-    pages->m_sizes.resize(static_cast<std::size_t>(pages->pageCount()));
+    pages->m_sizes.resize(static_cast<std::size_t>(count.value()));
     if (const auto checked = pages->checkPagesUpTo(qMin(checkedAtOnce, pages->pageCount())); !checked)
         return checked.error();
     return pages;
 }
 
-std::unique_ptr<PdfPages> PdfPages::openAgain(PdfSource source)
+std::unique_ptr<PdfPages> PdfPages::openAgain(PdfSource source, std::shared_ptr<RendererProcess> renderer)
 {
-    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(source.file), std::move(source.sizes)));
-    if (pages->m_file)
-        pages->load();
+    std::unique_ptr<PdfPages> pages(new PdfPages(std::move(source.sizes)));
+    if (source.file)
+        pages->m_pdf = std::make_unique<RemotePdf>(std::move(renderer), std::move(source.file));
     return pages;
-}
-
-void PdfPages::load()
-{
-    m_pdf.load(m_file.get());
 }
 
 QSizeF PdfPages::pageSize(int page) const
@@ -81,8 +109,26 @@ QSizeF PdfPages::statedSize(int page) const
 {
     std::optional<QSizeF> &known = m_sizes[static_cast<std::size_t>(page)];
     if (!known)
-        known = m_pdf.pagePointSize(page);
-    return *known;
+        readSizes(page);
+    return known.value_or(QSizeF());
+}
+
+void PdfPages::readSizes(int first) const
+{
+    if (!m_pdf)
+        return;
+    auto sizes = m_pdf->sizes(first, qMin(sizesAtOnce, pageCount() - first));
+    // Only one of the pages may be at fault.
+    if (!sizes && sizes.error() != RenderFault::Canceled)
+        sizes = m_pdf->sizes(first, 1);
+    if (!sizes) {
+        if (sizes.error() == RenderFault::Canceled)
+            return;
+        m_drawingFaults.insert(first, faultText(sizes.error()));
+        sizes = std::vector<QSizeF>(1);
+    }
+    for (auto index = static_cast<std::size_t>(first); const QSizeF &size : sizes.value())
+        m_sizes[index++] = size;
 }
 
 QImage PdfPages::render(int page, QSize size) const
@@ -98,7 +144,14 @@ QImage PdfPages::render(int page, QSize size) const
 QImage PdfPages::renderTransparent(int page, QSize size) const
 {
     ++m_drawingCount;
-    return m_pdf.render(page, size);
+    if (!m_pdf)
+        return {};
+    auto drawn = m_pdf->draw(page, size);
+    if (drawn)
+        return std::move(drawn).value();
+    if (drawn.error() != RenderFault::Canceled)
+        m_drawingFaults.insert(page, faultText(drawn.error()));
+    return {};
 }
 
 Result<void, DocumentErrorReason> PdfPages::checkSize(QSizeF size, int page)

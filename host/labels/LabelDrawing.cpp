@@ -5,6 +5,8 @@
 
 #include <host/base/Length.h>
 
+#include <QCoreApplication>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTransform>
 
@@ -15,6 +17,10 @@ namespace host {
 inline namespace labels {
 
 namespace {
+
+struct LabelDrawingText {
+    Q_DECLARE_TR_FUNCTIONS(host::labels::LabelDrawing)
+};
 
 /// Pixels that one image of a label may have, and along one side what QPainter can draw.
 constexpr double maxPixels = 40e6;
@@ -76,6 +82,10 @@ QImage LabelDrawing::draw(int page, double pixelsPerMillimetre) const
     const QRectF area = onStrip(placement.area, resolution);
     const QImage image = m_document.renderTransparent(page, imageSize(placement, area));
     QPainter painter(&label);
+    if (image.isNull() && !m_document.drawingFault(page).isEmpty()) {
+        drawPlaceholder(painter, area, page);
+        return label;
+    }
     const auto paint = [&] {
         painter.save();
         // The image has the size of the area: it is not scaled.
@@ -96,12 +106,35 @@ QImage LabelDrawing::draw(int page, double pixelsPerMillimetre) const
     return label;
 }
 
+void LabelDrawing::drawPlaceholder(QPainter &painter, const QRectF &area, int page)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(area, QColor(0xEE, 0xEE, 0xEE));
+    painter.setPen(QColor(0xCC, 0xCC, 0xCC));
+    painter.drawLine(area.topLeft(), area.bottomRight());
+    painter.drawLine(area.bottomLeft(), area.topRight());
+    // The text fills most of the width of a page, and at most a quarter of its height.
+    const QString text = LabelDrawingText::tr("Page %1 cannot be drawn").arg(page + 1);
+    constexpr double partOfHeight = 0.25;
+    constexpr double partOfWidth = 0.9;
+    QFont font;
+    font.setPixelSize(100);
+    const double width = QFontMetricsF(font).horizontalAdvance(text) / font.pixelSize();
+    font.setPixelSize(std::max(
+        1, static_cast<int>(std::min(partOfHeight * area.height(), partOfWidth * area.width() / width))));
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    painter.drawText(area, Qt::AlignCenter, text);
+}
+
 LabelExtent LabelDrawing::measure(int page) const
 {
     const PagePlacement placement = place(page);
     const double resolution = possibleResolution(placement, measuringResolution);
     const QRectF area = onStrip(placement.area, resolution);
     const QImage image = m_document.renderTransparent(page, imageSize(placement, area));
+    if (QString fault = m_document.drawingFault(page); image.isNull() && !fault.isEmpty())
+        return {.length = Millimetres(m_label.width()), .drawingFault = fault};
     // The printable part of the page in the pixels of its image.
     const QTransform toImage = QTransform::fromTranslate(-area.center().x(), -area.center().y()) *
                                QTransform().rotate(-90.0 * (placement.quarterTurns - 1)) *

@@ -5,6 +5,8 @@
 #include <host/documents/LabelDocument.h>
 #include <host/layout/PageLayout.h>
 
+class QPainter;
+
 namespace host {
 inline namespace labels {
 
@@ -25,7 +27,7 @@ public:
     PagePlacement place(int page) const;
 
     /// Returns the whole label on a white background. The resolution is lower than requested if the image
-    /// would be too large.
+    /// would be too large. A page that cannot be drawn is a crossed-out area with its number.
     QImage draw(int page, double pixelsPerMillimetre) const;
     /// Returns the label's length and the blank at its ends, measured at the resolution of common label
     /// printers. What is not printable is blank.
@@ -37,6 +39,8 @@ private:
     /// Returns a rectangle on the label, in points, as it lies on the strip, in pixels.
     QRectF onStrip(const QRectF &onLabel, double pixelsPerMillimetre) const;
     QSize labelPixels(double pixelsPerMillimetre) const;
+    /// Draws what stands for a page that cannot be drawn.
+    static void drawPlaceholder(QPainter &painter, const QRectF &area, int page);
     /// Returns whether the image of a page has ink outside of the part that can be printed.
     static bool hasInkOutside(const QImage &image, const QRect &part);
 

@@ -3,6 +3,8 @@
 
 #include <host/base/Length.h>
 
+#include <QString>
+
 namespace host {
 inline namespace labels {
 
@@ -18,6 +20,8 @@ struct LabelExtent {
     bool isCutOff = false;
     /// Whether the blank is known. Until then it counts as 0.
     bool isMeasured = true;
+    /// Why the page cannot be drawn, the end of a sentence; empty if it can.
+    QString drawingFault = {};
 
     bool operator==(const LabelExtent &) const = default;
 };

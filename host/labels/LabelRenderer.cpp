@@ -42,8 +42,12 @@ LabelExtent LabelRenderer::extent(int page, MeasureBlank blank) const
     const LabelExtent unmeasured{.length = Millimetres(labelSize().width()), .isMeasured = false};
     if (blank == MeasureBlank::No)
         return unmeasured;
-    if (m_measurer)
-        return m_measurer->extent(page).value_or(unmeasured);
+    if (m_measurer) {
+        LabelExtent extent = m_measurer->extent(page).value_or(unmeasured);
+        if (!extent.drawingFault.isEmpty())
+            m_document.setDrawingFault(page, extent.drawingFault);
+        return extent;
+    }
     const auto found = m_measured.constFind(page);
     return found != m_measured.constEnd() ? *found : *m_measured.insert(page, m_drawing.measure(page));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PageThread.h"
 
+#include <host/rendering/RendererProcess.h>
+
 #include <QCoreApplication>
 #include <QPointer>
 
@@ -19,8 +21,8 @@ inline namespace labels {
 
 namespace {
 
-/// Threads that still draw their last page. The end of the application object waits for them: pdfium cannot
-/// be interrupted, and must not be destroyed while it draws.
+/// Threads that still end their last task. The end of the application object waits for them, some
+/// milliseconds: their renderers are canceled.
 class EndingThreads {
 public:
     static EndingThreads &instance()
@@ -152,15 +154,17 @@ private:
 
 PageThread::PageThread(const LabelDocument &document)
     : m_source(document.source())
+    , m_renderer(m_source->renderer)
     , m_queue(std::make_shared<Queue>(&m_mailbox))
 {
-    // Created here, so that it is destroyed before the objects that pdfium creates for the document.
+    // Created before the first thread, so that the end of the application object finds it.
     EndingThreads::instance();
 }
 
 PageThread::~PageThread()
 {
     m_queue->end();
+    m_renderer->cancel();
     if (m_thread.joinable())
         EndingThreads::instance().add(std::move(m_thread), m_queue->hasEnded);
 }

@@ -14,10 +14,10 @@ namespace host {
 inline namespace labels {
 
 /// A thread that draws and measures the pages of a document with its own instance of the document, so that
-/// windows do not wait for pdfium. Belongs to the main thread. The thread starts with its first task.
+/// windows do not wait for the renderer. Belongs to the main thread. The thread starts with its first task.
 ///
-/// The destructor interrupts the task at its next page and discards results that are not delivered yet. It
-/// does not wait, since drawing a page may take long; tasks must therefore hold values only.
+/// The destructor interrupts the page that is being drawn and discards results that are not delivered yet. It
+/// does not wait for the end of the task; tasks must therefore hold values only.
 class PageThread {
 public:
     /// The function that delivers a task's results on the main thread.
@@ -46,6 +46,8 @@ private:
     static void work(Queue &queue, LabelDocument::Source source);
 
     std::optional<LabelDocument::Source> m_source;
+    /// Reads the pages for the thread.
+    std::shared_ptr<RendererProcess> m_renderer;
     QObject m_mailbox;
     std::shared_ptr<Queue> m_queue;
     std::thread m_thread;

@@ -21,6 +21,8 @@ struct PreflightText {
 QString kindKey(PreflightKind kind)
 {
     switch (kind) {
+    case PreflightKind::Undrawable:
+        return QStringLiteral("cannot-be-drawn");
     case PreflightKind::Shrunk:
         return QStringLiteral("shrunk");
     case PreflightKind::CutOff:
@@ -66,23 +68,44 @@ std::optional<PreflightRemedy> largerPaper(const Ticket &ticket, const LabelDocu
                            {paperKeyword, smallest->name}};
 }
 
-/// Returns the pages of the ticket without the blank ones. The ranges of several documents apply to each of
+/// Returns the pages of the ticket without some of them. The ranges of several documents apply to each of
 /// them, so that a page of one cannot be left out.
-std::optional<PreflightRemedy> withoutPages(const Ticket &ticket, const std::vector<int> &blank)
+std::optional<PreflightRemedy> withoutPages(const Ticket &ticket, const std::vector<int> &leftOut,
+                                            const QString &text)
 {
     std::vector<int> kept;
-    std::ranges::set_difference(ticket.pages.pages, blank, std::back_inserter(kept));
+    std::ranges::set_difference(ticket.pages.pages, leftOut, std::back_inserter(kept));
     if (kept.empty() || ticket.job.documents.size() != 1)
         return std::nullopt;
     QByteArrayList ranges;
     for (const int page : kept)
         ranges.append(QByteArray::number(page + 1));
-    return PreflightRemedy{PreflightText::tr("Leave out blank pages"), {"page-ranges", ranges.join(',')}};
+    return PreflightRemedy{text, {"page-ranges", ranges.join(',')}};
+}
+
+/// Returns the first of the pages that cannot be drawn, with the reason.
+QString undrawableSentence(const LabelDocument &document, const std::vector<int> &undrawable)
+{
+    const QString fault = document.drawingFault(undrawable.front());
+    return (undrawable.size() == 1
+                ? PreflightText::tr("Page %1 cannot be drawn, and the job cannot be printed: %2.")
+                : PreflightText::tr("Pages %1 cannot be drawn, and the job cannot be printed: %2."))
+        .arg(pageList(undrawable), fault);
+}
+
+void addUndrawable(std::vector<PreflightNote> &notes, const Ticket &ticket, const LabelDocument &document,
+                   const std::vector<int> &undrawable)
+{
+    if (undrawable.empty())
+        return;
+    addPages(notes, PreflightKind::Undrawable, undrawable, undrawableSentence(document, undrawable),
+             withoutPages(ticket, undrawable, PreflightText::tr("Leave out pages that cannot be drawn")));
 }
 
 void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const LabelDocument &document,
                   const LabelRenderer &renderer, const std::vector<PpdPaper> &papers)
 {
+    std::vector<int> undrawable;
     std::vector<int> shrunk;
     std::vector<int> cutOff;
     std::vector<int> blank;
@@ -93,11 +116,14 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
             scale = std::min(scale, renderer.scale(page));
         }
         const LabelExtent extent = renderer.extent(page, MeasureBlank::Yes);
+        if (!extent.drawingFault.isEmpty())
+            undrawable.push_back(page);
         if (extent.isMeasured && extent.isCutOff)
             cutOff.push_back(page);
         if (extent.isMeasured && extent.whollyBlank && !extent.isCutOff)
             blank.push_back(page);
     }
+    addUndrawable(notes, ticket, document, undrawable);
     constexpr double percent = 100.0;
     const QString size = QLocale().toString(std::max(1.0, std::round(scale * percent)), 'f', 0);
     addPages(notes, PreflightKind::Shrunk, shrunk,
@@ -115,7 +141,7 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
              (blank.size() == 1 ? PreflightText::tr("Page %1 is blank.")
                                 : PreflightText::tr("Pages %1 are blank."))
                  .arg(pageList(blank)),
-             withoutPages(ticket, blank));
+             withoutPages(ticket, blank, PreflightText::tr("Leave out blank pages")));
 }
 
 /// Whether the last piece is a single label, and all pieces before it have the same greater number of labels.
@@ -159,6 +185,16 @@ std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelDocument &
                          PreflightText::tr("The job needs %1 m of tape.")
                              .arg(QLocale().toString(tape.number(), 'f', 1))});
     return notes;
+}
+
+Result<void, QString> checkDrawing(const Ticket &ticket, const LabelDocument &document)
+{
+    std::vector<int> undrawable;
+    std::ranges::copy_if(ticket.pages.pages, std::back_inserter(undrawable),
+                         [&](int page) { return !document.drawingFault(page).isEmpty(); });
+    if (undrawable.empty())
+        return {};
+    return undrawableSentence(document, undrawable);
 }
 
 QJsonArray preflightJson(const std::vector<PreflightNote> &notes)

@@ -11,6 +11,7 @@ inline namespace setup {
 
 /// What a user looks for before a job wastes tape.
 enum class PreflightKind {
+    Undrawable,  ///< the page cannot be drawn; the job cannot be printed
     Shrunk,      ///< the page is larger than the label and is printed smaller
     CutOff,      ///< marks of the page lie where the printer cannot print
     Blank,       ///< nothing is printed on the label
@@ -28,7 +29,7 @@ struct PreflightRemedy {
     bool operator==(const PreflightRemedy &) const = default;
 };
 
-/// A warning about a job. The job can be printed nevertheless.
+/// A warning about a job. Except for Undrawable, the job can be printed nevertheless.
 struct PreflightNote {
     PreflightKind kind = PreflightKind::Shrunk;
     /// The pages that it is about, from 0 and in ascending order; empty for the whole job.
@@ -50,6 +51,10 @@ inline constexpr Metres longTape{5.0};
 std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelDocument &document,
                                      const LabelRenderer &renderer, const CutPlan &plan,
                                      const std::vector<PpdPaper> &papers);
+
+/// Returns an error if a page of the ticket is known to be impossible to draw: what cannot be shown is not
+/// printed.
+Result<void, QString> checkDrawing(const Ticket &ticket, const LabelDocument &document);
 
 /// Returns pages for sentences, counted from 1: "2, 5-7".
 QString pageList(const std::vector<int> &pages);

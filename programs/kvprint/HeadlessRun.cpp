@@ -10,6 +10,7 @@
 #include <host/cups/queues/LpOptions.h>
 #include <host/setup/JobReport.h>
 #include <host/setup/JobSummary.h>
+#include <host/setup/Preflight.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -201,6 +202,10 @@ ExitStatus HeadlessRun::endedBy(int signal) const
 
 ExitStatus HeadlessRun::send(const host::Ticket &ticket)
 {
+    if (const auto checked = host::checkDrawing(ticket, *m_document); !checked) {
+        m_console.printError(checked.error());
+        return ExitStatus::Failed;
+    }
     dialog::QueueSender sender(m_server);
     QEventLoop loop;
     std::optional<QString> error;

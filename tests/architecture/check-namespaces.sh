@@ -11,7 +11,7 @@ count=0
 for file in $(find host dialog platform programs -name '*.h' -o -name '*.cpp' | sort); do
     case $file in
     # Global names: main(), replaced functions of the C library, macros, and functions that panels call.
-    programs/kvprint/kvprint.cpp | programs/kvprint/Allocation.cpp | programs/kvpanel/* | programs/*pdf/*.cpp | */Export.h | \
+    programs/kvprint/kvprint.cpp | programs/kvprint/Allocation.cpp | programs/kvpanel/* | programs/*pdf/*.cpp | programs/renderer/renderer.cpp | */Export.h | \
         platform/system/PrintingServices.cpp) continue ;;
     esac
     expected=$(dirname -- "$file" | awk -F/ '{ printf "namespace %s", $1; for (i = 2; i <= NF; ++i) printf " inline namespace %s", $i }')

@@ -3,6 +3,7 @@
 #include "LaidOutFixture.h"
 
 #include <host/documents/PdfPages.h>
+#include <host/rendering/RendererProcess.h>
 
 #include <QProcess>
 
@@ -37,7 +38,7 @@ protected:
     {
         auto file = std::make_unique<QFile>(path);
         EXPECT_TRUE(file->open(QIODevice::ReadOnly));
-        auto pages = host::PdfPages::open(std::move(file));
+        auto pages = host::PdfPages::open(std::move(file), std::make_shared<host::RendererProcess>());
         EXPECT_TRUE(pages) << qPrintable(path);
         return pages ? std::move(pages).value() : nullptr;
     }
