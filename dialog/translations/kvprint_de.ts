@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Kennwort für das Dokument auf der Standardeingabe:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Kennwort für das Dokument „%1“:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Das Kennwort ist falsch.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>Dem Druckserver wird nicht vertraut. Zuletzt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>Kennwort für das Dokument</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>Das Dokument auf der Standardeingabe ist verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>Das Dokument „%1“ ist verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Das Kennwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Kennwort</translation>
     </message>
 </context>
 <context>
@@ -1137,10 +1175,6 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <translation>die Datei ist leer</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>es ist verschlüsselt; entfernen Sie zuerst das Kennwort</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>es ist auf unbekannte Weise verschlüsselt</translation>
     </message>
@@ -1270,6 +1304,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>there is not enough memory</source>
         <translation>der Speicher reicht nicht aus</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>das Kennwort ist falsch</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>das Entschlüsseln benötigt zu viel Speicher oder Zeit</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>es ist verschlüsselt und benötigt ein Kennwort</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Contraseña del documento de la entrada estándar:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Contraseña del documento «%1»:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La contraseña es incorrecta.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>No se confía en el servidor de impresión. La última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>Contraseña del documento</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>El documento de la entrada estándar está cifrado.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>El documento «%1» está cifrado.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La contraseña es incorrecta.</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>Con&amp;traseña</translation>
     </message>
 </context>
 <context>
@@ -1137,10 +1175,6 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <translation>está vacío</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>está cifrado; quite antes la contraseña</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>está cifrado de un modo desconocido</translation>
     </message>
@@ -1270,6 +1304,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>there is not enough memory</source>
         <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>la contraseña es incorrecta</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>descifrarlo necesita demasiada memoria o tiempo</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>está cifrado y necesita una contraseña</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Mot de passe du document sur l’entrée standard :</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Mot de passe du document « %1 » :</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est incorrect.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>Le serveur d’impression n’est pas approuvé. La dernière fois : %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>Mot de passe du document</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>Le document sur l’entrée standard est chiffré.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>Le document « %1 » est chiffré.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est incorrect.</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Mot de passe</translation>
     </message>
 </context>
 <context>
@@ -1137,10 +1175,6 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <translation>il est vide</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>il est chiffré ; retirez d’abord son mot de passe</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>il est chiffré d’une manière inconnue</translation>
     </message>
@@ -1270,6 +1304,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>there is not enough memory</source>
         <translation>la mémoire est insuffisante</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>le mot de passe est incorrect</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>son déchiffrement demande trop de mémoire ou de temps</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>il est chiffré et demande un mot de passe</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Password del documento sullo standard input:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Password del documento &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La password è errata.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>Il server di stampa non è attendibile. L&apos;ultima volta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>Password del documento</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>Il documento sullo standard input è cifrato.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>Il documento &quot;%1&quot; è cifrato.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La password è errata.</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Password</translation>
     </message>
 </context>
 <context>
@@ -1137,10 +1175,6 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <translation>è vuoto</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>è cifrato; togliere prima la password</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>è cifrato in un modo sconosciuto</translation>
     </message>
@@ -1270,6 +1304,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>there is not enough memory</source>
         <translation>la memoria non è sufficiente</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>la password è errata</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>la decifratura richiede troppa memoria o troppo tempo</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>è cifrato e richiede una password</translation>
     </message>
 </context>
 <context>

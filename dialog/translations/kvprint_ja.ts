@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>標準入力の文書のパスワード:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>文書「%1」のパスワード:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>プリントサーバーは信頼されていません。前回: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>文書のパスワード</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>標準入力の文書は暗号化されています。</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>文書「%1」は暗号化されています。</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>パスワード(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -1136,10 +1174,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <translation>空です</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>暗号化されています。先にパスワードを解除してください</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>未知の方式で暗号化されています</translation>
     </message>
@@ -1268,6 +1302,18 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>there is not enough memory</source>
         <translation>メモリが足りません</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>パスワードが違います</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>復号に必要なメモリまたは時間が多すぎます</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>暗号化されており、パスワードが必要です</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Wachtwoord voor het document op de standaardinvoer:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Wachtwoord voor het document &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Het wachtwoord is onjuist.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>De printserver wordt niet vertrouwd. De vorige keer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>Wachtwoord voor het document</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>Het document op de standaardinvoer is versleuteld.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>Het document &quot;%1&quot; is versleuteld.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Het wachtwoord is onjuist.</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Wachtwoord</translation>
     </message>
 </context>
 <context>
@@ -1137,10 +1175,6 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <translation>het is leeg</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>het is versleuteld; verwijder eerst het wachtwoord</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>het is op een onbekende manier versleuteld</translation>
     </message>
@@ -1270,6 +1304,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>there is not enough memory</source>
         <translation>er is niet genoeg geheugen</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>het wachtwoord is onjuist</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>het ontsleutelen kost te veel geheugen of tijd</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>het is versleuteld en vereist een wachtwoord</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Palavra-passe do documento na entrada padrão:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Palavra-passe do documento &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>A palavra-passe está errada.</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>O servidor de impressão não é confiável. Da última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>Palavra-passe do documento</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>O documento na entrada padrão está cifrado.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>O documento &quot;%1&quot; está cifrado.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>A palavra-passe está errada.</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Palavra-passe</translation>
     </message>
 </context>
 <context>
@@ -1137,10 +1175,6 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <translation>está vazio</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>está cifrado; retire primeiro a palavra-passe</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>está cifrado de um modo desconhecido</translation>
     </message>
@@ -1270,6 +1304,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>there is not enough memory</source>
         <translation>não há memória suficiente</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>a palavra-passe está errada</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>a decifragem necessita de demasiada memória ou tempo</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>está cifrado e precisa de uma palavra-passe</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>TerminalPasswordText</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>标准输入中文档的密码：</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>文档“%1”的密码：</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>密码错误。</translation>
+    </message>
+</context>
+<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -50,6 +65,29 @@
     <message>
         <source>The print server is not trusted. Last known state: %1</source>
         <translation>打印服务器不受信任。上次：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::job::DocumentPasswordDialog</name>
+    <message>
+        <source>Password for the document</source>
+        <translation>文档密码</translation>
+    </message>
+    <message>
+        <source>The document on standard input is encrypted.</source>
+        <translation>标准输入中的文档已加密。</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is encrypted.</source>
+        <translation>文档“%1”已加密。</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>密码错误。</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>密码(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -1136,10 +1174,6 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <translation>为空</translation>
     </message>
     <message>
-        <source>it is encrypted; remove its password first</source>
-        <translation>已加密；请先移除密码</translation>
-    </message>
-    <message>
         <source>its encryption is not supported</source>
         <translation>以未知方式加密</translation>
     </message>
@@ -1268,6 +1302,18 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>there is not enough memory</source>
         <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>密码错误</translation>
+    </message>
+    <message>
+        <source>decrypting it needs too much memory or time</source>
+        <translation>解密需要过多内存或时间</translation>
+    </message>
+    <message>
+        <source>it is encrypted and needs a password</source>
+        <translation>它已加密，需要密码</translation>
     </message>
 </context>
 <context>

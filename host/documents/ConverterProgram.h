@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 class QIODevice;
 
@@ -22,15 +23,19 @@ public:
     /// How a conversion ended.
     enum class End {
         Converted,
-        Rejected, ///< the document is damaged (exit status 1)
-        TooLarge, ///< the document exceeds the limits of the program (exit status 2, or a signal)
-        Missing,  ///< the program is not there or cannot be started
-        Canceled, ///< the caller has canceled the conversion
+        Rejected,      ///< the document is damaged (exit status 1)
+        TooLarge,      ///< the document exceeds the limits of the program (exit status 2, or a signal)
+        WrongPassword, ///< the password is wrong (exit status 3)
+        Forbidden,     ///< the program attempted what the sandbox forbids (SIGSYS)
+        Missing,       ///< the program is not there or cannot be started
+        Canceled,      ///< the caller has canceled the conversion
     };
 
     /// The converter "imagepdf" is the program kvprint-imagepdf in the folder of the private libraries.
     explicit ConverterProgram(const QString &converter);
 
+    /// Sets what the program can read from descriptor 3: a password, which must not be among the arguments.
+    void setSecret(const QByteArray &secret) { m_secret = secret; }
     /// Runs the program, passes it the content on standard input, and waits until it ends.
     End run(const QStringList &arguments, const QByteArray &content);
     /// Runs the program with standard input and standard output from and to files, and waits until it ends.
@@ -41,9 +46,12 @@ public:
     const QByteArray &output() const { return m_output; }
     /// The error of a program that is missing, with its path.
     DocumentErrorReason missing() const;
+    /// The error of a program that the sandbox has ended.
+    static DocumentErrorReason forbidden();
 
 private:
     QString m_path;
+    std::optional<QByteArray> m_secret;
     QByteArray m_output;
 };
 

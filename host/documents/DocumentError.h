@@ -17,6 +17,8 @@ enum class DocumentErrorKind {
     UnknownKind, ///< none of the kinds that can be printed
     Damaged,     ///< of a known kind, but cut short or wrong inside
     Encrypted,   ///< a password is needed
+    WrongPassword,
+    UnsupportedEncryption,
     TooLarge,    ///< more bytes or pixels than are held at once
     BadPage,     ///< a page without area, or larger than any PDF page
     NeedsOthers, ///< it is not whole without other files, which are not read

@@ -92,6 +92,9 @@ Result<void, DocumentErrorReason> writePage(const PdfImage &image, QSizeF size, 
         return converter.missing();
     case ConverterProgram::End::TooLarge:
         return tooManyPixels(image.pixels);
+    case ConverterProgram::End::Forbidden:
+        return ConverterProgram::forbidden();
+    case ConverterProgram::End::WrongPassword:
     case ConverterProgram::End::Canceled:
     case ConverterProgram::End::Rejected:
         break;

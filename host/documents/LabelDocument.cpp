@@ -32,7 +32,8 @@ LabelDocument::Source::Source() = default;
 LabelDocument::Source::~Source() = default;
 LabelDocument::Source::Source(Source &&) noexcept = default;
 
-Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const QStringList &names)
+Result<std::unique_ptr<LabelDocument>, DocumentError>
+LabelDocument::open(const QStringList &names, const DocumentPasswordSource &askPassword)
 {
     if (names.isEmpty())
         return DocumentError{DocumentErrorKind::Missing, LabelDocumentText::tr("No document is specified")};
@@ -42,7 +43,7 @@ Result<std::unique_ptr<LabelDocument>, DocumentError> LabelDocument::open(const 
             standardInputName.toString());
     std::unique_ptr<LabelDocument> document(new LabelDocument(std::make_shared<RendererProcess>()));
     for (const QString &name : names) {
-        auto opened = OpenedDocument::open(name, document->m_renderer);
+        auto opened = OpenedDocument::open(name, document->m_renderer, askPassword);
         if (!opened)
             return documentError(opened.error(), name);
         document->append(name, std::move(opened).value());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DocumentError.h"
+#include "DocumentPassword.h"
 #include "RegularFile.h"
 
 #include <QImage>
@@ -47,7 +48,9 @@ class LabelDocument {
 public:
     /// Opens and checks all documents. Returns the first error. Named pipes are rejected without waiting;
     /// standard input ("-", at most once) is read to its end.
-    static Result<std::unique_ptr<LabelDocument>, DocumentError> open(const QStringList &names);
+    /// Encrypted documents are an error unless the function returns their passwords.
+    static Result<std::unique_ptr<LabelDocument>, DocumentError>
+    open(const QStringList &names, const DocumentPasswordSource &askPassword = {});
     static Result<std::unique_ptr<LabelDocument>, DocumentError> open(const QString &name);
     ~LabelDocument();
 

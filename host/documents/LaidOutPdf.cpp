@@ -36,6 +36,9 @@ layOutPdf(const QString &path, const PageLayout &layout, const std::function<boo
         return DocumentErrorReason{
             DocumentErrorKind::TooLarge,
             LaidOutPdfText::tr("laying its pages out on labels needs too much memory or time")};
+    case ConverterProgram::End::Forbidden:
+        return ConverterProgram::forbidden();
+    case ConverterProgram::End::WrongPassword:
     case ConverterProgram::End::Rejected:
         break;
     }

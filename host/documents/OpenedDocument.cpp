@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OpenedDocument.h"
 
+#include "DecryptedPdf.h"
 #include "DocumentKind.h"
 #include "ImagePdf.h"
 #include "StandardInput.h"
@@ -47,7 +48,8 @@ Result<void, DocumentErrorReason> convert(QFile &file, DocumentKind kind, platfo
 } // namespace
 
 Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason>
-OpenedDocument::open(const QString &name, const std::shared_ptr<RendererProcess> &renderer)
+OpenedDocument::open(const QString &name, const std::shared_ptr<RendererProcess> &renderer,
+                     const DocumentPasswordSource &askPassword)
 {
     std::unique_ptr<OpenedDocument> document(new OpenedDocument);
     document->m_path = name;
@@ -71,18 +73,54 @@ OpenedDocument::open(const QString &name, const std::shared_ptr<RendererProcess>
             return pdf.error();
         if (const auto converted = convert(*file.value().file, *kind, *pdf.value()); !converted)
             return converted.error();
-        document->m_temporary = std::move(pdf).value();
-        document->m_path = document->m_temporary->fileName();
-        file = openRegularFile(document->m_path);
+        file = document->replaceBy(std::move(pdf).value());
         if (!file)
             return file.error();
     }
-    document->m_stamp = file.value().stamp;
-    auto pages = PdfPages::open(std::move(file.value().file), renderer);
+    auto opened = document->openPages(std::move(file).value(), renderer);
+    if (!opened && opened.error().kind == DocumentErrorKind::Encrypted && askPassword)
+        opened = document->openDecrypted(opened.error(), name, renderer, askPassword);
+    if (!opened)
+        return opened.error();
+    return document;
+}
+
+Result<RegularFile, DocumentErrorReason>
+OpenedDocument::replaceBy(std::unique_ptr<platform::TemporaryFile> pdf)
+{
+    m_temporary = std::move(pdf);
+    m_path = m_temporary->fileName();
+    return openRegularFile(m_path);
+}
+
+Result<void, DocumentErrorReason> OpenedDocument::openPages(RegularFile file,
+                                                            const std::shared_ptr<RendererProcess> &renderer)
+{
+    m_stamp = file.stamp;
+    auto pages = PdfPages::open(std::move(file.file), renderer);
     if (!pages)
         return pages.error();
-    document->m_pages = std::move(pages).value();
-    return document;
+    m_pages = std::move(pages).value();
+    return {};
+}
+
+Result<void, DocumentErrorReason>
+OpenedDocument::openDecrypted(const DocumentErrorReason &reason, const QString &name,
+                              const std::shared_ptr<RendererProcess> &renderer,
+                              const DocumentPasswordSource &askPassword)
+{
+    PasswordRound round = PasswordRound::First;
+    while (const std::optional<QString> password = askPassword(name, round)) {
+        auto decrypted = decryptPdf(m_path, *password);
+        if (decrypted) {
+            auto file = replaceBy(std::move(decrypted).value());
+            return file ? openPages(std::move(file).value(), renderer) : file.withoutValue();
+        }
+        if (decrypted.error().kind != DocumentErrorKind::WrongPassword)
+            return decrypted.error();
+        round = PasswordRound::Again;
+    }
+    return reason;
 }
 
 std::unique_ptr<OpenedDocument> OpenedDocument::openAgain(PdfSource source,

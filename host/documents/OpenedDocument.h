@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "DocumentPassword.h"
 #include "PdfPages.h"
 #include "RegularFile.h"
 
@@ -20,10 +21,11 @@ public:
     static constexpr qint64 maxImageBytes = 256LL * 1024 * 1024;
     static constexpr qint64 maxSvgBytes = 64LL * 1024 * 1024;
 
-    /// Opens a file, or for "-" standard input, which is read to its end.
-    /// The renderer reads its PDF.
+    /// Opens a file, or for "-" standard input, which is read to its end. The renderer reads its PDF. Asks
+    /// for the password of an encrypted PDF until it is right, or absent: a decrypted copy is shown and sent.
     static Result<std::unique_ptr<OpenedDocument>, DocumentErrorReason>
-    open(const QString &name, const std::shared_ptr<RendererProcess> &renderer);
+    open(const QString &name, const std::shared_ptr<RendererProcess> &renderer,
+         const DocumentPasswordSource &askPassword);
     /// Returns the pages of another instance for another thread. Has no path, so it cannot be printed.
     static std::unique_ptr<OpenedDocument> openAgain(PdfSource source,
                                                      const std::shared_ptr<RendererProcess> &renderer);
@@ -42,6 +44,15 @@ public:
 
 private:
     OpenedDocument() = default;
+
+    /// Makes the temporary file the PDF that is shown and sent. Returns the open file.
+    Result<RegularFile, DocumentErrorReason> replaceBy(std::unique_ptr<platform::TemporaryFile> pdf);
+    Result<void, DocumentErrorReason> openPages(RegularFile file,
+                                                const std::shared_ptr<RendererProcess> &renderer);
+    /// Opens a decrypted copy of the PDF. Returns the reason if the user enters no password.
+    Result<void, DocumentErrorReason> openDecrypted(const DocumentErrorReason &reason, const QString &name,
+                                                    const std::shared_ptr<RendererProcess> &renderer,
+                                                    const DocumentPasswordSource &askPassword);
 
     std::unique_ptr<platform::TemporaryFile> m_temporary;
     QString m_path;

@@ -35,7 +35,7 @@ QString faultText(RenderFault fault)
     case RenderFault::TooLarge:
         return PdfPagesText::tr("there is not enough memory");
     case RenderFault::PasswordNeeded:
-        return PdfPagesText::tr("it is encrypted; remove its password first");
+        return PdfPagesText::tr("it is encrypted and needs a password");
     case RenderFault::UnsupportedEncryption:
         return PdfPagesText::tr("its encryption is not supported");
     case RenderFault::Canceled:
@@ -54,8 +54,9 @@ DocumentErrorKind faultKind(RenderFault fault)
     case RenderFault::TooLarge:
         return DocumentErrorKind::TooLarge;
     case RenderFault::PasswordNeeded:
-    case RenderFault::UnsupportedEncryption:
         return DocumentErrorKind::Encrypted;
+    case RenderFault::UnsupportedEncryption:
+        return DocumentErrorKind::UnsupportedEncryption;
     default:
         return DocumentErrorKind::Damaged;
     }

@@ -52,6 +52,9 @@ Result<void, DocumentErrorReason> writeSvgPdf(const QByteArray &svg, QIODevice *
     switch (converter.run(arguments, source.value().content)) {
     case ConverterProgram::End::Converted:
         return storeOutput(converter.output(), pdf);
+    case ConverterProgram::End::Forbidden:
+        return ConverterProgram::forbidden();
+    case ConverterProgram::End::WrongPassword:
     case ConverterProgram::End::Canceled:
     case ConverterProgram::End::Rejected:
         return damagedSvg();

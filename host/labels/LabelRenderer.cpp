@@ -39,7 +39,7 @@ bool LabelRenderer::shrinks(int page) const
 
 LabelExtent LabelRenderer::extent(int page, MeasureBlank blank) const
 {
-    const LabelExtent unmeasured{.length = Millimetres(labelSize().width()), .isMeasured = false};
+    LabelExtent unmeasured{.length = Millimetres(labelSize().width()), .isMeasured = false};
     if (blank == MeasureBlank::No)
         return unmeasured;
     if (m_measurer) {

@@ -13,7 +13,7 @@ inline namespace rendering {
 namespace {
 
 /// The max number of bytes of a message; a longer one is cut off.
-constexpr qsizetype maxMessage = 64 * 1024;
+constexpr qsizetype maxMessage = 65'536;
 
 /// Calls the function again while a signal interrupts it.
 template<typename Call>

@@ -17,6 +17,7 @@ public:
     enum Status {
         Damaged = 1,  ///< the document or an argument is invalid, or a stream cannot be read or written
         TooLarge = 2, ///< the document needs more memory or time than there is
+        WrongPassword = 3,
     };
 
     /// An error with its reason.

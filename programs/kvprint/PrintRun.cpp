@@ -10,6 +10,7 @@
 #include "TerminalPassword.h"
 #include "TerminalTrust.h"
 
+#include <dialog/job/DocumentPasswordDialog.h>
 #include <dialog/job/JobWindow.h>
 #include <dialog/job/PasswordDialog.h>
 #include <dialog/job/QueueSender.h>
@@ -62,8 +63,11 @@ PrintRun::PrintRun(CommandLine command, Console console)
 
 std::unique_ptr<host::LabelDocument> PrintRun::openDocument()
 {
-    auto document = host::LabelDocument::open(m_command.documents.isEmpty() ? QStringList{QStringLiteral("-")}
-                                                                            : m_command.documents);
+    const bool hasWindow = !m_command.noDialog && m_command.task == Task::Print;
+    auto document = host::LabelDocument::open(
+        m_command.documents.isEmpty() ? QStringList{QStringLiteral("-")} : m_command.documents,
+        hasWindow ? host::DocumentPasswordSource(dialog::askDocumentPasswordWithDialog)
+                  : askDocumentPasswordOnTerminal());
     if (document)
         return std::move(document).value();
     m_console.printError(document.error().message);

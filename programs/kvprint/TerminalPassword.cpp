@@ -3,6 +3,10 @@
 
 #include "SignalWatch.h"
 
+#include <host/documents/DocumentError.h>
+
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
@@ -13,6 +17,10 @@ namespace programs {
 inline namespace kvprint {
 
 namespace {
+
+struct TerminalPasswordText {
+    Q_DECLARE_TR_FUNCTIONS(programs::kvprint::TerminalPassword)
+};
 
 /// During its lifetime, the terminal shows no typed characters and delivers each key immediately, including
 /// those that would end the program and leave the terminal in this state.
@@ -127,6 +135,22 @@ host::PasswordHandler askOnTerminal()
             request.answer(request.user(), *password);
         else
             request.reject();
+    };
+}
+
+host::DocumentPasswordSource askDocumentPasswordOnTerminal()
+{
+    return [rounds = 0](const QString &name, host::PasswordRound round) mutable -> std::optional<QString> {
+        constexpr int maxRounds = 3;
+        rounds = round == host::PasswordRound::First ? 1 : rounds + 1;
+        if (rounds > maxRounds)
+            return std::nullopt;
+        const QString prompt = name == host::standardInputName
+                                   ? TerminalPasswordText::tr("Password for the document on standard input:")
+                                   : TerminalPasswordText::tr("Password for the document \"%1\":").arg(name);
+        const bool isAgain = round == host::PasswordRound::Again;
+        return TerminalPassword().ask(
+            isAgain ? TerminalPasswordText::tr("The password is wrong.") + u'\n' + prompt : prompt);
     };
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <host/cups/server/Passwords.h>
+#include <host/documents/DocumentPassword.h>
 
 namespace programs {
 inline namespace kvprint {
@@ -37,6 +38,10 @@ private:
 /// Returns a handler that asks on the terminal for each request, and rejects it without a terminal. It
 /// processes no events while it waits: for runs without windows.
 host::PasswordHandler askOnTerminal();
+
+/// Asks on the terminal for the password of a document, up to three times for the same one. Returns nothing
+/// without a terminal.
+host::DocumentPasswordSource askDocumentPasswordOnTerminal();
 
 } // namespace kvprint
 } // namespace programs

@@ -104,6 +104,7 @@ std::vector<QStringList> screens()
                                    "window::PagePreview", "job::SummaryPage"})
         screens.push_back(mainWindow + QStringList{QStringLiteral("dialog::") + QLatin1String(page)});
     screens.push_back({QStringLiteral("dialog::job::PasswordDialog")});
+    screens.push_back({QStringLiteral("dialog::job::DocumentPasswordDialog")});
     screens.push_back({QStringLiteral("dialog::job::JobWindow")});
     return screens;
 }

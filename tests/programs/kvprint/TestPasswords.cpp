@@ -2,6 +2,7 @@
 #include "KvprintTest.h"
 #include "Terminal.h"
 
+#include <tests/samples/SamplePdf.h>
 #include <tests/servers/FaultyServer.h>
 
 #include <QFile>
@@ -136,4 +137,57 @@ TEST_F(KvprintPasswords, MayBeWantedForPrintingOnly)
                    {QStringLiteral("-o"), QStringLiteral("printer-op-policy=locked")});
     expectError({QStringLiteral("-d"), QStringLiteral("locked"), picture()},
                 {QStringLiteral("requires a password")});
+}
+
+namespace {
+
+/// An encrypted document, its password typed on the terminal.
+class KvprintDocumentPasswords : public KvprintTest {
+protected:
+    KvprintDocumentPasswords() { addSampleQueue(tape, QStringLiteral("kvelland-lx900")); }
+
+    Terminal start() const
+    {
+        return Terminal(
+            {QStringLiteral(KV_PROGRAM), QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape, document},
+            kvprint.environment);
+    }
+
+    QString document =
+        file(QStringLiteral("secret.pdf"), pdfWithPageBoxes({"[0 0 68 170]"}, "s\xc3\xa4same"));
+};
+
+} // namespace
+
+TEST_F(KvprintDocumentPasswords, AreAskedForOnTheTerminal)
+{
+    Terminal terminal = start();
+    terminal.waitFor("secret.pdf");
+    terminal.type("open\n");
+    terminal.waitFor("The password is wrong.");
+    terminal.waitFor("secret.pdf");
+    terminal.type("s\xc3\xa4same\n");
+    EXPECT_EQ(terminal.end(), 0) << terminal.shown().toStdString();
+    EXPECT_FALSE(terminal.shown().contains("same")) << terminal.shown().toStdString();
+    const auto documents = recorded(1);
+    EXPECT_FALSE(documents.first().content.contains("/Encrypt"));
+}
+
+TEST_F(KvprintDocumentPasswords, AreAskedForThreeTimesAtMost)
+{
+    Terminal terminal = start();
+    for (int round = 0; round < 3; ++round) {
+        terminal.waitFor("secret.pdf");
+        terminal.type("open\n");
+    }
+    EXPECT_EQ(terminal.end(), 1) << terminal.shown().toStdString();
+    EXPECT_TRUE(terminal.shown().contains("it is encrypted and needs a password"))
+        << terminal.shown().toStdString();
+    EXPECT_TRUE(jobStates().isEmpty());
+}
+
+TEST_F(KvprintDocumentPasswords, WithoutATerminalTheDocumentIsAnError)
+{
+    expectError({QStringLiteral("--no-dialog"), QStringLiteral("-d"), tape, document},
+                {document, QStringLiteral("it is encrypted and needs a password")});
 }
