@@ -2051,6 +2051,14 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>Ungültige Skalierung „%1“; möglich sind auto, fit, fill und none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>Der Kernel hat kein Landlock: Die Prozesse, die Dokumente lesen, können andere Dateien lesen.</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>Der Kernel hat kein seccomp: Die Prozesse, die Dokumente lesen, können das Netzwerk benutzen und andere Prozesse starten.</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

@@ -2050,6 +2050,14 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>Escala no válida «%1»; use auto, fit, fill o none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>El núcleo no tiene Landlock: los procesos que leen documentos pueden leer otros archivos.</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>El núcleo no tiene seccomp: los procesos que leen documentos pueden usar la red e iniciar otros procesos.</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

@@ -2051,6 +2051,14 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>Mise à l’échelle « %1 » non valide ; utilisez auto, fit, fill ou none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>Le noyau n’a pas Landlock : les processus qui lisent les documents peuvent lire d’autres fichiers.</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>Le noyau n’a pas seccomp : les processus qui lisent les documents peuvent utiliser le réseau et démarrer d’autres processus.</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

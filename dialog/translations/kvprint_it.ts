@@ -2051,6 +2051,14 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>Scala «%1» non valida; usare auto, fit, fill o none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>Il kernel non ha Landlock: i processi che leggono i documenti possono leggere altri file.</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>Il kernel non ha seccomp: i processi che leggono i documenti possono usare la rete e avviare altri processi.</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

@@ -2048,6 +2048,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>拡大縮小「%1」は無効です。auto、fit、fill、none のいずれかを指定してください</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>カーネルに Landlock がありません: 文書を読み込むプロセスが他のファイルを読むことができます。</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>カーネルに seccomp がありません: 文書を読み込むプロセスがネットワークを使用し、他のプロセスを起動できます。</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

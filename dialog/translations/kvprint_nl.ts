@@ -2051,6 +2051,14 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>Ongeldige schaal ‘%1’; gebruik auto, fit, fill of none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>De kernel heeft geen Landlock: de processen die documenten lezen, kunnen andere bestanden lezen.</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>De kernel heeft geen seccomp: de processen die documenten lezen, kunnen het netwerk gebruiken en andere processen starten.</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

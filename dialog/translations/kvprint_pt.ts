@@ -2050,6 +2050,14 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>Escala “%1” inválida; use auto, fit, fill ou none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>O núcleo não tem Landlock: os processos que leem documentos podem ler outros ficheiros.</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>O núcleo não tem seccomp: os processos que leem documentos podem usar a rede e iniciar outros processos.</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

@@ -2048,6 +2048,14 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>Invalid scaling &quot;%1&quot;; use auto, fit, fill or none</source>
         <translation>缩放“%1”无效；请使用 auto、fit、fill 或 none</translation>
     </message>
+    <message>
+        <source>The kernel has no Landlock: the processes that read documents can read other files.</source>
+        <translation>内核没有 Landlock：读取文档的进程可以读取其他文件。</translation>
+    </message>
+    <message>
+        <source>The kernel has no seccomp: the processes that read documents can use the network and start other processes.</source>
+        <translation>内核没有 seccomp：读取文档的进程可以使用网络并启动其他进程。</translation>
+    </message>
 </context>
 <context>
     <name>programs::kvprint::Console</name>

@@ -19,7 +19,7 @@ inline namespace window {
 
 bool PrintDialog::isMeasured() const
 {
-    // Pages whose blank is not removed are measured as well: some may be impossible to draw.
+    // Includes pages whose blank is not removed.
     return !m_plan || m_renderer->measurer()->isIdle();
 }
 
@@ -52,7 +52,7 @@ host::Result<void, QString> PrintDialog::prepare()
 
 void PrintDialog::finishMeasuring()
 {
-    if (isMeasured())
+    if (!m_plan || m_plan->isMeasured())
         return;
     m_renderer->measurer()->finish();
     refresh();
@@ -60,6 +60,9 @@ void PrintDialog::finishMeasuring()
 
 bool PrintDialog::isPrepared()
 {
+    // The virtual printer draws all pages: none may be impossible to draw.
+    if (m_sender.needsStrip() && !isMeasured())
+        m_renderer->measurer()->finish();
     const host::Result<void, QString> prepared = prepare();
     m_errorBanner->setSendError(prepared ? std::nullopt : std::optional(prepared.error()));
     if (!prepared)

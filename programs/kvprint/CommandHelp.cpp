@@ -3,6 +3,8 @@
 
 #include "CommandOption.h"
 
+#include <host/rendering/SandboxSupport.h>
+
 #include <QCoreApplication>
 
 namespace programs {
@@ -73,6 +75,26 @@ QString commandHelp()
                "nothing was printed,\n     unless standard error states that the job was sent\n  2  invalid "
                "command line\n  3  printed, but without the cut-options panel\n  4  canceled in the dialog\n "
                " 129, 130, 143  stopped by a signal before the job was sent\n");
+}
+
+QString versionText()
+{
+    const host::SandboxSupport support = host::sandboxSupport();
+    QString text =
+        QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() + u'\n';
+    if (!support.restrictsFiles)
+        text +=
+            wrapped(CommandHelpText::tr("The kernel has no Landlock: the processes that read documents can "
+                                        "read other files."),
+                    lineWidth, 0) +
+            u'\n';
+    if (!support.restrictsCalls)
+        text +=
+            wrapped(CommandHelpText::tr("The kernel has no seccomp: the processes that read documents can "
+                                        "use the network and start other processes."),
+                    lineWidth, 0) +
+            u'\n';
+    return text;
 }
 
 } // namespace kvprint

@@ -10,5 +10,9 @@ inline namespace kvprint {
 /// columns.
 QString commandHelp();
 
+/// Returns the text of --version: name and version, and what the kernel lacks to confine the processes that
+/// read documents.
+QString versionText();
+
 } // namespace kvprint
 } // namespace programs

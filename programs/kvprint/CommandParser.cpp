@@ -113,8 +113,7 @@ private:
     {
         if (qstrcmp(option.name, "help") == 0)
             return {UsageErrorKind::HelpRequested, commandHelp()};
-        return {UsageErrorKind::VersionRequested,
-                QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() + u'\n'};
+        return {UsageErrorKind::VersionRequested, versionText()};
     }
 
     std::optional<UsageError> checkTogether() const

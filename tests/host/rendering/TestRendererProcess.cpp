@@ -4,6 +4,7 @@
 
 #include <host/rendering/RemotePdf.h>
 #include <host/rendering/RendererProcess.h>
+#include <host/rendering/SandboxSupport.h>
 #include <tests/samples/RawPdf.h>
 #include <tests/samples/SamplePdf.h>
 #include <tests/samples/Sandbox.h>
@@ -225,6 +226,8 @@ INSTANTIATE_TEST_SUITE_P(Pages, RendererFaults,
 
 TEST_F(RendererTest, AFileThatIsNotOpenCannotBeRead)
 {
+    if (!host::sandboxSupport().restrictsFiles)
+        GTEST_SKIP() << "the kernel has no Landlock";
     const auto pdf = openPages(faulty());
     EXPECT_TRUE(pdf->draw(static_cast<int>(FaultyPage::File), pictureSize));
 }
