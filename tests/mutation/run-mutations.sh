@@ -200,6 +200,8 @@ tests=$(set -f; printf '%s\n' "$lines" | while IFS= read -r line; do for test in
 ninja -C "$build" kv_resources $(printf '%s\n' "$tests" | cut -d : -f 1 | sort -u) >/dev/null
 rm -rf "$work"
 mkdir -p "$work"
+# The programs find the converters and the renderer in the folder beside their own.
+ln -s "$build/lib" "$work/lib"
 for test in $(set -f; echo $tests); do
     run "$build/tests/${test%%:*}" "${test#*:}" >"$work/log" 2>&1 ||
         { cat "$work/log"; echo "$test fails before a rule is broken"; exit 1; }

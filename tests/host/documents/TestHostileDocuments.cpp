@@ -2,6 +2,8 @@
 
 #include <host/documents/LabelDocument.h>
 #include <host/documents/OpenedDocument.h>
+#include <host/documents/PdfPages.h>
+#include <host/labels/LabelDrawing.h>
 #include <host/labels/LabelRenderer.h>
 #include <host/labels/PageCheck.h>
 #include <host/labels/PageThread.h>
@@ -331,4 +333,26 @@ TEST(HostileDocuments, AFileThatShrinksOrChangesIsNotPrinted)
         EXPECT_EQ(checked.error().kind, DocumentErrorKind::Changed);
         EXPECT_TRUE(checked.error().message.contains(path));
     }
+}
+
+TEST(HostileDocuments, PagesThatCannotBeDrawnAreReportedAndHaveAPlaceholder)
+{
+    const Sandbox sandbox;
+    constexpr int bad = host::PdfPages::checkedAtOnce;
+    QByteArray content = pdfWithPageBoxes(std::vector<QByteArray>(bad + 1, "[0 0 100 100]"));
+    // The last page of the tree is an object that does not exist.
+    const qsizetype kids = content.indexOf("/Kids");
+    const qsizetype last = content.lastIndexOf(" 0 R", content.indexOf(']', kids));
+    content.replace(last - 3, 3, "999");
+    const auto document = LabelDocument::open(sandbox.write(QStringLiteral("hole.pdf"), content));
+    ASSERT_TRUE(document) << document.error().message.toStdString();
+    host::PageLayout layout;
+    layout.paper = QSizeF(100, 100);
+    const host::LabelDrawing drawing(*document.value(), layout);
+    const host::LabelExtent extent = drawing.measure(bad);
+    EXPECT_FALSE(extent.drawingFault.isEmpty());
+    EXPECT_TRUE(extent.isMeasured);
+    EXPECT_FALSE(isWhite(drawing.draw(bad, 4.0)));
+    EXPECT_EQ(document.value()->drawingFault(bad), extent.drawingFault);
+    EXPECT_TRUE(document.value()->drawingFault(0).isEmpty());
 }
