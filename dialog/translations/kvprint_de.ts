@@ -1663,6 +1663,10 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>Leave out pages that cannot be drawn</source>
         <translation>Nicht darstellbare Seiten auslassen</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>Die Etiketten werden gespiegelt gedruckt, was nur durch transparentes Band lesbar ist.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1663,6 +1663,10 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>Leave out pages that cannot be drawn</source>
         <translation>Omitir las páginas que no se pueden dibujar</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>Las etiquetas se imprimen reflejadas, lo que solo se puede leer a través de cinta transparente.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

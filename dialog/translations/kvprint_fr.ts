@@ -1663,6 +1663,10 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>Leave out pages that cannot be drawn</source>
         <translation>Omettre les pages qui ne peuvent pas être affichées</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>Les étiquettes sont imprimées en miroir, ce qui n’est lisible qu’à travers un ruban transparent.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

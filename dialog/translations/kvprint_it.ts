@@ -1663,6 +1663,10 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>Leave out pages that cannot be drawn</source>
         <translation>Ometti le pagine che non si possono disegnare</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>Le etichette vengono stampate a specchio, leggibili solo attraverso un nastro trasparente.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1661,6 +1661,10 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>Leave out pages that cannot be drawn</source>
         <translation>描画できないページを除外</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>ラベルは左右反転して印刷されます。透明なテープを通してのみ読めます。</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1663,6 +1663,10 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>Leave out pages that cannot be drawn</source>
         <translation>Pagina&apos;s die niet kunnen worden getekend weglaten</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>De labels worden gespiegeld afgedrukt, wat alleen door transparante tape leesbaar is.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

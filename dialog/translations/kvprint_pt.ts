@@ -1663,6 +1663,10 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>Leave out pages that cannot be drawn</source>
         <translation>Omitir as páginas que não podem ser desenhadas</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>As etiquetas são impressas em espelho, o que só é legível através de fita transparente.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1661,6 +1661,10 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>Leave out pages that cannot be drawn</source>
         <translation>略过无法绘制的页面</translation>
     </message>
+    <message>
+        <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
+        <translation>标签以镜像方式打印，只有透过透明胶带才能阅读。</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -31,6 +32,8 @@ QString kindKey(PreflightKind kind)
         return QStringLiteral("blank");
     case PreflightKind::LonelyLabel:
         return QStringLiteral("lonely-label");
+    case PreflightKind::Mirrored:
+        return QStringLiteral("mirrored");
     case PreflightKind::LongTape:
         return QStringLiteral("long-tape");
     }
@@ -144,6 +147,18 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
              withoutPages(ticket, blank, PreflightText::tr("Leave out blank pages")));
 }
 
+/// Whether the paper or another choice of the job is named as transparent. PPDs have no keyword for it.
+bool isTransparent(const Ticket &ticket)
+{
+    static const QRegularExpression words(QStringLiteral("\\b(transparent|clear)\\b"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    if (ticket.paper && ticket.paper->text.contains(words))
+        return true;
+    return std::ranges::any_of(ticket.job.options, [](const JobOption &option) {
+        return QString::fromUtf8(option.value).contains(words);
+    });
+}
+
 /// Whether the last piece is a single label, and all pieces before it have the same greater number of labels.
 bool hasLonelyLabel(const std::vector<Piece> &pieces)
 {
@@ -175,6 +190,11 @@ std::vector<PreflightNote> preflight(const Ticket &ticket, const LabelDocument &
 {
     std::vector<PreflightNote> notes;
     addPageNotes(notes, ticket, document, renderer, papers);
+    if (plan.effects().mirror && !isTransparent(ticket))
+        notes.push_back({PreflightKind::Mirrored,
+                         {},
+                         PreflightText::tr("The labels are printed mirrored, which is readable only through "
+                                           "transparent tape.")});
     if (hasLonelyLabel(plan.pieces()))
         notes.push_back(
             {PreflightKind::LonelyLabel, {}, PreflightText::tr("The last label is a piece of its own.")});

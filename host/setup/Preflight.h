@@ -16,6 +16,7 @@ enum class PreflightKind {
     CutOff,      ///< marks of the page lie where the printer cannot print
     Blank,       ///< nothing is printed on the label
     LonelyLabel, ///< the last piece has one label, the others have several
+    Mirrored,    ///< the labels are mirrored, and no choice of the job is a transparent medium
     LongTape,    ///< the job needs more tape than most rolls have
 };
 

@@ -140,6 +140,22 @@ TEST_F(PreflightTest, ALonelyLabelAfterPiecesOfSeveral)
     EXPECT_EQ(kinds(notesOn({markedLabel}, {everyTwo})), QStringList());
 }
 
+TEST_F(PreflightTest, MirroredLabelsOnTapeThatIsNotTransparent)
+{
+    const host::JobChoice mirrored{"KvMirror", "ON", host::Origin::You};
+    EXPECT_EQ(kinds(notesOn({markedLabel}, {mirrored})), words("mirrored"));
+    const host::JobChoice byFilters{"mirror", "true", host::Origin::You};
+    EXPECT_EQ(kinds(notesOn({markedLabel}, {byFilters})), words("mirrored"));
+    const struct {
+        const char *medium;
+        bool isTransparent;
+    } rows[] = {{"Transparent", true}, {"clear-tape", true}, {"nuclear", false}, {"white", false}};
+    for (const auto &row : rows) {
+        const host::JobChoice type{"media-type", row.medium, host::Origin::You};
+        EXPECT_EQ(kinds(notesOn({markedLabel}, {mirrored, type})).isEmpty(), row.isTransparent) << row.medium;
+    }
+}
+
 TEST_F(PreflightTest, MoreThanFiveMetresOfTape)
 {
     EXPECT_EQ(kinds(notesOn({markedLabel}, {}, 83)), QStringList());
