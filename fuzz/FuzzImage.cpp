@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The metadata of PNGs and JPEGs. The first byte of each signature decides which reader parses the data; both
 // receive all bytes.
-#include <host/documents/ImageFacts.h>
+#include <host/images/ImageFacts.h>
 
 #include <cstdint>
 

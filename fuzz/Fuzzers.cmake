@@ -9,7 +9,7 @@ kv_fuzzer(command_line
     USES programs/kvprint)
 kv_fuzzer(image
     SOURCES FuzzImage.cpp
-    USES host/documents)
+    USES host/images)
 kv_fuzzer(job_journal
     SOURCES FuzzJobJournal.cpp
     USES host/cups/jobs)

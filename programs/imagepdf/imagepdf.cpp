@@ -1,73 +1,69 @@
 // SPDX-License-Identifier: Apache-2.0
-// Writes a PDF with one page that an image fills:
+// Writes a PDF with one page that an image fills, in its natural size:
 //
-//     kvprint-imagepdf PIXELS-ACROSS PIXELS-DOWN COLORS FILTER POINTS-ACROSS POINTS-DOWN <data >page.pdf
+//     kvprint-imagepdf png|jpeg <image >page.pdf
 //
-// COLORS is 1 for gray and 3 for RGB, of 8 bits each. FILTER names how the data is compressed, as PDF does:
-// "/DCTDecode" for a JPEG, "/FlateDecode" for rows of pixels. The data is embedded unchanged. kvprint runs
-// this program when it opens an image, so that the library for PDFs costs it no time at any other start. The
-// exit status is 1 if an argument is invalid, and 2 if there is too little memory; the reason is written to
-// standard error.
+// The first line of the output is "size WIDTH HEIGHT", the size of the page in points; the PDF follows unless
+// a side of the page is longer than a PDF page can be. The exit status is 1 if the image is damaged, and 2 if
+// it has too many pixels or needs too much memory or time; the reason is written to standard error, and the
+// first line of the output may be "incomplete" or "pixels ACROSS DOWN". kvprint runs this program when it
+// opens an image: a hostile image cannot harm it, and the libraries cost it no time at any other start.
+#include "ImagePage.h"
+
+#include <host/images/ImageSource.h>
 #include <programs/conversion/Conversion.h>
 #include <programs/sandbox/Sandbox.h>
 
-#include <qpdf/Buffer.hh>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFPageDocumentHelper.hh>
-#include <qpdf/QPDFWriter.hh>
+#include <QCoreApplication>
 
 #include <cstdio>
-#include <memory>
-#include <string>
 #include <vector>
 
 namespace {
 
-struct Request {
-    std::string pixelsAcross;
-    std::string pixelsDown;
-    std::string colors;
-    std::string filter;
-    std::string pointsAcross;
-    std::string pointsDown;
-};
+using programs::ConversionError;
 
-/// What the process may use. The image and the PDF are both in memory.
+/// What the process may use. The image, its pixels and the PDF are all in memory.
 programs::SandboxRules rules()
 {
-    programs::SandboxRules rules;
-    rules.seconds = 60;
-    rules.bytes = std::size_t{2} << 30U;
-    return rules;
+    return {.seconds = 60, .bytes = std::size_t{2} << 30U, .readableFolders = {}};
 }
 
-void writePage(const Request &request, std::vector<unsigned char> &data)
+ConversionError errorOf(host::ImageFault fault, QSize pixels)
 {
-    QPDF pdf;
-    pdf.emptyPDF();
-    QPDFObjectHandle image = QPDFObjectHandle::newStream(&pdf);
-    const std::string space = request.colors == "1" ? "/DeviceGray" : "/DeviceRGB";
-    image.replaceDict(QPDFObjectHandle::parse(
-        "<< /Type /XObject /Subtype /Image /BitsPerComponent 8 /ColorSpace " + space + " /Width " +
-        request.pixelsAcross + " /Height " + request.pixelsDown + " >>"));
-    image.replaceStreamData(std::make_shared<Buffer>(data.data(), data.size()),
-                            QPDFObjectHandle::newName(request.filter), QPDFObjectHandle::newNull());
+    switch (fault) {
+    case host::ImageFault::Incomplete:
+        std::puts("incomplete");
+        return {ConversionError::Damaged, "the end of the image is missing"};
+    case host::ImageFault::TooManyPixels:
+        std::printf("pixels %d %d\n", pixels.width(), pixels.height());
+        return {ConversionError::TooLarge, "too many pixels"};
+    case host::ImageFault::Damaged:
+        break;
+    }
+    return {ConversionError::Damaged, "the image is damaged"};
+}
 
-    const std::string size = request.pointsAcross + " 0 0 " + request.pointsDown;
-    QPDFObjectHandle page = QPDFObjectHandle::parse("<< /Type /Page /Resources << /XObject << >> >> >>");
-    page.replaceKey("/MediaBox",
-                    QPDFObjectHandle::parse("[0 0 " + request.pointsAcross + ' ' + request.pointsDown + ']'));
-    page.getKey("/Resources").getKey("/XObject").replaceKey("/Image", image);
-    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, "q " + size + " 0 0 cm /Image Do Q"));
-    QPDFPageDocumentHelper(pdf).addPage(QPDFPageObjectHelper(pdf.makeIndirectObject(page)), false);
-
-    QPDFWriter writer(pdf);
-    writer.setMinimumPDFVersion("1.4");
-    writer.setStreamDataMode(qpdf_s_preserve);
-    writer.setDeterministicID(true);
-    writer.setOutputFile("standard output", stdout, false);
-    writer.write();
+void convert(const QByteArray &format)
+{
+    std::vector<unsigned char> data = programs::readStandardInput();
+    const QByteArray content = QByteArray::fromRawData(reinterpret_cast<const char *>(data.data()),
+                                                       static_cast<qsizetype>(data.size()));
+    host::ImageSource source(content, format);
+    if (const auto checked = source.check(); !checked)
+        throw errorOf(checked.error(), source.pixels());
+    std::optional<host::PdfImage> image = source.read();
+    if (!image)
+        throw errorOf(host::ImageFault::Damaged, {});
+    const QSizeF size = source.pageSize();
+    const std::string width = QByteArray::number(size.width(), 'f', 4).toStdString();
+    const std::string height = QByteArray::number(size.height(), 'f', 4).toStdString();
+    std::printf("size %s %s\n", width.c_str(), height.c_str());
+    std::fflush(stdout);
+    programs::writeImagePage({image->pixels.width(), image->pixels.height(), image->colors,
+                              image->filter.toStdString(), width, height,
+                              reinterpret_cast<unsigned char *>(image->data.data()),
+                              static_cast<std::size_t>(image->data.size())});
     programs::flushStandardOutput();
 }
 
@@ -75,12 +71,14 @@ void writePage(const Request &request, std::vector<unsigned char> &data)
 
 int main(int argc, char **argv)
 {
-    programs::enterSandbox(rules());
-    return programs::runConversion("kvprint-imagepdf", [argc, argv] {
-        constexpr int argumentCount = 7;
-        if (argc != argumentCount)
-            throw programs::ConversionError(programs::ConversionError::Damaged, "six arguments are needed");
-        std::vector<unsigned char> data = programs::readStandardInput();
-        writePage({argv[1], argv[2], argv[3], argv[4], argv[5], argv[6]}, data);
+    return programs::runConversion("kvprint-imagepdf", [&] {
+        constexpr int argumentCount = 2;
+        const QByteArray format = argc == argumentCount ? argv[1] : "";
+        if (format != "png" && format != "jpeg")
+            throw ConversionError(ConversionError::Damaged, "the format must be \"png\" or \"jpeg\"");
+        const QCoreApplication application(argc, argv);
+        host::ImageSource::load(format);
+        programs::enterSandbox(rules());
+        convert(format);
     });
 }

@@ -7,7 +7,7 @@
 #include <optional>
 
 namespace host {
-inline namespace documents {
+inline namespace images {
 
 /// Properties of a PNG or JPEG that Qt's image readers do not report.
 struct ImageFacts {
@@ -25,5 +25,5 @@ ImageFacts pngFacts(const QByteArray &png);
 /// Reads the properties of a JPEG. Damaged data yields the defaults for what cannot be read.
 ImageFacts jpegFacts(const QByteArray &jpeg);
 
-} // namespace documents
+} // namespace images
 } // namespace host

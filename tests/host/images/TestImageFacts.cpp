@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <host/documents/ImageFacts.h>
+#include <host/images/ImageFacts.h>
 
 #include <QtEndian>
 

@@ -6,7 +6,7 @@
 #include <QtEndian>
 
 namespace host {
-inline namespace documents {
+inline namespace images {
 
 namespace {
 
@@ -141,5 +141,5 @@ ImageFacts jpegFacts(const QByteArray &jpeg)
     return JpegSegments(jpeg).facts();
 }
 
-} // namespace documents
+} // namespace images
 } // namespace host
