@@ -1667,6 +1667,18 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>Die Etiketten werden gespiegelt gedruckt, was nur durch transparentes Band lesbar ist.</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>Seiten passend drehen</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>Seite %1 wird kleiner gedruckt als in der passenden Ausrichtung.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>Die Seiten %1 werden kleiner gedruckt als in der passenden Ausrichtung.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1667,6 +1667,18 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>Las etiquetas se imprimen reflejadas, lo que solo se puede leer a través de cinta transparente.</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>Girar las páginas para que quepan</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>La página %1 se imprime más pequeña que en la orientación adecuada.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>Las páginas %1 se imprimen más pequeñas que en la orientación adecuada.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

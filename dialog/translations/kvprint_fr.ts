@@ -1667,6 +1667,18 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>Les étiquettes sont imprimées en miroir, ce qui n’est lisible qu’à travers un ruban transparent.</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>Tourner les pages pour qu’elles tiennent</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>La page %1 est imprimée plus petite que dans l’orientation adaptée.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>Les pages %1 sont imprimées plus petites que dans l’orientation adaptée.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1667,6 +1667,18 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>Le etichette vengono stampate a specchio, leggibili solo attraverso un nastro trasparente.</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>Ruota le pagine per adattarle</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>La pagina %1 viene stampata più piccola che con l&apos;orientamento adatto.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>Le pagine %1 vengono stampate più piccole che con l&apos;orientamento adatto.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1665,6 +1665,18 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>ラベルは左右反転して印刷されます。透明なテープを通してのみ読めます。</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>ページを合う向きに回転</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>ページ %1 は、合う向きの場合より小さく印刷されます。</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>ページ %1 は、合う向きの場合より小さく印刷されます。</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

@@ -1667,6 +1667,18 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>De labels worden gespiegeld afgedrukt, wat alleen door transparante tape leesbaar is.</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>Pagina&apos;s passend draaien</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>Pagina %1 wordt kleiner afgedrukt dan in de passende richting.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>Pagina&apos;s %1 worden kleiner afgedrukt dan in de passende richting.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

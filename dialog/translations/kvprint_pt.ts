@@ -1667,6 +1667,18 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>As etiquetas são impressas em espelho, o que só é legível através de fita transparente.</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>Rodar as páginas para caberem</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>A página %1 é impressa mais pequena do que na orientação adequada.</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>As páginas %1 são impressas mais pequenas do que na orientação adequada.</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

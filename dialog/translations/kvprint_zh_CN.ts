@@ -1665,6 +1665,18 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
         <source>The labels are printed mirrored, which is readable only through transparent tape.</source>
         <translation>标签以镜像方式打印，只有透过透明胶带才能阅读。</translation>
     </message>
+    <message>
+        <source>Turn pages to fit</source>
+        <translation>将页面旋转到合适方向</translation>
+    </message>
+    <message>
+        <source>Page %1 is printed smaller than in the orientation that fits.</source>
+        <translation>第 %1 页的打印尺寸小于合适方向下的尺寸。</translation>
+    </message>
+    <message>
+        <source>Pages %1 are printed smaller than in the orientation that fits.</source>
+        <translation>第 %1 页的打印尺寸小于合适方向下的尺寸。</translation>
+    </message>
 </context>
 <context>
     <name>host::setup::PrinterSetup</name>

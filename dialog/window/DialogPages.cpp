@@ -167,6 +167,16 @@ QWidget *DialogPages::makeOptionsPage(QWidget *parent)
     return m_optionsPage;
 }
 
+void DialogPages::showOrientation(host::Orientation orientation)
+{
+    m_job.settings.orientation = orientation;
+    if (!m_jobPage)
+        return;
+    host::JobSettings settings = m_jobPage->settings();
+    settings.orientation = orientation;
+    m_jobPage->setSettings(settings);
+}
+
 void DialogPages::writeJobTo(host::JobRequest &request) const
 {
     request.settings = m_jobPage ? m_jobPage->settings() : m_job.settings;

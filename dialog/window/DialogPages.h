@@ -54,6 +54,8 @@ public:
     void setRenderer(const host::LabelRenderer &renderer);
     /// Sets the job's name, orientation, hold and priority that the "Job" page shows when it is created.
     void showJob(const host::JobRequest &request) { m_job = request; }
+    /// Shows another orientation on the "Job" page.
+    void showOrientation(host::Orientation orientation);
     /// Writes these values, with the user's changes, to the request. Without a server they are unchanged.
     void writeJobTo(host::JobRequest &request) const;
     /// Shows the conflicts below the options that they involve, and those of the panel's options above the

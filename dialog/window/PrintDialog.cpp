@@ -273,6 +273,8 @@ void PrintDialog::applyRemedy(const host::NamedValue &option)
         if (const std::optional<host::PpdPaper> paper = setup->ppd().paper(option.value))
             setup->choosePaper(*paper);
         m_choices->showPapers();
+    } else if (option.name == "orientation-requested") {
+        m_pages->showOrientation(static_cast<host::Orientation>(option.value.toInt()));
     } else {
         host::JobSettings settings;
         m_choices->pages().writeTo(settings);

@@ -140,8 +140,10 @@ void RendererProcess::start()
 Result<RendererProcess::Answer, RenderFault> RendererProcess::ask(const RenderRequest &request,
                                                                   const QByteArray &bytes, int descriptor)
 {
-    if (m_isCanceled)
+    if (m_isCanceled) {
+        kill();
         return RenderFault::Canceled;
+    }
     start();
     if (!isRunning())
         return RenderFault::Missing;

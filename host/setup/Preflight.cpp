@@ -26,6 +26,8 @@ QString kindKey(PreflightKind kind)
         return QStringLiteral("cannot-be-drawn");
     case PreflightKind::Shrunk:
         return QStringLiteral("shrunk");
+    case PreflightKind::Orientation:
+        return QStringLiteral("orientation");
     case PreflightKind::CutOff:
         return QStringLiteral("cut-off");
     case PreflightKind::Blank:
@@ -105,16 +107,63 @@ void addUndrawable(std::vector<PreflightNote> &notes, const Ticket &ticket, cons
              withoutPages(ticket, undrawable, PreflightText::tr("Leave out pages that cannot be drawn")));
 }
 
+/// The same layout with pages turned as they fit.
+PageLayout turnedToFit(PageLayout layout)
+{
+    layout.turning = Turning::Automatic;
+    return layout;
+}
+
+/// Whether the page is printed at least a twentieth smaller than in the orientation that fits.
+bool isTurnedWrongly(const Ticket &ticket, QSizeF page)
+{
+    constexpr double noticeable = 0.95;
+    const PageLayout &layout = *ticket.layout;
+    return layout.turning != Turning::Automatic && layout.scaling != Scaling::ActualSize &&
+           layout.place(page).scale < noticeable * turnedToFit(layout).place(page).scale;
+}
+
+/// Returns the orientation in which all the pages fit.
+std::optional<PreflightRemedy> fittingOrientation(const Ticket &ticket, const LabelDocument &document,
+                                                  const std::vector<int> &pages)
+{
+    const PageLayout layout = turnedToFit(*ticket.layout);
+    const auto isOnSide = [&](int page) { return layout.place(document.pageSize(page)).isOnSide(); };
+    const bool areOnSide = isOnSide(pages.front());
+    if (std::ranges::any_of(pages, [&](int page) { return isOnSide(page) != areOnSide; }))
+        return std::nullopt;
+    const auto orientation = areOnSide ? host::Orientation::ReverseLandscape : host::Orientation::Portrait;
+    return PreflightRemedy{PreflightText::tr("Turn pages to fit"),
+                           {"orientation-requested", QByteArray::number(static_cast<int>(orientation))}};
+}
+
+void addTurned(std::vector<PreflightNote> &notes, const Ticket &ticket, const LabelDocument &document,
+               const std::vector<int> &turned)
+{
+    if (turned.empty())
+        return;
+    addPages(notes, PreflightKind::Orientation, turned,
+             (turned.size() == 1
+                  ? PreflightText::tr("Page %1 is printed smaller than in the orientation that fits.")
+                  : PreflightText::tr("Pages %1 are printed smaller than in the orientation that fits."))
+                 .arg(pageList(turned)),
+             fittingOrientation(ticket, document, turned));
+}
+
 void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const LabelDocument &document,
                   const LabelRenderer &renderer, const std::vector<PpdPaper> &papers)
 {
     std::vector<int> undrawable;
+    std::vector<int> turned;
     std::vector<int> shrunk;
     std::vector<int> cutOff;
     std::vector<int> blank;
     double scale = 1.0;
     for (const int page : ticket.pages.pages) {
-        if (renderer.shrinks(page)) {
+        // Also false for a page whose size is not read yet.
+        if (renderer.shrinks(page) && isTurnedWrongly(ticket, document.pageSize(page)))
+            turned.push_back(page);
+        else if (renderer.shrinks(page)) {
             shrunk.push_back(page);
             scale = std::min(scale, renderer.scale(page));
         }
@@ -127,6 +176,7 @@ void addPageNotes(std::vector<PreflightNote> &notes, const Ticket &ticket, const
             blank.push_back(page);
     }
     addUndrawable(notes, ticket, document, undrawable);
+    addTurned(notes, ticket, document, turned);
     constexpr double percent = 100.0;
     const QString size = QLocale().toString(std::max(1.0, std::round(scale * percent)), 'f', 0);
     addPages(notes, PreflightKind::Shrunk, shrunk,

@@ -13,6 +13,7 @@ inline namespace setup {
 enum class PreflightKind {
     Undrawable,  ///< the page cannot be drawn; the job cannot be printed
     Shrunk,      ///< the page is larger than the label and is printed smaller
+    Orientation, ///< the page fits in another orientation, and is printed smaller in the chosen one
     CutOff,      ///< marks of the page lie where the printer cannot print
     Blank,       ///< nothing is printed on the label
     LonelyLabel, ///< the last piece has one label, the others have several
@@ -24,7 +25,8 @@ enum class PreflightKind {
 struct PreflightRemedy {
     /// What the user reads: 'Use "Tape 36 mm x 80 mm"'.
     QString text;
-    /// The option of the job and its value, as lp names them: "PageSize" or "page-ranges".
+    /// The option of the job and its value, as lp names them: "PageSize", "page-ranges" or
+    /// "orientation-requested".
     NamedValue option;
 
     bool operator==(const PreflightRemedy &) const = default;

@@ -166,11 +166,22 @@ constexpr int hostileCalls[] = {
 /// The flags of open() that create or change a file.
 constexpr unsigned long writingFlags = O_WRONLY | O_RDWR | O_CREAT | O_TRUNC | O_APPEND;
 
+/// The condition that an argument of a call, counted from 0, has this value.
+constexpr scmp_arg_cmp equals(unsigned argument, scmp_datum_t value)
+{
+    return {argument, SCMP_CMP_EQ, value, 0};
+}
+
+/// The condition that the bits of the mask have this value.
+constexpr scmp_arg_cmp hasBits(unsigned argument, scmp_datum_t mask, scmp_datum_t value)
+{
+    return {argument, SCMP_CMP_MASKED_EQ, mask, value};
+}
+
 void addOpening(scmp_filter_ctx filter)
 {
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(open), 1, SCMP_A1(SCMP_CMP_MASKED_EQ, writingFlags, 0));
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(openat), 1,
-                     SCMP_A2(SCMP_CMP_MASKED_EQ, writingFlags, 0));
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(open), 1, hasBits(1, writingFlags, 0));
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(openat), 1, hasBits(2, writingFlags, 0));
 }
 
 void addThreads(scmp_filter_ctx filter)
@@ -178,18 +189,15 @@ void addThreads(scmp_filter_ctx filter)
     // The arguments of clone3() are in memory, where a filter cannot read them; the C library uses clone()
     // instead when there is none.
     seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0);
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1,
-                     SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
-    seccomp_rule_add(filter, SCMP_ACT_KILL_PROCESS, SCMP_SYS(clone), 1,
-                     SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0));
-    const auto self = static_cast<scmp_datum_t>(getpid());
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1, hasBits(0, CLONE_THREAD, CLONE_THREAD));
+    seccomp_rule_add(filter, SCMP_ACT_KILL_PROCESS, SCMP_SYS(clone), 1, hasBits(0, CLONE_THREAD, 0));
     // What abort() uses.
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1, SCMP_A0(SCMP_CMP_EQ, self));
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME));
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_GET_NAME));
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
+                     equals(0, static_cast<scmp_datum_t>(getpid())));
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, equals(0, PR_SET_NAME));
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, equals(0, PR_GET_NAME));
     // Reading a limit, not setting one.
-    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), 2, SCMP_A0(SCMP_CMP_EQ, 0),
-                     SCMP_A2(SCMP_CMP_EQ, 0));
+    seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), 2, equals(0, 0), equals(2, 0));
 }
 
 } // namespace

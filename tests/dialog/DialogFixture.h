@@ -87,8 +87,8 @@ protected:
         keeper = std::make_unique<host::SetupKeeper>(std::move(setup));
         auto document = host::LabelDocument::open(documentPath);
         ASSERT_TRUE(document) << document.error().message.toStdString();
-        window = std::make_unique<dialog::PrintDialog>(std::move(document).value(), *keeper, sender,
-                                                       dialog::RequestedSettings());
+        window =
+            std::make_unique<dialog::PrintDialog>(std::move(document).value(), *keeper, sender, requested);
         window->show();
         QApplication::processEvents();
     }
@@ -158,6 +158,8 @@ protected:
     }
 
     Sandbox sandbox;
+    /// What the command line requests.
+    dialog::RequestedSettings requested;
     QString documentPath;
     host::DialogState *state = nullptr;
     RecordingSender sender;

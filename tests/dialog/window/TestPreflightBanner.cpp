@@ -53,6 +53,20 @@ TEST_F(PreflightBannerTest, LeavesOutBlankPages)
     EXPECT_EQ(sender.sentOption("page-ranges"), "1,3");
 }
 
+TEST_F(PreflightBannerTest, TurnsPagesToFit)
+{
+    requested.settings.orientation = host::Orientation::Portrait;
+    openPages({QSizeF(60, 24), QSizeF(60, 24)});
+    ASSERT_TRUE(waitUntil([this] { return !banner().isHidden(); }));
+    EXPECT_EQ(banner().message(),
+              QStringLiteral("Pages 1\u20132 are printed smaller than in the orientation that fits."));
+    click(remedy(QStringLiteral("Turn pages to fit")));
+    EXPECT_TRUE(banner().isHidden());
+    click(button("Print"));
+    ASSERT_TRUE(sender.ticket);
+    EXPECT_EQ(sender.ticket->layout->turning, host::Turning::Clockwise);
+}
+
 TEST_F(PreflightBannerTest, UsesALargerPaper)
 {
     openPages({QSizeF(60, 24), QSizeF(70, 50)});

@@ -140,6 +140,27 @@ TEST_F(PreflightTest, ALonelyLabelAfterPiecesOfSeveral)
     EXPECT_EQ(kinds(notesOn({markedLabel}, {everyTwo})), QStringList());
 }
 
+TEST_F(PreflightTest, PagesThatFitInAnotherOrientation)
+{
+    const RawPage lying{"/MediaBox [0 0 170.08 68.03]", "0 g 60 30 10 10 re f"};
+    const auto orientation = [](const char *value) {
+        return host::JobChoice{"orientation-requested", value, host::Origin::You};
+    };
+    // Without a request, pages are turned as they fit.
+    EXPECT_EQ(kinds(notesOn({markedLabel, lying})), QStringList());
+    const Notes upright = notesOn({markedLabel, lying}, {orientation("3")});
+    EXPECT_EQ(kinds(upright), words("orientation 2"));
+    ASSERT_TRUE(upright[0].remedy);
+    EXPECT_EQ(upright[0].remedy->option, (host::NamedValue{"orientation-requested", "5"}));
+    const Notes landscape = notesOn({markedLabel, lying}, {orientation("4")});
+    EXPECT_EQ(kinds(landscape), words("orientation 1"));
+    ASSERT_TRUE(landscape[0].remedy);
+    EXPECT_EQ(landscape[0].remedy->option, (host::NamedValue{"orientation-requested", "3"}));
+    // A page that is too large in any orientation is shrunk.
+    EXPECT_EQ(kinds(notesOn({RawPage{"/MediaBox [0 0 595 600]", mark}}, {orientation("4")})),
+              words("shrunk 1"));
+}
+
 TEST_F(PreflightTest, MirroredLabelsOnTapeThatIsNotTransparent)
 {
     const host::JobChoice mirrored{"KvMirror", "ON", host::Origin::You};

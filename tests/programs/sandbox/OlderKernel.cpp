@@ -22,8 +22,8 @@ int main(int argc, char **argv)
         seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(landlock_create_ruleset), 0);
     } else {
         seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(seccomp), 0);
-        seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1,
-                         SCMP_A0(SCMP_CMP_EQ, PR_SET_SECCOMP));
+        const scmp_arg_cmp setsFilter = {0, SCMP_CMP_EQ, PR_SET_SECCOMP, 0};
+        seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1, setsFilter);
     }
     if (seccomp_load(filter) != 0) {
         std::perror("older_kernel");
