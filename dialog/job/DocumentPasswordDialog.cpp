@@ -26,6 +26,9 @@ DocumentPasswordDialog::DocumentPasswordDialog(const QString &documentName, host
     prompt->setWordWrap(true);
     prompt->setTextFormat(Qt::PlainText);
     m_password->setEchoMode(QLineEdit::Password);
+    // Wide enough for a usual password, and for the sentence above it.
+    constexpr int characters = 32;
+    m_password->setMinimumWidth(characters * fontMetrics().averageCharWidth());
     auto *const buttons =
         new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel, Qt::Horizontal, this);
     auto *const layout = new QFormLayout(this);
