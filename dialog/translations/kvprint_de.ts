@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>Kennwort für das Dokument auf der Standardeingabe:</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>Kennwort für das Dokument „%1“:</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>Das Kennwort ist falsch.</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2152,6 +2137,21 @@ Vertrauen Sie ihm nur, wenn der Verwalter des Servers denselben Fingerabdruck ne
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Die Standardausgabe lässt sich nicht schreiben: %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Kennwort für das Dokument auf der Standardeingabe:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Kennwort für das Dokument „%1“:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Das Kennwort ist falsch.</translation>
     </message>
 </context>
 <context>

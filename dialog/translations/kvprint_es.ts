@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>Contraseña del documento de la entrada estándar:</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>Contraseña del documento «%1»:</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>La contraseña es incorrecta.</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2151,6 +2136,21 @@ Confíe en él solo si el administrador del servidor indica la misma huella. A p
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>No se puede escribir en la salida estándar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Contraseña del documento de la entrada estándar:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Contraseña del documento «%1»:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La contraseña es incorrecta.</translation>
     </message>
 </context>
 <context>

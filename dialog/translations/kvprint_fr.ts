@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>Mot de passe du document sur l’entrée standard :</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>Mot de passe du document « %1 » :</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>Le mot de passe est incorrect.</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2152,6 +2137,21 @@ Ne l’approuvez que si l’administrateur du serveur indique la même empreinte
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Impossible d’écrire sur la sortie standard : %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Mot de passe du document sur l’entrée standard :</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Mot de passe du document « %1 » :</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est incorrect.</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>Password del documento sullo standard input:</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>Password del documento &quot;%1&quot;:</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>La password è errata.</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2152,6 +2137,21 @@ Considerarlo attendibile solo se l&apos;amministratore del server indica la stes
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Impossibile scrivere sullo standard output: %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Password del documento sullo standard input:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Password del documento &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La password è errata.</translation>
     </message>
 </context>
 <context>

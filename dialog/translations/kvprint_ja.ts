@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>標準入力の文書のパスワード:</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>文書「%1」のパスワード:</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>パスワードが違います。</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2149,6 +2134,21 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>標準出力に書き込めません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>標準入力の文書のパスワード:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>文書「%1」のパスワード:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>パスワードが違います。</translation>
     </message>
 </context>
 <context>

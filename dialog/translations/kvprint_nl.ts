@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>Wachtwoord voor het document op de standaardinvoer:</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>Wachtwoord voor het document &quot;%1&quot;:</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>Het wachtwoord is onjuist.</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2152,6 +2137,21 @@ Vertrouw het alleen als de beheerder van de server dezelfde vingerafdruk noemt. 
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Kan niet naar de standaarduitvoer schrijven: %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Wachtwoord voor het document op de standaardinvoer:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Wachtwoord voor het document &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Het wachtwoord is onjuist.</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>Palavra-passe do documento na entrada padrão:</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>Palavra-passe do documento &quot;%1&quot;:</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>A palavra-passe está errada.</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2151,6 +2136,21 @@ Confie nele somente se o administrador do servidor informar a mesma impressão d
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>Não é possível escrever na saída padrão: %1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>Palavra-passe do documento na entrada padrão:</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>Palavra-passe do documento &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>A palavra-passe está errada.</translation>
     </message>
 </context>
 <context>

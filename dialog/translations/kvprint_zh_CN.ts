@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>TerminalPasswordText</name>
-    <message>
-        <source>Password for the document on standard input:</source>
-        <translation>标准输入中文档的密码：</translation>
-    </message>
-    <message>
-        <source>Password for the document &quot;%1&quot;:</source>
-        <translation>文档“%1”的密码：</translation>
-    </message>
-    <message>
-        <source>The password is wrong.</source>
-        <translation>密码错误。</translation>
-    </message>
-</context>
-<context>
     <name>dialog::job::DestinationChooser</name>
     <message>
         <source>Class of printers: %1</source>
@@ -2149,6 +2134,21 @@ Trust it only if the server&apos;s administrator confirms this fingerprint. It s
     <message>
         <source>Cannot write to standard output: %1</source>
         <translation>无法写入标准输出：%1</translation>
+    </message>
+</context>
+<context>
+    <name>programs::kvprint::TerminalPassword</name>
+    <message>
+        <source>Password for the document on standard input:</source>
+        <translation>标准输入中文档的密码：</translation>
+    </message>
+    <message>
+        <source>Password for the document &quot;%1&quot;:</source>
+        <translation>文档“%1”的密码：</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>密码错误。</translation>
     </message>
 </context>
 <context>

@@ -54,6 +54,16 @@ private:
     bool m_works;
 };
 
+QString documentPrompt(const QString &name, host::PasswordRound round)
+{
+    const QString prompt = name == host::standardInputName
+                               ? TerminalPasswordText::tr("Password for the document on standard input:")
+                               : TerminalPasswordText::tr("Password for the document \"%1\":").arg(name);
+    return round == host::PasswordRound::Again
+               ? TerminalPasswordText::tr("The password is wrong.") + u'\n' + prompt
+               : prompt;
+}
+
 void removeLastCharacter(QByteArray &line)
 {
     // One character may be several bytes of UTF-8.
@@ -140,17 +150,10 @@ host::PasswordHandler askOnTerminal()
 
 host::DocumentPasswordSource askDocumentPasswordOnTerminal()
 {
-    return [rounds = 0](const QString &name, host::PasswordRound round) mutable -> std::optional<QString> {
+    return [rounds = 0](const QString &name, host::PasswordRound round) mutable {
         constexpr int maxRounds = 3;
         rounds = round == host::PasswordRound::First ? 1 : rounds + 1;
-        if (rounds > maxRounds)
-            return std::nullopt;
-        const QString prompt = name == host::standardInputName
-                                   ? TerminalPasswordText::tr("Password for the document on standard input:")
-                                   : TerminalPasswordText::tr("Password for the document \"%1\":").arg(name);
-        const bool isAgain = round == host::PasswordRound::Again;
-        return TerminalPassword().ask(
-            isAgain ? TerminalPasswordText::tr("The password is wrong.") + u'\n' + prompt : prompt);
+        return rounds > maxRounds ? std::nullopt : TerminalPassword().ask(documentPrompt(name, round));
     };
 }
 
