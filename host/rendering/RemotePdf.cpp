@@ -50,8 +50,8 @@ RemotePdf::~RemotePdf()
 
 Result<int, RenderFault> RemotePdf::open()
 {
-    const auto answer = m_process->ask({.command = RenderCommand::Open, .document = m_document},
-                                       m_password.toUtf8(), m_file->handle());
+    const auto answer =
+        m_process->ask({.command = RenderCommand::Open, .document = m_document}, m_file->handle());
     if (!answer)
         return answer.error();
     if (const std::optional<RenderFault> fault = faultOf(answer.value().reply))
@@ -68,7 +68,7 @@ Result<RendererProcess::Answer, RenderFault> RemotePdf::ask(RenderRequest reques
             return opened.error();
     }
     request.document = m_document;
-    auto answer = m_process->ask(request, {}, descriptor);
+    auto answer = m_process->ask(request, descriptor);
     if (!answer)
         return answer;
     if (const std::optional<RenderFault> fault = faultOf(answer.value().reply))

@@ -25,9 +25,6 @@ public:
     RemotePdf(const RemotePdf &) = delete;
     RemotePdf &operator=(const RemotePdf &) = delete;
 
-    /// Sets the password with which the PDF is opened. It is sent to the renderer only.
-    void setPassword(const QString &password) { m_password = password; }
-    const QString &password() const { return m_password; }
     /// Opens the PDF and returns the number of its pages.
     Result<int, RenderFault> open();
     /// Reads the sizes of some pages in points, at most maxSizesPerReply. They may be empty or invalid.
@@ -41,7 +38,6 @@ private:
 
     std::shared_ptr<RendererProcess> m_process;
     std::unique_ptr<QFile> m_file;
-    QString m_password;
     quint32 m_document;
     /// The process in which the PDF is open; 0 while it is open in none.
     int m_generation = 0;

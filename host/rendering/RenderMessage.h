@@ -8,7 +8,7 @@ inline namespace rendering {
 
 /// What the renderer is asked to do.
 enum class RenderCommand : quint32 {
-    Open,      ///< opens the PDF of the descriptor; the password follows the request, in UTF-8
+    Open,      ///< opens the PDF of the descriptor
     ReadSizes, ///< reads the sizes of pages
     Draw,      ///< draws a page into the memory of the descriptor
     Close,     ///< closes the PDF
@@ -33,7 +33,7 @@ struct RenderRequest {
 enum class RenderStatus : quint32 {
     Done,
     Damaged,               ///< the PDF cannot be read, or the page cannot be drawn
-    PasswordNeeded,        ///< the PDF is encrypted, and the password is missing or wrong
+    PasswordNeeded,        ///< the PDF is encrypted with a password
     UnsupportedEncryption, ///< the PDF is encrypted in a way that cannot be read
 };
 

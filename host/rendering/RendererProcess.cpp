@@ -138,7 +138,7 @@ void RendererProcess::start()
 }
 
 Result<RendererProcess::Answer, RenderFault> RendererProcess::ask(const RenderRequest &request,
-                                                                  const QByteArray &bytes, int descriptor)
+                                                                  int descriptor)
 {
     if (m_isCanceled) {
         kill();
@@ -148,7 +148,7 @@ Result<RendererProcess::Answer, RenderFault> RendererProcess::ask(const RenderRe
     if (!isRunning())
         return RenderFault::Missing;
     limitProcessorTime();
-    if (!m_channel->send(messageBytes(request) + bytes, descriptor))
+    if (!m_channel->send(messageBytes(request), descriptor))
         return reap();
     if (const std::optional<RenderFault> fault = waitForAnswer()) {
         kill();

@@ -27,7 +27,7 @@ enum class RenderFault {
     TooLarge,              ///< there is too little memory
     Canceled,              ///< the results are no longer needed
     Damaged,               ///< the PDF, or the page, is invalid
-    PasswordNeeded,        ///< the PDF is encrypted, and the password is missing or wrong
+    PasswordNeeded,        ///< the PDF is encrypted with a password
     UnsupportedEncryption, ///< the PDF is encrypted in a way that cannot be read
 };
 
@@ -54,10 +54,9 @@ public:
         RenderReply reply;
         QByteArray bytes;
     };
-    /// Sends a request with the bytes that follow it and the descriptor, unless it is -1, and waits for the
-    /// answer. After a fault, the process has ended, and everything that was open in it is closed.
-    Result<Answer, RenderFault> ask(const RenderRequest &request, const QByteArray &bytes = {},
-                                    int descriptor = -1);
+    /// Sends a request with the descriptor, unless it is -1, and waits for the answer. After a fault, the
+    /// process has ended, and everything that was open in it is closed.
+    Result<Answer, RenderFault> ask(const RenderRequest &request, int descriptor = -1);
     /// Starts the process unless it runs.
     void start();
     /// The number of processes that have been started: what was opened in an earlier one is closed.

@@ -68,8 +68,7 @@ QByteArray RenderService::answer(host::ChannelMessage message)
         return host::messageBytes(RenderReply{RenderStatus::Damaged, 0});
     std::memcpy(&request, message.bytes.constData(), sizeof(request));
     if (request.command == host::RenderCommand::Open) {
-        const RenderStatus status =
-            open(request, message.bytes.sliced(sizeof(request)), message.descriptor.release());
+        const RenderStatus status = open(request, message.descriptor.release());
         const bool isOpen = status == RenderStatus::Done;
         return host::messageBytes(
             RenderReply{status, isOpen ? m_pdfs[request.document]->pdf.pageCount() : 0});
@@ -89,13 +88,12 @@ QByteArray RenderService::answer(host::ChannelMessage message)
     }
 }
 
-RenderStatus RenderService::open(const RenderRequest &request, const QByteArray &password, int descriptor)
+RenderStatus RenderService::open(const RenderRequest &request, int descriptor)
 {
     auto opened = std::make_unique<OpenPdf>();
     if (!opened->file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return RenderStatus::Damaged;
     opened->file.seek(0);
-    opened->pdf.setPassword(QString::fromUtf8(password));
     opened->pdf.load(&opened->file);
     const RenderStatus status = statusOf(opened->pdf.error());
     if (status == RenderStatus::Done)

@@ -32,7 +32,7 @@ private:
     };
 
     QByteArray answer(host::ChannelMessage message);
-    host::RenderStatus open(const host::RenderRequest &request, const QByteArray &password, int descriptor);
+    host::RenderStatus open(const host::RenderRequest &request, int descriptor);
     QByteArray sizes(const QPdfDocument &pdf, const host::RenderRequest &request) const;
     host::RenderStatus draw(QPdfDocument &pdf, const host::RenderRequest &request,
                             host::OwnedDescriptor memory) const;

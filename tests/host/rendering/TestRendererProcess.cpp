@@ -129,23 +129,6 @@ TEST_F(RendererTest, ReportsPdfsThatCannotBeRead)
     EXPECT_EQ(process->generation(), 1);
 }
 
-TEST_F(RendererTest, OpensAnEncryptedPdfWithItsPasswordOnly)
-{
-    const QByteArray content = pdfWithPageBoxes({"[0 0 10 10]", "[0 0 20 20]"}, "sésame");
-    RemotePdf pdf(std::make_shared<RendererProcess>(),
-                  fileAt(sandbox.write(QStringLiteral("encrypted.pdf"), content)));
-    for (const char *const wrong : {"", "sesame"}) {
-        pdf.setPassword(QString::fromUtf8(wrong));
-        const auto opened = pdf.open();
-        ASSERT_FALSE(opened);
-        EXPECT_EQ(opened.error(), RenderFault::PasswordNeeded);
-    }
-    pdf.setPassword(QStringLiteral("sésame"));
-    const auto opened = pdf.open();
-    ASSERT_TRUE(opened);
-    EXPECT_EQ(opened.value(), 2);
-}
-
 TEST_F(RendererTest, RejectsPagesAndSizesThatDoNotExist)
 {
     const auto process = std::make_shared<RendererProcess>();
